@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "platform/ProcessIdentity.h"
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+/// Run state of a process, with the kernel's classic numbers.
+enum class RunState : std::uint8_t { kIdle = 1, kRunning = 2, kSleeping = 3, kStopped = 4, kZombie = 5 };
+
+/// One process as the kernel's process table has it.
+struct ProcessTableEntry {
+  std::int32_t pid = kInvalidPID;
+  /// The parent, or kInvalidPID when it is not known (it may be hidden from us). A parent that is
+  /// named is in the same table, and following parents always ends.
+  std::int32_t parentPid = kInvalidPID;
+  /// The start in ticks since boot; see ProcessIdentity.
+  std::uint64_t startStamp = 0;
+  /// The start as calendar time.
+  TimeValue startTime;
+  std::int32_t priority = 0;
+  std::int32_t nice = 0;
+  RunState state = RunState::kSleeping;
+  /// Up to 16 characters and a NUL; any bytes but NUL.
+  char commandName[17] = {};
+};
+
+/// The kernel's list of processes. Main thread only.
+class ProcessTable {
+ public:
+  virtual ~ProcessTable() = default;
+
+  /// One pass over all processes that can be seen, in a stable order; the last entry is the idle
+  /// task with pid 0. What vanishes during the pass is left out. The entries belong to the table
+  /// and stay as they are until the next call. Empty when the table cannot be read at all.
+  virtual std::span<const ProcessTableEntry> Read() = 0;
+
+  /// The highest pid that the machine can hand out.
+  virtual std::int32_t MaximumPid() const = 0;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace lurkwell {
+
+/// A timer of a run loop. Owned by whoever added it; destroying it ends it, also from within its
+/// own callback.
+class RunLoopTimer {
+ public:
+  virtual ~RunLoopTimer() = default;
+
+  /// The next time to fire, in seconds of Clock::AbsoluteTime. A date that has passed makes the
+  /// timer fire as soon as the loop comes round. Called from within the callback, it replaces the
+  /// date that the interval would give.
+  virtual void SetNextFireDate(double absoluteSeconds) = 0;
+};
+
+/// The main thread's loop. Every call on the main thread; callbacks run there too, one at a time.
+/// A callback that takes longer than its interval delays others and is not made up for.
+class RunLoop {
+ public:
+  virtual ~RunLoop() = default;
+
+  /// Adds a timer that fires at `firstFireDate` (seconds, as above) and then every `interval`
+  /// seconds; an interval of 0 fires once per date that is set.
+  virtual std::unique_ptr<RunLoopTimer> AddTimer(double firstFireDate, double interval,
+                                                 std::function<void()> callback) = 0;
+
+  /// Serves timers until Stop is called.
+  virtual void Run() = 0;
+
+  /// Ends Run after the callback that is being served. Main thread only.
+  virtual void Stop() = 0;
+};
+
+}  // namespace lurkwell
