@@ -1,7 +1,5 @@
 #pragma once
 
-#include <source_location>
-
 namespace lurkwell {
 
 /// Ends the program over a broken invariant of its own: prints
@@ -13,9 +11,9 @@ namespace lurkwell {
 /// Does nothing when `holds`, else calls FailAssertion with the caller's line.
 /// `unit` is the name the message gives as the source, `condition` the text it quotes.
 inline void Require(bool holds, const char* unit, const char* condition,
-                    std::source_location where = std::source_location::current()) {
+                    unsigned line = __builtin_LINE()) {
   if (!holds) [[unlikely]]
-    FailAssertion(unit, where.line(), condition);
+    FailAssertion(unit, line, condition);
 }
 
 }  // namespace lurkwell

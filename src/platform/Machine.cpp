@@ -18,6 +18,8 @@ MachineInstallation::MachineInstallation(Machine& machine) : mPrevious(gMachine)
   gMachine = &machine;
 }
 
-MachineInstallation::~MachineInstallation() { gMachine = mPrevious; }
+MachineInstallation::~MachineInstallation() {
+  gMachine = mPrevious;
+}
 
 }  // namespace lurkwell

@@ -33,7 +33,7 @@ class NamedPipes {
   virtual std::ptrdiff_t Write(int descriptor, std::string_view text, Milliseconds limit) = 0;
 
   /// One read of at most the buffer's size; the bytes read, 0 when the other end has closed, -1 on
-  /// failure or when nothing came within `limit`.
+  /// failure or when nothing came within `limit`. errno then says which (ETIMEDOUT).
   virtual std::ptrdiff_t Read(int descriptor, std::span<char> buffer, Milliseconds limit) = 0;
 
   /// 0, or -1 when the descriptor was not open.

@@ -37,6 +37,21 @@ class ProcessManager {
 
   /// The serial number of the application that a kernel pid runs; nothing when it is none.
   virtual std::optional<ProcessSerialNumber> GetProcessForPID(std::int32_t pid) = 0;
+
+  // The actions are asked for, not waited for: true means that the application, or the desktop on
+  // its behalf, has been asked; false that it is gone or that this desktop cannot do it.
+
+  /// Asks the application to quit, as its own menu would.
+  virtual bool Quit(ProcessSerialNumber psn) = 0;
+
+  /// Shows or hides all its windows.
+  virtual bool ShowHideProcess(ProcessSerialNumber psn, bool show) = 0;
+
+  /// Brings its windows to the front.
+  virtual bool SetFrontProcess(ProcessSerialNumber psn) = 0;
+
+  /// Shows the application's file, selected, in the file manager.
+  virtual bool Reveal(ProcessSerialNumber psn) = 0;
 };
 
 }  // namespace lurkwell

@@ -9,7 +9,13 @@
 namespace lurkwell {
 
 /// Run state of a process, with the kernel's classic numbers.
-enum class RunState : std::uint8_t { kIdle = 1, kRunning = 2, kSleeping = 3, kStopped = 4, kZombie = 5 };
+enum class RunState : std::uint8_t {
+  kIdle = 1,
+  kRunning = 2,
+  kSleeping = 3,
+  kStopped = 4,
+  kZombie = 5
+};
 
 /// One process as the kernel's process table has it.
 struct ProcessTableEntry {

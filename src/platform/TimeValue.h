@@ -37,8 +37,8 @@ constexpr std::int64_t MillisecondsBetween(TimeValue from, TimeValue to) {
 }
 
 constexpr TimeValue AddMilliseconds(TimeValue time, std::int64_t milliseconds) {
-  return time + TimeValue{milliseconds / 1000,
-                          static_cast<std::int32_t>(milliseconds % 1000) * 1000};
+  return time +
+         TimeValue{milliseconds / 1000, static_cast<std::int32_t>(milliseconds % 1000) * 1000};
 }
 
 }  // namespace lurkwell

@@ -12,8 +12,7 @@ TimeValue Read(clockid_t clock) {
 }
 
 TimeValue Difference(TimeValue later, TimeValue earlier) {
-  TimeValue difference{later.seconds - earlier.seconds,
-                       later.microseconds - earlier.microseconds};
+  TimeValue difference{later.seconds - earlier.seconds, later.microseconds - earlier.microseconds};
   if (difference.microseconds < 0) {
     difference.microseconds += 1'000'000;
     --difference.seconds;
@@ -25,8 +24,12 @@ TimeValue Difference(TimeValue later, TimeValue earlier) {
 
 LinuxClock::LinuxClock() : mStart(Read(CLOCK_REALTIME)), mBootTimeAtStart(Read(CLOCK_BOOTTIME)) {}
 
-TimeValue LinuxClock::Now() { return mStart + Difference(Read(CLOCK_BOOTTIME), mBootTimeAtStart); }
+TimeValue LinuxClock::Now() {
+  return mStart + Difference(Read(CLOCK_BOOTTIME), mBootTimeAtStart);
+}
 
-TimeValue LinuxClock::CalendarNow() { return Read(CLOCK_REALTIME); }
+TimeValue LinuxClock::CalendarNow() {
+  return Read(CLOCK_REALTIME);
+}
 
 }  // namespace lurkwell

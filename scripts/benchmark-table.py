@@ -1,0 +1,33 @@
+#!/usr/bin/env python3
+"""Turns Google Benchmark's JSON on standard input into one Markdown table."""
+import json
+import sys
+
+SECONDS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
+
+
+def spelled(seconds):
+    for factor, unit in ((1, "s"), (1e3, "ms"), (1e6, "µs"), (1e9, "ns")):
+        if seconds * factor >= 1 or unit == "ns":
+            return f"{seconds * factor:.3g} {unit}"
+
+
+def main():
+    report = json.load(sys.stdin)
+    context = report["context"]
+    print(f"{context['num_cpus']} processors of {context['mhz_per_cpu']} MHz,"
+          f" load {context['load_avg'][0]:.2f}\n")
+    print("| benchmark | time | CPU | per process |")
+    print("| --- | ---: | ---: | ---: |")
+    for row in report["benchmarks"]:
+        name = row["name"].removeprefix("BM_")
+        if row.get("error_occurred"):
+            print(f"| {name} | {row['error_message']} | | |")
+            continue
+        unit = SECONDS[row["time_unit"]]
+        item = spelled(row["per_process"]) if "per_process" in row else ""
+        print(f"| {name} | {spelled(row['real_time'] * unit)} |"
+              f" {spelled(row['cpu_time'] * unit)} | {item} |")
+
+
+main()

@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+"""Checks that every file includes only its own floor and lower ones.
+
+check-includes.py ROOT      exit status 1, a line per violation, when a file of ROOT/src does not
+"""
+import pathlib
+import re
+import sys
+
+# From the ground up; folders of one floor may include one another.
+FLOORS = [
+    {"platform"},
+    {"preferences"},
+    {"process_control", "consolidator"},
+    {"main_window", "monitor_windows", "animated_view"},
+    {"app"},
+]
+# Know the interfaces of platform and nobody else; only main.cpp and the tests name them.
+MACHINES = {"platform/linux", "platform/desktop", "platform/simulated"}
+# Programs of their own.
+PROGRAMS = {"helper", "classic_nub"}
+INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
+# The engine links without the toolkit.
+TOOLKIT = re.compile(r'^\s*#\s*include\s*<(Q[A-Za-z]+|Qt[A-Za-z]*/.*)>')
+WITHOUT_TOOLKIT = {"platform", "platform/linux", "platform/simulated", "preferences", "consolidator",
+                   "process_control", "helper"}
+
+
+def folder_of(path):
+    parts = pathlib.PurePosixPath(path).parts[:-1]
+    machine = "/".join(parts[:2])
+    if machine in MACHINES:
+        return machine
+    return parts[0] if parts else ""
+
+
+def floor_of(folder):
+    for number, folders in enumerate(FLOORS):
+        if folder in folders:
+            return number
+    return None
+
+
+def may_include(file, folder, included):
+    if folder == included:
+        return True
+    if folder in PROGRAMS or included in PROGRAMS:
+        return False
+    if included in MACHINES:
+        return file == "app/main.cpp"
+    if folder in MACHINES:
+        return included == "platform"
+    mine, theirs = floor_of(folder), floor_of(included)
+    return mine is not None and theirs is not None and theirs <= mine
+
+
+def violations(source):
+    for path in sorted(source.rglob("*")):
+        if path.suffix not in {".cpp", ".h"}:
+            continue
+        file = path.relative_to(source).as_posix()
+        folder = folder_of(file)
+        for number, line in enumerate(path.read_text(errors="replace").splitlines(), 1):
+            if TOOLKIT.match(line) and folder in WITHOUT_TOOLKIT:
+                yield f"{file}:{number}: {folder} must link without the toolkit"
+            match = INCLUDE.match(line)
+            if match is None:
+                continue
+            included = match.group(1)
+            if not (source / included).is_file():
+                yield f"{file}:{number}: {included} is not a path from src"
+            elif not may_include(file, folder, folder_of(included)):
+                yield f"{file}:{number}: {folder} must not include {included}"
+
+
+def main():
+    found = list(violations(pathlib.Path(sys.argv[1]) / "src"))
+    print("\n".join(found) if found else "includes point downwards")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

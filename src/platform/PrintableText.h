@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lurkwell {
+
+/// A text from outside (a process name, a ps column) as it may be shown: on one line, with control
+/// characters, marks that turn the direction of writing, and bytes that are no UTF-8 written as
+/// backslash escapes. Any thread.
+std::string PrintableText(std::string_view text);
+
+/// A ps column's value without the newline that it ends in.
+inline std::string_view WithoutNewline(std::string_view text) {
+  if (text.ends_with('\n')) text.remove_suffix(1);
+  return text;
+}
+
+}  // namespace lurkwell

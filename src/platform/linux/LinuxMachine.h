@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Machine.h"
+#include "platform/linux/LinuxBundle.h"
+#include "platform/linux/LinuxClock.h"
+#include "platform/linux/LinuxHostStatistics.h"
+#include "platform/linux/LinuxNamedPipes.h"
+#include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/LinuxSignals.h"
+#include "platform/linux/LinuxTools.h"
+#include "platform/linux/NoProcessManager.h"
+#include "platform/linux/PolkitAuthorization.h"
+#include "platform/linux/PollRunLoop.h"
+#include "platform/linux/PropertyListDomain.h"
+#include "platform/linux/TerminalAlerts.h"
+
+namespace lurkwell {
+
+/// This machine as a program in a terminal sees it: no desktop, no applications, alerts on standard
+/// error. Main thread.
+class LinuxMachine {
+ public:
+  LinuxClock clock;
+  PollRunLoop runLoop{clock, PollRunLoop::EndingSignals::kStop};
+  PropertyListDomain preferenceDomain;
+  LinuxProcessTable processTable;
+  NoProcessManager processManager;
+  LinuxHostStatistics hostStatistics;
+  LinuxTools tools;
+  LinuxSignals signals;
+  LinuxNamedPipes namedPipes;
+  LinuxBundle bundle;
+  PolkitAuthorization authorization{bundle};
+  TerminalAlerts alerts;
+
+  Machine services{clock, runLoop, preferenceDomain, processTable,  processManager, hostStatistics,
+                   tools, signals, namedPipes,       authorization, bundle,         alerts};
+};
+
+}  // namespace lurkwell

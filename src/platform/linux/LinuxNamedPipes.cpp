@@ -1,0 +1,164 @@
+#include "platform/linux/LinuxNamedPipes.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <thread>
+
+namespace lurkwell {
+namespace {
+
+using std::chrono::steady_clock;
+
+// The helper takes paths of up to 1,023 bytes; this leaves room for a folder and a pipe below it.
+constexpr std::size_t kLongestParent = 960;
+constexpr int kLowestCapacity = 8192;
+
+/// Whether a folder of ours in there can be exchanged by root and ourselves alone.
+bool IsSafeParent(const std::string& path) {
+  struct stat info {};
+  if (path.empty() || path[0] != '/' || path.size() > kLongestParent) return false;
+  if (::stat(path.c_str(), &info) != 0 || !S_ISDIR(info.st_mode)) return false;
+  if (info.st_uid != 0 && info.st_uid != ::geteuid()) return false;
+  return (info.st_mode & (S_IWGRP | S_IWOTH)) == 0 || (info.st_mode & S_ISVTX) != 0;
+}
+
+std::string MakePrivateFolder() {
+  for (const char* variable : {"XDG_RUNTIME_DIR", "TMPDIR", ""}) {
+    const char* value = *variable == '\0' ? "/tmp" : ::getenv(variable);
+    if (value == nullptr || !IsSafeParent(value)) continue;
+    std::string path = std::string(value) + "/lurkwell-XXXXXX";
+    // Made with mode 0700.
+    if (::mkdtemp(path.data()) != nullptr) return path;
+  }
+  return {};
+}
+
+std::string RandomSuffix() {
+  constexpr std::string_view kLetters =
+      "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ_-abcdefghijklmnopqrstuvwxyz";
+  unsigned char bytes[8] = {};
+  if (::getrandom(bytes, sizeof bytes, 0) != sizeof bytes) return {};
+  std::string suffix;
+  for (const unsigned char byte : bytes) suffix += kLetters[byte % kLetters.size()];
+  return suffix;
+}
+
+int MillisecondsUntil(steady_clock::time_point deadline) {
+  const auto left =
+      std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now()).count();
+  return left > 0 ? static_cast<int>(left) : 0;
+}
+
+/// Whether the descriptor had news before the deadline; with errno set when not.
+bool WaitFor(int descriptor, short events, steady_clock::time_point deadline) {
+  for (;;) {
+    pollfd wait{descriptor, events, 0};
+    const int ready = ::poll(&wait, 1, MillisecondsUntil(deadline));
+    if (ready > 0) return true;
+    if (ready == 0) errno = ETIMEDOUT;
+    if (ready == 0 || errno != EINTR) return false;
+  }
+}
+
+/// The descriptor of one end, if it is a pipe that holds a whole answer; -1 and errno if not.
+int OpenEnd(const std::string& path, int flags) {
+  const int pipe = ::open(path.c_str(), flags | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC);
+  if (pipe < 0) return -1;
+  struct stat info {};
+  if (::fstat(pipe, &info) == 0 && S_ISFIFO(info.st_mode) &&
+      ::fcntl(pipe, F_GETPIPE_SZ) >= kLowestCapacity) {
+    return pipe;
+  }
+  ::close(pipe);
+  errno = EINVAL;
+  return -1;
+}
+
+}  // namespace
+
+LinuxNamedPipes::LinuxNamedPipes() {
+  struct sigaction now {};
+  if (::sigaction(SIGPIPE, nullptr, &now) == 0 && now.sa_handler == SIG_DFL)
+    ::signal(SIGPIPE, SIG_IGN);
+}
+
+LinuxNamedPipes::~LinuxNamedPipes() {
+  if (!mFolder.empty()) ::rmdir(mFolder.c_str());
+}
+
+/// The folder may have been cleared away while the program ran.
+bool LinuxNamedPipes::HaveFolder() {
+  if (mFolder.empty() || ::access(mFolder.c_str(), W_OK | X_OK) != 0) mFolder = MakePrivateFolder();
+  return !mFolder.empty();
+}
+
+std::string LinuxNamedPipes::TemporaryName(std::string_view prefix) {
+  const std::string suffix = RandomSuffix();
+  if (suffix.empty() || !HaveFolder()) return {};
+  return mFolder + '/' + std::string(prefix) + suffix;
+}
+
+bool LinuxNamedPipes::MakeFifo(const std::string& path, unsigned mode) {
+  // The helper takes no pipe that others could open, so nobody gets more than the owner.
+  const mode_t before = ::umask(077);
+  const bool made = ::mkfifo(path.c_str(), mode & 07777) == 0;
+  ::umask(before);
+  return made;
+}
+
+int LinuxNamedPipes::OpenForWriting(const std::string& path, Milliseconds limit) {
+  const auto deadline = steady_clock::now() + limit;
+  for (;;) {
+    const int pipe = OpenEnd(path, O_WRONLY);
+    // ENXIO: nobody reads yet.
+    if (pipe >= 0 || (errno != ENXIO && errno != EINTR)) return pipe;
+    if (steady_clock::now() >= deadline) return -1;
+    std::this_thread::sleep_for(Milliseconds(1));
+  }
+}
+
+int LinuxNamedPipes::OpenForReading(const std::string& path, Milliseconds) {
+  // Needs no writer: one that comes later is waited for by Read.
+  return OpenEnd(path, O_RDONLY);
+}
+
+std::ptrdiff_t LinuxNamedPipes::Write(int descriptor, std::string_view text, Milliseconds limit) {
+  const auto deadline = steady_clock::now() + limit;
+  for (;;) {
+    const ssize_t size = ::write(descriptor, text.data(), text.size());
+    if (size >= 0) return size;
+    if (errno == EINTR) continue;
+    if (errno != EAGAIN || !WaitFor(descriptor, POLLOUT, deadline)) return -1;
+    if (steady_clock::now() >= deadline) return -1;
+  }
+}
+
+std::ptrdiff_t LinuxNamedPipes::Read(int descriptor, std::span<char> buffer, Milliseconds limit) {
+  const auto deadline = steady_clock::now() + limit;
+  for (;;) {
+    if (!WaitFor(descriptor, POLLIN, deadline)) return -1;
+    const ssize_t size = ::read(descriptor, buffer.data(), buffer.size());
+    if (size >= 0) return size;
+    if (errno != EINTR && errno != EAGAIN) return -1;
+    if (steady_clock::now() >= deadline) return -1;
+  }
+}
+
+int LinuxNamedPipes::Close(int descriptor) {
+  return descriptor < 0 ? -1 : ::close(descriptor);
+}
+
+void LinuxNamedPipes::Unlink(const std::string& path) {
+  ::unlink(path.c_str());
+  // Fails while there is another name in it.
+  if (!mFolder.empty() && ::rmdir(mFolder.c_str()) == 0) mFolder.clear();
+}
+
+}  // namespace lurkwell

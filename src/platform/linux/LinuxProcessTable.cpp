@@ -1,0 +1,257 @@
+#include "platform/linux/LinuxProcessTable.h"
+
+#include <time.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+#include "platform/linux/DescriptorLimit.h"
+#include "platform/linux/ParentClosure.h"
+#include "platform/linux/ProcStat.h"
+
+namespace lurkwell {
+namespace {
+
+// The kernel's own bound, for a tree that does not tell its own.
+constexpr std::int32_t kHighestPidAtAll = 4'194'304;
+// An open stat file costs about 5 KiB of kernel memory.
+constexpr std::size_t kMostKeptAtAll = 16'384;
+constexpr std::size_t kGivenBackAtOnce = 32;
+// A name is looked up in two passes, as the first may fall into the middle of an exec.
+constexpr std::uint8_t kNamings = 2;
+constexpr std::int64_t kFarFuture = 1'000'000'000'000;
+constexpr std::string_view kIdleTaskName = "swapper";
+
+RunState StateOf(char state) {
+  switch (state) {
+    case 'R':
+      return RunState::kRunning;
+    case 'T':
+      return RunState::kStopped;
+    case 'Z':
+    case 'X':
+      return RunState::kZombie;
+    case 'I':
+      return RunState::kIdle;
+    // A traced process ('t') waits for its debugger: it was not halted, and nobody else can
+    // continue it.
+    default:
+      return RunState::kSleeping;
+  }
+}
+
+void SetName(ProcessTableEntry& entry, std::string_view name) {
+  name = name.substr(0, std::min(name.find('\0'), kCommandNameLength));
+  std::memcpy(entry.commandName, name.data(), name.size());
+}
+
+ProcessTableEntry IdleTask(TimeValue bootTime) {
+  ProcessTableEntry entry;
+  entry.pid = 0;
+  entry.parentPid = 0;
+  entry.startTime = bootTime;
+  entry.state = RunState::kRunning;
+  SetName(entry, kIdleTaskName);
+  return entry;
+}
+
+bool IsShortage(int error) {
+  return error == EMFILE || error == ENFILE || error == ENOMEM;
+}
+
+}  // namespace
+
+LinuxProcessTable::LinuxProcessTable(const std::string& root)
+    : LinuxProcessTable(std::make_unique<ProcFiles>(root)) {}
+
+LinuxProcessTable::LinuxProcessTable(std::unique_ptr<ProcFiles> files)
+    : mFiles(std::move(files)),
+      mTicksPerSecond(static_cast<std::uint64_t>(std::max(1L, ::sysconf(_SC_CLK_TCK)))) {
+  SetBootTime();
+  SetMaximumPid();
+}
+
+std::span<const ProcessTableEntry> LinuxProcessTable::Read() {
+  std::swap(mPass, mPassBefore);
+  mPass.entries.clear();
+  mPass.known.clear();
+  if (!mFiles->List(mPids)) {
+    for (auto& known : mPassBefore.known) Forget(known);
+    mPassBefore = {};
+    return {};
+  }
+  SetMaximumPid();
+  mMostKept = mFiles->FollowsProcesses() ? std::min(DescriptorLimit() / 2, kMostKeptAtAll) : 0;
+  if (!std::is_sorted(mPids.begin(), mPids.end())) std::sort(mPids.begin(), mPids.end());
+  mPids.erase(std::unique(mPids.begin(), mPids.end()), mPids.end());
+
+  mPass.entries.reserve(mPids.size() + 1);
+  mPass.known.reserve(mPids.size());
+  std::size_t before = 0;
+  const std::size_t countBefore = mPassBefore.known.size();
+  for (const std::int32_t pid : mPids) {
+    for (; before < countBefore && mPassBefore.entries[before].pid < pid; ++before) {
+      Forget(mPassBefore.known[before]);
+    }
+    const bool known = before < countBefore && mPassBefore.entries[before].pid == pid;
+    ReadProcess(pid, known ? &mPassBefore.known[before] : nullptr,
+                known ? &mPassBefore.entries[before] : nullptr);
+  }
+  for (; before < countBefore; ++before) Forget(mPassBefore.known[before]);
+  if (!mPids.empty()) mMaximumPid = std::max(mMaximumPid, mPids.back());
+  mPass.entries.push_back(IdleTask(mBootTime));
+  CloseParents(mPass.entries);
+  return mPass.entries;
+}
+
+std::optional<ProcessIdentity> LinuxProcessTable::CurrentIdentity(std::int32_t pid) {
+  const std::uint64_t stamp = CurrentStartStamp(*mFiles, pid);
+  if (stamp == 0) return std::nullopt;
+  return ProcessIdentity{pid, stamp};
+}
+
+void LinuxProcessTable::ReadProcess(std::int32_t pid, Known* before,
+                                    const ProcessTableEntry* entryBefore) {
+  Known known;
+  if (before != nullptr) known = std::move(*before);
+  const std::ptrdiff_t bytes = ReadStat(pid, known);
+  if (bytes < 0 && entryBefore != nullptr && IsShortage(errno)) {
+    mPass.entries.push_back(*entryBefore);
+    mPass.known.push_back(std::move(known));
+    return;
+  }
+  const auto stat =
+      bytes <= 0 ? std::nullopt : ParseProcStat({mBuffer.data(), static_cast<std::size_t>(bytes)});
+  if (!stat || stat->pid != pid) {
+    Forget(known);
+    return;
+  }
+  mPass.entries.push_back(MakeEntry(*stat, known, entryBefore));
+  mPass.known.push_back(std::move(known));
+}
+
+/// Reads the kept file, else a newly opened one, which is then kept if there is room. Negative with
+/// errno on failure.
+std::ptrdiff_t LinuxProcessTable::ReadStat(std::int32_t pid, Known& known) {
+  if (known.stat.IsOpen()) {
+    const auto bytes = mFiles->Read(known.stat.Get(), mBuffer);
+    if (bytes > 0) return bytes;
+    // That process has ended; its pid is listed all the same, so another may have it.
+    Forget(known);
+  }
+  FileDescriptor file = OpenStat(pid);
+  if (!file.IsOpen()) return -1;
+  const auto bytes = mFiles->Read(file.Get(), mBuffer);
+  if (bytes > 0 && mKept < mMostKept) Keep(std::move(file), known);
+  return bytes;
+}
+
+FileDescriptor LinuxProcessTable::OpenStat(std::int32_t pid) {
+  FileDescriptor file = mFiles->OpenStat(pid);
+  while (!file.IsOpen() && IsShortage(errno) && GiveBackDescriptors()) {
+    file = mFiles->OpenStat(pid);
+  }
+  return file;
+}
+
+/// Closes some kept files and keeps no more in this pass. False when none is left.
+bool LinuxProcessTable::GiveBackDescriptors() {
+  std::size_t left = kGivenBackAtOnce;
+  for (Pass* pass : {&mPass, &mPassBefore}) {
+    for (auto known = pass->known.rbegin(); known != pass->known.rend() && left > 0; ++known) {
+      if (!known->stat.IsOpen()) continue;
+      Forget(*known);
+      --left;
+    }
+  }
+  mMostKept = 0;
+  return left < kGivenBackAtOnce;
+}
+
+void LinuxProcessTable::Keep(FileDescriptor file, Known& known) {
+  known.stat = std::move(file);
+  ++mKept;
+}
+
+void LinuxProcessTable::Forget(Known& known) {
+  if (!known.stat.IsOpen()) return;
+  known.stat.Close();
+  --mKept;
+}
+
+ProcessTableEntry LinuxProcessTable::MakeEntry(const ProcStat& stat, Known& known,
+                                               const ProcessTableEntry* before) {
+  ProcessTableEntry entry;
+  entry.pid = stat.pid;
+  entry.parentPid = stat.parentPid;
+  entry.startStamp = stat.startStamp;
+  entry.startTime = CalendarTime(stat.startStamp);
+  entry.priority = stat.priority;
+  entry.nice = stat.nice;
+  entry.state = StateOf(stat.state);
+  Name(stat, known, before, entry);
+  return entry;
+}
+
+void LinuxProcessTable::Name(const ProcStat& stat, Known& known, const ProcessTableEntry* before,
+                             ProcessTableEntry& entry) {
+  SetName(entry, stat.name);
+  // Kernel threads have longer names, which need no completing.
+  if (stat.name.size() != kKernelNameLength) {
+    known.namings = 0;
+    return;
+  }
+  const bool isSame = before != nullptr && before->startStamp == stat.startStamp &&
+                      known.namings > 0 &&
+                      std::equal(stat.name.begin(), stat.name.end(), known.kernelName.begin());
+  if (!isSame) {
+    std::copy(stat.name.begin(), stat.name.end(), known.kernelName.begin());
+    known.following = '\0';
+    known.namings = 0;
+  }
+  if (known.following == '\0' && known.namings < kNamings) {
+    ++known.namings;
+    known.following = ReadFollowingCharacter(*mFiles, stat.pid, stat.startStamp,
+                                             {known.kernelName.data(), known.kernelName.size()});
+  }
+  entry.commandName[kKernelNameLength] = known.following;
+}
+
+TimeValue LinuxProcessTable::CalendarTime(std::uint64_t startStamp) const {
+  const auto ticks = startStamp % mTicksPerSecond;
+  return mBootTime + TimeValue{static_cast<std::int64_t>(startStamp / mTicksPerSecond),
+                               static_cast<std::int32_t>(ticks * 1'000'000 / mTicksPerSecond)};
+}
+
+void LinuxProcessTable::SetMaximumPid() {
+  std::string text = mFiles->ReadText("sys/kernel/pid_max");
+  while (!text.empty() && text.back() == '\n') text.pop_back();
+  mMaximumPid = ParsePid(text).value_or(kHighestPidAtAll);
+}
+
+/// Once for good: the kernel's figure moves with every step of the calendar.
+void LinuxProcessTable::SetBootTime() {
+  constexpr std::string_view kKey = "\nbtime ";
+  const std::string text = "\n" + mFiles->ReadText("stat");
+  const auto at = text.find(kKey);
+  std::int64_t seconds = 0;
+  if (at != std::string::npos &&
+      std::from_chars(text.data() + at + kKey.size(), text.data() + text.size(), seconds).ec ==
+          std::errc() &&
+      seconds >= 0 && seconds < kFarFuture) {
+    mBootTime.seconds = seconds;
+    return;
+  }
+  timespec calendar{};
+  timespec sinceBoot{};
+  ::clock_gettime(CLOCK_REALTIME, &calendar);
+  ::clock_gettime(CLOCK_BOOTTIME, &sinceBoot);
+  mBootTime.seconds = calendar.tv_sec - sinceBoot.tv_sec;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,186 @@
+#include "platform/linux/PolkitAuthorization.h"
+
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/statvfs.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <utility>
+
+#include "platform/linux/ProcessHandle.h"
+#include "platform/linux/ToolProcess.h"
+
+namespace lurkwell {
+namespace {
+
+using std::chrono::steady_clock;
+
+constexpr auto kLongestStep = std::chrono::minutes(5);
+constexpr auto kLongestWaitForChild = std::chrono::seconds(2);
+constexpr char kHelper[] = "/Contents/Resources/Lurkwell_helper";
+// What pkexec itself ends with.
+constexpr int kDismissed = 126;
+constexpr int kNotAuthorized = 127;
+
+bool IsRoot() {
+  return ::geteuid() == 0;
+}
+
+bool IgnoresSetUserId(const std::string& folder) {
+  struct statvfs system {};
+  return ::statvfs(folder.c_str(), &system) == 0 && (system.f_flag & ST_NOSUID) != 0;
+}
+
+/// Whether the child ended before the deadline.
+bool WaitForEnd(const FileDescriptor& handle, steady_clock::time_point deadline) {
+  for (;;) {
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now()).count();
+    pollfd wait{handle.Get(), POLLIN, 0};
+    const int ready = ::poll(&wait, 1, left > 0 ? static_cast<int>(left) : 0);
+    if (ready >= 0 || errno != EINTR) return ready > 0;
+  }
+}
+
+/// A working folder, fresh signals, and no descriptors but the standard three.
+class SpawnSettings {
+ public:
+  explicit SpawnSettings(const std::string& folder) {
+    ::posix_spawn_file_actions_init(&actions);
+    ::posix_spawn_file_actions_addchdir_np(&actions, folder.c_str());
+    ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    ::posix_spawnattr_init(&attributes);
+    sigset_t signals;
+    ::sigemptyset(&signals);
+    ::posix_spawnattr_setsigmask(&attributes, &signals);
+    ::sigfillset(&signals);
+    ::posix_spawnattr_setsigdefault(&attributes, &signals);
+    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+  }
+  ~SpawnSettings() {
+    ::posix_spawnattr_destroy(&attributes);
+    ::posix_spawn_file_actions_destroy(&actions);
+  }
+  SpawnSettings(const SpawnSettings&) = delete;
+  SpawnSettings& operator=(const SpawnSettings&) = delete;
+
+  posix_spawn_file_actions_t actions;
+  posix_spawnattr_t attributes;
+};
+
+class Reference final : public AuthorizationReference {};
+
+}  // namespace
+
+PolkitAuthorization::PolkitAuthorization(const Bundle& bundle, Consent consent, std::string pkexec)
+    : mBundle(bundle), mConsent(consent), mPkexec(std::move(pkexec)) {}
+
+PolkitAuthorization::~PolkitAuthorization() {
+  ReapEnded();
+}
+
+std::unique_ptr<AuthorizationReference> PolkitAuthorization::Create() {
+  return std::make_unique<Reference>();
+}
+
+bool PolkitAuthorization::Fail(std::string reason) {
+  mReason = std::move(reason);
+  return false;
+}
+
+bool PolkitAuthorization::ExecuteWithPrivileges(AuthorizationReference&, const std::string& path,
+                                                const std::vector<std::string>& arguments) {
+  ReapEnded();
+  const std::string folder = path.substr(0, path.rfind('/'));
+  const bool isStep = arguments.size() == 1;
+  if (!MayStart(folder, isStep)) return false;
+  std::vector<std::string> all;
+  // Without the question in the terminal: who started the program there may not even look at it.
+  if (!IsRoot()) all = {mPkexec, "--disable-internal-agent", "--keep-cwd"};
+  all.push_back(mBundle.Path() + kHelper);
+  all.insert(all.end(), arguments.begin(), arguments.end());
+  return Start(folder, all) && (!isStep || FinishStep());
+}
+
+/// Nobody is asked for a password that would be of no use.
+bool PolkitAuthorization::MayStart(const std::string& folder, bool isStep) {
+  if (isStep && IgnoresSetUserId(folder))
+    return Fail("the file system of " + folder + " gives programs no rights (nosuid)");
+  if (IsRoot()) return true;
+  if (mConsent == Consent::kOnlyIfGiven) return Fail("it does not ask for a password here");
+  if (::access(mPkexec.c_str(), X_OK) != 0) return Fail("there is no " + mPkexec);
+  return true;
+}
+
+bool PolkitAuthorization::Start(const std::string& folder,
+                                const std::vector<std::string>& arguments) {
+  const SpawnSettings settings(folder);
+  const auto vector = ArgumentVector(arguments);
+  Child child{-1, {}};
+  const int error = ::posix_spawn(&child.pid, vector.front(), &settings.actions,
+                                  &settings.attributes, vector.data(), FixedEnvironment());
+  if (error != 0)
+    return Fail("cannot start " + arguments.front() + ": " + std::string(std::strerror(error)));
+  child.handle = OpenProcessHandle(child.pid);
+  mChildren.push_back(std::move(child));
+  return true;
+}
+
+bool PolkitAuthorization::FinishStep() {
+  const Child& child = mChildren.back();
+  if (!WaitForEnd(child.handle, steady_clock::now() + kLongestStep)) {
+    // A step that root runs cannot be ended from here; it goes on by itself.
+    SendThroughHandle(child.handle, SIGKILL);
+    return Fail("the permission step took too long");
+  }
+  int status = -1;
+  ::waitpid(child.pid, &status, 0);
+  mEnded.push_back(child.pid);
+  mChildren.pop_back();
+  if (!WIFEXITED(status)) return Fail("the permission step was killed");
+  const int exitStatus = WEXITSTATUS(status);
+  if (exitStatus == 0) return true;
+  if (!IsRoot() && exitStatus == kDismissed) return Fail("the question was dismissed");
+  if (!IsRoot() && exitStatus == kNotAuthorized)
+    return Fail("the authorisation was refused, or there is no agent to ask for it");
+  return Fail("the permission step ended with status " + std::to_string(exitStatus));
+}
+
+bool PolkitAuthorization::IsAsking() {
+  ReapEnded();
+  if (mChildren.empty()) return false;
+  // Once it is answered, the program takes the place and the name of the one that asks.
+  std::string name;
+  std::getline(std::ifstream("/proc/" + std::to_string(mChildren.back().pid) + "/comm"), name);
+  // Not even root's names are shown everywhere.
+  return name.empty() || mPkexec.substr(mPkexec.rfind('/') + 1).starts_with(name);
+}
+
+int PolkitAuthorization::WaitForChild() {
+  if (mEnded.empty() && !mChildren.empty()) {
+    WaitForEnd(mChildren.front().handle, steady_clock::now() + kLongestWaitForChild);
+    ReapEnded();
+  }
+  if (mEnded.empty()) return -1;
+  const pid_t pid = mEnded.back();
+  mEnded.pop_back();
+  return pid;
+}
+
+void PolkitAuthorization::ReapEnded() {
+  std::erase_if(mChildren, [this](const Child& child) {
+    if (::waitpid(child.pid, nullptr, WNOHANG) == 0) return false;
+    mEnded.push_back(child.pid);
+    return true;
+  });
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,116 @@
+#include "platform/linux/ProcFiles.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/syscall.h>
+#include <sys/vfs.h>
+
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <string_view>
+
+#include "platform/linux/ProcStat.h"
+
+namespace lurkwell {
+namespace {
+
+// Holds about 10,000 entries of /proc, so that a listing is a call or two.
+constexpr std::size_t kListingSize = 262'144;
+constexpr std::size_t kLongestText = 4'194'304;
+
+// The kernel's linux_dirent64, whose fields lie before the name without gaps.
+constexpr std::size_t kLengthOffset = 16;
+constexpr std::size_t kNameOffset = 19;
+
+/// "PID" and an ending as a C string.
+class PidPath {
+ public:
+  PidPath(std::int32_t pid, std::string_view ending) {
+    const auto last = std::to_chars(mText.data(), mText.data() + mText.size(), pid).ptr;
+    std::memcpy(last, ending.data(), ending.size());
+    last[ending.size()] = '\0';
+  }
+  const char* Get() const { return mText.data(); }
+
+ private:
+  std::array<char, 32> mText;
+};
+
+void AppendPids(std::span<const char> listing, std::vector<std::int32_t>& pids) {
+  while (listing.size() > kNameOffset) {
+    std::uint16_t length = 0;
+    std::memcpy(&length, listing.data() + kLengthOffset, sizeof length);
+    if (length <= kNameOffset || length > listing.size()) return;
+    const char* name = listing.data() + kNameOffset;
+    const auto pid = ParsePid({name, strnlen(name, length - kNameOffset)});
+    if (pid) pids.push_back(*pid);
+    listing = listing.subspan(length);
+  }
+}
+
+}  // namespace
+
+ProcFiles::ProcFiles(const std::string& root)
+    : mRoot(::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)), mListing(kListingSize) {
+  struct statfs system {};
+  mIsKernelTree = ::fstatfs(mRoot.Get(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
+}
+
+bool ProcFiles::List(std::vector<std::int32_t>& pids) {
+  pids.clear();
+  if (::lseek(mRoot.Get(), 0, SEEK_SET) < 0) return false;
+  for (;;) {
+    const auto bytes = ::syscall(SYS_getdents64, mRoot.Get(), mListing.data(),
+                                 static_cast<unsigned>(mListing.size()));
+    if (bytes <= 0) return bytes == 0;
+    AppendPids(std::span(mListing).first(static_cast<std::size_t>(bytes)), pids);
+  }
+}
+
+FileDescriptor ProcFiles::OpenStat(std::int32_t pid) {
+  return FileDescriptor(::openat(mRoot.Get(), PidPath(pid, "/stat").Get(), O_RDONLY | O_CLOEXEC));
+}
+
+FileDescriptor ProcFiles::OpenFolder(std::int32_t pid) {
+  return FileDescriptor(
+      ::openat(mRoot.Get(), PidPath(pid, "").Get(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+}
+
+std::ptrdiff_t ProcFiles::Read(int file, std::span<char> buffer) {
+  return ::pread(file, buffer.data(), buffer.size(), 0);
+}
+
+std::ptrdiff_t ProcFiles::ReadIn(int folder, const char* name, std::span<char> buffer) {
+  const FileDescriptor file(::openat(folder, name, O_RDONLY | O_CLOEXEC));
+  return ::read(file.Get(), buffer.data(), buffer.size());
+}
+
+std::ptrdiff_t ProcFiles::ReadLinkIn(int folder, const char* name, std::span<char> buffer) {
+  return ::readlinkat(folder, name, buffer.data(), buffer.size());
+}
+
+std::string ProcFiles::ReadText(const char* path) {
+  const FileDescriptor file(::openat(mRoot.Get(), path, O_RDONLY | O_CLOEXEC));
+  std::string text;
+  std::array<char, 16384> piece;
+  while (text.size() < kLongestText) {
+    const auto bytes = ::read(file.Get(), piece.data(), piece.size());
+    if (bytes <= 0) break;
+    text.append(piece.data(), static_cast<std::size_t>(bytes));
+  }
+  return text;
+}
+
+std::uint64_t CurrentStartStamp(ProcFiles& files, std::int32_t pid) {
+  std::array<char, 4096> buffer;
+  const FileDescriptor file = files.OpenStat(pid);
+  if (!file.IsOpen()) return 0;
+  const auto bytes = files.Read(file.Get(), buffer);
+  if (bytes <= 0) return 0;
+  const auto stat = ParseProcStat({buffer.data(), static_cast<std::size_t>(bytes)});
+  return stat && stat->pid == pid ? stat->startStamp : 0;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/linux/FileDescriptor.h"
+
+namespace lurkwell {
+
+/// The few ways in which the process table touches the proc file system; virtual, so that a test
+/// can make processes vanish between any two of them. Main thread only. A failed open gives no
+/// descriptor and leaves errno; a failed read gives -1 and leaves errno.
+class ProcFiles {
+ public:
+  /// `root` is "/proc" or a made-up tree of the same shape. A root that cannot be opened makes
+  /// every call fail.
+  explicit ProcFiles(const std::string& root);
+  virtual ~ProcFiles() = default;
+  ProcFiles(const ProcFiles&) = delete;
+  ProcFiles& operator=(const ProcFiles&) = delete;
+
+  /// An open file or folder of a process goes on meaning that very process, and fails once it has
+  /// ended, whatever becomes of its pid. True of the kernel's tree, not of a made-up one.
+  virtual bool FollowsProcesses() const { return mIsKernelTree; }
+
+  /// Replaces `pids` by all that are listed, in the order of the listing. False when the root
+  /// cannot be read.
+  virtual bool List(std::vector<std::int32_t>& pids);
+
+  /// PID/stat, and the folder PID, for what follows.
+  virtual FileDescriptor OpenStat(std::int32_t pid);
+  virtual FileDescriptor OpenFolder(std::int32_t pid);
+
+  /// The beginning of an open file; the bytes read.
+  virtual std::ptrdiff_t Read(int file, std::span<char> buffer);
+
+  /// The beginning of the file `name` in an open folder, and where the link `name` in it points.
+  virtual std::ptrdiff_t ReadIn(int folder, const char* name, std::span<char> buffer);
+  virtual std::ptrdiff_t ReadLinkIn(int folder, const char* name, std::span<char> buffer);
+
+  /// A whole file below the root, at most 4 MiB of it; empty on failure.
+  virtual std::string ReadText(const char* path);
+
+ private:
+  FileDescriptor mRoot;
+  bool mIsKernelTree = false;
+  std::vector<char> mListing;
+};
+
+/// The start, in ticks since boot, of the process that has `pid` now; 0 when there is none or it
+/// cannot be told.
+std::uint64_t CurrentStartStamp(ProcFiles& files, std::int32_t pid);
+
+}  // namespace lurkwell

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace lurkwell {
+
+/// What one /proc/PID/stat says, as far as the process table asks.
+struct ProcStat {
+  std::int32_t pid = 0;
+  /// The name as the kernel has it, any bytes; points into the parsed text.
+  std::string_view name;
+  char state = 0;
+  std::int32_t parentPid = 0;
+  std::int32_t priority = 0;
+  std::int32_t nice = 0;
+  /// The start in clock ticks since boot.
+  std::uint64_t startStamp = 0;
+};
+
+/// Reads the text of a stat file. The name may hold blanks, brackets and newlines, so everything
+/// after it is counted from the last closing bracket. Nothing when a field that is asked for is
+/// missing or is no number of its width. Pure; any thread; looks at nothing beyond `text`.
+std::optional<ProcStat> ParseProcStat(std::string_view text);
+
+/// A whole text as a decimal number without sign, blanks or leading zeros; nothing when it is none
+/// or does not fit. This is how the kernel writes the folder names of processes.
+std::optional<std::int32_t> ParsePid(std::string_view text);
+
+}  // namespace lurkwell

@@ -1,0 +1,117 @@
+#include "platform/linux/ProcpsDialect.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace lurkwell {
+namespace {
+
+constexpr const char* kPs = "/bin/ps";
+constexpr std::string_view kKeywordsLine = "/bin/ps -Lww";
+constexpr std::string_view kHeaderLine = "/bin/ps 0 -o ";
+constexpr std::string_view kColumnLine = "/bin/ps -axww -o pid,";
+
+constexpr std::size_t kLongestAnswer = 1023;
+constexpr std::size_t kLongestHeader = 62;
+constexpr std::size_t kLongestKeyword = 255;
+
+bool IsKeyword(std::string_view text) {
+  return !text.empty() && text.size() <= kLongestKeyword &&
+         std::all_of(text.begin(), text.end(), [](char c) {
+           return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+                  c == '_' || c == '%';
+         });
+}
+
+/// Takes the next word off `line`, blanks on either side of it being none of it.
+std::string_view TakeWord(std::string_view& line) {
+  constexpr std::string_view kBlanks = " \t\r\v\f";
+  line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
+  const auto word = line.substr(0, line.find_first_of(kBlanks));
+  line.remove_prefix(word.size());
+  return word;
+}
+
+bool IsHeader(std::string_view text) {
+  return !text.empty() && text.size() <= kLongestHeader &&
+         text.find('\0') == std::string_view::npos;
+}
+
+/// Which of its header's keywords each column is, from 0.
+std::vector<std::size_t> RanksUnderHeader(const std::vector<PsColumn>& columns) {
+  std::unordered_map<std::string_view, std::size_t> counts;
+  std::vector<std::size_t> ranks;
+  ranks.reserve(columns.size());
+  for (const auto& column : columns) ranks.push_back(counts[column.header]++);
+  return ranks;
+}
+
+}  // namespace
+
+std::vector<PsColumn> ParsePsListing(std::string_view listing) {
+  std::vector<PsColumn> columns;
+  std::unordered_set<std::string_view> seen;
+  while (!listing.empty()) {
+    auto line = listing.substr(0, listing.find('\n'));
+    listing.remove_prefix(std::min(line.size() + 1, listing.size()));
+    const auto keyword = TakeWord(line);
+    const auto header = TakeWord(line);
+    if (!IsKeyword(keyword) || keyword.front() == '_' || !IsHeader(header)) continue;
+    if (seen.insert(keyword).second) columns.push_back({std::string(keyword), std::string(header)});
+  }
+  return columns;
+}
+
+std::string KeywordLine(const std::vector<PsColumn>& columns) {
+  const auto ranks = RanksUnderHeader(columns);
+  std::vector<std::size_t> order(columns.size());
+  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+  std::stable_sort(order.begin(), order.end(),
+                   [&ranks](std::size_t a, std::size_t b) { return ranks[a] < ranks[b]; });
+
+  // Each keyword costs one character more: the blank behind it, or the newline behind the last.
+  std::vector<bool> isKept(columns.size(), false);
+  std::size_t left = kLongestAnswer;
+  for (const std::size_t i : order) {
+    const std::size_t cost = columns[i].keyword.size() + 1;
+    if (cost > left) continue;
+    left -= cost;
+    isKept[i] = true;
+  }
+  std::string line;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (isKept[i]) line += columns[i].keyword + ' ';
+  }
+  if (!line.empty()) line.back() = '\n';
+  return line;
+}
+
+std::string HeaderLine(const std::vector<PsColumn>& columns, std::string_view keyword) {
+  const auto found =
+      std::find_if(columns.begin(), columns.end(),
+                   [keyword](const PsColumn& column) { return column.keyword == keyword; });
+  return found == columns.end() ? std::string() : found->header + '\n';
+}
+
+std::optional<PsCommand> ParsePsCommand(std::string_view commandLine) {
+  if (commandLine == kKeywordsLine) return PsCommand{PsCommand::Kind::kKeywords, {}};
+  for (const auto& [beginning, kind] : {std::pair{kHeaderLine, PsCommand::Kind::kHeader},
+                                        std::pair{kColumnLine, PsCommand::Kind::kColumn}}) {
+    if (!commandLine.starts_with(beginning)) continue;
+    const auto keyword = commandLine.substr(beginning.size());
+    if (IsKeyword(keyword)) return PsCommand{kind, std::string(keyword)};
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> PsListingArguments() {
+  return {kPs, "L"};
+}
+
+std::vector<std::string> PsColumnArguments(const std::string& keyword) {
+  return {kPs, "-axww", "-o", "pid," + keyword};
+}
+
+}  // namespace lurkwell

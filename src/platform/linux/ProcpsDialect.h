@@ -1,0 +1,47 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lurkwell {
+
+/// What the ps of this system prints for a keyword.
+struct PsColumn {
+  std::string keyword;
+  std::string header;
+};
+
+/// The columns of one listing ("ps L": a keyword and a header on each line), in its order. Left out
+/// is what could not be used as a property: keywords that stand twice, that begin with an
+/// underscore (padding) or hold anything but letters, digits, '_' and '%'; headers that are empty
+/// or longer than 62 bytes. Of a header of several words the first counts, as the reader of a
+/// column's output takes just that. Pure.
+std::vector<PsColumn> ParsePsListing(std::string_view listing);
+
+/// The keywords for "/bin/ps -Lww": one line, a blank between two words, at most 1,023 characters
+/// with its newline. Each header gets its first keyword before any header gets a second one, and so
+/// on until no more fit; the listing's order is kept. Pure.
+std::string KeywordLine(const std::vector<PsColumn>& columns);
+
+/// The answer to "/bin/ps 0 -o KEYWORD": the header and a newline; empty for an unknown keyword.
+/// Pure.
+std::string HeaderLine(const std::vector<PsColumn>& columns, std::string_view keyword);
+
+/// What a command line of the ps feeder asks for.
+struct PsCommand {
+  enum class Kind { kKeywords, kHeader, kColumn };
+  Kind kind;
+  /// Of kHeader and kColumn; holds the same characters as a listed one.
+  std::string keyword;
+};
+
+/// Nothing when the line is none of the three. Pure.
+std::optional<PsCommand> ParsePsCommand(std::string_view commandLine);
+
+/// The programs to run, as argument vectors: for the listing, and for one column of all processes.
+std::vector<std::string> PsListingArguments();
+std::vector<std::string> PsColumnArguments(const std::string& keyword);
+
+}  // namespace lurkwell

@@ -1,0 +1,241 @@
+#include "platform/linux/PropertyListDocument.h"
+
+#include <locale.h>
+#include <plist/plist.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+#include "platform/linux/PropertyListScan.h"
+
+namespace lurkwell {
+namespace {
+
+struct Free {
+  void operator()(void* memory) const { std::free(memory); }
+};
+using Memory = std::unique_ptr<void, Free>;
+using Text = std::unique_ptr<char, Free>;
+
+// The library reads and prints numbers by the locale in force.
+class PlainNumbers {
+ public:
+  PlainNumbers() : mPrevious(uselocale(Plain())) {}
+  ~PlainNumbers() { uselocale(mPrevious); }
+  PlainNumbers(const PlainNumbers&) = delete;
+  PlainNumbers& operator=(const PlainNumbers&) = delete;
+
+ private:
+  static locale_t Plain() {
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    return plain;
+  }
+
+  locale_t mPrevious;
+};
+
+bool Is(plist_t node, plist_type type) {
+  return node != nullptr && plist_get_node_type(node) == type;
+}
+
+template <typename Visit>
+void ForEachEntry(plist_t dictionary, Visit visit) {
+  plist_dict_iter raw = nullptr;
+  plist_dict_new_iter(dictionary, &raw);
+  const Memory iterator(raw);
+  while (raw != nullptr) {
+    char* rawKey = nullptr;
+    plist_t node = nullptr;
+    plist_dict_next_item(dictionary, raw, &rawKey, &node);
+    const Text key(rawKey);
+    if (node == nullptr) return;
+    if (key) visit(key.get(), node);
+  }
+}
+
+template <typename Visit>
+void ForEachElement(plist_t array, Visit visit) {
+  plist_array_iter raw = nullptr;
+  plist_array_new_iter(array, &raw);
+  const Memory iterator(raw);
+  while (raw != nullptr) {
+    plist_t node = nullptr;
+    plist_array_next_item(array, raw, &node);
+    if (node == nullptr) return;
+    visit(node);
+  }
+}
+
+std::string XmlOf(plist_t node) {
+  const PlainNumbers plainNumbers;
+  char* raw = nullptr;
+  std::uint32_t length = 0;
+  plist_to_xml(node, &raw, &length);
+  const Text xml(raw);
+  return xml ? std::string(xml.get(), length) : std::string();
+}
+
+// The library gives negative integers and those beyond the signed range in the same bits; only its
+// text form tells them apart.
+PreferenceScalar Integer(plist_t node) {
+  std::uint64_t bits = 0;
+  plist_get_uint_val(node, &bits);
+  const auto integer = static_cast<std::int64_t>(bits);
+  if (integer >= 0 || XmlOf(node).find("<integer>-") != std::string::npos) return integer;
+  return static_cast<double>(bits);
+}
+
+std::optional<PreferenceScalar> Scalar(plist_t node) {
+  switch (plist_get_node_type(node)) {
+    case PLIST_UINT:
+      return Integer(node);
+    case PLIST_BOOLEAN: {
+      std::uint8_t truth = 0;
+      plist_get_bool_val(node, &truth);
+      return std::int64_t{truth != 0};
+    }
+    case PLIST_REAL: {
+      double real = 0;
+      plist_get_real_val(node, &real);
+      return real;
+    }
+    case PLIST_STRING: {
+      std::uint64_t length = 0;
+      const char* text = plist_get_string_ptr(node, &length);
+      return std::string(text != nullptr ? text : "", text != nullptr ? length : 0);
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+PreferenceDictionary Dictionary(plist_t node) {
+  PreferenceDictionary dictionary;
+  if (!Is(node, PLIST_DICT)) return dictionary;
+  ForEachEntry(node, [&](const char* key, plist_t entry) {
+    if (auto scalar = Scalar(entry)) dictionary.insert_or_assign(key, *std::move(scalar));
+  });
+  return dictionary;
+}
+
+std::optional<PreferenceValue> Fit(plist_t node) {
+  if (node == nullptr) return std::nullopt;
+  if (Is(node, PLIST_ARRAY)) {
+    PreferenceArray array;
+    ForEachElement(node, [&](plist_t element) { array.push_back(Dictionary(element)); });
+    return array;
+  }
+  auto scalar = Scalar(node);
+  if (!scalar) return std::nullopt;
+  return std::visit([](auto&& held) -> PreferenceValue { return std::move(held); },
+                    *std::move(scalar));
+}
+
+plist_t NodeOf(std::int64_t integer) {
+  return plist_new_uint(static_cast<std::uint64_t>(integer));
+}
+plist_t NodeOf(double real) {
+  return plist_new_real(real);
+}
+plist_t NodeOf(const std::string& text) {
+  return plist_new_string(text.c_str());
+}
+
+plist_t NodeOf(const PreferenceScalar& scalar) {
+  return std::visit([](const auto& held) { return NodeOf(held); }, scalar);
+}
+
+// An element as it shall be, with what `source` holds beyond the preference kinds.
+plist_t ElementFrom(plist_t source, const PreferenceDictionary& wanted) {
+  if (source != nullptr && Dictionary(source) == wanted) return plist_copy(source);
+  plist_t element = Is(source, PLIST_DICT) ? plist_copy(source) : plist_new_dict();
+  for (const auto& [key, held] : Dictionary(element))
+    if (!wanted.contains(key)) plist_dict_remove_item(element, key.c_str());
+  for (const auto& [key, scalar] : wanted)
+    plist_dict_set_item(element, key.c_str(), NodeOf(scalar));
+  return element;
+}
+
+// Elements are matched from both ends; what lies between was changed, removed or added.
+plist_t ArrayFrom(plist_t source, const PreferenceArray& wanted) {
+  std::vector<plist_t> olds;
+  if (Is(source, PLIST_ARRAY)) ForEachElement(source, [&](plist_t node) { olds.push_back(node); });
+  const auto isSame = [](plist_t old, const PreferenceDictionary& element) {
+    return Dictionary(old) == element;
+  };
+  const auto firstChange =
+      std::mismatch(olds.begin(), olds.end(), wanted.begin(), wanted.end(), isSame).first;
+  const auto rest = olds.end() - firstChange;
+  const auto kept = static_cast<std::size_t>(olds.size() - static_cast<std::size_t>(rest));
+  const auto lastChange = std::mismatch(olds.rbegin(), olds.rbegin() + rest, wanted.rbegin(),
+                                        wanted.rend() - static_cast<std::ptrdiff_t>(kept), isSame)
+                              .first;
+  const auto tail = static_cast<std::size_t>(lastChange - olds.rbegin());
+
+  plist_t array = plist_new_array();
+  for (std::size_t i = 0; i < wanted.size(); ++i) {
+    plist_t old = nullptr;
+    if (i >= wanted.size() - tail)
+      old = olds[olds.size() - (wanted.size() - i)];
+    else if (i < olds.size() - tail)
+      old = olds[i];
+    plist_array_append_item(array, ElementFrom(old, wanted[i]));
+  }
+  return array;
+}
+
+}  // namespace
+
+PropertyListDocument::PropertyListDocument() : mRoot(plist_new_dict()) {}
+
+PropertyListDocument::~PropertyListDocument() {
+  plist_free(mRoot);
+}
+
+std::optional<PropertyListDocument> PropertyListDocument::Parse(std::string_view text,
+                                                                const char*& why) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  why = WhyNotAPropertyList(text);
+  if (why != nullptr) return std::nullopt;
+  const PlainNumbers plainNumbers;
+  plist_t root = nullptr;
+  plist_from_xml(text.data(), static_cast<std::uint32_t>(text.size()), &root);
+  if (Is(root, PLIST_DICT)) return PropertyListDocument(root);
+  plist_free(root);
+  why = root != nullptr ? "its root is no dictionary" : "it is no property list";
+  return std::nullopt;
+}
+
+std::string PropertyListDocument::Text() const {
+  return XmlOf(mRoot);
+}
+
+PreferenceValues PropertyListDocument::Values() const {
+  PreferenceValues values;
+  ForEachEntry(mRoot, [&](const char* key, plist_t node) {
+    if (auto value = Fit(node)) values.insert_or_assign(key, *std::move(value));
+  });
+  return values;
+}
+
+std::optional<PreferenceValue> PropertyListDocument::Value(const std::string& key) const {
+  return Fit(plist_dict_get_item(mRoot, key.c_str()));
+}
+
+void PropertyListDocument::Set(const std::string& key, const PreferenceValue& value) {
+  plist_t node = nullptr;
+  if (const auto* array = std::get_if<PreferenceArray>(&value)) {
+    node = ArrayFrom(plist_dict_get_item(mRoot, key.c_str()), *array);
+  } else if (const auto* integer = std::get_if<std::int64_t>(&value)) {
+    node = NodeOf(*integer);
+  } else if (const auto* real = std::get_if<double>(&value)) {
+    node = NodeOf(*real);
+  } else {
+    node = NodeOf(std::get<std::string>(value));
+  }
+  plist_dict_set_item(mRoot, key.c_str(), node);
+}
+
+}  // namespace lurkwell

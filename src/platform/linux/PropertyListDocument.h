@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include "platform/PreferenceDomain.h"
+
+namespace lurkwell {
+
+struct PreferenceKeyHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view key) const { return std::hash<std::string_view>{}(key); }
+};
+using PreferenceValues =
+    std::unordered_map<std::string, PreferenceValue, PreferenceKeyHash, std::equal_to<>>;
+
+/// A property list whose root is a dictionary, with everything that was in the file it came from;
+/// what a preference cannot hold (dates, data, nested containers) is kept but not shown. Reads and
+/// writes numbers the same way under every locale. One thread at a time.
+class PropertyListDocument {
+ public:
+  /// An empty one.
+  PropertyListDocument();
+  ~PropertyListDocument();
+  PropertyListDocument(PropertyListDocument&& other) noexcept
+      : mRoot(std::exchange(other.mRoot, nullptr)) {}
+  PropertyListDocument& operator=(PropertyListDocument&& other) noexcept {
+    std::swap(mRoot, other.mRoot);
+    return *this;
+  }
+
+  /// From the XML form; nothing when it is damaged or beyond the bounds, and then `why` says so.
+  static std::optional<PropertyListDocument> Parse(std::string_view text, const char*& why);
+
+  /// The XML form.
+  std::string Text() const;
+
+  /// All values that preferences can hold, made to fit: truth values are 0 and 1, an integer beyond
+  /// 64 bits is a real, an array element that is no dictionary an empty one.
+  PreferenceValues Values() const;
+
+  /// One of them; nothing when it is missing or of another kind.
+  std::optional<PreferenceValue> Value(const std::string& key) const;
+
+  /// Replaces a value. What array elements hold beyond the preference kinds stays with them, also
+  /// when elements before them were removed or behind them appended.
+  void Set(const std::string& key, const PreferenceValue& value);
+
+ private:
+  explicit PropertyListDocument(void* root) : mRoot(root) {}
+
+  void* mRoot;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platform/PreferenceDomain.h"
+#include "platform/linux/FileLock.h"
+#include "platform/linux/PreferenceFile.h"
+#include "platform/linux/PropertyListDocument.h"
+
+namespace lurkwell {
+
+/// The user's folder for settings: $XDG_CONFIG_HOME where that is absolute, else .config in the
+/// home folder; empty when there is no home.
+std::string UserConfigurationFolder();
+
+/// The settings as the property list com.velquarin.lurkwell.plist, held in memory.
+///
+/// Only Synchronize and the constructor touch the disk. A synchronised write is a temporary file of
+/// mode 0600, synchronised, renamed over the old one, and its folder synchronised; the system calls
+/// of another instance in between are kept out by a lock file. Changes of this instance since its
+/// last write go over what another one has written, key by key.
+///
+/// A file that is damaged, closed to the user, larger than 4 MiB or nested beyond 32 levels is
+/// moved aside under a dated name and reported, and the defaults count; where even that fails
+/// nothing is ever written over it. What the file holds beyond preferences survives.
+class PropertyListDomain final : public PreferenceDomain {
+ public:
+  static constexpr const char* kFileName = "com.velquarin.lurkwell.plist";
+
+  /// Reads the file in `folder` if there is one, and removes what killed runs left beside it.
+  explicit PropertyListDomain(std::string folder = UserConfigurationFolder());
+
+  const PreferenceValue* Value(std::string_view key) override;
+  void SetValue(std::string_view key, PreferenceValue value) override;
+  bool Synchronize() override;
+
+ private:
+  enum class Intake { kDone, kUnfit, kFailed };
+
+  FileLock Lock();
+  bool Merge();
+  Intake TakeIn();
+  bool SetAside();
+  void Adopt(PropertyListDocument document);
+  bool BringChangesIntoDocument();
+  bool Write();
+  void Complain(const char* what, const FileFault& fault);
+
+  PreferenceFile mFile;
+  bool mHasFolder;
+  PropertyListDocument mDocument;
+  PreferenceValues mValues;
+  // Set since the last write that succeeded; mValues has what they are.
+  std::set<std::string, std::less<>> mPending;
+  // The document holds what the disk does not.
+  bool mIsDocumentAhead = false;
+  // Why the file is unfit, for the report.
+  FileFault mUnfitness;
+  bool mLockWasBusy = false;
+  std::set<std::pair<std::string, std::string>> mReported;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "platform/Alerts.h"
+
+namespace lurkwell {
+
+/// Alerts of a program that has no windows and nobody to answer: each is printed on standard error
+/// once, and the last of its buttons, the one that goes on without, is taken.
+class TerminalAlerts final : public Alerts {
+ public:
+  AlertButton RunAlertPanel(const std::string& title, const std::string& message,
+                            const std::string& defaultButton, const std::string& alternateButton,
+                            const std::string& otherButton) override;
+
+ private:
+  std::set<std::string> mPrinted;
+};
+
+}  // namespace lurkwell

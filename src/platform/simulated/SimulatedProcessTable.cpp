@@ -1,0 +1,78 @@
+#include "platform/simulated/SimulatedProcessTable.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+namespace lurkwell {
+
+void SimulatedProcess::SetName(std::string_view name) {
+  const std::size_t length = std::min(name.size(), sizeof entry.commandName - 1);
+  std::memset(entry.commandName, 0, sizeof entry.commandName);
+  std::memcpy(entry.commandName, name.data(), length);
+}
+
+void SimulatedProcess::UseCPU(std::int64_t milliseconds) {
+  userTime = AddMilliseconds(userTime, milliseconds);
+}
+
+SimulatedProcessTable::SimulatedProcessTable(Clock& clock, AccessLog& log)
+    : mClock(clock), mLog(log) {
+  Birth(0, "kernel_task", 0);
+  Birth(1, "launchd", 0);
+}
+
+SimulatedProcess& SimulatedProcessTable::Birth(std::int32_t pid, std::string_view name,
+                                               std::int32_t parent) {
+  auto& process = mProcesses.emplace_front();
+  process.entry.pid = pid;
+  process.entry.parentPid = parent;
+  process.entry.startStamp = mNextStamp++;
+  process.entry.startTime = mClock.Now();
+  process.entry.priority = 31;
+  process.SetName(name);
+  mByPid[pid] = mProcesses.begin();
+  return process;
+}
+
+void SimulatedProcessTable::Death(std::int32_t pid) {
+  const auto found = mByPid.find(pid);
+  if (found == mByPid.end()) return;
+  mProcesses.erase(found->second);
+  mByPid.erase(found);
+  for (auto& process : mProcesses)
+    if (process.entry.parentPid == pid) process.entry.parentPid = 1;
+}
+
+SimulatedProcess* SimulatedProcessTable::Find(std::int32_t pid) {
+  const auto found = mByPid.find(pid);
+  return found == mByPid.end() ? nullptr : &*found->second;
+}
+
+void SimulatedProcessTable::Churn(std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto oldest = std::find_if(mProcesses.rbegin(), mProcesses.rend(),
+                                     [](const auto& process) { return process.entry.pid > 1; });
+    if (oldest == mProcesses.rend()) return;
+    mByPid.erase(oldest->entry.pid);
+    mProcesses.erase(std::next(oldest).base());
+    while (mByPid.contains(mNextChurnPid))
+      mNextChurnPid = mNextChurnPid >= MaximumPid() ? 100 : mNextChurnPid + 1;
+    Birth(mNextChurnPid, "churn");
+  }
+}
+
+std::span<const ProcessTableEntry> SimulatedProcessTable::Read() {
+  mLog.Add("ProcessTable.Read");
+  mSnapshot.clear();
+  if (mFailures > 0) {
+    --mFailures;
+    return mSnapshot;
+  }
+  for (const auto& process : mProcesses)
+    if (process.entry.pid != 0) mSnapshot.push_back(process.entry);
+  mSnapshot.push_back(mByPid.at(0)->entry);
+  return mSnapshot;
+}
+
+}  // namespace lurkwell

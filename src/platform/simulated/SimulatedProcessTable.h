@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <list>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/Clock.h"
+#include "platform/ProcessTable.h"
+#include "platform/simulated/AccessLog.h"
+
+namespace lurkwell {
+
+/// One process of a simulated machine, to be changed at will between two readings.
+struct SimulatedProcess {
+  ProcessTableEntry entry;
+  TimeValue userTime;
+  TimeValue systemTime;
+  TimeValue terminatedUserTime;
+  TimeValue terminatedSystemTime;
+  std::int64_t virtualSize = 0;
+  std::int64_t residentSize = 0;
+  std::int32_t policy = 1;
+  /// Faults, pageins, copy-on-write faults, messages sent and received, Mach and Unix system calls,
+  /// context switches.
+  std::int64_t events[8] = {};
+
+  void SetName(std::string_view name);
+  void UseCPU(std::int64_t milliseconds);
+};
+
+/// The process table of a simulated machine: newest process first, the kernel's own entry last,
+/// pids up to 65535. It begins with pid 0, "kernel_task", and pid 1, "launchd", its child.
+class SimulatedProcessTable final : public ProcessTable {
+ public:
+  SimulatedProcessTable(Clock& clock, AccessLog& log);
+
+  std::span<const ProcessTableEntry> Read() override;
+  std::int32_t MaximumPid() const override { return 65535; }
+
+  SimulatedProcess& Birth(std::int32_t pid, std::string_view name, std::int32_t parent = 1);
+  /// Children of the dead pass to pid 1.
+  void Death(std::int32_t pid);
+  void Stop(std::int32_t pid) { Find(pid)->entry.state = RunState::kStopped; }
+  void Continue(std::int32_t pid) { Find(pid)->entry.state = RunState::kSleeping; }
+  /// The process, or null.
+  SimulatedProcess* Find(std::int32_t pid);
+  std::size_t Count() const { return mByPid.size(); }
+
+  /// The oldest of the processes above pid 1 die, and as many are born under the next pids, which
+  /// come round at the end of the range.
+  void Churn(std::size_t count);
+
+  /// The next readings find nothing at all.
+  void FailReadings(int count) { mFailures = count; }
+
+ private:
+  Clock& mClock;
+  AccessLog& mLog;
+  /// Newest first.
+  std::list<SimulatedProcess> mProcesses;
+  std::unordered_map<std::int32_t, std::list<SimulatedProcess>::iterator> mByPid;
+  std::vector<ProcessTableEntry> mSnapshot;
+  std::uint64_t mNextStamp = 1;
+  std::int32_t mNextChurnPid = 100;
+  int mFailures = 0;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,46 @@
+#!/usr/bin/env python3
+"""Plants one violation of each kind in a copy of the tree's shape and expects each to be found."""
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+SCRIPT = pathlib.Path(sys.argv[1]) / "scripts" / "check-includes.py"
+GOOD = {
+    "platform/Clock.h": "",
+    "platform/linux/LinuxClock.h": '#include "platform/Clock.h"\n',
+    "preferences/Store.h": '#include "platform/Clock.h"\n',
+    "consolidator/Records.h": '#include "process_control/Actions.h"\n',
+    "process_control/Actions.h": '#include "consolidator/Records.h"\n#include "preferences/Store.h"\n',
+    "app/main.cpp": '#include "platform/linux/LinuxClock.h"\n#include "consolidator/Records.h"\n',
+    "helper/Channel.cpp": '#include "helper/Request.h"\n',
+    "helper/Request.h": "",
+}
+BAD = {
+    "platform/Up.h": '#include "preferences/Store.h"\n',
+    "platform/linux/Sideways.h": '#include "consolidator/Records.h"\n',
+    "preferences/Names.cpp": '#include "platform/linux/LinuxClock.h"\n',
+    "consolidator/Upwards.cpp": '  #  include "app/main.cpp"\n',
+    "consolidator/Qt.cpp": "#include <QString>\n",
+    "app/other.cpp": '#include "platform/linux/LinuxClock.h"\n',
+    "helper/Reaches.cpp": '#include "platform/Clock.h"\n',
+    "consolidator/Reaches.cpp": '#include "helper/Request.h"\n',
+    "consolidator/Relative.cpp": '#include "Records.h"\n',
+}
+
+
+def run(files):
+    with tempfile.TemporaryDirectory() as root:
+        for name, text in files.items():
+            path = pathlib.Path(root, "src", name)
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_text(text)
+        return subprocess.run([sys.executable, SCRIPT, root], capture_output=True, text=True)
+
+
+clean = run(GOOD)
+assert clean.returncode == 0, clean.stdout
+for name, text in BAD.items():
+    result = run({**GOOD, name: text})
+    assert result.returncode == 1 and name in result.stdout, f"{name} was not found: {result.stdout}"
+print(f"{len(BAD)} kinds of violation found")

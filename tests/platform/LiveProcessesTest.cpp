@@ -1,0 +1,289 @@
+// The process table and signals on the real machine.
+#include <gtest/gtest.h>
+#include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <time.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Children.h"
+#include "platform/MadeUpTree.h"
+#include "platform/linux/DescriptorLimit.h"
+#include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/LinuxSignals.h"
+
+namespace lurkwell {
+namespace {
+
+std::optional<ProcessTableEntry> Find(std::span<const ProcessTableEntry> entries, pid_t pid) {
+  const auto found = std::find_if(entries.begin(), entries.end(),
+                                  [pid](const auto& entry) { return entry.pid == pid; });
+  return found == entries.end() ? std::nullopt : std::optional(*found);
+}
+
+/// What is wrong with a table whatever runs at the moment; "" when nothing is.
+std::string Complaint(std::span<const ProcessTableEntry> entries) {
+  if (entries.empty() || entries.back().pid != 0) return "no idle task at the end";
+  std::map<std::int32_t, std::uint64_t> stamps = {{0, 0}};
+  std::int32_t last = 0;
+  for (const auto& entry : entries.first(entries.size() - 1)) {
+    if (entry.pid <= last) return "out of order at " + std::to_string(entry.pid);
+    last = entry.pid;
+    stamps[entry.pid] = entry.startStamp;
+  }
+  for (const auto& entry : entries) {
+    if (entry.parentPid == kInvalidPID) continue;
+    const auto parent = stamps.find(entry.parentPid);
+    if (parent == stamps.end() || parent->second > entry.startStamp) {
+      return "parent of " + std::to_string(entry.pid) + " is " + std::to_string(entry.parentPid);
+    }
+  }
+  return {};
+}
+
+void SleepMilliseconds(long milliseconds) {
+  const timespec time{0, milliseconds * 1'000'000};
+  ::nanosleep(&time, nullptr);
+}
+
+TEST(LiveProcesses, AreFoundUnderTheirPidWhateverTheirName) {
+  const std::vector<std::string> pieces = {")", "\n",   "\x1b[2J", "\xe2\x80\xae", "\xff", " ",
+                                           "(", "S 1 ", "\\",      "%s",           "\t",   "a"};
+  std::map<pid_t, std::string> names;
+  std::vector<Child> children;
+  for (std::size_t i = 0; i < 100; ++i) {
+    std::string name;
+    for (std::size_t j = 0; name.size() < i % 18; ++j)
+      name += pieces[(i * 5 + j * 7) % pieces.size()];
+    children.emplace_back([&name] { ::prctl(PR_SET_NAME, name.c_str()); });
+    names[children.back().Pid()] = name.substr(0, 15);
+  }
+  LinuxProcessTable table;
+  for (int pass = 0; pass < 2; ++pass) {
+    const auto entries = table.Read();
+    EXPECT_EQ(Complaint(entries), "");
+    for (const auto& [pid, name] : names) {
+      const auto entry = Find(entries, pid);
+      ASSERT_TRUE(entry);
+      EXPECT_EQ(entry->commandName, name);
+      EXPECT_EQ(entry->parentPid, ::getpid());
+      EXPECT_EQ(entry->state, RunState::kSleeping);
+    }
+  }
+}
+
+TEST(LiveProcesses, HaveNamesOfSixteenCharacters) {
+  const MadeUpTree folder;
+  const std::string program = folder.Root() + "/sixteen-or-more-characters";
+  std::filesystem::copy_file("/bin/sleep", program);
+  // By its path; under another name, which leaves the executable's; and before the exec, when it
+  // has this program's name, from the beginning of the table.
+  LinuxProcessTable table;
+  table.Read();
+  std::vector<pid_t> pids;
+  for (const char* called : {program.c_str(), "x"}) {
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+      ::execl(program.c_str(), called, "60", nullptr);
+      ::_exit(127);
+    }
+    pids.push_back(pid);
+  }
+  const auto isNamed = [&](pid_t pid) {
+    const auto entry = Find(table.Read(), pid);
+    return entry && std::string_view(entry->commandName) == "sixteen-or-more-";
+  };
+  for (const pid_t pid : pids) {
+    bool named = false;
+    for (int tries = 0; tries < 500 && !named; ++tries) {
+      named = isNamed(pid);
+      if (!named) SleepMilliseconds(10);
+    }
+    EXPECT_TRUE(named);
+    EXPECT_TRUE(isNamed(pid));
+    ::kill(pid, SIGKILL);
+    ::waitpid(pid, nullptr, 0);
+  }
+}
+
+TEST(LiveProcesses, ShowTheirStateNiceValueAndStart) {
+  const Child stopped;
+  ::kill(stopped.Pid(), SIGSTOP);
+  ::waitpid(stopped.Pid(), nullptr, WUNTRACED);
+  const Child traced([] { ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr); });
+  ::kill(traced.Pid(), SIGSTOP);
+  ::waitpid(traced.Pid(), nullptr, 0);
+  const Child nice([] { ::setpriority(PRIO_PROCESS, 0, 7); });
+  const pid_t zombie = ::fork();
+  if (zombie == 0) ::_exit(0);
+  siginfo_t ended{};
+  ::waitid(P_PID, static_cast<id_t>(zombie), &ended, WEXITED | WNOWAIT);
+
+  LinuxProcessTable table;
+  const auto entries = table.Read();
+  EXPECT_EQ(Find(entries, stopped.Pid())->state, RunState::kStopped);
+  EXPECT_EQ(Find(entries, traced.Pid())->state, RunState::kSleeping);
+  EXPECT_EQ(Find(entries, zombie)->state, RunState::kZombie);
+  EXPECT_EQ(Find(entries, ::getpid())->state, RunState::kRunning);
+  EXPECT_EQ(Find(entries, nice.Pid())->nice, 7);
+  EXPECT_EQ(Find(entries, nice.Pid())->priority, 27);
+  const auto start = Find(entries, nice.Pid())->startTime;
+  EXPECT_LE(std::abs(start.seconds - ::time(nullptr)), 60);
+  EXPECT_EQ(Find(table.Read(), nice.Pid())->startTime, start);
+  EXPECT_EQ(table.CurrentIdentity(nice.Pid())->startStamp, Find(entries, nice.Pid())->startStamp);
+  EXPECT_FALSE(table.CurrentIdentity(0));
+  ::waitpid(zombie, nullptr, 0);
+  EXPECT_FALSE(Find(table.Read(), zombie));
+}
+
+TEST(LiveProcesses, HaveNoUnknownParentsWhereOthersAreHidden) {
+  const MadeUpTree folder;
+  const auto complaint = RunInPidNamespace(folder.Root(), "hidepid=2", [&]() -> std::string {
+    // Process 1 is root's and hidden from the other user, whose child and grandchild look on.
+    return RunForked([&]() -> std::string {
+      if (::setresgid(61001, 61001, 61001) != 0 || ::setresuid(61001, 61001, 61001) != 0) {
+        return "no other user";
+      }
+      // What has changed its user is not dumpable, and so hidden from itself.
+      ::prctl(PR_SET_DUMPABLE, 1);
+      const Child grandchild;
+      LinuxProcessTable table(folder.Root());
+      for (int pass = 0; pass < 200; ++pass) {
+        const auto entries = table.Read();
+        if (const auto wrong = Complaint(entries); !wrong.empty()) return wrong;
+        if (entries.size() != 3) return std::to_string(entries.size()) + " entries";
+        const auto self = Find(entries, ::getpid());
+        const auto below = Find(entries, grandchild.Pid());
+        if (!self || self->parentPid != kInvalidPID) return "a parent that is hidden";
+        if (!below || below->parentPid != ::getpid()) return "no parent that is not hidden";
+      }
+      return {};
+    });
+  });
+  EXPECT_EQ(complaint, "");
+}
+
+TEST(LiveProcesses, AreNotMixedUpWhenAPidComesRound) {
+  const MadeUpTree folder;
+  const auto complaint = RunInPidNamespace(folder.Root(), "", [&]() -> std::string {
+    LinuxProcessTable table(folder.Root());
+    LinuxSignals signals(folder.Root());
+    const auto start = [&](const char* name) {
+      std::ofstream(folder.Root() + "/sys/kernel/ns_last_pid") << 299;
+      return Child([name] { ::prctl(PR_SET_NAME, name); });
+    };
+    Child first = start("first");
+    if (first.Pid() != 300) return "pid " + std::to_string(first.Pid());
+    const auto before = Find(table.Read(), 300);
+    if (!before || std::string_view(before->commandName) != "first") return "no first";
+    if (table.KeptDescriptors() != 2) return "kept " + std::to_string(table.KeptDescriptors());
+    first.End();
+    // Into another tick.
+    SleepMilliseconds(40);
+    Child second = start("second");
+    if (second.Pid() != 300) return "second pid " + std::to_string(second.Pid());
+    const auto after = Find(table.Read(), 300);
+    if (!after || std::string_view(after->commandName) != "second") return "no second";
+    if (after->startStamp == before->startStamp) return "the same stamp";
+    if (table.CurrentIdentity(300)->startStamp != after->startStamp) return "another identity";
+    if (signals.Send({300, before->startStamp}, SIGKILL)) return "sent to the wrong process";
+    if (!signals.Send({300, after->startStamp}, 0)) return "not sent to the right process";
+    if (!WIFSIGNALED(second.End())) return "no end";
+    if (signals.Send({300, after->startStamp}, 0)) return "sent to nobody";
+    return {};
+  });
+  EXPECT_EQ(complaint, "");
+}
+
+TEST(LiveProcesses, MayComeAndGoWhileTheyAreRead) {
+  // Each lives for an instant under a name that tells its pid.
+  Child breeder([] {
+    ::signal(SIGUSR1, [](int) {
+      for (int i = 0; i < 2000; ++i) {
+        const pid_t pid = ::fork();
+        if (pid == 0) {
+          ::prctl(PR_SET_NAME, ("c" + std::to_string(::getpid())).c_str());
+          ::_exit(0);
+        }
+        ::waitpid(pid, nullptr, 0);
+      }
+      ::_exit(0);
+    });
+  });
+  LinuxProcessTable table;
+  ::kill(breeder.Pid(), SIGUSR1);
+  int seen = 0;
+  std::map<std::pair<std::int32_t, std::uint64_t>, TimeValue> starts;
+  while (::waitpid(breeder.Pid(), nullptr, WNOHANG) == 0) {
+    const auto entries = table.Read();
+    ASSERT_EQ(Complaint(entries), "");
+    for (const auto& entry : entries) {
+      const auto known = starts.try_emplace({entry.pid, entry.startStamp}, entry.startTime).first;
+      ASSERT_EQ(known->second, entry.startTime);
+      if (entry.parentPid != breeder.Pid() || entry.commandName[0] != 'c') continue;
+      ASSERT_EQ(entry.commandName, "c" + std::to_string(entry.pid));
+      ++seen;
+    }
+  }
+  EXPECT_GT(seen, 0);
+  const auto entries = table.Read();
+  EXPECT_LE(table.KeptDescriptors(), entries.size());
+}
+
+TEST(LiveProcesses, AreAllShownWithFewDescriptors) {
+  EXPECT_EQ(RunForked([]() -> std::string {
+              const rlimit limit{40, 40};
+              ::setrlimit(RLIMIT_NOFILE, &limit);
+              std::vector<Child> children;
+              for (int i = 0; i < 100; ++i) children.emplace_back();
+              LinuxProcessTable table;
+              // Then somebody else takes all that are left.
+              for (int pass = 0; pass < 4; ++pass) {
+                const auto entries = table.Read();
+                if (table.KeptDescriptors() > DescriptorLimit() / 2) return "too many kept";
+                for (const auto& child : children) {
+                  if (!Find(entries, child.Pid())) return "missing in pass " + std::to_string(pass);
+                }
+                if (pass == 1) {
+                  while (::dup(0) >= 0) continue;
+                }
+              }
+              return {};
+            }),
+            "");
+}
+
+TEST(LiveSignals, ReachTheProcessThatIsMeantAndNoOther) {
+  Child child;
+  LinuxProcessTable table;
+  LinuxSignals signals;
+  const auto identity = table.CurrentIdentity(child.Pid());
+  ASSERT_TRUE(identity);
+  EXPECT_FALSE(signals.Send({child.Pid(), identity->startStamp + 1}, SIGKILL));
+  for (const std::int32_t pid : {1, 0, -1, -child.Pid()}) {
+    EXPECT_FALSE(signals.Send({pid, 0}, 0)) << pid;
+  }
+  EXPECT_TRUE(signals.Send(*identity, SIGSTOP));
+  int status = 0;
+  ::waitpid(child.Pid(), &status, WUNTRACED);
+  EXPECT_TRUE(WIFSTOPPED(status));
+  EXPECT_TRUE(signals.Send({child.Pid(), 0}, SIGTERM));
+  EXPECT_TRUE(signals.Send(*identity, SIGCONT));
+  ::waitpid(child.Pid(), &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
+  EXPECT_FALSE(signals.Send(*identity, SIGKILL));
+  EXPECT_EQ(RunForked([]() -> std::string {
+              if (::setresuid(61001, 61001, 61001) != 0) return "no other user";
+              const bool sent = LinuxSignals().Send({::getppid(), 0}, SIGWINCH);
+              return sent ? "sent to another user's process" : "";
+            }),
+            "");
+}
+
+}  // namespace
+}  // namespace lurkwell
