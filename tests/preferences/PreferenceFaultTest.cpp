@@ -1,0 +1,241 @@
+// What the store does when the machine refuses.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "CallSupervisor.h"
+#include "PreferenceTestSupport.h"
+#include "platform/linux/PropertyListDocument.h"
+
+namespace lurkwell {
+namespace {
+
+std::int64_t OnDisk(const TemporaryFolder& folder, const std::string& key) {
+  const char* why = nullptr;
+  const auto document = PropertyListDocument::Parse(Contents(folder.PreferenceFile()), why);
+  if (!document) return -2;
+  const auto value = document->Value(key);
+  const auto* integer = value ? std::get_if<std::int64_t>(&*value) : nullptr;
+  return integer != nullptr ? *integer : -1;
+}
+
+std::ptrdiff_t Lines(const std::string& text) {
+  return std::count(text.begin(), text.end(), '\n');
+}
+
+// A disk in memory on the folder, seen by this process and its children alone.
+bool MountDisk(const TemporaryFolder& folder, const char* options) {
+  return unshare(CLONE_NEWNS) == 0 &&
+         mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+         mount("disk", folder.Path().c_str(), "tmpfs", 0, options) == 0;
+}
+
+// Four sets, of which any may fail; then the machine is well again. Says what went wrong.
+int SetUnderFaults(const TemporaryFolder& folder, bool hasOld, int allowedFailures) {
+  ToggleSupervision();
+  testing::internal::CaptureStderr();
+  ToggleSupervision();
+  PropertyListDomain domain(folder.Path());
+  int failures = 0;
+  for (std::int64_t number = 1; number <= 4; ++number) {
+    domain.SetValue("K", number);
+    const bool isSaved = domain.Synchronize();
+    ToggleSupervision();
+    failures += isSaved ? 0 : 1;
+    if (IntegerAt(domain, "K") != number) return 10;
+    const bool isThere = std::filesystem::exists(folder.PreferenceFile());
+    const std::int64_t onDisk = OnDisk(folder, "K");
+    if (isSaved && onDisk != number) return 11;
+    if (isThere && onDisk == -2) return 12;  // torn
+    if (!isThere && (hasOld || isSaved)) return 13;
+    ToggleSupervision();
+  }
+  ToggleSupervision();
+  const bool isSaved = domain.Synchronize();
+  const std::string said = testing::internal::GetCapturedStderr();
+  if (!isSaved || failures > allowedFailures) return 14;
+  // One fault gives one message at most, or two when the file cannot even be moved aside.
+  return Lines(said) <= 2 && (failures == 0 || Lines(said) >= 1) ? 0 : 15;
+}
+
+enum class Before { kNothing, kFile, kLink };
+
+void Prepare(const TemporaryFolder& folder, Before before, const std::string& old) {
+  if (before == Before::kFile) Fill(folder.PreferenceFile(), old);
+  if (before != Before::kLink) return;
+  std::filesystem::create_directory(folder.Path() / "elsewhere");
+  Fill(folder.Path() / "elsewhere" / "real", old);
+  std::filesystem::create_symlink("elsewhere/real", folder.PreferenceFile());
+}
+
+// After the run: nothing lost, nothing left over, and an old file used on or kept aside.
+void Examine(const TemporaryFolder& folder, Before before, const std::string& old, int error) {
+  PropertyListDomain after(folder.Path());
+  ASSERT_EQ(IntegerAt(after, "K"), 4);
+  ASSERT_EQ(folder.CountOf(".new"), 0);
+  ASSERT_EQ(std::filesystem::is_symlink(folder.PreferenceFile()), before == Before::kLink);
+  std::string aside;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path()))
+    if (entry.path().string().find(".damaged-") != std::string::npos) aside = entry.path();
+  if (aside.empty()) {
+    ASSERT_EQ(IntegerAt(after, "OLD"), before == Before::kNothing ? -1 : 7);
+    return;
+  }
+  // A file that this user may not open is out of use, but still there.
+  ASSERT_TRUE(error == EACCES || error == EPERM);
+  ASSERT_EQ(Contents(aside), old);
+}
+
+TEST(PreferenceFault, EachErrorAtEachCall) {
+  // Some 15,000 synchronised writes: on a disk that does not make the test wait.
+  const TemporaryFolder disk;
+  ASSERT_TRUE(MountDisk(disk, "size=64m"));
+  std::size_t runs = 0;
+  const std::string old =
+      PropertyList("<key>OLD</key><integer>7</integer><key>K</key><integer>0</integer>");
+  for (const Before before : {Before::kNothing, Before::kFile, Before::kLink}) {
+    std::vector<int> errors = {ENOSPC, EIO, EACCES, EINTR, kWriteLess};
+    if (before == Before::kFile)
+      errors.insert(errors.end(), {EDQUOT, EROFS, EPERM, ENOMEM, EMFILE});
+    for (const int error : errors) {
+      const int allowedFailures = error == EINTR || error == kWriteLess ? 0 : 1;
+      bool isReached = true;
+      for (std::size_t point = 0; isReached; ++point, ++runs) {
+        SCOPED_TRACE("error " + std::to_string(error) + " at call " + std::to_string(point));
+        const TemporaryFolder folder(disk.Path());
+        Prepare(folder, before, old);
+        int kindOfCall = -1;
+        const SupervisedEnd end = Supervise(
+            [&] { return SetUnderFaults(folder, before != Before::kNothing, allowedFailures); },
+            [&](std::size_t index, int kind) {
+              if (index == point) kindOfCall = kind;
+              return index == point ? error : kLetItPass;
+            });
+        isReached = point < end.calls;
+        ASSERT_EQ(end.exit, 0) << "kind of call " << kindOfCall;
+        ASSERT_NO_FATAL_FAILURE(Examine(folder, before, old, error));
+      }
+    }
+  }
+  EXPECT_EQ(umount(disk.Path().c_str()), 0);
+  RecordProperty("runs", std::to_string(runs));
+  EXPECT_GT(runs, 1000U);
+}
+
+TEST(PreferenceFault, AFailedSyncAbandonsTheNewFile) {
+  const TemporaryFolder folder;
+  Fill(folder.PreferenceFile(), PropertyList("<key>K</key><integer>1</integer>"));
+  bool hasFailed = false;
+  const SupervisedEnd end = Supervise(
+      [&] {
+        PropertyListDomain domain(folder.Path());
+        domain.SetValue("K", std::int64_t{2});
+        return domain.Synchronize() ? 1 : 0;
+      },
+      [&](std::size_t, int kind) {
+        const bool fails = kind == SYS_fsync && !hasFailed;
+        hasFailed = hasFailed || fails;
+        return fails ? EIO : +kLetItPass;
+      });
+  EXPECT_TRUE(hasFailed);
+  EXPECT_EQ(end.exit, 0);
+  EXPECT_EQ(OnDisk(folder, "K"), 1);
+  EXPECT_EQ(folder.CountOf(".new"), 0);
+}
+
+constexpr const char* kSmall = "size=64k,mode=755";
+
+void FillUp(const std::filesystem::path& path) {
+  const FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+  const std::string block(4096, 'x');
+  while (write(file.Get(), block.data(), block.size()) > 0) {
+  }
+}
+
+TEST(PreferenceFault, AFullDiskKeepsTheOldFileAndTheSessionsValues) {
+  const TemporaryFolder folder;
+  const pid_t child = Fork([&] {
+    if (!MountDisk(folder, kSmall)) return 1;
+    PropertyListDomain domain(folder.Path());
+    domain.SetValue("K", std::int64_t{1});
+    if (!domain.Synchronize()) return 2;
+    FillUp(folder.Path() / "filler");
+    testing::internal::CaptureStderr();
+    for (std::int64_t number = 2; number < 50; ++number) {
+      domain.SetValue("K", number);
+      if (domain.Synchronize() || IntegerAt(domain, "K") != number) return 3;
+      if (OnDisk(folder, "K") != 1 || folder.CountOf(".new") != 0) return 4;
+    }
+    if (Lines(testing::internal::GetCapturedStderr()) != 1) return 5;
+    std::filesystem::remove(folder.Path() / "filler");
+    return domain.Synchronize() && OnDisk(folder, "K") == 49 ? 0 : 6;
+  });
+  EXPECT_EQ(ExitOf(child), 0);
+}
+
+TEST(PreferenceFault, AReadOnlyDiskIsSurvivedAndUsedAgainWhenItBecomesWritable) {
+  const TemporaryFolder folder;
+  const pid_t child = Fork([&] {
+    if (!MountDisk(folder, kSmall)) return 1;
+    {
+      PropertyListDomain earlier(folder.Path());
+      earlier.SetValue("K", std::int64_t{1});
+      if (!earlier.Synchronize()) return 2;
+    }
+    Fill(folder.Path() /
+             (std::string(".") + PropertyListDomain::kFileName + ".0123456789abcdef.new"),
+         "");
+    const auto remount = [&](unsigned long flags) {
+      return mount("disk", folder.Path().c_str(), "tmpfs", MS_REMOUNT | flags, "size=64k") == 0;
+    };
+    if (!remount(MS_RDONLY)) return 3;
+    testing::internal::CaptureStderr();
+    PropertyListDomain domain(folder.Path());
+    if (IntegerAt(domain, "K") != 1) return 4;
+    for (std::int64_t number = 2; number < 5; ++number) {
+      domain.SetValue("K", number);
+      if (domain.Synchronize() || IntegerAt(domain, "K") != number) return 5;
+    }
+    if (Lines(testing::internal::GetCapturedStderr()) != 1) return 6;
+    if (!remount(0)) return 7;
+    return domain.Synchronize() && OnDisk(folder, "K") == 4 ? 0 : 8;
+  });
+  EXPECT_EQ(ExitOf(child), 0);
+}
+
+TEST(PreferenceFault, AUserWithoutRightsToTheFolderKeepsTheSessionsValues) {
+  const struct {
+    const char* name;
+    mode_t mode;
+    const char* inside;
+  } cases[] = {{"read-only folder", 0755, ""},
+               {"closed folder", 0700, ""},
+               {"folder that cannot be made", 0755, "missing/deeper"}};
+  for (const auto& example : cases) {
+    SCOPED_TRACE(example.name);
+    const TemporaryFolder folder;
+    ASSERT_EQ(chmod(folder.Path().c_str(), example.mode), 0);
+    const pid_t child = Fork([&] {
+      if (setgid(61001) != 0 || setuid(61001) != 0) return 1;
+      testing::internal::CaptureStderr();
+      PropertyListDomain domain(folder.Path() / example.inside);
+      for (std::int64_t number = 0; number < 5; ++number) {
+        domain.SetValue("K", number);
+        if (domain.Synchronize() || IntegerAt(domain, "K") != number) return 2;
+      }
+      const auto lines = Lines(testing::internal::GetCapturedStderr());
+      return lines >= 1 && lines <= 2 ? 0 : 3;
+    });
+    EXPECT_EQ(ExitOf(child), 0);
+    EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
+  }
+}
+
+}  // namespace
+}  // namespace lurkwell
