@@ -1,0 +1,27 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include "helper/Session.h"
+
+namespace lurkwell::helper {
+
+/// The two pipes to the application.
+struct Channel {
+  int requests = -1;
+  int answers = -1;
+};
+
+/// Opens both pipes, which have to be `user`'s own and closed to everybody else, and answers the
+/// greeting. False when one is not as it should be or holds too little for an answer in one piece.
+/// The process ends when nobody opens the other ends within kOpeningLimit seconds.
+bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel& channel);
+
+/// The process that holds the other end of `pipe`, as far as this user can see it; -1 when there is
+/// none to be found.
+pid_t FindPeer(int pipe);
+
+/// Answers requests until the other end is closed: one read is one request, one write one answer.
+void Serve(const Channel& channel, Session& session);
+
+}  // namespace lurkwell::helper

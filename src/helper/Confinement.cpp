@@ -1,0 +1,170 @@
+#include "helper/Confinement.h"
+
+#include <fcntl.h>
+#include <grp.h>
+#include <linux/audit.h>
+#include <linux/capability.h>
+#include <linux/filter.h>
+#include <linux/landlock.h>
+#include <linux/seccomp.h>
+#include <linux/securebits.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+namespace lurkwell::helper {
+
+namespace {
+
+#if defined(__x86_64__)
+constexpr std::uint32_t kArchitecture = AUDIT_ARCH_X86_64;
+#elif defined(__aarch64__)
+constexpr std::uint32_t kArchitecture = AUDIT_ARCH_AARCH64;
+#elif defined(__riscv)
+constexpr std::uint32_t kArchitecture = AUDIT_ARCH_RISCV64;
+#endif
+static_assert(std::endian::native == std::endian::little);
+
+constexpr std::uint32_t kKeptCapabilities = 1u << CAP_KILL | 1u << CAP_SYS_NICE;
+constexpr unsigned long kLockedBits =
+    SECBIT_NOROOT | SECBIT_NOROOT_LOCKED | SECBIT_NO_SETUID_FIXUP | SECBIT_NO_SETUID_FIXUP_LOCKED |
+    SECBIT_KEEP_CAPS_LOCKED | SECBIT_NO_CAP_AMBIENT_RAISE | SECBIT_NO_CAP_AMBIENT_RAISE_LOCKED;
+
+/// What is not in the process already cannot be kept.
+bool KeepCapabilities(std::uint32_t kept) {
+  __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+  __user_cap_data_struct data[2] = {};
+  if (syscall(SYS_capget, &header, data) != 0) return false;
+  kept &= data[0].permitted;
+  data[0] = {kept, kept, 0};
+  data[1] = {0, 0, 0};
+  return syscall(SYS_capset, &header, data) == 0;
+}
+
+/// A user without privilege has no right to shrink the bounding set, and no need to.
+void ShrinkBoundingSet() {
+  for (unsigned long capability = 0; capability < 64; ++capability)
+    if (capability >= 32 || (kKeptCapabilities >> capability & 1) == 0)
+      prctl(PR_CAPBSET_DROP, capability, 0, 0, 0);
+}
+
+/// Where /proc hides the processes of others, it shows the user's own only to who may trace them,
+/// which a process with restricted files may not.
+bool HidesProcesses() {
+  const int file = open("/proc/1/stat", O_RDONLY | O_CLOEXEC);
+  close(file);
+  return file < 0;
+}
+
+bool RestrictFiles() {
+  constexpr std::uint64_t kRead = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
+  // All rights of the kernel's version: 13 in the first, one more in the second, third and fifth.
+  constexpr unsigned kRights[] = {0, 13, 14, 15, 15, 16};
+  const long version =
+      syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
+  if (version < 1 || HidesProcesses()) return true;
+  const landlock_ruleset_attr attributes{(1ull << kRights[version < 5 ? version : 5]) - 1};
+  const long rules = syscall(SYS_landlock_create_ruleset, &attributes, sizeof attributes, 0);
+  const int folder = open("/proc", O_PATH | O_DIRECTORY | O_CLOEXEC);
+  const landlock_path_beneath_attr beneath{kRead, folder};
+  const bool restricted =
+      rules >= 0 && folder >= 0 &&
+      syscall(SYS_landlock_add_rule, rules, LANDLOCK_RULE_PATH_BENEATH, &beneath, 0) == 0 &&
+      syscall(SYS_landlock_restrict_self, rules, 0) == 0;
+  close(folder);
+  close(static_cast<int>(rules));
+  return restricted;
+}
+
+/// An allowed system call; where `argument` is not negative, only with one of the `values` there.
+struct Rule {
+  long call;
+  int argument;
+  std::uint32_t values[4];
+  unsigned valueCount;
+};
+
+constexpr Rule kRules[] = {
+    {SYS_pread64, -1, {}, 0},
+    {SYS_read, -1, {}, 0},
+    {SYS_write, -1, {}, 0},
+    {SYS_close, -1, {}, 0},
+    {SYS_clock_gettime, -1, {}, 0},
+    {SYS_openat, 2, {O_RDONLY | O_CLOEXEC}, 1},
+    {SYS_pidfd_open, 1, {0}, 1},
+    {SYS_pidfd_send_signal, 1, {SIGTERM, SIGKILL, SIGSTOP, SIGCONT}, 4},
+    {SYS_setpriority, 0, {PRIO_PROCESS}, 1},
+    {SYS_ppoll, 1, {1}, 1},
+    {SYS_exit_group, -1, {}, 0},
+};
+
+/// The filter's program, put together at compile time.
+struct Filter {
+  sock_filter code[80] = {};
+  unsigned short size = 0;
+
+  constexpr void Add(std::uint16_t operation, std::uint32_t value, std::uint8_t yes = 0,
+                     std::uint8_t no = 0) {
+    code[size++] = {operation, yes, no, value};
+  }
+  constexpr void Load(std::size_t offset) {
+    Add(BPF_LD | BPF_W | BPF_ABS, static_cast<std::uint32_t>(offset));
+  }
+  constexpr void Return(std::uint32_t verdict) { Add(BPF_RET | BPF_K, verdict); }
+
+  constexpr Filter() {
+    constexpr std::uint16_t kIfEqual = BPF_JMP | BPF_JEQ | BPF_K;
+    Load(offsetof(seccomp_data, arch));
+    Add(kIfEqual, kArchitecture, 1, 0);
+    Return(SECCOMP_RET_KILL_PROCESS);
+    Load(offsetof(seccomp_data, nr));
+    for (const Rule& rule : kRules) {
+      // Over the load, one comparison and one verdict a value, and the refusal behind them.
+      const auto length =
+          static_cast<std::uint8_t>(rule.argument < 0 ? 1 : 2 + 2 * rule.valueCount);
+      Add(kIfEqual, static_cast<std::uint32_t>(rule.call), 0, length);
+      if (rule.argument >= 0) {
+        Load(offsetof(seccomp_data, args) + 8 * static_cast<std::size_t>(rule.argument));
+        for (unsigned value = 0; value < rule.valueCount; ++value) {
+          Add(kIfEqual, rule.values[value], 0, 1);
+          Return(SECCOMP_RET_ALLOW);
+        }
+      }
+      Return(rule.argument < 0 ? SECCOMP_RET_ALLOW : SECCOMP_RET_KILL_PROCESS);
+    }
+    Return(SECCOMP_RET_KILL_PROCESS);
+  }
+};
+
+bool RestrictCalls() {
+  static constexpr Filter kFilter;
+  const sock_fprog program{kFilter.size, const_cast<sock_filter*>(kFilter.code)};
+  return syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, 0, &program) == 0;
+}
+
+}  // namespace
+
+bool Become(const Identity& identity) {
+  ShrinkBoundingSet();
+  if (identity.privileged && prctl(PR_SET_SECUREBITS, kLockedBits, 0, 0, 0) != 0) return false;
+  if (identity.privileged && getuid() == 0 && setgroups(0, nullptr) != 0) return false;
+  if (setresgid(identity.group, identity.group, identity.group) != 0 ||
+      setresuid(identity.user, identity.user, identity.user) != 0)
+    return false;
+  prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0);
+  // The change of user may have made the process traceable again.
+  return KeepCapabilities(identity.privileged ? kKeptCapabilities : 0) &&
+         prctl(PR_SET_DUMPABLE, 0) == 0;
+}
+
+bool Confine() {
+  return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && RestrictFiles() && RestrictCalls();
+}
+
+}  // namespace lurkwell::helper

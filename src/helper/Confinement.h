@@ -1,0 +1,24 @@
+#pragma once
+
+#include <sys/types.h>
+
+namespace lurkwell::helper {
+
+/// Who the helper is once it serves.
+struct Identity {
+  uid_t user = 0;
+  gid_t group = 0;
+  /// Whether it keeps the rights to signal and to renice the processes of others.
+  bool privileged = false;
+};
+
+/// Becomes `identity` for good, with no other capability than those two. False when the kernel does
+/// not allow it; the process is of no use then and has to end.
+bool Become(const Identity& identity);
+
+/// Gives up for good what serving does not need: new rights, files outside /proc (where the kernel
+/// can do that), and all system calls but a dozen; another call ends the process. To be called
+/// last.
+bool Confine();
+
+}  // namespace lurkwell::helper

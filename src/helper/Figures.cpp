@@ -1,0 +1,184 @@
+#include "helper/Figures.h"
+
+namespace lurkwell::helper {
+
+namespace {
+
+constexpr std::size_t kFileCapacity = 16384;
+char gFile[kFileCapacity];
+
+struct Figures {
+  StatFigures stat = {};
+  std::uint64_t calls = 0, switches = 0;
+};
+
+/// Moves to the next number of the same line, and gives it; a sign is passed over. 0 where the text
+/// ends.
+std::uint64_t TakeField(std::string_view& text) {
+  while (!text.empty() && !IsDigit(text.front())) text.remove_prefix(1);
+  std::uint64_t value = 0;
+  for (; !text.empty() && IsDigit(text.front()); text.remove_prefix(1))
+    value = value * 10 + static_cast<std::uint64_t>(text.front() - '0');
+  return value;
+}
+
+/// The number behind the last place where `text` holds `key`, 0 when it does not.
+std::uint64_t NumberBehind(std::string_view text, std::string_view key) {
+  const std::size_t place = text.rfind(key);
+  if (place == std::string_view::npos) return 0;
+  text.remove_prefix(place + key.size());
+  return TakeField(text);
+}
+
+/// The text of an open file, empty where it cannot be read; valid until the next call.
+std::string_view Read(const System& system, int descriptor) {
+  if (descriptor < 0) return {};
+  const std::ptrdiff_t size = system.readFile(descriptor, gFile, sizeof gFile);
+  return {gFile, size > 0 ? static_cast<std::size_t>(size) : 0};
+}
+
+/// The files beside stat are opened before stat is read: whoever answers that read has had the pid
+/// since stat was opened, so all of them are his.
+bool Gather(const System& system, ProcessFiles& files, ProcessFiles::Place& place, unsigned groups,
+            Figures& figures) {
+  const int stat = files.Open(place, kStatFile);
+  if (stat < 0) return false;
+  const bool events = (groups & kEventsInfo) != 0;
+  const int status = events ? files.Open(place, kStatusFile) : -1;
+  const int io = events ? files.Open(place, kIoFile) : -1;
+  const bool exists = ParseStat(Read(system, stat), figures.stat);
+  if (exists) place.start = figures.stat.start;
+  std::string_view text = Read(system, exists ? status : -1);
+  figures.switches = NumberBehind(text, "\nvoluntary_ctxt_switches:") +
+                     NumberBehind(text, "\nnonvoluntary_ctxt_switches:");
+  files.Release(place, kStatusFile, status, !text.empty());
+  text = Read(system, exists ? io : -1);
+  figures.calls = NumberBehind(text, "\nsyscr:") + NumberBehind(text, "\nsyscw:");
+  files.Release(place, kIoFile, io, !text.empty());
+  files.Release(place, kStatFile, stat, exists);
+  return exists;
+}
+
+bool GatherProcess(const System& system, ProcessFiles& files, const FiguresLine& line,
+                   Figures& figures) {
+  ProcessFiles::Place& place = files.PlaceOf(line.pid);
+  const bool kept = place.files[kStatFile] != 0;
+  if (Gather(system, files, place, line.groups, figures)) return true;
+  // A descriptor kept from before says that its process is gone, not that nobody has the pid.
+  files.CloseAll(place);
+  place.start = 0;
+  return kept && Gather(system, files, place, line.groups, figures);
+}
+
+/// The first line reads: cpu USER NICE SYSTEM IDLE IOWAIT ...
+bool GatherMachine(const System& system, unsigned groups, Figures& figures) {
+  if ((groups & kThreadTime) == 0) return true;
+  const int file = system.openFile("/proc/stat");
+  std::string_view text = Read(system, file);
+  if (file >= 0) system.close(file);
+  for (int passed = 0; passed < 3; ++passed) TakeField(text);
+  figures.stat.userTicks = TakeField(text);
+  figures.stat.systemTicks = TakeField(text);
+  return true;
+}
+
+class LineWriter {
+ public:
+  LineWriter(TextWriter& answer, std::int32_t pid, std::uint32_t ticksPerSecond)
+      : mAnswer(answer), mTicksPerSecond(ticksPerSecond), mPid(mPidText, sizeof mPidText) {
+    mPid.Add(' ');
+    mPid.AddNumber(static_cast<std::uint64_t>(pid));
+    mPid.Add(' ');
+  }
+
+  void Number(std::string_view property, std::uint64_t value) {
+    Begin(property, value);
+    mAnswer.Add('\n');
+  }
+
+  void Time(std::string_view property, std::uint64_t ticks) {
+    Begin(property, ticks / mTicksPerSecond);
+    mAnswer.Add('.');
+    mAnswer.AddNumber(ticks % mTicksPerSecond * 1000000 / mTicksPerSecond, 6);
+    mAnswer.Add('\n');
+  }
+
+ private:
+  void Begin(std::string_view property, std::uint64_t value) {
+    mAnswer.Add(property);
+    mAnswer.Add(mPid.Text());
+    mAnswer.AddNumber(value);
+  }
+
+  TextWriter& mAnswer;
+  std::uint32_t mTicksPerSecond;
+  char mPidText[16];
+  TextWriter mPid;
+};
+
+/// What the kernel counts for a process as a whole has no share of ended threads; messages and
+/// copies on write are not counted here at all.
+void AddLines(const Figures& figures, unsigned groups, std::uint32_t pageSize, LineWriter& writer) {
+  const StatFigures& stat = figures.stat;
+  if (groups & kThreadTime) {
+    writer.Time("pid_user_time", stat.userTicks);
+    writer.Time("pid_system_time", stat.systemTicks);
+  }
+  if (groups & kBasicInfo) {
+    writer.Number("pid_vsz", stat.virtualSize);
+    writer.Number("pid_rsz", stat.residentPages * pageSize);
+    writer.Number("pid_suspend_count", stat.state == 'T' || stat.state == 't');
+    writer.Time("pid_terminated_user_time", 0);
+    writer.Time("pid_terminated_system_time", 0);
+    writer.Number("pid_policy", stat.policy);
+  }
+  if (groups & kEventsInfo) {
+    writer.Number("pid_faults", stat.minorFaults + stat.majorFaults);
+    writer.Number("pid_pageins", stat.majorFaults);
+    for (const char* uncounted :
+         {"pid_cow_faults", "pid_messages_sent", "pid_messages_received", "pid_syscalls_mach"})
+      writer.Number(uncounted, 0);
+    writer.Number("pid_syscalls_unix", figures.calls);
+    writer.Number("pid_csw", figures.switches);
+  }
+}
+
+}  // namespace
+
+bool ParseStat(std::string_view text, StatFigures& figures) {
+  const std::size_t open = text.find('(');
+  const std::size_t close = text.rfind(')');
+  if (open == std::string_view::npos || close == std::string_view::npos || close < open ||
+      text.size() < close + 3)
+    return false;
+  figures.name = std::string_view(text.data() + open + 1, close - open - 1);
+  figures.state = text[close + 2];
+  text.remove_prefix(close + 3);
+  std::uint64_t fields[42] = {};
+  for (unsigned field = 4; field <= 41; ++field) fields[field] = TakeField(text);
+  figures.minorFaults = fields[10];
+  figures.majorFaults = fields[12];
+  figures.userTicks = fields[14];
+  figures.systemTicks = fields[15];
+  figures.start = fields[22];
+  figures.virtualSize = fields[23];
+  figures.residentPages = fields[24];
+  figures.policy = fields[41];
+  return true;
+}
+
+bool AddFigures(const System& system, const Surroundings& surroundings, ProcessFiles& files,
+                const FiguresLine& line, TextWriter& answer) {
+  Figures figures;
+  if (!(line.pid == 0 ? GatherMachine(system, line.groups, figures)
+                      : GatherProcess(system, files, line, figures)))
+    return true;
+  const std::size_t before = answer.Size();
+  LineWriter writer(answer, line.pid, surroundings.ticksPerSecond);
+  AddLines(figures, line.groups, surroundings.pageSize, writer);
+  if (answer.Fits()) return true;
+  answer.CutTo(before);
+  return false;
+}
+
+}  // namespace lurkwell::helper

@@ -1,0 +1,108 @@
+#include "helper/OwnFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstring>
+
+#include "helper/Text.h"
+
+namespace lurkwell::helper {
+
+namespace {
+
+constexpr mode_t kOthersWrite = S_IWGRP | S_IWOTH;
+
+bool OwnedByRootAlone(const struct stat& info, uid_t) {
+  return S_ISREG(info.st_mode) && info.st_uid == 0 && (info.st_mode & kOthersWrite) == 0 &&
+         info.st_nlink == 1;
+}
+
+/// The folder is looked up by the program's path, so the path has to lead to the program again.
+bool LiesInFolderOf(uid_t user, const struct stat& program) {
+  char path[4096];
+  const ssize_t size = readlink("/proc/self/exe", path, sizeof path - 1);
+  if (size <= 0) return false;
+  path[size] = '\0';
+  char* const slash = std::strrchr(path, '/');
+  if (slash == nullptr || slash == path) return false;
+  *slash = '\0';
+  const int folder = open(path, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  struct stat info, entry;
+  const bool lies = folder >= 0 && fstat(folder, &info) == 0 && info.st_uid == user &&
+                    fstatat(folder, slash + 1, &entry, AT_SYMLINK_NOFOLLOW) == 0 &&
+                    IsSameFile(entry, program);
+  close(folder);
+  return lies;
+}
+
+}  // namespace
+
+int OpenChecked(int folder, const char* name, int flags, uid_t user,
+                bool (*accepts)(const struct stat&, uid_t)) {
+  const int handle = openat(folder, name, O_PATH | O_NOFOLLOW | O_CLOEXEC);
+  if (handle < 0) return -1;
+  struct stat info;
+  int file = -1;
+  if (fstat(handle, &info) == 0 && accepts(info, user)) {
+    char path[40];
+    TextWriter writer(path, sizeof path - 1);
+    writer.Add("/proc/self/fd/");
+    writer.AddNumber(static_cast<std::uint64_t>(handle));
+    path[writer.Size()] = '\0';
+    file = open(path, flags | O_CLOEXEC | O_NOCTTY);
+  }
+  close(handle);
+  return file;
+}
+
+bool IsSameFile(const struct stat& one, const struct stat& other) {
+  return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+int OpenOwnFile() {
+  return open("/proc/self/exe", O_RDONLY | O_CLOEXEC);
+}
+
+bool MayServe(uid_t user) {
+  const int file = OpenOwnFile();
+  struct stat info;
+  bool may = file >= 0 && fstat(file, &info) == 0 && OwnedByRootAlone(info, user) &&
+             LiesInFolderOf(user, info);
+#ifdef LURKWELL_PACKAGED
+  Digest::Value digest;
+  may = may && DigestOfFile(file, digest) && IsListed(digest);
+#endif
+  close(file);
+  return may;
+}
+
+#ifdef LURKWELL_PACKAGED
+bool IsListed(const Digest::Value& digest) {
+  static char list[65536];
+  const int file = OpenChecked(AT_FDCWD, LURKWELL_DIGEST_LIST, O_RDONLY, 0, OwnedByRootAlone);
+  if (file < 0) return false;
+  const ssize_t size = read(file, list, sizeof list);
+  close(file);
+  char wanted[65];
+  TextWriter writer(wanted, sizeof wanted);
+  for (const std::uint8_t byte : digest) {
+    writer.Add("0123456789abcdef"[byte >> 4]);
+    writer.Add("0123456789abcdef"[byte & 15]);
+  }
+  writer.Add('\n');
+  std::string_view rest(list, size > 0 ? static_cast<std::size_t>(size) : 0);
+  while (!rest.empty()) {
+    if (TakePrefix(rest, writer.Text())) return true;
+    const std::size_t end = rest.find('\n');
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  }
+  return false;
+}
+#else
+bool IsListed(const Digest::Value&) {
+  return false;
+}
+#endif
+
+}  // namespace lurkwell::helper

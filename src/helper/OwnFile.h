@@ -1,0 +1,31 @@
+#pragma once
+
+#include <sys/stat.h>
+#include <sys/types.h>
+
+#include "helper/Digest.h"
+
+namespace lurkwell::helper {
+
+/// The program's own file: who may run it with privilege, and which versions of it are known.
+
+/// Opens a file in two steps, so that nothing but what was checked is ever opened: first a handle
+/// without access, over no link, then through that handle the file it stands for. -1 when `accepts`
+/// says no or the file cannot be opened.
+int OpenChecked(int folder, const char* name, int flags, uid_t user,
+                bool (*accepts)(const struct stat&, uid_t user));
+
+bool IsSameFile(const struct stat& one, const struct stat& other);
+
+/// Opens the running program's file for reading, -1 on failure.
+int OpenOwnFile();
+
+/// Whether the running file, started set-user-id by `user`, may use the rights this gave it: owned
+/// by root, one link, in a folder of that user, and in a package still on the list of versions.
+bool MayServe(uid_t user);
+
+/// Whether a version with this digest is on the list that the package keeps; never in a build tree,
+/// which has no list.
+bool IsListed(const Digest::Value& digest);
+
+}  // namespace lurkwell::helper

@@ -1,0 +1,76 @@
+#include <errno.h>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <sys/time.h>
+#include <sys/un.h>
+#include <time.h>
+#include <unistd.h>
+
+#include "helper/System.h"
+
+namespace lurkwell::helper {
+
+namespace {
+
+int gLog = -1;
+
+template <typename Result>
+Result OrError(Result result) {
+  return result < 0 ? static_cast<Result>(-errno) : result;
+}
+
+int OpenProcess(std::int32_t pid) {
+  return OrError(static_cast<int>(syscall(SYS_pidfd_open, pid, 0)));
+}
+
+int SignalProcess(int process, int signal) {
+  return OrError(static_cast<int>(syscall(SYS_pidfd_send_signal, process, signal, nullptr, 0)));
+}
+
+int SetNice(std::int32_t pid, int nice) {
+  return OrError(setpriority(PRIO_PROCESS, static_cast<id_t>(pid), nice));
+}
+
+int OpenFile(const char* path) {
+  return OrError(open(path, O_RDONLY | O_CLOEXEC));
+}
+
+std::ptrdiff_t ReadFile(int file, char* buffer, std::size_t capacity) {
+  return OrError(pread(file, buffer, capacity, 0));
+}
+
+void Close(int descriptor) {
+  close(descriptor);
+}
+
+std::uint32_t Milliseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+  return static_cast<std::uint32_t>(now.tv_sec * 1000 + now.tv_nsec / 1000000);
+}
+
+void Log(std::string_view line) {
+  if (gLog >= 0 && write(gLog, line.data(), line.size()) < 0) return;
+}
+
+}  // namespace
+
+const System kRealSystem = {OpenProcess, SignalProcess, SetNice,      OpenFile,
+                            ReadFile,    Close,         Milliseconds, Log};
+
+/// A full log holds an action up for a moment only: the application waits 250 ms for its answer.
+void ConnectLog() {
+  constexpr sockaddr_un kAddress{AF_UNIX, "/dev/log"};
+  constexpr timeval kPatience{0, 100000};
+  const int log = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+  if (log < 0) return;
+  setsockopt(log, SOL_SOCKET, SO_SNDTIMEO, &kPatience, sizeof kPatience);
+  if (connect(log, reinterpret_cast<const sockaddr*>(&kAddress), sizeof kAddress) == 0)
+    gLog = log;
+  else
+    close(log);
+}
+
+}  // namespace lurkwell::helper

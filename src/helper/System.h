@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace lurkwell::helper {
+
+/// Everything the helper asks of the machine once it serves. Tests put a recording one in its
+/// place. Each call returns a negative error number when it fails.
+struct System {
+  /// A descriptor that stands for the process itself, whoever has its pid later.
+  int (*openProcess)(std::int32_t pid);
+  int (*signalProcess)(int process, int signal);
+  int (*setNice)(std::int32_t pid, int nice);
+  /// Opens a file below /proc for reading.
+  int (*openFile)(const char* path);
+  /// Reads the file from its start; the number of bytes.
+  std::ptrdiff_t (*readFile)(int file, char* buffer, std::size_t capacity);
+  void (*close)(int descriptor);
+  /// Milliseconds since some moment before; wraps.
+  std::uint32_t (*milliseconds)();
+  /// One line for the system log; without effect where there is none.
+  void (*log)(std::string_view line);
+};
+
+/// What stays the same while the helper serves.
+struct Surroundings {
+  /// The effective user id that the kernel gave the helper at its start.
+  std::uint32_t startUser = 0;
+  /// The user for whom it works.
+  std::uint32_t user = 0;
+  std::int32_t ownPid = 0;
+  /// The application at the other end, or -1 when it is not known.
+  std::int32_t peerPid = -1;
+  std::uint32_t ticksPerSecond = 100;
+  std::uint32_t pageSize = 4096;
+  /// How many descriptors of process files may stay open.
+  std::uint32_t keptFiles = 0;
+};
+
+/// The machine that the helper runs on.
+extern const System kRealSystem;
+
+/// Connects to the system log, for kRealSystem's log; to be called before the confinement.
+void ConnectLog();
+
+}  // namespace lurkwell::helper

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace lurkwell::helper {
+
+/// Writes text into a buffer of the caller, never past its end: what does not fit is left out
+/// whole, and Fits() says so until the text is cut back.
+class TextWriter {
+ public:
+  TextWriter(char* buffer, std::size_t capacity, std::size_t size = 0)
+      : mBuffer(buffer), mCapacity(capacity), mSize(size) {}
+
+  void Add(std::string_view text) {
+    if (text.size() > mCapacity - mSize) {
+      mFits = false;
+    } else {
+      std::memcpy(mBuffer + mSize, text.data(), text.size());
+      mSize += text.size();
+    }
+  }
+
+  void Add(char character) { Add(std::string_view(&character, 1)); }
+
+  /// `value` in decimal with at least `width` digits.
+  void AddNumber(std::uint64_t value, unsigned width = 1) {
+    char digits[20];
+    std::size_t first = sizeof digits;
+    do {
+      digits[--first] = static_cast<char>('0' + value % 10);
+      value /= 10;
+    } while (first > 0 && (value > 0 || sizeof digits - first < width));
+    Add(std::string_view(digits + first, sizeof digits - first));
+  }
+
+  void CutTo(std::size_t size) {
+    mSize = size;
+    mFits = true;
+  }
+
+  bool Fits() const { return mFits; }
+  std::size_t Size() const { return mSize; }
+  std::string_view Text() const { return {mBuffer, mSize}; }
+
+ private:
+  char* mBuffer;
+  std::size_t mCapacity;
+  std::size_t mSize;
+  bool mFits = true;
+};
+
+/// Removes `prefix` from the front of `text`; false, and nothing removed, when it is not there.
+inline bool TakePrefix(std::string_view& text, std::string_view prefix) {
+  if (text.size() < prefix.size() || std::memcmp(text.data(), prefix.data(), prefix.size()) != 0)
+    return false;
+  text.remove_prefix(prefix.size());
+  return true;
+}
+
+inline bool IsDigit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+/// Removes a plain decimal (digits alone, no leading zero) of at most `limit` from the front of
+/// `text`; false when there is none or it is larger.
+inline bool TakeNumber(std::string_view& text, std::int32_t limit, std::int32_t& number) {
+  if (text.empty() || !IsDigit(text.front())) return false;
+  const bool leadingZero = text.front() == '0';
+  std::int64_t value = 0;
+  std::size_t digits = 0;
+  for (; !text.empty() && IsDigit(text.front()); text.remove_prefix(1), ++digits) {
+    value = value * 10 + (text.front() - '0');
+    if (value > limit) return false;
+  }
+  number = static_cast<std::int32_t>(value);
+  return !leadingZero || digits == 1;
+}
+
+}  // namespace lurkwell::helper

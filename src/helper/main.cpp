@@ -1,0 +1,90 @@
+// Lurkwell_helper: signals and renices the processes of others for the application of one user, and
+// answers with figures about processes. The only program of the system that has rights of its own.
+
+#include <sys/auxv.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "helper/Channel.h"
+#include "helper/Confinement.h"
+#include "helper/Launch.h"
+#include "helper/OwnFile.h"
+#include "helper/PermissionStep.h"
+#include "helper/Session.h"
+
+namespace lurkwell::helper {
+
+namespace {
+
+constexpr int kExitUsage = 64;
+constexpr int kExitSystem = 71;
+constexpr int kExitChannel = 76;
+
+Session gSession;
+
+/// As whom to serve, and the user id to report: 0 promises the rights to signal and to renice, so
+/// whoever may not have them is told his own. For root, the owner of the pipes tells whether root
+/// itself or `asking` is the one to serve.
+Identity TakeIdentity(uid_t asking, const char* pipe, uid_t& reported) {
+  Identity identity{getuid(), getgid(), geteuid() == 0};
+  if (identity.user != 0 && identity.privileged) identity.privileged = MayServe(identity.user);
+  reported = identity.privileged ? 0 : identity.user;
+  struct stat info;
+  if (identity.user == 0 && asking != 0 && lstat(pipe, &info) == 0 && info.st_uid == asking) {
+    identity.user = asking;
+    identity.group = info.st_gid;
+  }
+  return identity;
+}
+
+/// A quarter of the descriptors that the helper may have, and no more than pay for the kernel's
+/// memory behind them.
+std::uint32_t KeptFiles() {
+  constexpr rlim_t kMostKept = 4096;
+  rlimit limit{};
+  return getrlimit(RLIMIT_NOFILE, &limit) == 0
+             ? static_cast<std::uint32_t>(std::min(limit.rlim_cur / 4, kMostKept))
+             : 0;
+}
+
+int Run(const Arguments& arguments, uid_t asking) {
+  Surroundings surroundings;
+  const Identity identity = TakeIdentity(asking, arguments.requests, surroundings.startUser);
+  ConnectLog();
+  Channel channel;
+  // Only the user himself sees who holds the other end, and root without its rights is not himself.
+  const bool isRoot = identity.user == 0;
+  if (chdir("/") != 0 || (!isRoot && !Become(identity))) return kExitSystem;
+  if (!OpenChannel(arguments.requests, arguments.answers, identity.user, channel))
+    return kExitChannel;
+  surroundings.user = identity.user;
+  surroundings.ownPid = getpid();
+  surroundings.peerPid = FindPeer(channel.requests);
+  if (isRoot && !Become(identity)) return kExitSystem;
+  surroundings.ticksPerSecond = static_cast<std::uint32_t>(getauxval(AT_CLKTCK));
+  surroundings.pageSize = static_cast<std::uint32_t>(getauxval(AT_PAGESZ));
+  surroundings.keptFiles = KeptFiles();
+  gSession.Begin(kRealSystem, surroundings);
+  if (!Confine()) return kExitSystem;
+  Serve(channel, gSession);
+  return 0;
+}
+
+}  // namespace
+
+}  // namespace lurkwell::helper
+
+int main(int argc, char** argv) {
+  using namespace lurkwell::helper;
+  static Arguments arguments;
+  if (!TakeArguments(argc, argv, arguments)) return kExitUsage;
+  const uid_t asking = TakeAskingUser();
+  if (!ResetProcess(!arguments.setPermissions)) return kExitSystem;
+  if (arguments.setPermissions) return SetPermissions(asking);
+  NameProcess(argc, argv);
+  return Run(arguments, asking);
+}

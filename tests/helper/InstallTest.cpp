@@ -1,0 +1,315 @@
+// Who gets a copy with rights, who may use one, and which versions may.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <signal.h>
+#include <sys/mman.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cstring>
+#include <filesystem>
+#include <thread>
+
+#include "helper/Digest.h"
+#include "helper/HelperProcess.h"
+
+namespace lurkwell::helper::testing {
+namespace {
+
+constexpr int kRefused = 77;
+
+/// A user's data folder with the application's folder and its copy of the helper in it.
+struct Home {
+  explicit Home(uid_t user, const std::string& program = HelperPath()) : data(user) {
+    path = data / "Lurkwell";
+    copy = path + "/Lurkwell_helper";
+    std::filesystem::create_directory(path);
+    if (chown(path.c_str(), user, user) != 0) throw std::runtime_error("chown");
+    Install(program, copy, user, user, 0755);
+  }
+
+  struct stat Info() const {
+    struct stat info {};
+    lstat(copy.c_str(), &info);
+    return info;
+  }
+
+  Folder data;
+  std::string path, copy;
+};
+
+std::string EffectiveUser(uid_t user, const std::string& program) {
+  HelperProcess helper(user, program);
+  return helper.IsOpen() ? helper.Ask("geteuid") : "closed";
+}
+
+TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
+  const Home home(kUser);
+  const struct stat before = home.Info();
+  ASSERT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0);
+  const struct stat after = home.Info();
+  EXPECT_NE(after.st_ino, before.st_ino);
+  EXPECT_EQ(after.st_uid, 0u);
+  EXPECT_EQ(after.st_gid, kUser);
+  EXPECT_EQ(after.st_mode, mode_t{S_IFREG | 04750});
+  EXPECT_EQ(ReadAll(home.copy), ReadAll(HelperPath()));
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path), {}), 1);
+  HelperProcess helper(kUser, home.copy);
+  EXPECT_EQ(helper.Ask("geteuid"), "0");
+  Canary foreign(kStranger);
+  EXPECT_EQ(helper.Act("renice " + std::to_string(foreign.Pid()) + " -19"), "ok");
+  EXPECT_EQ(helper.Act("kill_harsh " + std::to_string(foreign.Pid())), "ok");
+  // Once more over the file that it has made itself, and not by somebody who is no administrator.
+  EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0);
+  for (const uid_t user : {kUser, kStranger}) {
+    const Home other(user);
+    EXPECT_EQ(
+        InChild([&] {
+          if (chmod(home.data.Path().c_str(), 0755) != 0 || chmod(home.path.c_str(), 0755) != 0)
+            return 98;
+          if (setresgid(kUser, kUser, kUser) != 0 || setresuid(user, user, user) != 0) return 98;
+          if (chdir(other.path.c_str()) != 0) return 98;
+          execl(home.copy.c_str(), "h", "--set_permissions_appropriately", nullptr);
+          return 97;
+        }),
+        kRefused);
+    EXPECT_EQ(other.Info().st_uid, user);
+  }
+}
+
+TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
+  using Spoil = std::function<void(Home&)>;
+  const auto shell = [](const std::string& command) {
+    ASSERT_EQ(std::system(command.c_str()), 0) << command;
+  };
+  const std::vector<std::pair<const char*, Spoil>> cases = {
+      {"other bytes", [](Home& home) { WriteAll(home.copy, "#!/bin/sh\n"); }},
+      {"one byte more", [&](Home& home) { shell("printf x >> " + home.copy); }},
+      {"no copy", [&](Home& home) { shell("rm " + home.copy); }},
+      {"link",
+       [&](Home& home) {
+         shell("cd " + home.path + " && mv L* real && ln -s real Lurkwell_helper");
+       }},
+      {"second name", [&](Home& home) { shell("ln " + home.copy + " " + home.path + "/second"); }},
+      {"pipe", [&](Home& home) { shell("rm " + home.copy + " && mkfifo " + home.copy); }},
+      {"folder", [&](Home& home) { shell("rm " + home.copy + " && mkdir " + home.copy); }},
+      {"stranger's copy", [&](Home& home) { shell("chown 61002 " + home.copy); }},
+      {"stranger's folder", [&](Home& home) { shell("chown 61002 " + home.path); }},
+      {"stranger above", [&](Home& home) { shell("chown 61002 " + home.data.Path()); }},
+      {"all may write", [&](Home& home) { shell("chmod 0777 " + home.path); }},
+      {"group may write above",
+       [&](Home& home) {
+         shell("chmod 0770 " + home.data.Path() + " && chgrp 61002 " + home.data.Path());
+       }},
+  };
+  for (const auto& [name, spoil] : cases) {
+    Home home(kUser);
+    spoil(home);
+    const struct stat before = home.Info();
+    EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), kRefused) << name;
+    const struct stat after = home.Info();
+    EXPECT_EQ(before.st_ino, after.st_ino) << name;
+    EXPECT_EQ(before.st_mode, after.st_mode) << name;
+    EXPECT_EQ(before.st_uid, after.st_uid) << name;
+    EXPECT_FALSE(std::filesystem::exists(home.path + "/.Lurkwell_helper.new")) << name;
+  }
+  const Home home(kUser);
+  EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kStranger), kRefused) << "another's folder";
+  // The user's copy cannot give rights to itself.
+  EXPECT_EQ(RunPermissionStep(home.copy, home.path, kUser), kRefused) << "itself";
+  EXPECT_EQ(home.Info().st_uid, kUser);
+}
+
+/// Whatever in the folder has the right to run as root, has the helper's own bytes.
+bool OnlyHelpersAreBlessed(const std::string& path, const std::string& bytes) {
+  for (const auto& entry : std::filesystem::directory_iterator(path)) {
+    struct stat info {};
+    if (lstat(entry.path().c_str(), &info) == 0 && S_ISREG(info.st_mode) &&
+        (info.st_mode & S_ISUID) != 0 && info.st_uid == 0 && ReadAll(entry.path()) != bytes)
+      return false;
+  }
+  return true;
+}
+
+/// In a process of the user: swaps the copy for other files, links and folders as fast as it can.
+[[noreturn]] void SwapForEver(const std::string& path) {
+  BecomeUser(kUser);
+  if (chdir(path.c_str()) != 0) _exit(1);
+  for (unsigned round = 0;; ++round) {
+    std::filesystem::copy_options over = std::filesystem::copy_options::overwrite_existing;
+    std::error_code ignored;
+    switch (round % 5) {
+      case 0:
+        rename("evil", "Lurkwell_helper");
+        break;
+      case 1:
+        rename(".Lurkwell_helper.new", "caught");
+        break;
+      case 2:
+        rename("good", "Lurkwell_helper");
+        break;
+      case 3:
+        unlink("Lurkwell_helper");
+        if (symlink("/bin/sh", "Lurkwell_helper") != 0) continue;
+        break;
+      default:
+        rename("evil", ".Lurkwell_helper.new");
+        if (link("evil", "Lurkwell_helper") != 0) continue;
+    }
+    std::filesystem::copy_file("/bin/true", "evil", over, ignored);
+    std::filesystem::copy_file("original", "good", over, ignored);
+  }
+}
+
+TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
+  const Home home(kUser);
+  Install(HelperPath(), home.path + "/original", kUser, kUser, 0755);
+  const std::string bytes = ReadAll(HelperPath());
+  const pid_t swapper = fork();
+  if (swapper == 0) SwapForEver(home.path);
+  int done = 0, refused = 0;
+  for (int round = 0; round < 500; ++round) {
+    const int status = RunPermissionStep(HelperPath(), home.path, kUser);
+    done += status == 0;
+    refused += status == kRefused;
+    if (round % 20 == 0) {
+      kill(swapper, SIGSTOP);
+      ASSERT_TRUE(OnlyHelpersAreBlessed(home.path, bytes)) << round;
+      kill(swapper, SIGCONT);
+    }
+  }
+  kill(swapper, SIGKILL);
+  WaitFor(swapper);
+  EXPECT_TRUE(OnlyHelpersAreBlessed(home.path, bytes));
+  EXPECT_EQ(done + refused, 500);
+  EXPECT_GT(refused, 0);
+}
+
+TEST(InstallTest, AFileHeldOpenBeforeTheStepNeverBecomesTheHelper) {
+  const std::string bytes = ReadAll(HelperPath());
+  for (int round = 0; round < 50; ++round) {
+    const Home home(kUser);
+    const int file = open(home.copy.c_str(), O_RDWR | O_CLOEXEC);
+    void* const mapping = mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+    ASSERT_NE(mapping, MAP_FAILED);
+    ASSERT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0);
+    std::memset(mapping, 'x', 4096);
+    ASSERT_EQ(pwrite(file, "evil", 4, 5000), 4);
+    munmap(mapping, 4096);
+    close(file);
+    ASSERT_EQ(ReadAll(home.copy), bytes);
+    ASSERT_EQ(home.Info().st_mode & 07777, mode_t{04750});
+  }
+}
+
+TEST(InstallTest, OnlyTheUserWhoseFolderItIsIsServedWithPrivilege) {
+  int cases = 0;
+  for (const mode_t mode : {04750u, 04710u, 04755u})
+    for (const char* place : {"own", "stranger's", "root's"}) {
+      const uid_t owner = *place == 'o' ? kUser : *place == 's' ? kStranger : 0;
+      const Folder folder(owner, 0755);
+      const std::string program = folder / "Lurkwell_helper";
+      Install(HelperPath(), program, 0, kUser, mode);
+      // The user, a stranger in the user's group, a stranger outside, nobody.
+      for (const auto& [user, group] : std::vector<std::pair<uid_t, gid_t>>{
+               {kUser, kUser}, {kStranger, kUser}, {kStranger, kStranger}, {65534, 65534}}) {
+        ++cases;
+        const int end = InChild([&, who = user, with = group] {
+          if (setresgid(with, with, with) != 0 || setresuid(who, who, who) != 0) return 98;
+          HelperProcess helper(who, program);
+          if (!helper.IsOpen()) return 1;
+          return helper.Ask("geteuid") == "0" ? 0 : 2;
+        });
+        EXPECT_EQ(end == 0, user == owner && (group == kUser || mode == 04755))
+            << place << ' ' << user << ' ' << group << ' ' << end;
+      }
+    }
+  EXPECT_EQ(cases, 36);
+}
+
+std::string HexDigest(const std::string& path) {
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  Digest::Value value{};
+  EXPECT_TRUE(DigestOfFile(file, value));
+  close(file);
+  std::string hex;
+  for (const std::uint8_t byte : value) {
+    hex += "0123456789abcdef"[byte >> 4];
+    hex += "0123456789abcdef"[byte & 15];
+  }
+  return hex;
+}
+
+/// A helper built for a package, whose list lies in a folder that this test has to itself.
+class PackagedTest : public ::testing::Test {
+ protected:
+  static constexpr char kFolder[] = LURKWELL_TEST_PACKAGE;
+  const std::string mProgram = LURKWELL_TEST_PACKAGED_HELPER;
+  const std::string mList = std::string(kFolder) + "/helper-digests";
+  const std::string mOther = std::string(64, 'a') + '\n';
+
+  void SetUp() override {
+    ASSERT_EQ(unshare(CLONE_NEWNS), 0);
+    ASSERT_EQ(mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
+    ASSERT_EQ(mount("none", kFolder, "tmpfs", 0, "mode=755"), 0);
+    WriteList(mOther + HexDigest(mProgram) + '\n');
+  }
+
+  void WriteList(const std::string& text) {
+    unlink(mList.c_str());
+    WriteAll(mList, text);
+    chmod(mList.c_str(), 0644);
+  }
+};
+
+TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
+  const std::string own = HexDigest(mProgram) + '\n';
+  Home home(kUser, mProgram);
+  ASSERT_EQ(RunPermissionStep(mProgram, home.path, kUser), 0);
+  const auto keepsRights = [&] { return EffectiveUser(kUser, home.copy) == "0"; };
+  ASSERT_TRUE(keepsRights());
+  for (const std::string& list :
+       {std::string(), mOther, own.substr(0, 64), own.substr(1), 'x' + own, mOther + ' ' + own}) {
+    WriteList(list);
+    EXPECT_FALSE(keepsRights()) << list;
+  }
+  unlink(mList.c_str());
+  EXPECT_FALSE(keepsRights()) << "no list";
+  WriteList(own);
+  ASSERT_EQ(chown(mList.c_str(), kUser, 0), 0);
+  EXPECT_FALSE(keepsRights()) << "the user's list";
+  WriteList(own);
+  chmod(mList.c_str(), 0664);
+  EXPECT_FALSE(keepsRights()) << "a list that a group may write";
+  ASSERT_EQ(rename(mList.c_str(), (mList + ".real").c_str()), 0);
+  ASSERT_EQ(symlink((mList + ".real").c_str(), mList.c_str()), 0);
+  EXPECT_FALSE(keepsRights()) << "a link";
+  WriteList(own);
+  ASSERT_TRUE(keepsRights());
+  const std::string second = home.path + "/second";
+  ASSERT_EQ(link(home.copy.c_str(), second.c_str()), 0);
+  EXPECT_FALSE(keepsRights()) << "two names";
+  ASSERT_EQ(unlink(second.c_str()), 0);
+  const Folder elsewhere(0, 0755);
+  ASSERT_EQ(rename(home.copy.c_str(), (elsewhere / "h").c_str()), 0);
+  EXPECT_EQ(EffectiveUser(kUser, elsewhere / "h"), std::to_string(kUser)) << "moved";
+}
+
+TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
+  Home home(kUser, mProgram);
+  WriteAll(home.copy, "an older version");
+  EXPECT_EQ(RunPermissionStep(mProgram, home.path, kUser), kRefused);
+  WriteList(HexDigest(mProgram) + '\n' + HexDigest(home.copy) + '\n');
+  EXPECT_EQ(RunPermissionStep(mProgram, home.path, kUser), 0);
+  EXPECT_EQ(ReadAll(home.copy), ReadAll(mProgram));
+  // The program that runs has to be root's.
+  const Folder folder(kUser, 0755);
+  Install(mProgram, folder / "twin", kUser, kUser, 0755);
+  EXPECT_EQ(RunPermissionStep(folder / "twin", home.path, kUser), kRefused);
+}
+
+}  // namespace
+}  // namespace lurkwell::helper::testing

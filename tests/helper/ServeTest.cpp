@@ -1,0 +1,407 @@
+// The real helper between real pipes.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <fstream>
+#include <memory>
+#include <sstream>
+#include <thread>
+
+#include "helper/HelperProcess.h"
+#include "helper/Session.h"
+
+namespace lurkwell::helper::testing {
+namespace {
+
+constexpr int kExitChannel = 76;
+
+std::string Proc(pid_t pid, const char* file) {
+  return ReadAll("/proc/" + std::to_string(pid) + '/' + file);
+}
+
+/// The value behind "KEY:" in a file of lines.
+std::string Value(const std::string& text, const std::string& key) {
+  const std::size_t place = ("\n" + text).find("\n" + key + ":");
+  if (place == std::string::npos) return {};
+  std::istringstream stream(text.substr(place + key.size() + 1));
+  std::string value;
+  stream >> value;
+  return value;
+}
+
+TEST(ServeTest, WorksAsTheUserWithoutRightsAndUnderItsOwnName) {
+  for (const uid_t user : {uid_t{0}, kUser}) {
+    HelperProcess helper(user);
+    ASSERT_TRUE(helper.IsOpen());
+    EXPECT_EQ(helper.Ask("geteuid"), std::to_string(user));
+    const std::string status = Proc(helper.Pid(), "status");
+    EXPECT_EQ(Value(status, "Name"), "lkw_helper_daem");
+    EXPECT_EQ(Proc(helper.Pid(), "cmdline").substr(0, 16), "lkw_helper_daemo");
+    EXPECT_EQ(Value(status, "Seccomp"), "2");
+    EXPECT_EQ(Value(status, "NoNewPrivs"), "1");
+    // Root keeps the two rights to signal and to renice, a user has none.
+    EXPECT_EQ(Value(status, "CapPrm"), user == 0 ? "0000000000800020" : "0000000000000000");
+    EXPECT_EQ(Value(status, "CapEff"), Value(status, "CapPrm"));
+    EXPECT_EQ(Value(status, "CapInh"), "0000000000000000");
+    EXPECT_LE(std::stoi(Value(status, "VmHWM")), 2048);
+    // A stopped helper goes on where it was.
+    kill(helper.Pid(), SIGSTOP);
+    ASSERT_TRUE(helper.Send("geteuid"));
+    kill(helper.Pid(), SIGCONT);
+    EXPECT_EQ(helper.Receive(), std::to_string(user));
+    EXPECT_EQ(helper.Close(), 0);
+  }
+}
+
+TEST(ServeTest, StartedByRootForAUserItIsThatUserWithTwoRights) {
+  const auto asking = [](const char* variable) {
+    return [variable] { setenv(variable, "61001", 1); };
+  };
+  for (const char* variable : {"PKEXEC_UID", "SUDO_UID"}) {
+    HelperProcess helper(kUser, HelperPath(), asking(variable), true);
+    ASSERT_TRUE(helper.IsOpen());
+    EXPECT_EQ(helper.Ask("geteuid"), "0");
+    const std::string status = Proc(helper.Pid(), "status");
+    EXPECT_NE(status.find("Uid:\t61001\t61001\t61001\t61001\nGid:\t61001\t61001\t61001\t61001\n"),
+              std::string::npos);
+    EXPECT_EQ(Value(status, "Groups"), "NStgid:") << "keeps root's groups";
+    EXPECT_EQ(Value(status, "CapBnd"), "0000000000800020");
+    EXPECT_EQ(Value(status, "CapPrm"), "0000000000800020");
+  }
+  // Pipes of a user for whom nobody asked are not root's to open.
+  EXPECT_FALSE(HelperProcess(kStranger, HelperPath(), asking("PKEXEC_UID"), true).IsOpen());
+}
+
+TEST(ServeTest, ActsOnlyWhereTheUserMayAndNeverHaltsItsApplication) {
+  for (const uid_t user : {uid_t{0}, kUser})
+    EXPECT_EQ(InChild([user] {
+                if (user != 0) BecomeUser(user);
+                HelperProcess helper(user);
+                const std::string self = std::to_string(getpid());
+                if (helper.Act("kill_halt " + self) != "!Error not permitted\n") return 1;
+                return helper.Act("kill_cont " + self) == "ok" ? 0 : 2;
+              }),
+              0);
+  Canary own(kUser), foreign(kStranger);
+  while (own.State() != 'S' || foreign.State() != 'S') std::this_thread::yield();
+  HelperProcess helper(kUser);
+  const std::string mine = std::to_string(own.Pid()), other = std::to_string(foreign.Pid());
+  EXPECT_EQ(helper.Act("kill_harsh " + other), "!Error refused by the system\n");
+  EXPECT_EQ(helper.Act("renice " + other + " 5"), "!Error refused by the system\n");
+  EXPECT_EQ(helper.Act("renice " + mine + " 5"), "ok");
+  EXPECT_EQ(getpriority(PRIO_PROCESS, static_cast<id_t>(own.Pid())), 5);
+  EXPECT_EQ(helper.Act("renice " + mine + " -19"), "!Error refused by the system\n");
+  EXPECT_EQ(helper.Act("kill_halt " + mine), "ok");
+  EXPECT_EQ(own.State(), 'T');
+  EXPECT_NE(helper.Figures("pid_internal_basic_info " + mine + "\n")
+                .find("pid_suspend_count " + mine + " 1\n"),
+            std::string::npos);
+  EXPECT_EQ(helper.Act("kill_cont " + mine), "ok");
+  EXPECT_NE(own.State(), 'T');
+  EXPECT_EQ(helper.Act("kill_normal " + mine), "ok");
+  while (own.EndedBy() == 0) std::this_thread::yield();
+  EXPECT_EQ(own.EndedBy(), SIGTERM);
+  EXPECT_EQ(helper.Act("kill_normal " + mine), "!Error no such process\n");
+  EXPECT_EQ(foreign.State(), 'S');
+}
+
+/// The figures of `pid` as the files in /proc have them, taken apart with streams.
+std::string ExpectedFigures(pid_t pid, bool withCalls) {
+  const std::string stat = Proc(pid, "stat"), status = Proc(pid, "status"), io = Proc(pid, "io");
+  std::istringstream stream(stat.substr(stat.rfind(')') + 2));
+  std::vector<std::string> fields(3);
+  for (std::string field; stream >> field;) fields.push_back(field);
+  const auto number = [&](std::size_t field) { return std::stoull(fields[field]); };
+  const auto time = [&](std::size_t field) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%llu.%06llu", number(field) / 100,
+                  number(field) % 100 * 10000);
+    return std::string(text);
+  };
+  const std::string who = ' ' + std::to_string(pid) + ' ';
+  std::ostringstream text;
+  text << "pid_user_time" << who << time(14) << "\npid_system_time" << who << time(15)
+       << "\npid_vsz" << who << number(23) << "\npid_rsz" << who << number(24) * 4096
+       << "\npid_suspend_count" << who << 0 << "\npid_terminated_user_time" << who << "0.000000"
+       << "\npid_terminated_system_time" << who << "0.000000\npid_policy" << who << number(41)
+       << "\npid_faults" << who << number(10) + number(12) << "\npid_pageins" << who << number(12);
+  for (const char* property :
+       {"pid_cow_faults", "pid_messages_sent", "pid_messages_received", "pid_syscalls_mach"})
+    text << '\n' << property << who << 0;
+  text << "\npid_syscalls_unix" << who
+       << (withCalls ? std::stoull(Value(io, "syscr")) + std::stoull(Value(io, "syscw")) : 0)
+       << "\npid_csw" << who
+       << std::stoull(Value(status, "voluntary_ctxt_switches")) +
+              std::stoull(Value(status, "nonvoluntary_ctxt_switches"))
+       << '\n';
+  return text.str();
+}
+
+TEST(ServeTest, FiguresAgreeWithProcFor50Processes) {
+  std::vector<std::unique_ptr<Canary>> canaries;
+  for (int count = 0; count < 50; ++count)
+    canaries.push_back(std::make_unique<Canary>(count % 2 == 0 ? kUser : kStranger));
+  // Without confinement, the calls of root's view are counted too.
+  const auto session = std::make_unique<Session>();
+  session->Begin(kRealSystem, {.ownPid = getpid(), .keptFiles = 30});
+  HelperProcess helper(kUser);
+  for (const auto& canary : canaries) {
+    while (canary->State() != 'S') std::this_thread::yield();
+    const std::string line =
+        "pid_internal_thread_time_basic_info_events_info " + std::to_string(canary->Pid()) + "\n";
+    EXPECT_EQ(session->Answer("Lkw Info Extraction:\n" + line),
+              ExpectedFigures(canary->Pid(), true));
+    EXPECT_EQ(helper.Figures(line), ExpectedFigures(canary->Pid(), false));
+  }
+  std::istringstream machine(helper.Figures("pid_internal_thread_time 0\n"));
+  std::istringstream stat(ReadAll("/proc/stat"));
+  std::string word;
+  double idle = 0, before = 0;
+  machine >> word >> word >> before;
+  stat >> word >> word >> word >> word >> idle;
+  EXPECT_NEAR(before, idle / 100, 5);
+}
+
+TEST(ServeTest, OpensNothingButAPrivatePipeOfTheUser) {
+  // Each makes something at a path; the helper gets it in the place of its first or second pipe.
+  using Make = std::function<void(const std::string&)>;
+  const auto pipe = [](const std::string& path, uid_t owner, mode_t mode) {
+    ASSERT_EQ(mkfifo(path.c_str(), mode), 0);
+    ASSERT_EQ(chown(path.c_str(), owner, owner), 0);
+    ASSERT_EQ(chmod(path.c_str(), mode), 0);
+  };
+  const auto device = [](const std::string& path, mode_t type, unsigned major, unsigned minor) {
+    ASSERT_EQ(mknod(path.c_str(), type | 0666, makedev(major, minor)), 0);
+    ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
+  };
+  const std::vector<std::pair<const char*, Make>> kinds = {
+      {"nothing", [](const std::string&) {}},
+      {"plain file",
+       [](const std::string& path) {
+         WriteAll(path, "geteuid");
+         ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
+       }},
+      {"folder", [](const std::string& path) { mkdir(path.c_str(), 0777); }},
+      {"character device", [&](const std::string& path) { device(path, S_IFCHR, 1, 3); }},
+      {"block device", [&](const std::string& path) { device(path, S_IFBLK, 7, 77); }},
+      {"link to a pipe",
+       [&](const std::string& path) {
+         pipe(path + ".real", kUser, 0600);
+         ASSERT_EQ(symlink((path + ".real").c_str(), path.c_str()), 0);
+       }},
+      {"link to nothing",
+       [](const std::string& path) { ASSERT_EQ(symlink("/nowhere", path.c_str()), 0); }},
+      {"second name",
+       [&](const std::string& path) {
+         pipe(path, kUser, 0600);
+         ASSERT_EQ(link(path.c_str(), (path + ".second").c_str()), 0);
+       }},
+      {"root's pipe", [&](const std::string& path) { pipe(path, 0, 0600); }},
+      {"stranger's pipe", [&](const std::string& path) { pipe(path, kStranger, 0600); }},
+      {"pipe for the group", [&](const std::string& path) { pipe(path, kUser, 0620); }},
+      {"pipe for all readers", [&](const std::string& path) { pipe(path, kUser, 0604); }},
+      {"pipe for all", [&](const std::string& path) { pipe(path, kUser, 0666); }},
+      {"socket",
+       [](const std::string& path) {
+         sockaddr_un address{AF_UNIX, {}};
+         path.copy(address.sun_path, sizeof address.sun_path - 1);
+         const int server = socket(AF_UNIX, SOCK_STREAM, 0);
+         ASSERT_EQ(bind(server, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+         close(server);
+         ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
+       }},
+  };
+  for (const auto& [name, make] : kinds)
+    for (const bool first : {true, false}) {
+      const Folder folder(kUser);
+      const std::string good = folder / "good", bad = folder / "bad";
+      pipe(good, kUser, 0600);
+      make(bad);
+      // The test holds the good end open, so that only the bad one can stop the helper.
+      const int end = open(good.c_str(), O_RDWR | O_CLOEXEC);
+      ASSERT_EQ(write(end, "hello\n", 6), 6);
+      const auto begun = std::chrono::steady_clock::now();
+      EXPECT_EQ(InChild([&] {
+                  BecomeUser(kUser);
+                  const std::string& one = first ? bad : good;
+                  const std::string& two = first ? good : bad;
+                  execl(HelperPath().c_str(), "helper", one.c_str(), two.c_str(), nullptr);
+                  return 97;
+                }),
+                kExitChannel)
+          << name << (first ? " first" : " second");
+      EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(5)) << name;
+      close(end);
+    }
+}
+
+TEST(ServeTest, RefusesAPipeTooSmallForAnAnswer) {
+  const Folder folder(0);
+  const std::string one = folder / "one", two = folder / "two";
+  for (const std::string& path : {one, two}) {
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  }
+  const int large = open(one.c_str(), O_RDWR | O_CLOEXEC);
+  const int small = open(two.c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_EQ(fcntl(small, F_SETPIPE_SZ, 4096), 4096);
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(InChild([&] {
+                execl(HelperPath().c_str(), "helper", round ? two.c_str() : one.c_str(),
+                      round ? one.c_str() : two.c_str(), nullptr);
+                return 97;
+              }),
+              kExitChannel);
+  }
+  close(large);
+  close(small);
+}
+
+TEST(ServeTest, GivesUpWhenNobodyOpensTheOtherEnds) {
+  constexpr int kRounds = 20;
+  const Folder folder(kUser);
+  std::vector<pid_t> helpers;
+  for (int round = 0; round < kRounds; ++round) {
+    const std::string one = folder / (std::to_string(round) + "a"), two = one + "b";
+    for (const std::string& path : {one, two}) {
+      ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+      ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
+    }
+    helpers.push_back(fork());
+    if (helpers.back() != 0) continue;
+    BecomeUser(kUser);
+    // Half of them find the first pipe open, but not the second.
+    if (round % 2 == 0) open(one.c_str(), O_RDWR);
+    execl(HelperPath().c_str(), "helper", one.c_str(), two.c_str(), nullptr);
+    _exit(97);
+  }
+  for (const pid_t helper : helpers) EXPECT_EQ(WaitFor(helper, 20), -SIGALRM);
+}
+
+TEST(ServeTest, LongAnswersComeInOneReadAndLongRequestsAreRefusedWhole) {
+  Canary canary(kUser);
+  HelperProcess helper(0);
+  std::string lines;
+  const std::string line =
+      "pid_internal_thread_time_basic_info_events_info " + std::to_string(canary.Pid()) + "\n";
+  const std::size_t room = 8191 - 21;
+  while (lines.size() + line.size() <= room) lines += line;
+  for (int round = 0; round < 200; ++round) {
+    const std::string answer = helper.Figures(lines);
+    ASSERT_GT(answer.size(), 7700u);
+    ASSERT_TRUE(answer.starts_with("pid_user_time ") && answer.ends_with("\n"));
+  }
+  // A request that ends in the text of another one is refused as a whole, and once.
+  const std::string harsh = "Lkw Action Request:\nkill_harsh " + std::to_string(canary.Pid());
+  for (const std::size_t size : {8192u, 8193u, 12288u, 16384u, 65536u, 200000u})
+    for (const char filling : {'x', '\n'}) {
+      std::string request(size - harsh.size(), filling);
+      request += harsh;
+      ASSERT_TRUE(helper.Send(request));
+      EXPECT_EQ(helper.Receive(), "!Error request too long\n") << size;
+      EXPECT_EQ(helper.Ask("geteuid"), "0") << size;
+    }
+  EXPECT_EQ(helper.Ask(harsh + harsh), "!Error malformed request\n");
+  EXPECT_EQ(canary.EndedBy(), 0);
+}
+
+TEST(ServeTest, EndsWithItsApplicationHoweverThatEnds) {
+  ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);
+  for (int round = 0; round < 100; ++round) {
+    int ends[2];
+    ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
+    const pid_t application = fork();
+    if (application == 0) {
+      HelperProcess helper(kUser);
+      const pid_t pid = helper.Pid();
+      // A program of the application's that goes on running.
+      if (fork() == 0) execl("/bin/sleep", "sleep", "10", nullptr);
+      if (write(ends[1], &pid, sizeof pid) != sizeof pid) _exit(1);
+      for (;;) pause();
+    }
+    pid_t helper = 0;
+    ASSERT_EQ(read(ends[0], &helper, sizeof helper), static_cast<ssize_t>(sizeof helper));
+    kill(application, SIGKILL);
+    ASSERT_EQ(WaitFor(application), -SIGKILL);
+    EXPECT_EQ(WaitFor(helper, 5), 0);
+    close(ends[0]);
+    close(ends[1]);
+    // The sleeper is ours now.
+    std::ifstream children("/proc/self/task/" + std::to_string(getpid()) + "/children");
+    for (pid_t child; children >> child;) {
+      kill(child, SIGKILL);
+      WaitFor(child);
+    }
+  }
+}
+
+TEST(ServeTest, TheUserCannotLookIntoIt) {
+  HelperProcess helper(kUser);
+  ASSERT_TRUE(helper.IsOpen());
+  const std::string folder = "/proc/" + std::to_string(helper.Pid()) + '/';
+  EXPECT_EQ(InChild([&] {
+              BecomeUser(kUser);
+              int seen = 0;
+              if (ptrace(PTRACE_ATTACH, helper.Pid(), nullptr, nullptr) == 0) ++seen;
+              for (const char* file : {"mem", "environ", "fd", "maps"})
+                if (open((folder + file).c_str(), O_RDONLY) >= 0) ++seen;
+              return seen;
+            }),
+            0);
+  std::istringstream limits(Proc(helper.Pid(), "limits"));
+  std::string line;
+  while (std::getline(limits, line) && !line.starts_with("Max core file size")) {
+  }
+  EXPECT_EQ(line.substr(26, 23), "0                    0 ");
+  kill(helper.Pid(), SIGSEGV);
+  int status = 0;
+  ASSERT_EQ(waitpid(helper.Pid(), &status, 0), helper.Pid());
+  EXPECT_TRUE(WIFSIGNALED(status) && !WCOREDUMP(status));
+}
+
+TEST(ServeTest, AThousandActionsAreAThousandLinesOfTheSystemLog) {
+  // A system log of our own, in a mount namespace of our own.
+  ASSERT_EQ(unshare(CLONE_NEWNS), 0);
+  ASSERT_EQ(mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
+  ASSERT_EQ(mount("none", "/dev", "tmpfs", 0, "mode=755"), 0);
+  ASSERT_EQ(mknod("/dev/null", S_IFCHR | 0666, makedev(1, 3)), 0);
+  ASSERT_EQ(chmod("/dev/null", 0666), 0);
+  const int log = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+  constexpr sockaddr_un kAddress{AF_UNIX, "/dev/log"};
+  ASSERT_EQ(bind(log, reinterpret_cast<const sockaddr*>(&kAddress), sizeof kAddress), 0);
+  ASSERT_EQ(chmod("/dev/log", 0666), 0);
+  std::vector<std::string> lines;
+  std::thread reader([&] {
+    char line[1024];
+    for (ssize_t size; (size = recv(log, line, sizeof line, 0)) > 1;)
+      lines.emplace_back(line, static_cast<std::size_t>(size));
+  });
+  Canary canary(kUser);
+  HelperProcess helper(kUser);
+  int done = 0;
+  for (int round = 0; round < 1000; ++round)
+    done += helper.Act("kill_cont " + std::to_string(canary.Pid())) == "ok";
+  EXPECT_EQ(helper.Close(), 0);
+  sendto(log, "x", 1, 0, reinterpret_cast<const sockaddr*>(&kAddress), sizeof kAddress);
+  reader.join();
+  close(log);
+  EXPECT_EQ(done, 1000);
+  ASSERT_EQ(lines.size(), 1000u);
+  const std::string part = " uid=61001 verb=kill_cont pid=" + std::to_string(canary.Pid()) + ' ';
+  for (const std::string& line : lines) EXPECT_NE(line.find(part), std::string::npos) << line;
+}
+
+}  // namespace
+}  // namespace lurkwell::helper::testing

@@ -1,0 +1,271 @@
+// What the helper answers and does, on a machine that exists in memory.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <sstream>
+
+#include "helper/Digest.h"
+#include "helper/Figures.h"
+#include "helper/RecordingSystem.h"
+#include "helper/Session.h"
+
+namespace lurkwell::helper::testing {
+namespace {
+
+class SessionTest : public ::testing::Test {
+ protected:
+  SessionTest() : mSession(std::make_unique<Session>()) {
+    mSurroundings.startUser = 0;
+    mSurroundings.user = 1000;
+    mSurroundings.ownPid = 50;
+    mSurroundings.peerPid = 60;
+    mSurroundings.keptFiles = 100;
+    for (const int pid : {1, 2, 50, 60, 70, 4194304}) mMachine.processes[pid] = {};
+    mSession->Begin(mMachine.Calls(), mSurroundings);
+  }
+
+  std::string Ask(std::string_view request) { return std::string(mSession->Answer(request)); }
+  std::string Act(const std::string& line) { return Ask("Lkw Action Request:\n" + line); }
+  std::string Figures(const std::string& lines) { return Ask("Lkw Info Extraction:\n" + lines); }
+
+  RecordingSystem mMachine;
+  Surroundings mSurroundings;
+  std::unique_ptr<Session> mSession;
+};
+
+using Effects = std::vector<std::string>;
+
+TEST_F(SessionTest, EachVerbHasItsEffectOnTheNamedProcessAlone) {
+  EXPECT_EQ(Ask("geteuid"), "0");
+  for (const char* line : {"kill_normal 70", "kill_harsh 4194304", "kill_halt 70", "kill_cont 70",
+                           "renice 70 -19", "renice 2 20", "renice 50 0", "kill_harsh 60"})
+    EXPECT_EQ(Act(line), "ok") << line;
+  EXPECT_EQ(mMachine.effects,
+            (Effects{"signal 70 15", "signal 4194304 9", "signal 70 19", "signal 70 18",
+                     "nice 70 -19", "nice 2 20", "nice 50 0", "signal 60 9"}));
+  EXPECT_EQ(mMachine.log.size(), 8u);
+  EXPECT_TRUE(mMachine.open.empty());
+}
+
+TEST_F(SessionTest, WhatIsNotInTheTableIsRefusedBeforeAnyCall) {
+  const std::string nul("kill_normal 7\0", 14);
+  for (const std::string& line : std::vector<std::string>{"kill_normal 0",
+                                                          "kill_normal 1",
+                                                          "renice 1 5",
+                                                          "kill_normal -1",
+                                                          "kill_normal -2",
+                                                          "kill_normal 50",
+                                                          "kill_halt 50",
+                                                          "kill_halt 60",
+                                                          "kill_normal 4294967297",
+                                                          "kill_normal 9223372036854775808",
+                                                          "kill_normal 4194305",
+                                                          "kill_normal +70",
+                                                          "kill_normal  70",
+                                                          "kill_normal 070",
+                                                          "kill_normal 0x46",
+                                                          "kill_normal 70 ",
+                                                          "kill_normal 70\n",
+                                                          "kill_normal 70 71",
+                                                          "kill_normal 70kill_normal 2",
+                                                          "kill_normal ",
+                                                          "kill_normal",
+                                                          "Kill_normal 70",
+                                                          "kill_hard 70",
+                                                          "kill_normal \u0667",
+                                                          nul,
+                                                          "",
+                                                          "renice 70 -21",
+                                                          "renice 70 21",
+                                                          "renice 70 +1",
+                                                          "renice 70 -0",
+                                                          "renice 70 --1",
+                                                          "renice 70",
+                                                          "renice 70 ",
+                                                          "renice 70 1 ",
+                                                          "renice 70 01",
+                                                          "renice 70 99999999999",
+                                                          "kill_normal 70\nkill_normal 2",
+                                                          "\nkill_normal 70"})
+    EXPECT_EQ(Act(line).substr(0, 7), "!Error ") << line;
+  for (const char* request :
+       {"", "geteuid\n", "geteuidgeteuid", "Geteuid", "kill_normal 70",
+        "Lkw Action Request:", "Lkw Action Request: kill_normal 70", "Lkw Info Extraction:\n",
+        "Lkw Info Extraction:\nkill_normal 70\n", "Lkw Info Extraction:\npid_internal 70",
+        "Lkw Info Extraction:\npid_internal_basic_info_thread_time 70\n",
+        "Lkw Info Extraction:\npid_internal 70\n\n",
+        "Lkw Info Extraction:\nLkw Action Request:\nkill_normal 70",
+        "Lkw Info Extraction:\npid_internal_thread_time_thread_time 70\n",
+        "Lkw Info Extraction:\npid_internal -1\n"})
+    EXPECT_EQ(Ask(request), "!Error malformed request\n") << request;
+  EXPECT_TRUE(mMachine.effects.empty());
+  EXPECT_TRUE(mMachine.opened.empty());
+}
+
+TEST_F(SessionTest, AProcessOtherThanTheOneReportedIsLeftAlone) {
+  EXPECT_NE(Figures("pid_internal 70\n"), "");
+  mMachine.processes[70].start = 2000;
+  EXPECT_EQ(Act("kill_harsh 70"), "!Error another process has this pid\n");
+  EXPECT_EQ(Act("renice 70 5"), "!Error another process has this pid\n");
+  EXPECT_TRUE(mMachine.effects.empty());
+  // Reported again, it is the one that is meant.
+  Figures("pid_internal_basic_info 70\n");
+  EXPECT_EQ(Act("kill_harsh 70"), "ok");
+  mMachine.processes.erase(70);
+  EXPECT_EQ(Act("kill_harsh 70"), "!Error no such process\n");
+  // A process that changes under a renice is noticed.
+  mMachine.beforeEffect = [](RecordingSystem& machine) { machine.processes[2].start = 7; };
+  EXPECT_EQ(Act("renice 2 5"), "!Error another process has this pid\n");
+  mMachine.beforeEffect = nullptr;
+  mMachine.signalError = -1;
+  EXPECT_EQ(Act("kill_cont 2"), "!Error refused by the system\n");
+}
+
+TEST_F(SessionTest, EveryActionIsOneLineOfTheLogWhateverTheName) {
+  for (int code = 1; code < 256; ++code) {
+    mMachine.processes[70].name = std::string("a) S 1 \n<1>uid=0 \"") + static_cast<char>(code);
+    Act("kill_cont 70");
+  }
+  mMachine.processes[70].name = std::string(64, '\n');
+  Act("renice 70 -5");
+  ASSERT_EQ(mMachine.log.size(), 256u);
+  for (const std::string& line : mMachine.log) {
+    for (const char character : line) EXPECT_TRUE(character >= ' ' && character < 0x7f) << line;
+    EXPECT_EQ(std::count(line.begin(), line.end(), '"'), 2) << line;
+    EXPECT_TRUE(line.ends_with(" result=ok")) << line;
+  }
+  EXPECT_EQ(mMachine.log[64],
+            "<86>Lurkwell_helper[50]: uid=1000 verb=kill_cont pid=70 start=1000 "
+            "name=\"a) S 1 \\x0a<1>uid=0 \\x22A\" result=ok");
+  Act("kill_halt 60");
+  EXPECT_EQ(mMachine.log.back(),
+            "<86>Lurkwell_helper[50]: uid=1000 verb=kill_halt pid=60 start=0 name=\"\" "
+            "result=not permitted");
+}
+
+TEST_F(SessionTest, FiguresComeFromTheFilesOfTheAskedGroups) {
+  mMachine.processes[70] = {
+      .start = 5,
+      .name = "od d) (x",
+      .fields = {{3, "T"},
+                 {10, "40"},
+                 {12, "2"},
+                 {14, "1234"},
+                 {15, "7"},
+                 {19, "-5"},
+                 {23, "9007199254740993"},
+                 {24, "3"},
+                 {25, "18446744073709551615"},
+                 {41, "6"}},
+      .status = "Name:\tx\nvoluntary_ctxt_switches:\t30\nnonvoluntary_ctxt_switches:\t4\n",
+      .io = "rchar: 9\nwchar: 9\nsyscr: 100\nsyscw: 11\n"};
+  EXPECT_EQ(Figures("pid_internal_thread_time 70\n"),
+            "pid_user_time 70 12.340000\npid_system_time 70 0.070000\n");
+  EXPECT_EQ(mMachine.opened, (Effects{"/proc/70/stat"}));
+  EXPECT_EQ(Figures("pid_internal_basic_info_events_info 70\npid_internal_events_info 71\n"
+                    "pid_internal_thread_time_events_info 0\n"),
+            "pid_vsz 70 9007199254740993\npid_rsz 70 12288\npid_suspend_count 70 1\n"
+            "pid_terminated_user_time 70 0.000000\npid_terminated_system_time 70 0.000000\n"
+            "pid_policy 70 6\n"
+            "pid_faults 70 42\npid_pageins 70 2\npid_cow_faults 70 0\npid_messages_sent 70 0\n"
+            "pid_messages_received 70 0\npid_syscalls_mach 70 0\npid_syscalls_unix 70 111\n"
+            "pid_csw 70 34\n"
+            "pid_user_time 0 12.340000\npid_system_time 0 0.560000\n"
+            "pid_faults 0 0\npid_pageins 0 0\npid_cow_faults 0 0\npid_messages_sent 0 0\n"
+            "pid_messages_received 0 0\npid_syscalls_mach 0 0\npid_syscalls_unix 0 0\n"
+            "pid_csw 0 0\n");
+  // What may not be read is 0, and a pid without a process is nothing.
+  mMachine.processes[70].io.clear();
+  mMachine.processes[70].status.clear();
+  const std::string closed = Figures("pid_internal_events_info 70\n");
+  EXPECT_NE(closed.find("pid_syscalls_unix 70 0\npid_csw 70 0\n"), std::string::npos) << closed;
+  EXPECT_EQ(Figures("pid_internal_thread_time 71\n"), "!Error no such process\n");
+}
+
+TEST_F(SessionTest, ARequestThatContinuesTheOneBeforeGathersOnlyItsNewLines) {
+  const std::string first = "pid_internal_thread_time 70\n",
+                    second = "pid_internal_thread_time 2\n";
+  const std::string answer = Figures(first);
+  mMachine.processes[70].fields[14] = "100";
+  mMachine.opened.clear();
+  const std::string both = Figures(first + second);
+  EXPECT_EQ(both.substr(0, answer.size()), answer);
+  EXPECT_EQ(mMachine.opened, (Effects{"/proc/2/stat"}));
+  // The same request again is a new question, as is one that is too late or of other lines.
+  EXPECT_NE(Figures(first + second).find("pid_user_time 70 1.000000\n"), std::string::npos);
+  mMachine.processes[70].fields[14] = "200";
+  mMachine.milliseconds += 251;
+  EXPECT_NE(Figures(first + second + first).find("pid_user_time 70 2.000000\n"), std::string::npos);
+  mMachine.processes[70].fields[14] = "300";
+  EXPECT_EQ(Figures(second + first).find("pid_user_time 70 2.000000\n"), std::string::npos);
+}
+
+TEST_F(SessionTest, FilesStayOpenWithinTheLimitAndFollowTheProcess) {
+  for (int pid = 100; pid < 400; ++pid) mMachine.processes[pid] = {};
+  for (int pid = 100; pid < 400; ++pid)
+    Figures("pid_internal_thread_time " + std::to_string(pid) + "\n");
+  EXPECT_EQ(mMachine.open.size(), 100u);
+  mMachine.opened.clear();
+  Figures("pid_internal_thread_time 100\n");
+  EXPECT_TRUE(mMachine.opened.empty());
+  // What nobody asks for is closed in time.
+  mMachine.milliseconds += 60000;
+  for (int round = 0; round < 2100; ++round) Figures("pid_internal_thread_time 100\n");
+  EXPECT_EQ(mMachine.open.size(), 1u);
+  // The file of a process that ended says so; the pid's next holder is reported in its place.
+  mMachine.processes.erase(100);
+  EXPECT_EQ(Figures("pid_internal 100\n"), "!Error no such process\n");
+  EXPECT_TRUE(mMachine.open.empty());
+}
+
+TEST_F(SessionTest, NoAnswerIsLongerThanOneReadAndEachEndsWithAWholeProcess) {
+  std::string lines;
+  std::size_t largestBatch = 0;
+  for (int count = 0; count < 130; ++count) {
+    const int pid = 4000000 + count;
+    mMachine.processes[pid] = {.fields = {{10, "18446744073709551615"},
+                                          {14, "18446744073709551615"},
+                                          {15, "18446744073709551615"},
+                                          {23, "18446744073709551615"},
+                                          {24, "4503599627370495"},
+                                          {41, "4294967295"}},
+                               .status =
+                                   "\nvoluntary_ctxt_switches: 9223372036854775807\n"
+                                   "nonvoluntary_ctxt_switches: 9223372036854775807\n",
+                               .io = "\nsyscr: 9223372036854775807\nsyscw: 9223372036854775807\n"};
+    lines += "pid_internal_thread_time_basic_info_events_info " + std::to_string(pid) + "\n";
+    const std::string answer = Figures(lines);
+    ASSERT_LE(answer.size(), 8191u);
+    ASSERT_TRUE(answer.ends_with("\n"));
+    // The application begins anew once a request has more than 512 characters.
+    if (lines.size() - 56 <= 512 - 21) largestBatch = answer.size();
+    std::istringstream stream(answer);
+    std::string property, last;
+    while (stream >> property) std::getline(stream, last);
+    EXPECT_EQ(property, "pid_csw");
+  }
+  EXPECT_LE(largestBatch, 6500u);
+}
+
+TEST(DigestTest, KnownSums) {
+  const auto sum = [](std::string_view text, std::size_t piece) {
+    Digest digest;
+    for (std::size_t place = 0; place < text.size(); place += piece) {
+      const std::string_view part = text.substr(place, piece);
+      digest.Add({reinterpret_cast<const std::uint8_t*>(part.data()), part.size()});
+    }
+    std::string hex;
+    for (const std::uint8_t byte : digest.Finish()) {
+      hex += "0123456789abcdef"[byte >> 4];
+      hex += "0123456789abcdef"[byte & 15];
+    }
+    return hex;
+  };
+  EXPECT_EQ(sum("", 1), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+  EXPECT_EQ(sum("abc", 2), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+  EXPECT_EQ(sum(std::string(1000000, 'a'), 999),
+            "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+}
+
+}  // namespace
+}  // namespace lurkwell::helper::testing
