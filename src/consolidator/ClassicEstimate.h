@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+struct MetaProcessInformation;
+
+/// The CPU time of Classic applications. They run inside one process, of which alone the CPU time
+/// is known; each application's share comes from its ticks, weighted with a filtered figure of how
+/// much CPU the whole environment uses. Private to the consolidator, inside its region.
+class ClassicEstimate {
+ public:
+  /// Takes a measurement of the environment's own process, whose CPU time so far is `activeTime`
+  /// at the time of day `now`.
+  void MeasureEnvironment(TimeValue activeTime, TimeValue now);
+
+  /// Adds to a Classic application's CPU time what it used since its previous report; the first
+  /// report only marks it as measured.
+  void Charge(MetaProcessInformation& record) const;
+
+  /// Share of one CPU that the environment uses, filtered; 0 before the first measurement.
+  double FilteredCPUUsage() const { return gTruBlueFilteredCPUUsage; }
+
+ private:
+  double gTruBlueFilteredCPUUsage = 0.0;
+  TimeValue mPreviousActiveTime;
+  TimeValue mPreviousMeasurement;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,73 @@
+// The beginning and the end of a feeder's pass.
+#include <cstring>
+#include <string_view>
+
+#include "consolidator/ConsolidatorState.h"
+#include "consolidator/ProcessReports.h"
+#include "consolidator/Unit.h"
+#include "platform/Assertion.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr std::string_view kClassicEnvironmentPrefix = "TruBlue";
+
+bool OwnedByKind(const MetaProcessInformation& record, int kind) {
+  switch (kind) {
+    case kInformationKindPID:
+      return record.pid >= 0;
+    case kInformationKindCarbonPSN:
+      return !record.psn.IsNone();
+    default:
+      return false;
+  }
+}
+
+void DeriveActiveTime(MetaProcessInformation& record) {
+  const PidBlock& block = *record.pidInfo;
+  record.activeTime =
+      (block.userTime + block.systemTime) + (block.terminatedUserTime + block.terminatedSystemTime);
+}
+
+void DeriveName(MetaProcessInformation& record) {
+  const char* commandName = record.pidInfo->commandName;
+  if (std::strncmp(record.name, commandName, kCommandNameCapacity) == 0) return;
+  if (record.name[0] != '\0' && record.carbonInfo == nullptr) record.changedAppreciably = true;
+  StoreText(record.name, commandName);
+}
+
+void Derive(MetaProcessInformation& record) {
+  Require(record.pidInfo != nullptr, kUnit, "mpi->pidInfo");
+  DeriveActiveTime(record);
+  // The desktop names applications.
+  if (!record.psn.IsNone()) return;
+  DeriveName(record);
+  if (std::string_view(record.name).starts_with(kClassicEnvironmentPrefix))
+    gClassicEstimate.MeasureEnvironment(record.activeTime, TheMachine().clock.Now());
+}
+
+}  // namespace
+
+void BeginProcessInformationIteration(int kind) {
+  gInformationKindGenerationMutex[static_cast<std::size_t>(kind)]->Enter();
+  ++gGenerationCount[static_cast<std::size_t>(kind)];
+}
+
+void EndProcessInformationIteration(int kind) {
+  {
+    const ConsolidatorGuard guard;
+    Require(kind >= 0 && kind < kInformationKindCount, kUnit, "false");
+    const auto generation = gGenerationCount[static_cast<std::size_t>(kind)];
+    for (auto& record : gRecords.Records()) {
+      if (OwnedByKind(record, kind) &&
+          record.lastSeenGeneration[static_cast<std::size_t>(kind)] < generation)
+        record.valid = false;
+      if (kind == kInformationKindPID && record.pid >= 0) Derive(record);
+    }
+  }
+  gInformationKindGenerationMutex[static_cast<std::size_t>(kind)]->Exit();
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,111 @@
+#include "consolidator/KernelFeeder.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#include "consolidator/HelperQueries.h"
+#include "consolidator/PidReport.h"
+#include "consolidator/ProcessReports.h"
+#include "consolidator/PropertyNeeds.h"
+#include "platform/Machine.h"
+#include "platform/ProcessTable.h"
+#include "process_control/ProcessActions.h"
+
+namespace lurkwell {
+namespace {
+
+using Client = ProcessInformationClient;
+
+/// One pass over the table.
+class KernelPass {
+ public:
+  explicit KernelPass(TimeValue now) : mNow(now) {}
+
+  void Feed(const ProcessTableEntry& entry) {
+    if (entry.pid > mMaximumPid) {
+      std::puts("BAD pid! (?)");
+      return;
+    }
+    // The pid has passed to another process: its last holder retires in this heartbeat, the new one
+    // is born in the next.
+    if (!NoteStartStamp(entry.pid, entry.startStamp)) return;
+    const auto level = Client::NeedAnyProcPropertyForPid(entry.pid, &mNow);
+    if (level == Client::kNeedNoProcProperties) {
+      TouchProcessInformationForPID(entry.pid, kInformationKindPID);
+      return;
+    }
+    const bool all = level == Client::kNeedAllProcProperties;
+    ReportTableFigures(entry, all);
+    if (entry.state == RunState::kStopped) NoteHalted(entry.pid);
+    if (const unsigned groups = GroupsFor(entry.pid, all)) mQueries.Ask(entry.pid, groups);
+  }
+
+ private:
+  void ReportTableFigures(const ProcessTableEntry& entry, bool all) {
+    const auto wanted = [&](const PropertyNeed& need) { return all || need.By(entry.pid); };
+    PidReport report(entry.pid);
+    if (wanted(mCommandName)) report.Text(mCommandName.Row(), entry.commandName);
+    if (wanted(mPriority)) report.Integer(mPriority.Row(), entry.priority);
+    report.Integer(mParentRow, entry.parentPid);
+    if (wanted(mNice)) report.Integer(mNice.Row(), entry.nice);
+    if (wanted(mStartTime)) report.Time(mStartTime.Row(), entry.startTime);
+  }
+
+  /// Shows a process that somebody else has stopped as halted.
+  static void NoteHalted(std::int32_t pid) {
+    if (GetProcessAction(pid, kProcessActionHalt, nullptr)) return;
+    std::printf("detected a surreptitiously-halted process %d!\n", pid);
+    AddProcessAction(pid, kProcessActionHalt, 0);
+  }
+
+  unsigned GroupsFor(std::int32_t pid, bool all) const {
+    const auto wanted = [&](const PropertyNeed& need) { return all || need.By(pid); };
+    unsigned groups = 0;
+    if (std::ranges::any_of(mThreadTime, wanted)) groups |= kThreadTime;
+    if (std::ranges::any_of(mBasicInfo, wanted)) groups |= kBasicInfo;
+    if (std::ranges::any_of(mEventsInfo, wanted)) groups |= kEventsInfo;
+    return groups;
+  }
+
+  TimeValue mNow;
+  std::int32_t mMaximumPid = TheMachine().processTable.MaximumPid();
+  const CatalogueRow& mParentRow = *FindBuiltInProperty("pid_parent_pid");
+  PropertyNeed mCommandName{"pid_p_comm", mNow};
+  PropertyNeed mPriority{"pid_p_priority", mNow};
+  PropertyNeed mNice{"pid_p_nice", mNow};
+  PropertyNeed mStartTime{"pid_p_starttime", mNow};
+
+  // The helper gives figures by the group; one that is needed brings the others.
+  std::array<PropertyNeed, 3> mThreadTime{
+      {{"meta_active_time", mNow}, {"pid_user_time", mNow}, {"pid_system_time", mNow}}};
+  std::array<PropertyNeed, 7> mBasicInfo{{{"pid_vsz", mNow},
+                                          {"pid_rsz", mNow},
+                                          {"pid_suspend_count", mNow},
+                                          {"pid_terminated_user_time", mNow},
+                                          {"pid_terminated_system_time", mNow},
+                                          {"pid_policy", mNow},
+                                          {"meta_active_time", mNow}}};
+  std::array<PropertyNeed, 8> mEventsInfo{{{"pid_faults", mNow},
+                                           {"pid_pageins", mNow},
+                                           {"pid_cow_faults", mNow},
+                                           {"pid_messages_sent", mNow},
+                                           {"pid_messages_received", mNow},
+                                           {"pid_syscalls_mach", mNow},
+                                           {"pid_syscalls_unix", mNow},
+                                           {"pid_csw", mNow}}};
+  HelperQueries mQueries;
+};
+
+}  // namespace
+
+void PIDExtractProcessInformation(TimeValue now) {
+  KernelPass pass(now);
+  for (const auto& entry : TheMachine().processTable.Read()) {
+    pass.Feed(entry);
+    // The kernel's own entry ends the list.
+    if (entry.pid == 0) break;
+  }
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,26 @@
+#include "consolidator/MetaProcessInformation.h"
+
+#include "consolidator/Unit.h"
+#include "platform/Assertion.h"
+
+namespace lurkwell {
+
+ClassicRecord::ClassicRecord(const std::byte* bytes) {
+  std::memcpy(mBytes.data(), bytes, kSize);
+  auto length = std::to_integer<std::size_t>(mBytes[kNameOffset]);
+  // The terminator of a full name takes the place of its last character.
+  if (length > kNameFieldSize - 2) length = kNameFieldSize - 2;
+  mBytes[kNameOffset] = static_cast<std::byte>(length);
+  mBytes[kNameOffset + 1 + length] = std::byte{0};
+}
+
+std::string_view ClassicRecord::Name() const {
+  return {reinterpret_cast<const char*>(mBytes.data()) + kNameOffset + 1,
+          std::to_integer<std::size_t>(mBytes[kNameOffset])};
+}
+
+MetaProcessInformation::~MetaProcessInformation() {
+  Require(icon == nullptr, kUnit, "!\"we don't (yet) delete icon information when we otter!\"");
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,133 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "consolidator/PropertyTypes.h"
+#include "platform/ProcessIdentity.h"
+#include "platform/ProcessManager.h"
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+/// The consolidator's own record of one process and its blocks. Nothing outside the consolidator
+/// sees these; clients read properties.
+
+inline constexpr std::size_t kNameCapacity = 256;
+inline constexpr std::size_t kCommandNameCapacity = 32;
+inline constexpr std::size_t kCarbonNameCapacity = 128;
+
+/// What the kernel and the helper say of a process.
+struct PidBlock {
+  char commandName[kCommandNameCapacity] = {};
+  std::int32_t priority = 0;
+  std::int32_t parentPid = kInvalidPID;
+  TimeValue userTime;
+  TimeValue systemTime;
+  std::int32_t nice = 0;
+  TimeValue startTime;
+  std::int64_t virtualSize = 0;
+  std::int64_t residentSize = 0;
+  std::int32_t suspendCount = 0;
+  TimeValue terminatedUserTime;
+  TimeValue terminatedSystemTime;
+  std::int32_t policy = 0;
+  // Counters run past 32 bits on machines that stay up.
+  std::int64_t faults = 0;
+  std::int64_t pageins = 0;
+  std::int64_t copyOnWriteFaults = 0;
+  std::int64_t messagesSent = 0;
+  std::int64_t messagesReceived = 0;
+  std::int64_t machSystemCalls = 0;
+  std::int64_t unixSystemCalls = 0;
+  std::int64_t contextSwitches = 0;
+  /// The kernel's stamp of the process's start, which tells it from a later holder of its pid; 0
+  /// while the kernel's table has not named it.
+  std::uint64_t startStamp = 0;
+};
+
+/// What the desktop says of an application.
+struct CarbonBlock {
+  char name[kCarbonNameCapacity] = {};
+  FourCharCode type{};
+  FourCharCode signature{};
+  std::uint32_t mode = 0;
+};
+
+/// One application of the Classic environment as its event carries it, 396 bytes in the sender's
+/// byte order. Only positions are trusted.
+class ClassicRecord {
+ public:
+  static constexpr std::size_t kSize = 396;
+
+  ClassicRecord() = default;
+  /// Copies the bytes and makes the name fit: terminated, at most 254 characters.
+  explicit ClassicRecord(const std::byte* bytes);
+
+  FourCharCode Type() const { return Field<FourCharCode>(16); }
+  FourCharCode Signature() const { return Field<FourCharCode>(20); }
+  std::uint32_t Mode() const { return Field<std::uint32_t>(24); }
+  std::uint32_t Location() const { return Field<std::uint32_t>(28); }
+  std::int32_t Size() const { return Field<std::int32_t>(32); }
+  std::int32_t FreeMemory() const { return Field<std::int32_t>(36); }
+  /// Ticks, about 60 a second.
+  std::uint32_t ActiveTime() const { return Field<std::uint32_t>(52); }
+  std::string_view Name() const;
+
+ private:
+  static constexpr std::size_t kNameOffset = 68;
+  static constexpr std::size_t kNameFieldSize = 256;
+
+  template <typename T>
+  T Field(std::size_t offset) const {
+    T value;
+    std::memcpy(&value, mBytes.data() + offset, sizeof value);
+    return value;
+  }
+
+  std::array<std::byte, kSize> mBytes{};
+};
+
+/// One ps column's text; no text means that ps had none.
+struct PSValue {
+  int headerIndex = 0;
+  std::unique_ptr<std::string> text;
+};
+
+struct MetaProcessInformation {
+  explicit MetaProcessInformation(std::int32_t itsPid) : pid(itsPid) {}
+  ~MetaProcessInformation();
+  MetaProcessInformation(const MetaProcessInformation&) = delete;
+  MetaProcessInformation& operator=(const MetaProcessInformation&) = delete;
+
+  std::int32_t pid;
+  ProcessSerialNumber psn;
+  char name[kNameCapacity] = {};
+  TimeValue activeTime;
+  /// Cached icon data; nothing fills it.
+  const void* icon = nullptr;
+  /// Reported in the latest iteration of the kinds that own it; only then do clients see it.
+  bool valid = false;
+  bool changedAppreciably = false;
+  std::array<std::int32_t, kInformationKindCount> lastSeenGeneration{};
+  std::unique_ptr<ClassicRecord> epir;
+  std::uint32_t previousClassicActiveTime = 0;
+  std::int32_t killCount = 0;
+  std::unique_ptr<CarbonBlock> carbonInfo;
+  std::unique_ptr<PidBlock> pidInfo;
+  std::unique_ptr<std::vector<PSValue>> psValues;
+};
+
+/// Copies as much of `text` as fits into `dest` and terminates it.
+template <std::size_t N>
+void StoreText(char (&dest)[N], std::string_view text) {
+  dest[text.copy(dest, N - 1)] = '\0';
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,136 @@
+#include "consolidator/PI_Consolidator.h"
+
+#include <iterator>
+
+#include "consolidator/ConsolidatorState.h"
+#include "consolidator/KernelFeeder.h"
+#include "consolidator/ProcessInformationFeederPS.h"
+#include "consolidator/ProcessManagerFeeder.h"
+#include "consolidator/ProcessReports.h"
+#include "consolidator/Unit.h"
+#include "platform/Assertion.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+
+namespace lurkwell {
+namespace {
+
+/// Only a fall-back: every heartbeat sets its next date itself.
+constexpr double kFallbackInterval = 300.0;
+
+using Client = ProcessInformationClient;
+
+/// Whether `position` is the end of the records made since the last heartbeat.
+bool AtOldRecords(RecordStore::List::iterator position) {
+  return position == gRecords.Records().end() || position->pid == gFirstPidLastIteration;
+}
+
+/// Deletes records that were made and lost their validity within this heartbeat: for the clients
+/// they never existed. True when there were any.
+bool DeletePhantoms() {
+  bool deleted = false;
+  auto previous = gRecords.Records().before_begin();
+  for (auto at = std::next(previous); !AtOldRecords(at); at = std::next(previous)) {
+    if (at->valid) {
+      previous = at;
+    } else {
+      gRecords.EraseAfter(previous);
+      deleted = true;
+    }
+  }
+  return deleted;
+}
+
+void AnnounceNew() {
+  for (auto at = gRecords.Records().begin(); !AtOldRecords(at); ++at)
+    if (at->valid) Client::NotifyAllPidHasBeenAdded(at->pid);
+  gFirstPidLastIteration = gRecords.HeadPid();
+}
+
+void AnnounceChanged() {
+  for (auto& record : gRecords.Records()) {
+    if (!record.changedAppreciably) continue;
+    Client::NotifyAllPidHasChangedAppreciably(record.pid);
+    record.changedAppreciably = false;
+  }
+}
+
+bool RetireRemoved() {
+  bool removed = false;
+  auto previous = gRecords.Records().before_begin();
+  for (auto at = std::next(previous); at != gRecords.Records().end(); at = std::next(previous)) {
+    if (at->valid) {
+      previous = at;
+      continue;
+    }
+    Client::NotifyAllPidHasBeenRemoved(at->pid, false);
+    gRecords.EraseAfter(previous);
+    removed = true;
+  }
+  if (removed) gFirstPidLastIteration = gRecords.HeadPid();
+  return removed;
+}
+
+/// A parent that is gone counts as unknown, so that no walk up the family meets a missing record.
+void ForgetMissingParents() {
+  for (auto& record : gRecords.Records()) {
+    if (record.pidInfo == nullptr) continue;
+    auto& parent = record.pidInfo->parentPid;
+    if (parent != kInvalidPID && gRecords.GetExistingPIDInformation(parent) == nullptr)
+      parent = kInvalidPID;
+  }
+}
+
+void RunFeeders(TimeValue now) {
+  BeginProcessInformationIteration(kInformationKindPID);
+  PIDExtractProcessInformation(now);
+  EndProcessInformationIteration(kInformationKindPID);
+  BeginProcessInformationIteration(kInformationKindPS);
+  PSExtractProcessInformation(now);
+  EndProcessInformationIteration(kInformationKindPS);
+  BeginProcessInformationIteration(kInformationKindCarbonPSN);
+  PSNExtractProcessInformation(now);
+  EndProcessInformationIteration(kInformationKindCarbonPSN);
+}
+
+}  // namespace
+
+void InitializeProcessInformationConsolidator() {
+  Require(gProcessInformationConsolidatorMutex == nullptr, kUnit,
+          "gProcessInformationConsolidatorMutex == NULL");
+  gProcessInformationConsolidatorMutex = std::make_unique<CriticalRegion>();
+  gGenerationCount.fill(0);
+  for (auto& region : gInformationKindGenerationMutex) region = std::make_unique<CriticalRegion>();
+  DiscoverPSHeaders();
+  gHeartbeatCFTimerRef =
+      TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime(), kFallbackInterval,
+                                    [] { HeartbeatCFTimerFunc(gHeartbeatCFTimerRef.get()); });
+}
+
+void HeartbeatCFTimerFunc(RunLoopTimer* timer) {
+  const ConsolidatorGuard guard;
+  const TimeValue now = TheMachine().clock.Now();
+  RunFeeders(now);
+  const bool phantoms = DeletePhantoms();
+  AnnounceNew();
+  AnnounceChanged();
+  const bool removed = RetireRemoved();
+  if (phantoms || removed) ForgetMissingParents();
+  Client::NotifyAllProcessesHaveBeenUpdated(&now);
+  const auto milliseconds = static_cast<double>(Client::GetMillisecondsToNextHeartbeat(&now));
+  timer->SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
+}
+
+void DestroyProcessInformationConsolidator() {
+  gHeartbeatCFTimerRef.reset();
+  gRecords.Clear();
+  gPSHeaders.Clear();
+  gPSN2PIDMap.Clear();
+  gClassicEstimate = {};
+  gFirstPidLastIteration = kInvalidPID;
+  gGenerationCount.fill(0);
+  for (auto& region : gInformationKindGenerationMutex) region.reset();
+  gProcessInformationConsolidatorMutex.reset();
+}
+
+}  // namespace lurkwell

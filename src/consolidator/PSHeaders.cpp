@@ -1,0 +1,73 @@
+#include "consolidator/PSHeaders.h"
+
+#include "consolidator/ConsolidatorState.h"
+#include "consolidator/PropertyRendering.h"
+#include "consolidator/Unit.h"
+#include "platform/Assertion.h"
+
+namespace lurkwell {
+namespace {
+
+void CopyOut(std::string_view text, char* dest, int length) {
+  if (dest != nullptr && length >= 2) RenderText({dest, static_cast<std::size_t>(length)}, text);
+}
+
+}  // namespace
+
+ProcessInformationPSHeader* PSHeaderRegistry::Find(std::string_view keyword) {
+  const auto found = mByKeyword.find(keyword);
+  return found == mByKeyword.end() ? nullptr : found->second;
+}
+
+ProcessInformationPSHeader& PSHeaderRegistry::Nth(int index) {
+  Require(index >= 0 && index < Count(), kUnit, "pipsh");
+  return mHeaders[static_cast<std::size_t>(index)];
+}
+
+ProcessInformationPSHeader& PSHeaderRegistry::Add(std::string_view keyword) {
+  auto& header = mHeaders.emplace_back();
+  header.keyword = keyword;
+  header.index = Count() - 1;
+  mByKeyword.emplace(header.keyword, &header);
+  return header;
+}
+
+void PSHeaderRegistry::Clear() {
+  mByKeyword.clear();
+  mHeaders.clear();
+}
+
+int GetPSHeaderCount() {
+  return gPSHeaders.Count();
+}
+
+void GetNthPSHeader(int index, char* dest, int length, bool* isCurrent) {
+  const ConsolidatorGuard guard;
+  const auto& header = gPSHeaders.Nth(index);
+  CopyOut(header.keyword, dest, length);
+  if (isCurrent != nullptr) *isCurrent = header.generation == gGenerationCount[kInformationKindPS];
+}
+
+int GetNthPSHeadersGeneratingOptionCount(int index) {
+  const ConsolidatorGuard guard;
+  return static_cast<int>(gPSHeaders.Nth(index).generatingOptions.size());
+}
+
+void GetNthPSHeadersNthGeneratingOption(int index, int n, char* dest, int length) {
+  const ConsolidatorGuard guard;
+  const auto& options = gPSHeaders.Nth(index).generatingOptions;
+  Require(n >= 0 && n < static_cast<int>(options.size()), kUnit, "successfullyRetrievedTheOption");
+  CopyOut(options[options.size() - 1 - static_cast<std::size_t>(n)], dest, length);
+}
+
+void EnsureThatPSProcPropertyExists(const char* keyword, const char* option) {
+  auto* header = gPSHeaders.Find(keyword);
+  if (header == nullptr) {
+    Require(option != nullptr, kUnit, "inPSOptionThatGeneratedProperty != NULL");
+    header = &gPSHeaders.Add(keyword);
+  }
+  if (option != nullptr) header->generatingOptions.emplace_back(option);
+  header->generation = gGenerationCount[kInformationKindPS];
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace lurkwell {
+
+/// The columns that ps can print, each known by the header that ps prints above it. Columns are
+/// found once, at start-up, and numbered from 0 in the order in which they were found; none is ever
+/// forgotten.
+
+/// Main thread, or inside the consolidator's region.
+int GetPSHeaderCount();
+
+/// Copies the header with that index (if `dest` is given and `length` is at least 2) and tells, if
+/// asked, whether the latest ps pass produced it. An index that no header has is a fatal assertion.
+/// Any thread.
+void GetNthPSHeader(int index, char* dest, int length, bool* isCurrent);
+
+/// How many ps options print this column, and the n-th of them, newest first; a missing n is a
+/// fatal assertion. Any thread.
+int GetNthPSHeadersGeneratingOptionCount(int index);
+void GetNthPSHeadersNthGeneratingOption(int index, int n, char* dest, int length);
+
+/// Makes a column known and current. `option` is a ps option that prints it, or null for a column
+/// that is known already: a new column without an option is a fatal assertion.
+void EnsureThatPSProcPropertyExists(const char* keyword, const char* option);
+
+// ---- For the consolidator itself ----------------------------------------------------------------
+
+struct ProcessInformationPSHeader {
+  std::string keyword;
+  int index = 0;
+  /// The generation of the ps passes in which the column last had a value.
+  std::int32_t generation = 0;
+  /// Oldest first.
+  std::vector<std::string> generatingOptions;
+};
+
+/// All columns with an index by name. Guarded by the consolidator's region.
+class PSHeaderRegistry {
+ public:
+  int Count() const { return static_cast<int>(mHeaders.size()); }
+  ProcessInformationPSHeader* Find(std::string_view keyword);
+  ProcessInformationPSHeader& Nth(int index);
+  ProcessInformationPSHeader& Add(std::string_view keyword);
+  void Clear();
+
+ private:
+  std::deque<ProcessInformationPSHeader> mHeaders;
+  std::unordered_map<std::string_view, ProcessInformationPSHeader*> mByKeyword;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "consolidator/PropertyCatalogue.h"
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+/// Reports of one kernel process in an iteration of kind 0, for feeders that have numbers rather
+/// than texts. Private to the consolidator, inside its region. Making one makes the record if it is
+/// missing and marks it as seen.
+class PidReport {
+ public:
+  explicit PidReport(std::int32_t pid);
+
+  /// Reads the text as the row's type wants it.
+  void Text(const CatalogueRow& row, std::string_view value);
+  /// A number too large for the field is left out.
+  void Integer(const CatalogueRow& row, std::int64_t value);
+  void Time(const CatalogueRow& row, TimeValue value);
+
+ private:
+  PidBlock* mBlock;
+};
+
+/// Notes which process holds a pid by its start stamp. False when the record there belongs to an
+/// earlier holder: then the new one has to wait for a heartbeat, so that clients hear of the end
+/// first.
+bool NoteStartStamp(std::int32_t pid, std::uint64_t startStamp);
+
+}  // namespace lurkwell

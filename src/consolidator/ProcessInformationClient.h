@@ -1,0 +1,141 @@
+#pragma once
+
+#include <cstdint>
+#include <list>
+
+#include "consolidator/PidStack.h"
+#include "platform/TimeValue.h"
+#include "platform/Uuid.h"
+
+namespace lurkwell {
+
+/// Whoever wants process data. On each heartbeat the consolidator asks every client whose interval
+/// has elapsed (a due client) what it needs, collects just that, and then tells it what changed.
+/// A client that is not due hears nothing; what it missed is kept for its next turn.
+///
+/// Everything here happens on the main thread. Handlers run while the consolidator's region is
+/// held; they may read properties and delete clients, themselves included, but must not wait for
+/// another thread that reads properties.
+///
+/// Clients are made with new: the registry deletes those that are left at shutdown.
+class ProcessInformationClient {
+ public:
+  /// The first three say for which processes a property is needed, the others which properties of a
+  /// process are needed.
+  enum NeedLevel {
+    kNeedNoPids = 0,
+    kNeedSomePids = 1,
+    kNeedAllPids = 2,
+    kNeedNoProcProperties = 3,
+    kNeedSomeProcProperties = 4,
+    kNeedAllProcProperties = 5,
+  };
+
+  /// Makes the client known, but not yet served. Without a `uuid` it gets a fresh one. The interval
+  /// is in milliseconds; one below 20 is served as 20.
+  ProcessInformationClient(const Uuid* uuid, std::int32_t interval);
+  ProcessInformationClient(const ProcessInformationClient&) = delete;
+  ProcessInformationClient& operator=(const ProcessInformationClient&) = delete;
+
+  virtual void NotifyPidHasBeenAdded(int pid);
+  virtual void NotifyPidHasBeenRemoved(int pid);
+  virtual void NotifyPidHasChangedAppreciably(int pid);
+  virtual void NotifyPreferencesHaveBeenUpdated();
+
+  /// Which properties of this process the client needs: a property level.
+  virtual NeedLevel NeedProcPropertiesForPid(int pid);
+  /// For which processes the client needs this property: a pid level. "All" and "none" are final;
+  /// after "some" the next question follows for each process.
+  virtual NeedLevel NeedPidsForProcProperty(const char* property);
+  virtual bool NeedPidProcProperty(int pid, const char* property) = 0;
+
+  /// The client's turn is over: all properties are as fresh as they get.
+  virtual void NotifyProcessesHaveBeenUpdated() = 0;
+  /// At shutdown, over and over until no client does anything more; true when it did something.
+  virtual bool NotifyOptionalCleanup();
+
+  virtual ~ProcessInformationClient();
+
+  /// The class's name, by which preference changes address it.
+  virtual const char* TypeName() const { return "ProcessInformationClient"; }
+
+  std::int32_t Interval() const { return mInterval; }
+  void SetInterval(std::int32_t milliseconds) { mInterval = milliseconds; }
+  const Uuid& Identifier() const { return mUuid; }
+
+  // ---- The registry -----------------------------------------------------------------------------
+
+  /// Runs the clean-up passes and deletes every client there is.
+  static void DeleteAllProcessInformationClients();
+
+  /// Tells every active client whose type name begins with `typeName`, or all for "*", that
+  /// preferences have changed.
+  static void NotifyPreferencesHaveBeenUpdatedForType(const char* typeName);
+
+  // ---- What the consolidator records during a heartbeat, inside its region
+  // ------------------------
+
+  static void NotifyAllPidHasBeenAdded(int pid);
+  static void NotifyAllPidHasChangedAppreciably(int pid);
+  /// Recorded for the client's next turn, or told at once.
+  static void NotifyAllPidHasBeenRemoved(int pid, bool immediately);
+
+  void RememberAddedPid(int pid);
+  void RememberChangedPid(int pid);
+  /// A process that came and went between two turns is forgotten altogether.
+  void RememberRemovedPid(int pid);
+
+  // ---- What the clients need; `now` is the heartbeat's time, null asks active clients due or not
+  // --
+
+  struct ListNode;
+  static bool UseNode(const ListNode& node, const TimeValue* now);
+  static NeedLevel AggregateNeedLevels(NeedLevel need1, NeedLevel need2);
+  static NeedLevel NeedAnyProcPropertyForPid(int pid, const TimeValue* now);
+  /// A need for a derived property is a need for what it derives from, and the other way round.
+  static NeedLevel NeedAnyPidForProcProperty(const char* property, const TimeValue* now);
+  static bool NeedAnyPidProcProperty(int pid, const char* property, const TimeValue* now);
+
+  // ---- Turns
+  // --------------------------------------------------------------------------------------
+
+  /// Milliseconds from `now` until the first client is due, at most 15000, negative when one is
+  /// late.
+  static std::int64_t GetMillisecondsToNextHeartbeat(const TimeValue* now);
+
+  /// Gives every due client its turn: additions, changes, removals, then the update.
+  static void NotifyAllProcessesHaveBeenUpdated(const TimeValue* now);
+
+  struct ListNode {
+    /// Null once the client is gone and the node waits to be swept.
+    ProcessInformationClient* client = nullptr;
+    TimeValue lastHeartbeat;
+    bool active = false;
+  };
+
+ private:
+  friend void AddProcessInformationClient(ProcessInformationClient* client);
+  friend void RemoveProcessInformationClient(ProcessInformationClient* client);
+
+  class Walk;
+  static ListNode& NodeOf(const ProcessInformationClient* client);
+
+  /// Newest first.
+  static std::list<ListNode> zm_ListOfProcessInformationClients;
+  static int zm_WalksInProgress;
+
+  std::int32_t mInterval;
+  Uuid mUuid;
+  PidStack mAddedPids;
+  PidStack mChangedPids;
+  PidStack mRemovedPids;
+};
+
+/// Tells the client of every process there is, oldest record first, and serves it from then on.
+/// Adding an active client is a fatal assertion.
+void AddProcessInformationClient(ProcessInformationClient* client);
+
+/// Serves the client no more; it stays known until it is deleted and may be added again.
+void RemoveProcessInformationClient(ProcessInformationClient* client);
+
+}  // namespace lurkwell

@@ -1,0 +1,130 @@
+#include "consolidator/ProcessReports.h"
+
+#include <charconv>
+#include <cstring>
+#include <string_view>
+
+#include "consolidator/ConsolidatorState.h"
+#include "consolidator/PidReport.h"
+#include "consolidator/TextScan.h"
+#include "consolidator/Unit.h"
+#include "platform/Assertion.h"
+
+namespace lurkwell {
+namespace {
+
+/// Names are compared over the width that a command name may take.
+constexpr std::size_t kComparedNameLength = 32;
+
+std::size_t Index(int kind) {
+  return static_cast<std::size_t>(kind);
+}
+
+void StorePSValue(MetaProcessInformation& record, int headerIndex, const char* value) {
+  if (record.psValues == nullptr) record.psValues = std::make_unique<std::vector<PSValue>>();
+  for (auto& known : *record.psValues) {
+    if (known.headerIndex != headerIndex) continue;
+    *known.text = value;
+    return;
+  }
+  record.psValues->push_back({headerIndex, std::make_unique<std::string>(value)});
+}
+
+void ReportPSColumn(std::int32_t pid, const char* keyword, const char* value) {
+  EnsureThatPSProcPropertyExists(keyword, nullptr);
+  auto* record = gRecords.GetExistingPIDInformation(pid);
+  if (record == nullptr) return;
+  const auto* header = gPSHeaders.Find(keyword);
+  Require(header != nullptr, kUnit, "pipsh");
+  StorePSValue(*record, header->index, value);
+  record->lastSeenGeneration[kInformationKindPS] = gGenerationCount[kInformationKindPS];
+}
+
+FourCharCode CodeOf(const char* text) {
+  FourCharCode code{};
+  std::memcpy(code.data(), text, strnlen(text, code.size()));
+  return code;
+}
+
+void StoreCarbonName(MetaProcessInformation& record, const char* value) {
+  StoreText(record.carbonInfo->name, value);
+  if (record.name[0] != '\0' && std::strncmp(record.name, value, kComparedNameLength) != 0)
+    record.changedAppreciably = true;
+  StoreText(record.name, std::string_view(value).substr(0, kCommandNameCapacity - 1));
+}
+
+void StoreCarbonProperty(MetaProcessInformation& record, std::string_view property,
+                         const char* value) {
+  auto& block = *record.carbonInfo;
+  if (property == "carbonpsn_name") {
+    StoreCarbonName(record, value);
+  } else if (property == "carbonpsn_type") {
+    block.type = CodeOf(value);
+  } else if (property == "carbonpsn_signature") {
+    block.signature = CodeOf(value);
+  } else if (property == "carbonpsn_mode") {
+    block.mode = 0;
+    std::string_view text(value);
+    SkipBlanks(text);
+    std::from_chars(text.data(), text.data() + text.size(), block.mode);
+  } else {
+    FailAssertion(kUnit, __LINE__, "!\"invalid property!\"");
+  }
+}
+
+}  // namespace
+
+void ReportProcessInformationForPID(std::int32_t pid, const char* property, const char* value) {
+  const ConsolidatorGuard guard;
+  const std::string_view name(property);
+  if (name.starts_with("meta_")) return;
+  if (!name.starts_with("pid_")) {
+    ReportPSColumn(pid, property, value);
+    return;
+  }
+  PidReport report(pid);
+  if (const auto* row = FindBuiltInProperty(name)) report.Text(*row, value);
+}
+
+void ReportProcessInformationForCarbonPSN(ProcessSerialNumber psn, const char* property,
+                                          const char* value) {
+  const ConsolidatorGuard guard;
+  const std::int32_t pid = PSN2PID(psn);
+  Require(pid != kInvalidPID, kUnit, "pid != kInvalidPID");
+  auto* record = gRecords.GetExistingPIDInformation(pid);
+  if (record == nullptr) {
+    if (pid >= 0) return;
+    record = &gRecords.GetPIDInformation(pid);
+  }
+  if (record->carbonInfo == nullptr) {
+    record->carbonInfo = std::make_unique<CarbonBlock>();
+    record->changedAppreciably = true;
+  }
+  gRecords.SetSerialNumber(*record, psn);
+  record->lastSeenGeneration[kInformationKindCarbonPSN] =
+      gGenerationCount[kInformationKindCarbonPSN];
+  Require(std::string_view(property).starts_with("carbonpsn_"), kUnit, "false");
+  StoreCarbonProperty(*record, property, value);
+}
+
+void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::byte* bytes) {
+  const ConsolidatorGuard guard;
+  const std::int32_t pid = PSN2PID(psn);
+  Require(pid != kInvalidPID, kUnit, "pid != kInvalidPID");
+  auto& record = gRecords.GetPIDInformation(pid);
+  gRecords.SetSerialNumber(record, psn);
+  record.lastSeenGeneration[kInformationKindClassicPSN] =
+      gGenerationCount[kInformationKindClassicPSN];
+  if (record.epir == nullptr) record.epir = std::make_unique<ClassicRecord>();
+  record.previousClassicActiveTime = record.epir->ActiveTime();
+  *record.epir = ClassicRecord(bytes);
+  if (pid <= -2) gClassicEstimate.Charge(record);
+}
+
+void TouchProcessInformationForPID(std::int32_t pid, int kind) {
+  const ConsolidatorGuard guard;
+  auto& record = gRecords.GetPIDInformation(pid);
+  record.lastSeenGeneration[Index(kind)] = gGenerationCount[Index(kind)];
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,25 @@
+#pragma once
+
+namespace lurkwell {
+
+/// What a property's value is, for showing and for sorting. Values travel as text in any case.
+enum PropertyType : int {
+  kPropertyTypeString = 0,   ///< text; also every unknown name
+  kPropertyTypeInteger = 1,  ///< decimal integer
+  kPropertyTypeReal = 2,     ///< decimal fraction, percentages
+  kPropertyTypeHex = 3,      ///< hexadecimal address
+  kPropertyTypeMemory = 4,   ///< size in bytes (ps columns: kibibytes as ps prints them)
+  kPropertyTypeTime = 5,     ///< span of time, seconds.microseconds
+  kPropertyTypeDate = 6,     ///< point in time, seconds.microseconds since the epoch
+};
+
+/// The four sources that report into the records; each has its own generations.
+enum InformationKind : int {
+  kInformationKindPID = 0,         ///< the kernel's table and the helper
+  kInformationKindCarbonPSN = 1,   ///< the desktop's applications
+  kInformationKindClassicPSN = 2,  ///< applications of the Classic environment
+  kInformationKindPS = 3,          ///< columns of ps
+};
+inline constexpr int kInformationKindCount = 4;
+
+}  // namespace lurkwell

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <forward_list>
+#include <unordered_map>
+
+#include "consolidator/MetaProcessInformation.h"
+
+namespace lurkwell {
+
+struct SerialNumberHash {
+  std::size_t operator()(const ProcessSerialNumber& psn) const {
+    return std::hash<std::uint64_t>{}(std::uint64_t{psn.high} << 32 | psn.low);
+  }
+};
+
+/// All records, newest first, with an index by pid and one by serial number, so that no look-up
+/// walks the list. Guarded by the consolidator's region.
+class RecordStore {
+ public:
+  using List = std::forward_list<MetaProcessInformation>;
+
+  List& Records() { return mRecords; }
+  bool Empty() const { return mRecords.empty(); }
+  std::size_t Size() const { return mByPid.size(); }
+  /// The pid of the newest record, kInvalidPID without any.
+  std::int32_t HeadPid() const;
+
+  /// The record of `pid`, or null.
+  MetaProcessInformation* GetExistingPIDInformation(std::int32_t pid);
+
+  /// The record of `pid`; a missing one is made, valid and not changed, in front of all others and,
+  /// for a kernel pid, with its per-pid block. The invalid pid is a fatal assertion.
+  MetaProcessInformation& GetPIDInformation(std::int32_t pid);
+
+  /// The record that carries `psn`, or null. {0, 0} is carried by none.
+  MetaProcessInformation* FindBySerialNumber(ProcessSerialNumber psn);
+  void SetSerialNumber(MetaProcessInformation& record, ProcessSerialNumber psn);
+
+  /// Deletes the record after `position`; gives what then follows `position`.
+  List::iterator EraseAfter(List::iterator position);
+
+  void Clear();
+
+ private:
+  List mRecords;
+  std::unordered_map<std::int32_t, MetaProcessInformation*> mByPid;
+  std::unordered_map<ProcessSerialNumber, MetaProcessInformation*, SerialNumberHash>
+      mBySerialNumber;
+  /// The record of the last look-up: reports come in runs for one pid.
+  MetaProcessInformation* mLastFound = nullptr;
+};
+
+}  // namespace lurkwell

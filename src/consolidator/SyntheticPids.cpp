@@ -1,0 +1,52 @@
+#include "consolidator/SyntheticPids.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "consolidator/ConsolidatorState.h"
+#include "platform/Machine.h"
+#include "platform/ProcessManager.h"
+
+namespace lurkwell {
+
+std::optional<std::int32_t> SyntheticPidTable::Find(ProcessSerialNumber psn) const {
+  for (std::size_t i = 0; i < mCount; ++i)
+    if (mSlots[i].inUse && mSlots[i].psn == psn) return mSlots[i].pid;
+  return std::nullopt;
+}
+
+std::optional<ProcessSerialNumber> SyntheticPidTable::Find(std::int32_t pid) const {
+  for (std::size_t i = 0; i < mCount; ++i)
+    if (mSlots[i].inUse && mSlots[i].pid == pid) return mSlots[i].psn;
+  return std::nullopt;
+}
+
+std::int32_t SyntheticPidTable::HandOut(ProcessSerialNumber psn) {
+  mSlots[mCount] = {psn, gCurrentFakePid, true};
+  const std::int32_t pid = gCurrentFakePid;
+  // A flood of serial numbers may use up all negative numbers; start over rather than overflow.
+  gCurrentFakePid = pid == std::numeric_limits<std::int32_t>::min() ? -2 : pid - 1;
+  mCount = std::min(mCount + 1, mSlots.size() - 1);
+  return pid;
+}
+
+std::int32_t PSN2PID(ProcessSerialNumber psn) {
+  if (const auto* record = gRecords.FindBySerialNumber(psn)) return record->pid;
+  const auto kernelPid = TheMachine().processManager.GetProcessPID(psn);
+  if (kernelPid && *kernelPid >= 0) return *kernelPid;
+  if (const auto known = gPSN2PIDMap.Find(psn)) return *known;
+  return gPSN2PIDMap.HandOut(psn);
+}
+
+void PID2PSN(std::int32_t pid, ProcessSerialNumber* psn) {
+  *psn = {};
+  if (const auto* record = gRecords.GetExistingPIDInformation(pid)) {
+    *psn = record->psn;
+  } else if (pid >= 0) {
+    *psn = TheMachine().processManager.GetProcessForPID(pid).value_or(ProcessSerialNumber{});
+  } else {
+    *psn = gPSN2PIDMap.Find(pid).value_or(ProcessSerialNumber{});
+  }
+}
+
+}  // namespace lurkwell

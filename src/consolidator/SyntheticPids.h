@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "platform/ProcessIdentity.h"
+
+namespace lurkwell {
+
+/// The pid of an application: that of its record, else its kernel pid, else a made-up one of -2 or
+/// below, which the same serial number keeps. Only the first 127 made-up pids are kept; an
+/// application beyond them gets a fresh one at every call. Main thread, or inside the
+/// consolidator's region.
+std::int32_t PSN2PID(ProcessSerialNumber psn);
+
+/// The serial number of a process, {0, 0} when it is no application. Same threads.
+void PID2PSN(std::int32_t pid, ProcessSerialNumber* psn);
+
+// ---- For the consolidator itself ----------------------------------------------------------------
+
+/// Made-up pids for applications without a kernel pid, counting down from -2.
+class SyntheticPidTable {
+ public:
+  std::optional<std::int32_t> Find(ProcessSerialNumber psn) const;
+  std::optional<ProcessSerialNumber> Find(std::int32_t pid) const;
+  std::int32_t HandOut(ProcessSerialNumber psn);
+  void Clear() { *this = {}; }
+
+ private:
+  struct Slot {
+    ProcessSerialNumber psn;
+    std::int32_t pid = 0;
+    bool inUse = false;
+  };
+
+  std::array<Slot, 128> mSlots{};
+  /// Never passes 127: the last slot is written again and again and never found.
+  std::size_t mCount = 0;
+  std::int32_t gCurrentFakePid = -2;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <charconv>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace lurkwell {
+
+/// Reads texts piece by piece; what was read is taken off the front.
+
+inline bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
+}
+
+inline void SkipBlanks(std::string_view& text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+}
+
+/// The next run of other characters than blanks; empty at the end.
+inline std::string_view ScanWord(std::string_view& text) {
+  SkipBlanks(text);
+  std::size_t length = 0;
+  while (length < text.size() && !IsBlank(text[length])) ++length;
+  const auto word = text.substr(0, length);
+  text.remove_prefix(length);
+  return word;
+}
+
+/// A decimal integer after blanks, with an optional sign; nothing, and the text left at the first
+/// other character, when there is none or it does not fit 64 bits.
+inline std::optional<std::int64_t> ScanInteger(std::string_view& text) {
+  SkipBlanks(text);
+  std::string_view digits = text;
+  if (digits.starts_with('+')) {
+    digits.remove_prefix(1);
+    if (digits.starts_with('-')) return std::nullopt;
+  }
+  std::int64_t value = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (error != std::errc{}) return std::nullopt;
+  text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+  return value;
+}
+
+/// The next line without its newline; nothing at the end.
+inline std::optional<std::string_view> ScanLine(std::string_view& text) {
+  if (text.empty()) return std::nullopt;
+  const auto newline = text.find('\n');
+  const auto line = text.substr(0, newline);
+  text.remove_prefix(newline == std::string_view::npos ? text.size() : newline + 1);
+  return line;
+}
+
+}  // namespace lurkwell

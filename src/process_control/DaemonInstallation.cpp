@@ -1,0 +1,82 @@
+#include "process_control/DaemonInstallation.h"
+
+#include <cstring>
+#include <filesystem>
+#include <random>
+
+#include "platform/Assertion.h"
+#include "platform/Bundle.h"
+#include "platform/Machine.h"
+#include "process_control/DaemonCommunication.h"
+#include "process_control/DisplayFormats.h"
+#include "process_control/Unit.h"
+
+namespace lurkwell {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr auto kFolderMode = fs::perms::owner_all;
+constexpr auto kHelperMode = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec |
+                             fs::perms::others_read | fs::perms::others_exec;
+
+/// Gives the copy its name, but never another's: a second instance may have been faster.
+void TakeName(const fs::path& copy, const fs::path& name, std::error_code& error) {
+  fs::create_hard_link(copy, name, error);
+  if (error == std::errc::file_exists) error.clear();
+  // Some file systems have no links.
+  if (error && !fs::exists(name)) fs::rename(copy, name, error);
+  std::error_code ignored;
+  fs::remove(copy, ignored);
+}
+
+void Copy(const fs::path& source, const fs::path& target, std::error_code& error) {
+  const fs::path copy =
+      target.parent_path() / (".Lurkwell_helper." + std::to_string(std::random_device()()));
+  if (fs::copy_file(source, copy, error)) fs::permissions(copy, kHelperMode, error);
+  if (!error) {
+    TakeName(copy, target, error);
+  } else {
+    std::error_code ignored;
+    fs::remove(copy, ignored);
+  }
+}
+
+}  // namespace
+
+std::string EscapedBundlePath() {
+  std::string path = TheMachine().bundle.Path().substr(0, kLongestPath);
+  const std::size_t length = path.size();
+  path.resize(2 * length + 1);
+  EscapePathQuotes(path.data());
+  path.resize(std::strlen(path.c_str()));
+  return path;
+}
+
+std::string InstallHelper(const std::string& bundlePath, const std::string& supportFolder) {
+  const fs::path target = supportFolder + kHelperInApplicationSupport;
+  std::error_code error;
+  if (fs::create_directory(target.parent_path(), error))
+    fs::permissions(target.parent_path(), kFolderMode, error);
+  if (fs::exists(target, error)) return {};
+  error.clear();
+  Copy(bundlePath + kHelperInBundle, target, error);
+  return error ? "cannot copy " + bundlePath + kHelperInBundle + " to " + target.string() + ": " +
+                     error.message()
+               : std::string();
+}
+
+bool EnsureThatDaemonIsInApplicationSupport(const char* bundlePath, char* out,
+                                            std::int32_t capacity) {
+  const auto folder = TheMachine().bundle.ApplicationSupportFolder();
+  if (!folder || folder->size() > kLongestPath) return false;
+  const bool succeeded = InstallHelper(bundlePath, *folder).empty();
+  Require(succeeded, kDaemonUnit, "succeeded");
+  const std::string path = *folder + kHelperInApplicationSupport;
+  Require(path.size() < static_cast<std::size_t>(capacity), kDaemonUnit,
+          "strlen(path) + strlen(suffix) < capacity");
+  std::memcpy(out, path.c_str(), path.size() + 1);
+  return true;
+}
+
+}  // namespace lurkwell

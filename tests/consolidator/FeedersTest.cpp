@@ -1,0 +1,249 @@
+// What the feeders ask of the machine and of the helper, and what they make of the answers.
+#include "consolidator/PrintfOutputClient.h"
+#include "process_control/ProcessActions.h"
+#include "support/ConsolidatorTest.h"
+
+namespace lurkwell {
+namespace {
+
+class FeedersTest : public ConsolidatorTest {
+ protected:
+  /// Runs up to the first turn of clients that were added before the heart began to beat.
+  std::string Accesses(std::int64_t milliseconds) {
+    machine.log.Clear();
+    machine.runLoop.RunFor(milliseconds);
+    return machine.log.Take();
+  }
+};
+
+TEST_F(FeedersTest, RequestsRepeatTheLinesBeforeThemUntilTheTextIsLong) {
+  for (int pid = 10001; pid <= 10010; ++pid) machine.processTable.Birth(pid, "p");
+  Start();
+  Add("client", 1000).Needs({"meta_active_time", "pid_faults"});
+  const std::string header = "Helper Lkw Info Extraction:\\n";
+  const auto line = [](int pid) {
+    return "pid_internal_thread_time_basic_info_events_info " + std::to_string(pid) + "\\n";
+  };
+  // 21 characters of header and 54 of each line: the tenth makes it more than 512.
+  std::string expected = "ProcessTable.Read\n";
+  std::string text = header;
+  for (int pid = 10010; pid >= 10001; --pid) {
+    text += line(pid);
+    expected += text + "\n";
+  }
+  text = header + line(1);
+  expected += text + "\n";
+  expected += text + line(0) + "\n";
+  EXPECT_EQ(Accesses(1000), "ProcessTable.Read\n" + expected);
+}
+
+TEST_F(FeedersTest, OnlyTheGroupsThatSomebodyNeedsAreAskedFor) {
+  machine.processTable.Birth(30, "watched");
+  machine.processTable.Birth(31, "other");
+  Start();
+  auto& client = Add("client", 1000).OfPids({30});
+  const auto asked = [&](const char* property) {
+    client.Needs({property});
+    const auto text = Accesses(1000);
+    const auto at = text.find("pid_internal");
+    return at == std::string::npos ? "" : text.substr(at, text.find("\\n", at) - at);
+  };
+  Accesses(0);
+  EXPECT_EQ(asked("pid_p_comm"), "");
+  EXPECT_EQ(asked("pid_system_time"), "pid_internal_thread_time_basic_info 30")
+      << "a source of the CPU time is needed, and so the CPU time";
+  EXPECT_EQ(asked("pid_rsz"), "pid_internal_basic_info 30");
+  EXPECT_EQ(asked("pid_csw"), "pid_internal_events_info 30");
+  EXPECT_EQ(asked("meta_active_time"), "pid_internal_thread_time_basic_info 30");
+  EXPECT_EQ(asked("pid_terminated_user_time"), "pid_internal_thread_time_basic_info 30");
+  client.NeedsEverything();
+  machine.log.Clear();
+  machine.runLoop.RunFor(1000);
+  EXPECT_NE(machine.log.Take().find("_thread_time_basic_info_events_info 31"), std::string::npos);
+}
+
+TEST_F(FeedersTest, WithoutAnyNeedTheHelperIsLeftAlone) {
+  Start();
+  Add("client", 1000);
+  EXPECT_EQ(Accesses(2000), "ProcessTable.Read\nProcessTable.Read\nProcessTable.Read\n");
+}
+
+TEST_F(FeedersTest, AnswersThatWereNotAskedForChangeNothing) {
+  machine.processTable.Birth(40, "a");
+  machine.processTable.Birth(41, "b");
+  Start();
+  Add("client", 1000).Needs({"pid_rsz"}).OfPids({40});
+  std::string answer;
+  helper->SetAnswer([&](std::string_view) { return answer; });
+  const auto after = [&](const char* text) {
+    answer = text;
+    machine.runLoop.RunFor(1000);
+    return Value(40, "pid_rsz") + " " + Value(40, "pid_csw") + " " + Value(41, "pid_rsz");
+  };
+  Accesses(0);
+  EXPECT_EQ(after("pid_rsz 40 17\n"), "17 0 0");
+  EXPECT_EQ(after("pid_rsz 41 99\npid_csw 40 99\nmeta_pid 40 99\npid_p_nice 40 99\n"), "17 0 0");
+  EXPECT_EQ(after("pid_rsz 40 99999999999999999999\n"), "0 0 0");
+  EXPECT_EQ(after("pid_rsz 40 18"), "18 0 0") << "the last line needs no newline";
+  EXPECT_EQ(after("noise\n\n\npid_rsz\npid_rsz x\npid_rsz 40 19\n"), "19 0 0");
+  EXPECT_EQ(after("!Error\n"), "19 0 0");
+  EXPECT_EQ(after(""), "19 0 0");
+  EXPECT_EQ(after("pid_vsz 40 536870913\npid_rsz 40 20\n"), "20 0 0");
+  EXPECT_EQ(Value(40, "pid_vsz"), "1");
+}
+
+TEST_F(FeedersTest, FiguresThatStayTheSameForABeatAreFreshInTheNext) {
+  auto& process = machine.processTable.Birth(45, "busy");
+  Start();
+  Add("client", 1000).Needs({"meta_active_time"});
+  Accesses(1000);
+  EXPECT_EQ(Value(45, "meta_active_time"), "0.000000");
+  process.UseCPU(1500);
+  Accesses(1000);
+  EXPECT_EQ(Value(45, "meta_active_time"), "1.500000");
+}
+
+TEST_F(FeedersTest, AProcessThatSomebodyElseStoppedIsShownAsHalted) {
+  machine.processTable.Birth(50, "stopped");
+  machine.processTable.Stop(50);
+  Start();
+  Add("client", 1000).Needs({"meta_name"});
+  testing::internal::CaptureStdout();
+  machine.runLoop.RunFor(3000);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "detected a surreptitiously-halted process 50!\n");
+  EXPECT_TRUE(GetProcessAction(50, kProcessActionHalt, nullptr));
+  EXPECT_FALSE(GetProcessAction(1, kProcessActionAny, nullptr));
+}
+
+TEST_F(FeedersTest, APidAboveTheMachinesLimitIsPassedOver) {
+  machine.processTable.Birth(65535, "last");
+  machine.processTable.Birth(65536, "beyond");
+  Start();
+  Add("client", 1000).Needs({"meta_name"});
+  testing::internal::CaptureStdout();
+  machine.runLoop.RunFor(1000);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "BAD pid! (?)\nBAD pid! (?)\n")
+      << "in both beats";
+  EXPECT_EQ(Value(65535, "meta_name"), "last");
+  EXPECT_EQ(Value(65536, "meta_name"), "[]");
+}
+
+class PSFeederTest : public FeedersTest {
+ protected:
+  PSFeederTest() {
+    auto& tools = machine.tools;
+    tools.SetOutput("/bin/ps -Lww", "pid %cpu rss rsz\ntt command\n");
+    tools.SetOutput("/bin/ps 0 -o pid", "  PID\n");
+    tools.SetOutput("/bin/ps 0 -o %cpu", "%CPU\n");
+    tools.SetOutput("/bin/ps 0 -o rss", "   RSZ\n    1\n");
+    tools.SetOutput("/bin/ps 0 -o rsz", "RSZ\n");
+    tools.SetOutput("/bin/ps 0 -o tt", "TT\n");
+    machine.processTable.Birth(60, "a");
+    machine.processTable.Birth(61, "b");
+  }
+};
+
+TEST_F(PSFeederTest, ColumnsAreFoundOnceAndKnownByTheirHeaders) {
+  helper.emplace(machine);
+  InitializeProcessInformationConsolidator();
+  EXPECT_EQ(machine.log.Take(),
+            "Tools.Run /bin/ps -Lww\nTools.Run /bin/ps 0 -o pid\nTools.Run /bin/ps 0 -o %cpu\n"
+            "Tools.Run /bin/ps 0 -o rss\nTools.Run /bin/ps 0 -o rsz\nTools.Run /bin/ps 0 -o tt\n"
+            "Tools.Run /bin/ps 0 -o command\n");
+  std::string headers;
+  for (int i = 0; i < GetPSHeaderCount(); ++i) {
+    char name[64];
+    GetNthPSHeader(i, name, sizeof name, nullptr);
+    headers += std::string(name) + std::to_string(GetNthPSHeadersGeneratingOptionCount(i)) + " ";
+  }
+  EXPECT_EQ(headers, "PID1 %CPU1 RSZ2 TT1 ") << "a keyword that prints nothing is no column";
+}
+
+TEST_F(PSFeederTest, ANeededColumnIsOneRunAndItsValuesKeepTheirNewline) {
+  machine.tools.SetOutput("/bin/ps -axww -o pid,rsz",
+                          "  PID    RSZ\n    1   123\n   60  45 6 \n   61\n    0   99\n x 5\n");
+  Start();
+  Add("client", 1000).Needs({"RSZ", "PID"});
+  EXPECT_EQ(Accesses(1000),
+            "ProcessTable.Read\nProcessTable.Read\nTools.Run /bin/ps -axww -o pid,rsz\n");
+  EXPECT_EQ(Value(1, "RSZ"), "123\n");
+  EXPECT_EQ(Value(60, "RSZ"), "45 6 \n");
+  EXPECT_EQ(Value(61, "RSZ"), "");
+  EXPECT_EQ(Value(0, "RSZ"), "()");
+  EXPECT_EQ(Value(60, "TT"), "()") << "known, but nobody needed it";
+  bool current = false;
+  GetNthPSHeader(2, nullptr, 0, &current);
+  EXPECT_TRUE(current);
+  GetNthPSHeader(3, nullptr, 0, &current);
+  EXPECT_FALSE(current);
+}
+
+TEST_F(PSFeederTest, ForSomeProcessesOnlyTheirValuesAreKept) {
+  Start();
+  Add("client", 1000).Needs({"TT"}).OfPids({61});
+  Told(1000);
+  machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n60 s0\n61 s1\n99 s9\n");
+  EXPECT_EQ(Told(1000), "client added 99\nclient updated\n") << "a touch makes a record";
+  EXPECT_EQ(Value(60, "TT"), "()");
+  EXPECT_EQ(Value(61, "TT"), "s1\n");
+  machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n61 s2\n");
+  EXPECT_EQ(Told(1000), "client removed 99\nclient updated\n")
+      << "and the kernel's pass retires it";
+}
+
+TEST_F(PSFeederTest, AColumnThatHangsKeepsWhatItHadAndRestsForAMinute) {
+  const std::string command = "/bin/ps -axww -o pid,tt";
+  machine.tools.SetOutput(command, "PID TT\n60 whole\n61 cut");
+  machine.tools.SetStuck(command);
+  Start();
+  Add("client", 1000).Needs({"TT"});
+  EXPECT_NE(Accesses(1000).find(command), std::string::npos);
+  EXPECT_EQ(Value(60, "TT"), "whole\n");
+  EXPECT_EQ(Value(61, "TT"), "()");
+  EXPECT_EQ(Accesses(59'000).find(command), std::string::npos);
+  EXPECT_NE(Accesses(2'000).find(command), std::string::npos);
+}
+
+TEST_F(PSFeederTest, AMachineWithoutPsHasNoColumns) {
+  machine.tools.SetOutput("/bin/ps -Lww", "");
+  Start();
+  EXPECT_EQ(GetPSHeaderCount(), 0);
+  Add("client", 1000).Needs({"TT"});
+  EXPECT_EQ(Accesses(1000), "ProcessTable.Read\nProcessTable.Read\n");
+}
+
+TEST_F(PSFeederTest, TheKeywordListIsCutAtItsLimit) {
+  std::string list(1020, 'x');
+  machine.tools.SetOutput("/bin/ps -Lww", list + "\nabcdef\n");
+  helper.emplace(machine);
+  InitializeProcessInformationConsolidator();
+  EXPECT_EQ(machine.log.Take(), "Tools.Run /bin/ps -Lww\nTools.Run /bin/ps 0 -o " +
+                                    std::string(255, 'x') + "\nTools.Run /bin/ps 0 -o ab\n");
+}
+
+TEST_F(PSFeederTest, ThePrintfClientPrintsALinePerProcess) {
+  machine.processTable.Find(60)->UseCPU(1234);
+  machine.processTable.Find(61)->SetName("\x1B[2Jb\n");
+  machine.tools.SetOutput("/bin/ps -axww -o pid,rsz", "PID RSZ\n60 456\n");
+  Start();
+  BeginPrintfOutput();
+  testing::internal::CaptureStdout();
+  machine.runLoop.RunFor(1000);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "   61:           \\033[2Jb\\012    0.000000     1                      \n"
+            "   60:                      a    1.234000     1                      \n"
+            "    1:                launchd    0.000000     0                      \n"
+            "    0:            kernel_task    0.000000     0                      \n");
+  EXPECT_EQ(machine.log.Take().find("-axww"), std::string::npos) << "it fetches no ps column";
+  Add("other", 1000).Needs({"RSZ"});
+  machine.runLoop.RunFor(1000);
+  testing::internal::CaptureStdout();
+  machine.runLoop.RunFor(1000);
+  EXPECT_NE(testing::internal::GetCapturedStdout().find("\n   60:                      a    "
+                                                        "1.234000     1       456            \n"),
+            std::string::npos);
+}
+
+}  // namespace
+}  // namespace lurkwell

@@ -1,0 +1,373 @@
+// The catalogue, the texts of values, and what reports do to them.
+#include "consolidator/ProcessReports.h"
+#include "support/ConsolidatorTest.h"
+
+namespace lurkwell {
+namespace {
+
+class PropertiesTest : public ConsolidatorTest {
+ protected:
+  static void Report(std::int32_t pid, const char* property, const char* value) {
+    BeginProcessInformationIteration(kInformationKindPID);
+    ReportProcessInformationForPID(pid, property, value);
+    EndProcessInformationIteration(kInformationKindPID);
+  }
+
+  /// Every property of a process, a line each.
+  static std::string Dump(std::int32_t pid) {
+    std::string dump;
+    char name[64];
+    for (int i = 0; GetNthProcPropertyHeader(i, name, sizeof name); ++i)
+      dump += std::string(name) + "=" + Value(pid, name) + "\n";
+    return dump;
+  }
+
+  static std::vector<std::byte> ClassicBlob(std::string_view name, std::uint32_t ticks) {
+    std::vector<std::byte> bytes(396);
+    const auto put = [&](std::size_t at, const void* data, std::size_t size) {
+      std::memcpy(bytes.data() + at, data, size);
+    };
+    const std::uint32_t words[] = {0x40, 0x1234abcd, 3'000'000, 1'000'000};
+    put(16, "APPLttxt", 8);
+    put(24, words, sizeof words);
+    put(52, &ticks, sizeof ticks);
+    bytes[68] = static_cast<std::byte>(name.size());
+    put(69, name.data(), name.size());
+    return bytes;
+  }
+};
+
+TEST_F(PropertiesTest, TheCatalogueNamesTypesAndWhatChanges) {
+  Start();
+  std::string table;
+  char name[64];
+  for (int i = 0; GetNthProcPropertyHeader(i, name, sizeof name); ++i) {
+    int changes = -1;
+    table += std::string(name) + " " + std::to_string(GetProcPropertyType(name, &changes));
+    table += changes ? " changes\n" : " stays\n";
+  }
+  EXPECT_EQ(table,
+            "meta_pid 1 stays\nmeta_name 0 changes\nmeta_active_time 5 changes\n"
+            "meta_kind 0 changes\nmeta_psn 0 stays\ncarbonpsn_name 0 stays\n"
+            "carbonpsn_type 0 stays\ncarbonpsn_signature 0 stays\ncarbonpsn_mode 1 stays\n"
+            "classicpsn_name 0 stays\nclassicpsn_type 0 stays\nclassicpsn_signature 0 stays\n"
+            "classicpsn_mode 1 stays\nclassicpsn_location 1 stays\nclassicpsn_size 1 stays\n"
+            "classicpsn_active_time 1 changes\nclassicpsn_free_mem 1 changes\n"
+            "pid_p_comm 0 changes\npid_p_priority 1 changes\npid_parent_pid 1 stays\n"
+            "pid_p_nice 1 changes\npid_p_starttime 6 changes\npid_user_time 5 changes\n"
+            "pid_system_time 5 changes\npid_vsz 4 changes\npid_rsz 4 changes\n"
+            "pid_suspend_count 1 changes\npid_terminated_user_time 5 changes\n"
+            "pid_terminated_system_time 5 changes\npid_policy 1 changes\npid_faults 1 changes\n"
+            "pid_pageins 1 changes\npid_cow_faults 1 changes\npid_messages_sent 1 changes\n"
+            "pid_messages_received 1 changes\npid_syscalls_mach 1 changes\n"
+            "pid_syscalls_unix 1 changes\npid_csw 1 changes\n");
+  EXPECT_EQ(CountBuiltInProcPropertyHeaders(), 38);
+  char untouched[] = "untouched";
+  EXPECT_FALSE(GetNthProcPropertyHeader(38, untouched, sizeof untouched));
+  EXPECT_FALSE(GetNthProcPropertyHeader(-1, untouched, sizeof untouched));
+  EXPECT_STREQ(untouched, "untouched");
+}
+
+TEST_F(PropertiesTest, ColumnsOfPSHaveTypesOfTheirOwn) {
+  const auto type = [](const char* name) {
+    int changes = -1;
+    const int value = GetProcPropertyType(name, &changes);
+    return std::to_string(value) + (changes ? "c" : "s");
+  };
+  EXPECT_EQ(type("RSS"), "1c");
+  EXPECT_EQ(type("RSZ"), "4c");
+  EXPECT_EQ(type("WCHAN"), "1c");
+  EXPECT_EQ(type("%CPU"), "2c");
+  EXPECT_EQ(type("PADDR"), "3s");
+  EXPECT_EQ(type("SESS"), "3c");
+  EXPECT_EQ(type("PID"), "1s");
+  EXPECT_EQ(type("PPID"), "1s");
+  EXPECT_EQ(type("COMMAND"), "0c");
+  EXPECT_EQ(type("no such thing"), "0c");
+}
+
+TEST_F(PropertiesTest, EveryFigureOfAKernelProcessIsShown) {
+  auto& process = machine.processTable.Birth(321, "sixteen letters!", 1);
+  process.entry.nice = -5;
+  process.entry.startTime = {1'000'000'000, 42};
+  process.userTime = {12, 5};
+  process.systemTime = {3, 999'999};
+  process.terminatedUserTime = {100, 500'000};
+  process.terminatedSystemTime = {0, 600'000};
+  process.virtualSize = 6'000'000'000;
+  process.residentSize = 5'000'000'000;
+  process.policy = 2;
+  process.entry.state = RunState::kStopped;
+  for (int i = 0; i < 8; ++i) process.events[i] = 10 + i;
+  process.events[0] = 3'000'000'000;
+  Start();
+  Add("all", 1000).NeedsEverything();
+  machine.runLoop.RunFor(15'000);
+  EXPECT_EQ(Dump(321),
+            "meta_pid=321\nmeta_name=sixteen letters!\nmeta_active_time=117.100004\n"
+            "meta_kind=Darwin\nmeta_psn=00000000 00000000\n"
+            "carbonpsn_name=(-)\ncarbonpsn_type=(-)\ncarbonpsn_signature=(-)\n"
+            "carbonpsn_mode=(-)\nclassicpsn_name=()\nclassicpsn_type=()\n"
+            "classicpsn_signature=()\nclassicpsn_mode=()\nclassicpsn_location=()\n"
+            "classicpsn_size=()\nclassicpsn_active_time=()\nclassicpsn_free_mem=()\n"
+            "pid_p_comm=sixteen letters!\npid_p_priority=31\npid_parent_pid=1\npid_p_nice=-5\n"
+            "pid_p_starttime=1000000000.000042\npid_user_time=12.000005\n"
+            "pid_system_time=3.999999\npid_vsz=5463129088\npid_rsz=5000000000\n"
+            "pid_suspend_count=1\npid_terminated_user_time=100.500000\n"
+            "pid_terminated_system_time=0.600000\npid_policy=2\npid_faults=3000000000\n"
+            "pid_pageins=11\npid_cow_faults=12\npid_messages_sent=13\npid_messages_received=14\n"
+            "pid_syscalls_mach=15\npid_syscalls_unix=16\npid_csw=17\n");
+}
+
+TEST_F(PropertiesTest, ApplicationsCarryWhatTheDesktopAndTheClassicEnvironmentSay) {
+  machine.processTable.Birth(330, "textedit");
+  machine.processManager.Launch({1, 330}, 330, "Text Edit", {'t', 't', 'x', 't'});
+  machine.processManager.Launch({2, 0xBEEF}, std::nullopt, "Old Guest");
+  Start();
+  Add("client", 1000).Needs({"pid_p_comm", "carbonpsn_name"});
+  machine.runLoop.RunFor(15'000);
+  EXPECT_EQ(Value(330, "meta_name"), "Text Edit");
+  EXPECT_EQ(Value(330, "meta_kind"), "OS X");
+  EXPECT_EQ(Value(330, "meta_psn"), "00000001 0000014a");
+  EXPECT_EQ(Value(330, "carbonpsn_signature"), "ttxt");
+  EXPECT_EQ(Value(330, "carbonpsn_mode"), "0x00000040");
+  EXPECT_EQ(Value(330, "carbonpsn_type", 4), "()");
+  EXPECT_EQ(Value(330, "carbonpsn_nothing"), "()");
+
+  EXPECT_EQ(Value(-2, "meta_kind"), "Classic");
+  EXPECT_EQ(Value(-2, "pid_p_comm"), "(n/a)");
+  EXPECT_EQ(Value(-2, "classicpsn_name"), "()") << "its report has not come yet";
+  ReportProcessInformationClassicPSNBlob({2, 0xBEEF}, ClassicBlob("Guest", 1000).data());
+  EXPECT_EQ(Value(-2, "classicpsn_name"), "Guest");
+  EXPECT_EQ(Value(-2, "classicpsn_type"), "APPL");
+  EXPECT_EQ(Value(-2, "classicpsn_signature"), "ttxt");
+  EXPECT_EQ(Value(-2, "classicpsn_mode"), "0x00000040");
+  EXPECT_EQ(Value(-2, "classicpsn_location"), "0x1234abcd");
+  EXPECT_EQ(Value(-2, "classicpsn_size"), "3000000");
+  EXPECT_EQ(Value(-2, "classicpsn_free_mem"), "1000000");
+  EXPECT_EQ(Value(-2, "classicpsn_active_time"), "1000");
+  EXPECT_EQ(Value(-2, "classicpsn_nothing"), "()");
+  EXPECT_DEATH(Value(-2, "classicpsn_size", 10),
+               "PI_Consolidator:[0-9]+: failed assertion `valueLength > 10'");
+  EXPECT_DEATH(Value(-2, "classicpsn_name", 5),
+               "failed assertion `valueLength > mpi->epir->name\\[0\\]'");
+  EXPECT_DEATH(Value(-2, "classicpsn_type", 4), "failed assertion `valueLength > 4'");
+  EXPECT_DEATH(Value(-2, "classicpsn_active_time", 8), "failed assertion `valueLength > 8'");
+
+  // The longest name loses its last character to the terminator, so that every table's buffer of
+  // 255 bytes takes it.
+  ReportProcessInformationClassicPSNBlob({2, 0xBEEF}, ClassicBlob(std::string(255, 'n'), 1).data());
+  EXPECT_EQ(Value(-2, "classicpsn_name", 255), std::string(254, 'n'));
+}
+
+TEST_F(PropertiesTest, AnApplicationsNewNameIsAChangeAndItsFirstIsNot) {
+  machine.processTable.Birth(331, "comm");
+  Start();
+  auto& client = Add("client", 1000).Needs({"carbonpsn_name"});
+  machine.runLoop.RunFor(15'000);
+  told.Clear();
+  auto& application = machine.processManager.Launch({1, 331}, 331, "First Name");
+  EXPECT_EQ(Told(1000), "client changed 331\nclient updated\n") << "a new block of data";
+  EXPECT_EQ(Told(1000), "client updated\n");
+  application.information.name = std::string(200, 'x');
+  EXPECT_EQ(Told(1000), "client changed 331\nclient updated\n");
+  EXPECT_EQ(Value(331, "carbonpsn_name"), std::string(127, 'x'));
+  EXPECT_EQ(Value(331, "meta_name"), std::string(31, 'x'));
+  client.Needs({});
+}
+
+TEST_F(PropertiesTest, ShortBuffersGiveNoValueRatherThanHalfOfOne) {
+  Start();
+  Report(77, "pid_p_priority", "12345");
+  Report(77, "pid_user_time", "1.5");
+  Report(77, "pid_p_comm", "command");
+  EXPECT_EQ(Value(77, "pid_p_priority", 6), "12345");
+  EXPECT_EQ(Value(77, "pid_p_priority", 5), "()");
+  EXPECT_EQ(Value(77, "pid_user_time", 14), "1.000005");
+  EXPECT_EQ(Value(77, "pid_user_time", 13), "()");
+  EXPECT_EQ(Value(77, "pid_system_time", 11), "0.000000");
+  EXPECT_EQ(Value(77, "pid_p_comm", 10), "()");
+  EXPECT_EQ(Value(77, "meta_name", 4), "com");
+  EXPECT_EQ(Value(77, "pid_nothing"), "()");
+  Report(77, "pid_parent_pid", "4194304");
+  EXPECT_EQ(Value(77, "pid_parent_pid", 6), "()") << "does not fit, although the buffer is allowed";
+  EXPECT_EQ(Value(78, "meta_pid"), "[]");
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(Value(77, "meta_nonsense"), "()");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "unsupported property kind! meta_nonsense\n");
+}
+
+TEST_F(PropertiesTest, ReportedTextsAreReadTheWayTheirPropertiesWant) {
+  Start();
+  const auto after = [](const char* property, const char* value) {
+    Report(88, property, value);
+    return Value(88, property);
+  };
+  EXPECT_EQ(after("pid_p_nice", " -7 trailing"), "-7");
+  EXPECT_EQ(after("pid_p_nice", "99999999999"), "-7") << "too large: the old value stays";
+  EXPECT_EQ(after("pid_p_nice", "none"), "0");
+  EXPECT_EQ(after("pid_parent_pid", "17"), "17");
+  EXPECT_EQ(after("pid_parent_pid", "none"), "-1");
+  EXPECT_EQ(after("pid_system_time", "12.5"), "12.000005");
+  EXPECT_EQ(after("pid_system_time", "12"), "12.000000");
+  EXPECT_EQ(after("pid_system_time", "1.3000000"), "4.000000");
+  EXPECT_EQ(after("pid_rsz", "2147483648"), "2147483648");
+  EXPECT_EQ(after("pid_vsz", "536870912"), "536870912");
+  EXPECT_EQ(after("pid_vsz", "536870913"), "1");
+  EXPECT_EQ(after("pid_vsz", "-1"), "3758096383") << "4 GiB - 1 in a 32-bit sender's words";
+  machine.preferenceDomain.SetValue("MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT", 0);
+  EXPECT_EQ(after("pid_vsz", "536870913"), "536870913");
+  EXPECT_EQ(after("pid_p_comm", "a name that goes on beyond the field"),
+            "a name that goes on beyond the ");
+  Report(88, "meta_name", "ignored");
+  EXPECT_NE(Value(88, "meta_name"), "ignored");
+  Report(88, "pid_unheard_of", "5");
+}
+
+TEST_F(PropertiesTest, BrokenReportsStopTheProgram) {
+  Start();
+  machine.processTable.Birth(90, "app");
+  machine.processManager.Launch({1, 90}, 90, "App");
+  Report(90, "pid_p_comm", "app");
+  EXPECT_DEATH(ReportProcessInformationForCarbonPSN({1, 90}, "pid_p_comm", "x"),
+               "failed assertion `false'");
+  EXPECT_DEATH(ReportProcessInformationForCarbonPSN({1, 90}, "carbonpsn_x", "x"),
+               "failed assertion `!\"invalid property!\"'");
+  EXPECT_DEATH(ReportProcessInformationForPID(-2, "pid_p_comm", "x"),
+               "failed assertion `mpi->pidInfo'");
+  EXPECT_DEATH(ReportProcessInformationForPID(-1, "pid_p_comm", "x"),
+               "failed assertion `pid != kInvalidPID'");
+  EXPECT_DEATH(ReportProcessInformationForPID(90, "NOSUCHCOLUMN", "x"),
+               "failed assertion `inPSOptionThatGeneratedProperty != NULL'");
+  EXPECT_DEATH(GetNthPSHeader(0, nullptr, 0, nullptr), "failed assertion `pipsh'");
+}
+
+TEST_F(PropertiesTest, SyntheticPidsAreKeptForTheFirst127) {
+  Start();
+  for (std::uint32_t i = 1; i <= 127; ++i)
+    EXPECT_EQ(PSN2PID({9, i}), -1 - static_cast<std::int32_t>(i));
+  EXPECT_EQ(PSN2PID({9, 127}), -128);
+  EXPECT_EQ(PSN2PID({9, 128}), -129);
+  EXPECT_EQ(PSN2PID({9, 128}), -130) << "the last slot is written again and never found";
+  EXPECT_EQ(PSN2PID({9, 1}), -2);
+  ProcessSerialNumber psn;
+  PID2PSN(-128, &psn);
+  EXPECT_EQ(psn, (ProcessSerialNumber{9, 127}));
+  PID2PSN(-130, &psn);
+  EXPECT_TRUE(psn.IsNone());
+  machine.processManager.Launch({5, 5}, 44, "Kernel backed");
+  EXPECT_EQ(PSN2PID({5, 5}), 44);
+  PID2PSN(44, &psn);
+  EXPECT_EQ(psn, (ProcessSerialNumber{5, 5}));
+}
+
+TEST_F(PropertiesTest, FamiliesAreFollowedUpwards) {
+  auto& table = machine.processTable;
+  table.Birth(10, "a");
+  table.Birth(11, "b", 10);
+  table.Birth(12, "c", 11);
+  table.Birth(13, "other");
+  Start();
+  Add("client", 1000).Needs({"meta_name"});
+  machine.runLoop.RunFor(15'000);
+  EXPECT_TRUE(PidIsAncestor(12, 10));
+  EXPECT_TRUE(PidIsAncestor(1, 0));
+  EXPECT_FALSE(PidIsAncestor(10, 10));
+  EXPECT_FALSE(PidIsAncestor(10, 12));
+  EXPECT_FALSE(PidIsAncestor(0, 1));
+  EXPECT_TRUE(PidIsParent(12, 11));
+  EXPECT_FALSE(PidIsParent(12, 10));
+  const auto list = [](int kind, std::int32_t of) {
+    std::string text;
+    for (const auto pid : PidBlob(kind, &of)) text += std::to_string(pid) + " ";
+    return text;
+  };
+  EXPECT_EQ(list(kPidBlobAll, 0), "13 12 11 10 1 0 ");
+  EXPECT_EQ(list(kPidBlobChildrenOf, 1), "13 10 ");
+  EXPECT_EQ(list(kPidBlobChildrenOf, 0), "1 0 ");
+  EXPECT_EQ(list(kPidBlobDescendantsOf, 10), "12 11 ");
+  EXPECT_EQ(list(kPidBlobDescendantsOf, 0), "13 12 11 10 1 ");
+  EXPECT_EQ(list(3, 10), "");
+  EXPECT_DEATH(PidIsAncestor(-1, 1), "failed assertion `pid != kInvalidPID'");
+  EXPECT_DEATH(PidIsAncestor(1, -1), "failed assertion `potentialAncestorPid != kInvalidPID'");
+  EXPECT_DEATH(
+      {
+        std::fclose(stdout);
+        stdout = stderr;
+        PidIsAncestor(99, 1);
+      },
+      "PidIsAncestor problem! pid 99 doesn't exist! \\(potential ancestor 1\\)\n"
+      "PI_Consolidator:[0-9]+: failed assertion `mpi'");
+  IncrementPidsKillCount(12);
+  IncrementPidsKillCount(12);
+  IncrementPidsKillCount(99);
+  EXPECT_EQ(GetPidsKillCount(12), 2);
+  EXPECT_EQ(GetPidsKillCount(99), 0);
+}
+
+TEST_F(PropertiesTest, ADeadParentCountsAsUnknownAndNoWalkMeetsAGap) {
+  auto& table = machine.processTable;
+  table.Birth(20, "parent");
+  table.Birth(21, "child", 20);
+  Start();
+  // Nobody needs the child, so its parent is not reported again after the first client has gone.
+  auto& first = Add("first", 1000).Needs({"meta_name"});
+  machine.runLoop.RunFor(15'000);
+  EXPECT_EQ(Value(21, "pid_parent_pid"), "20");
+  first.OfPids({1});
+  table.Death(20);
+  machine.runLoop.RunFor(1000);
+  EXPECT_EQ(Value(21, "pid_parent_pid"), "-1");
+  EXPECT_FALSE(PidIsAncestor(21, 0));
+}
+
+TEST_F(PropertiesTest, ClassicApplicationsAreChargedFromTheirEnvironmentsFilteredUse) {
+  auto& environment = machine.processTable.Birth(50, "TruBlueEnvironm");
+  machine.processManager.Launch({2, 1}, std::nullopt, "Guest");
+  Start();
+  Add("client", 1000).Needs({"meta_active_time", "meta_name", "carbonpsn_name"});
+  environment.UseCPU(100);
+  machine.runLoop.RunFor(1000);  // first measurement: the assumed 0.1
+  const auto report = [&](std::uint32_t ticks) {
+    ReportProcessInformationClassicPSNBlob({2, 1}, ClassicBlob("Guest", ticks).data());
+    return Value(-2, "meta_active_time");
+  };
+  EXPECT_EQ(report(6000), "0.000001") << "the first report only marks it as measured";
+  EXPECT_EQ(report(6000), "0.000001");
+  // 602.5 ticks' worth of 0.1 of a CPU: 603 * 0.1 / 60.25 = 1.000829875...
+  EXPECT_EQ(report(6603), "1.000830");
+  environment.UseCPU(600);
+  machine.runLoop.RunFor(1000);  // used 0.6: the estimate moves to 0.1 + 0.5 * 0.05 = 0.125
+  // 241 * 0.125 / 60.25 = 0.5 exactly
+  EXPECT_EQ(report(6844), "1.500830");
+  EXPECT_EQ(report(10), "1.500830") << "a guest that began anew is not charged backwards";
+}
+
+TEST_F(PropertiesTest, ThePsColumnsOfAProcessKeepTheirNewestText) {
+  machine.tools.SetOutput("/bin/ps -Lww", "tt tty\n");
+  machine.tools.SetOutput("/bin/ps 0 -o tt", "TT\n");
+  machine.tools.SetOutput("/bin/ps 0 -o tty", "TT\n");
+  Start();
+  machine.runLoop.RunFor(0);
+  char text[64];
+  EXPECT_EQ(CountProcPropertyHeaders(), 39);
+  EXPECT_TRUE(GetNthProcPropertyHeader(38, text, sizeof text));
+  EXPECT_STREQ(text, "TT");
+  EXPECT_EQ(GetNthPSHeadersGeneratingOptionCount(0), 2);
+  GetNthPSHeadersNthGeneratingOption(0, 0, text, sizeof text);
+  EXPECT_STREQ(text, "tty") << "the newest first";
+  GetNthPSHeadersNthGeneratingOption(0, 1, text, sizeof text);
+  EXPECT_STREQ(text, "tt");
+  EXPECT_DEATH(GetNthPSHeadersNthGeneratingOption(0, 2, text, sizeof text),
+               "failed assertion `successfullyRetrievedTheOption'");
+  EXPECT_EQ(Value(1, "TT"), "()");
+  ReportProcessInformationForPID(1, "TT", "s1\n");
+  ReportProcessInformationForPID(1, "TT", "s2\n");
+  ReportProcessInformationForPID(99, "TT", "dropped: no such record");
+  EXPECT_EQ(Value(1, "TT"), "s2\n");
+  EXPECT_EQ(Value(99, "TT"), "[]");
+  EXPECT_DEATH(Value(1, "UNHEARD"), "failed assertion `pipsh'");
+}
+
+}  // namespace
+}  // namespace lurkwell

@@ -1,0 +1,167 @@
+// The engine on this machine's processes and its ps; only time is simulated.
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <cstdio>
+#include <map>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "platform/linux/LinuxHostStatistics.h"
+#include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/LinuxTools.h"
+#include "support/ConsolidatorTest.h"
+
+namespace lurkwell {
+namespace {
+
+/// A program that runs until this goes out of scope.
+class Child {
+ public:
+  explicit Child(std::vector<std::string> arguments) {
+    std::vector<char*> pointers;
+    for (auto& argument : arguments) pointers.push_back(argument.data());
+    pointers.push_back(nullptr);
+    posix_spawnp(&mPid, pointers[0], nullptr, nullptr, pointers.data(), environ);
+  }
+  ~Child() {
+    // Never kill(-1, ...): that means everybody.
+    if (mPid > 0) kill(mPid, SIGKILL);
+    Wait();
+  }
+  void Wait() {
+    if (mPid > 0) waitpid(mPid, nullptr, 0);
+    mPid = -1;
+  }
+  pid_t Pid() const { return mPid; }
+
+ private:
+  pid_t mPid = -1;
+};
+
+std::string OutputOf(const std::string& command) {
+  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+  std::string text;
+  std::array<char, 4096> piece;
+  while (const auto bytes = fread(piece.data(), 1, piece.size(), pipe.get()))
+    text.append(piece.data(), bytes);
+  return text;
+}
+
+std::string Trimmed(std::string text) {
+  const auto first = text.find_first_not_of(" \n");
+  if (first == std::string::npos) return "";
+  return text.substr(first, text.find_last_not_of(" \n") - first + 1);
+}
+
+class RealMachineTest : public ConsolidatorTest {
+ protected:
+  LinuxProcessTable processTable;
+  LinuxHostStatistics hostStatistics;
+  LinuxTools tools;
+  Machine real{machine.clock,
+               machine.runLoop,
+               machine.preferenceDomain,
+               processTable,
+               machine.processManager,
+               hostStatistics,
+               tools,
+               machine.signals,
+               machine.namedPipes,
+               machine.authorization,
+               machine.bundle,
+               machine.alerts};
+  MachineInstallation realInstallation{real};
+};
+
+TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
+  const Child sleeper({"sleep", "1000"});
+  Start();
+  ASSERT_GT(GetPSHeaderCount(), 80);
+  std::map<std::string, std::string> optionOf;
+  for (int i = 0; i < GetPSHeaderCount(); ++i) {
+    char header[64];
+    char option[256];
+    GetNthPSHeader(i, header, sizeof header, nullptr);
+    GetNthPSHeadersNthGeneratingOption(i, 0, option, sizeof option);
+    optionOf[header] = option;
+  }
+  const auto direct = [&](const std::string& option) {
+    return Trimmed(OutputOf("LC_ALL=C /bin/ps -ww -p " + std::to_string(sleeper.Pid()) + " -o " +
+                            option + "="));
+  };
+  auto& client = Add("client", 1000);
+  std::vector<std::string> headers;
+  for (const auto& [header, option] : optionOf) headers.push_back(header);
+  // Some at a time, as a table would show, so that all runs end within their time.
+  for (std::size_t at = 0; at < headers.size(); at += 10) {
+    const std::vector<std::string> group(
+        headers.begin() + static_cast<std::ptrdiff_t>(at),
+        headers.begin() + static_cast<std::ptrdiff_t>(std::min(at + 10, headers.size())));
+    client.Needs({group.begin(), group.end()});
+    std::map<std::string, std::string> before;
+    for (const auto& header : group) before[header] = direct(optionOf[header]);
+    machine.runLoop.RunFor(1000);
+    for (const auto& header : group) {
+      // The pid's own column is not fetched.
+      if (header == "PID") continue;
+      const auto value = Trimmed(Value(sleeper.Pid(), header.c_str()));
+      const auto after = direct(optionOf[header]);
+      // What grows with time (ELAPSED, say) may have moved on between the runs.
+      EXPECT_TRUE(value == before[header] || value == after ||
+                  (value > before[header] && value < after))
+          << header << " (" << optionOf[header] << "): '" << value << "', directly '"
+          << before[header] << "' and '" << after << "'";
+    }
+  }
+}
+
+TEST_F(RealMachineTest, ShortLivedChildrenAreAnnouncedOnceOrNotAtAll) {
+  Start();
+  Add("client", 20).Needs({"pid_p_comm"});
+  machine.runLoop.RunFor(20);
+  std::atomic<bool> done{false};
+  std::thread mother([&] {
+    for (int i = 0; i < 2000; ++i) {
+      Child child({"true"});
+      child.Wait();
+    }
+    done = true;
+  });
+  std::map<std::string, bool> alive;
+  const auto follow = [&] {
+    for (const auto& line : told.Lines()) {
+      if (line.starts_with("client added ")) {
+        EXPECT_FALSE(std::exchange(alive[line.substr(13)], true)) << line;
+      } else if (line.starts_with("client removed ")) {
+        EXPECT_TRUE(std::exchange(alive[line.substr(15)], false)) << line;
+      }
+    }
+    told.Clear();
+  };
+  while (!done) {
+    machine.runLoop.RunFor(20);
+    follow();
+  }
+  mother.join();
+  const Child lasting({"sleep", "1000"});
+  machine.runLoop.RunFor(40);
+  follow();
+  EXPECT_TRUE(alive[std::to_string(lasting.Pid())]);
+  EXPECT_EQ(Value(lasting.Pid(), "pid_parent_pid"), std::to_string(getpid()));
+  // No record is left of anything that has gone.
+  for (const auto pid : PidBlob()) {
+    char name[64];
+    GetPIDPropertyValue(pid, "pid_p_comm", name, sizeof name, nullptr);
+    EXPECT_STRNE(name, "true") << pid;
+  }
+}
+
+}  // namespace
+}  // namespace lurkwell

@@ -1,0 +1,158 @@
+#include "process_control/DaemonChannel.h"
+#include "process_control/SimulatedControl.h"
+
+namespace lurkwell {
+namespace {
+
+using Behaviour = SimulatedNamedPipes::Behaviour;
+
+class ChannelTest : public SimulatedControl {
+ protected:
+  void AnswerWith(std::string answer) {
+    machine.namedPipes.SetHelper([answer](std::string_view) { return answer; });
+  }
+};
+
+TEST_F(ChannelTest, OneWriteIsARequestAndOneReadItsAnswer) {
+  Open();
+  machine.namedPipes.RecordExchanges(true);
+  EXPECT_EQ(Query("Lkw Action Request:\nkill_halt 12"), "done (4)");
+  EXPECT_EQ(Log(),
+            "NamedPipes.Write \"Lkw Action Request:\\nkill_halt 12\"\n"
+            "Helper Lkw Action Request:\\nkill_halt 12\nNamedPipes.Read \"done\"\n");
+}
+
+TEST_F(ChannelTest, AnErrorIsAnEmptyAnswer) {
+  Open();
+  for (const auto& [answer, seen] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"!Error", " (6)"},
+                                                                  {"!Error no", " (9)"},
+                                                                  {"!Erro", "!Erro (5)"},
+                                                                  {"x!Error", "x!Error (7)"}}) {
+    AnswerWith(answer);
+    EXPECT_EQ(Query("geteuid"), seen);
+  }
+  AnswerWith("!Error");
+  EXPECT_EQ(Query("geteuid", 5), "!Erro (5)") << "cut before it can be told";
+  EXPECT_GE(gFd_a2d, 0) << "a helper that refuses is a helper";
+}
+
+TEST_F(ChannelTest, ALongAnswerIsCutAndItsRestIsNobodysAnswer) {
+  Open();
+  AnswerWith("12345678901234567890");
+  EXPECT_EQ(Query("geteuid", 10), "1234567890 (10)");
+  AnswerWith("next");
+  EXPECT_EQ(Query("geteuid", 10), "next (4)");
+}
+
+TEST_F(ChannelTest, ABrokenChannelIsClosedForGood) {
+  for (const auto behaviour :
+       {Behaviour::kStalls, Behaviour::kDiesOnRequest, Behaviour::kClosesAfterGreeting}) {
+    machine.namedPipes.SetBehaviour(behaviour);
+    Open();
+    ASSERT_GE(gFd_a2d, 0);
+    const std::string answer = Query("geteuid");
+    EXPECT_EQ(answer, behaviour == Behaviour::kDiesOnRequest ? " (0)" : " (-1)");
+    EXPECT_EQ(machine.namedPipes.OpenCount(), 0u);
+    machine.namedPipes.SetBehaviour(Behaviour::kAnswers);
+    machine.log.Clear();
+    EXPECT_EQ(Query("geteuid"), " (-1)");
+    EXPECT_EQ(Log(), "") << "a closed channel is not touched";
+  }
+}
+
+TEST_F(ChannelTest, WhatNobodyAskedForIsTakenForNoAnswer) {
+  Open();
+  machine.namedPipes.SayUnasked("0");
+  EXPECT_EQ(Query("Lkw Action Request:\nkill_halt 12"), " (-1)");
+  EXPECT_EQ(machine.namedPipes.OpenCount(), 0u);
+  EXPECT_EQ(Log().find("Helper"), std::string::npos) << "nor is anything asked";
+}
+
+TEST_F(ChannelTest, AHelperThatDoesNotComeLeavesNothingBehind) {
+  machine.namedPipes.SetBehaviour(Behaviour::kDoesNotOpen);
+  NormalInternalLaunchDaemon("/helper", nullptr);
+  machine.namedPipes.SetBehaviour(Behaviour::kDoesNotGreet);
+  testing::internal::CaptureStdout();
+  NormalInternalLaunchDaemon("/helper", nullptr);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "read error: 110\n");
+  machine.namedPipes.RefuseFifos(true);
+  NormalInternalLaunchDaemon("/helper", nullptr);
+  EXPECT_EQ(gFd_a2d, -1);
+  EXPECT_EQ(gFd_d2a, -1);
+  EXPECT_EQ(machine.namedPipes.OpenCount(), 0u);
+  EXPECT_EQ(machine.namedPipes.NameCount(), 0u);
+  EXPECT_EQ(QuitHelperDaemon(), -1);
+}
+
+class RelaunchTest : public SimulatedControl {
+ protected:
+  /// Starts from now on are recorded with their seconds, and succeed or not.
+  void RecordStarts(bool succeed) {
+    const auto begin = machine.clock.Now();
+    machine.tools.OnStart([this, begin, succeed](const auto&) {
+      mStarts += std::to_string(MillisecondsBetween(begin, machine.clock.Now()) / 1000) + " ";
+      return succeed;
+    });
+  }
+  std::string Starts() { return std::exchange(mStarts, {}); }
+
+ private:
+  std::string mStarts;
+};
+
+TEST_F(RelaunchTest, AnotherHelperIsStartedWithGrowingDelays) {
+  LaunchHelperDaemon();
+  machine.namedPipes.SetBehaviour(Behaviour::kStalls);
+  testing::internal::CaptureStderr();
+  Query("geteuid");
+  RecordStarts(false);
+  machine.log.Clear();
+  machine.runLoop.RunFor(200'000);
+  EXPECT_EQ(Starts(), "1 3 7 15 31 63 123 183 ");
+  EXPECT_EQ(Log().find("Authorization"), std::string::npos) << "never with a question";
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "lurkwell: the helper does not answer; starting another\n");
+  EXPECT_EQ(machine.namedPipes.NameCount(), 0u);
+}
+
+TEST_F(RelaunchTest, OneThatDoesNotOpenIsGivenFiveSeconds) {
+  machine.namedPipes.SetBehaviour(Behaviour::kDoesNotOpen);
+  SetHelperUnprivileged(true);
+  LaunchHelperDaemon();
+  RecordStarts(true);
+  machine.runLoop.RunFor(20'000);
+  EXPECT_EQ(Starts(), "1 8 17 ");
+  machine.namedPipes.SetBehaviour(Behaviour::kDoesNotGreet);
+  machine.runLoop.RunFor(11'000);
+  EXPECT_EQ(gFd_a2d, -1);
+  EXPECT_EQ(Starts(), "30 ");
+  EXPECT_EQ(machine.namedPipes.OpenCount(), 1u) << "it has opened the one end";
+  QuitHelperDaemon();
+  EXPECT_EQ(machine.namedPipes.OpenCount(), 0u) << "also in the middle of it";
+  EXPECT_EQ(machine.namedPipes.NameCount(), 0u);
+  machine.runLoop.RunFor(100'000);
+  EXPECT_EQ(Starts(), "") << "after the end no other is started";
+}
+
+TEST_F(RelaunchTest, AGoodAnswerStartsTheDelaysOver) {
+  LaunchHelperDaemon();
+  machine.namedPipes.SetBehaviour(Behaviour::kStalls);
+  Query("geteuid");
+  RecordStarts(true);
+  machine.runLoop.RunFor(2'000);
+  EXPECT_EQ(Starts(), "1 ");
+  EXPECT_GE(gFd_a2d, 0) << "it has greeted";
+  Query("geteuid");
+  machine.runLoop.RunFor(3'000);
+  EXPECT_EQ(Starts(), "4 ") << "but a greeting is no answer";
+  machine.namedPipes.SetBehaviour(Behaviour::kAnswers);
+  EXPECT_EQ(Query("geteuid"), "0 (1)");
+  machine.namedPipes.SetBehaviour(Behaviour::kStalls);
+  Query("geteuid");
+  machine.runLoop.RunFor(2'000);
+  EXPECT_EQ(Starts(), "6 ");
+}
+
+}  // namespace
+}  // namespace lurkwell

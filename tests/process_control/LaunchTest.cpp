@@ -1,0 +1,194 @@
+#include <sys/wait.h>
+
+#include <cstring>
+
+#include "preferences/PreferencesRetrieval.h"
+#include "process_control/DaemonChannel.h"
+#include "process_control/SimulatedControl.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kStep[] = "Authorization.ExecuteWithPrivileges $ --set_permissions_appropriately\n";
+constexpr char kPrivileged[] = "Authorization.ExecuteWithPrivileges $";
+constexpr char kAlert[] =
+    "Alerts.RunAlertPanel \"Lurkwell must be authenticated in order to run on this computer with "
+    "an administrator password.\" \" \" [Authenticate Again|Quit Lurkwell|Continue Without]\n";
+
+class LaunchTest : public SimulatedControl {
+ protected:
+  /// The accesses of the next start, which ends with an open channel.
+  std::string Opened(const std::string& how = "Tools.StartInBackground $") {
+    const std::string requests = "/tmp/Lkw_a2d_" + std::to_string(++mPipes);
+    const std::string answers = "/tmp/Lkw_d2a_" + std::to_string(++mPipes);
+    mLast = "NamedPipes.Close " + answers + "\nNamedPipes.Close " + requests + "\n";
+    return "NamedPipes.MakeFifo " + requests + " 010666\nNamedPipes.MakeFifo " + answers +
+           " 010666\n" + how + " " + requests + " " + answers + "\nNamedPipes.OpenForWriting " +
+           requests + "\nNamedPipes.Write \"" +
+           std::string(DaemonGreeting().substr(0, DaemonGreeting().size() - 1)) +
+           "\\n\"\nNamedPipes.OpenForReading " + answers + "\nNamedPipes.Unlink " + requests +
+           "\nNamedPipes.Unlink " + answers + "\n";
+  }
+  /// In the order given, which operators would not keep.
+  static std::string All(std::initializer_list<std::string> parts) {
+    std::string text;
+    for (const auto& part : parts) text += part;
+    return text;
+  }
+  std::string Checked() {
+    const std::string opened = Opened();
+    return opened + "Helper geteuid\n" + mLast;
+  }
+
+  /// The administrator's step makes the helper answer `uid` from then on.
+  void StepGives(int uid) {
+    machine.authorization.OnExecute([this, uid](const auto&, const auto& arguments) {
+      if (arguments.size() == 1) machine.helper.SetEffectiveUid(uid);
+      return true;
+    });
+  }
+  void StepIsRefused() {
+    machine.authorization.OnExecute(
+        [](const auto&, const auto& arguments) { return arguments.size() != 1; });
+  }
+
+  static constexpr char kAsked[] = "Authorization.Create\nAuthorization.WaitForChild\n";
+  static constexpr char kDone[] = "Authorization.WaitForChild\n";
+  static constexpr char kFreed[] = "Authorization.Free\n";
+
+ private:
+  int mPipes = 0;
+  std::string mLast;
+};
+
+TEST_F(LaunchTest, AHelperWithRightsIsCheckedAndThenStarted) {
+  LaunchHelperDaemon();
+  EXPECT_EQ(Log(), All({Checked(), Opened()}));
+  EXPECT_GE(gFd_a2d, 0);
+  EXPECT_EQ(Query("geteuid"), "0 (1)");
+  QuitHelperDaemon();
+  EXPECT_EQ(gFd_a2d, -1);
+  EXPECT_EQ(gFd_d2a, -1);
+  EXPECT_EQ(machine.namedPipes.OpenCount(), 0u);
+  EXPECT_EQ(machine.namedPipes.NameCount(), 0u);
+}
+
+TEST_F(LaunchTest, AHelperWithoutRightsIsRepairedOnce) {
+  machine.helper.SetEffectiveUid(501);
+  StepGives(0);
+  LaunchHelperDaemon();
+  EXPECT_EQ(Log(), All({Checked(), kAsked, kStep, kDone, Checked(), Opened(), kFreed}));
+}
+
+TEST_F(LaunchTest, WhatCannotBeRepairedIsStartedWithPrivilege) {
+  machine.helper.SetEffectiveUid(501);
+  LaunchHelperDaemon();
+  EXPECT_EQ(Log(), All({Checked(), kAsked, kStep, kDone, Checked(), Opened(kPrivileged), kFreed}));
+}
+
+TEST_F(LaunchTest, ThePreferenceTrustsNoInstalledHelper) {
+  SetPrefInt("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", 1);
+  machine.authorization.AsksFor(3);
+  LaunchHelperDaemon();
+  EXPECT_EQ(Log(), All({kAsked, kStep, kDone, Opened(kPrivileged), kFreed}));
+  EXPECT_GE(gFd_a2d, 0);
+}
+
+TEST_F(LaunchTest, ARefusedUserMayTryAgainAndGoOnWithout) {
+  machine.helper.SetEffectiveUid(501);
+  StepIsRefused();
+  machine.alerts.WillAnswer({AlertButton::kDefault, AlertButton::kDefault, AlertButton::kOther});
+  testing::internal::CaptureStderr();
+  LaunchHelperDaemon();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "lurkwell: the helper gets no rights: the administrator refused\n")
+      << "once, though refused three times";
+  const std::string refused = std::string(kStep) + kAlert;
+  EXPECT_EQ(Log(), All({Checked(), kAsked, refused, refused, refused, Opened(), kFreed}));
+  EXPECT_EQ(Query("geteuid"), "501 (3)");
+}
+
+TEST_F(LaunchTest, QuittingInTheAlertEndsTheProgramWithStatusZero) {
+  machine.helper.SetEffectiveUid(501);
+  StepIsRefused();
+  machine.alerts.WillAnswer({AlertButton::kDefault, AlertButton::kAlternate});
+  EXPECT_EXIT(
+      {
+        LaunchHelperDaemon();
+        std::_Exit(3);
+      },
+      testing::ExitedWithCode(0), "gets no rights: the administrator refused");
+}
+
+TEST_F(LaunchTest, UnprivilegedAsksNobody) {
+  SetHelperUnprivileged(true);
+  SetPrefInt("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", 1);
+  LaunchHelperDaemon();
+  EXPECT_EQ(Log(), Opened());
+}
+
+TEST_F(LaunchTest, TheCheckLooksAtTheFirstCharacterOnly) {
+  for (const auto& [answer, good] :
+       std::initializer_list<std::pair<const char*, bool>>{{"0", true},
+                                                           {"0 ", true},
+                                                           {"01", true},
+                                                           {"10", false},
+                                                           {" 0", false},
+                                                           {"!Error 0", false}}) {
+    machine.namedPipes.SetHelper([&](std::string_view) { return std::string(answer); });
+    EXPECT_EQ(CheckDaemonPermissions(), good) << answer;
+  }
+  machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kStalls);
+  EXPECT_FALSE(CheckDaemonPermissions());
+}
+
+TEST_F(LaunchTest, TheHelperIsInstalledOnceAndNeverReplaced) {
+  char path[1024];
+  const auto bundle = machine.bundle.Path();
+  ASSERT_TRUE(EnsureThatDaemonIsInApplicationSupport(bundle.c_str(), path, sizeof path));
+  EXPECT_EQ(path, Helper());
+  EXPECT_EQ(ReadFile(Helper()), "from the bundle");
+  EXPECT_EQ(ModeOf(Helper()), 0755u);
+  EXPECT_EQ(ModeOf(folder / "Support/Lurkwell"), 0700u);
+
+  WriteFile(Helper(), "installed before");
+  ASSERT_TRUE(EnsureThatDaemonIsInApplicationSupport("/nowhere", path, sizeof path));
+  EXPECT_EQ(ReadFile(Helper()), "installed before");
+  std::filesystem::directory_iterator left(folder / "Support/Lurkwell");
+  EXPECT_EQ(std::distance(begin(left), end(left)), 1) << "no temporary copies";
+
+  EXPECT_DEATH(EnsureThatDaemonIsInApplicationSupport(bundle.c_str(), path,
+                                                      static_cast<std::int32_t>(Helper().size())),
+               "DaemonCommunication:[0-9]+: failed assertion `strlen.*capacity'");
+  machine.bundle.SetApplicationSupportFolder(std::nullopt);
+  EXPECT_FALSE(EnsureThatDaemonIsInApplicationSupport(bundle.c_str(), path, sizeof path));
+  EXPECT_DEATH(LaunchDaemonWithoutAuthorization(),
+               "DaemonCommunication:[0-9]+: failed assertion `succeeded'");
+}
+
+TEST_F(LaunchTest, WhatCannotBeInstalledRunsFromTheBundleWithTheUsersRights) {
+  const std::string quoted = folder / "a \"quoted\" folder";
+  std::filesystem::rename(machine.bundle.Path(), quoted);
+  machine.bundle.SetPath(quoted);
+  EXPECT_DEATH(LaunchDaemonWithoutAuthorization(),
+               "DaemonCommunication:[0-9]+: failed assertion `succeeded'");
+  testing::internal::CaptureStderr();
+  LaunchHelperDaemon();
+  const std::string said = testing::internal::GetCapturedStderr();
+  EXPECT_TRUE(said.starts_with("lurkwell: the helper runs with your own rights: cannot copy "))
+      << said;
+  EXPECT_EQ(Log(),
+            Opened("Tools.StartInBackground " + quoted + "/Contents/Resources/Lurkwell_helper"));
+  EXPECT_FALSE(std::filesystem::exists(Helper()));
+}
+
+TEST_F(LaunchTest, AMissingAuthorisationIsAnError) {
+  const char* const message = "DaemonCommunication:[0-9]+: failed assertion `authRef != NULL'";
+  EXPECT_DEATH(SetDaemonPermissions(nullptr), message);
+  EXPECT_DEATH(LaunchDaemonWithAuthorization(nullptr), message);
+  EXPECT_DEATH(SetPermissionsInternalLaunchDaemon("/helper", nullptr), message);
+  EXPECT_DEATH(InternalLaunchHelperDaemon(nullptr, true), message);
+}
+
+}  // namespace
+}  // namespace lurkwell

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/simulated/SimulatedMachine.h"
+#include "process_control/DaemonCommunication.h"
+
+namespace lurkwell {
+
+/// An open channel to a simulated machine's helper, on the installed machine; closed again with it.
+class HelperChannel {
+ public:
+  using Answer = std::function<std::string(std::string_view request)>;
+
+  explicit HelperChannel(SimulatedMachine& machine) : mMachine(machine) {
+    SetAnswer([&machine](std::string_view request) { return machine.helper.Answer(request); });
+    NormalInternalLaunchDaemon("/helper", nullptr);
+    machine.log.Clear();
+  }
+  ~HelperChannel() { QuitHelperDaemon(); }
+  HelperChannel(const HelperChannel&) = delete;
+  HelperChannel& operator=(const HelperChannel&) = delete;
+
+  /// What the helper answers from now on.
+  void SetAnswer(Answer answer) { mMachine.namedPipes.SetHelper(std::move(answer)); }
+
+ private:
+  SimulatedMachine& mMachine;
+};
+
+}  // namespace lurkwell
