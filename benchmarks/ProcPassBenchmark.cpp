@@ -1,0 +1,137 @@
+// One pass over the process table of this machine beside what the bare system calls cost, with 0
+// and 1,000 more idle processes.
+#include <benchmark/benchmark.h>
+#include <dirent.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/linux/DescriptorLimit.h"
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/LinuxProcessTable.h"
+
+namespace lurkwell {
+namespace {
+
+/// Children that sleep until they are destroyed.
+class IdleProcesses {
+ public:
+  explicit IdleProcesses(std::int64_t count) {
+    // As the program does at its start.
+    RaiseDescriptorLimit();
+    for (std::int64_t i = 0; i < count; ++i) {
+      const pid_t pid = ::fork();
+      if (pid == 0) {
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        for (;;) ::pause();
+      }
+      if (pid > 0) mPids.push_back(pid);
+    }
+  }
+  ~IdleProcesses() {
+    for (const pid_t pid : mPids) ::kill(pid, SIGKILL);
+    for (const pid_t pid : mPids) ::waitpid(pid, nullptr, 0);
+  }
+  IdleProcesses(const IdleProcesses&) = delete;
+  IdleProcesses& operator=(const IdleProcesses&) = delete;
+
+ private:
+  std::vector<pid_t> mPids;
+};
+
+/// Calls `serve` with the name of every process folder.
+template <typename Serve>
+std::int64_t List(DIR* folder, Serve serve) {
+  std::int64_t count = 0;
+  ::rewinddir(folder);
+  while (const dirent* entry = ::readdir(folder)) {
+    if (entry->d_name[0] < '1' || entry->d_name[0] > '9') continue;
+    serve(entry->d_name);
+    ++count;
+  }
+  return count;
+}
+
+FileDescriptor OpenStat(DIR* folder, const char* pid) {
+  char path[300];
+  std::snprintf(path, sizeof path, "%s/stat", pid);
+  return FileDescriptor(::openat(::dirfd(folder), path, O_RDONLY | O_CLOEXEC));
+}
+
+using Folder = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+Folder OpenProc() {
+  return {::opendir("/proc"), &::closedir};
+}
+
+void BareListing(benchmark::State& state) {
+  const IdleProcesses idle(state.range(0));
+  const Folder folder = OpenProc();
+  std::int64_t processes = 0;
+  for (auto _ : state) processes = List(folder.get(), [](const char*) {});
+  state.counters["processes"] = static_cast<double>(processes);
+}
+
+void BareOpenReadClose(benchmark::State& state) {
+  const IdleProcesses idle(state.range(0));
+  const Folder folder = OpenProc();
+  char buffer[4096];
+  std::int64_t processes = 0;
+  for (auto _ : state) {
+    processes = List(folder.get(), [&](const char* pid) {
+      const FileDescriptor file = OpenStat(folder.get(), pid);
+      const auto bytes = ::read(file.Get(), buffer, sizeof buffer);
+      benchmark::DoNotOptimize(bytes);
+    });
+  }
+  state.counters["processes"] = static_cast<double>(processes);
+}
+
+void BareReadOfKept(benchmark::State& state) {
+  const IdleProcesses idle(state.range(0));
+  const Folder folder = OpenProc();
+  std::vector<FileDescriptor> kept;
+  List(folder.get(), [&](const char* pid) { kept.push_back(OpenStat(folder.get(), pid)); });
+  char buffer[4096];
+  std::int64_t processes = 0;
+  for (auto _ : state) {
+    processes = List(folder.get(), [](const char*) {});
+    for (const auto& file : kept) {
+      const auto bytes = ::pread(file.Get(), buffer, sizeof buffer, 0);
+      benchmark::DoNotOptimize(bytes);
+    }
+  }
+  state.counters["processes"] = static_cast<double>(processes);
+}
+
+void ProcessTablePass(benchmark::State& state) {
+  const IdleProcesses idle(state.range(0));
+  LinuxProcessTable table;
+  std::size_t entries = table.Read().size();
+  for (auto _ : state) entries = table.Read().size();
+  state.counters["processes"] = static_cast<double>(entries - 1);
+  state.counters["kept"] = static_cast<double>(table.KeptDescriptors());
+}
+
+void FirstProcessTablePass(benchmark::State& state) {
+  const IdleProcesses idle(state.range(0));
+  std::size_t entries = 0;
+  for (auto _ : state) entries = LinuxProcessTable().Read().size();
+  state.counters["processes"] = static_cast<double>(entries - 1);
+}
+
+BENCHMARK(BareListing)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BareOpenReadClose)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BareReadOfKept)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(ProcessTablePass)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(FirstProcessTablePass)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace lurkwell

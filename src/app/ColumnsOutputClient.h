@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "consolidator/ProcessInformationClient.h"
+
+namespace lurkwell {
+
+/// Prints any properties and ps columns: a line of their names, then a line per process, pid first,
+/// in columns as wide as they need to be. Texts stand left, everything else right.
+class ColumnsOutputClient : public ProcessInformationClient {
+ public:
+  ColumnsOutputClient(std::vector<std::string> columns, std::int32_t interval);
+
+  NeedLevel NeedPidsForProcProperty(const char* property) override;
+  bool NeedPidProcProperty(int pid, const char* property) override;
+  void NotifyProcessesHaveBeenUpdated() override;
+  const char* TypeName() const override { return "ColumnsOutputClient"; }
+
+ private:
+  std::vector<std::string> mColumns;
+};
+
+/// A complaint about the first of `columns` that is neither a property nor a ps column, with the
+/// names that come near; nothing when all are known. After the consolidator has been started.
+std::optional<std::string> ComplaintAboutColumns(const std::vector<std::string>& columns);
+
+}  // namespace lurkwell

@@ -1,0 +1,124 @@
+#include "app/CommandLine.h"
+
+#include <charconv>
+#include <ostream>
+#include <string_view>
+
+namespace lurkwell {
+namespace {
+
+constexpr char kHelpText[] =
+    R"(Usage: lurkwell [OPTION]...
+Watches the processes of this machine.
+
+  --print              print the processes in the terminal, once a second
+  --count N            end after N updates (with --print)
+  --columns KEY,...    print these properties instead of the usual five
+                       (with --print); keys are properties such as pid_rsz and
+                       the column headers of ps such as %CPU
+  --unprivileged       never ask for an administrator's password; other users'
+                       processes then show and obey only as far as your own
+                       rights go
+  --help               show this text
+  --version            show the version
+
+Without options, and without a display, the processes are printed.
+Exit status: 0 after a normal end, 1 when something failed, 2 for options that
+make no sense.
+)";
+
+/// Walks over the arguments; an option's value follows it or stands behind "=".
+class Reader {
+ public:
+  Reader(std::span<const char* const> arguments, std::ostream& errors)
+      : mArguments(arguments.subspan(arguments.empty() ? 0 : 1)), mErrors(errors) {}
+
+  std::optional<CommandLine> Read() {
+    while (!mArguments.empty()) {
+      const std::string_view argument = Take();
+      const auto equals = argument.find('=');
+      mOption = argument.substr(0, equals);
+      mValue.reset();
+      if (equals != std::string_view::npos) mValue = argument.substr(equals + 1);
+      if (!ReadOption()) return std::nullopt;
+    }
+    return mLine;
+  }
+
+ private:
+  std::string_view Take() {
+    const std::string_view argument = mArguments.front();
+    mArguments = mArguments.subspan(1);
+    return argument;
+  }
+
+  bool Complain(std::string_view what) {
+    mErrors << "lurkwell: " << what << "\nTry 'lurkwell --help'.\n";
+    return false;
+  }
+
+  bool ReadOption() {
+    if (mOption == "--count") return ReadCount();
+    if (mOption == "--columns") return ReadColumns();
+    if (mValue) return Complain(std::string(mOption) + " takes no value");
+    if (mOption == "--print") {
+      mLine.action = CommandLine::Action::kPrint;
+    } else if (mOption == "--help" || mOption == "-h") {
+      mLine.action = CommandLine::Action::kHelp;
+    } else if (mOption == "--version") {
+      mLine.action = CommandLine::Action::kVersion;
+    } else if (mOption == "--unprivileged") {
+      mLine.unprivileged = true;
+    } else {
+      return Complain("unknown option '" + std::string(mOption) + "'");
+    }
+    return true;
+  }
+
+  bool TakeValue() {
+    if (!mValue && mArguments.empty()) return Complain(std::string(mOption) + " needs a value");
+    if (!mValue) mValue = Take();
+    return true;
+  }
+
+  bool ReadCount() {
+    if (!TakeValue()) return false;
+    std::int32_t count = 0;
+    const char* end = mValue->data() + mValue->size();
+    const auto [at, error] = std::from_chars(mValue->data(), end, count);
+    if (error != std::errc{} || at != end || count < 1)
+      return Complain("--count needs a number from 1 up, not '" + std::string(*mValue) + "'");
+    mLine.count = count;
+    return true;
+  }
+
+  bool ReadColumns() {
+    if (!TakeValue()) return false;
+    std::string_view rest = *mValue;
+    while (!rest.empty()) {
+      const auto comma = rest.find(',');
+      if (comma != 0) mLine.columns.emplace_back(rest.substr(0, comma));
+      rest.remove_prefix(comma == std::string_view::npos ? rest.size() : comma + 1);
+    }
+    return !mLine.columns.empty() || Complain("--columns needs at least one key");
+  }
+
+  std::span<const char* const> mArguments;
+  std::ostream& mErrors;
+  CommandLine mLine;
+  std::string_view mOption;
+  std::optional<std::string_view> mValue;
+};
+
+}  // namespace
+
+std::optional<CommandLine> ReadCommandLine(std::span<const char* const> arguments,
+                                           std::ostream& errors) {
+  return Reader(arguments, errors).Read();
+}
+
+const char* HelpText() {
+  return kHelpText;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace lurkwell {
+
+/// What the command line asks for.
+struct CommandLine {
+  enum class Action { kRun, kPrint, kHelp, kVersion };
+
+  Action action = Action::kRun;
+  /// End after that many updates; without it, go on until a signal.
+  std::optional<std::int32_t> count;
+  /// Properties to print instead of the usual five.
+  std::vector<std::string> columns;
+  /// Start the helper with the user's own rights.
+  bool unprivileged = false;
+};
+
+/// Exit statuses of the program.
+inline constexpr int kExitSuccess = 0;
+inline constexpr int kExitFailure = 1;
+inline constexpr int kExitUsage = 2;
+
+/// Reads the arguments, the program's name first; nothing, with the reason on `errors`, when they
+/// make no sense.
+std::optional<CommandLine> ReadCommandLine(std::span<const char* const> arguments,
+                                           std::ostream& errors);
+
+/// The text of --help.
+const char* HelpText();
+
+}  // namespace lurkwell

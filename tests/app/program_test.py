@@ -1,0 +1,235 @@
+#!/usr/bin/env python3
+"""The whole program on the real machine, as a user in a terminal runs it.
+
+program_test.py BINARY [unittest arguments]
+"""
+import os
+import pathlib
+import re
+import resource
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+BINARY = sys.argv.pop(1)
+TICK = os.sysconf("SC_CLK_TCK")
+PAGE = os.sysconf("SC_PAGE_SIZE")
+LINE = re.compile(r"^ *(-?\d+): +(.*?) +(\d+\.\d{6}) +(-?\d+) *$")
+
+
+class Program(unittest.TestCase):
+    def setUp(self):
+        self.home = tempfile.mkdtemp(prefix="lurkwell-test-")
+        self.addCleanup(shutil.rmtree, self.home)
+        self.run_folder = pathlib.Path(self.home, "run")
+        self.run_folder.mkdir(mode=0o700)
+        self.environment = {
+            **os.environ, "HOME": self.home, "XDG_CONFIG_HOME": self.home + "/config",
+            "XDG_DATA_HOME": self.home + "/data", "XDG_RUNTIME_DIR": str(self.run_folder),
+            "TMPDIR": str(self.run_folder)}
+
+    def start(self, *arguments, **options):
+        options = {"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, "text": True,
+                   "env": self.environment, **options}
+        process = subprocess.Popen([BINARY, *arguments], **options)
+        self.addCleanup(process.kill)
+        return process
+
+    def run_to_end(self, *arguments, **options):
+        process = self.start(*arguments, **options)
+        out, errors = process.communicate(timeout=60)
+        return process.returncode, out, errors
+
+    def columns(self, *keys):
+        """One update of these columns: {pid: {key: value}}. Only the last may hold blanks."""
+        status, out, errors = self.run_to_end("--print", "--count", "1", "--columns", ",".join(keys))
+        self.assertEqual(status, 0, errors)
+        rows = {}
+        for line in out.splitlines()[1:]:
+            pid, _, rest = line.partition(":")
+            rows[int(pid)] = dict(zip(keys, rest.split(None, len(keys) - 1)))
+        return rows
+
+    def child(self, *command):
+        child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stdin=subprocess.PIPE)
+        self.addCleanup(child.wait)
+        self.addCleanup(child.kill)
+        self.addCleanup(child.stdin.close)
+        return child
+
+
+class CommandLine(Program):
+    def test_help_and_version(self):
+        status, out, _ = self.run_to_end("--help")
+        self.assertEqual(status, 0)
+        for option in "--print", "--count", "--columns", "--unprivileged", "--version":
+            self.assertIn(option, out)
+        status, out, _ = self.run_to_end("--version")
+        self.assertEqual(status, 0)
+        self.assertRegex(out, r"^lurkwell \d+\.\d+\.\d+\n$")
+
+    def test_nonsense_is_refused_with_a_reason(self):
+        for arguments, reason in (
+                (["--nonsense"], "unknown option '--nonsense'"),
+                (["stray"], "unknown option 'stray'"),
+                (["--count"], "--count needs a value"),
+                (["--count", "0"], "not '0'"),
+                (["--count=2x"], "not '2x'"),
+                (["--print=yes"], "--print takes no value"),
+                (["--columns", ","], "at least one key"),
+                (["--columns", "pid_rzs"], "there is pid_rsz"),
+                (["--columns", "RSZ,%CPUU"], "there is %CPU"),
+                (["--columns", "zzzzzzzzzzzz"], "no property or ps column 'zzzzzzzzzzzz'\n")):
+            with self.subTest(arguments):
+                status, out, errors = self.run_to_end(*arguments)
+                self.assertEqual((status, out), (2, ""))
+                self.assertIn(reason, errors)
+
+
+class Printing(Program):
+    def test_every_update_has_a_line_for_each_process(self):
+        sleeper = self.child("sleep", "1000")
+        status, out, errors = self.run_to_end("--print", "--count", "2")
+        self.assertEqual(status, 0, errors)
+        lines = [LINE.match(line) for line in out.splitlines()]
+        self.assertTrue(all(lines), out)
+        mine = [line for line in lines if int(line[1]) == sleeper.pid]
+        self.assertEqual([(line[2], line[4]) for line in mine], [("sleep", str(os.getpid()))] * 2)
+        idle = [line for line in lines if line[1] == "0"]
+        self.assertEqual([line[2] for line in idle], ["swapper"] * 2)
+        self.assertGreater(float(idle[1][3]), 0)
+
+    def test_cpu_time_grows_as_it_is_used(self):
+        busy = self.child("sh", "-c", "while :; do :; done")
+        time.sleep(0.3)
+        _, out, _ = self.run_to_end("--print", "--count", "2")
+        times = [float(line[3]) for line in map(LINE.match, out.splitlines())
+                 if int(line[1]) == busy.pid]
+        self.assertGreater(times[0], 0.1)
+        self.assertGreater(times[1], times[0])
+
+    def test_it_ends_in_order_by_signal_and_leaves_nothing(self):
+        for number in signal.SIGTERM, signal.SIGINT, signal.SIGHUP:
+            with self.subTest(number):
+                process = self.start("--print")
+                process.stdout.readline()
+                process.send_signal(number)
+                process.communicate(timeout=10)
+                self.assertEqual(process.returncode, 0)
+                self.assertEqual(list(self.run_folder.rglob("*")), [])
+                self.assert_no_helper_left()
+
+    def assert_no_helper_left(self):
+        deadline = time.monotonic() + 2
+        left = None
+        while left != [] and time.monotonic() < deadline:
+            left = []
+            for comm in pathlib.Path("/proc").glob("[0-9]*/environ"):
+                try:
+                    arguments = (comm.parent / "cmdline").read_bytes()
+                except OSError:
+                    continue
+                if self.home.encode() in arguments:
+                    left.append(arguments)
+            time.sleep(0.02)
+        self.assertEqual(left, [])
+
+    def test_a_reader_that_has_seen_enough_is_no_failure(self):
+        process = self.start("--print")
+        process.stdout.readline()
+        process.stdout.close()
+        self.assertEqual(process.wait(timeout=10), 0)
+        process.stderr.close()
+
+    def test_a_full_disk_is(self):
+        with open("/dev/full", "w") as full:
+            status, _, errors = self.run_to_end("--print", stdout=full)
+        self.assertEqual(status, 1)
+        self.assertIn("cannot write: No space left on device", errors)
+
+    def test_short_lived_processes_do_not_disturb_it(self):
+        lasting = self.child("sleep", "1000")
+        with tempfile.TemporaryFile("w+") as output:
+            process = self.start("--print", "--count", "6", stdout=output)
+            born = 0
+            while process.poll() is None or born < 2000:
+                os.waitpid(os.posix_spawn("/bin/true", ["true"], {}), 0)
+                born += 1
+            _, errors = process.communicate(timeout=60)
+            self.assertEqual(process.returncode, 0, errors)
+            output.seek(0)
+            lines = [LINE.match(line) for line in output]
+        self.assertGreaterEqual(born, 2000)
+        self.assertTrue(all(lines))
+        self.assertEqual(sum(int(line[1]) == lasting.pid for line in lines), 6)
+        # A process of a few milliseconds cannot be there in two updates a second apart.
+        passing = [line[1] for line in lines if line[2] == "true"]
+        self.assertEqual(len(passing), len(set(passing)))
+
+    def test_the_settings_it_used_are_on_disk(self):
+        self.run_to_end("--print", "--count", "1")
+        plist = pathlib.Path(self.home, "config", "com.velquarin.lurkwell.plist").read_text()
+        self.assertIn("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", plist)
+
+    def test_without_a_home_it_still_prints(self):
+        for name in "HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR":
+            self.environment.pop(name)
+        status, out, errors = self.run_to_end("--print", "--count", "1", "--unprivileged")
+        self.assertEqual(status, 0, errors)
+        self.assertGreater(len(out.splitlines()), 1)
+
+
+def stat_of(pid):
+    text = pathlib.Path(f"/proc/{pid}/stat").read_text()
+    return text[text.rindex(")") + 2:].split()
+
+
+def switches_of(pid):
+    text = pathlib.Path(f"/proc/{pid}/status").read_text()
+    return sum(int(n) for n in re.findall(r"ctxt_switches:\t(\d+)", text))
+
+
+class Figures(Program):
+    KEYS = ("pid_p_priority", "pid_p_nice", "pid_parent_pid", "pid_user_time", "pid_system_time",
+            "pid_vsz", "pid_rsz", "pid_faults", "pid_pageins", "pid_csw", "pid_suspend_count",
+            "pid_policy")
+
+    def read(self, pid):
+        stat = stat_of(pid)
+        return {
+            "pid_p_priority": int(stat[15]), "pid_p_nice": int(stat[16]),
+            "pid_parent_pid": int(stat[1]), "pid_user_time": int(stat[11]) / TICK,
+            "pid_system_time": int(stat[12]) / TICK, "pid_vsz": int(stat[20]),
+            "pid_rsz": int(stat[21]) * PAGE, "pid_faults": int(stat[7]) + int(stat[9]),
+            "pid_pageins": int(stat[9]), "pid_csw": switches_of(pid),
+            "pid_suspend_count": int(stat[0] in "Tt"), "pid_policy": int(stat[38])}
+
+    def test_they_equal_what_the_kernel_says_at_that_moment(self):
+        children = [self.child("sleep", "1000") for _ in range(20)]
+        children += [self.child("nice", "-n", str(n), "sleep", "1000") for n in range(1, 16)]
+        children += [self.child("sh", "-c", "i=0; while :; do i=$((i+1)); done") for _ in range(3)]
+        children += [self.child("sh", "-c", "while :; do sleep 0.01; done") for _ in range(3)]
+        children += [self.child("cat") for _ in range(9)]
+        time.sleep(0.5)
+        children[0].send_signal(signal.SIGSTOP)
+        time.sleep(0.1)
+        pids = [child.pid for child in children]
+        self.assertEqual(len(pids), 50)
+        before = {pid: self.read(pid) for pid in pids}
+        rows = self.columns(*self.KEYS)
+        after = {pid: self.read(pid) for pid in pids}
+        for pid in pids:
+            for key in self.KEYS:
+                value = float(rows[pid][key])
+                low, high = sorted((before[pid][key], after[pid][key]))
+                with self.subTest(f"{key} of {pid}"):
+                    self.assertTrue(low - 1e-6 <= value <= high + 1e-6, f"{low} {value} {high}")
+
+
+if __name__ == "__main__":
+    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+    unittest.main()
