@@ -105,19 +105,24 @@ TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
         headers.begin() + static_cast<std::ptrdiff_t>(at),
         headers.begin() + static_cast<std::ptrdiff_t>(std::min(at + 10, headers.size())));
     client.Needs({group.begin(), group.end()});
-    std::map<std::string, std::string> before;
-    for (const auto& header : group) before[header] = direct(optionOf[header]);
-    machine.runLoop.RunFor(1000);
-    for (const auto& header : group) {
-      // The pid's own column is not fetched.
-      if (header == "PID") continue;
-      const auto value = Trimmed(Value(sleeper.Pid(), header.c_str()));
-      const auto after = direct(optionOf[header]);
-      // What grows with time (ELAPSED, say) may have moved on between the runs.
-      EXPECT_TRUE(value == before[header] || value == after ||
-                  (value > before[header] && value < after))
-          << header << " (" << optionOf[header] << "): '" << value << "', directly '"
-          << before[header] << "' and '" << after << "'";
+    // Some move on between two runs (ELAPSED), others with what else runs here (PSS): these get
+    // another beat.
+    std::vector<std::string> open = group;
+    for (int beat = 0; beat < 4 && !open.empty(); ++beat) {
+      std::map<std::string, std::string> before;
+      for (const auto& header : open) before[header] = direct(optionOf[header]);
+      machine.runLoop.RunFor(1000);
+      std::erase_if(open, [&](const std::string& header) {
+        // The pid's own column is not fetched.
+        if (header == "PID") return true;
+        const auto value = Trimmed(Value(sleeper.Pid(), header.c_str()));
+        return value == before[header] || value == direct(optionOf[header]);
+      });
+    }
+    for (const auto& header : open) {
+      ADD_FAILURE() << header << " (" << optionOf[header] << "): '"
+                    << Value(sleeper.Pid(), header.c_str()) << "', directly '"
+                    << direct(optionOf[header]) << "'";
     }
   }
 }

@@ -127,7 +127,7 @@ TEST_F(RelaunchTest, OneThatDoesNotOpenIsGivenFiveSeconds) {
   machine.runLoop.RunFor(11'000);
   EXPECT_EQ(gFd_a2d, -1);
   EXPECT_EQ(Starts(), "30 ");
-  EXPECT_EQ(machine.namedPipes.OpenCount(), 1u) << "it has opened the one end";
+  EXPECT_EQ(machine.namedPipes.OpenCount(), 2u) << "both ends, and the greeting is missing";
   QuitHelperDaemon();
   EXPECT_EQ(machine.namedPipes.OpenCount(), 0u) << "also in the middle of it";
   EXPECT_EQ(machine.namedPipes.NameCount(), 0u);

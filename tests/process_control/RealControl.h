@@ -1,0 +1,157 @@
+#pragma once
+
+#include <fcntl.h>
+#include <grp.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <thread>
+
+#include "platform/Machine.h"
+#include "platform/linux/LinuxBundle.h"
+#include "platform/linux/LinuxClock.h"
+#include "platform/linux/LinuxNamedPipes.h"
+#include "platform/linux/LinuxSignals.h"
+#include "platform/linux/LinuxTools.h"
+#include "platform/linux/PolkitAuthorization.h"
+#include "platform/linux/PollRunLoop.h"
+#include "platform/linux/TerminalAlerts.h"
+#include "platform/simulated/SimulatedMachine.h"
+#include "process_control/DaemonChannel.h"
+#include "process_control/DaemonCommunication.h"
+#include "process_control/TemporaryFolder.h"
+
+namespace lurkwell {
+
+/// A user that the tests make up.
+inline constexpr uid_t kUser = 61001;
+
+/// Process control with real programs over real pipes, for an application below `prefix`.
+class RealMachine {
+ public:
+  explicit RealMachine(const std::string& prefix)
+      : bundle(prefix + "/bin/lurkwell"),
+        authorization(bundle, PolkitAuthorization::Consent::kMayAsk, prefix + "/bin/pkexec") {}
+
+  /// Puts the build's helper into the application's folder.
+  static void Install(const std::string& prefix) {
+    const std::string resources = prefix + "/lib/lurkwell/Contents/Resources";
+    std::filesystem::create_directories(resources);
+    std::filesystem::copy_file(LURKWELL_TEST_HELPER, resources + "/Lurkwell_helper");
+  }
+
+  SimulatedMachine simulated;
+  LinuxClock clock;
+  PollRunLoop runLoop{clock};
+  LinuxTools tools;
+  LinuxSignals signals;
+  LinuxNamedPipes namedPipes;
+  LinuxBundle bundle;
+  PolkitAuthorization authorization;
+  TerminalAlerts alerts;
+  Machine services{clock,
+                   runLoop,
+                   simulated.preferenceDomain,
+                   simulated.processTable,
+                   simulated.processManager,
+                   simulated.hostStatistics,
+                   tools,
+                   signals,
+                   namedPipes,
+                   authorization,
+                   bundle,
+                   alerts};
+  MachineInstallation installation{services};
+};
+
+/// A test whose helpers, orphans by design, become its children and can be found and counted.
+/// Pipes and data stand in folders of the test.
+class RealControl : public testing::Test {
+ protected:
+  RealControl() {
+    ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+    ::setenv("TMPDIR", folder.Make("pipes", 01777).c_str(), 1);
+    ::unsetenv("XDG_RUNTIME_DIR");
+    ::setenv("XDG_DATA_HOME", folder.Make("data").c_str(), 1);
+    RealMachine::Install(folder.Path());
+  }
+  ~RealControl() override {
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "pipes")) << "pipes are left";
+    EXPECT_TRUE(AllHelpersEnd()) << "a helper is left";
+  }
+
+  std::string Installed() const { return folder / "data/Lurkwell/Lurkwell_helper"; }
+
+  /// Puts the program that misbehaves in the helper's place.
+  void UseStandIn(const std::string& mode) {
+    UseRealHelper();
+    std::filesystem::create_directories(folder / "data/Lurkwell");
+    std::filesystem::copy_file(LURKWELL_TEST_STAND_IN, Installed());
+    WriteFile(folder / "data/Lurkwell/mode", mode);
+  }
+  void UseRealHelper() { std::filesystem::remove_all(folder / "data/Lurkwell"); }
+
+  /// A signal to one process, whatever a look-up gave.
+  static void Signal(pid_t pid, int signal) {
+    ASSERT_GT(pid, 1);
+    ::kill(pid, signal);
+  }
+
+  /// The one child there is, after those that have ended were collected; -1 for none.
+  static pid_t HelperPid() {
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) {
+    }
+    const std::string parent = " " + std::to_string(::getpid()) + " ";
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+      const std::string name = entry.path().filename();
+      if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+      const std::string stat = ReadFile(entry.path().string() + "/stat");
+      const auto end = stat.rfind(')');
+      // The name, the state, the parent.
+      if (end != std::string::npos && stat.substr(end + 3).starts_with(parent))
+        return std::stoi(name);
+    }
+    return -1;
+  }
+
+  /// Whether all helpers end within ten seconds; collects them.
+  static bool AllHelpersEnd() {
+    for (int i = 0; i < 10'000; ++i) {
+      const pid_t ended = ::waitpid(-1, nullptr, WNOHANG);
+      if (ended < 0) return true;
+      if (ended == 0) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return false;
+  }
+
+  static std::string Query(const char* request, std::int32_t capacity = 255) {
+    std::string buffer(static_cast<std::size_t>(capacity) + 1, '#');
+    QueryDaemon(request, buffer.data(), capacity);
+    return buffer.c_str();
+  }
+
+  TemporaryFolder folder;
+};
+
+/// Runs `body` as the user in a child and gives its exit status, or minus the signal that ended it.
+inline int AsUser(uid_t user, const std::function<int()>& body) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    if (user != 0 && (::setgroups(0, nullptr) != 0 || ::setresgid(user, user, user) != 0 ||
+                      ::setresuid(user, user, user) != 0)) {
+      ::_exit(99);
+    }
+    ::_exit(body());
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+}  // namespace lurkwell

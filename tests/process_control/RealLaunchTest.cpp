@@ -1,0 +1,274 @@
+#include <dirent.h>
+#include <sched.h>
+#include <sys/mount.h>
+
+#include <cstdio>
+#include <vector>
+
+#include "preferences/PreferencesRetrieval.h"
+#include "process_control/RealControl.h"
+
+namespace lurkwell {
+namespace {
+
+/// The application as a plain user starts it, with the administrator's consent given by a stand-in.
+class RealLaunchTest : public RealControl {
+ protected:
+  RealLaunchTest() {
+    folder.Make("bin");
+    std::filesystem::copy_file(LURKWELL_TEST_STAND_IN, Pkexec());
+    EXPECT_EQ(::chmod(Pkexec().c_str(), 04755), 0);
+    folder.Make("data", 0755, kUser);
+  }
+
+  std::string Pkexec() const { return folder / "bin/pkexec"; }
+  void AdministratorSays(const char* mode) { WriteFile(folder / "bin/mode", mode); }
+  /// What pkexec was asked.
+  std::string Asked() const { return Shortened(ReadFile(folder / "bin/asked")); }
+  /// With "$" for the test's folder.
+  std::string Shortened(std::string text) const {
+    for (auto at = text.find(folder.Path()); at != std::string::npos; at = text.find(folder.Path()))
+      text.replace(at, folder.Path().size(), "$");
+    return text;
+  }
+
+  /// Starts the helper as the user; what it says about its rights, "none" without a helper, and
+  /// what was said on standard error.
+  std::string Launched(bool always = false) {
+    const std::string report = folder / "data/report", errors = folder / "data/errors";
+    const int status = AsUser(kUser, [&] {
+      const int file = ::open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+      if (::dup2(file, STDERR_FILENO) < 0) return 98;
+      RealMachine machine(folder.Path());
+      if (always) SetPrefInt("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", 1);
+      LaunchHelperDaemon();
+      WriteFile(report, gFd_a2d >= 0 ? Query("geteuid") : "none");
+      QuitHelperDaemon();
+      return 0;
+    });
+    EXPECT_EQ(status, 0);
+    return ReadFile(report) + "\n" + Shortened(ReadFile(errors));
+  }
+};
+
+constexpr char kAlert[] =
+    "lurkwell: Lurkwell must be authenticated in order to run on this computer with an "
+    "administrator password. (Continue Without)\n";
+constexpr char kStep[] =
+    "$/data/Lurkwell|--disable-internal-agent|--keep-cwd|"
+    "$/lib/lurkwell/Contents/Resources/Lurkwell_helper|--set_permissions_appropriately\n";
+
+TEST_F(RealLaunchTest, TheAdministratorGivesTheCopyItsRightsOnce) {
+  AdministratorSays("yes");
+  EXPECT_EQ(Launched(), "0\n");
+  EXPECT_EQ(Asked(), kStep);
+  EXPECT_EQ(ModeOf(Installed()), 04750u);
+  EXPECT_EQ(Launched(), "0\n") << "and later without any question";
+  EXPECT_EQ(Asked(), kStep);
+
+  EXPECT_EQ(Launched(true), "0\n") << "through pkexec, as the preference wants";
+  const std::string asked = Asked().substr(2 * sizeof kStep - 2);
+  EXPECT_TRUE(
+      asked.starts_with("$/data/Lurkwell|--disable-internal-agent|--keep-cwd|"
+                        "$/lib/lurkwell/Contents/Resources/Lurkwell_helper|$/pipes/lurkwell-"))
+      << asked;
+}
+
+TEST_F(RealLaunchTest, WithoutConsentTheHelperHasTheUsersRights) {
+  const auto refused = [](const std::string& reason) {
+    return std::to_string(kUser) + "\nlurkwell: the helper gets no rights: " + reason + "\n" +
+           kAlert;
+  };
+  AdministratorSays("126");
+  EXPECT_EQ(Launched(), refused("the question was dismissed"));
+  AdministratorSays("127");
+  EXPECT_EQ(Launched(),
+            refused("the authorisation was refused, or there is no agent to ask for it"));
+  AdministratorSays("77");
+  EXPECT_EQ(Launched(), refused("the permission step ended with status 77"));
+  std::filesystem::remove(Pkexec());
+  EXPECT_EQ(Launched(), refused("there is no $/bin/pkexec"));
+  EXPECT_EQ(ModeOf(Installed()), 0755u);
+}
+
+TEST_F(RealLaunchTest, WhoMayNotAskAsksNobody) {
+  AdministratorSays("yes");
+  const int status = AsUser(kUser, [&] {
+    const LinuxBundle bundle(folder / "bin/lurkwell");
+    PolkitAuthorization authorization(bundle, PolkitAuthorization::Consent::kOnlyIfGiven, Pkexec());
+    const auto reference = authorization.Create();
+    const bool executed = authorization.ExecuteWithPrivileges(*reference, Installed(),
+                                                              {"--set_permissions_appropriately"});
+    return executed || authorization.FailureReason().empty() ? 1 : 0;
+  });
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(Asked(), "");
+}
+
+TEST_F(RealLaunchTest, AFileSystemWithoutRightsIsExplainedAndNobodyAsked) {
+  AdministratorSays("yes");
+  const std::string data = folder / "data";
+  for (const bool executes : {true, false}) {
+    const int status = AsUser(0, [&] {
+      const unsigned long flags = executes ? MS_NOSUID : MS_NOSUID | MS_NOEXEC;
+      if (::unshare(CLONE_NEWNS) != 0 ||
+          ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+          ::mount("tmpfs", data.c_str(), "tmpfs", flags, "mode=0755,uid=61001,gid=61001") != 0) {
+        return 97;
+      }
+      std::string expected = executes ? std::to_string(kUser) : "none";
+      expected +=
+          "\nlurkwell: the helper gets no rights: the file system of $/data/Lurkwell gives "
+          "programs no rights (nosuid)\n" +
+          std::string(kAlert);
+      if (!executes) expected += "lurkwell: the helper does not answer; starting another\n";
+      const std::string launched = Launched();
+      if (launched != expected) std::fprintf(stderr, "%s", launched.c_str());
+      return launched == expected ? 0 : 1;
+    });
+    EXPECT_EQ(status, 0) << executes;
+  }
+  EXPECT_EQ(Asked(), "");
+}
+
+TEST_F(RealLaunchTest, TheBundleKnowsItsFolders) {
+  const LinuxBundle bundle("/opt/prefix/bin/lurkwell");
+  EXPECT_EQ(bundle.Path(), "/opt/prefix/lib/lurkwell");
+  EXPECT_EQ(LinuxBundle("/bin/lurkwell").Path(), "/lib/lurkwell");
+  EXPECT_EQ(bundle.ApplicationSupportFolder(), folder / "data");
+  ::setenv("XDG_DATA_HOME", "relative", 1);
+  ::setenv("HOME", (folder / "home/new").c_str(), 1);
+  EXPECT_EQ(bundle.ApplicationSupportFolder(), folder / "home/new/.local/share");
+  EXPECT_EQ(ModeOf(folder / "home/new/.local"), 0700u) << "made for the user alone";
+  WriteFile(folder / "file", "");
+  ::setenv("HOME", (folder / "file").c_str(), 1);
+  EXPECT_EQ(bundle.ApplicationSupportFolder(), std::nullopt);
+  WriteFile(folder / "lib/lurkwell/Contents/build-tree", "");
+  EXPECT_EQ(LinuxBundle(folder / "bin/lurkwell").ApplicationSupportFolder(),
+            folder / "Application Support");
+}
+
+/// Names that a shell, a format, or a careless parser would make something of.
+std::vector<std::string> HostileNames() {
+  const std::string touch = "touch ruined";
+  const std::vector<std::string> pieces = {"$(" + touch + ")",
+                                           "`" + touch + "`",
+                                           "; " + touch + ";",
+                                           "| " + touch,
+                                           "& " + touch + " &",
+                                           "\n" + touch + "\n",
+                                           "' ; " + touch + " '",
+                                           "\" ; " + touch + " \"",
+                                           "\\",
+                                           "\\\"; " + touch,
+                                           "%s%n%d",
+                                           "*",
+                                           "?[a-z]",
+                                           "-rf",
+                                           "--set_permissions_appropriately",
+                                           "~",
+                                           "#",
+                                           "!!",
+                                           "{a,b}",
+                                           "$IFS$9",
+                                           "\xC3\xA9\xE2\x80\xAE",
+                                           "\xFF\xFE",
+                                           "\x01\x1B[2J",
+                                           " ",
+                                           "\t",
+                                           "<in >out",
+                                           "..."};
+  std::vector<std::string> names = pieces;
+  for (std::size_t i = 0; names.size() < 199; ++i) {
+    const auto other = (i * 7 + i / pieces.size() + 1) % pieces.size();
+    names.push_back(pieces[i % pieces.size()] + pieces[other]);
+  }
+  names.emplace_back(255, 'x');
+  return names;
+}
+
+TEST_F(RealLaunchTest, HostileFolderNamesAreNamesAndNothingElse) {
+  const auto names = HostileNames();
+  ASSERT_EQ(names.size(), 200u);
+  const std::string work = folder.Make("work");
+  std::filesystem::current_path(work);
+  for (const auto& name : names) {
+    const std::string prefix = folder.Make("apps/" + name);
+    const std::string data = folder.Make("homes/" + name);
+    ::setenv("XDG_DATA_HOME", data.c_str(), 1);
+    RealMachine::Install(prefix);
+    RealMachine machine(prefix);
+    testing::internal::CaptureStderr();
+    LaunchHelperDaemon();
+    EXPECT_EQ(Query("geteuid"), "0") << name;
+    QuitHelperDaemon();
+    // An application below a double quote finds no helper to install, and uses its own.
+    const bool quoted = name.find('"') != std::string::npos;
+    EXPECT_EQ(testing::internal::GetCapturedStderr().empty(), !quoted) << name;
+    EXPECT_EQ(std::filesystem::exists(data + "/Lurkwell/Lurkwell_helper"), !quoted) << name;
+    std::filesystem::remove_all(prefix);
+  }
+  EXPECT_TRUE(std::filesystem::is_empty(work)) << "a command ran";
+  std::filesystem::current_path("/");
+}
+
+/// How many names somebody saw in the folder of the pipes, and how many of those opened for him.
+struct Pry {
+  std::uint64_t seen = 0;
+  std::uint64_t opened = 0;
+};
+
+Pry PryInto(const std::string& folder, const std::string& stop) {
+  Pry pry;
+  while (::access(stop.c_str(), F_OK) != 0) {
+    DIR* names = ::opendir(folder.c_str());
+    if (names == nullptr) break;
+    while (const dirent* entry = ::readdir(names)) {
+      if (entry->d_name[0] == '.') continue;
+      ++pry.seen;
+      const std::string path = folder + "/" + entry->d_name;
+      for (const int flags : {O_RDONLY, O_WRONLY, O_RDONLY | O_DIRECTORY}) {
+        const int opened = ::open(path.c_str(), flags | O_NONBLOCK);
+        if (opened < 0) continue;
+        ++pry.opened;
+        ::close(opened);
+      }
+      if (::access((path + "/.").c_str(), F_OK) == 0) ++pry.opened;
+    }
+    ::closedir(names);
+  }
+  return pry;
+}
+
+TEST_F(RealLaunchTest, NobodyElseOpensThePipes) {
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  const std::string stop = folder / "stop";
+  const pid_t hostile = ::fork();
+  if (hostile == 0) {
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    constexpr uid_t kStranger = 61002;
+    if (::setgroups(0, nullptr) != 0 || ::setgid(kStranger) != 0 || ::setuid(kStranger) != 0)
+      ::_exit(99);
+    const Pry pry = PryInto(folder / "pipes", stop);
+    ::_exit(::write(ends[1], &pry, sizeof pry) == sizeof pry ? 0 : 98);
+  }
+  {
+    RealMachine machine(folder.Path());
+    for (int start = 0; start < 500; ++start) {
+      LaunchDaemonWithoutAuthorization();
+      EXPECT_EQ(Query("geteuid"), "0");
+      QuitHelperDaemon();
+    }
+  }
+  WriteFile(stop, "");
+  ::close(ends[1]);
+  Pry pry;
+  EXPECT_EQ(::read(ends[0], &pry, sizeof pry), static_cast<ssize_t>(sizeof pry));
+  EXPECT_GT(pry.seen, 100u) << "it has to have met them";
+  EXPECT_EQ(pry.opened, 0u);
+  ::close(ends[0]);
+}
+
+}  // namespace
+}  // namespace lurkwell
