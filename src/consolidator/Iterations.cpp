@@ -51,6 +51,7 @@ void Derive(MetaProcessInformation& record) {
 }  // namespace
 
 void BeginProcessInformationIteration(int kind) {
+  Require(kind >= 0 && kind < kInformationKindCount, kUnit, "false");
   gInformationKindGenerationMutex[static_cast<std::size_t>(kind)]->Enter();
   ++gGenerationCount[static_cast<std::size_t>(kind)];
 }

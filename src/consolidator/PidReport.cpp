@@ -59,8 +59,11 @@ struct StoreFromText {
   template <typename Integer>
   void operator()(Integer PidBlock::*) const {
     std::string_view rest = value;
+    const auto number = ScanInteger(rest);
+    // What does not fit is left out; what is no number at all counts as none.
+    if (!number && StartsWithNumber(rest)) return;
     const bool isParent = row.field == PidField{&PidBlock::parentPid};
-    report.Integer(row, ScanInteger(rest).value_or(isParent ? kInvalidPID : 0));
+    report.Integer(row, number.value_or(isParent ? kInvalidPID : 0));
   }
 };
 

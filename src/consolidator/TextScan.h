@@ -43,6 +43,12 @@ inline std::optional<std::int64_t> ScanInteger(std::string_view& text) {
   return value;
 }
 
+/// Whether a decimal number stands at the front, be it of any size.
+inline bool StartsWithNumber(std::string_view text) {
+  if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
+  return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
+
 /// The next line without its newline; nothing at the end.
 inline std::optional<std::string_view> ScanLine(std::string_view& text) {
   if (text.empty()) return std::nullopt;

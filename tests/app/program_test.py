@@ -45,14 +45,18 @@ class Program(unittest.TestCase):
         return process.returncode, out, errors
 
     def columns(self, *keys):
-        """One update of these columns: {pid: {key: value}}. Only the last may hold blanks."""
+        """One update of these columns: {pid: {key: value}} and what else was printed. Only the
+        last may hold blanks."""
         status, out, errors = self.run_to_end("--print", "--count", "1", "--columns", ",".join(keys))
         self.assertEqual(status, 0, errors)
-        rows = {}
-        for line in out.splitlines()[1:]:
-            pid, _, rest = line.partition(":")
-            rows[int(pid)] = dict(zip(keys, rest.split(None, len(keys) - 1)))
-        return rows
+        rows, others = {}, []
+        for line in out.splitlines():
+            pid, colon, rest = line.partition(":")
+            if colon and pid.strip().isdigit():
+                rows[int(pid)] = dict(zip(keys, rest.split(None, len(keys) - 1)))
+            else:
+                others.append(line)
+        return rows, others
 
     def child(self, *command):
         child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stdin=subprocess.PIPE)
@@ -220,7 +224,9 @@ class Figures(Program):
         pids = [child.pid for child in children]
         self.assertEqual(len(pids), 50)
         before = {pid: self.read(pid) for pid in pids}
-        rows = self.columns(*self.KEYS)
+        rows, others = self.columns(*self.KEYS)
+        self.assertIn(f"detected a surreptitiously-halted process {pids[0]}!", others)
+        self.assertEqual(others[-1].split(), ["pid:", *self.KEYS])
         after = {pid: self.read(pid) for pid in pids}
         for pid in pids:
             for key in self.KEYS:

@@ -83,7 +83,7 @@ TEST_F(FeedersTest, AnswersThatWereNotAskedForChangeNothing) {
   Accesses(0);
   EXPECT_EQ(after("pid_rsz 40 17\n"), "17 0 0");
   EXPECT_EQ(after("pid_rsz 41 99\npid_csw 40 99\nmeta_pid 40 99\npid_p_nice 40 99\n"), "17 0 0");
-  EXPECT_EQ(after("pid_rsz 40 99999999999999999999\n"), "0 0 0");
+  EXPECT_EQ(after("pid_rsz 40 99999999999999999999\n"), "17 0 0") << "it does not fit";
   EXPECT_EQ(after("pid_rsz 40 18"), "18 0 0") << "the last line needs no newline";
   EXPECT_EQ(after("noise\n\n\npid_rsz\npid_rsz x\npid_rsz 40 19\n"), "19 0 0");
   EXPECT_EQ(after("!Error\n"), "19 0 0");

@@ -230,7 +230,7 @@ TEST(Tools, GiveProgramsNothingOfOurs) {
   ::pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
 
   EXPECT_EQ(RunOne({"/usr/bin/env"}, Ample()).text,
-            "PATH=/usr/sbin:/usr/bin:/sbin:/bin\nLC_ALL=C\n");
+            "PATH=/usr/sbin:/usr/bin:/sbin:/bin\nLC_ALL=C.UTF-8\n");
   // The fourth is the folder that ls reads.
   EXPECT_EQ(RunOne({"/bin/ls", "/proc/self/fd"}, Ample()).text, "0\n1\n2\n3\n");
   // The C library ignores two signals of its own, the 32nd and the 33rd.
@@ -253,7 +253,7 @@ TEST(Tools, GiveProgramsNothingOfOurs) {
   std::ifstream stream(path);
   const std::string answer{std::istreambuf_iterator<char>(stream), {}};
   const auto words = WordsOf(answer);
-  EXPECT_NE(answer.find("LC_ALL=C\nPATH=/usr/sbin:/usr/bin:/sbin:/bin\nPWD="), std::string::npos)
+  EXPECT_NE(answer.find("LC_ALL=C.UTF-8\nPATH=/usr/sbin:/usr/bin:/sbin:/bin\nPWD="), std::string::npos)
       << answer;
   EXPECT_NE(answer.find("\n0\n1\n2\n3\n"), std::string::npos) << answer;
   ASSERT_GE(words.size(), 4u);

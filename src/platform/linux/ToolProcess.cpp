@@ -89,7 +89,7 @@ void Serve(std::span<ToolProcess> processes, ToolProcess::Deadline deadline) {
 
 char* const* FixedEnvironment() {
   static char path[] = "PATH=/usr/sbin:/usr/bin:/sbin:/bin";
-  static char language[] = "LC_ALL=C";
+  static char language[] = "LC_ALL=C.UTF-8";
   static char* const environment[] = {path, language, nullptr};
   return environment;
 }
