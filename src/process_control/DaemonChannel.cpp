@@ -130,6 +130,7 @@ void DaemonChannelOpening::ReportMissingGreeting() const {
 }
 
 void DaemonChannelOpening::Take() {
+  CloseDaemonChannel();
   gFd_a2d = std::exchange(mWriting, -1);
   gFd_d2a = std::exchange(mReading, -1);
 }

@@ -38,7 +38,7 @@ class DaemonChannelOpening {
   /// Says on standard output that no greeting came, if that is what is missing.
   void ReportMissingGreeting() const;
 
-  /// Hands the open ends over to gFd_a2d and gFd_d2a.
+  /// Hands the open ends over to gFd_a2d and gFd_d2a; a channel that was open is closed.
   void Take();
 
  private:

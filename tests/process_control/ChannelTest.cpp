@@ -85,6 +85,14 @@ TEST_F(ChannelTest, AHelperThatDoesNotComeLeavesNothingBehind) {
   EXPECT_EQ(QuitHelperDaemon(), -1);
 }
 
+TEST_F(ChannelTest, AChannelOpenedOverAnotherReplacesIt) {
+  Open();
+  const int before = gFd_a2d;
+  Open();
+  EXPECT_NE(gFd_a2d, before);
+  EXPECT_EQ(machine.namedPipes.OpenCount(), 2u);
+}
+
 class RelaunchTest : public SimulatedControl {
  protected:
   /// Starts from now on are recorded with their seconds, and succeed or not.

@@ -135,7 +135,7 @@ TEST_F(LaunchTest, TheCheckLooksAtTheFirstCharacterOnly) {
                                                            {"10", false},
                                                            {" 0", false},
                                                            {"!Error 0", false}}) {
-    machine.namedPipes.SetHelper([&](std::string_view) { return std::string(answer); });
+    machine.namedPipes.SetHelper([text = std::string(answer)](std::string_view) { return text; });
     EXPECT_EQ(CheckDaemonPermissions(), good) << answer;
   }
   machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kStalls);

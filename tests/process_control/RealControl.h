@@ -1,5 +1,6 @@
 #pragma once
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <grp.h>
 #include <gtest/gtest.h>
@@ -8,7 +9,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <string>
 #include <thread>
@@ -103,21 +108,35 @@ class RealControl : public testing::Test {
     ::kill(pid, signal);
   }
 
-  /// The one child there is, after those that have ended were collected; -1 for none.
-  static pid_t HelperPid() {
-    while (::waitpid(-1, nullptr, WNOHANG) > 0) {
+  /// The running helper, which must have greeted; -1 for none.
+  static pid_t HelperPid() { return ChildNamed("lkw_helper_daem"); }
+
+  /// A child of that name that has not ended; -1 for none.
+  static pid_t ChildNamed(const char* wanted) {
+    pid_t found = -1;
+    DIR* names = ::opendir("/proc");
+    while (const dirent* entry = ::readdir(names)) {
+      const pid_t pid = std::atoi(entry->d_name);
+      if (pid > 0 && IsChildNamed(pid, wanted)) found = pid;
     }
-    const std::string parent = " " + std::to_string(::getpid()) + " ";
-    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
-      const std::string name = entry.path().filename();
-      if (name.find_first_not_of("0123456789") != std::string::npos) continue;
-      const std::string stat = ReadFile(entry.path().string() + "/stat");
-      const auto end = stat.rfind(')');
-      // The name, the state, the parent.
-      if (end != std::string::npos && stat.substr(end + 3).starts_with(parent))
-        return std::stoi(name);
-    }
-    return -1;
+    ::closedir(names);
+    return found;
+  }
+
+  /// Without allocations: a sanitizer would keep what is freed, and each fork would copy it.
+  static bool IsChildNamed(pid_t pid, const char* wanted) {
+    char text[256] = "";
+    std::snprintf(text, sizeof text, "/proc/%d/stat", pid);
+    const int file = ::open(text, O_RDONLY | O_CLOEXEC);
+    const auto size = file < 0 ? -1 : ::read(file, text, sizeof text - 1);
+    if (file >= 0) ::close(file);
+    text[std::max<ssize_t>(size, 0)] = '\0';
+    char start[64];
+    const int length = std::snprintf(start, sizeof start, "%d (%s) ", pid, wanted);
+    const char* state = text + length;
+    // The state is followed by the parent.
+    return std::strncmp(text, start, static_cast<std::size_t>(length)) == 0 && *state != 'Z' &&
+           std::atoi(state + 1) == ::getpid();
   }
 
   /// Whether all helpers end within ten seconds; collects them.

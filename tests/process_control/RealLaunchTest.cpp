@@ -39,6 +39,7 @@ class RealLaunchTest : public RealControl {
     const int status = AsUser(kUser, [&] {
       const int file = ::open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
       if (::dup2(file, STDERR_FILENO) < 0) return 98;
+      if (ignoresChildren) ::signal(SIGCHLD, SIG_IGN);
       RealMachine machine(folder.Path());
       if (always) SetPrefInt("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", 1);
       LaunchHelperDaemon();
@@ -49,6 +50,8 @@ class RealLaunchTest : public RealControl {
     EXPECT_EQ(status, 0);
     return ReadFile(report) + "\n" + Shortened(ReadFile(errors));
   }
+
+  bool ignoresChildren = false;
 };
 
 constexpr char kAlert[] =
@@ -72,6 +75,13 @@ TEST_F(RealLaunchTest, TheAdministratorGivesTheCopyItsRightsOnce) {
       asked.starts_with("$/data/Lurkwell|--disable-internal-agent|--keep-cwd|"
                         "$/lib/lurkwell/Contents/Resources/Lurkwell_helper|$/pipes/lurkwell-"))
       << asked;
+}
+
+TEST_F(RealLaunchTest, ConsentIsNoticedWhereNobodyLearnsHowChildrenEnd) {
+  AdministratorSays("yes");
+  ignoresChildren = true;
+  EXPECT_EQ(Launched(), "0\n");
+  EXPECT_EQ(Asked(), kStep);
 }
 
 TEST_F(RealLaunchTest, WithoutConsentTheHelperHasTheUsersRights) {

@@ -1,7 +1,7 @@
 // Takes the place of a program that the application starts, and misbehaves as a file beside it
-// says. In the place of the helper: "absent", "half" (opens one end), "mute" (opens both), "brief"
-// (greets and goes), "noise", "twice" (answers each request two times). In the place of pkexec: the
-// status it ends with, or "yes", upon which root runs what was asked for.
+// says. In the place of the helper: "absent", "half" (opens one end only), "mute" (opens both),
+// "brief" (greets and goes), "noise", "twice" (answers each request two times). In the place of
+// pkexec: the status it ends with, or "yes", upon which root runs what was asked for.
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
@@ -31,13 +31,12 @@ int Help(const std::string& mode, char** pipes) {
   ::alarm(20);
   if (mode == "absent") return 0;
   const int requests = ::open(pipes[0], O_RDONLY);
-  if (mode == "half") return 0;
-  const int answers = ::open(pipes[1], O_WRONLY);
+  const int answers = mode == "half" ? -1 : ::open(pipes[1], O_WRONLY);
   std::mt19937 random(static_cast<std::uint32_t>(::getpid()));
   char request[8192];
   bool greeted = false;
   while (::read(requests, request, sizeof request) > 0) {
-    if (mode == "mute") continue;
+    if (mode == "mute" || mode == "half") continue;
     if (!greeted) {
       greeted = true;
       Answer(answers, "Hello.\n");

@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -51,7 +50,11 @@ inline void WriteFile(const std::string& path, std::string_view text) {
 
 inline std::string ReadFile(const std::string& path) {
   std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
+  std::string text;
+  char piece[4096];
+  while (stream.read(piece, sizeof piece), stream.gcount() > 0)
+    text.append(piece, static_cast<std::size_t>(stream.gcount()));
+  return text;
 }
 
 inline mode_t ModeOf(const std::string& path) {

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <thread>
 
@@ -114,13 +115,14 @@ bool LinuxNamedPipes::MakeFifo(const std::string& path, unsigned mode) {
 }
 
 int LinuxNamedPipes::OpenForWriting(const std::string& path, Milliseconds limit) {
+  constexpr std::chrono::microseconds kShortestPause{100}, kLongestPause{5000};
   const auto deadline = steady_clock::now() + limit;
-  for (;;) {
+  for (auto pause = kShortestPause;; pause = std::min(2 * pause, kLongestPause)) {
     const int pipe = OpenEnd(path, O_WRONLY);
     // ENXIO: nobody reads yet.
     if (pipe >= 0 || (errno != ENXIO && errno != EINTR)) return pipe;
     if (steady_clock::now() >= deadline) return -1;
-    std::this_thread::sleep_for(Milliseconds(1));
+    std::this_thread::sleep_for(pause);
   }
 }
 

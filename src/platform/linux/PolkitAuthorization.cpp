@@ -7,8 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
-#include <cerrno>
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
@@ -39,14 +38,21 @@ bool IgnoresSetUserId(const std::string& folder) {
   return ::statvfs(folder.c_str(), &system) == 0 && (system.f_flag & ST_NOSUID) != 0;
 }
 
-/// Whether the child ended before the deadline.
-bool WaitForEnd(const FileDescriptor& handle, steady_clock::time_point deadline) {
+/// Whether the child ended before the deadline; it is not collected. Without a handle, which costs
+/// a descriptor, it is looked at from time to time.
+bool WaitForEnd(pid_t child, const FileDescriptor& handle, steady_clock::time_point deadline) {
+  constexpr std::chrono::milliseconds kLook{50};
   for (;;) {
-    const auto left =
-        std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now()).count();
+    siginfo_t end{};
+    if (::waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOHANG | WNOWAIT) != 0 ||
+        end.si_pid != 0) {
+      return true;
+    }
+    auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now());
+    if (left.count() <= 0) return false;
+    if (!handle.IsOpen()) left = std::min(left, kLook);
     pollfd wait{handle.Get(), POLLIN, 0};
-    const int ready = ::poll(&wait, 1, left > 0 ? static_cast<int>(left) : 0);
-    if (ready >= 0 || errno != EINTR) return ready > 0;
+    ::poll(&wait, 1, static_cast<int>(left.count()));
   }
 }
 
@@ -136,15 +142,18 @@ bool PolkitAuthorization::Start(const std::string& folder,
 
 bool PolkitAuthorization::FinishStep() {
   const Child& child = mChildren.back();
-  if (!WaitForEnd(child.handle, steady_clock::now() + kLongestStep)) {
+  if (!WaitForEnd(child.pid, child.handle, steady_clock::now() + kLongestStep)) {
     // A step that root runs cannot be ended from here; it goes on by itself.
     SendThroughHandle(child.handle, SIGKILL);
     return Fail("the permission step took too long");
   }
-  int status = -1;
-  ::waitpid(child.pid, &status, 0);
+  int status = 0;
+  const bool isKnown = ::waitpid(child.pid, &status, 0) == child.pid;
   mEnded.push_back(child.pid);
   mChildren.pop_back();
+  // Where the program was started with SIGCHLD ignored, nobody learns how a child ended. Whether
+  // the helper has its rights now is looked at in any case.
+  if (!isKnown) return true;
   if (!WIFEXITED(status)) return Fail("the permission step was killed");
   const int exitStatus = WEXITSTATUS(status);
   if (exitStatus == 0) return true;
@@ -166,7 +175,8 @@ bool PolkitAuthorization::IsAsking() {
 
 int PolkitAuthorization::WaitForChild() {
   if (mEnded.empty() && !mChildren.empty()) {
-    WaitForEnd(mChildren.front().handle, steady_clock::now() + kLongestWaitForChild);
+    const Child& child = mChildren.front();
+    WaitForEnd(child.pid, child.handle, steady_clock::now() + kLongestWaitForChild);
     ReapEnded();
   }
   if (mEnded.empty()) return -1;
