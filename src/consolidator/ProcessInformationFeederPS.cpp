@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "consolidator/ConsolidatorState.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessReports.h"
@@ -44,6 +45,14 @@ void AppendWords(std::string_view line, std::vector<std::string>& list) {
     if (blank == std::string_view::npos) return;
     line.remove_prefix(blank + 1);
   }
+}
+
+/// Whether a name belongs to properties that do not come from ps.
+bool IsReserved(std::string_view name) {
+  constexpr std::string_view kPrefixes[] = {"meta_", "pid_", "carbonpsn_", "classicpsn_",
+                                            "internal_"};
+  return std::ranges::any_of(kPrefixes,
+                             [name](std::string_view prefix) { return name.starts_with(prefix); });
 }
 
 struct Column {
@@ -111,7 +120,8 @@ void PSExtractProcessInformationForField(std::string_view output, Client::NeedLe
     return line;
   };
   const std::string header = HeaderOf(nextLine());
-  if (header.empty()) return;
+  // A ps that calls the column something else than at start-up has no values for it.
+  if (gPSHeaders.Find(header) == nullptr) return;
   while (!output.empty()) ReportLine(nextLine(), header, level, now);
 }
 
@@ -135,7 +145,8 @@ void DiscoverPSHeaders() {
     std::string_view text(outputs[i].text);
     std::string_view line = ScanLine(text).value_or(std::string_view{}).substr(0, kLongestLine);
     const std::string header(ScanWord(line).substr(0, kLongestHeader));
-    if (!header.empty()) EnsureThatPSProcPropertyExists(header.c_str(), options[i].c_str());
+    if (!header.empty() && !IsReserved(header))
+      EnsureThatPSProcPropertyExists(header.c_str(), options[i].c_str());
   }
 }
 

@@ -205,6 +205,18 @@ TEST_F(PSFeederTest, AColumnThatHangsKeepsWhatItHadAndRestsForAMinute) {
   EXPECT_NE(Accesses(2'000).find(command), std::string::npos);
 }
 
+TEST_F(PSFeederTest, ColumnsUnderNamesThatNobodyKnowsOrThatAreTakenAreLeftOut) {
+  machine.tools.SetOutput("/bin/ps 0 -o command", "pid_rsz\n");
+  Start();
+  EXPECT_EQ(GetPSHeaderCount(), 4);
+  Add("client", 1000).Needs({"TT", "RSZ"});
+  machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TTY\n60 s0\n");
+  machine.tools.SetOutput("/bin/ps -axww -o pid,rsz", "PID pid_p_nice\n60 5\n");
+  machine.runLoop.RunFor(1000);
+  EXPECT_EQ(Value(60, "TT"), "()");
+  EXPECT_EQ(Value(60, "pid_p_nice"), "0");
+}
+
 TEST_F(PSFeederTest, AMachineWithoutPsHasNoColumns) {
   machine.tools.SetOutput("/bin/ps -Lww", "");
   Start();
