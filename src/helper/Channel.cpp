@@ -66,18 +66,32 @@ bool AnyName(int folder, Visit visit) {
   }
 }
 
-bool HoldsFile(int proc, const char* pid, const struct stat& wanted) {
-  char path[32];
-  TextWriter writer(path, sizeof path - 1);
-  writer.Add(pid);
-  writer.Add("/fd");
-  path[writer.Size()] = '\0';
-  const int folder = openat(proc, path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  const bool holds =
-      folder >= 0 && AnyName(folder, [&](const char* name) {
-        struct stat info;
-        return IsDigit(name[0]) && fstatat(folder, name, &info, 0) == 0 && IsSameFile(info, wanted);
-      });
+/// A pipe, and the path by which it was opened.
+struct OpenedPipe {
+  struct stat info;
+  char path[kLongestPath + 1];
+  ssize_t pathSize;
+};
+
+/// Whether descriptor `name` leads to `wanted`. Its path is compared first: what lies elsewhere, on
+/// a server that is gone perhaps, is not looked at.
+bool LeadsTo(int folder, const char* name, const OpenedPipe& wanted) {
+  char path[sizeof wanted.path];
+  const ssize_t size = readlinkat(folder, name, path, sizeof path);
+  struct stat info;
+  return size > 0 && size == wanted.pathSize &&
+         std::memcmp(path, wanted.path, static_cast<std::size_t>(size)) == 0 &&
+         fstatat(folder, name, &info, 0) == 0 && IsSameFile(info, wanted.info);
+}
+
+bool HoldsFile(int proc, const char* pid, const OpenedPipe& wanted) {
+  PathWriter path;
+  path.Add(pid);
+  path.Add("/fd");
+  const int folder = openat(proc, path.Terminated(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const bool holds = folder >= 0 && AnyName(folder, [&](const char* name) {
+                       return IsDigit(name[0]) && LeadsTo(folder, name, wanted);
+                     });
   close(folder);
   return holds;
 }
@@ -91,14 +105,18 @@ bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel&
   channel.answers = OpenPipe(answers, O_WRONLY, user);
   if (channel.answers < 0 || ReadRequest(channel.requests) <= 0) return false;
   alarm(0);
-  return write(channel.answers, kGreeting.data(), kGreeting.size()) > 0;
+  return true;
 }
 
 pid_t FindPeer(int pipe) {
-  struct stat wanted;
+  OpenedPipe wanted;
+  PathWriter self;
+  self.Add("/proc/self/fd/");
+  self.AddNumber(static_cast<std::uint64_t>(pipe));
+  wanted.pathSize = readlink(self.Terminated(), wanted.path, sizeof wanted.path);
   const int proc = open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   pid_t peer = -1;
-  if (fstat(pipe, &wanted) == 0 && proc >= 0)
+  if (fstat(pipe, &wanted.info) == 0 && proc >= 0)
     AnyName(proc, [&](const char* name) {
       std::string_view text(name);
       pid_t pid = 0;
@@ -112,6 +130,7 @@ pid_t FindPeer(int pipe) {
 }
 
 void Serve(const Channel& channel, Session& session) {
+  if (write(channel.answers, kGreeting.data(), kGreeting.size()) < 0) return;
   for (;;) {
     const ssize_t size = ReadRequest(channel.requests);
     if (size <= 0) return;

@@ -12,7 +12,7 @@ struct Channel {
   int answers = -1;
 };
 
-/// Opens both pipes, which have to be `user`'s own and closed to everybody else, and answers the
+/// Opens both pipes, which have to be `user`'s own and closed to everybody else, and takes the
 /// greeting. False when one is not as it should be or holds too little for an answer in one piece.
 /// The process ends when nobody opens the other ends within kOpeningLimit seconds.
 bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel& channel);
@@ -21,7 +21,8 @@ bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel&
 /// none to be found.
 pid_t FindPeer(int pipe);
 
-/// Answers requests until the other end is closed: one read is one request, one write one answer.
+/// Answers the greeting, which says that all is prepared, and then requests until the other end is
+/// closed: one read is one request, one write one answer.
 void Serve(const Channel& channel, Session& session);
 
 }  // namespace lurkwell::helper

@@ -64,9 +64,9 @@ bool GatherProcess(const System& system, ProcessFiles& files, const FiguresLine&
   ProcessFiles::Place& place = files.PlaceOf(line.pid);
   const bool kept = place.files[kStatFile] != 0;
   if (Gather(system, files, place, line.groups, figures)) return true;
-  // A descriptor kept from before says that its process is gone, not that nobody has the pid.
+  // A descriptor kept from before says that its process is gone, not that nobody has the pid. The
+  // start stays: who sees the old process yet does not mean the pid's next holder.
   files.CloseAll(place);
-  place.start = 0;
   return kept && Gather(system, files, place, line.groups, figures);
 }
 

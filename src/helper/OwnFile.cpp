@@ -11,11 +11,8 @@ namespace lurkwell::helper {
 
 namespace {
 
-constexpr mode_t kOthersWrite = S_IWGRP | S_IWOTH;
-
 bool OwnedByRootAlone(const struct stat& info, uid_t) {
-  return S_ISREG(info.st_mode) && info.st_uid == 0 && (info.st_mode & kOthersWrite) == 0 &&
-         info.st_nlink == 1;
+  return S_ISREG(info.st_mode) && info.st_uid == 0 && IsOwnersAlone(info) && info.st_nlink == 1;
 }
 
 /// The folder is looked up by the program's path, so the path has to lead to the program again.
@@ -45,15 +42,17 @@ int OpenChecked(int folder, const char* name, int flags, uid_t user,
   struct stat info;
   int file = -1;
   if (fstat(handle, &info) == 0 && accepts(info, user)) {
-    char path[40];
-    TextWriter writer(path, sizeof path - 1);
-    writer.Add("/proc/self/fd/");
-    writer.AddNumber(static_cast<std::uint64_t>(handle));
-    path[writer.Size()] = '\0';
-    file = open(path, flags | O_CLOEXEC | O_NOCTTY);
+    PathWriter path;
+    path.Add("/proc/self/fd/");
+    path.AddNumber(static_cast<std::uint64_t>(handle));
+    file = open(path.Terminated(), flags | O_CLOEXEC | O_NOCTTY);
   }
   close(handle);
   return file;
+}
+
+bool IsOwnersAlone(const struct stat& info) {
+  return (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
 bool IsSameFile(const struct stat& one, const struct stat& other) {

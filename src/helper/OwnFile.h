@@ -15,6 +15,9 @@ namespace lurkwell::helper {
 int OpenChecked(int folder, const char* name, int flags, uid_t user,
                 bool (*accepts)(const struct stat&, uid_t user));
 
+/// Whether nobody but the owner may write.
+bool IsOwnersAlone(const struct stat& info);
+
 bool IsSameFile(const struct stat& one, const struct stat& other);
 
 /// Opens the running program's file for reading, -1 on failure.

@@ -33,7 +33,7 @@ class Descriptor {
 };
 
 /// Whether nobody but root and the folder's user can exchange what lies in a folder of the path.
-/// The user's own group may write where the user has let it.
+/// The user's own group may write above the folder, where the user has let it.
 bool IsSafeOnPath(const struct stat& info, const struct stat& last) {
   if (info.st_uid != 0 && info.st_uid != last.st_uid) return false;
   const bool usersGroup = info.st_uid == last.st_uid && info.st_gid == last.st_gid;
@@ -109,11 +109,12 @@ const char* Bless(uid_t user) {
   struct stat own, info, copyInfo;
   if (fstat(program, &own) != 0) return "cannot read the program's own file";
 #ifdef LURKWELL_PACKAGED
-  if (own.st_uid != 0 || (own.st_mode & (S_IWGRP | S_IWOTH)) != 0)
-    return "the program's own file is not root's alone";
+  if (own.st_uid != 0 || !IsOwnersAlone(own)) return "the program's own file is not root's alone";
 #endif
   const Descriptor folder(open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (fstat(folder, &info) != 0 || info.st_uid != user || !IsSafelyReached(info))
+  // Who could move the copy into a folder of his own would be served there.
+  if (fstat(folder, &info) != 0 || info.st_uid != user || !IsOwnersAlone(info) ||
+      !IsSafelyReached(info))
     return "the folder is not the user's alone, or is reached over a link";
   struct statvfs system;
   if (fstatvfs(folder, &system) != 0 || (system.f_flag & (ST_NOSUID | ST_RDONLY | ST_NOEXEC)) != 0)

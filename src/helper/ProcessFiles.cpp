@@ -8,13 +8,11 @@ namespace lurkwell::helper {
 
 int OpenProcessFile(const System& system, std::int32_t pid, ProcessFile file) {
   static constexpr std::string_view kNames[] = {"/stat", "/status", "/io"};
-  char path[32];
-  TextWriter writer(path, sizeof path - 1);
-  writer.Add("/proc/");
-  writer.AddNumber(static_cast<std::uint64_t>(pid));
-  writer.Add(kNames[file]);
-  path[writer.Size()] = '\0';
-  return system.openFile(path);
+  PathWriter path;
+  path.Add("/proc/");
+  path.AddNumber(static_cast<std::uint64_t>(pid));
+  path.Add(kNames[file]);
+  return system.openFile(path.Terminated());
 }
 
 void ProcessFiles::Begin(const System& system, const Surroundings& surroundings) {

@@ -52,6 +52,20 @@ class TextWriter {
   bool mFits = true;
 };
 
+/// A short path of fixed parts and numbers.
+class PathWriter : public TextWriter {
+ public:
+  PathWriter() : TextWriter(mPath, sizeof mPath - 1) {}
+  /// The path with a NUL behind it, valid until the next Add.
+  const char* Terminated() {
+    mPath[Size()] = '\0';
+    return mPath;
+  }
+
+ private:
+  char mPath[48];
+};
+
 /// Removes `prefix` from the front of `text`; false, and nothing removed, when it is not there.
 inline bool TakePrefix(std::string_view& text, std::string_view prefix) {
   if (text.size() < prefix.size() || std::memcmp(text.data(), prefix.data(), prefix.size()) != 0)

@@ -50,12 +50,13 @@ Folder::Folder(uid_t user, mode_t mode) {
   Check((geteuid() != 0 || chown(path, user, user) == 0) && chmod(path, mode) == 0, "folder");
 }
 
-Folder::~Folder() {
+void Folder::Remove() const {
   std::error_code ignored;
   std::filesystem::remove_all(mPath, ignored);
 }
 
 int WaitFor(pid_t pid, int seconds) {
+  Check(pid > 0, "no process");
   int status = 0;
   for (int passed = 0; waitpid(pid, &status, WNOHANG) == 0; ++passed) {
     if (passed == seconds * 1000) kill(pid, SIGKILL);
@@ -64,8 +65,14 @@ int WaitFor(pid_t pid, int seconds) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 
-int InChild(const std::function<int()>& body, int seconds) {
+pid_t Fork() {
   const pid_t child = fork();
+  Check(child >= 0, "fork");
+  return child;
+}
+
+int InChild(const std::function<int()>& body, int seconds) {
+  const pid_t child = Fork();
   if (child == 0) try {
       _exit(body());
     } catch (...) {
@@ -123,7 +130,7 @@ HelperProcess::HelperProcess(uid_t user, const std::string& program,
     Check(
         mkfifo(path.c_str(), 0600) == 0 && (geteuid() != 0 || chown(path.c_str(), user, user) == 0),
         "mkfifo");
-  mPid = fork();
+  mPid = Fork();
   if (mPid == 0) {
     if (!asRoot && user != geteuid()) BecomeUser(user);
     if (prepare) prepare();
@@ -136,6 +143,7 @@ HelperProcess::HelperProcess(uid_t user, const std::string& program,
     return;
   mAnswers = OpenInTime(answers, O_RDONLY, mPid);
   mIsOpen = mAnswers >= 0 && !Receive().empty();
+  if (mIsOpen) mFolder.Remove();
 }
 
 HelperProcess::~HelperProcess() {
@@ -176,7 +184,7 @@ int HelperProcess::Close() {
   return WaitFor(pid, 5);
 }
 
-Canary::Canary(uid_t user) : mPid(fork()) {
+Canary::Canary(uid_t user) : mPid(Fork()) {
   if (mPid != 0) return;
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (user != 0) BecomeUser(user);
@@ -194,6 +202,14 @@ char Canary::State() const {
   const std::string stat = ReadAll("/proc/" + std::to_string(mPid) + "/stat");
   const std::size_t end = stat.rfind(')');
   return end == std::string::npos ? '-' : stat[end + 2];
+}
+
+bool Canary::Becomes(std::string_view states) const {
+  for (int tries = 0; tries < 10000; ++tries) {
+    if (states.find(State()) != std::string_view::npos) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return false;
 }
 
 int Canary::EndedBy() {

@@ -13,11 +13,12 @@ namespace lurkwell::helper::testing {
 inline constexpr uid_t kUser = 61001;
 inline constexpr uid_t kStranger = 61002;
 
-/// A fresh folder that belongs to a user; gone with everything in it at the end.
+/// A fresh folder that belongs to a user; gone with everything in it at the end, or before.
 class Folder {
  public:
   explicit Folder(uid_t user, mode_t mode = 0700);
-  ~Folder();
+  ~Folder() { Remove(); }
+  void Remove() const;
   Folder(const Folder&) = delete;
   Folder& operator=(const Folder&) = delete;
   const std::string& Path() const { return mPath; }
@@ -26,6 +27,9 @@ class Folder {
  private:
   std::string mPath;
 };
+
+/// As fork(), and throws where that fails: no test may signal "process" -1.
+pid_t Fork();
 
 /// Runs `body` in a child and gives its exit status, or the number of the signal that ended it with
 /// a minus. A child that does not end in time is killed.
@@ -61,7 +65,8 @@ class HelperProcess {
   HelperProcess(const HelperProcess&) = delete;
   HelperProcess& operator=(const HelperProcess&) = delete;
 
-  /// Whether the helper answered the greeting.
+  /// Whether the helper answered the greeting. From then on the pipes have no names, so that
+  /// nothing stays behind when the test is killed.
   bool IsOpen() const { return mIsOpen; }
   pid_t Pid() const { return mPid; }
 
@@ -92,6 +97,8 @@ class Canary {
   pid_t Pid() const { return mPid; }
   /// One letter as in /proc/PID/stat.
   char State() const;
+  /// Waits until the state is one of `states`; false after 10 s.
+  bool Becomes(std::string_view states) const;
   /// The signal that ended it, 0 while it runs.
   int EndedBy();
 

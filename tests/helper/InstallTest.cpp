@@ -99,6 +99,7 @@ TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
       {"stranger's copy", [&](Home& home) { shell("chown 61002 " + home.copy); }},
       {"stranger's folder", [&](Home& home) { shell("chown 61002 " + home.path); }},
       {"stranger above", [&](Home& home) { shell("chown 61002 " + home.data.Path()); }},
+      {"group may write", [&](Home& home) { shell("chmod 0770 " + home.path); }},
       {"all may write", [&](Home& home) { shell("chmod 0777 " + home.path); }},
       {"group may write above",
        [&](Home& home) {
@@ -121,6 +122,21 @@ TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
   // The user's copy cannot give rights to itself.
   EXPECT_EQ(RunPermissionStep(home.copy, home.path, kUser), kRefused) << "itself";
   EXPECT_EQ(home.Info().st_uid, kUser);
+}
+
+TEST(InstallTest, AFileSystemThatIgnoresTheRightsIsRefused) {
+  ASSERT_EQ(unshare(CLONE_NEWNS), 0);
+  ASSERT_EQ(mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
+  for (const unsigned long flag : {MS_NOSUID, MS_NOEXEC}) {
+    const Home home(kUser);
+    const char* const path = home.path.c_str();
+    ASSERT_EQ(mount(path, path, nullptr, MS_BIND, nullptr), 0);
+    ASSERT_EQ(mount(nullptr, path, nullptr, MS_REMOUNT | MS_BIND | flag, nullptr), 0);
+    EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), kRefused) << flag;
+    EXPECT_EQ(home.Info().st_uid, kUser);
+    ASSERT_EQ(umount2(path, 0), 0);
+    EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0) << flag;
+  }
 }
 
 /// Whatever in the folder has the right to run as root, has the helper's own bytes.
@@ -168,7 +184,7 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
   const Home home(kUser);
   Install(HelperPath(), home.path + "/original", kUser, kUser, 0755);
   const std::string bytes = ReadAll(HelperPath());
-  const pid_t swapper = fork();
+  const pid_t swapper = Fork();
   if (swapper == 0) SwapForEver(home.path);
   int done = 0, refused = 0;
   for (int round = 0; round < 500; ++round) {

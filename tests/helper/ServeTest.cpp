@@ -1,5 +1,6 @@
 // The real helper between real pipes.
 #include <fcntl.h>
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <signal.h>
@@ -46,8 +47,9 @@ TEST(ServeTest, WorksAsTheUserWithoutRightsAndUnderItsOwnName) {
   for (const uid_t user : {uid_t{0}, kUser}) {
     HelperProcess helper(user);
     ASSERT_TRUE(helper.IsOpen());
-    EXPECT_EQ(helper.Ask("geteuid"), std::to_string(user));
+    // All is in place before the greeting is answered.
     const std::string status = Proc(helper.Pid(), "status");
+    EXPECT_EQ(helper.Ask("geteuid"), std::to_string(user));
     EXPECT_EQ(Value(status, "Name"), "lkw_helper_daem");
     EXPECT_EQ(Proc(helper.Pid(), "cmdline").substr(0, 16), "lkw_helper_daemo");
     EXPECT_EQ(Value(status, "Seccomp"), "2");
@@ -68,7 +70,11 @@ TEST(ServeTest, WorksAsTheUserWithoutRightsAndUnderItsOwnName) {
 
 TEST(ServeTest, StartedByRootForAUserItIsThatUserWithTwoRights) {
   const auto asking = [](const char* variable) {
-    return [variable] { setenv(variable, "61001", 1); };
+    return [variable] {
+      setenv(variable, "61001", 1);
+      constexpr gid_t kGroups[] = {0, 4, 27};
+      if (setgroups(3, kGroups) != 0) _exit(98);
+    };
   };
   for (const char* variable : {"PKEXEC_UID", "SUDO_UID"}) {
     HelperProcess helper(kUser, HelperPath(), asking(variable), true);
@@ -96,7 +102,7 @@ TEST(ServeTest, ActsOnlyWhereTheUserMayAndNeverHaltsItsApplication) {
               }),
               0);
   Canary own(kUser), foreign(kStranger);
-  while (own.State() != 'S' || foreign.State() != 'S') std::this_thread::yield();
+  ASSERT_TRUE(own.Becomes("S") && foreign.Becomes("S"));
   HelperProcess helper(kUser);
   const std::string mine = std::to_string(own.Pid()), other = std::to_string(foreign.Pid());
   EXPECT_EQ(helper.Act("kill_harsh " + other), "!Error refused by the system\n");
@@ -105,14 +111,14 @@ TEST(ServeTest, ActsOnlyWhereTheUserMayAndNeverHaltsItsApplication) {
   EXPECT_EQ(getpriority(PRIO_PROCESS, static_cast<id_t>(own.Pid())), 5);
   EXPECT_EQ(helper.Act("renice " + mine + " -19"), "!Error refused by the system\n");
   EXPECT_EQ(helper.Act("kill_halt " + mine), "ok");
-  EXPECT_EQ(own.State(), 'T');
+  EXPECT_TRUE(own.Becomes("T"));
   EXPECT_NE(helper.Figures("pid_internal_basic_info " + mine + "\n")
                 .find("pid_suspend_count " + mine + " 1\n"),
             std::string::npos);
   EXPECT_EQ(helper.Act("kill_cont " + mine), "ok");
-  EXPECT_NE(own.State(), 'T');
+  EXPECT_TRUE(own.Becomes("SR"));
   EXPECT_EQ(helper.Act("kill_normal " + mine), "ok");
-  while (own.EndedBy() == 0) std::this_thread::yield();
+  EXPECT_TRUE(own.Becomes("Z"));
   EXPECT_EQ(own.EndedBy(), SIGTERM);
   EXPECT_EQ(helper.Act("kill_normal " + mine), "!Error no such process\n");
   EXPECT_EQ(foreign.State(), 'S');
@@ -159,7 +165,7 @@ TEST(ServeTest, FiguresAgreeWithProcFor50Processes) {
   session->Begin(kRealSystem, {.ownPid = getpid(), .keptFiles = 30});
   HelperProcess helper(kUser);
   for (const auto& canary : canaries) {
-    while (canary->State() != 'S') std::this_thread::yield();
+    ASSERT_TRUE(canary->Becomes("S"));
     const std::string line =
         "pid_internal_thread_time_basic_info_events_info " + std::to_string(canary->Pid()) + "\n";
     EXPECT_EQ(session->Answer("Lkw Info Extraction:\n" + line),
@@ -279,7 +285,7 @@ TEST(ServeTest, GivesUpWhenNobodyOpensTheOtherEnds) {
       ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
       ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
     }
-    helpers.push_back(fork());
+    helpers.push_back(Fork());
     if (helpers.back() != 0) continue;
     BecomeUser(kUser);
     // Half of them find the first pipe open, but not the second.
@@ -322,7 +328,7 @@ TEST(ServeTest, EndsWithItsApplicationHoweverThatEnds) {
   for (int round = 0; round < 100; ++round) {
     int ends[2];
     ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
-    const pid_t application = fork();
+    const pid_t application = Fork();
     if (application == 0) {
       HelperProcess helper(kUser);
       const pid_t pid = helper.Pid();

@@ -113,6 +113,12 @@ TEST_F(SessionTest, AProcessOtherThanTheOneReportedIsLeftAlone) {
   EXPECT_EQ(Act("kill_harsh 70"), "ok");
   mMachine.processes.erase(70);
   EXPECT_EQ(Act("kill_harsh 70"), "!Error no such process\n");
+  // To have been told that it is gone does not make its pid's next holder the one that is meant.
+  EXPECT_EQ(Figures("pid_internal 70\n"), "!Error no such process\n");
+  mMachine.effects.clear();
+  mMachine.processes[70] = {.start = 3000};
+  EXPECT_EQ(Act("kill_harsh 70"), "!Error another process has this pid\n");
+  EXPECT_TRUE(mMachine.effects.empty());
   // A process that changes under a renice is noticed.
   mMachine.beforeEffect = [](RecordingSystem& machine) { machine.processes[2].start = 7; };
   EXPECT_EQ(Act("renice 2 5"), "!Error another process has this pid\n");
@@ -195,7 +201,7 @@ TEST_F(SessionTest, ARequestThatContinuesTheOneBeforeGathersOnlyItsNewLines) {
   EXPECT_NE(Figures(first + second).find("pid_user_time 70 1.000000\n"), std::string::npos);
   mMachine.processes[70].fields[14] = "200";
   mMachine.milliseconds += 251;
-  EXPECT_NE(Figures(first + second + first).find("pid_user_time 70 2.000000\n"), std::string::npos);
+  EXPECT_EQ(Figures(first + second + first).find("pid_user_time 70 1.000000\n"), std::string::npos);
   mMachine.processes[70].fields[14] = "300";
   EXPECT_EQ(Figures(second + first).find("pid_user_time 70 2.000000\n"), std::string::npos);
 }
