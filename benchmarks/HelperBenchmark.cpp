@@ -4,8 +4,6 @@
 #include <benchmark/benchmark.h>
 #include <signal.h>
 #include <stdlib.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -13,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "IdleProcesses.h"
+#include "TableLikeClient.h"
 #include "consolidator/PI_Consolidator.h"
 #include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxClock.h"
@@ -126,52 +126,6 @@ class Helper {
   pid_t mPid = -1;
 };
 
-class IdleChildren {
- public:
-  explicit IdleChildren(std::int64_t count) {
-    for (std::int64_t i = 0; i < count; ++i) {
-      const pid_t pid = ::fork();
-      if (pid == 0) {
-        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-        for (;;) ::pause();
-      }
-      if (pid > 0) mPids.push_back(pid);
-    }
-  }
-  ~IdleChildren() {
-    for (const pid_t pid : mPids) ::kill(pid, SIGKILL);
-    for (const pid_t pid : mPids) ::waitpid(pid, nullptr, 0);
-  }
-  IdleChildren(const IdleChildren&) = delete;
-  IdleChildren& operator=(const IdleChildren&) = delete;
-
-  std::size_t Count() const { return mPids.size(); }
-
- private:
-  std::vector<pid_t> mPids;
-};
-
-/// Needs what the main table shows by default.
-class MainTableClient final : public ProcessInformationClient {
- public:
-  MainTableClient() : ProcessInformationClient(nullptr, 1000) {}
-
-  NeedLevel NeedPidsForProcProperty(const char* property) override {
-    return NeedPidProcProperty(0, property) ? kNeedAllPids : kNeedNoPids;
-  }
-  bool NeedPidProcProperty(int, const char* property) override {
-    const std::string_view name(property);
-    return name == "meta_name" || name == "meta_active_time" || name == "pid_rsz" ||
-           name == "pid_vsz";
-  }
-  void NotifyProcessesHaveBeenUpdated() override { mProcesses = PidBlob(kPidBlobAll).size(); }
-
-  std::int32_t Processes() const { return mProcesses; }
-
- private:
-  std::int32_t mProcesses = 0;
-};
-
 /// Writes the average of the helper's processor time, in seconds, into the report.
 class HelperTime {
  public:
@@ -222,13 +176,13 @@ BENCHMARK_CAPTURE(BM_HelperQuery, All, "pid_internal_thread_time_basic_info_even
 
 void BM_WholeCycle(benchmark::State& state) {
   RealMachine machine;
-  const IdleChildren children(state.range(0));
-  if (children.Count() != static_cast<std::size_t>(state.range(0)))
+  const IdleProcesses children(state.range(0));
+  if (children.Count() != state.range(0))
     return state.SkipWithError("not that many processes are allowed here");
   const Helper helper;
   if (!helper.IsOpen()) return state.SkipWithError("the helper does not come");
   InitializeProcessInformationConsolidator();
-  auto* const client = new MainTableClient;
+  auto* const client = new TableLikeClient;
   AddProcessInformationClient(client);
   const auto timer = TheMachine().runLoop.AddTimer(0, 0, [] {});
   const auto beat = [&] {

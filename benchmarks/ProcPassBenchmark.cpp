@@ -3,9 +3,6 @@
 #include <benchmark/benchmark.h>
 #include <dirent.h>
 #include <fcntl.h>
-#include <signal.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -13,38 +10,13 @@
 #include <string>
 #include <vector>
 
+#include "IdleProcesses.h"
 #include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/LinuxProcessTable.h"
 
 namespace lurkwell {
 namespace {
-
-/// Children that sleep until they are destroyed.
-class IdleProcesses {
- public:
-  explicit IdleProcesses(std::int64_t count) {
-    // As the program does at its start.
-    RaiseDescriptorLimit();
-    for (std::int64_t i = 0; i < count; ++i) {
-      const pid_t pid = ::fork();
-      if (pid == 0) {
-        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-        for (;;) ::pause();
-      }
-      if (pid > 0) mPids.push_back(pid);
-    }
-  }
-  ~IdleProcesses() {
-    for (const pid_t pid : mPids) ::kill(pid, SIGKILL);
-    for (const pid_t pid : mPids) ::waitpid(pid, nullptr, 0);
-  }
-  IdleProcesses(const IdleProcesses&) = delete;
-  IdleProcesses& operator=(const IdleProcesses&) = delete;
-
- private:
-  std::vector<pid_t> mPids;
-};
 
 /// Calls `serve` with the name of every process folder.
 template <typename Serve>
@@ -72,6 +44,7 @@ Folder OpenProc() {
 }
 
 void BareListing(benchmark::State& state) {
+  RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
   const Folder folder = OpenProc();
   std::int64_t processes = 0;
@@ -80,6 +53,7 @@ void BareListing(benchmark::State& state) {
 }
 
 void BareOpenReadClose(benchmark::State& state) {
+  RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
   const Folder folder = OpenProc();
   char buffer[4096];
@@ -95,6 +69,7 @@ void BareOpenReadClose(benchmark::State& state) {
 }
 
 void BareReadOfKept(benchmark::State& state) {
+  RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
   const Folder folder = OpenProc();
   std::vector<FileDescriptor> kept;
@@ -112,6 +87,7 @@ void BareReadOfKept(benchmark::State& state) {
 }
 
 void ProcessTablePass(benchmark::State& state) {
+  RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
   LinuxProcessTable table;
   std::size_t entries = table.Read().size();
@@ -121,6 +97,7 @@ void ProcessTablePass(benchmark::State& state) {
 }
 
 void FirstProcessTablePass(benchmark::State& state) {
+  RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
   std::size_t entries = 0;
   for (auto _ : state) entries = LinuxProcessTable().Read().size();

@@ -5,37 +5,13 @@
 #include <string>
 #include <unordered_map>
 
+#include "TableLikeClient.h"
 #include "consolidator/PI_Consolidator.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "support/HelperChannel.h"
 
 namespace lurkwell {
 namespace {
-
-class TableLikeClient : public ProcessInformationClient {
- public:
-  TableLikeClient() : ProcessInformationClient(nullptr, 1000) {}
-
-  NeedLevel NeedPidsForProcProperty(const char* property) override {
-    return NeedPidProcProperty(0, property) ? kNeedAllPids : kNeedNoPids;
-  }
-  bool NeedPidProcProperty(int, const char* property) override {
-    const std::string_view name(property);
-    return name == "meta_name" || name == "meta_active_time" || name == "pid_rsz" ||
-           name == "pid_vsz";
-  }
-  void NotifyProcessesHaveBeenUpdated() override {
-    for (const auto pid : PidBlob(kPidBlobAll)) {
-      char value[256];
-      for (const auto* property : {"meta_active_time", "pid_rsz", "pid_vsz"})
-        if (GetPIDPropertyValue(pid, property, value, sizeof value, nullptr)) ++mRead;
-    }
-    benchmark::DoNotOptimize(mRead);
-  }
-
- private:
-  std::int64_t mRead = 0;
-};
 
 class Cycle {
  public:

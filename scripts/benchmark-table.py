@@ -17,17 +17,18 @@ def main():
     context = report["context"]
     print(f"{context['num_cpus']} processors of {context['mhz_per_cpu']} MHz,"
           f" load {context['load_avg'][0]:.2f}\n")
-    print("| benchmark | time | CPU | per process |")
-    print("| --- | ---: | ---: | ---: |")
+    print("| benchmark | time | CPU | helper's CPU | per process |")
+    print("| --- | ---: | ---: | ---: | ---: |")
     for row in report["benchmarks"]:
         name = row["name"].removeprefix("BM_")
         if row.get("error_occurred"):
-            print(f"| {name} | {row['error_message']} | | |")
+            print(f"| {name} | {row['error_message']} | | | |")
             continue
         unit = SECONDS[row["time_unit"]]
-        item = spelled(row["per_process"]) if "per_process" in row else ""
+        helper, item = (spelled(row[key]) if key in row else ""
+                        for key in ("helper_cpu", "per_process"))
         print(f"| {name} | {spelled(row['real_time'] * unit)} |"
-              f" {spelled(row['cpu_time'] * unit)} | {item} |")
+              f" {spelled(row['cpu_time'] * unit)} | {helper} | {item} |")
 
 
 main()

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "consolidator/PI_Consolidator.h"
+
+namespace lurkwell {
+
+/// Needs what the main table needs and reads it back for every process.
+class TableLikeClient final : public ProcessInformationClient {
+ public:
+  TableLikeClient() : ProcessInformationClient(nullptr, 1000) {}
+
+  NeedLevel NeedPidsForProcProperty(const char* property) override {
+    return NeedPidProcProperty(0, property) ? kNeedAllPids : kNeedNoPids;
+  }
+  bool NeedPidProcProperty(int, const char* property) override {
+    const std::string_view name(property);
+    return name == "meta_name" || name == "meta_active_time" || name == "pid_rsz" ||
+           name == "pid_vsz";
+  }
+  void NotifyProcessesHaveBeenUpdated() override {
+    const PidBlob pids;
+    mProcesses = pids.size();
+    for (const auto pid : pids) {
+      char value[256];
+      for (const auto* property : {"meta_active_time", "pid_rsz", "pid_vsz"})
+        if (GetPIDPropertyValue(pid, property, value, sizeof value, nullptr)) ++mRead;
+    }
+  }
+
+  std::int32_t Processes() const { return mProcesses; }
+  std::int64_t ValuesRead() const { return mRead; }
+
+ private:
+  std::int32_t mProcesses = 0;
+  std::int64_t mRead = 0;
+};
+
+}  // namespace lurkwell
