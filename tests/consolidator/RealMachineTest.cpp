@@ -118,9 +118,9 @@ TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
         // The pid's own column is not fetched.
         if (header == "PID") return true;
         const auto value = Trimmed(Value(sleeper.Pid(), header.c_str()));
-        // Its share of memory changes with whoever else runs the same programs, our own ps among
-        // them.
-        if (header == "PSS") return std::stoi(value) > 0;
+        // What is shared or its own changes with whoever else runs the same programs, our own ps
+        // among them.
+        if (header == "PSS" || header == "USS") return std::stoi(value) > 0;
         return value == before[header] || value == direct(optionOf[header]);
       });
     }
