@@ -253,7 +253,8 @@ TEST(Tools, GiveProgramsNothingOfOurs) {
   std::ifstream stream(path);
   const std::string answer{std::istreambuf_iterator<char>(stream), {}};
   const auto words = WordsOf(answer);
-  EXPECT_NE(answer.find("LC_ALL=C.UTF-8\nPATH=/usr/sbin:/usr/bin:/sbin:/bin\nPWD="), std::string::npos)
+  EXPECT_NE(answer.find("LC_ALL=C.UTF-8\nPATH=/usr/sbin:/usr/bin:/sbin:/bin\nPWD="),
+            std::string::npos)
       << answer;
   EXPECT_NE(answer.find("\n0\n1\n2\n3\n"), std::string::npos) << answer;
   ASSERT_GE(words.size(), 4u);
