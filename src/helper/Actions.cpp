@@ -27,10 +27,10 @@ bool LookAt(const System& system, std::int32_t pid, Target& target) {
   if (file < 0) return false;
   const std::ptrdiff_t size = system.readFile(file, target.file, sizeof target.file);
   system.close(file);
-  StatFigures figures;
-  if (size <= 0 || !ParseStat({target.file, static_cast<std::size_t>(size)}, figures)) return false;
-  target.start = figures.start;
-  target.name = figures.name;
+  StatFigures stat;
+  if (size <= 0 || !ParseStat({target.file, static_cast<std::size_t>(size)}, stat, target.name))
+    return false;
+  target.start = stat.start;
   return true;
 }
 

@@ -4,13 +4,12 @@ namespace lurkwell::helper {
 
 namespace {
 
+// How many times in a row the figures of a process that has not run are given without a look.
+constexpr std::int32_t kUses = 7;
 constexpr std::size_t kFileCapacity = 16384;
 char gFile[kFileCapacity];
 
-struct Figures {
-  StatFigures stat = {};
-  std::uint64_t calls = 0, switches = 0;
-};
+using Figures = ProcessFiles::Memory;
 
 /// Moves to the next number of the same line, and gives it; a sign is passed over. 0 where the text
 /// ends.
@@ -46,9 +45,10 @@ bool Gather(const System& system, ProcessFiles& files, ProcessFiles::Place& plac
   const bool events = (groups & kEventsInfo) != 0;
   const int status = events ? files.Open(place, kStatusFile) : -1;
   const int io = events ? files.Open(place, kIoFile) : -1;
-  const bool exists = ParseStat(Read(system, stat), figures.stat);
-  if (exists) place.start = figures.stat.start;
-  std::string_view text = Read(system, exists ? status : -1);
+  std::string_view text, name;
+  const bool exists = ParseStat(Read(system, stat), figures, name);
+  if (exists) place.start = figures.start;
+  text = Read(system, exists ? status : -1);
   figures.switches = NumberBehind(text, "\nvoluntary_ctxt_switches:") +
                      NumberBehind(text, "\nnonvoluntary_ctxt_switches:");
   files.Release(place, kStatusFile, status, !text.empty());
@@ -59,26 +59,43 @@ bool Gather(const System& system, ProcessFiles& files, ProcessFiles::Place& plac
   return exists;
 }
 
+/// Whoever has not run has the figures that he had; what can change all the same is seen when the
+/// uses are over.
 bool GatherProcess(const System& system, ProcessFiles& files, const FiguresLine& line,
                    Figures& figures) {
   ProcessFiles::Place& place = files.PlaceOf(line.pid);
+  // Taken before the files are read: whoever runs in between counts as having run since.
+  const std::uint64_t runTime = system.runTime(line.pid);
+  const bool known = figures.pid == line.pid && place.start != 0;
+  if (known && figures.runTime == runTime && figures.groups == line.groups && figures.uses > 0)
+    return figures.uses-- > 0;
   const bool kept = place.files[kStatFile] != 0;
-  if (Gather(system, files, place, line.groups, figures)) return true;
-  // A descriptor kept from before says that its process is gone, not that nobody has the pid. The
-  // start stays: who sees the old process yet does not mean the pid's next holder.
-  files.CloseAll(place);
-  return kept && Gather(system, files, place, line.groups, figures);
+  bool exists = Gather(system, files, place, line.groups, figures);
+  if (!exists) {
+    // A descriptor kept from before says that its process is gone, not that nobody has the pid. The
+    // start stays: who sees the old process yet does not mean the pid's next holder.
+    files.CloseAll(place);
+    exists = kept && Gather(system, files, place, line.groups, figures);
+  }
+  // What is on a processor now is not counted up to now. The first uses differ, so that not all are
+  // over at once.
+  figures.pid = exists && runTime != 0 && figures.state != 'R' ? line.pid : 0;
+  figures.groups = static_cast<std::uint8_t>(line.groups);
+  figures.uses = static_cast<std::uint8_t>(known ? kUses : line.pid % kUses);
+  figures.runTime = runTime;
+  return exists;
 }
 
 /// The first line reads: cpu USER NICE SYSTEM IDLE IOWAIT ...
 bool GatherMachine(const System& system, unsigned groups, Figures& figures) {
+  figures = {};
   if ((groups & kThreadTime) == 0) return true;
   const int file = system.openFile("/proc/stat");
   std::string_view text = Read(system, file);
   if (file >= 0) system.close(file);
   for (int passed = 0; passed < 3; ++passed) TakeField(text);
-  figures.stat.userTicks = TakeField(text);
-  figures.stat.systemTicks = TakeField(text);
+  figures.userTicks = TakeField(text);
+  figures.systemTicks = TakeField(text);
   return true;
 }
 
@@ -119,22 +136,21 @@ class LineWriter {
 /// What the kernel counts for a process as a whole has no share of ended threads; messages and
 /// copies on write are not counted here at all.
 void AddLines(const Figures& figures, unsigned groups, std::uint32_t pageSize, LineWriter& writer) {
-  const StatFigures& stat = figures.stat;
   if (groups & kThreadTime) {
-    writer.Time("pid_user_time", stat.userTicks);
-    writer.Time("pid_system_time", stat.systemTicks);
+    writer.Time("pid_user_time", figures.userTicks);
+    writer.Time("pid_system_time", figures.systemTicks);
   }
   if (groups & kBasicInfo) {
-    writer.Number("pid_vsz", stat.virtualSize);
-    writer.Number("pid_rsz", stat.residentPages * pageSize);
-    writer.Number("pid_suspend_count", stat.state == 'T' || stat.state == 't');
+    writer.Number("pid_vsz", figures.virtualSize);
+    writer.Number("pid_rsz", figures.residentPages * pageSize);
+    writer.Number("pid_suspend_count", figures.state == 'T' || figures.state == 't');
     writer.Time("pid_terminated_user_time", 0);
     writer.Time("pid_terminated_system_time", 0);
-    writer.Number("pid_policy", stat.policy);
+    writer.Number("pid_policy", figures.policy);
   }
   if (groups & kEventsInfo) {
-    writer.Number("pid_faults", stat.minorFaults + stat.majorFaults);
-    writer.Number("pid_pageins", stat.majorFaults);
+    writer.Number("pid_faults", figures.minorFaults + figures.majorFaults);
+    writer.Number("pid_pageins", figures.majorFaults);
     for (const char* uncounted :
          {"pid_cow_faults", "pid_messages_sent", "pid_messages_received", "pid_syscalls_mach"})
       writer.Number(uncounted, 0);
@@ -145,13 +161,13 @@ void AddLines(const Figures& figures, unsigned groups, std::uint32_t pageSize, L
 
 }  // namespace
 
-bool ParseStat(std::string_view text, StatFigures& figures) {
+bool ParseStat(std::string_view text, StatFigures& figures, std::string_view& name) {
   const std::size_t open = text.find('(');
   const std::size_t close = text.rfind(')');
   if (open == std::string_view::npos || close == std::string_view::npos || close < open ||
       text.size() < close + 3)
     return false;
-  figures.name = std::string_view(text.data() + open + 1, close - open - 1);
+  name = std::string_view(text.data() + open + 1, close - open - 1);
   figures.state = text[close + 2];
   text.remove_prefix(close + 3);
   std::uint64_t fields[42] = {};
@@ -163,13 +179,13 @@ bool ParseStat(std::string_view text, StatFigures& figures) {
   figures.start = fields[22];
   figures.virtualSize = fields[23];
   figures.residentPages = fields[24];
-  figures.policy = fields[41];
+  figures.policy = static_cast<std::uint32_t>(fields[41]);
   return true;
 }
 
 bool AddFigures(const System& system, const Surroundings& surroundings, ProcessFiles& files,
                 const FiguresLine& line, TextWriter& answer) {
-  Figures figures;
+  Figures& figures = files.MemoryOf(line.pid);
   if (!(line.pid == 0 ? GatherMachine(system, line.groups, figures)
                       : GatherProcess(system, files, line, figures)))
     return true;

@@ -10,9 +10,17 @@ namespace lurkwell::helper {
 /// The files of a process that figures come from.
 enum ProcessFile : unsigned { kStatFile, kStatusFile, kIoFile, kProcessFileCount };
 
-/// What the helper remembers of the processes it reported: when each started, and descriptors of
-/// its files, which cost less to read again than to open again. Fixed size: a machine with more
-/// processes than places forgets some, and then reads them as if for the first time.
+/// What /proc/PID/stat says of a process: the start in ticks since boot, sizes in bytes and pages.
+struct StatFigures {
+  char state;
+  std::uint32_t policy;
+  std::uint64_t minorFaults, majorFaults, userTicks, systemTicks, start, virtualSize, residentPages;
+};
+
+/// What the helper remembers of the processes it reported: when each started, its figures, and
+/// descriptors of its files, which cost less to read again than to open again. Fixed size: a
+/// machine with more processes than places forgets some, and then reads them as if for the first
+/// time.
 class ProcessFiles {
  public:
   struct Place {
@@ -25,11 +33,24 @@ class ProcessFiles {
     std::int32_t files[kProcessFileCount];
   };
 
+  /// The figures of a process as last read.
+  struct Memory : StatFigures {
+    /// 0 for none.
+    std::int32_t pid;
+    /// What was read, and how many more times it may be given.
+    std::uint8_t groups, uses;
+    /// The time on processors before all was read, and the sums of calls and of context switches.
+    std::uint64_t runTime, calls, switches;
+  };
+
   /// `system` and `surroundings` outlive this.
   void Begin(const System& system, const Surroundings& surroundings);
 
   /// The place of `pid`, taken from a process not heard of for longest when it has none.
   Place& PlaceOf(std::int32_t pid);
+
+  /// The only place for figures of `pid`, which may hold those of another process.
+  Memory& MemoryOf(std::int32_t pid) { return mMemories[pid % kMemories]; }
 
   /// The start last reported for `pid`, 0 when there is no memory of it.
   std::uint64_t StartOf(std::int32_t pid) const;
@@ -51,6 +72,7 @@ class ProcessFiles {
   static constexpr std::int32_t kClosedToUs = -1;
   static constexpr std::size_t kWays = 4;
   static constexpr std::size_t kPlaces = 32768;
+  static constexpr std::int32_t kMemories = 8192;
   static constexpr std::size_t kSwept = 16;
   static constexpr std::uint32_t kAgeUnit = 1024;
   static constexpr std::uint32_t kLongestAge = 30;
@@ -67,6 +89,7 @@ class ProcessFiles {
   std::uint32_t mNow;
   std::size_t mHand;
   Place mPlaces[kPlaces];
+  Memory mMemories[kMemories];
 };
 
 /// Opens /proc/PID/NAME.

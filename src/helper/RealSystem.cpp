@@ -45,6 +45,14 @@ void Close(int descriptor) {
   close(descriptor);
 }
 
+/// The clock has the kernel's number for a process's time; clock_getcpuclockid would be a call
+/// more.
+std::uint64_t RunTime(std::int32_t pid) {
+  timespec time{};
+  clock_gettime(static_cast<clockid_t>(~static_cast<unsigned>(pid) << 3 | 2), &time);
+  return static_cast<std::uint64_t>(time.tv_sec * 1000000000 + time.tv_nsec);
+}
+
 std::uint32_t Milliseconds() {
   timespec now{};
   clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
@@ -57,8 +65,8 @@ void Log(std::string_view line) {
 
 }  // namespace
 
-const System kRealSystem = {OpenProcess, SignalProcess, SetNice,      OpenFile,
-                            ReadFile,    Close,         Milliseconds, Log};
+const System kRealSystem = {OpenProcess, SignalProcess, SetNice,      OpenFile, ReadFile,
+                            Close,       RunTime,       Milliseconds, Log};
 
 /// A full log holds an action up for a moment only: the application waits 250 ms for its answer.
 void ConnectLog() {

@@ -24,17 +24,18 @@ std::string_view Session::Answer(std::string_view request) {
   const bool asksFigures = TakePrefix(rest, kFiguresHeader);
   if (asksFigures && AreFiguresLines(rest)) return AnswerFigures(request);
   mRequestSize = 0;
-  if (request == kUserQuestion) return AnswerUser();
+  if (request == kUserQuestion) {
+    TextWriter answer(mAnswer, sizeof mAnswer);
+    answer.AddNumber(mSurroundings.startUser);
+    return answer.Text();
+  }
   ActionRequest action;
-  if (!asksFigures && TakePrefix(rest, kActionHeader) && ParseAction(rest, action))
+  if (!asksFigures && TakePrefix(rest, kActionHeader) && ParseAction(rest, action)) {
+    // What becomes of the process is seen at once, even if it does not run for it.
+    mFiles.MemoryOf(action.pid) = {};
     return CarryOut(*mSystem, mSurroundings, mFiles, action);
+  }
   return kMalformed;
-}
-
-std::string_view Session::AnswerUser() {
-  TextWriter answer(mAnswer, sizeof mAnswer);
-  answer.AddNumber(mSurroundings.startUser);
-  return answer.Text();
 }
 
 bool Session::Continues(std::string_view request) const {

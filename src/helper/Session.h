@@ -29,7 +29,6 @@ class Session {
 
   std::string_view AnswerFigures(std::string_view request);
   bool Continues(std::string_view request) const;
-  std::string_view AnswerUser();
 
   const System* mSystem;
   Surroundings mSurroundings;

@@ -18,6 +18,9 @@ struct System {
   /// Reads the file from its start; the number of bytes.
   std::ptrdiff_t (*readFile)(int file, char* buffer, std::size_t capacity);
   void (*close)(int descriptor);
+  /// Nanoseconds that the process's threads, ended ones too, have been on processors; 0 when it is
+  /// not known.
+  std::uint64_t (*runTime)(std::int32_t pid);
   /// Milliseconds since some moment before; wraps.
   std::uint32_t (*milliseconds)();
   /// One line for the system log; without effect where there is none.

@@ -19,6 +19,7 @@ class RecordingSystem {
     std::map<int, std::string> fields = {};
     std::string status = {};
     std::string io = {};
+    std::uint64_t runTime = 0;
   };
 
   RecordingSystem();

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
@@ -15,6 +16,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 #include <memory>
@@ -141,7 +143,8 @@ std::string ExpectedFigures(pid_t pid, bool withCalls) {
   std::ostringstream text;
   text << "pid_user_time" << who << time(14) << "\npid_system_time" << who << time(15)
        << "\npid_vsz" << who << number(23) << "\npid_rsz" << who << number(24) * 4096
-       << "\npid_suspend_count" << who << 0 << "\npid_terminated_user_time" << who << "0.000000"
+       << "\npid_suspend_count" << who << (fields[3] == "T" ? 1 : 0) << "\npid_terminated_user_time"
+       << who << "0.000000"
        << "\npid_terminated_system_time" << who << "0.000000\npid_policy" << who << number(41)
        << "\npid_faults" << who << number(10) + number(12) << "\npid_pageins" << who << number(12);
   for (const char* property :
@@ -179,6 +182,83 @@ TEST(ServeTest, FiguresAgreeWithProcFor50Processes) {
   machine >> word >> word >> before;
   stat >> word >> word >> word >> word >> idle;
   EXPECT_NEAR(before, idle / 100, 5);
+}
+
+/// A process that does what it is told by signal: USR1 to use more memory, USR2 to become another
+/// program, HUP to start a thread, WINCH to run for a moment. Nobody takes its memory away.
+pid_t StartObedient() {
+  const pid_t pid = Fork();
+  if (pid != 0) return pid;
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
+  mlockall(MCL_CURRENT | MCL_FUTURE);
+  sigset_t orders;
+  sigemptyset(&orders);
+  for (const int signal : {SIGUSR1, SIGUSR2, SIGHUP, SIGWINCH}) sigaddset(&orders, signal);
+  sigprocmask(SIG_BLOCK, &orders, nullptr);
+  for (int order = 0; sigwait(&orders, &order) == 0;) {
+    if (order == SIGUSR1) static_cast<void>(*new std::string(1'000'000, 'x'));
+    if (order == SIGUSR2) sigprocmask(SIG_UNBLOCK, &orders, nullptr);
+    if (order == SIGUSR2) execl("/bin/sleep", "sleep", "600", nullptr);
+    if (order == SIGHUP) std::thread([] { pause(); }).detach();
+  }
+  _exit(1);
+}
+
+TEST(ServeTest, FiguresAgreeWithProcWhateverIsDoneToIdleProcesses) {
+  HelperProcess helper(0);
+  std::vector<pid_t> pids;
+  for (int count = 0; count < 6; ++count) pids.push_back(StartObedient());
+  const auto isRunning = [](pid_t pid) {
+    return Proc(pid, "stat").find(") R ") != std::string::npos;
+  };
+  const auto settle = [&] {
+    do std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    while (std::any_of(pids.begin(), pids.end(), isRunning));
+  };
+  const auto expectAsInProc = [&](const std::string& after) {
+    settle();
+    for (const pid_t pid : pids) {
+      // An answer counts when nothing went on around it, as in an exec on a busy machine.
+      std::string before, answer;
+      do {
+        before = ExpectedFigures(pid, false);
+        answer = helper.Figures("pid_internal_thread_time_basic_info_events_info " +
+                                std::to_string(pid) + "\n");
+      } while (ExpectedFigures(pid, false) != before);
+      ASSERT_EQ(answer, before) << "after " << after;
+    }
+  };
+  for (int round = 0; round < 10; ++round) expectAsInProc("start");
+  const std::vector<std::string> deeds = {"kill_halt ", "kill_cont ", "memory", "program",
+                                          "thread",     "run",        "STOP",   "CONT"};
+  const int signals[] = {0, 0, SIGUSR1, SIGUSR2, SIGHUP, SIGWINCH, SIGSTOP, SIGCONT};
+  for (std::size_t step = 0; step < 120 && !::testing::Test::HasFatalFailure(); ++step) {
+    const std::size_t deed = step * 7 % 8, who = step * step / 3 % pids.size();
+    if (signals[deed] != 0)
+      kill(pids[who], signals[deed]);
+    else
+      EXPECT_EQ(helper.Act(deeds[deed] + std::to_string(pids[who])), "ok");
+    if (step % 5 != 0) expectAsInProc(deeds[deed]);
+    // What has become another program ends with the next order.
+    siginfo_t ended{};
+    for (pid_t& pid : pids)
+      if (waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOHANG) == 0 && ended.si_pid > 0)
+        pid = StartObedient();
+  }
+  // What changes without running is no older than eight answers.
+  const pid_t idle = StartObedient();
+  pids = {idle};
+  for (int round = 0; round < 10; ++round) expectAsInProc("start");
+  const sched_param parameter{0};
+  ASSERT_EQ(sched_setscheduler(idle, SCHED_BATCH, &parameter), 0);
+  const std::string batch = "pid_policy " + std::to_string(idle) + " 3\n";
+  bool isSeen = false;
+  for (int asks = 0; asks < 8; ++asks)
+    isSeen = helper
+                 .Figures("pid_internal_thread_time_basic_info_events_info " +
+                          std::to_string(idle) + "\n")
+                 .find(batch) != std::string::npos;
+  EXPECT_TRUE(isSeen);
 }
 
 TEST(ServeTest, OpensNothingButAPrivatePipeOfTheUser) {

@@ -206,6 +206,60 @@ TEST_F(SessionTest, ARequestThatContinuesTheOneBeforeGathersOnlyItsNewLines) {
   EXPECT_EQ(Figures(second + first).find("pid_user_time 70 2.000000\n"), std::string::npos);
 }
 
+TEST_F(SessionTest, WhoHasNotRunIsReadInTurns) {
+  for (const int pid : {70, 71, 70 + 8192}) mMachine.processes[pid] = {.runTime = 1000};
+  auto& process = mMachine.processes[70];
+  // The size is new each time: whether it is shown tells whether the file was read.
+  int pages = 100;
+  const auto isRead = [&](const std::string& groups = "_basic_info") {
+    mMachine.processes[70].fields[24] = std::to_string(++pages);
+    const std::string size = "pid_rsz 70 " + std::to_string(pages * 4096) + "\n";
+    return Figures("pid_internal" + groups + " 70\n").find(size) != std::string::npos;
+  };
+  const auto readUntilKept = [&] {
+    for (int asks = 0; isRead(); ++asks) ASSERT_LT(asks, 3);
+  };
+  ASSERT_TRUE(isRead());
+  readUntilKept();
+  while (!isRead()) continue;
+  for (int turn = 0; turn < 3; ++turn) {
+    for (int asks = 0; asks < 7; ++asks) EXPECT_FALSE(isRead()) << turn << ' ' << asks;
+    EXPECT_TRUE(isRead()) << turn;
+  }
+  // Whoever ran, is running, or has more to tell than was read, is read.
+  EXPECT_FALSE(isRead());
+  process.runTime = 1001;
+  EXPECT_TRUE(isRead());
+  readUntilKept();
+  EXPECT_TRUE(isRead("_basic_info_events_info"));
+  process.fields[3] = "R";
+  process.runTime = 1002;
+  for (int asks = 0; asks < 10; ++asks) EXPECT_TRUE(isRead());
+  process.fields[3] = "S";
+  EXPECT_TRUE(isRead());
+  readUntilKept();
+  // What was done to it is seen, whether it has run for it or not.
+  for (const char* act : {"kill_halt 70", "kill_cont 70", "kill_normal 70", "renice 70 5"}) {
+    EXPECT_EQ(Act(act), "ok");
+    EXPECT_TRUE(isRead()) << act;
+    readUntilKept();
+  }
+  // Two that share a place take turns in it, and neither has the other's figures.
+  mMachine.processes[70 + 8192].fields[24] = "5";
+  for (int asks = 0; asks < 10; ++asks) {
+    EXPECT_NE(Figures("pid_internal_basic_info 8262\n").find("pid_rsz 8262 20480\n"),
+              std::string::npos);
+    EXPECT_TRUE(isRead());
+  }
+  // The machine's figures are its own, and the gone are gone.
+  EXPECT_NE(Figures("pid_internal_events_info 0\n").find("pid_faults 0 0\n"), std::string::npos);
+  readUntilKept();
+  mMachine.processes.erase(70);
+  EXPECT_EQ(Figures("pid_internal_basic_info 70\n"), "!Error no such process\n");
+  mMachine.processes[70] = {.start = 2000, .runTime = 7};
+  EXPECT_TRUE(isRead());
+}
+
 TEST_F(SessionTest, FilesStayOpenWithinTheLimitAndFollowTheProcess) {
   for (int pid = 100; pid < 400; ++pid) mMachine.processes[pid] = {};
   for (int pid = 100; pid < 400; ++pid)

@@ -59,6 +59,12 @@ class ScriptedProc final : public ProcFiles {
     for (const auto& [pid, stamp] : mByPid) pids.push_back(pid);
     return true;
   }
+  std::optional<RunMark> Mark(std::int32_t pid) override {
+    const int error = beforeAccess(pid);
+    const auto found = mByPid.find(pid);
+    if (error != 0 || found == mByPid.end()) return std::nullopt;
+    return RunMark{.runTime = found->second};
+  }
   FileDescriptor OpenStat(std::int32_t pid) override { return Open(pid); }
   FileDescriptor OpenFolder(std::int32_t pid) override { return Open(pid); }
   std::ptrdiff_t Read(int file, std::span<char> buffer) override {

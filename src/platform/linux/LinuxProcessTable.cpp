@@ -80,6 +80,7 @@ std::span<const ProcessTableEntry> LinuxProcessTable::Read() {
   std::swap(mPass, mPassBefore);
   mPass.entries.clear();
   mPass.known.clear();
+  mLostParents.clear();
   if (!mFiles->List(mPids)) {
     for (auto& known : mPassBefore.known) Forget(known);
     mPassBefore = {};
@@ -95,14 +96,14 @@ std::span<const ProcessTableEntry> LinuxProcessTable::Read() {
   std::size_t before = 0;
   const std::size_t countBefore = mPassBefore.known.size();
   for (const std::int32_t pid : mPids) {
-    for (; before < countBefore && mPassBefore.entries[before].pid < pid; ++before) {
-      Forget(mPassBefore.known[before]);
-    }
+    for (; before < countBefore && mPassBefore.entries[before].pid < pid; ++before) Drop(before);
     const bool known = before < countBefore && mPassBefore.entries[before].pid == pid;
     ReadProcess(pid, known ? &mPassBefore.known[before] : nullptr,
                 known ? &mPassBefore.entries[before] : nullptr);
+    if (known) ++before;
   }
-  for (; before < countBefore; ++before) Forget(mPassBefore.known[before]);
+  for (; before < countBefore; ++before) Drop(before);
+  ReadOrphansAgain();
   if (!mPids.empty()) mMaximumPid = std::max(mMaximumPid, mPids.back());
   mPass.entries.push_back(IdleTask(mBootTime));
   CloseParents(mPass.entries);
@@ -115,24 +116,73 @@ std::optional<ProcessIdentity> LinuxProcessTable::CurrentIdentity(std::int32_t p
   return ProcessIdentity{pid, stamp};
 }
 
+/// A process of the last pass that is not listed any more.
+void LinuxProcessTable::Drop(std::size_t before) {
+  mLostParents.push_back(mPassBefore.entries[before].pid);
+  Forget(mPassBefore.known[before]);
+}
+
 void LinuxProcessTable::ReadProcess(std::int32_t pid, Known* before,
                                     const ProcessTableEntry* entryBefore) {
   Known known;
   if (before != nullptr) known = std::move(*before);
+  // Taken before the file is read: whoever runs in between counts as having run since.
+  const auto mark = mFiles->Mark(pid);
+  const bool isUnchanged = entryBefore != nullptr && IsUnchanged(known, mark, *entryBefore);
+  const auto entry =
+      isUnchanged ? std::optional(*entryBefore) : ReadEntry(pid, mark, known, entryBefore);
+  const bool isOther =
+      entryBefore != nullptr && (!entry || entry->startStamp != entryBefore->startStamp);
+  // One that has ended but is not collected has given its children away.
+  if (isOther || (entry && entry->state == RunState::kZombie)) mLostParents.push_back(pid);
+  if (!entry) return;
+  mPass.entries.push_back(*entry);
+  mPass.known.push_back(std::move(known));
+}
+
+/// An unknown parent may go unseen, so its children are not kept.
+bool LinuxProcessTable::IsUnchanged(Known& known, const std::optional<RunMark>& mark,
+                                    const ProcessTableEntry& before) {
+  if (!mark || mark != known.mark) return false;
+  if (known.keepable == 0 || before.parentPid == kInvalidPID) return false;
+  --known.keepable;
+  return true;
+}
+
+/// Nothing, and nothing kept, when the process is gone.
+std::optional<ProcessTableEntry> LinuxProcessTable::ReadEntry(std::int32_t pid,
+                                                              const std::optional<RunMark>& mark,
+                                                              Known& known,
+                                                              const ProcessTableEntry* before) {
+  const bool wasMarked = known.mark.has_value();
+  known.mark.reset();
   const std::ptrdiff_t bytes = ReadStat(pid, known);
-  if (bytes < 0 && entryBefore != nullptr && IsShortage(errno)) {
-    mPass.entries.push_back(*entryBefore);
-    mPass.known.push_back(std::move(known));
-    return;
-  }
+  if (bytes < 0 && before != nullptr && IsShortage(errno)) return *before;
   const auto stat =
       bytes <= 0 ? std::nullopt : ParseProcStat({mBuffer.data(), static_cast<std::size_t>(bytes)});
   if (!stat || stat->pid != pid) {
     Forget(known);
-    return;
+    return std::nullopt;
   }
-  mPass.entries.push_back(MakeEntry(*stat, known, entryBefore));
-  mPass.known.push_back(std::move(known));
+  const auto entry = MakeEntry(*stat, known, before);
+  // What is on a processor now is not counted up to now.
+  if (entry.state != RunState::kRunning) known.mark = mark;
+  // The first turns are spread, so that no pass has to read all at once.
+  known.keepable = wasMarked ? kReadEvery - 1 : static_cast<std::uint8_t>(pid % kReadEvery);
+  return entry;
+}
+
+/// A process may have been looked at before its parent ended, and its own mark does not show that.
+void LinuxProcessTable::ReadOrphansAgain() {
+  if (mLostParents.empty()) return;
+  std::sort(mLostParents.begin(), mLostParents.end());
+  for (std::size_t i = 0; i < mPass.entries.size(); ++i) {
+    ProcessTableEntry& entry = mPass.entries[i];
+    if (!std::binary_search(mLostParents.begin(), mLostParents.end(), entry.parentPid)) continue;
+    // One that has ended by now is left out of the next pass.
+    const auto mark = mFiles->Mark(entry.pid);
+    if (const auto again = ReadEntry(entry.pid, mark, mPass.known[i], &entry)) entry = *again;
+  }
 }
 
 /// Reads the kept file, else a newly opened one, which is then kept if there is room. Negative with

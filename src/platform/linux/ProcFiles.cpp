@@ -5,6 +5,7 @@
 #include <linux/magic.h>
 #include <sys/syscall.h>
 #include <sys/vfs.h>
+#include <unistd.h>
 
 #include <array>
 #include <charconv>
@@ -56,6 +57,10 @@ ProcFiles::ProcFiles(const std::string& root)
     : mRoot(::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)), mListing(kListingSize) {
   struct statfs system {};
   mIsKernelTree = ::fstatfs(mRoot.Get(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
+  std::array<char, 16> self;
+  const auto length = ::readlinkat(mRoot.Get(), "self", self.data(), self.size());
+  mHasOwnPids = mIsKernelTree && length > 0 &&
+                ParsePid({self.data(), static_cast<std::size_t>(length)}) == ::getpid();
 }
 
 bool ProcFiles::List(std::vector<std::int32_t>& pids) {
@@ -67,6 +72,10 @@ bool ProcFiles::List(std::vector<std::int32_t>& pids) {
     if (bytes <= 0) return bytes == 0;
     AppendPids(std::span(mListing).first(static_cast<std::size_t>(bytes)), pids);
   }
+}
+
+std::optional<RunMark> ProcFiles::Mark(std::int32_t pid) {
+  return mHasOwnPids ? ReadRunMark(pid) : std::nullopt;
 }
 
 FileDescriptor ProcFiles::OpenStat(std::int32_t pid) {

@@ -2,11 +2,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "platform/linux/FileDescriptor.h"
+#include "platform/linux/RunMark.h"
 
 namespace lurkwell {
 
@@ -30,6 +32,9 @@ class ProcFiles {
   /// cannot be read.
   virtual bool List(std::vector<std::int32_t>& pids);
 
+  /// ReadRunMark where the tree's pids are those of the calling process's namespace, else nothing.
+  virtual std::optional<RunMark> Mark(std::int32_t pid);
+
   /// PID/stat, and the folder PID, for what follows.
   virtual FileDescriptor OpenStat(std::int32_t pid);
   virtual FileDescriptor OpenFolder(std::int32_t pid);
@@ -47,6 +52,7 @@ class ProcFiles {
  private:
   FileDescriptor mRoot;
   bool mIsKernelTree = false;
+  bool mHasOwnPids = false;
   std::vector<char> mListing;
 };
 

@@ -1,0 +1,264 @@
+// What the process table takes over from one pass to the next, against the files in /proc.
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <time.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <thread>
+#include <vector>
+
+#include "platform/Children.h"
+#include "platform/linux/LinuxProcessTable.h"
+
+namespace lurkwell {
+namespace {
+
+/// Counts how often the stat file of each process is read.
+class CountingFiles final : public ProcFiles {
+ public:
+  explicit CountingFiles(std::map<std::int32_t, int>& reads) : ProcFiles("/proc"), mReads(reads) {}
+
+  FileDescriptor OpenStat(std::int32_t pid) override {
+    FileDescriptor file = ProcFiles::OpenStat(pid);
+    mPids[file.Get()] = pid;
+    return file;
+  }
+  std::ptrdiff_t Read(int file, std::span<char> buffer) override {
+    ++mReads[mPids[file]];
+    return ProcFiles::Read(file, buffer);
+  }
+
+ private:
+  std::map<std::int32_t, int>& mReads;
+  std::map<int, std::int32_t> mPids;
+};
+
+struct Described {
+  std::string text;
+  char state = 0;
+};
+
+/// The process as its file says now, in the words of Describe(entry).
+Described DescribeFile(pid_t pid) {
+  std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
+  std::stringstream all;
+  all << file.rdbuf();
+  const std::string text = all.str();
+  if (text.empty()) return {"gone"};
+  const auto open = text.find('('), close = text.rfind(')');
+  std::istringstream rest(text.substr(close + 2));
+  std::vector<std::string> fields(3);
+  for (std::string field; rest >> field;) fields.push_back(field);
+  const char state = fields[3][0];
+  const auto shown = state == 'R' ? 2 : state == 'T' ? 4 : state == 'Z' ? 5 : 3;
+  std::ostringstream description;
+  description << text.substr(open + 1, close - open - 1) << " parent " << fields[4] << " priority "
+              << fields[18] << " nice " << fields[19] << " start " << fields[22] << " state "
+              << shown;
+  return {description.str(), state};
+}
+
+std::string Describe(std::span<const ProcessTableEntry> entries, pid_t pid) {
+  const auto found = std::ranges::find(entries, pid, &ProcessTableEntry::pid);
+  if (found == entries.end()) return "gone";
+  std::ostringstream description;
+  description << found->commandName << " parent " << found->parentPid << " priority "
+              << found->priority << " nice " << found->nice << " start " << found->startStamp
+              << " state " << static_cast<int>(found->state);
+  return description.str();
+}
+
+/// Waits until all sleep, are stopped, traced or ended: what is on its way changes while we look.
+void Settle(const std::vector<pid_t>& pids) {
+  const auto isUnderWay = [](pid_t pid) { return DescribeFile(pid).state == 'R'; };
+  const timespec kMoment{0, 3'000'000};
+  do {
+    ::nanosleep(&kMoment, nullptr);
+  } while (std::ranges::any_of(pids, isUnderWay));
+}
+
+class UnchangedProcesses : public ::testing::Test {
+ protected:
+  UnchangedProcesses() {
+    ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+    mTable = std::make_unique<LinuxProcessTable>(std::make_unique<CountingFiles>(mReads));
+  }
+  ~UnchangedProcesses() override {
+    for (const pid_t pid : mPids) ::kill(pid, SIGKILL);
+    while (::waitpid(-1, nullptr, 0) > 0) continue;
+  }
+
+  void ExpectAsInProc(const std::string& after) {
+    Settle(mPids);
+    std::vector<std::string> before;
+    std::span<const ProcessTableEntry> entries;
+    const auto describeAll = [&] {
+      std::vector<std::string> all;
+      for (const pid_t pid : mPids) all.push_back(DescribeFile(pid).text);
+      return all;
+    };
+    // A pass counts when nothing went on around it, as in the middle of an exec on a busy machine.
+    do {
+      before = describeAll();
+      entries = mTable->Read();
+    } while (describeAll() != before);
+    for (std::size_t i = 0; i < mPids.size(); ++i)
+      ASSERT_EQ(Describe(entries, mPids[i]), before[i]) << "after " << after;
+  }
+
+  /// A process that does what it is told by signal: USR1 to change its name, USR2 to become another
+  /// program, HUP to start a thread, WINCH to run for a moment; with a child of the same kind.
+  pid_t StartPair() {
+    std::array<int, 2> ends{};
+    EXPECT_EQ(::pipe(ends.data()), 0);
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+      ::prctl(PR_SET_NAME, "pair");
+      const pid_t child = ::fork();
+      if (child > 0 && ::write(ends[1], &child, sizeof child) != sizeof child) ::_exit(1);
+      ::prctl(PR_SET_PDEATHSIG, child > 0 ? SIGKILL : 0);
+      Obey();
+    }
+    pid_t child = -1;
+    EXPECT_EQ(::read(ends[0], &child, sizeof child), static_cast<ssize_t>(sizeof child));
+    for (const int end : ends) ::close(end);
+    mPids.push_back(pid);
+    mPids.push_back(child);
+    return pid;
+  }
+
+  /// From then on its pid may be anybody's.
+  void Collect(pid_t pid) {
+    int status = 0;
+    if (::waitpid(pid, &status, WNOHANG) == pid && !WIFSTOPPED(status)) std::erase(mPids, pid);
+  }
+
+  std::map<std::int32_t, int> mReads;
+  std::unique_ptr<LinuxProcessTable> mTable;
+  std::vector<pid_t> mPids;
+
+ private:
+  [[noreturn]] static void Obey() {
+    sigset_t orders;
+    ::sigemptyset(&orders);
+    for (const int signal : {SIGUSR1, SIGUSR2, SIGHUP, SIGWINCH}) ::sigaddset(&orders, signal);
+    ::sigprocmask(SIG_BLOCK, &orders, nullptr);
+    for (int order = 0, count = 0; ::sigwait(&orders, &order) == 0;) {
+      if (order == SIGUSR1) ::prctl(PR_SET_NAME, ("n" + std::to_string(++count)).c_str());
+      // The program that it becomes ends with the next signal.
+      if (order == SIGUSR2) ::sigprocmask(SIG_UNBLOCK, &orders, nullptr);
+      if (order == SIGUSR2) ::execl("/bin/sleep", "sleep", "600", nullptr);
+      if (order == SIGHUP) std::thread([] { ::pause(); }).detach();
+    }
+    ::_exit(1);
+  }
+};
+
+TEST_F(UnchangedProcesses, AreReadInTurnsAndTheOthersInEveryPass) {
+  constexpr int kTurns = 3;
+  for (int i = 0; i < 10; ++i) StartPair();
+  Settle(mPids);
+  for (int pass = 0; pass < LinuxProcessTable::kReadEvery; ++pass) mTable->Read();
+  mReads.clear();
+  for (int pass = 0; pass < kTurns * LinuxProcessTable::kReadEvery; ++pass) {
+    ::kill(mPids[0], SIGWINCH);
+    Settle({mPids[0]});
+    mTable->Read();
+  }
+  EXPECT_EQ(mReads[mPids[0]], kTurns * LinuxProcessTable::kReadEvery);
+  EXPECT_EQ(mReads[::getpid()], kTurns * LinuxProcessTable::kReadEvery);
+  for (std::size_t i = 1; i < mPids.size(); ++i) EXPECT_EQ(mReads[mPids[i]], kTurns) << i;
+}
+
+/// What others do to a process, in any order, some of it more than once or to one that has ended.
+/// The seed is fixed; a failure names the step.
+TEST_F(UnchangedProcesses, ShowInTheNextPassWhatWasDoneToThem) {
+  using Deed = std::function<void(pid_t)>;
+  const auto signal = [](int number) { return [number](pid_t pid) { ::kill(pid, number); }; };
+  const auto schedule = [](int policy, int priority) {
+    return [policy, priority](pid_t pid) {
+      const sched_param parameter{priority};
+      ::sched_setscheduler(pid, policy, &parameter);
+    };
+  };
+  int nice = 0;
+  const std::vector<std::pair<const char*, Deed>> deeds = {
+      {"stop", signal(SIGSTOP)},
+      {"stop again", signal(SIGSTOP)},
+      {"continue", signal(SIGCONT)},
+      {"rename", signal(SIGUSR1)},
+      {"thread", signal(SIGHUP)},
+      {"run", signal(SIGWINCH)},
+      {"renice",
+       [&](pid_t pid) {
+         ::setpriority(PRIO_PROCESS, static_cast<id_t>(pid), nice = (nice + 3) % 20);
+       }},
+      {"real time", schedule(SCHED_FIFO, 10)},
+      {"batch", schedule(SCHED_BATCH, 0)},
+      {"ordinary", schedule(SCHED_OTHER, 0)},
+      {"trace", [](pid_t pid) { ::ptrace(PTRACE_ATTACH, pid, nullptr, nullptr); }},
+      {"seize", [](pid_t pid) { ::ptrace(PTRACE_SEIZE, pid, nullptr, nullptr); }},
+      {"interrupt", [](pid_t pid) { ::ptrace(PTRACE_INTERRUPT, pid, nullptr, nullptr); }},
+      {"leave", [](pid_t pid) { ::ptrace(PTRACE_DETACH, pid, nullptr, nullptr); }},
+      {"exec", signal(SIGUSR2)},
+      {"kill", signal(SIGKILL)},
+      {"collect", [&](pid_t pid) { Collect(pid); }}};
+  std::mt19937 random(20240607);
+  for (int i = 0; i < 8; ++i) StartPair();
+  for (int pass = 0; pass < 3; ++pass) ExpectAsInProc("start");
+  for (int step = 0; step < 600 && !HasFatalFailure(); ++step) {
+    const auto& [name, deed] = deeds[random() % deeds.size()];
+    const pid_t pid = mPids[random() % mPids.size()];
+    deed(pid);
+    // Some fall together, and some passes find nothing new.
+    if (random() % 4 != 0) ExpectAsInProc(std::string(name) + ' ' + std::to_string(pid));
+    if (step % 40 == 39) StartPair();
+  }
+}
+
+TEST_F(UnchangedProcesses, HaveTheirNewParentInThePassThatMissesTheOldOne) {
+  for (const bool isCollected : {false, true}) {
+    for (int i = 0; i < 20; ++i) {
+      const pid_t parent = StartPair();
+      const pid_t child = mPids.back();
+      for (int pass = 0; pass < 3; ++pass) ExpectAsInProc("start");
+      EXPECT_NE(DescribeFile(child).text.find("parent " + std::to_string(parent) + ' '),
+                std::string::npos);
+      ::kill(parent, SIGKILL);
+      siginfo_t ended{};
+      ::waitid(P_PID, static_cast<id_t>(parent), &ended, WEXITED | WNOWAIT);
+      if (isCollected) Collect(parent);
+      ExpectAsInProc("the parent's end");
+      EXPECT_NE(DescribeFile(child).text.find("parent " + std::to_string(::getpid()) + ' '),
+                std::string::npos);
+    }
+  }
+}
+
+/// Where the kernel tells nothing of how a process is scheduled, everything is read.
+TEST_F(UnchangedProcesses, AreReadInEveryPassWherePidsMeanOthers) {
+  const Child child;
+  Settle({child.Pid()});
+  EXPECT_TRUE(ReadRunMark(child.Pid()));
+  EXPECT_EQ(ReadRunMark(child.Pid()), ReadRunMark(child.Pid()));
+  EXPECT_FALSE(ReadRunMark(0));
+  EXPECT_FALSE(ReadRunMark(-1));
+  EXPECT_EQ(RunForked([&]() -> std::string {
+              // Its children have their own pids, but see the same tree.
+              if (::unshare(CLONE_NEWPID) != 0) return "no namespace";
+              return RunForked([&]() -> std::string {
+                return ProcFiles("/proc").Mark(child.Pid()) ? "a mark" : "";
+              });
+            }),
+            "");
+}
+
+}  // namespace
+}  // namespace lurkwell
