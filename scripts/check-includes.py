@@ -12,6 +12,7 @@ FLOORS = [
     {"platform"},
     {"preferences"},
     {"process_control", "consolidator"},
+    {"resources"},  # beside src
     {"main_window", "monitor_windows", "animated_view"},
     {"app"},
 ]
@@ -67,7 +68,7 @@ def violations(source):
             if match is None:
                 continue
             included = match.group(1)
-            if not (source / included).is_file():
+            if not any((root / included).is_file() for root in (source, source.parent)):
                 yield f"{file}:{number}: {included} is not a path from src"
             elif not may_include(file, folder, folder_of(included)):
                 yield f"{file}:{number}: {folder} must not include {included}"

@@ -1,0 +1,1852 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name></name>
+    <message id="meta_pid">
+        <source></source>
+        <translation>Process ID</translation>
+    </message>
+    <message id="meta_pid_tip">
+        <source></source>
+        <translation>The process's number. The kernel's processes count from 1; 0 stands for the idle task, and applications of the Classic environment have made-up numbers below -1.</translation>
+    </message>
+    <message id="meta_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="meta_name_tip">
+        <source></source>
+        <translation>The application's name where the process is an application, else its command name.</translation>
+    </message>
+    <message id="meta_active_time">
+        <source></source>
+        <translation>CPU time</translation>
+    </message>
+    <message id="meta_active_time_tip">
+        <source></source>
+        <translation>CPU time used since the process started, user and system together, in seconds. For applications of the Classic environment it is an estimate.</translation>
+    </message>
+    <message id="meta_kind">
+        <source></source>
+        <translation>Kind</translation>
+    </message>
+    <message id="meta_kind_tip">
+        <source></source>
+        <translation>OS X for an application on the desktop, Classic for an application of the Classic environment, Darwin for every other process.</translation>
+    </message>
+    <message id="meta_psn">
+        <source></source>
+        <translation>Serial number</translation>
+    </message>
+    <message id="meta_psn_tip">
+        <source></source>
+        <translation>The serial number of the application on the desktop, as two hexadecimal words. Both are zero for a process that is no application.</translation>
+    </message>
+    <message id="carbonpsn_name">
+        <source></source>
+        <translation>Application name</translation>
+    </message>
+    <message id="carbonpsn_name_tip">
+        <source></source>
+        <translation>The application's name as the desktop knows it. Empty for a process that is no application.</translation>
+    </message>
+    <message id="carbonpsn_type">
+        <source></source>
+        <translation>Application type</translation>
+    </message>
+    <message id="carbonpsn_type_tip">
+        <source></source>
+        <translation>The four-character type of the application, APPL for an ordinary one. From the desktop.</translation>
+    </message>
+    <message id="carbonpsn_signature">
+        <source></source>
+        <translation>Application signature</translation>
+    </message>
+    <message id="carbonpsn_signature_tip">
+        <source></source>
+        <translation>Four characters that tell applications apart: the beginning of the desktop entry's or window class's name. From the desktop.</translation>
+    </message>
+    <message id="carbonpsn_mode">
+        <source></source>
+        <translation>Application mode</translation>
+    </message>
+    <message id="carbonpsn_mode_tip">
+        <source></source>
+        <translation>The application's mode flags as the desktop reports them, a hexadecimal mask.</translation>
+    </message>
+    <message id="classicpsn_name">
+        <source></source>
+        <translation>Classic name</translation>
+    </message>
+    <message id="classicpsn_name_tip">
+        <source></source>
+        <translation>The application's name inside the Classic environment. Only applications of that environment have one.</translation>
+    </message>
+    <message id="classicpsn_type">
+        <source></source>
+        <translation>Classic type</translation>
+    </message>
+    <message id="classicpsn_type_tip">
+        <source></source>
+        <translation>The four-character file type of the application inside the Classic environment.</translation>
+    </message>
+    <message id="classicpsn_signature">
+        <source></source>
+        <translation>Classic signature</translation>
+    </message>
+    <message id="classicpsn_signature_tip">
+        <source></source>
+        <translation>The four-character creator code of the application inside the Classic environment.</translation>
+    </message>
+    <message id="classicpsn_mode">
+        <source></source>
+        <translation>Classic mode</translation>
+    </message>
+    <message id="classicpsn_mode_tip">
+        <source></source>
+        <translation>The application's mode flags inside the Classic environment, a hexadecimal mask.</translation>
+    </message>
+    <message id="classicpsn_location">
+        <source></source>
+        <translation>Classic location</translation>
+    </message>
+    <message id="classicpsn_location_tip">
+        <source></source>
+        <translation>The address at which the application's memory partition begins inside the Classic environment, in hexadecimal.</translation>
+    </message>
+    <message id="classicpsn_size">
+        <source></source>
+        <translation>Classic size</translation>
+    </message>
+    <message id="classicpsn_size_tip">
+        <source></source>
+        <translation>The size of the application's memory partition inside the Classic environment, in bytes.</translation>
+    </message>
+    <message id="classicpsn_active_time">
+        <source></source>
+        <translation>Classic active time</translation>
+    </message>
+    <message id="classicpsn_active_time_tip">
+        <source></source>
+        <translation>Time the application has been active inside the Classic environment, in ticks of a sixtieth of a second.</translation>
+    </message>
+    <message id="classicpsn_free_mem">
+        <source></source>
+        <translation>Classic free memory</translation>
+    </message>
+    <message id="classicpsn_free_mem_tip">
+        <source></source>
+        <translation>What is left of the application's memory partition inside the Classic environment, in bytes.</translation>
+    </message>
+    <message id="pid_p_comm">
+        <source></source>
+        <translation>Command name</translation>
+    </message>
+    <message id="pid_p_comm_tip">
+        <source></source>
+        <translation>The name of the command, up to 16 characters. The kernel keeps 15 of them; a longer name is completed from the command line or the executable.</translation>
+    </message>
+    <message id="pid_p_priority">
+        <source></source>
+        <translation>Priority</translation>
+    </message>
+    <message id="pid_p_priority_tip">
+        <source></source>
+        <translation>The kernel's scheduling priority; lower numbers run first. Ordinary processes have 20 plus their nice value, real-time ones are below zero. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_parent_pid">
+        <source></source>
+        <translation>Parent ID</translation>
+    </message>
+    <message id="pid_parent_pid_tip">
+        <source></source>
+        <translation>The number of the process that started this one, or of the one that took it over.</translation>
+    </message>
+    <message id="pid_p_nice">
+        <source></source>
+        <translation>Nice value</translation>
+    </message>
+    <message id="pid_p_nice_tip">
+        <source></source>
+        <translation>How much the process gives way to others, from -20 (least) to 19 (most). From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_p_starttime">
+        <source></source>
+        <translation>Start time</translation>
+    </message>
+    <message id="pid_p_starttime_tip">
+        <source></source>
+        <translation>The date and time at which the process was started. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_user_time">
+        <source></source>
+        <translation>User time</translation>
+    </message>
+    <message id="pid_user_time_tip">
+        <source></source>
+        <translation>CPU time spent in the program's own code, all threads together, in seconds. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_system_time">
+        <source></source>
+        <translation>System time</translation>
+    </message>
+    <message id="pid_system_time_tip">
+        <source></source>
+        <translation>CPU time that the kernel spent on the process's behalf, all threads together, in seconds. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_vsz">
+        <source></source>
+        <translation>Virtual size</translation>
+    </message>
+    <message id="pid_vsz_tip">
+        <source></source>
+        <translation>The size of all memory the process has mapped, whether it is in use or not, in bytes. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_rsz">
+        <source></source>
+        <translation>Resident size</translation>
+    </message>
+    <message id="pid_rsz_tip">
+        <source></source>
+        <translation>How much of the process's memory lies in RAM, shared pages included, in bytes. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_suspend_count">
+        <source></source>
+        <translation>Suspend count</translation>
+    </message>
+    <message id="pid_suspend_count_tip">
+        <source></source>
+        <translation>1 while the process is stopped, by a signal or by a debugger, else 0.</translation>
+    </message>
+    <message id="pid_terminated_user_time">
+        <source></source>
+        <translation>Ended threads' user time</translation>
+    </message>
+    <message id="pid_terminated_user_time_tip">
+        <source></source>
+        <translation>User time of threads that have ended. Always 0 on Linux, where the user time includes it.</translation>
+    </message>
+    <message id="pid_terminated_system_time">
+        <source></source>
+        <translation>Ended threads' system time</translation>
+    </message>
+    <message id="pid_terminated_system_time_tip">
+        <source></source>
+        <translation>System time of threads that have ended. Always 0 on Linux, where the system time includes it.</translation>
+    </message>
+    <message id="pid_policy">
+        <source></source>
+        <translation>Scheduling policy</translation>
+    </message>
+    <message id="pid_policy_tip">
+        <source></source>
+        <translation>The kernel's scheduling policy as a number: 0 ordinary, 1 FIFO, 2 round robin, 3 batch, 5 idle, 6 deadline. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_faults">
+        <source></source>
+        <translation>Page faults</translation>
+    </message>
+    <message id="pid_faults_tip">
+        <source></source>
+        <translation>Page faults since the process started, with and without a read from disk. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_pageins">
+        <source></source>
+        <translation>Page-ins</translation>
+    </message>
+    <message id="pid_pageins_tip">
+        <source></source>
+        <translation>Page faults that had to wait for a read from disk (major faults). From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_cow_faults">
+        <source></source>
+        <translation>Copy-on-write faults</translation>
+    </message>
+    <message id="pid_cow_faults_tip">
+        <source></source>
+        <translation>Page faults that copied a shared page. Linux does not count them: always 0.</translation>
+    </message>
+    <message id="pid_messages_sent">
+        <source></source>
+        <translation>Messages sent</translation>
+    </message>
+    <message id="pid_messages_sent_tip">
+        <source></source>
+        <translation>Messages sent between the kernel and the process. Linux has no such messages: always 0.</translation>
+    </message>
+    <message id="pid_messages_received">
+        <source></source>
+        <translation>Messages received</translation>
+    </message>
+    <message id="pid_messages_received_tip">
+        <source></source>
+        <translation>Messages received between the kernel and the process. Linux has no such messages: always 0.</translation>
+    </message>
+    <message id="pid_syscalls_mach">
+        <source></source>
+        <translation>Mach system calls</translation>
+    </message>
+    <message id="pid_syscalls_mach_tip">
+        <source></source>
+        <translation>Calls of the Mach kernel's interface. Linux has none: always 0.</translation>
+    </message>
+    <message id="pid_syscalls_unix">
+        <source></source>
+        <translation>Unix system calls</translation>
+    </message>
+    <message id="pid_syscalls_unix_tip">
+        <source></source>
+        <translation>System calls that read or write, added up; other calls are not counted. From /proc/PID/io; 0 where it may not be read.</translation>
+    </message>
+    <message id="pid_csw">
+        <source></source>
+        <translation>Context switches</translation>
+    </message>
+    <message id="pid_csw_tip">
+        <source></source>
+        <translation>How often a CPU was switched away from the process's main thread, voluntarily or not. From /proc/PID/status.</translation>
+    </message>
+    <message id="internal_Icon">
+        <source></source>
+        <translation>Icon</translation>
+    </message>
+    <message id="internal_Icon_tip">
+        <source></source>
+        <translation>The application's icon. A process that is no application has none.</translation>
+    </message>
+    <message id="internal_Indicator">
+        <source></source>
+        <translation>Indicator</translation>
+    </message>
+    <message id="internal_Indicator_tip">
+        <source></source>
+        <translation>A badge for what was done to the process here: halted, or its priority raised or lowered.</translation>
+    </message>
+    <message id="internal_CPUPercent">
+        <source></source>
+        <translation>CPU usage</translation>
+    </message>
+    <message id="internal_CPUPercent_tip">
+        <source></source>
+        <translation>The share of a CPU that the process used since the previous update, as a bar.</translation>
+    </message>
+    <message id="internal_MemGraph">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="internal_MemGraph_tip">
+        <source></source>
+        <translation>The resident and the virtual size of the process, as a bar.</translation>
+    </message>
+    <message id="%CPU">
+        <source></source>
+        <translation>CPU usage (%CPU)</translation>
+    </message>
+    <message id="%CPU_tip">
+        <source></source>
+        <translation>CPU time used divided by the time the process has been running, in percent. It is an average over the whole life of the process.</translation>
+    </message>
+    <message id="%CUC">
+        <source></source>
+        <translation>CPU usage with children (%CUC)</translation>
+    </message>
+    <message id="%CUC_tip">
+        <source></source>
+        <translation>CPU time of the process and of its ended children divided by the time it has been running, in percent with three decimals.</translation>
+    </message>
+    <message id="%CUU">
+        <source></source>
+        <translation>CPU usage (%CUU)</translation>
+    </message>
+    <message id="%CUU_tip">
+        <source></source>
+        <translation>CPU time used divided by the time the process has been running, in percent with three decimals.</translation>
+    </message>
+    <message id="%MEM">
+        <source></source>
+        <translation>Memory usage (%MEM)</translation>
+    </message>
+    <message id="%MEM_tip">
+        <source></source>
+        <translation>The resident size as a percentage of the machine's physical memory.</translation>
+    </message>
+    <message id="AGID">
+        <source></source>
+        <translation>Autogroup ID (AGID)</translation>
+    </message>
+    <message id="AGID_tip">
+        <source></source>
+        <translation>The number of the scheduler's automatic group the process belongs to; as a rule each session has one.</translation>
+    </message>
+    <message id="AGNI">
+        <source></source>
+        <translation>Autogroup nice value (AGNI)</translation>
+    </message>
+    <message id="AGNI_tip">
+        <source></source>
+        <translation>The nice value of the scheduler's automatic group: how much the whole group gives way to others.</translation>
+    </message>
+    <message id="API">
+        <source></source>
+        <translation>Priority (API)</translation>
+    </message>
+    <message id="API_tip">
+        <source></source>
+        <translation>The scheduling priority on one of the historical scales that ps offers: -1 less the kernel's priority.</translation>
+    </message>
+    <message id="BAR">
+        <source></source>
+        <translation>Priority (BAR)</translation>
+    </message>
+    <message id="BAR_tip">
+        <source></source>
+        <translation>The scheduling priority on one of the historical scales that ps offers: the kernel's priority plus 1.</translation>
+    </message>
+    <message id="BAZ">
+        <source></source>
+        <translation>Priority (BAZ)</translation>
+    </message>
+    <message id="BAZ_tip">
+        <source></source>
+        <translation>The scheduling priority on one of the historical scales that ps offers: the kernel's priority plus 100, so that ordinary processes lie between 100 and 139.</translation>
+    </message>
+    <message id="BLOCKED">
+        <source></source>
+        <translation>Blocked signals (BLOCKED)</translation>
+    </message>
+    <message id="BLOCKED_tip">
+        <source></source>
+        <translation>The signals whose delivery the process has put off, as a hexadecimal mask.</translation>
+    </message>
+    <message id="C">
+        <source></source>
+        <translation>Last CPU (C)</translation>
+    </message>
+    <message id="C_tip">
+        <source></source>
+        <translation>The number of the processor that the process ran on last. A ps that does not know it prints the CPU usage in whole percent under this header.</translation>
+    </message>
+    <message id="CATCHED">
+        <source></source>
+        <translation>Caught signals (CATCHED)</translation>
+    </message>
+    <message id="CATCHED_tip">
+        <source></source>
+        <translation>The signals for which the process has a handler of its own, as a hexadecimal mask. The same as CAUGHT.</translation>
+    </message>
+    <message id="CAUGHT">
+        <source></source>
+        <translation>Caught signals (CAUGHT)</translation>
+    </message>
+    <message id="CAUGHT_tip">
+        <source></source>
+        <translation>The signals for which the process has a handler of its own, as a hexadecimal mask.</translation>
+    </message>
+    <message id="CGNAME">
+        <source></source>
+        <translation>Control group names (CGNAME)</translation>
+    </message>
+    <message id="CGNAME_tip">
+        <source></source>
+        <translation>The names of the control groups the process belongs to, as the kernel gives them.</translation>
+    </message>
+    <message id="CGROUP">
+        <source></source>
+        <translation>Control groups (CGROUP)</translation>
+    </message>
+    <message id="CGROUP_tip">
+        <source></source>
+        <translation>The control groups the process belongs to.</translation>
+    </message>
+    <message id="CGROUPNS">
+        <source></source>
+        <translation>Control group namespace (CGROUPNS)</translation>
+    </message>
+    <message id="CGROUPNS_tip">
+        <source></source>
+        <translation>The inode number of the control group namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="CLS">
+        <source></source>
+        <translation>Scheduling class (CLS)</translation>
+    </message>
+    <message id="CLS_tip">
+        <source></source>
+        <translation>The scheduling class: TS ordinary, FF first in first out, RR round robin, B batch, IDL idle, DLN deadline.</translation>
+    </message>
+    <message id="CMD">
+        <source></source>
+        <translation>Command name (CMD)</translation>
+    </message>
+    <message id="CMD_tip">
+        <source></source>
+        <translation>The name of the command without its arguments.</translation>
+    </message>
+    <message id="COMMAND">
+        <source></source>
+        <translation>Command line (COMMAND)</translation>
+    </message>
+    <message id="COMMAND_tip">
+        <source></source>
+        <translation>The command with all its arguments. Where these cannot be had, as with kernel threads, the command's name in brackets.</translation>
+    </message>
+    <message id="CONTEXT">
+        <source></source>
+        <translation>Security context (CONTEXT)</translation>
+    </message>
+    <message id="CONTEXT_tip">
+        <source></source>
+        <translation>The security context that the kernel's access control (SELinux, for one) gave the process; a dash when there is none.</translation>
+    </message>
+    <message id="CP">
+        <source></source>
+        <translation>CPU usage (CP)</translation>
+    </message>
+    <message id="CP_tip">
+        <source></source>
+        <translation>CPU time used divided by the time the process has been running, in thousandths.</translation>
+    </message>
+    <message id="CPUID">
+        <source></source>
+        <translation>Last CPU (CPUID)</translation>
+    </message>
+    <message id="CPUID_tip">
+        <source></source>
+        <translation>The number of the processor that the process ran on last.</translation>
+    </message>
+    <message id="DRS">
+        <source></source>
+        <translation>Data size (DRS)</translation>
+    </message>
+    <message id="DRS_tip">
+        <source></source>
+        <translation>The size of all mapped memory except for the executable code, in kibibytes. Despite the name, not all of it needs to be in RAM.</translation>
+    </message>
+    <message id="DSIZ">
+        <source></source>
+        <translation>Data size (DSIZ)</translation>
+    </message>
+    <message id="DSIZ_tip">
+        <source></source>
+        <translation>The size of all mapped memory except for the executable code, in kibibytes.</translation>
+    </message>
+    <message id="EGID">
+        <source></source>
+        <translation>Effective group ID (EGID)</translation>
+    </message>
+    <message id="EGID_tip">
+        <source></source>
+        <translation>The number of the group whose rights the process has.</translation>
+    </message>
+    <message id="EGROUP">
+        <source></source>
+        <translation>Effective group (EGROUP)</translation>
+    </message>
+    <message id="EGROUP_tip">
+        <source></source>
+        <translation>The name of the group whose rights the process has.</translation>
+    </message>
+    <message id="EIP">
+        <source></source>
+        <translation>Instruction pointer (EIP)</translation>
+    </message>
+    <message id="EIP_tip">
+        <source></source>
+        <translation>The address of the instruction the process is at. Kernels since 4.9 show it only while a process ends; otherwise it is zero.</translation>
+    </message>
+    <message id="ELAPSED">
+        <source></source>
+        <translation>Elapsed time (ELAPSED)</translation>
+    </message>
+    <message id="ELAPSED_tip">
+        <source></source>
+        <translation>Time since the process was started, in seconds. Some versions of ps print days, hours, minutes and seconds instead.</translation>
+    </message>
+    <message id="ESP">
+        <source></source>
+        <translation>Stack pointer (ESP)</translation>
+    </message>
+    <message id="ESP_tip">
+        <source></source>
+        <translation>The address of the top of the stack. Kernels since 4.9 show it only while a process ends; otherwise it is zero.</translation>
+    </message>
+    <message id="EUID">
+        <source></source>
+        <translation>Effective user ID (EUID)</translation>
+    </message>
+    <message id="EUID_tip">
+        <source></source>
+        <translation>The number of the user whose rights the process has.</translation>
+    </message>
+    <message id="EUSER">
+        <source></source>
+        <translation>Effective user (EUSER)</translation>
+    </message>
+    <message id="EUSER_tip">
+        <source></source>
+        <translation>The name of the user whose rights the process has.</translation>
+    </message>
+    <message id="EXE">
+        <source></source>
+        <translation>Executable (EXE)</translation>
+    </message>
+    <message id="EXE_tip">
+        <source></source>
+        <translation>The path of the program file; a dash where it may not be read, and for kernel threads.</translation>
+    </message>
+    <message id="F">
+        <source></source>
+        <translation>Flags (F)</translation>
+    </message>
+    <message id="F_tip">
+        <source></source>
+        <translation>Flags of the process, added up: 1 forked but not yet a program of its own, 4 has used the superuser's rights.</translation>
+    </message>
+    <message id="FGID">
+        <source></source>
+        <translation>File access group ID (FGID)</translation>
+    </message>
+    <message id="FGID_tip">
+        <source></source>
+        <translation>The number of the group that counts when the process opens files.</translation>
+    </message>
+    <message id="FGROUP">
+        <source></source>
+        <translation>File access group (FGROUP)</translation>
+    </message>
+    <message id="FGROUP_tip">
+        <source></source>
+        <translation>The name of the group that counts when the process opens files.</translation>
+    </message>
+    <message id="FOO">
+        <source></source>
+        <translation>Priority (FOO)</translation>
+    </message>
+    <message id="FOO_tip">
+        <source></source>
+        <translation>The scheduling priority on one of the historical scales that ps offers: the kernel's priority less 20, which is the nice value of an ordinary process.</translation>
+    </message>
+    <message id="FSGID">
+        <source></source>
+        <translation>File access group ID (FSGID)</translation>
+    </message>
+    <message id="FSGID_tip">
+        <source></source>
+        <translation>The number of the group that counts when the process opens files. The same as FGID.</translation>
+    </message>
+    <message id="FSGROUP">
+        <source></source>
+        <translation>File access group (FSGROUP)</translation>
+    </message>
+    <message id="FSGROUP_tip">
+        <source></source>
+        <translation>The name of the group that counts when the process opens files. The same as FGROUP.</translation>
+    </message>
+    <message id="FSUID">
+        <source></source>
+        <translation>File access user ID (FSUID)</translation>
+    </message>
+    <message id="FSUID_tip">
+        <source></source>
+        <translation>The number of the user who counts when the process opens files. The same as FUID.</translation>
+    </message>
+    <message id="FSUSER">
+        <source></source>
+        <translation>File access user (FSUSER)</translation>
+    </message>
+    <message id="FSUSER_tip">
+        <source></source>
+        <translation>The name of the user who counts when the process opens files. The same as FUSER.</translation>
+    </message>
+    <message id="FUID">
+        <source></source>
+        <translation>File access user ID (FUID)</translation>
+    </message>
+    <message id="FUID_tip">
+        <source></source>
+        <translation>The number of the user who counts when the process opens files.</translation>
+    </message>
+    <message id="FUSER">
+        <source></source>
+        <translation>File access user (FUSER)</translation>
+    </message>
+    <message id="FUSER_tip">
+        <source></source>
+        <translation>The name of the user who counts when the process opens files.</translation>
+    </message>
+    <message id="GID">
+        <source></source>
+        <translation>Group ID (GID)</translation>
+    </message>
+    <message id="GID_tip">
+        <source></source>
+        <translation>The number of the effective group. The same as EGID.</translation>
+    </message>
+    <message id="GROUP">
+        <source></source>
+        <translation>Group (GROUP)</translation>
+    </message>
+    <message id="GROUP_tip">
+        <source></source>
+        <translation>The name of the effective group. The same as EGROUP.</translation>
+    </message>
+    <message id="IGNORED">
+        <source></source>
+        <translation>Ignored signals (IGNORED)</translation>
+    </message>
+    <message id="IGNORED_tip">
+        <source></source>
+        <translation>The signals that the process ignores, as a hexadecimal mask.</translation>
+    </message>
+    <message id="IPCNS">
+        <source></source>
+        <translation>IPC namespace (IPCNS)</translation>
+    </message>
+    <message id="IPCNS_tip">
+        <source></source>
+        <translation>The inode number of the inter-process communication namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="LABEL">
+        <source></source>
+        <translation>Security context (LABEL)</translation>
+    </message>
+    <message id="LABEL_tip">
+        <source></source>
+        <translation>The label that the kernel's access control gave the process; a dash when there is none. The same as CONTEXT.</translation>
+    </message>
+    <message id="LIM">
+        <source></source>
+        <translation>Memory limit (LIM)</translation>
+    </message>
+    <message id="LIM_tip">
+        <source></source>
+        <translation>The limit on the resident size, in kibibytes; xx stands for no limit.</translation>
+    </message>
+    <message id="LUID">
+        <source></source>
+        <translation>Login user ID (LUID)</translation>
+    </message>
+    <message id="LUID_tip">
+        <source></source>
+        <translation>The number of the user who logged in, which stays the same when rights change hands later; a dash when there was no login.</translation>
+    </message>
+    <message id="LWP">
+        <source></source>
+        <translation>Thread ID (LWP)</translation>
+    </message>
+    <message id="LWP_tip">
+        <source></source>
+        <translation>The number of the process's main thread, which equals the process ID.</translation>
+    </message>
+    <message id="LXC">
+        <source></source>
+        <translation>LXC container (LXC)</translation>
+    </message>
+    <message id="LXC_tip">
+        <source></source>
+        <translation>The name of the LXC container the process runs in; a dash outside of containers.</translation>
+    </message>
+    <message id="MACHINE">
+        <source></source>
+        <translation>Virtual machine (MACHINE)</translation>
+    </message>
+    <message id="MACHINE_tip">
+        <source></source>
+        <translation>The name of the virtual machine or container the process belongs to. From systemd; a dash when there is none.</translation>
+    </message>
+    <message id="MAJFL">
+        <source></source>
+        <translation>Major faults (MAJFL)</translation>
+    </message>
+    <message id="MAJFL_tip">
+        <source></source>
+        <translation>Page faults that had to wait for a read from disk. The same as MAJFLT.</translation>
+    </message>
+    <message id="MAJFLT">
+        <source></source>
+        <translation>Major faults (MAJFLT)</translation>
+    </message>
+    <message id="MAJFLT_tip">
+        <source></source>
+        <translation>Page faults that had to wait for a read from disk, since the process started.</translation>
+    </message>
+    <message id="MINFL">
+        <source></source>
+        <translation>Minor faults (MINFL)</translation>
+    </message>
+    <message id="MINFL_tip">
+        <source></source>
+        <translation>Page faults that needed no read from disk. The same as MINFLT.</translation>
+    </message>
+    <message id="MINFLT">
+        <source></source>
+        <translation>Minor faults (MINFLT)</translation>
+    </message>
+    <message id="MINFLT_tip">
+        <source></source>
+        <translation>Page faults that needed no read from disk, since the process started.</translation>
+    </message>
+    <message id="MNTNS">
+        <source></source>
+        <translation>Mount namespace (MNTNS)</translation>
+    </message>
+    <message id="MNTNS_tip">
+        <source></source>
+        <translation>The inode number of the mount namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="NETNS">
+        <source></source>
+        <translation>Network namespace (NETNS)</translation>
+    </message>
+    <message id="NETNS_tip">
+        <source></source>
+        <translation>The inode number of the network namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="NI">
+        <source></source>
+        <translation>Nice value (NI)</translation>
+    </message>
+    <message id="NI_tip">
+        <source></source>
+        <translation>How much the process gives way to others, from -20 (least) to 19 (most). A dash where it has no meaning, as with real-time processes.</translation>
+    </message>
+    <message id="NLWP">
+        <source></source>
+        <translation>Threads (NLWP)</translation>
+    </message>
+    <message id="NLWP_tip">
+        <source></source>
+        <translation>How many threads the process has.</translation>
+    </message>
+    <message id="NUMA">
+        <source></source>
+        <translation>NUMA node (NUMA)</translation>
+    </message>
+    <message id="NUMA_tip">
+        <source></source>
+        <translation>The memory node of the processor that the process ran on last; -1 when that is not known.</translation>
+    </message>
+    <message id="OOM">
+        <source></source>
+        <translation>Out-of-memory score (OOM)</translation>
+    </message>
+    <message id="OOM_tip">
+        <source></source>
+        <translation>How likely the kernel is to end the process when memory runs out; the highest goes first.</translation>
+    </message>
+    <message id="OOMADJ">
+        <source></source>
+        <translation>Out-of-memory adjustment (OOMADJ)</translation>
+    </message>
+    <message id="OOMADJ_tip">
+        <source></source>
+        <translation>What is added to the out-of-memory score, from -1000 (never ended) to 1000 (ended first).</translation>
+    </message>
+    <message id="OWNER">
+        <source></source>
+        <translation>Session owner (OWNER)</translation>
+    </message>
+    <message id="OWNER_tip">
+        <source></source>
+        <translation>The number of the user who owns the login session the process belongs to. From systemd; a dash when there is none.</translation>
+    </message>
+    <message id="P">
+        <source></source>
+        <translation>Current CPU (P)</translation>
+    </message>
+    <message id="P_tip">
+        <source></source>
+        <translation>The number of the processor that the process is running on; an asterisk while it is not running.</translation>
+    </message>
+    <message id="PAGEIN">
+        <source></source>
+        <translation>Major faults (PAGEIN)</translation>
+    </message>
+    <message id="PAGEIN_tip">
+        <source></source>
+        <translation>Page faults that had to wait for a read from disk. The same as MAJFLT.</translation>
+    </message>
+    <message id="PENDING">
+        <source></source>
+        <translation>Pending signals (PENDING)</translation>
+    </message>
+    <message id="PENDING_tip">
+        <source></source>
+        <translation>The signals that wait to be delivered to the process, as a hexadecimal mask.</translation>
+    </message>
+    <message id="PGID">
+        <source></source>
+        <translation>Process group ID (PGID)</translation>
+    </message>
+    <message id="PGID_tip">
+        <source></source>
+        <translation>The number of the process group; as a rule the commands of one pipeline share it.</translation>
+    </message>
+    <message id="PGRP">
+        <source></source>
+        <translation>Process group ID (PGRP)</translation>
+    </message>
+    <message id="PGRP_tip">
+        <source></source>
+        <translation>The number of the process group. The same as PGID.</translation>
+    </message>
+    <message id="PID">
+        <source></source>
+        <translation>Process ID (PID)</translation>
+    </message>
+    <message id="PID_tip">
+        <source></source>
+        <translation>The number of the process, as ps prints it.</translation>
+    </message>
+    <message id="PIDNS">
+        <source></source>
+        <translation>PID namespace (PIDNS)</translation>
+    </message>
+    <message id="PIDNS_tip">
+        <source></source>
+        <translation>The inode number of the process number namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="POL">
+        <source></source>
+        <translation>Scheduling class (POL)</translation>
+    </message>
+    <message id="POL_tip">
+        <source></source>
+        <translation>The scheduling class in letters. The same as CLS.</translation>
+    </message>
+    <message id="PPID">
+        <source></source>
+        <translation>Parent ID (PPID)</translation>
+    </message>
+    <message id="PPID_tip">
+        <source></source>
+        <translation>The number of the process that started this one, or of the one that took it over.</translation>
+    </message>
+    <message id="PRI">
+        <source></source>
+        <translation>Priority (PRI)</translation>
+    </message>
+    <message id="PRI_tip">
+        <source></source>
+        <translation>The scheduling priority as ps prints it: the kernel's priority plus 60, so 80 for an ordinary process and less for one that runs first.</translation>
+    </message>
+    <message id="PSR">
+        <source></source>
+        <translation>Last CPU (PSR)</translation>
+    </message>
+    <message id="PSR_tip">
+        <source></source>
+        <translation>The number of the processor that the process ran on last.</translation>
+    </message>
+    <message id="PSS">
+        <source></source>
+        <translation>Proportional size (PSS)</translation>
+    </message>
+    <message id="PSS_tip">
+        <source></source>
+        <translation>Memory in RAM with each shared page divided among those who share it, in kibibytes. Slow to find out; 0 where it may not be read.</translation>
+    </message>
+    <message id="RBYTES">
+        <source></source>
+        <translation>Bytes read from storage (RBYTES)</translation>
+    </message>
+    <message id="RBYTES_tip">
+        <source></source>
+        <translation>Bytes that the storage devices had to deliver for the process. From /proc/PID/io; 0 where that may not be read.</translation>
+    </message>
+    <message id="RCHARS">
+        <source></source>
+        <translation>Bytes read (RCHARS)</translation>
+    </message>
+    <message id="RCHARS_tip">
+        <source></source>
+        <translation>Bytes that the process asked for in its read calls, whether they came from a disk, a cache or a terminal. From /proc/PID/io; 0 where that may not be read.</translation>
+    </message>
+    <message id="RGID">
+        <source></source>
+        <translation>Real group ID (RGID)</translation>
+    </message>
+    <message id="RGID_tip">
+        <source></source>
+        <translation>The number of the group that the process belongs to, whichever rights it has at present.</translation>
+    </message>
+    <message id="RGROUP">
+        <source></source>
+        <translation>Real group (RGROUP)</translation>
+    </message>
+    <message id="RGROUP_tip">
+        <source></source>
+        <translation>The name of the group that the process belongs to, whichever rights it has at present.</translation>
+    </message>
+    <message id="ROPS">
+        <source></source>
+        <translation>Read calls (ROPS)</translation>
+    </message>
+    <message id="ROPS_tip">
+        <source></source>
+        <translation>How many system calls for reading the process has made. From /proc/PID/io; 0 where that may not be read.</translation>
+    </message>
+    <message id="RSS">
+        <source></source>
+        <translation>Resident size (RSS)</translation>
+    </message>
+    <message id="RSS_tip">
+        <source></source>
+        <translation>How much of the process's memory lies in RAM, shared pages included, in kibibytes.</translation>
+    </message>
+    <message id="RSZ">
+        <source></source>
+        <translation>Resident size (RSZ)</translation>
+    </message>
+    <message id="RSZ_tip">
+        <source></source>
+        <translation>How much of the process's memory lies in RAM, shared pages included. ps counts in kibibytes.</translation>
+    </message>
+    <message id="RTPRIO">
+        <source></source>
+        <translation>Real-time priority (RTPRIO)</translation>
+    </message>
+    <message id="RTPRIO_tip">
+        <source></source>
+        <translation>The priority among real-time processes, from 1 to 99, higher ones running first; a dash for all other processes.</translation>
+    </message>
+    <message id="RUID">
+        <source></source>
+        <translation>Real user ID (RUID)</translation>
+    </message>
+    <message id="RUID_tip">
+        <source></source>
+        <translation>The number of the user who started the process, whichever rights it has at present.</translation>
+    </message>
+    <message id="RUSER">
+        <source></source>
+        <translation>Real user (RUSER)</translation>
+    </message>
+    <message id="RUSER_tip">
+        <source></source>
+        <translation>The name of the user who started the process, whichever rights it has at present.</translation>
+    </message>
+    <message id="S">
+        <source></source>
+        <translation>State (S)</translation>
+    </message>
+    <message id="S_tip">
+        <source></source>
+        <translation>What the process is doing: R running or ready, S sleeping, D waiting for a device, I idle kernel thread, T stopped, t stopped by a debugger, Z ended but not collected.</translation>
+    </message>
+    <message id="SCH">
+        <source></source>
+        <translation>Scheduling policy (SCH)</translation>
+    </message>
+    <message id="SCH_tip">
+        <source></source>
+        <translation>The scheduling policy as a number: 0 ordinary, 1 FIFO, 2 round robin, 3 batch, 5 idle, 6 deadline.</translation>
+    </message>
+    <message id="SEAT">
+        <source></source>
+        <translation>Seat (SEAT)</translation>
+    </message>
+    <message id="SEAT_tip">
+        <source></source>
+        <translation>The seat (a screen, keyboard and mouse that belong together) of the login session the process belongs to. From systemd; a dash when there is none.</translation>
+    </message>
+    <message id="SESS">
+        <source></source>
+        <translation>Session ID (SESS)</translation>
+    </message>
+    <message id="SESS_tip">
+        <source></source>
+        <translation>The number of the session, which is the process ID of its leader.</translation>
+    </message>
+    <message id="SESSION">
+        <source></source>
+        <translation>Login session (SESSION)</translation>
+    </message>
+    <message id="SESSION_tip">
+        <source></source>
+        <translation>The identifier of the login session the process belongs to. From systemd; a dash when there is none.</translation>
+    </message>
+    <message id="SGID">
+        <source></source>
+        <translation>Saved group ID (SGID)</translation>
+    </message>
+    <message id="SGID_tip">
+        <source></source>
+        <translation>The number of the group whose rights the process may take back.</translation>
+    </message>
+    <message id="SGROUP">
+        <source></source>
+        <translation>Saved group (SGROUP)</translation>
+    </message>
+    <message id="SGROUP_tip">
+        <source></source>
+        <translation>The name of the group whose rights the process may take back.</translation>
+    </message>
+    <message id="SID">
+        <source></source>
+        <translation>Session ID (SID)</translation>
+    </message>
+    <message id="SID_tip">
+        <source></source>
+        <translation>The number of the session, which is the process ID of its leader. The same as SESS.</translation>
+    </message>
+    <message id="SIGNAL">
+        <source></source>
+        <translation>Pending signals (SIGNAL)</translation>
+    </message>
+    <message id="SIGNAL_tip">
+        <source></source>
+        <translation>The signals that wait to be delivered to the process, as a hexadecimal mask. The same as PENDING.</translation>
+    </message>
+    <message id="SIZE">
+        <source></source>
+        <translation>Swap size (SIZE)</translation>
+    </message>
+    <message id="SIZE_tip">
+        <source></source>
+        <translation>A rough estimate of the swap space the process would need if all its writable memory were swapped out, in kibibytes.</translation>
+    </message>
+    <message id="SLICE">
+        <source></source>
+        <translation>Slice (SLICE)</translation>
+    </message>
+    <message id="SLICE_tip">
+        <source></source>
+        <translation>The slice, a branch of the tree of control groups, that the process belongs to. From systemd; a dash when there is none.</translation>
+    </message>
+    <message id="SPID">
+        <source></source>
+        <translation>Thread ID (SPID)</translation>
+    </message>
+    <message id="SPID_tip">
+        <source></source>
+        <translation>The number of the process's main thread, which equals the process ID. The same as LWP.</translation>
+    </message>
+    <message id="STACKP">
+        <source></source>
+        <translation>Stack address (STACKP)</translation>
+    </message>
+    <message id="STACKP_tip">
+        <source></source>
+        <translation>The address of the bottom of the stack, in hexadecimal; zero where it may not be read.</translation>
+    </message>
+    <message id="START">
+        <source></source>
+        <translation>Start time (START)</translation>
+    </message>
+    <message id="START_tip">
+        <source></source>
+        <translation>When the process was started: the time of day for today, the date for earlier days, the year for earlier years.</translation>
+    </message>
+    <message id="STARTED">
+        <source></source>
+        <translation>Start time (STARTED)</translation>
+    </message>
+    <message id="STARTED_tip">
+        <source></source>
+        <translation>When the process was started: the time of day within the last 24 hours, else the date.</translation>
+    </message>
+    <message id="STAT">
+        <source></source>
+        <translation>State (STAT)</translation>
+    </message>
+    <message id="STAT_tip">
+        <source></source>
+        <translation>The state's letter and more behind it: &lt; high priority, N low priority, L pages locked in memory, s session leader, l several threads, + in the foreground of its terminal.</translation>
+    </message>
+    <message id="STIME">
+        <source></source>
+        <translation>Start time (STIME)</translation>
+    </message>
+    <message id="STIME_tip">
+        <source></source>
+        <translation>When the process was started: the time of day for today, the date for earlier days, the year for earlier years. The same as START.</translation>
+    </message>
+    <message id="SUID">
+        <source></source>
+        <translation>Saved user ID (SUID)</translation>
+    </message>
+    <message id="SUID_tip">
+        <source></source>
+        <translation>The number of the user whose rights the process may take back.</translation>
+    </message>
+    <message id="SUPGID">
+        <source></source>
+        <translation>Supplementary group IDs (SUPGID)</translation>
+    </message>
+    <message id="SUPGID_tip">
+        <source></source>
+        <translation>The numbers of the further groups whose rights the process has; a dash when there are none.</translation>
+    </message>
+    <message id="SUPGRP">
+        <source></source>
+        <translation>Supplementary groups (SUPGRP)</translation>
+    </message>
+    <message id="SUPGRP_tip">
+        <source></source>
+        <translation>The names of the further groups whose rights the process has; a dash when there are none.</translation>
+    </message>
+    <message id="SUSER">
+        <source></source>
+        <translation>Saved user (SUSER)</translation>
+    </message>
+    <message id="SUSER_tip">
+        <source></source>
+        <translation>The name of the user whose rights the process may take back.</translation>
+    </message>
+    <message id="SVGID">
+        <source></source>
+        <translation>Saved group ID (SVGID)</translation>
+    </message>
+    <message id="SVGID_tip">
+        <source></source>
+        <translation>The number of the group whose rights the process may take back. The same as SGID.</translation>
+    </message>
+    <message id="SVGROUP">
+        <source></source>
+        <translation>Saved group (SVGROUP)</translation>
+    </message>
+    <message id="SVGROUP_tip">
+        <source></source>
+        <translation>The name of the group whose rights the process may take back. The same as SGROUP.</translation>
+    </message>
+    <message id="SVUID">
+        <source></source>
+        <translation>Saved user ID (SVUID)</translation>
+    </message>
+    <message id="SVUID_tip">
+        <source></source>
+        <translation>The number of the user whose rights the process may take back. The same as SUID.</translation>
+    </message>
+    <message id="SVUSER">
+        <source></source>
+        <translation>Saved user (SVUSER)</translation>
+    </message>
+    <message id="SVUSER_tip">
+        <source></source>
+        <translation>The name of the user whose rights the process may take back. The same as SUSER.</translation>
+    </message>
+    <message id="SZ">
+        <source></source>
+        <translation>Size in pages (SZ)</translation>
+    </message>
+    <message id="SZ_tip">
+        <source></source>
+        <translation>The size of all memory the process has mapped, in pages of the machine (4 KiB on most).</translation>
+    </message>
+    <message id="TGID">
+        <source></source>
+        <translation>Thread group ID (TGID)</translation>
+    </message>
+    <message id="TGID_tip">
+        <source></source>
+        <translation>The number that all threads of the process share, which is the process ID.</translation>
+    </message>
+    <message id="THCNT">
+        <source></source>
+        <translation>Threads (THCNT)</translation>
+    </message>
+    <message id="THCNT_tip">
+        <source></source>
+        <translation>How many threads the process has. The same as NLWP.</translation>
+    </message>
+    <message id="TID">
+        <source></source>
+        <translation>Thread ID (TID)</translation>
+    </message>
+    <message id="TID_tip">
+        <source></source>
+        <translation>The number of the process's main thread, which equals the process ID. The same as LWP.</translation>
+    </message>
+    <message id="TIME">
+        <source></source>
+        <translation>CPU time (TIME)</translation>
+    </message>
+    <message id="TIME_tip">
+        <source></source>
+        <translation>CPU time used since the process started, user and system together, as days, hours, minutes and seconds.</translation>
+    </message>
+    <message id="TIMENS">
+        <source></source>
+        <translation>Time namespace (TIMENS)</translation>
+    </message>
+    <message id="TIMENS_tip">
+        <source></source>
+        <translation>The inode number of the clock namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="TPGID">
+        <source></source>
+        <translation>Foreground group ID (TPGID)</translation>
+    </message>
+    <message id="TPGID_tip">
+        <source></source>
+        <translation>The process group in the foreground of the terminal that the process belongs to; -1 without a terminal.</translation>
+    </message>
+    <message id="TRS">
+        <source></source>
+        <translation>Code size (TRS)</translation>
+    </message>
+    <message id="TRS_tip">
+        <source></source>
+        <translation>The size of the executable code, in kibibytes. Despite the name, not all of it needs to be in RAM.</translation>
+    </message>
+    <message id="TRSS">
+        <source></source>
+        <translation>Code size (TRSS)</translation>
+    </message>
+    <message id="TRSS_tip">
+        <source></source>
+        <translation>The size of the executable code, in kibibytes. The same as TRS.</translation>
+    </message>
+    <message id="TSIZ">
+        <source></source>
+        <translation>Code size (TSIZ)</translation>
+    </message>
+    <message id="TSIZ_tip">
+        <source></source>
+        <translation>The size of the executable code, in kibibytes.</translation>
+    </message>
+    <message id="TT">
+        <source></source>
+        <translation>Terminal (TT)</translation>
+    </message>
+    <message id="TT_tip">
+        <source></source>
+        <translation>The terminal that the process belongs to; a question mark when there is none.</translation>
+    </message>
+    <message id="TTY">
+        <source></source>
+        <translation>Terminal (TTY)</translation>
+    </message>
+    <message id="TTY_tip">
+        <source></source>
+        <translation>The terminal that the process belongs to; a question mark when there is none. The same as TT.</translation>
+    </message>
+    <message id="UID">
+        <source></source>
+        <translation>User ID (UID)</translation>
+    </message>
+    <message id="UID_tip">
+        <source></source>
+        <translation>The user whose rights the process has, by name or by number, as ps prints it.</translation>
+    </message>
+    <message id="UNIT">
+        <source></source>
+        <translation>System unit (UNIT)</translation>
+    </message>
+    <message id="UNIT_tip">
+        <source></source>
+        <translation>The unit (a service, a scope) that the process belongs to. From systemd; a dash when there is none.</translation>
+    </message>
+    <message id="USER">
+        <source></source>
+        <translation>User (USER)</translation>
+    </message>
+    <message id="USER_tip">
+        <source></source>
+        <translation>The name of the user whose rights the process has. The same as EUSER.</translation>
+    </message>
+    <message id="USERNS">
+        <source></source>
+        <translation>User namespace (USERNS)</translation>
+    </message>
+    <message id="USERNS_tip">
+        <source></source>
+        <translation>The inode number of the user namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="USS">
+        <source></source>
+        <translation>Unique size (USS)</translation>
+    </message>
+    <message id="USS_tip">
+        <source></source>
+        <translation>Memory in RAM that the process shares with no other, in kibibytes: what would be free if it ended. Slow to find out; 0 where it may not be read.</translation>
+    </message>
+    <message id="UTSNS">
+        <source></source>
+        <translation>Host name namespace (UTSNS)</translation>
+    </message>
+    <message id="UTSNS_tip">
+        <source></source>
+        <translation>The inode number of the host name namespace the process lives in. Processes with equal numbers share it.</translation>
+    </message>
+    <message id="UUNIT">
+        <source></source>
+        <translation>User unit (UUNIT)</translation>
+    </message>
+    <message id="UUNIT_tip">
+        <source></source>
+        <translation>The unit of the user's own service manager that the process belongs to. From systemd; a dash when there is none.</translation>
+    </message>
+    <message id="VSZ">
+        <source></source>
+        <translation>Virtual size (VSZ)</translation>
+    </message>
+    <message id="VSZ_tip">
+        <source></source>
+        <translation>The size of all memory the process has mapped, whether it is in use or not. ps counts in kibibytes.</translation>
+    </message>
+    <message id="WBYTES">
+        <source></source>
+        <translation>Bytes written to storage (WBYTES)</translation>
+    </message>
+    <message id="WBYTES_tip">
+        <source></source>
+        <translation>Bytes that the process caused to be sent to the storage devices. From /proc/PID/io; 0 where that may not be read.</translation>
+    </message>
+    <message id="WCBYTES">
+        <source></source>
+        <translation>Cancelled written bytes (WCBYTES)</translation>
+    </message>
+    <message id="WCBYTES_tip">
+        <source></source>
+        <translation>Bytes that the process wrote to files that were deleted or shortened before they reached the storage device. From /proc/PID/io; 0 where that may not be read.</translation>
+    </message>
+    <message id="WCHAN">
+        <source></source>
+        <translation>Waiting in (WCHAN)</translation>
+    </message>
+    <message id="WCHAN_tip">
+        <source></source>
+        <translation>The kernel's function in which the process sleeps; a dash while it runs or where this may not be read.</translation>
+    </message>
+    <message id="WCHARS">
+        <source></source>
+        <translation>Bytes written (WCHARS)</translation>
+    </message>
+    <message id="WCHARS_tip">
+        <source></source>
+        <translation>Bytes that the process passed to its write calls, whether they went to a disk, a cache or a terminal. From /proc/PID/io; 0 where that may not be read.</translation>
+    </message>
+    <message id="WOPS">
+        <source></source>
+        <translation>Write calls (WOPS)</translation>
+    </message>
+    <message id="WOPS_tip">
+        <source></source>
+        <translation>How many system calls for writing the process has made. From /proc/PID/io; 0 where that may not be read.</translation>
+    </message>
+    <message id="ZONE">
+        <source></source>
+        <translation>Security context (ZONE)</translation>
+    </message>
+    <message id="ZONE_tip">
+        <source></source>
+        <translation>The label that the kernel's access control gave the process; a dash when there is none. The same as CONTEXT.</translation>
+    </message>
+    <message id="menu_application">
+        <source></source>
+        <translation>&amp;Lurkwell</translation>
+    </message>
+    <message id="menu_file">
+        <source></source>
+        <translation>&amp;File</translation>
+    </message>
+    <message id="menu_edit">
+        <source></source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message id="menu_view">
+        <source></source>
+        <translation>&amp;View</translation>
+    </message>
+    <message id="menu_columns">
+        <source></source>
+        <translation>&amp;Columns</translation>
+    </message>
+    <message id="menu_process">
+        <source></source>
+        <translation>&amp;Process</translation>
+    </message>
+    <message id="menu_window">
+        <source></source>
+        <translation>&amp;Window</translation>
+    </message>
+    <message id="menu_help">
+        <source></source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message id="menu_application_about">
+        <source></source>
+        <translation>&amp;About Lurkwell</translation>
+    </message>
+    <message id="menu_application_preferences">
+        <source></source>
+        <translation>&amp;Preferences…</translation>
+    </message>
+    <message id="menu_application_quit">
+        <source></source>
+        <translation>&amp;Quit Lurkwell</translation>
+    </message>
+    <message id="menu_file_new_cpu_history">
+        <source></source>
+        <translation>New CPU &amp;History Window</translation>
+    </message>
+    <message id="menu_file_new_logging">
+        <source></source>
+        <translation>New &amp;Logging Window</translation>
+    </message>
+    <message id="menu_file_close_window">
+        <source></source>
+        <translation>&amp;Close Window</translation>
+    </message>
+    <message id="menu_edit_copy">
+        <source></source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message id="menu_edit_select_all">
+        <source></source>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message id="menu_edit_filter">
+        <source></source>
+        <translation>&amp;Filter…</translation>
+    </message>
+    <message id="menu_view_update_now">
+        <source></source>
+        <translation>&amp;Update Now</translation>
+    </message>
+    <message id="menu_view_show_toolbar">
+        <source></source>
+        <translation>Show &amp;Toolbar</translation>
+    </message>
+    <message id="menu_view_customise_toolbar">
+        <source></source>
+        <translation>&amp;Customise Toolbar…</translation>
+    </message>
+    <message id="menu_columns_icon">
+        <source></source>
+        <translation>&amp;Icon</translation>
+    </message>
+    <message id="menu_columns_indicator">
+        <source></source>
+        <translation>In&amp;dicator</translation>
+    </message>
+    <message id="menu_columns_name">
+        <source></source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message id="menu_columns_cpu_usage">
+        <source></source>
+        <translation>&amp;CPU Usage</translation>
+    </message>
+    <message id="menu_columns_memory">
+        <source></source>
+        <translation>&amp;Memory</translation>
+    </message>
+    <message id="menu_columns_built_in">
+        <source></source>
+        <translation>Process P&amp;roperties</translation>
+    </message>
+    <message id="menu_columns_ps">
+        <source></source>
+        <translation>&amp;ps Columns</translation>
+    </message>
+    <message id="menu_process_kill">
+        <source></source>
+        <translation>&amp;Kill…</translation>
+    </message>
+    <message id="menu_process_quit_or_kill">
+        <source></source>
+        <translation>&amp;Quit or Kill</translation>
+    </message>
+    <message id="menu_process_high_priority">
+        <source></source>
+        <translation>&amp;High Priority</translation>
+    </message>
+    <message id="menu_process_normal_priority">
+        <source></source>
+        <translation>&amp;Normal Priority</translation>
+    </message>
+    <message id="menu_process_low_priority">
+        <source></source>
+        <translation>&amp;Low Priority</translation>
+    </message>
+    <message id="menu_process_halt">
+        <source></source>
+        <translation>H&amp;alt</translation>
+    </message>
+    <message id="menu_process_continue">
+        <source></source>
+        <translation>&amp;Continue</translation>
+    </message>
+    <message id="menu_process_hide">
+        <source></source>
+        <translation>Hi&amp;de</translation>
+    </message>
+    <message id="menu_process_bring_to_front">
+        <source></source>
+        <translation>&amp;Bring to Front</translation>
+    </message>
+    <message id="menu_process_reveal">
+        <source></source>
+        <translation>&amp;Show in File Manager</translation>
+    </message>
+    <message id="menu_process_by_id">
+        <source></source>
+        <translation>Find Process by &amp;ID…</translation>
+    </message>
+    <message id="menu_window_show_main">
+        <source></source>
+        <translation>&amp;Processes</translation>
+    </message>
+    <message id="menu_window_show_animated_view">
+        <source></source>
+        <translation>&amp;Animated View</translation>
+    </message>
+    <message id="menu_window_full_screen">
+        <source></source>
+        <translation>&amp;Full Screen</translation>
+    </message>
+    <message id="menu_help_help">
+        <source></source>
+        <translation>Lurkwell &amp;Help</translation>
+    </message>
+    <message id="main_window_title">
+        <source></source>
+        <translation>Processes</translation>
+    </message>
+    <message id="main_window_filter_placeholder">
+        <source></source>
+        <translation>Filter processes</translation>
+    </message>
+    <message id="main_window_filter_tip">
+        <source></source>
+        <translation>Shows only processes that have this text in their ID or in a text column that is shown.</translation>
+    </message>
+    <message id="main_window_status_counts">
+        <source></source>
+        <translation>%1 processes, %2 shown, %3 selected</translation>
+    </message>
+    <message id="main_window_helper_starting">
+        <source></source>
+        <translation>The helper is being started.</translation>
+    </message>
+    <message id="main_window_helper_privileged">
+        <source></source>
+        <translation>The helper runs with an administrator's rights.</translation>
+    </message>
+    <message id="main_window_helper_unprivileged">
+        <source></source>
+        <translation>The helper is not running with an administrator's rights: other users' processes may lack figures.</translation>
+    </message>
+    <message id="main_window_helper_absent">
+        <source></source>
+        <translation>The helper is not running: figures beyond the process table are missing.</translation>
+    </message>
+    <message id="main_window_by_id_title">
+        <source></source>
+        <translation>Find Process by ID</translation>
+    </message>
+    <message id="main_window_by_id_label">
+        <source></source>
+        <translation>Process ID:</translation>
+    </message>
+    <message id="main_window_by_id_not_found">
+        <source></source>
+        <translation>There is no process %1.</translation>
+    </message>
+    <message id="process_halted">
+        <source></source>
+        <translation>Halted</translation>
+    </message>
+    <message id="process_niced_high">
+        <source></source>
+        <translation>High priority</translation>
+    </message>
+    <message id="process_niced_low">
+        <source></source>
+        <translation>Low priority</translation>
+    </message>
+    <message id="kill_confirmation_title_one">
+        <source></source>
+        <translation>Kill process %1 (%2)?</translation>
+    </message>
+    <message id="kill_confirmation_text_one">
+        <source></source>
+        <translation>The process will be asked to end. Each further time is harsher, and what has not been saved may be lost.</translation>
+    </message>
+    <message id="kill_confirmation_title_several">
+        <source></source>
+        <translation>Kill %1 processes?</translation>
+    </message>
+    <message id="kill_confirmation_text_several">
+        <source></source>
+        <translation>The selected processes will be asked to end. Each further time is harsher, and what has not been saved may be lost.</translation>
+    </message>
+    <message id="kill_confirmation_kill">
+        <source></source>
+        <translation>Kill</translation>
+    </message>
+    <message id="main_window_not_available">
+        <source></source>
+        <translation>This is not part of this version yet.</translation>
+    </message>
+    <message id="button_ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="button_cancel">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="button_find">
+        <source></source>
+        <translation>Find</translation>
+    </message>
+    <message id="darwin_tools_not_found">
+        <source></source>
+        <translation>Lurkwell cannot work without the system's tools /bin/ps, /bin/kill and /usr/bin/renice, and at least one of them was not found.</translation>
+    </message>
+    <message id="no_quartz_extreme">
+        <source></source>
+        <translation>This display has no graphics acceleration. The animated view will be slow.</translation>
+    </message>
+    <message id="about_title">
+        <source></source>
+        <translation>About Lurkwell</translation>
+    </message>
+    <message id="about_name">
+        <source></source>
+        <translation>Lurkwell</translation>
+    </message>
+    <message id="about_version">
+        <source></source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="about_text">
+        <source></source>
+        <translation>An interactive process monitor
+Free software under the MIT licence</translation>
+    </message>
+    <message id="toolbar_system_cpu">
+        <source></source>
+        <translation>CPU</translation>
+    </message>
+    <message id="toolbar_system_cpu_tip">
+        <source></source>
+        <translation>How busy the machine's processors are.</translation>
+    </message>
+    <message id="toolbar_system_ram">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="toolbar_system_ram_tip">
+        <source></source>
+        <translation>How the machine's memory is used.</translation>
+    </message>
+    <message id="toolbar_vm_thrashing">
+        <source></source>
+        <translation>Swapping</translation>
+    </message>
+    <message id="toolbar_vm_thrashing_tip">
+        <source></source>
+        <translation>Green while no memory is being swapped out, yellow while some is, flashing red while it is so much that the machine slows down.</translation>
+    </message>
+    <message id="toolbar_usage_history">
+        <source></source>
+        <translation>CPU History</translation>
+    </message>
+    <message id="toolbar_usage_history_tip">
+        <source></source>
+        <translation>Opens a window with the CPU usage over time for each selected process.</translation>
+    </message>
+    <message id="toolbar_log">
+        <source></source>
+        <translation>Log</translation>
+    </message>
+    <message id="toolbar_log_tip">
+        <source></source>
+        <translation>Opens a window that logs figures of each selected process.</translation>
+    </message>
+    <message id="toolbar_bring_to_front">
+        <source></source>
+        <translation>Bring to Front</translation>
+    </message>
+    <message id="toolbar_bring_to_front_tip">
+        <source></source>
+        <translation>Brings the windows of the selected applications to the front.</translation>
+    </message>
+    <message id="toolbar_kill">
+        <source></source>
+        <translation>Kill</translation>
+    </message>
+    <message id="toolbar_kill_tip">
+        <source></source>
+        <translation>Asks the selected processes to end; each further time on the same process is harsher.</translation>
+    </message>
+    <message id="toolbar_hide_process">
+        <source></source>
+        <translation>Hide</translation>
+    </message>
+    <message id="toolbar_hide_process_tip">
+        <source></source>
+        <translation>Hides the windows of the selected applications.</translation>
+    </message>
+    <message id="toolbar_reveal">
+        <source></source>
+        <translation>Show File</translation>
+    </message>
+    <message id="toolbar_reveal_tip">
+        <source></source>
+        <translation>Shows the selected applications in the file manager.</translation>
+    </message>
+    <message id="toolbar_high">
+        <source></source>
+        <translation>High</translation>
+    </message>
+    <message id="toolbar_high_tip">
+        <source></source>
+        <translation>Gives the selected processes a high priority (nice -19).</translation>
+    </message>
+    <message id="toolbar_medium">
+        <source></source>
+        <translation>Normal</translation>
+    </message>
+    <message id="toolbar_medium_tip">
+        <source></source>
+        <translation>Gives the selected processes the normal priority (nice 0).</translation>
+    </message>
+    <message id="toolbar_low">
+        <source></source>
+        <translation>Low</translation>
+    </message>
+    <message id="toolbar_low_tip">
+        <source></source>
+        <translation>Gives the selected processes the lowest priority, so that they give way to all others.</translation>
+    </message>
+    <message id="toolbar_halt">
+        <source></source>
+        <translation>Halt</translation>
+    </message>
+    <message id="toolbar_halt_tip">
+        <source></source>
+        <translation>Stops the selected processes until they are continued.</translation>
+    </message>
+    <message id="toolbar_cont">
+        <source></source>
+        <translation>Continue</translation>
+    </message>
+    <message id="toolbar_cont_tip">
+        <source></source>
+        <translation>Lets the selected processes that were halted go on.</translation>
+    </message>
+    <message id="toolbar_prefs">
+        <source></source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="toolbar_prefs_tip">
+        <source></source>
+        <translation>Opens the preferences.</translation>
+    </message>
+    <message id="toolbar_customise">
+        <source></source>
+        <translation>Customise</translation>
+    </message>
+    <message id="toolbar_customise_tip">
+        <source></source>
+        <translation>Chooses what the toolbar holds and in which order.</translation>
+    </message>
+</context>
+</TS>
