@@ -77,9 +77,19 @@ class RealMachine {
   LinuxTools mTools;
   LinuxNamedPipes mPipes;
   SimulatedMachine mRest;
-  Machine mServices{clock,    mRest.runLoop,       mPreferences, mTable,
-                    mManager, mStatistics,         mTools,       mRest.signals,
-                    mPipes,   mRest.authorization, mRest.bundle, mRest.alerts};
+  Machine mServices{clock,
+                    mRest.runLoop,
+                    mPreferences,
+                    mTable,
+                    mManager,
+                    mRest.iconServices,
+                    mStatistics,
+                    mTools,
+                    mRest.signals,
+                    mPipes,
+                    mRest.authorization,
+                    mRest.bundle,
+                    mRest.alerts};
   MachineInstallation mInstallation{mServices};
 };
 

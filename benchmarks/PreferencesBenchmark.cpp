@@ -40,10 +40,11 @@ class Store {
 
   std::string mFolder;
   PropertyListDomain mDomain;
-  Machine mMachine{Absent<Clock>(),         Absent<RunLoop>(),        mDomain,
-                   Absent<ProcessTable>(),  Absent<ProcessManager>(), Absent<HostStatistics>(),
-                   Absent<Tools>(),         Absent<Signals>(),        Absent<NamedPipes>(),
-                   Absent<Authorization>(), Absent<Bundle>(),         Absent<Alerts>()};
+  Machine mMachine{Absent<Clock>(),          Absent<RunLoop>(),        mDomain,
+                   Absent<ProcessTable>(),   Absent<ProcessManager>(), Absent<IconServices>(),
+                   Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
+                   Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
+                   Absent<Alerts>()};
   MachineInstallation mInstallation;
 };
 

@@ -39,6 +39,10 @@ std::int64_t ProcessInformationClient::GetMillisecondsToNextHeartbeat(const Time
   return milliseconds;
 }
 
+void ProcessInformationClient::MakeDue(const ProcessInformationClient* client) {
+  NodeOf(client).lastHeartbeat = {};
+}
+
 void ProcessInformationClient::NotifyAllProcessesHaveBeenUpdated(const TimeValue* now) {
   Require(now != nullptr, kClientUnit, "curTime != NULL");
   Walk walk;

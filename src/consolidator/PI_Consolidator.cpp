@@ -121,6 +121,11 @@ void HeartbeatCFTimerFunc(RunLoopTimer* timer) {
   timer->SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
 }
 
+void RequestUpdate(ProcessInformationClient* client) {
+  Client::MakeDue(client);
+  gHeartbeatCFTimerRef->SetNextFireDate(TheMachine().clock.AbsoluteTime());
+}
+
 void DestroyProcessInformationConsolidator() {
   gHeartbeatCFTimerRef.reset();
   gRecords.Clear();

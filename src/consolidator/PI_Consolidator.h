@@ -22,6 +22,10 @@ void InitializeProcessInformationConsolidator();
 /// their turns and sets the timer's next date. The timer's callback; main thread.
 void HeartbeatCFTimerFunc(RunLoopTimer* timer);
 
+/// Makes an active client due and the heart beat as soon as the run loop comes round, instead of
+/// when the client's interval has passed. Main thread.
+void RequestUpdate(ProcessInformationClient* client);
+
 /// Ends the heartbeat and forgets every record. Main thread, when no client is left.
 void DestroyProcessInformationConsolidator();
 

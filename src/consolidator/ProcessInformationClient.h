@@ -103,6 +103,9 @@ class ProcessInformationClient {
   /// late.
   static std::int64_t GetMillisecondsToNextHeartbeat(const TimeValue* now);
 
+  /// The client is due at the next heartbeat, whatever its interval.
+  static void MakeDue(const ProcessInformationClient* client);
+
   /// Gives every due client its turn: additions, changes, removals, then the update.
   static void NotifyAllProcessesHaveBeenUpdated(const TimeValue* now);
 

@@ -7,6 +7,7 @@ class Authorization;
 class Bundle;
 class Clock;
 class HostStatistics;
+class IconServices;
 class NamedPipes;
 class PreferenceDomain;
 class ProcessManager;
@@ -23,6 +24,7 @@ struct Machine {
   PreferenceDomain& preferenceDomain;
   ProcessTable& processTable;
   ProcessManager& processManager;
+  IconServices& iconServices;
   HostStatistics& hostStatistics;
   Tools& tools;
   Signals& signals;

@@ -64,9 +64,9 @@ bool ShowProcessPSN(ProcessSerialNumber psn, bool show) {
 
 bool RevealProcessInFinder(ProcessSerialNumber psn) {
   const ProcessSerialNumber finder = FindFinder();
-  if (finder.IsNone()) return false;
+  // Where none is running the desktop starts one, which comes to the front by itself.
   const bool revealed = TheMachine().processManager.Reveal(psn);
-  TheMachine().processManager.SetFrontProcess(finder);
+  if (!finder.IsNone()) TheMachine().processManager.SetFrontProcess(finder);
   return revealed;
 }
 

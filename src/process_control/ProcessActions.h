@@ -44,7 +44,7 @@ const char* ProcessIndicatorImageName(std::int32_t pid);
 // ------------------------------------------------------------------------------
 
 /// Asks an application to quit, to show or hide its windows, or the file manager to show it and
-/// come to the front (without a file manager nothing happens). False when nobody could be asked.
+/// come to the front. False when nobody could be asked.
 bool KillProcessPSN(ProcessSerialNumber psn);
 bool ShowProcessPSN(ProcessSerialNumber psn, bool show);
 bool RevealProcessInFinder(ProcessSerialNumber psn);

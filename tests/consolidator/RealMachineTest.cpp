@@ -70,6 +70,7 @@ class RealMachineTest : public ConsolidatorTest {
                machine.preferenceDomain,
                processTable,
                machine.processManager,
+               machine.iconServices,
                hostStatistics,
                tools,
                machine.signals,

@@ -77,10 +77,11 @@ inline std::string PropertyList(const std::string& entries) {
 class PreferenceMachine {
  public:
   explicit PreferenceMachine(PreferenceDomain& domain)
-      : mMachine{Absent<Clock>(),         Absent<RunLoop>(),        domain,
-                 Absent<ProcessTable>(),  Absent<ProcessManager>(), Absent<HostStatistics>(),
-                 Absent<Tools>(),         Absent<Signals>(),        Absent<NamedPipes>(),
-                 Absent<Authorization>(), Absent<Bundle>(),         Absent<Alerts>()},
+      : mMachine{Absent<Clock>(),          Absent<RunLoop>(),        domain,
+                 Absent<ProcessTable>(),   Absent<ProcessManager>(), Absent<IconServices>(),
+                 Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
+                 Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
+                 Absent<Alerts>()},
         mInstallation(mMachine) {}
 
  private:

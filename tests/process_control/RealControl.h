@@ -65,6 +65,7 @@ class RealMachine {
                    simulated.preferenceDomain,
                    simulated.processTable,
                    simulated.processManager,
+                   simulated.iconServices,
                    simulated.hostStatistics,
                    tools,
                    signals,

@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxSignals.h"
 #include "platform/linux/LinuxTools.h"
+#include "platform/linux/NoIconServices.h"
 #include "platform/linux/NoProcessManager.h"
 #include "platform/linux/PolkitAuthorization.h"
 #include "platform/linux/PollRunLoop.h"
@@ -25,6 +26,7 @@ class LinuxMachine {
   PropertyListDomain preferenceDomain;
   LinuxProcessTable processTable;
   NoProcessManager processManager;
+  NoIconServices iconServices;
   LinuxHostStatistics hostStatistics;
   LinuxTools tools;
   LinuxSignals signals;
@@ -33,7 +35,7 @@ class LinuxMachine {
   PolkitAuthorization authorization{bundle};
   TerminalAlerts alerts;
 
-  Machine services{clock, runLoop, preferenceDomain, processTable,  processManager, hostStatistics,
+  Machine services{clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
                    tools, signals, namedPipes,       authorization, bundle,         alerts};
 };
 

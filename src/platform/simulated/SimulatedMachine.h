@@ -7,6 +7,7 @@
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedHelper.h"
+#include "platform/simulated/SimulatedIconServices.h"
 #include "platform/simulated/SimulatedNamedPipes.h"
 #include "platform/simulated/SimulatedPreferenceDomain.h"
 #include "platform/simulated/SimulatedProcessManager.h"
@@ -27,6 +28,7 @@ class SimulatedMachine {
   SimulatedPreferenceDomain preferenceDomain;
   SimulatedProcessTable processTable{clock, log};
   SimulatedProcessManager processManager{log};
+  SimulatedIconServices iconServices{log};
   SimulatedHostStatistics hostStatistics;
   SimulatedTools tools{log};
   SimulatedSignals signals{log};
@@ -36,7 +38,7 @@ class SimulatedMachine {
   SimulatedAlerts alerts{log};
   SimulatedHelper helper{processTable, log};
 
-  Machine services{clock, runLoop, preferenceDomain, processTable,  processManager, hostStatistics,
+  Machine services{clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
                    tools, signals, namedPipes,       authorization, bundle,         alerts};
 };
 
