@@ -11,6 +11,10 @@ constexpr char kHelpText[] =
     R"(Usage: lurkwell [OPTION]...
 Watches the processes of this machine.
 
+  --theme THEME        light, dark, or system: what the desktop has
+  --screenshot FILE    write a picture of a window (PNG) after two updates and end;
+                       works without a display, too
+  --window NAME        which window: main or about (with --screenshot)
   --print              print the processes in the terminal, once a second
   --count N            end after N updates (with --print)
   --columns KEY,...    print these properties instead of the usual five
@@ -22,7 +26,8 @@ Watches the processes of this machine.
   --help               show this text
   --version            show the version
 
-Without options, and without a display, the processes are printed.
+Without options the window is shown; without a display, the processes are
+printed.
 Exit status: 0 after a normal end, 1 when something failed, 2 for options that
 make no sense.
 )";
@@ -60,6 +65,9 @@ class Reader {
   bool ReadOption() {
     if (mOption == "--count") return ReadCount();
     if (mOption == "--columns") return ReadColumns();
+    if (mOption == "--screenshot") return ReadScreenshot();
+    if (mOption == "--window") return ReadWindow();
+    if (mOption == "--theme") return ReadTheme();
     if (mValue) return Complain(std::string(mOption) + " takes no value");
     if (mOption == "--print") {
       mLine.action = CommandLine::Action::kPrint;
@@ -101,6 +109,27 @@ class Reader {
       rest.remove_prefix(comma == std::string_view::npos ? rest.size() : comma + 1);
     }
     return !mLine.columns.empty() || Complain("--columns needs at least one key");
+  }
+
+  bool ReadScreenshot() {
+    if (!TakeValue()) return false;
+    mLine.screenshot = *mValue;
+    return !mValue->empty() || Complain("--screenshot needs a file name");
+  }
+
+  bool ReadWindow() {
+    if (!TakeValue()) return false;
+    mLine.window = *mValue;
+    return mLine.window == "main" || mLine.window == "about" ||
+           Complain("there is no window '" + mLine.window + "'; there are main and about");
+  }
+
+  bool ReadTheme() {
+    if (!TakeValue()) return false;
+    if (*mValue == "system") return mLine.theme = CommandLine::Theme::kSystem, true;
+    if (*mValue == "light") return mLine.theme = CommandLine::Theme::kLight, true;
+    if (*mValue == "dark") return mLine.theme = CommandLine::Theme::kDark, true;
+    return Complain("--theme is light, dark or system, not '" + std::string(*mValue) + "'");
   }
 
   std::span<const char* const> mArguments;

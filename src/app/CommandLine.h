@@ -12,6 +12,7 @@ namespace lurkwell {
 /// What the command line asks for.
 struct CommandLine {
   enum class Action { kRun, kPrint, kHelp, kVersion };
+  enum class Theme { kSystem, kLight, kDark };
 
   Action action = Action::kRun;
   /// End after that many updates; without it, go on until a signal.
@@ -20,6 +21,11 @@ struct CommandLine {
   std::vector<std::string> columns;
   /// Start the helper with the user's own rights.
   bool unprivileged = false;
+  /// A file to write a window's picture to, instead of running on.
+  std::optional<std::string> screenshot;
+  /// Which window: "main" or "about".
+  std::string window = "main";
+  Theme theme = Theme::kSystem;
 };
 
 /// Exit statuses of the program.

@@ -1,12 +1,89 @@
+#include <QApplication>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <iostream>
 
 #include "app/CommandLine.h"
 #include "app/PrintMode.h"
+#include "app/WindowMode.h"
 #include "platform/Machine.h"
+#include "platform/desktop/DesktopAlerts.h"
+#include "platform/desktop/DesktopIconServices.h"
+#include "platform/desktop/DesktopProcessManager.h"
+#include "platform/desktop/EndingSignals.h"
+#include "platform/desktop/QtRunLoop.h"
 #include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxMachine.h"
+
+namespace lurkwell {
+namespace {
+
+/// This machine with its desktop. Main thread; a QApplication exists.
+class DesktopMachine {
+ public:
+  explicit DesktopMachine(PolkitAuthorization::Consent consent) : mConsent(consent) {}
+
+ private:
+  PolkitAuthorization::Consent mConsent;
+
+ public:
+  LinuxClock clock;
+  QtRunLoop runLoop{clock};
+  PropertyListDomain preferenceDomain;
+  LinuxProcessTable processTable;
+  DesktopProcessManager processManager{DesktopSettings::FromEnvironment()};
+  DesktopIconServices iconServices{processManager};
+  LinuxHostStatistics hostStatistics;
+  LinuxTools tools;
+  LinuxSignals signals;
+  LinuxNamedPipes namedPipes;
+  LinuxBundle bundle;
+  PolkitAuthorization authorization{bundle, mConsent};
+  DesktopAlerts alerts;
+
+  Machine services{
+      clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
+      tools, signals, namedPipes,       authorization, bundle,         alerts};
+};
+
+int RunInTerminal(const CommandLine& commandLine) {
+  LinuxMachine machine;
+  const MachineInstallation installation(machine.services);
+  return RunPrintMode(commandLine);
+}
+
+int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
+  EndingSignals signals;
+  QApplication::setApplicationName(QStringLiteral("lurkwell"));
+  QApplication::setDesktopFileName(QStringLiteral("com.velquarin.lurkwell"));
+  const QApplication application(argc, argv);
+  signals.Watch();
+  // A picture is taken without asking anybody anything.
+  using Consent = PolkitAuthorization::Consent;
+  DesktopMachine machine(commandLine.screenshot ? Consent::kOnlyIfGiven : Consent::kMayAsk);
+  const MachineInstallation installation(machine.services);
+  return RunWindowMode(commandLine);
+}
+
+int Run(const CommandLine& commandLine, int& argc, char** argv) {
+  if (commandLine.action == CommandLine::Action::kPrint) return RunInTerminal(commandLine);
+  const bool platformIsChosen = std::getenv("QT_QPA_PLATFORM") != nullptr;
+  if (!platformIsChosen && !IsDisplayReachable()) {
+    if (!commandLine.screenshot) {
+      std::fputs(
+          "lurkwell: no display; printing the processes. Start it in a graphical session, or "
+          "with DISPLAY set, to see the window.\n",
+          stderr);
+      return RunInTerminal(commandLine);
+    }
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  }
+  return RunOnDesktop(commandLine, argc, argv);
+}
+
+}  // namespace
+}  // namespace lurkwell
 
 int main(int argc, char** argv) {
   using namespace lurkwell;
@@ -24,9 +101,5 @@ int main(int argc, char** argv) {
   // The helper's end of a pipe may go at any time; writing to it then is an error, not the end.
   std::signal(SIGPIPE, SIG_IGN);
   RaiseDescriptorLimit();
-  LinuxMachine machine;
-  const MachineInstallation installation(machine.services);
-  if (commandLine->action == CommandLine::Action::kRun)
-    std::fputs("lurkwell: this version has no window yet; printing the processes.\n", stderr);
-  return RunPrintMode(*commandLine);
+  return Run(*commandLine, argc, argv);
 }

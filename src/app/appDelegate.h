@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+#include <string>
+
+#include "main_window/MainWindow.h"
+
+namespace lurkwell {
+
+/// Starts the program's parts in their order and ends them in theirs, and serves the commands that
+/// concern the application as a whole. One per process; main thread only.
+class vqAppDelegate final : public QObject, public ApplicationCommands {
+  Q_OBJECT
+
+ public:
+  /// How far to start.
+  enum class Launch {
+    kUsual,
+    /// Without the about panel and without what the user left open: for taking a picture.
+    kForPicture,
+  };
+
+  explicit vqAppDelegate(Launch launch = Launch::kUsual);
+  ~vqAppDelegate() override;
+
+  /// Starts the consolidator, before any window can want something of it, and makes the windows.
+  void init();
+
+  /// Starts everything else. When a tool of the system is missing, says so and ends the process
+  /// with status 255, with nothing started but the consolidator.
+  void applicationDidFinishLaunching();
+
+  /// Ends everything. Clients hear that every process is gone before the helper is asked to go, and
+  /// go themselves after it.
+  void applicationWillTerminate();
+
+  void doThePrefs() override;
+  void doAboutPanel() override;
+  void doShowMainWindow() override;
+  void doQuit() override;
+  bool isLastWindow(const QWidget& window) const override;
+
+  MainWindow& mainWindow() { return *fMainWindow; }
+
+ private:
+  void ReopenWindows();
+
+  Launch mLaunch;
+  bool mIsRunning = false;
+  std::unique_ptr<MainWindow> fMainWindow;
+};
+
+extern vqAppDelegate* gAppDelegate;
+
+/// Whether the programs that Lurkwell runs beside itself are there: /bin/ps, /bin/kill,
+/// /usr/bin/renice.
+bool SystemHasNecessaryTools();
+bool ToolExists(const std::string& path);
+
+}  // namespace lurkwell

@@ -1,0 +1,141 @@
+#include "main_window/ColumnMenus.h"
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/vqMainTableController.h"
+#include "platform/Assertion.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kMenusUnit[] = "vqMainTableController";
+
+QString TitleOf(KeyId key) {
+  // An ampersand of a title is no mnemonic.
+  return LocalizedString(KeyText(key).data()).replace(QLatin1String("&"), QLatin1String("&&"));
+}
+
+KeyId KeyOf(const QAction& item) {
+  return item.data().toInt();
+}
+
+}  // namespace
+
+ColumnMenus::ColumnMenus(vqMainTableController& controller) : mController(controller) {}
+
+QAction* ColumnMenus::AddItem(QMenu& menu, KeyId key) {
+  auto* item = menu.addAction(TitleOf(key));
+  item->setData(key);
+  item->setCheckable(true);
+  item->setChecked(mController.isTracked(KeyText(key)));
+  item->setToolTip(LocalizedString((std::string(KeyText(key)) + "_tip").c_str()));
+  return item;
+}
+
+void ColumnMenus::Build() {
+  const auto prepare = [this](QAction& item, KeyId key, void (ColumnMenus::*handler)()) {
+    item.setText(TitleOf(key));
+    item.setCheckable(true);
+    item.setChecked(mController.isTracked(KeyText(key)));
+    connect(&item, &QAction::triggered, this, handler);
+  };
+  prepare(fTopLevelIconMenuItem, kInternalIcon, &ColumnMenus::processIconMenuItem);
+  prepare(fTopLevelIndicatorMenuItem, kInternalIndicator, &ColumnMenus::processIndicatorMenuItem);
+  prepare(fTopLevelNameMenuItem, kMetaName, &ColumnMenus::processNameMenuItem);
+  prepare(fTopLevelCPUPercentMenuItem, kInternalCPUPercent,
+          &ColumnMenus::processCPUPercentMenuItem);
+  prepare(fTopLevelMemGraphMenuItem, kInternalMemGraph, &ColumnMenus::processMemGraphMenuItem);
+
+  mBuiltInMenu.setTitle(LocalizedString("menu_columns_built_in"));
+  mPSAvailableMenu.setTitle(LocalizedString("menu_columns_ps"));
+  for (auto* menu : {&mBuiltInMenu, &mPSAvailableMenu}) menu->setToolTipsVisible(true);
+  char header[64];
+  for (int n = 0; n < CountProcPropertyHeaders(); ++n) {
+    if (!GetNthProcPropertyHeader(n, header, sizeof header)) continue;
+    const KeyId key = InternKey(header);
+    const bool builtIn = n < CountBuiltInProcPropertyHeaders();
+    if (builtIn && key == kMetaPid) continue;
+    auto* item = AddItem(builtIn ? mBuiltInMenu : mPSAvailableMenu, key);
+    connect(item, &QAction::triggered, this, [this, item, builtIn] {
+      builtIn ? processBuiltInMenuItem(item) : processPSAvailableMenuItem(item);
+    });
+  }
+}
+
+void ColumnMenus::AppendTo(QMenu& menu) const {
+  auto* self = const_cast<ColumnMenus*>(this);
+  for (auto* item : {&self->fTopLevelIconMenuItem, &self->fTopLevelIndicatorMenuItem,
+                     &self->fTopLevelNameMenuItem, &self->fTopLevelCPUPercentMenuItem,
+                     &self->fTopLevelMemGraphMenuItem})
+    menu.addAction(item);
+  menu.addSeparator();
+  menu.addMenu(&self->mBuiltInMenu);
+  menu.addMenu(&self->mPSAvailableMenu);
+}
+
+QAction& ColumnMenus::TopLevelItem(KeyId key) {
+  if (key == kInternalIcon) return fTopLevelIconMenuItem;
+  if (key == kInternalIndicator) return fTopLevelIndicatorMenuItem;
+  if (key == kMetaName) return fTopLevelNameMenuItem;
+  if (key == kInternalCPUPercent) return fTopLevelCPUPercentMenuItem;
+  return fTopLevelMemGraphMenuItem;
+}
+
+QAction* ColumnMenus::BuiltInItem(KeyId key) const {
+  for (auto* item : mBuiltInMenu.actions())
+    if (KeyOf(*item) == key) return item;
+  return nullptr;
+}
+
+void ColumnMenus::processGeneralMenuItem(QAction* item, KeyId key, KeyId afterKey) {
+  // Qt has ticked the chosen item already; the column tells what it was before.
+  if (mController.isTracked(KeyText(key))) {
+    item->setChecked(false);
+    mController.removeFromKeysWeTrackForUI(key);
+  } else {
+    item->setChecked(true);
+    mController.addToKeysWeTrackForUI(key, afterKey);
+  }
+}
+
+void ColumnMenus::processIconMenuItem() {
+  processGeneralMenuItem(&fTopLevelIconMenuItem, kInternalIcon);
+}
+
+void ColumnMenus::processIndicatorMenuItem() {
+  processGeneralMenuItem(&fTopLevelIndicatorMenuItem, kInternalIndicator, kInternalIcon);
+}
+
+void ColumnMenus::processCPUPercentMenuItem() {
+  processGeneralMenuItem(&fTopLevelCPUPercentMenuItem, kInternalCPUPercent);
+}
+
+void ColumnMenus::processMemGraphMenuItem() {
+  processGeneralMenuItem(&fTopLevelMemGraphMenuItem, kInternalMemGraph);
+}
+
+void ColumnMenus::processNameMenuItem() {
+  processGeneralMenuItem(&fTopLevelNameMenuItem, kMetaName);
+  // The same column has an item among the built-in ones.
+  if (auto* item = BuiltInItem(kMetaName)) item->setChecked(fTopLevelNameMenuItem.isChecked());
+}
+
+void ColumnMenus::processBuiltInMenuItem(QAction* item) {
+  Require(mBuiltInMenu.actions().contains(item), kMenusUnit, "builtInMenuItemToDealWith");
+  processGeneralMenuItem(item, KeyOf(*item));
+  if (KeyOf(*item) == kMetaName) fTopLevelNameMenuItem.setChecked(item->isChecked());
+}
+
+void ColumnMenus::processPSAvailableMenuItem(QAction* item) {
+  Require(mPSAvailableMenu.actions().contains(item), kMenusUnit, "PSAvailableMenuItemToDealWith");
+  processGeneralMenuItem(item, KeyOf(*item));
+}
+
+void ColumnMenus::Validate() {
+  const bool builtIn = mController.validateMenuItem(MenuCommand::kBuiltInColumn);
+  const bool ps = mController.validateMenuItem(MenuCommand::kPSAvailableColumn);
+  for (auto* item : mBuiltInMenu.actions()) item->setEnabled(builtIn);
+  for (auto* item : mPSAvailableMenu.actions()) item->setEnabled(ps);
+}
+
+}  // namespace lurkwell

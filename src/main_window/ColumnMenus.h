@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <QObject>
+
+#include "main_window/Keys.h"
+
+namespace lurkwell {
+
+class vqMainTableController;
+
+/// The menu items that say which columns are shown: five of their own, and one for every built-in
+/// property and every ps column in two submenus. Items are ticked while their column is shown.
+/// Belongs to the table's controller; main thread only.
+class ColumnMenus : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit ColumnMenus(vqMainTableController& controller);
+
+  /// Makes the items, when the properties are known. Once.
+  void Build();
+
+  /// The five items and the two submenus, to be put wherever columns can be chosen.
+  void AppendTo(QMenu& menu) const;
+
+  void processIconMenuItem();
+  void processIndicatorMenuItem();
+  void processNameMenuItem();
+  void processCPUPercentMenuItem();
+  void processMemGraphMenuItem();
+  void processBuiltInMenuItem(QAction* item);
+  void processPSAvailableMenuItem(QAction* item);
+
+  /// Ticks the item and shows the column, or the other way round; `item` was off or on before.
+  void processGeneralMenuItem(QAction* item, KeyId key, KeyId afterKey = kNoKey);
+
+  /// Enables the items of the submenus or not.
+  void Validate();
+
+  QMenu& BuiltInMenu() { return mBuiltInMenu; }
+  QMenu& PSAvailableMenu() { return mPSAvailableMenu; }
+  QAction& TopLevelItem(KeyId key);
+
+ private:
+  QAction* AddItem(QMenu& menu, KeyId key);
+  QAction* BuiltInItem(KeyId key) const;
+
+  vqMainTableController& mController;
+  QMenu mBuiltInMenu;
+  QMenu mPSAvailableMenu;
+  QAction fTopLevelIconMenuItem;
+  QAction fTopLevelIndicatorMenuItem;
+  QAction fTopLevelNameMenuItem;
+  QAction fTopLevelCPUPercentMenuItem;
+  QAction fTopLevelMemGraphMenuItem;
+};
+
+}  // namespace lurkwell

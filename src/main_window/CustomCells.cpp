@@ -1,0 +1,126 @@
+#include "main_window/CustomCells.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "main_window/VQTarvMainWindowInfoSynch.h"
+#include "main_window/vqMainTableController.h"
+#include "process_control/DisplayFormats.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr int kTextMargin = 4;
+
+QColor Colour(double red, double green, double blue) {
+  return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
+                          static_cast<float>(blue));
+}
+
+bool IsSelected(const QStyleOptionViewItem& option) {
+  return (option.state & QStyle::State_Selected) != 0;
+}
+
+QPalette::ColorGroup GroupOf(const QStyleOptionViewItem& option) {
+  return (option.state & QStyle::State_Active) != 0 ? QPalette::Active : QPalette::Inactive;
+}
+
+void DrawBackground(QPainter& painter, const QStyleOptionViewItem& option) {
+  if (IsSelected(option))
+    painter.fillRect(option.rect, option.palette.brush(GroupOf(option), QPalette::Highlight));
+}
+
+/// The left part of `rect`, `share` of its width, at least `least` points.
+QRect BarIn(const QRect& rect, double share, int least) {
+  const int width = std::max(static_cast<int>(std::floor(rect.width() * share)), least);
+  return QRect(rect.left(), rect.top(), std::min(width, std::max(rect.width(), least)),
+               rect.height());
+}
+
+}  // namespace
+
+bool IsDark(const QPalette& palette) {
+  return palette.color(QPalette::Text).lightness() > palette.color(QPalette::Base).lightness();
+}
+
+void TextCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) const {
+  DrawBackground(*painter, option);
+  const auto text = index.data(Qt::DisplayRole).toString();
+  if (text.isEmpty()) return;
+  const auto rect = option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
+  const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+  painter->setFont(option.font);
+  painter->setPen(option.palette.color(
+      GroupOf(option), IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
+  const auto& metrics = option.fontMetrics;
+  const bool fits = metrics.horizontalAdvance(text) <= rect.width();
+  painter->drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine,
+                    fits ? text : metrics.elidedText(text, Qt::ElideRight, rect.width()));
+}
+
+void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                      const QModelIndex& index) const {
+  DrawBackground(*painter, option);
+  const auto value = index.data(Qt::DecorationRole);
+  const QRect place(option.rect.center() - QPoint(kSize / 2 - 1, kSize / 2 - 1),
+                    QSize(kSize, kSize));
+  if (value.userType() == QMetaType::QPixmap) {
+    painter->drawPixmap(place, value.value<QPixmap>());
+  } else if (value.userType() == QMetaType::QIcon) {
+    value.value<QIcon>().paint(painter, place);
+  }
+}
+
+void CPUCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark) const {
+  const auto inside = frame.adjusted(3, 3, -3, -3);
+  painter.fillRect(inside, isDark ? QColor(72, 76, 84) : QColor(Qt::lightGray));
+  painter.fillRect(BarIn(inside, mCpuPercentage, 1),
+                   isDark ? QColor(94, 158, 255) : QColor(Qt::blue));
+}
+
+void CPUCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                    const QModelIndex& index) const {
+  DrawBackground(*painter, option);
+  mCpuPercentage = index.data(vqMainTableController::kCpuShareRole).toDouble();
+  drawInteriorWithFrame(*painter, option.rect, IsDark(option.palette));
+}
+
+void MemGraphCell::DrawText(QPainter& painter, const QRect& frame, const QPalette& palette) const {
+  char text[31];
+  FormatMemoryString(mVSZ, text, sizeof text, false);
+  auto rect = frame.adjusted(3, 1, -3, -1);
+  // A narrow column keeps the end of the text.
+  if (rect.width() < 40 && frame.width() >= 40) rect.setLeft(rect.right() - 39);
+  painter.setPen(palette.color(QPalette::Text));
+  painter.drawText(rect, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+                   QString::fromLatin1(text));
+}
+
+void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
+                                         const QPalette& palette) const {
+  const bool isLarger = mVSZ > gBiggestVSZ;
+  const auto maximum = static_cast<double>(isLarger ? mVSZ : gBiggestVSZ);
+  const auto share = [&](std::int64_t size) {
+    return maximum > 0.0 ? std::clamp(static_cast<double>(size) / maximum, 0.0, 1.0) : 0.0;
+  };
+  painter.fillRect(BarIn(frame.adjusted(3, 5, -3, -5), share(mVSZ), 3),
+                   isLarger ? Colour(0.5, 0.7, 0.0) : Colour(0.2, 0.9, 0.2));
+  painter.fillRect(BarIn(frame.adjusted(2, 2, -2, -2), share(mRSZ), 2),
+                   isLarger ? Colour(0.35, 0.4, 0.0) : Colour(0.0, 0.3, 0.0));
+  if (gDrawVSZText) DrawText(painter, frame, palette);
+}
+
+void MemGraphCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+  DrawBackground(*painter, option);
+  mRSZ = index.data(vqMainTableController::kResidentSizeRole).toLongLong();
+  mVSZ = index.data(vqMainTableController::kVirtualSizeRole).toLongLong();
+  painter->setFont(option.font);
+  drawInteriorWithFrame(*painter, option.rect, option.palette);
+}
+
+}  // namespace lurkwell

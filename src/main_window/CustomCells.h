@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+#include <cstdint>
+
+namespace lurkwell {
+
+/// The drawing of the table's cells; one of each kind serves all rows. Values are set right before
+/// drawing. Colours follow the palette where it is dark. Main thread only.
+
+/// One line of text, cut at the end, with the selection behind it.
+class TextCell final : public QStyledItemDelegate {
+ public:
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+};
+
+/// A small picture in the middle.
+class ImageCell final : public QStyledItemDelegate {
+ public:
+  /// Points.
+  static constexpr int kSize = 16;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+};
+
+/// A share of one CPU as a bar from the left; an idle process has a sliver of one point.
+class CPUCell final : public QStyledItemDelegate {
+ public:
+  double cpuPercent() const { return mCpuPercentage; }
+  /// From 0 to 1.
+  void setCpuPercent(double share) { mCpuPercentage = share; }
+
+  void drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark) const;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+
+ private:
+  mutable double mCpuPercentage = 0.0;
+};
+
+/// Resident and virtual size as two bars, measured by gBiggestVSZ; a row larger than that has
+/// colours of its own. With gDrawVSZText the virtual size stands on it.
+class MemGraphCell final : public QStyledItemDelegate {
+ public:
+  /// Bytes.
+  void setRSZ(std::int64_t size) { mRSZ = size; }
+  void setVSZ(std::int64_t size) { mVSZ = size; }
+
+  void drawInteriorWithFrame(QPainter& painter, const QRect& frame, const QPalette& palette) const;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+
+ private:
+  void DrawText(QPainter& painter, const QRect& frame, const QPalette& palette) const;
+
+  mutable std::int64_t mRSZ = 0;
+  mutable std::int64_t mVSZ = 0;
+};
+
+/// Whether texts of the palette are lighter than what they stand on.
+bool IsDark(const QPalette& palette);
+
+}  // namespace lurkwell

@@ -1,0 +1,65 @@
+#include "main_window/FrontmostWindow.h"
+
+#include <QEvent>
+#include <QPointer>
+
+namespace lurkwell {
+namespace {
+
+/// Moves windows to the front of the list as they are used.
+class WindowOrder : public QObject {
+ public:
+  static WindowOrder& Instance() {
+    static WindowOrder order;
+    return order;
+  }
+
+  void Watch(QWidget& window) {
+    window.installEventFilter(this);
+    mWindows.append(&window);
+  }
+
+  QList<QWidget*> Windows() {
+    mWindows.removeIf([](const QPointer<QWidget>& window) { return window.isNull(); });
+    return {mWindows.begin(), mWindows.end()};
+  }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    const bool comesToFront =
+        event->type() == QEvent::WindowActivate || event->type() == QEvent::Show;
+    auto* window = comesToFront ? qobject_cast<QWidget*>(object) : nullptr;
+    if (window != nullptr) {
+      mWindows.removeAll(QPointer<QWidget>(window));
+      mWindows.prepend(window);
+    }
+    return false;
+  }
+
+ private:
+  QList<QPointer<QWidget>> mWindows;
+};
+
+}  // namespace
+
+void WatchWindowOrder(QWidget& window) {
+  WindowOrder::Instance().Watch(window);
+}
+
+QList<QWidget*> orderedWindows() {
+  return WindowOrder::Instance().Windows();
+}
+
+bool EnsureThatCocoaWindowIsFrontmostIfPossible() {
+  for (auto* window : orderedWindows()) {
+    const auto title = window->windowTitle();
+    const bool matches = title.startsWith(QLatin1String("Process")) ||
+                         title.startsWith(QLatin1String("Lurkwell Pref"));
+    if (!window->isVisible() || !matches) continue;
+    window->raise();
+    window->activateWindow();
+    return true;
+  }
+  return false;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QList>
+#include <QWidget>
+
+namespace lurkwell {
+
+/// The order of the program's own windows, as far as it can be told: the one that was used last
+/// comes first. Main thread only.
+
+/// From now on the window takes part in the order, until it is destroyed.
+void WatchWindowOrder(QWidget& window);
+
+/// Front to back, invisible ones among them.
+QList<QWidget*> orderedWindows();
+
+/// Gives the keyboard to the frontmost visible window whose title begins with "Process" or
+/// "Lurkwell Pref", after others have changed the order behind its back. False, and nothing
+/// changed, when there is none.
+bool EnsureThatCocoaWindowIsFrontmostIfPossible();
+
+}  // namespace lurkwell

@@ -1,0 +1,164 @@
+#include "main_window/MainMenus.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QMenuBar>
+#include <QUrl>
+
+#include "main_window/vqMainTableController.h"
+#include "platform/Bundle.h"
+#include "platform/Machine.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+
+using Controller = vqMainTableController;
+
+MainMenus::MainMenus(QMainWindow& window, vqMainTableController& controller,
+                     ApplicationCommands& commands)
+    : mWindow(window), mController(controller), mCommands(commands) {
+  MakeProcessActions();
+  BuildMenuBar();
+  BuildContextMenu();
+  controller.columnMenus().AppendTo(mHeaderMenu);
+  for (auto* menu : {&mHeaderMenu, &controller.columnMenus().BuiltInMenu(),
+                     &controller.columnMenus().PSAvailableMenu()})
+    WatchMenu(*menu);
+  connect(&controller, &Controller::contentsChanged, this, &MainMenus::ValidateAll);
+  ValidateAll();
+}
+
+QAction* MainMenus::Make(const char* id, MenuCommand command, std::function<void()> handler,
+                         const QKeySequence& shortcut) {
+  auto* action = new QAction(LocalizedString(id), &mWindow);
+  action->setObjectName(QLatin1String(id));
+  action->setShortcut(shortcut);
+  connect(action, &QAction::triggered, this, std::move(handler));
+  mWindow.addAction(action);
+  mItems.append({action, command});
+  return action;
+}
+
+void MainMenus::MakeProcessActions() {
+  using Command = void (Controller::*)();
+  const auto make = [this](const char* id, MenuCommand command, Command handler,
+                           const QKeySequence& shortcut = {}) {
+    return Make(
+        id, command, [this, handler] { (mController.*handler)(); }, shortcut);
+  };
+  auto* separator = static_cast<QAction*>(nullptr);
+  mProcessActions = {
+      make("menu_process_quit_or_kill", MenuCommand::kKill, &Controller::processKillMenuItem,
+           Qt::CTRL | Qt::Key_K),
+      separator,
+      make("menu_process_halt", MenuCommand::kHalt, &Controller::processHaltMenuItem,
+           Qt::CTRL | Qt::Key_H),
+      make("menu_process_continue", MenuCommand::kContinue, &Controller::processContMenuItem,
+           Qt::CTRL | Qt::SHIFT | Qt::Key_H),
+      separator,
+      make("menu_process_high_priority", MenuCommand::kHighPriority,
+           &Controller::processHighPriorityMenuItem, Qt::CTRL | Qt::Key_Plus),
+      make("menu_process_normal_priority", MenuCommand::kNormalPriority,
+           &Controller::processNormalPriorityMenuItem, Qt::CTRL | Qt::Key_0),
+      make("menu_process_low_priority", MenuCommand::kLowPriority,
+           &Controller::processLowPriorityMenuItem, Qt::CTRL | Qt::Key_Minus),
+      separator,
+      make("menu_process_bring_to_front", MenuCommand::kBringToFront,
+           &Controller::processBringToFrontMenuItem, Qt::CTRL | Qt::Key_B),
+      make("menu_process_hide", MenuCommand::kHide, &Controller::processHideMenuItem,
+           Qt::CTRL | Qt::Key_J),
+      make("menu_process_reveal", MenuCommand::kReveal, &Controller::processRevealInFinderMenuItem,
+           Qt::CTRL | Qt::Key_R),
+  };
+  mWindowActions = {
+      make("menu_file_new_cpu_history", MenuCommand::kNewCPUHistoryWindow,
+           &Controller::newCPUHistoryWindow, Qt::CTRL | Qt::Key_N),
+      make("menu_file_new_logging", MenuCommand::kNewLoggingWindow, &Controller::newLoggingWindow,
+           Qt::CTRL | Qt::Key_L),
+  };
+  // A key that is hit by mistake asks first.
+  auto* ask = Make(
+      "menu_process_kill", MenuCommand::kKill, [this] { Q_EMIT killConfirmationRequested(); },
+      Qt::Key_Delete);
+  ask->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+}
+
+QMenu* MainMenus::AddMenu(const char* id) {
+  auto* menu = mWindow.menuBar()->addMenu(LocalizedString(id));
+  WatchMenu(*menu);
+  return menu;
+}
+
+void MainMenus::WatchMenu(QMenu& menu) {
+  connect(&menu, &QMenu::aboutToShow, this, [this] {
+    mController.holdOrder(true);
+    ValidateAll();
+  });
+  connect(&menu, &QMenu::aboutToHide, this, [this] { mController.holdOrder(false); });
+}
+
+void MainMenus::BuildMenuBar() {
+  const auto other = MenuCommand::kOther;
+  auto* application = AddMenu("menu_application");
+  application->addAction(
+      Make("menu_application_about", other, [this] { mCommands.doAboutPanel(); }));
+  application->addAction(Make(
+      "menu_application_preferences", other, [this] { mCommands.doThePrefs(); },
+      Qt::CTRL | Qt::Key_Comma));
+  application->addSeparator();
+  application->addAction(Make(
+      "menu_application_quit", other, [this] { mCommands.doQuit(); },
+      QKeySequence(QKeySequence::Quit).isEmpty() ? QKeySequence(Qt::CTRL | Qt::Key_Q)
+                                                 : QKeySequence(QKeySequence::Quit)));
+  auto* file = AddMenu("menu_file");
+  file->addActions(mWindowActions);
+  file->addSeparator();
+  file->addAction(Make(
+      "menu_file_close_window", other, [this] { Q_EMIT closeRequested(); }, Qt::CTRL | Qt::Key_W));
+  auto* edit = AddMenu("menu_edit");
+  edit->addAction(Make(
+      "menu_edit_copy", MenuCommand::kKill,
+      [this] { QApplication::clipboard()->setText(mController.selectionAsText()); },
+      QKeySequence::Copy));
+  edit->addAction(Make(
+      "menu_edit_select_all", other, [this] { mController.table()->selectAll(); },
+      QKeySequence::SelectAll));
+  edit->addAction(Make(
+      "menu_edit_filter", other, [this] { Q_EMIT filterRequested(); }, QKeySequence::Find));
+  auto* view = AddMenu("menu_view");
+  view->addAction(Make(
+      "menu_view_update_now", other, [this] { mController.updateNow(); }, Qt::Key_F5));
+  auto* columns = AddMenu("menu_columns");
+  mController.columnMenus().AppendTo(*columns);
+  auto* process = AddMenu("menu_process");
+  for (auto* action : mProcessActions)
+    action != nullptr ? process->addAction(action) : void(process->addSeparator());
+  auto* window = AddMenu("menu_window");
+  window->addAction(Make("menu_window_show_main", other, [this] { mCommands.doShowMainWindow(); }));
+  auto* help = AddMenu("menu_help");
+  help->addAction(Make(
+      "menu_help_help", other, [this] { ShowHelp(); }, Qt::Key_F1));
+}
+
+void MainMenus::BuildContextMenu() {
+  for (auto* action : mProcessActions)
+    action != nullptr ? mContextMenu.addAction(action) : void(mContextMenu.addSeparator());
+  mContextMenu.addSeparator();
+  mContextMenu.addActions(mWindowActions);
+  WatchMenu(mContextMenu);
+}
+
+void MainMenus::ValidateAll() {
+  for (const auto& item : mItems)
+    item.action->setEnabled(mController.validateMenuItem(item.command));
+  mController.columnMenus().Validate();
+}
+
+void MainMenus::ShowHelp() {
+  const auto page =
+      TheMachine().bundle.Path() + "/Contents/Resources/Documentation/Documentation.html";
+  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(page)));
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QList>
+#include <QMainWindow>
+#include <QMenu>
+#include <functional>
+
+#include "main_window/MenuCommands.h"
+
+namespace lurkwell {
+
+class vqMainTableController;
+
+/// What menu items of the main window ask of the application as a whole; implemented above this
+/// floor.
+class ApplicationCommands {
+ public:
+  virtual ~ApplicationCommands() = default;
+  virtual void doThePrefs() = 0;
+  virtual void doAboutPanel() = 0;
+  virtual void doShowMainWindow() = 0;
+  virtual void doQuit() = 0;
+  /// Whether nothing of the program would be seen without this window; closing it then quits.
+  virtual bool isLastWindow(const QWidget& window) const = 0;
+};
+
+/// The main window's menus: every command, its shortcut, and whether it may be chosen, which is
+/// looked at again whenever a menu opens and whenever the selection changes. While one of the menus
+/// is open the table's rows keep their places. Main thread only.
+class MainMenus : public QObject {
+  Q_OBJECT
+
+ public:
+  MainMenus(QMainWindow& window, vqMainTableController& controller, ApplicationCommands& commands);
+
+  /// The process commands, for a click on a row.
+  QMenu& ContextMenu() { return mContextMenu; }
+  /// The columns, for a click on a header.
+  QMenu& HeaderMenu() { return mHeaderMenu; }
+
+  void ValidateAll();
+
+ Q_SIGNALS:
+  void filterRequested();
+  void closeRequested();
+  void killConfirmationRequested();
+
+ private:
+  struct Item {
+    QAction* action;
+    MenuCommand command;
+  };
+
+  /// Makes an action of the window; `id` names its text.
+  QAction* Make(const char* id, MenuCommand command, std::function<void()> handler,
+                const QKeySequence& shortcut = {});
+  void MakeProcessActions();
+  void BuildMenuBar();
+  void BuildContextMenu();
+  QMenu* AddMenu(const char* id);
+  void WatchMenu(QMenu& menu);
+  void ShowHelp();
+
+  QMainWindow& mWindow;
+  vqMainTableController& mController;
+  ApplicationCommands& mCommands;
+  QList<Item> mItems;
+  /// In the order in which menus show them; null separates.
+  QList<QAction*> mProcessActions;
+  QList<QAction*> mWindowActions;
+  QMenu mContextMenu;
+  QMenu mHeaderMenu;
+};
+
+}  // namespace lurkwell

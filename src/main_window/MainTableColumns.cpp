@@ -1,0 +1,217 @@
+// The columns of the main table: which there are, how wide, and how they are remembered.
+#include <QHeaderView>
+#include <algorithm>
+
+#include "consolidator/PropertyCatalogue.h"
+#include "main_window/Preferences.h"
+#include "main_window/vqMainTableController.h"
+#include "platform/Assertion.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kColumnsUnit[] = "vqMainTableController";
+constexpr int kWidthBesideTitle = 15;
+constexpr int kPictureWidth = 24;
+constexpr int kSmallestPidWidth = 45;
+/// Names and bars need more room than their titles take.
+constexpr int kSmallestNameWidth = 220;
+constexpr int kSmallestBarWidth = 110;
+
+char DefaultDirection(KeyId key) {
+  return key == kInternalCPUPercent ? 0 : 1;
+}
+
+bool IsPicture(KeyId key) {
+  return key == kInternalIcon || key == kInternalIndicator;
+}
+
+/// Writes a number into the preferences unless it is there: every write goes to the disk.
+void RememberInt(std::int32_t index, const char* dictKey, std::int32_t value) {
+  if (IsPrefArrayValuePresent(kMainWindowColumnsKey, index, dictKey) &&
+      GetPrefArrayInt(kMainWindowColumnsKey, index, dictKey, false, 0) == value)
+    return;
+  SetPrefArrayInt(kMainWindowColumnsKey, index, dictKey, value);
+}
+
+/// The key of a remembered column, at most 63 characters; empty when there is none to be read.
+std::string RememberedKey(std::int32_t index) {
+  char key[64] = "";
+  if (IsPrefArrayValuePresent(kMainWindowColumnsKey, index, kColumnKeyKey))
+    GetPrefArrayString(kMainWindowColumnsKey, index, kColumnKeyKey, key, sizeof key, false, "");
+  return key;
+}
+
+/// A key that a table can show: its own columns, or a property that is known at present.
+bool CanBeShown(const std::string& key) {
+  const KeyId id = InternKey(key);
+  if (IsInternalKey(key))
+    return IsPicture(id) || id == kInternalCPUPercent || id == kInternalMemGraph;
+  return !key.empty() && IsKnownProcProperty(key.c_str());
+}
+
+bool IsRightAligned(KeyId key, PropertyType type) {
+  if (IsInternalKey(KeyText(key))) return false;
+  return key == kMetaActiveTime || type == kPropertyTypeInteger || type == kPropertyTypeMemory ||
+         type == kPropertyTypeTime || type == kPropertyTypeDate;
+}
+
+}  // namespace
+
+void vqMainTableController::track(KeyId key, char direction) {
+  if (isTracked(KeyText(key))) return;
+  fKeysWeTrackForUI.push_back(key);
+  fTracked.insert(KeyText(key));
+  fColumnSortDirection[key] = direction;
+}
+
+void vqMainTableController::readColumnPrefs() {
+  const auto write = [](const char* key) {
+    SetPrefArrayString(kMainWindowColumnsKey, GetPrefArrayCount(kMainWindowColumnsKey),
+                       kColumnKeyKey, key);
+  };
+  if (GetPrefArrayCount(kMainWindowColumnsKey) == 0)
+    for (const char* key :
+         {"meta_pid", "internal_Icon", "meta_name", "meta_active_time", "internal_CPUPercent"})
+      write(key);
+  for (std::int32_t i = 0; i < GetPrefArrayCount(kMainWindowColumnsKey); ++i) {
+    const auto text = RememberedKey(i);
+    if (!CanBeShown(text)) continue;
+    const KeyId key = InternKey(text);
+    const auto direction = GetPrefArrayInt(kMainWindowColumnsKey, i, kColumnSortDirectionKey, true,
+                                           DefaultDirection(key));
+    if (!isTracked(text) && IsPrefArrayValuePresent(kMainWindowColumnsKey, i, kColumnWidthKey))
+      fColumnWidths[key] = GetPrefArrayInt(kMainWindowColumnsKey, i, kColumnWidthKey, false, 0);
+    track(key, direction != 0 ? 1 : 0);
+  }
+  if (!isTracked(KeyText(kMetaPid))) {
+    write("meta_pid");
+    track(kMetaPid, 1);
+  }
+}
+
+void vqMainTableController::addMissingColumns() {
+  const auto once = [this](const char* flag, KeyId key, KeyId afterKey) {
+    std::uint8_t found = 0;
+    GetPrefInt(flag, &found, false, 0);
+    if (found != 0) return;
+    SetPrefInt(flag, 1);
+    addToKeysWeTrackForUI(key, afterKey);
+  };
+  once("HAS_RUN_TWO_POINT_THREE", kInternalIndicator, kInternalIcon);
+  once("HAS_RUN_TWO_POINT_FOUR", kInternalMemGraph, kInternalCPUPercent);
+}
+
+void vqMainTableController::addToKeysWeTrackForUI(KeyId key, KeyId afterKey) {
+  if (isTracked(KeyText(key))) return;
+  adoptScreenLayout();
+  auto place = std::ranges::find(fKeysWeTrackForUI, afterKey);
+  if (place != fKeysWeTrackForUI.end()) ++place;
+  fKeysWeTrackForUI.insert(place, key);
+  fTracked.insert(KeyText(key));
+  fColumnSortDirection.try_emplace(key, DefaultDirection(key));
+  gNewColumnWasAddedRecently = true;
+  if (fTable == nullptr) return;
+  rebuildColumns();
+  saveColumnPrefs();
+  // The cells need not wait for the next turn.
+  updateNow();
+}
+
+void vqMainTableController::removeFromKeysWeTrackForUI(KeyId key) {
+  adoptScreenLayout();
+  std::erase(fKeysWeTrackForUI, key);
+  fTracked.erase(KeyText(key));
+  if (fTable == nullptr) return;
+  rebuildColumns();
+  saveColumnPrefs();
+}
+
+void vqMainTableController::adoptScreenLayout() {
+  if (fTable == nullptr || fColumns.empty()) return;
+  const auto& header = *fTable->horizontalHeader();
+  fKeysWeTrackForUI.clear();
+  for (int place = 0; place < header.count(); ++place) {
+    const int column = header.logicalIndex(place);
+    const KeyId key = fColumns[static_cast<std::size_t>(column)].key;
+    fKeysWeTrackForUI.push_back(key);
+    fColumnWidths[key] = header.sectionSize(column);
+  }
+}
+
+void vqMainTableController::clearColumns() {
+  fColumns.clear();
+}
+
+void vqMainTableController::rebuildColumns() {
+  rememberSelection();
+  beginResetModel();
+  clearColumns();
+  for (const KeyId key : fKeysWeTrackForUI) addColumnToMainTable(key);
+  endResetModel();
+  auto& header = *fTable->horizontalHeader();
+  for (int column = 0; column < columnCount(); ++column) {
+    const KeyId key = fColumns[static_cast<std::size_t>(column)].key;
+    header.moveSection(header.visualIndex(column), column);
+    header.resizeSection(column, fColumnWidths[key]);
+    QAbstractItemDelegate* cell = &fTextCell;
+    if (IsPicture(key)) cell = &fImageCell;
+    if (key == kInternalCPUPercent) cell = &fCPUCell;
+    if (key == kInternalMemGraph) cell = &fMemGraphCell;
+    fTable->setItemDelegateForColumn(column, cell);
+  }
+  stripedTable()->setSearchColumn(columnIndexOf(kMetaName));
+  showSortIndicator();
+  restoreSelection();
+}
+
+void vqMainTableController::addColumnToMainTable(KeyId key) {
+  Require(columnIndexOf(key) < 0, kColumnsUnit, "keyIndex == -1");
+  const std::string name(KeyText(key));
+  const auto type = GetProcPropertyType(name.c_str(), nullptr);
+  if (fColumnWidths[key] <= 0)
+    fColumnWidths[key] = widthForColumn(key, LocalizedString(name.c_str()));
+  fColumns.push_back({key, type, IsInternalKey(name), IsRightAligned(key, type)});
+}
+
+int vqMainTableController::widthForColumn(KeyId key, const QString& title) const {
+  if (IsPicture(key)) return kPictureWidth;
+  const auto metrics = fTable->horizontalHeader()->fontMetrics();
+  const int width = metrics.horizontalAdvance(title) + kWidthBesideTitle;
+  if (key == kMetaPid) return std::max(width, kSmallestPidWidth);
+  if (key == kMetaName) return std::max(width, kSmallestNameWidth);
+  const bool isBar = key == kInternalCPUPercent || key == kInternalMemGraph;
+  return isBar ? std::max(width, kSmallestBarWidth) : width;
+}
+
+void vqMainTableController::chooseInitialSortColumn() {
+  if (fKeysWeTrackForUI.empty()) return;
+  auto index = GetPrefInt(kSortColumnIndexKey, nullptr, true, 1);
+  const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size());
+  // One behind the last is let through here, and is no column either.
+  if (index > count || index < 0) index = 0;
+  if (index == count) index = count - 1;
+  const KeyId key = fKeysWeTrackForUI[static_cast<std::size_t>(index)];
+  setSortColumn(key, fColumnSortDirection[key]);
+}
+
+void vqMainTableController::saveColumnPrefs() {
+  adoptScreenLayout();
+  const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size());
+  while (GetPrefArrayCount(kMainWindowColumnsKey) > count)
+    RemovePrefArrayElement(kMainWindowColumnsKey, count);
+  for (std::int32_t i = 0; i < count; ++i) {
+    const KeyId key = fKeysWeTrackForUI[static_cast<std::size_t>(i)];
+    const std::string name(KeyText(key));
+    if (i >= GetPrefArrayCount(kMainWindowColumnsKey) || RememberedKey(i) != name)
+      SetPrefArrayString(kMainWindowColumnsKey, i, kColumnKeyKey, name.c_str());
+    if (fColumnWidths[key] > 0) RememberInt(i, kColumnWidthKey, fColumnWidths[key]);
+    RememberInt(i, kColumnSortDirectionKey, fColumnSortDirection[key]);
+    if (key == fSortColumn && GetPrefInt(kSortColumnIndexKey, nullptr, false, 0) != i)
+      SetPrefInt(kSortColumnIndexKey, i);
+  }
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,164 @@
+// What can be done to the selected processes, and when.
+#include <algorithm>
+#include <iterator>
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/vqMainTableController.h"
+#include "platform/Machine.h"
+#include "platform/ProcessManager.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "process_control/ProcessActions.h"
+
+namespace lurkwell {
+namespace {
+
+ProcessSerialNumber SerialNumberOf(std::int32_t pid) {
+  ProcessSerialNumber psn;
+  PID2PSN(pid, &psn);
+  return psn;
+}
+
+struct ToolbarItem {
+  std::string_view identifier;
+  MenuCommand command;
+};
+
+constexpr ToolbarItem kToolbarItems[] = {
+    {"vqToolbarShowPreferences", MenuCommand::kOther},
+    {"vqToolbarOpenCPUHistoryWindow", MenuCommand::kNewCPUHistoryWindow},
+    {"vqToolbarOpenLoggingWindow", MenuCommand::kNewLoggingWindow},
+    {"vqToolbarKill", MenuCommand::kKill},
+    {"vqToolbarHighPriority", MenuCommand::kHighPriority},
+    {"vqToolbarMediumPriority", MenuCommand::kNormalPriority},
+    {"vqToolbarLowPriority", MenuCommand::kLowPriority},
+    {"vqToolbarProcessHalt", MenuCommand::kHalt},
+    {"vqToolbarProcessContinue", MenuCommand::kContinue},
+    {"vqToolbarBringToFront", MenuCommand::kBringToFront},
+    {"vqToolbarHideProcess", MenuCommand::kHide},
+    {"vqToolbarRevealInFinder", MenuCommand::kReveal},
+};
+
+}  // namespace
+
+template <typename Action>
+void vqMainTableController::forSelectedPids(Action action) {
+  for (const auto pid : selectedPids()) {
+    action(pid);
+    // Its badge may be another one.
+    if (auto* row = fRows.Find(pid)) row->SetChanged(true);
+  }
+}
+
+template <typename Action>
+void vqMainTableController::forSelectedPSNs(Action action) {
+  for (const auto pid : selectedPids())
+    if (const auto psn = SerialNumberOf(pid); !psn.IsNone()) action(psn);
+}
+
+template <typename Predicate>
+bool vqMainTableController::anySelected(Predicate predicate) const {
+  return std::ranges::any_of(selectedPids(), predicate);
+}
+
+void vqMainTableController::processKillMenuItem() {
+  forSelectedPids(KillProcess);
+}
+
+void vqMainTableController::processHighPriorityMenuItem() {
+  forSelectedPids(SetHighPriority);
+  triggerReload();
+}
+
+void vqMainTableController::processNormalPriorityMenuItem() {
+  forSelectedPids(SetNormalPriority);
+  triggerReload();
+}
+
+void vqMainTableController::processLowPriorityMenuItem() {
+  forSelectedPids(SetLowPriority);
+  triggerReload();
+}
+
+void vqMainTableController::processHaltMenuItem() {
+  forSelectedPids(HaltProcess);
+  triggerReload();
+}
+
+void vqMainTableController::processContMenuItem() {
+  forSelectedPids(ContinueProcess);
+  triggerReload();
+}
+
+void vqMainTableController::processHideMenuItem() {
+  forSelectedPSNs([](ProcessSerialNumber psn) { ShowProcessPSN(psn, false); });
+}
+
+void vqMainTableController::processBringToFrontMenuItem() {
+  forSelectedPSNs(
+      [](ProcessSerialNumber psn) { TheMachine().processManager.SetFrontProcess(psn); });
+}
+
+void vqMainTableController::processRevealInFinderMenuItem() {
+  forSelectedPSNs([](ProcessSerialNumber psn) { RevealProcessInFinder(psn); });
+}
+
+void vqMainTableController::newCPUHistoryWindow() {
+  const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
+  if (fMonitorWindows == nullptr) return Q_EMIT notYetAvailable();
+  for (const auto pid : selectedPids()) fMonitorWindows->CreateCPUHistoryWindow(interval, pid);
+}
+
+void vqMainTableController::newLoggingWindow() {
+  const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
+  if (fMonitorWindows == nullptr) return Q_EMIT notYetAvailable();
+  for (const auto pid : selectedPids()) fMonitorWindows->CreateLoggingWindow(interval, pid);
+}
+
+bool vqMainTableController::anyPIDsInSelection() const {
+  return anySelected([](std::int32_t pid) { return pid >= 0; });
+}
+
+bool vqMainTableController::anyPSNsInSelection() const {
+  return anySelected([](std::int32_t pid) { return !SerialNumberOf(pid).IsNone(); });
+}
+
+bool vqMainTableController::anyActionListItemsInSelection(std::int32_t kind) const {
+  return anySelected([=](std::int32_t pid) { return GetProcessAction(pid, kind, nullptr); });
+}
+
+bool vqMainTableController::validateMenuItem(MenuCommand command) const {
+  switch (command) {
+    case MenuCommand::kNewCPUHistoryWindow:
+    case MenuCommand::kNewLoggingWindow:
+    case MenuCommand::kKill:
+      return hasSelection();
+    case MenuCommand::kHide:
+    case MenuCommand::kBringToFront:
+    case MenuCommand::kReveal:
+      return anyPSNsInSelection();
+    case MenuCommand::kHighPriority:
+    case MenuCommand::kNormalPriority:
+    case MenuCommand::kLowPriority:
+      return anyPIDsInSelection();
+    case MenuCommand::kHalt:
+      return anyPIDsInSelection() && !anyActionListItemsInSelection(kProcessActionHalt);
+    case MenuCommand::kContinue:
+      return anyActionListItemsInSelection(kProcessActionHalt);
+    case MenuCommand::kBuiltInColumn:
+    case MenuCommand::kPSAvailableColumn:
+      return fWindow != nullptr && fWindow->isActiveWindow();
+    case MenuCommand::kOther:
+      return true;
+  }
+  return true;
+}
+
+bool vqMainTableController::validateToolbarItem(std::string_view identifier) const {
+  const auto* item = std::ranges::find(kToolbarItems, identifier, &ToolbarItem::identifier);
+  if (item == std::end(kToolbarItems)) return false;
+  // A halted application without a kernel pid can be continued from the menu alone.
+  if (item->command == MenuCommand::kContinue && !anyPIDsInSelection()) return false;
+  return validateMenuItem(item->command);
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,103 @@
+// Sorting by a click, and the selection, which follows processes rather than places.
+#include <QItemSelectionModel>
+#include <algorithm>
+#include <unordered_set>
+
+#include "main_window/PropertyText.h"
+#include "main_window/vqMainTableController.h"
+
+namespace lurkwell {
+
+RowComparison vqMainTableController::sortSelectorForColumn(std::string_view key) const {
+  return ComparisonForColumn(key);
+}
+
+char vqMainTableController::toggleSortDirection(KeyId key) {
+  auto& direction = fColumnSortDirection[key];
+  direction = direction == 0 ? 1 : 0;
+  return direction;
+}
+
+bool vqMainTableController::shouldSelectTableColumn(int column) {
+  if (column < 0 || column >= columnCount()) return false;
+  const KeyId key = fColumns[static_cast<std::size_t>(column)].key;
+  if (key == fSortColumn) toggleSortDirection(key);
+  setSortColumn(key, fColumnSortDirection[key]);
+  fNeedsResort = true;
+  commitChanges();
+  return false;
+}
+
+std::vector<std::int32_t> vqMainTableController::selectedPids() const {
+  std::vector<int> places;
+  if (fTable == nullptr || fTable->selectionModel() == nullptr) return {};
+  for (const auto& range : fTable->selectionModel()->selection())
+    for (int place = range.top(); place <= range.bottom(); ++place) places.push_back(place);
+  std::ranges::sort(places);
+  places.erase(std::ranges::unique(places).begin(), places.end());
+  std::vector<std::int32_t> pids;
+  pids.reserve(places.size());
+  for (const int place : places) {
+    // A row whose process has ended may still be there; its pid may be another's by now.
+    const auto& row = *fRows.Shown()[static_cast<std::size_t>(place)];
+    if (!row.isDeparted) pids.push_back(row.Pid());
+  }
+  return pids;
+}
+
+void vqMainTableController::rememberSelection() {
+  if (gNSMainWindow == nullptr) return;
+  const auto pids = selectedPids();
+  fRememberedSelectionPIDs.insert(fRememberedSelectionPIDs.end(), pids.begin(), pids.end());
+}
+
+void vqMainTableController::restoreSelection() {
+  if (gNSMainWindow == nullptr || fTable == nullptr) return;
+  const std::unordered_set<std::int32_t> wanted(fRememberedSelectionPIDs.begin(),
+                                                fRememberedSelectionPIDs.end());
+  fRememberedSelectionPIDs.clear();
+  std::vector<int> places;
+  for (const auto pid : wanted)
+    if (const auto* row = fRows.Find(pid); row != nullptr && row->shownIndex >= 0)
+      places.push_back(row->shownIndex);
+  std::ranges::sort(places);
+  // The view has usually kept the selection on its processes by itself.
+  std::vector<int> present;
+  for (const auto pid : selectedPids()) present.push_back(fRows.Find(pid)->shownIndex);
+  if (places == present) return;
+  QItemSelection selection;
+  for (std::size_t i = 0; i < places.size();) {
+    std::size_t end = i + 1;
+    while (end < places.size() && places[end] == places[end - 1] + 1) ++end;
+    selection.select(index(places[i], 0), index(places[end - 1], columnCount() - 1));
+    i = end;
+  }
+  fTable->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+bool vqMainTableController::selectPid(std::int32_t pid) {
+  const auto* row = fRows.Find(pid);
+  if (fTable == nullptr || row == nullptr || row->shownIndex < 0) return false;
+  const auto place = index(row->shownIndex, 0);
+  fTable->selectionModel()->setCurrentIndex(
+      place, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  fTable->scrollTo(place);
+  return true;
+}
+
+QString vqMainTableController::selectionAsText() const {
+  QString text;
+  const auto& header = *fTable->horizontalHeader();
+  for (const auto pid : selectedPids()) {
+    const auto& row = *fRows.Find(pid);
+    QStringList cells;
+    for (int place = 0; place < header.count(); ++place) {
+      const auto& column = fColumns[static_cast<std::size_t>(header.logicalIndex(place))];
+      if (column.key != kInternalIcon) cells.append(spokenText(row, column));
+    }
+    text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+  }
+  return text;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,198 @@
+#include "main_window/MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "main_window/FrontmostWindow.h"
+#include "main_window/PropertyText.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "process_control/DaemonCommunication.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kFrameKey[] = "MAIN_WINDOW_FRAME";
+constexpr QSize kFirstSize(860, 560);
+/// So much of the window has to lie on a screen.
+constexpr int kGraspable = 40;
+
+QLabel* AddLabel(QStatusBar& bar, int stretch) {
+  auto* label = new QLabel(&bar);
+  label->setTextFormat(Qt::PlainText);
+  bar.addWidget(label, stretch);
+  return label;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(ApplicationCommands& commands)
+    : mCommands(commands), mController(std::make_unique<vqMainTableController>()) {
+  setWindowTitle(LocalizedString("main_window_title"));
+  setWindowIcon(NamedImage("lurkwell"));
+  BuildContents();
+  mController->awakeFromNib(*this, *mTable);
+  mMenus = std::make_unique<MainMenus>(*this, *mController, commands);
+  mTable->setContextMenu(&mMenus->ContextMenu());
+  auto* header = mTable->horizontalHeader();
+  header->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& point) {
+    mMenus->HeaderMenu().popup(header->mapToGlobal(point));
+  });
+  connect(mTable, &StripedTableView::doubleAction, mController.get(),
+          &vqMainTableController::doubleClickAction);
+  connect(mController.get(), &vqMainTableController::contentsChanged, this,
+          &MainWindow::UpdateStatus);
+  connect(mController.get(), &vqMainTableController::notYetAvailable, this,
+          [this] { statusBar()->showMessage(LocalizedString("main_window_not_available"), 5000); });
+  connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);
+  connect(mMenus.get(), &MainMenus::closeRequested, this, &QWidget::close);
+  connect(mMenus.get(), &MainMenus::killConfirmationRequested, this, &MainWindow::ConfirmKill);
+  RestoreFrame();
+  WatchWindowOrder(*this);
+}
+
+MainWindow::~MainWindow() {
+  // The controller's last words go to the preferences, by way of the table.
+  mMenus.reset();
+  mController.reset();
+}
+
+void MainWindow::BuildContents() {
+  auto* contents = new QWidget(this);
+  auto* layout = new QVBoxLayout(contents);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  mFilterField = new QLineEdit(contents);
+  mFilterField->setPlaceholderText(LocalizedString("main_window_filter_placeholder"));
+  mFilterField->setToolTip(LocalizedString("main_window_filter_tip"));
+  mFilterField->setAccessibleName(LocalizedString("main_window_filter_placeholder"));
+  mFilterField->setClearButtonEnabled(true);
+  mFilterField->hide();
+  mTable = new StripedTableView(contents);
+  mTable->setAccessibleName(LocalizedString("main_window_title"));
+  layout->addWidget(mFilterField);
+  layout->addWidget(mTable);
+  setCentralWidget(contents);
+  mCounts = AddLabel(*statusBar(), 1);
+  mHelper = AddLabel(*statusBar(), 0);
+  connect(mFilterField, &QLineEdit::textChanged, this,
+          [this](const QString& text) { mController->setFilter(text); });
+  auto* escape = new QShortcut(Qt::Key_Escape, mFilterField);
+  escape->setContext(Qt::WidgetShortcut);
+  connect(escape, &QShortcut::activated, this, &MainWindow::EndFilter);
+  connect(mFilterField, &QLineEdit::returnPressed, mTable, [this] { mTable->setFocus(); });
+  mTable->setFocus();
+}
+
+// ---- Filter -------------------------------------------------------------------------------------
+
+void MainWindow::ShowFilter() {
+  mFilterField->show();
+  mFilterField->setFocus();
+  mFilterField->selectAll();
+}
+
+void MainWindow::EndFilter() {
+  mFilterField->clear();
+  mFilterField->hide();
+  mTable->setFocus();
+}
+
+// ---- What is said -------------------------------------------------------------------------------
+
+QString MainWindow::HelperText() const {
+  return gFd_a2d < 0 ? LocalizedString("main_window_helper_absent") : QString();
+}
+
+void MainWindow::UpdateStatus() {
+  const auto selected = mController->selectedPids().size();
+  mCounts->setText(LocalizedString("main_window_status_counts")
+                       .arg(mController->pidEntries().size())
+                       .arg(mController->rowCount())
+                       .arg(selected));
+  mHelper->setText(HelperText());
+}
+
+void MainWindow::ConfirmKill() {
+  const auto pids = mController->selectedPids();
+  if (pids.empty()) return;
+  QMessageBox box(this);
+  box.setIcon(QMessageBox::Warning);
+  box.setTextFormat(Qt::PlainText);
+  if (pids.size() == 1) {
+    const auto& row = *mController->rows().Find(pids.front());
+    const auto* name = std::get_if<std::string>(&row.Get(kMetaName));
+    const auto shown = PlainText(name != nullptr ? *name : std::string());
+    box.setText(LocalizedString("kill_confirmation_title_one").arg(pids.front()).arg(shown));
+    box.setInformativeText(LocalizedString("kill_confirmation_text_one"));
+  } else {
+    box.setText(LocalizedString("kill_confirmation_title_several").arg(pids.size()));
+    box.setInformativeText(LocalizedString("kill_confirmation_text_several"));
+  }
+  QAbstractButton* kill =
+      box.addButton(LocalizedString("kill_confirmation_kill"), QMessageBox::AcceptRole);
+  box.setDefaultButton(box.addButton(QMessageBox::Cancel));
+  // The selection must still be what the question was about.
+  mController->holdOrder(true);
+  box.exec();
+  if (box.clickedButton() == kill && mController->selectedPids() == pids)
+    mController->processKillMenuItem();
+  mController->holdOrder(false);
+}
+
+// ---- Life ---------------------------------------------------------------------------------------
+
+void MainWindow::RestoreFrame() {
+  resize(kFirstSize);
+  char text[64] = "";
+  std::uint8_t found = 0;
+  GetPrefString(kFrameKey, text, sizeof text, &found, false, "");
+  int x = 0, y = 0, width = 0, height = 0;
+  if (found == 0 || std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4) return;
+  if (width < 100 || height < 100 || width > 20000 || height > 20000) return;
+  resize(width, height);
+  const QRect title(x, y, width, kGraspable);
+  for (const auto* screen : QGuiApplication::screens()) {
+    const auto seen = screen->availableGeometry() & title;
+    if (seen.width() >= kGraspable && seen.height() >= kGraspable / 2) return move(x, y);
+  }
+}
+
+void MainWindow::SaveFrame() {
+  char text[64];
+  const auto place = isMaximized() || isFullScreen() ? normalGeometry().topLeft() : pos();
+  const auto room = isMaximized() || isFullScreen() ? normalGeometry().size() : size();
+  std::snprintf(text, sizeof text, "%d %d %d %d", place.x(), place.y(), room.width(),
+                room.height());
+  char before[64] = "";
+  GetPrefString(kFrameKey, before, sizeof before, nullptr, false, "");
+  if (std::string_view(text) != before) SetPrefString(kFrameKey, text);
+}
+
+bool MainWindow::event(QEvent* event) {
+  const bool handled = QMainWindow::event(event);
+  if (event->type() == QEvent::Show) mController->windowDidUpdate();
+  if (event->type() == QEvent::WindowActivate) {
+    mController->windowDidBecomeKey();
+    mMenus->ValidateAll();
+  }
+  return handled;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  SaveFrame();
+  event->accept();
+  // On this desktop nothing but windows leads back to the program.
+  if (mCommands.isLastWindow(*this)) return mCommands.doQuit();
+  mController->windowWillClose();
+}
+
+}  // namespace lurkwell

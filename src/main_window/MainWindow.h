@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <memory>
+
+#include "main_window/MainMenus.h"
+#include "main_window/StripedTableView.h"
+#include "main_window/vqMainTableController.h"
+
+namespace lurkwell {
+
+/// The window with the process table: menus, the filter's field, the table, and a line that counts
+/// rows and tells how the helper is. Remembers its size and place. Main thread only.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// The commands outlive the window.
+  explicit MainWindow(ApplicationCommands& commands);
+  ~MainWindow() override;
+
+  vqMainTableController& controller() { return *mController; }
+  StripedTableView& table() { return *mTable; }
+  MainMenus& menus() { return *mMenus; }
+  QLineEdit& filterField() { return *mFilterField; }
+
+  /// Writes the window's size and place into the preferences.
+  void SaveFrame();
+
+ protected:
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildContents();
+  void RestoreFrame();
+  void ShowFilter();
+  void EndFilter();
+  void ConfirmKill();
+  void UpdateStatus();
+  QString HelperText() const;
+
+  ApplicationCommands& mCommands;
+  std::unique_ptr<vqMainTableController> mController;
+  StripedTableView* mTable = nullptr;
+  QLineEdit* mFilterField = nullptr;
+  QLabel* mCounts = nullptr;
+  QLabel* mHelper = nullptr;
+  std::unique_ptr<MainMenus> mMenus;
+};
+
+}  // namespace lurkwell

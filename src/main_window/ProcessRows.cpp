@@ -1,0 +1,105 @@
+#include "main_window/ProcessRows.h"
+
+#include <algorithm>
+
+namespace lurkwell {
+
+RowDictionary* ProcessRows::Find(std::int32_t pid) const {
+  const auto found = mByPid.find(pid);
+  return found == mByPid.end() ? nullptr : found->second.get();
+}
+
+RowDictionary& ProcessRows::Add(std::int32_t pid, RowValues& sortable) {
+  auto& row = mByPid[pid];
+  row = std::make_unique<RowDictionary>(pid, sortable);
+  mAll.push_back(row.get());
+  return *row;
+}
+
+void ProcessRows::Remove(std::int32_t pid) {
+  const auto found = mByPid.find(pid);
+  if (found == mByPid.end()) return;
+  found->second->isDeparted = true;
+  mDeparted.push_back(std::move(found->second));
+  mByPid.erase(found);
+}
+
+void ProcessRows::TidyUp() {
+  if (!mDeparted.empty()) std::erase_if(mAll, [](const auto* row) { return row->isDeparted; });
+}
+
+void ProcessRows::RemoveAll() {
+  for (auto* row : mAll) Remove(row->Pid());
+}
+
+std::vector<RowDictionary*> ProcessRows::WantedRows(
+    const std::function<bool(const RowDictionary&)>& isShown) {
+  std::vector<RowDictionary*> wanted;
+  wanted.reserve(mAll.size());
+  for (auto* row : mAll)
+    if (!isShown || isShown(*row)) wanted.push_back(row);
+  return wanted;
+}
+
+void ProcessRows::AppendNew(const std::vector<RowDictionary*>& wanted) {
+  std::vector<RowDictionary*> fresh;
+  for (auto* row : wanted)
+    if (row->shownIndex < 0) fresh.push_back(row);
+  if (fresh.empty()) return;
+  const int first = static_cast<int>(mShown.size());
+  mAnnouncer.BeginInsert(first, first + static_cast<int>(fresh.size()) - 1);
+  for (auto* row : fresh) {
+    row->shownIndex = static_cast<int>(mShown.size());
+    mShown.push_back(row);
+  }
+  mAnnouncer.EndInsert();
+}
+
+void ProcessRows::Place(const std::vector<RowDictionary*>& order) {
+  if (order == mShown) return;
+  mAnnouncer.Reorder([&] {
+    mShown = order;
+    for (std::size_t i = 0; i < mShown.size(); ++i) mShown[i]->shownIndex = static_cast<int>(i);
+  });
+}
+
+void ProcessRows::DropTail(std::size_t count) {
+  if (count == 0) return;
+  const auto kept = mShown.size() - count;
+  mAnnouncer.BeginRemove(static_cast<int>(kept), static_cast<int>(mShown.size()) - 1);
+  for (std::size_t i = kept; i < mShown.size(); ++i) mShown[i]->shownIndex = -1;
+  mShown.resize(kept);
+  mAnnouncer.EndRemove();
+}
+
+void ProcessRows::Commit(const std::function<bool(const RowDictionary&)>& isShown) {
+  TidyUp();
+  auto order = WantedRows(isShown);
+  AppendNew(order);
+  const auto wanted = order.size();
+  // Those that go move behind the others first, so that they go in one piece.
+  if (mShown.size() > wanted) {
+    std::vector<bool> stays(mShown.size(), false);
+    for (const auto* row : order) stays[static_cast<std::size_t>(row->shownIndex)] = true;
+    for (std::size_t i = 0; i < mShown.size(); ++i)
+      if (!stays[i]) order.push_back(mShown[i]);
+  }
+  Place(order);
+  DropTail(mShown.size() - wanted);
+  mDeparted.clear();
+  CommitCells();
+}
+
+void ProcessRows::CommitCells() {
+  int first = -1;
+  int last = -1;
+  for (std::size_t i = 0; i < mShown.size(); ++i) {
+    if (!mShown[i]->HasChanged()) continue;
+    if (first < 0) first = static_cast<int>(i);
+    last = static_cast<int>(i);
+  }
+  if (first >= 0) mAnnouncer.CellsChanged(first, last);
+  for (auto* row : mShown) row->SetChanged(false);
+}
+
+}  // namespace lurkwell

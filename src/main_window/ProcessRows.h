@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QAbstractItemModel>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "main_window/RowDictionary.h"
+
+namespace lurkwell {
+
+/// The rows of the table: all of them, in the order of the sort, and those that the view has been
+/// told of. Changes collect in the first and reach the view together, in one commit. Main thread.
+class ProcessRows {
+ public:
+  /// The model whose rows these are; it lets this class announce changes in its name.
+  class Announcer {
+   public:
+    virtual ~Announcer() = default;
+    virtual void BeginInsert(int first, int last) = 0;
+    virtual void EndInsert() = 0;
+    virtual void BeginRemove(int first, int last) = 0;
+    virtual void EndRemove() = 0;
+    /// The rows take other places; `change` does it, and RowDictionary::shownIndex tells where
+    /// each one is before and after.
+    virtual void Reorder(const std::function<void()>& change) = 0;
+    virtual void CellsChanged(int firstRow, int lastRow) = 0;
+  };
+
+  explicit ProcessRows(Announcer& announcer) : mAnnouncer(announcer) {}
+
+  // ---- What there is ----------------------------------------------------------------------------
+
+  /// The process's row, or null; constant time.
+  RowDictionary* Find(std::int32_t pid) const;
+  /// Appends a row for a process that has none.
+  RowDictionary& Add(std::int32_t pid, RowValues& sortable);
+  void Remove(std::int32_t pid);
+  void RemoveAll();
+  void TidyUp();
+  const std::vector<RowDictionary*>& All() const { return mAll; }
+  /// To put them into another order. Ended ones are among them until TidyUp or Commit.
+  std::vector<RowDictionary*>& All() { return mAll; }
+
+  // ---- What the view has ------------------------------------------------------------------------
+
+  const std::vector<RowDictionary*>& Shown() const { return mShown; }
+
+  /// Makes the view have the rows that `isShown` takes, in their order: at most one insertion, one
+  /// change of places, one removal and one announcement of changed cells.
+  void Commit(const std::function<bool(const RowDictionary&)>& isShown);
+
+  /// Announces changed cells alone. Rows keep their places, also those of processes that ended.
+  void CommitCells();
+
+ private:
+  std::vector<RowDictionary*> WantedRows(const std::function<bool(const RowDictionary&)>& isShown);
+  void AppendNew(const std::vector<RowDictionary*>& wanted);
+  void Place(const std::vector<RowDictionary*>& order);
+  void DropTail(std::size_t count);
+
+  Announcer& mAnnouncer;
+  std::unordered_map<std::int32_t, std::unique_ptr<RowDictionary>> mByPid;
+  std::vector<RowDictionary*> mAll;
+  std::vector<RowDictionary*> mShown;
+  /// Ended, but the view may still have them.
+  std::vector<std::unique_ptr<RowDictionary>> mDeparted;
+};
+
+}  // namespace lurkwell

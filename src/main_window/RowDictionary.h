@@ -1,0 +1,107 @@
+#pragma once
+
+#include <QPixmap>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "main_window/Keys.h"
+#include "platform/ProcessIdentity.h"
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+/// One value of a row as it was read; nothing where there is none. Texts are the process's own
+/// bytes: whoever shows one makes it printable first.
+using RowValue = std::variant<std::monostate, std::int64_t, double, TimeValue, std::string>;
+
+/// Values by key. Reading costs an array access.
+class RowValues {
+ public:
+  const RowValue& Get(KeyId key) const {
+    static const RowValue kNothing;
+    const auto index = static_cast<std::size_t>(key);
+    return index < mValues.size() ? mValues[index] : kNothing;
+  }
+
+  /// True when the value is another one than before.
+  bool Set(KeyId key, RowValue value) {
+    const auto index = static_cast<std::size_t>(key);
+    if (index >= mValues.size()) mValues.resize(index + 1);
+    if (mValues[index] == value) return false;
+    mValues[index] = std::move(value);
+    return true;
+  }
+
+ private:
+  std::vector<RowValue> mValues;
+};
+
+/// A CPU time and when it was read, each as it was and as it is.
+struct CPUReading {
+  TimeValue internal_last_active_time;
+  TimeValue internal_current_active_time;
+  TimeValue internal_last_wall_time;
+  TimeValue internal_current_wall_time;
+};
+
+/// The icon of a row's application, fetched when the row is first drawn.
+struct RowIcon {
+  bool internal_Icon_Has_Been_Inited = false;
+  bool internal_Icon_Exists = false;
+  QPixmap internal_Icon_Data;
+};
+
+/// One process in the table. Belongs to the table's controller; main thread only.
+class RowDictionary {
+ public:
+  /// `sortable` receives what sorting compares where the shown value will not do, and outlives
+  /// this.
+  RowDictionary(std::int32_t pid, RowValues& sortable) : mPid(pid), mSortable(sortable) {
+    Set(kMetaPid, std::int64_t{pid});
+  }
+
+  /// The process that the row was made for; meta_pid says the same.
+  std::int32_t Pid() const { return mPid; }
+
+  const RowValue& Get(KeyId key) const { return mValues.Get(key); }
+  void Set(KeyId key, RowValue value) {
+    if (mValues.Set(key, std::move(value))) mChanged = true;
+  }
+
+  RowValues& Sortable() { return mSortable; }
+  const RowValues& Sortable() const { return mSortable; }
+
+  CPUReading cpuReading;
+  RowIcon icon;
+
+  /// The name of the badge that marks the process, null for none; one of a few literals.
+  void SetIndicator(const char* name) {
+    if (std::exchange(mIndicator, name) != name) mChanged = true;
+  }
+  const char* Indicator() const { return mIndicator; }
+
+  /// Whether it looks different from when it was last drawn or announced.
+  bool HasChanged() const { return mChanged; }
+  void SetChanged(bool changed) { mChanged = changed; }
+
+  /// Its place among the rows that the view has, -1 while it has none.
+  int shownIndex = -1;
+  /// Its process has ended; the row goes with the next commit.
+  bool isDeparted = false;
+
+ private:
+  std::int32_t mPid;
+  RowValues mValues;
+  RowValues& mSortable;
+  const char* mIndicator = nullptr;
+  bool mChanged = true;
+};
+
+/// The value as a number; 0 for texts and nothing.
+double NumberOf(const RowValue& value);
+std::int64_t IntegerOf(const RowValue& value);
+
+}  // namespace lurkwell

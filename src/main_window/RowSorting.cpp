@@ -1,0 +1,243 @@
+#include "main_window/RowSorting.h"
+
+#include <QApplication>
+#include <algorithm>
+#include <utility>
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/Preferences.h"
+#include "platform/Assertion.h"
+#include "process_control/ProcessActions.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kSortingUnit[] = "vqMainTableController";
+
+template <typename T>
+int Order(const T& a, const T& b, const compareContextStructure& context) {
+  const int order = a < b ? -1 : b < a ? 1 : 0;
+  return context.ascending ? order : -order;
+}
+
+/// Reads what one comparison needs of every row.
+using Preparation = void (*)(SortedRow& row, const compareContextStructure& context);
+
+std::string PropertyOf(std::int32_t pid, const char* property) {
+  char text[255];
+  bool found = false;
+  GetPIDPropertyValue(pid, property, text, sizeof text, &found);
+  return found ? text : std::string();
+}
+
+QString Folded(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toCaseFolded();
+}
+
+void PrepareText(SortedRow& row, const compareContextStructure& context) {
+  const auto* text = std::get_if<std::string>(&row.row->Get(context.sortKey));
+  row.isMissing = text == nullptr;
+  if (text != nullptr) row.text = Folded(*text);
+}
+
+void PrepareNumber(SortedRow& row, const compareContextStructure& context) {
+  const auto& value = row.row->Get(context.sortKey);
+  row.isMissing = std::holds_alternative<std::monostate>(value);
+  row.integer = IntegerOf(value);
+  row.number = NumberOf(value);
+}
+
+void PrepareSortable(SortedRow& row, const compareContextStructure& context) {
+  const auto& value = row.row->Sortable().Get(context.sortKey);
+  row.isMissing = std::holds_alternative<std::monostate>(value);
+  row.integer = IntegerOf(value);
+  row.number = NumberOf(value);
+}
+
+void PrepareCPUPercent(SortedRow& row, const compareContextStructure&) {
+  row.number = NumberOf(row.row->Sortable().Get(kInternalCPUPercent));
+  if (row.pid == 0 && IgnoresPidZero()) row.number = 0.0;
+}
+
+void PrepareVirtualSize(SortedRow& row, const compareContextStructure&) {
+  const auto text = PropertyOf(row.row->Pid(), "pid_vsz");
+  row.integer = std::strtoll(text.c_str(), nullptr, 10);
+  if (row.pid == 0 && IgnoresPidZero()) row.integer = 0;
+}
+
+void PrepareApplication(SortedRow& row, const compareContextStructure&) {
+  const auto psn = PropertyOf(row.row->Pid(), "meta_psn");
+  row.hasApplication = !psn.empty() && psn != "00000000 00000000";
+  row.hasAction = GetProcessAction(row.row->Pid(), kProcessActionAny, nullptr);
+  row.text = Folded(PropertyOf(row.row->Pid(), "meta_name"));
+}
+
+struct Comparison {
+  RowComparison compare;
+  Preparation prepare;
+};
+
+constexpr Comparison kComparisons[] = {
+    {pidCompare, PrepareNumber},
+    {stringCompare, PrepareText},
+    {integerCompare, PrepareNumber},
+    {realCompare, PrepareNumber},
+    {memoryCompare, PrepareSortable},
+    {timeCompare, PrepareSortable},
+    {cpuPercentCompare, PrepareCPUPercent},
+    {memGraphCompare, PrepareVirtualSize},
+    {iconCompare, PrepareApplication},
+    {indicatorCompare, PrepareApplication},
+    {hexCompare, PrepareNumber},
+};
+
+Preparation PreparationFor(RowComparison compare) {
+  return std::ranges::find(kComparisons, compare, &Comparison::compare)->prepare;
+}
+
+/// One merge sort from the bottom up. The standard library's sorts want a consistent order, which
+/// missing values do not give.
+void MergeSort(std::vector<SortedRow>& rows, RowComparison compare,
+               const compareContextStructure& context) {
+  const auto inOrder = [&](const SortedRow& a, const SortedRow& b) {
+    return compare(a, b, context) <= 0;
+  };
+  std::vector<SortedRow> merged(rows.size());
+  for (std::size_t width = 1; width < rows.size(); width *= 2) {
+    for (std::size_t begin = 0; begin < rows.size(); begin += 2 * width) {
+      const std::size_t middle = std::min(begin + width, rows.size());
+      const std::size_t end = std::min(middle + width, rows.size());
+      std::size_t left = begin;
+      std::size_t right = middle;
+      for (std::size_t out = begin; out < end; ++out) {
+        const bool takeLeft = right == end || (left < middle && inOrder(rows[left], rows[right]));
+        merged[out] = std::move(rows[takeLeft ? left++ : right++]);
+      }
+    }
+    std::swap(rows, merged);
+  }
+}
+
+bool IsInOrder(const std::vector<SortedRow>& rows, RowComparison compare,
+               const compareContextStructure& context) {
+  for (std::size_t i = 1; i < rows.size(); ++i)
+    if (compare(rows[i - 1], rows[i], context) > 0) return false;
+  return true;
+}
+
+RowComparison ComparisonForType(PropertyType type) {
+  switch (type) {
+    case kPropertyTypeString:
+      return stringCompare;
+    case kPropertyTypeInteger:
+      return integerCompare;
+    case kPropertyTypeReal:
+      return realCompare;
+    case kPropertyTypeHex:
+      return hexCompare;
+    case kPropertyTypeMemory:
+      return memoryCompare;
+    case kPropertyTypeTime:
+    case kPropertyTypeDate:
+      return timeCompare;
+  }
+  return stringCompare;
+}
+
+RowComparison InternalComparison(std::string_view key) {
+  const KeyId id = InternKey(key);
+  if (id == kInternalCPUPercent) return cpuPercentCompare;
+  if (id == kInternalMemGraph) return memGraphCompare;
+  if (id == kInternalIcon) return iconCompare;
+  if (id == kInternalIndicator) return indicatorCompare;
+  return nullptr;
+}
+
+}  // namespace
+
+int pidCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
+  return Order(a.pid, b.pid, context);
+}
+
+int stringCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
+  const int order = a.isMissing || b.isMissing ? 0 : Order(a.text, b.text, context);
+  return order != 0 ? order : pidCompare(a, b, context);
+}
+
+int integerCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
+  const int order = a.isMissing || b.isMissing ? 0 : Order(a.integer, b.integer, context);
+  return order != 0 ? order : pidCompare(a, b, context);
+}
+
+int realCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
+  const int order = a.isMissing || b.isMissing ? 0 : Order(a.number, b.number, context);
+  return order != 0 ? order : pidCompare(a, b, context);
+}
+
+int memoryCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
+  return integerCompare(a, b, context);
+}
+
+int timeCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
+  const int order = Order(a.number, b.number, context);
+  return order != 0 ? order : pidCompare(a, b, context);
+}
+
+int cpuPercentCompare(const SortedRow& a, const SortedRow& b,
+                      const compareContextStructure& context) {
+  Require(a.pid != 0 || b.pid != 0, kSortingUnit, "pid1 || pid2");
+  return timeCompare(a, b, context);
+}
+
+int memGraphCompare(const SortedRow& a, const SortedRow& b,
+                    const compareContextStructure& context) {
+  Require(a.pid != 0 || b.pid != 0, kSortingUnit, "pid1 || pid2");
+  const int order = Order(a.integer, b.integer, context);
+  return order != 0 ? order : pidCompare(a, b, context);
+}
+
+int iconCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
+  const int order = Order(b.hasApplication, a.hasApplication, context);
+  return order != 0 ? order : stringCompare(a, b, context);
+}
+
+int indicatorCompare(const SortedRow& a, const SortedRow& b,
+                     const compareContextStructure& context) {
+  const int order = Order(b.hasAction, a.hasAction, context);
+  return order != 0 ? order : iconCompare(a, b, context);
+}
+
+int hexCompare(const SortedRow&, const SortedRow&, const compareContextStructure&) {
+  QApplication::beep();
+  return 0;
+}
+
+RowComparison ComparisonForColumn(std::string_view key) {
+  if (key.empty()) return nullptr;
+  if (!IsInternalKey(key))
+    return ComparisonForType(GetProcPropertyType(std::string(key).c_str(), nullptr));
+  const auto compare = InternalComparison(key);
+  return compare != nullptr ? compare : stringCompare;
+}
+
+RowComparison SortingComparisonForColumn(std::string_view key) {
+  if (IsInternalKey(key)) return InternalComparison(key);
+  const auto compare = ComparisonForColumn(key);
+  return compare == hexCompare ? nullptr : compare;
+}
+
+void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,
+              const compareContextStructure& context) {
+  const auto prepare = PreparationFor(comparison);
+  std::vector<SortedRow> sorted(rows.size());
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    sorted[i].row = rows[i];
+    sorted[i].pid = rows[i]->Pid();
+    prepare(sorted[i], context);
+  }
+  if (IsInOrder(sorted, comparison, context)) return;
+  MergeSort(sorted, comparison, context);
+  std::ranges::transform(sorted, rows.begin(), &SortedRow::row);
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "main_window/InternalRepresentations.h"
+#include "main_window/RowDictionary.h"
+
+namespace lurkwell {
+
+/// Orders rows by one column. Rows that compare the same are ordered by pid, in the direction of
+/// the sort, so every order is complete. Main thread only.
+
+/// What a comparison may know besides the two rows.
+struct compareContextStructure {
+  KeyId sortKey = kNoKey;
+  bool ascending = true;
+};
+
+/// A row together with what its comparison looks at, read once per sort rather than once per
+/// comparison.
+struct SortedRow {
+  RowDictionary* row = nullptr;
+  std::int64_t pid = 0;
+  bool isMissing = false;
+  double number = 0.0;
+  std::int64_t integer = 0;
+  /// With the case folded.
+  QString text;
+  bool hasApplication = false;
+  bool hasAction = false;
+};
+
+/// -1, 0 or 1 as `a` comes before, with or after `b`.
+using RowComparison = int (*)(const SortedRow& a, const SortedRow& b,
+                              const compareContextStructure& context);
+
+int pidCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+int stringCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+int integerCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+int realCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+/// A missing size compares as the same as any other.
+int memoryCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+/// Spans and dates; a missing one counts as 0.
+int timeCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+/// The idle task counts as 0, unless MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE is 0; so for the
+/// next one. Two of them cannot be ("pid1 || pid2").
+int cpuPercentCompare(const SortedRow& a, const SortedRow& b,
+                      const compareContextStructure& context);
+/// By virtual size.
+int memGraphCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+/// Applications first when ascending, then by name.
+int iconCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+/// Processes that something was done to first when ascending, then as iconCompare.
+int indicatorCompare(const SortedRow& a, const SortedRow& b,
+                     const compareContextStructure& context);
+/// Not sortable: one beep a comparison, and the same.
+int hexCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
+
+/// The comparison that a click on the column would use; null for an empty key.
+RowComparison ComparisonForColumn(std::string_view key);
+
+/// The same, but null where sorting changes nothing: hexadecimal properties and unknown keys that
+/// begin with "internal_".
+RowComparison SortingComparisonForColumn(std::string_view key);
+
+/// Sorts. Any comparison will do, consistent or not; n log n comparisons, n when in order already.
+void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,
+              const compareContextStructure& context);
+
+}  // namespace lurkwell

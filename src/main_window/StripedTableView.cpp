@@ -1,0 +1,181 @@
+#include "main_window/StripedTableView.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <cmath>
+
+#include "main_window/CustomCells.h"
+
+namespace lurkwell {
+
+StripedTableView* gTheStripedTableView = nullptr;
+
+namespace {
+
+QColor EvenStripe(const QPalette& palette) {
+  if (!IsDark(palette)) return QColor::fromRgbF(0.929F, 0.953F, 0.996F);
+  const auto base = palette.color(QPalette::Base);
+  return base.lightness() < 24 ? QColor(28, 32, 40) : base.lighter(125);
+}
+
+QColor OddStripe(const QPalette& palette) {
+  return IsDark(palette) ? palette.color(QPalette::Base) : QColor(Qt::white);
+}
+
+QColor GridColour(const QPalette& palette) {
+  return IsDark(palette) ? QColor(82, 86, 94) : QColor(Qt::lightGray);
+}
+
+}  // namespace
+
+StripedTableView::StripedTableView(QWidget* parent) : QTableView(parent) {
+  gTheStripedTableView = this;
+  setShowGrid(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setTabKeyNavigation(false);
+  setFrameShape(NoFrame);
+  auto& rows = *verticalHeader();
+  rows.hide();
+  rows.setSectionResizeMode(QHeaderView::Fixed);
+  rows.setMinimumSectionSize(1);
+  rows.setDefaultSectionSize(std::max(fontMetrics().height() + 4, ImageCell::kSize + 4));
+  auto& columns = *horizontalHeader();
+  columns.setSectionsMovable(true);
+  columns.setSectionsClickable(true);
+  columns.setHighlightSections(false);
+  columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  columns.setMinimumSectionSize(20);
+}
+
+StripedTableView::~StripedTableView() {
+  if (gTheStripedTableView == this) gTheStripedTableView = nullptr;
+}
+
+// ---- The context menu ---------------------------------------------------------------------------
+
+void StripedTableView::showTheSpecialContextMenu(const QPoint& position,
+                                                 Qt::KeyboardModifiers modifiers, bool isRightClick,
+                                                 bool needToSelect) {
+  if ((modifiers & Qt::ControlModifier) == 0 && !isRightClick) return;
+  const int row = rowAt(position.y());
+  if (needToSelect && row >= 0) selectRow(row);
+  if (row < 0 || model() == nullptr || row >= model()->rowCount()) return;
+  if (fMenu != nullptr) fMenu->popup(viewport()->mapToGlobal(position));
+}
+
+void StripedTableView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton) {
+    showTheSpecialContextMenu(event->pos(), event->modifiers(), true, true);
+    event->accept();
+    return;
+  }
+  QTableView::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton)
+    showTheSpecialContextMenu(event->pos(), event->modifiers(), false, false);
+}
+
+void StripedTableView::contextMenuEvent(QContextMenuEvent* event) {
+  // The mouse has been served by the press.
+  if (event->reason() != QContextMenuEvent::Keyboard) return;
+  if (fMenu == nullptr || !selectionModel()->hasSelection()) return;
+  const auto place = visualRect(currentIndex().isValid() ? currentIndex() : QModelIndex());
+  fMenu->popup(viewport()->mapToGlobal(place.bottomLeft()));
+}
+
+void StripedTableView::mouseDoubleClickEvent(QMouseEvent* event) {
+  QTableView::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton && rowAt(event->pos().y()) >= 0) Q_EMIT doubleAction();
+}
+
+// ---- Keys ---------------------------------------------------------------------------------------
+
+void StripedTableView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (selectionModel()->hasSelection()) Q_EMIT doubleAction();
+    return;
+  }
+  QTableView::keyPressEvent(event);
+}
+
+bool StripedTableView::RowMatches(int row, const QString& text) const {
+  const auto shown = model()->index(row, mSearchColumn).data(Qt::DisplayRole).toString();
+  return shown.startsWith(text, Qt::CaseInsensitive);
+}
+
+void StripedTableView::keyboardSearch(const QString& search) {
+  if (mSearchColumn < 0 || model() == nullptr || model()->rowCount() == 0) return;
+  const bool goesOn =
+      mSinceLastKey.isValid() && mSinceLastKey.elapsed() < QApplication::keyboardInputInterval();
+  mSinceLastKey.restart();
+  // One letter again and again goes from match to match.
+  const bool repeats = goesOn && mSearched.size() == 1 && mSearched == search;
+  mSearched = goesOn && !repeats ? mSearched + search : search;
+  const int count = model()->rowCount();
+  const int current = std::max(currentIndex().row(), 0);
+  const int first = mSearched.size() == 1 && currentIndex().isValid() ? current + 1 : current;
+  for (int i = 0; i < count; ++i) {
+    const int row = (first + i) % count;
+    if (!RowMatches(row, mSearched)) continue;
+    selectRow(row);
+    scrollTo(model()->index(row, mSearchColumn));
+    return;
+  }
+}
+
+// ---- Drawing ------------------------------------------------------------------------------------
+
+void StripedTableView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                                   const QList<int>&) {
+  if (!isVisible() || model() == nullptr) return;
+  const int first = std::max(rowAt(0), topLeft.row());
+  const int lastVisible = rowAt(viewport()->height() - 1);
+  const int last = std::min(lastVisible < 0 ? bottomRight.row() : lastVisible, bottomRight.row());
+  const int width = viewport()->width();
+  for (int row = first; row <= last; ++row)
+    if (model()->index(row, 0).data(kRowHasChangedRole).toBool())
+      viewport()->update(0, rowViewportPosition(row), width, rowHeight(row));
+}
+
+void StripedTableView::highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const {
+  const int pitch = verticalHeader()->defaultSectionSize();
+  // Stripes belong to the rows: counted from the top of the table, not of the window.
+  const int offset = verticalHeader()->offset();
+  const auto even = EvenStripe(palette());
+  const auto odd = OddStripe(palette());
+  const int bottom = clip.bottom() + offset;
+  for (int y = (clip.top() + offset) / pitch * pitch; y <= bottom; y += pitch) {
+    const int row = (y + pitch / 2) / pitch;
+    const QRect band(0, y - offset, viewport()->width(), pitch);
+    painter.fillRect(band & clip, row % 2 == 0 ? even : odd);
+  }
+}
+
+void StripedTableView::drawGridInClipRect(QPainter& painter, const QRect& clip) const {
+  painter.setPen(GridColour(palette()));
+  const auto& header = *horizontalHeader();
+  for (int column = 0; column < header.count(); ++column) {
+    const int x = header.sectionViewportPosition(column) + header.sectionSize(column) - 1;
+    if (x >= clip.left() && x <= clip.right()) painter.drawLine(x, clip.top(), x, clip.bottom());
+  }
+}
+
+void StripedTableView::paintEvent(QPaintEvent* event) {
+  {
+    QPainter painter(viewport());
+    for (const auto& rect : event->region()) highlightSelectionInClipRect(painter, rect);
+  }
+  QTableView::paintEvent(event);
+  QPainter painter(viewport());
+  for (const auto& rect : event->region()) drawGridInClipRect(painter, rect);
+}
+
+}  // namespace lurkwell

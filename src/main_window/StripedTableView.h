@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPointer>
+#include <QTableView>
+
+namespace lurkwell {
+
+/// The process table's view: stripes over its whole height, vertical grid lines, and a context menu
+/// for rows on a right click or a click with the control key. Main thread only.
+class StripedTableView : public QTableView {
+  Q_OBJECT
+
+ public:
+  /// A model answers this role, in a row's first column, with whether the row shows anything else
+  /// than at the last announcement.
+  static constexpr int kRowHasChangedRole = Qt::UserRole + 100;
+
+  explicit StripedTableView(QWidget* parent = nullptr);
+  ~StripedTableView() override;
+
+  /// The context menu; belongs to whoever made it.
+  void setContextMenu(QMenu* menu) { fMenu = menu; }
+
+  /// Typing finds rows by the text in this column; -1 for none.
+  void setSearchColumn(int column) { mSearchColumn = column; }
+
+  /// Opens the context menu at a point of the viewport, when a click there asks for it and hits a
+  /// row; with `needToSelect` that row becomes the selection.
+  void showTheSpecialContextMenu(const QPoint& position, Qt::KeyboardModifiers modifiers,
+                                 bool isRightClick, bool needToSelect);
+
+  /// Repaints what the rows between show differently, as far as it can be seen.
+  void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                   const QList<int>& roles = {}) override;
+
+  void keyboardSearch(const QString& search) override;
+
+ Q_SIGNALS:
+  /// A double click on a row, or Return.
+  void doubleAction();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const;
+  void drawGridInClipRect(QPainter& painter, const QRect& clip) const;
+  bool RowMatches(int row, const QString& text) const;
+
+  QPointer<QMenu> fMenu;
+  int mSearchColumn = -1;
+  QString mSearched;
+  QElapsedTimer mSinceLastKey;
+};
+
+/// The one view there is, while there is one.
+extern StripedTableView* gTheStripedTableView;
+
+}  // namespace lurkwell

@@ -1,0 +1,289 @@
+#include "main_window/vqMainTableController.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTimer>
+#include <algorithm>
+
+#include "consolidator/ApplicationIcons.h"
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/Preferences.h"
+#include "main_window/PropertyText.h"
+#include "platform/ApplicationQuitting.h"
+#include "platform/Assertion.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "process_control/ProcessActions.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kControllerUnit[] = "vqMainTableController";
+
+/// A digit's worth of a column, in points.
+constexpr double kPointsPerCharacter = 6.0;
+
+QPixmap PixmapOf(const Picture& picture, double scale) {
+  const QImage image(reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width,
+                     picture.height, picture.width * 4, QImage::Format_ARGB32_Premultiplied);
+  auto pixmap = QPixmap::fromImage(image.copy());
+  pixmap.setDevicePixelRatio(scale);
+  return pixmap;
+}
+
+}  // namespace
+
+vqMainTableController::vqMainTableController() {
+  fInfoSynchronizer = new VQTarvMainWindowInfoSynch(MainWindowInterval(), *this);
+  readColumnPrefs();
+  addMissingColumns();
+}
+
+vqMainTableController::~vqMainTableController() {
+  delete fInfoSynchronizer;
+}
+
+void vqMainTableController::awakeFromNib(QWidget& window, StripedTableView& table) {
+  fWindow = &window;
+  fTable = &table;
+  table.setModel(this);
+  table.setItemDelegate(&fTextCell);
+  rebuildColumns();
+  auto& header = *table.horizontalHeader();
+  connect(&header, &QHeaderView::sectionClicked, this,
+          [this](int column) { shouldSelectTableColumn(column); });
+  connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &vqMainTableController::contentsChanged);
+  chooseInitialSortColumn();
+  fColumnMenus.Build();
+}
+
+// ---- The window's life -------------------------------------------------------------------------
+
+void vqMainTableController::windowDidUpdate() {
+  if (fInfoSynchronizer != nullptr) fInfoSynchronizer->HookIntoConsolidator();
+}
+
+void vqMainTableController::windowDidBecomeKey() {
+  windowDidUpdate();
+  if (GetPrefInt(kShowProcessListKey, nullptr, false, 0) != 1) SetPrefInt(kShowProcessListKey, 1);
+}
+
+void vqMainTableController::windowWillClose() {
+  if (!gApplicationQuitting) SetPrefInt(kShowProcessListKey, 0);
+  if (fInfoSynchronizer != nullptr) fInfoSynchronizer->UnhookFromConsolidator();
+  fRows.RemoveAll();
+  fHolds = 0;
+  commitChanges();
+}
+
+// ---- Rows ---------------------------------------------------------------------------------------
+
+void vqMainTableController::setNeedsReload() {
+  if (std::exchange(fCommitIsQueued, true)) return;
+  // A turn ends with a commit; this is for changes outside of one.
+  QTimer::singleShot(0, this, [this] {
+    if (fCommitIsQueued) commitChanges();
+  });
+}
+
+void vqMainTableController::memoryBarsHaveChanged() {
+  if (!isTracked(KeyText(kInternalMemGraph))) return;
+  for (auto* row : fRows.All()) row->SetChanged(true);
+}
+
+void vqMainTableController::commitChanges() {
+  fCommitIsQueued = false;
+  if (fHolds > 0) {
+    fRows.CommitCells();
+    return;
+  }
+  fRows.TidyUp();
+  rememberSelection();
+  if (fNeedsResort) resortTable();
+  if (fFilter.isEmpty()) {
+    fRows.Commit({});
+  } else {
+    fRows.Commit([this](const RowDictionary& row) { return passesFilter(row); });
+  }
+  restoreSelection();
+  Q_EMIT contentsChanged();
+}
+
+void vqMainTableController::resortTable() {
+  fNeedsResort = false;
+  if (fSortColumn == kNoKey) return;
+  const auto comparison = SortingComparisonForColumn(KeyText(fSortColumn));
+  if (comparison == nullptr) return;
+  const bool ascending = fColumnSortDirection[fSortColumn] != 0;
+  SortRows(fRows.All(), comparison, {fSortColumn, ascending});
+}
+
+void vqMainTableController::holdOrder(bool hold) {
+  if (hold) {
+    ++fHolds;
+  } else if (fHolds > 0 && --fHolds == 0) {
+    // After the command that closed the menu.
+    setNeedsReload();
+  }
+}
+
+void vqMainTableController::setFilter(const QString& text) {
+  fFilter = text;
+  commitChanges();
+}
+
+bool vqMainTableController::passesFilter(const RowDictionary& row) const {
+  if (QString::number(row.Pid()).contains(fFilter)) return true;
+  const auto contains = [&](KeyId key) {
+    const auto* text = std::get_if<std::string>(&row.Get(key));
+    return text != nullptr && PlainText(*text).contains(fFilter, Qt::CaseInsensitive);
+  };
+  return std::ranges::any_of(fColumns, [&](const Column& column) { return contains(column.key); });
+}
+
+void vqMainTableController::updateNow() {
+  if (fInfoSynchronizer != nullptr && fInfoSynchronizer->IsHooked())
+    RequestUpdate(fInfoSynchronizer);
+}
+
+// ---- What the view hears ------------------------------------------------------------------------
+
+void vqMainTableController::BeginInsert(int first, int last) {
+  beginInsertRows({}, first, last);
+}
+
+void vqMainTableController::BeginRemove(int first, int last) {
+  beginRemoveRows({}, first, last);
+}
+
+void vqMainTableController::Reorder(const std::function<void()>& change) {
+  Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+  const auto before = persistentIndexList();
+  std::vector<const RowDictionary*> pointedAt;
+  pointedAt.reserve(static_cast<std::size_t>(before.size()));
+  for (const auto& index : before)
+    pointedAt.push_back(fRows.Shown()[static_cast<std::size_t>(index.row())]);
+  change();
+  QModelIndexList after;
+  after.reserve(before.size());
+  for (qsizetype i = 0; i < before.size(); ++i)
+    after.append(index(pointedAt[static_cast<std::size_t>(i)]->shownIndex, before[i].column()));
+  changePersistentIndexList(before, after);
+  Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+void vqMainTableController::CellsChanged(int firstRow, int lastRow) {
+  if (fColumns.empty()) return;
+  Q_EMIT dataChanged(index(firstRow, 0), index(lastRow, columnCount() - 1));
+}
+
+// ---- The model ----------------------------------------------------------------------------------
+
+int vqMainTableController::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(fRows.Shown().size());
+}
+
+int vqMainTableController::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(fColumns.size());
+}
+
+int vqMainTableController::columnIndexOf(KeyId key) const {
+  const auto found = std::ranges::find(fColumns, key, &Column::key);
+  return found == fColumns.end() ? -1 : static_cast<int>(found - fColumns.begin());
+}
+
+QVariant vqMainTableController::iconOf(RowDictionary& row) const {
+  auto& icon = row.icon;
+  if (!icon.internal_Icon_Has_Been_Inited) {
+    icon.internal_Icon_Has_Been_Inited = true;
+    const double scale = fTable != nullptr ? fTable->devicePixelRatioF() : 1.0;
+    const auto picture = ProcessIconImage(row.Pid(), static_cast<int>(ImageCell::kSize * scale));
+    icon.internal_Icon_Exists = picture != nullptr;
+    icon.internal_Icon_Data = picture != nullptr ? PixmapOf(*picture, scale) : QPixmap();
+  }
+  return icon.internal_Icon_Exists ? QVariant(icon.internal_Icon_Data) : QVariant();
+}
+
+QVariant vqMainTableController::indicatorOf(const RowDictionary& row) const {
+  const char* name = ProcessIndicatorImageName(row.Pid());
+  return name != nullptr ? QVariant(NamedImage(name)) : QVariant();
+}
+
+QString vqMainTableController::textOf(const RowDictionary& row, const Column& column) const {
+  const int points = fTable != nullptr ? fTable->columnWidth(columnIndexOf(column.key)) : 91;
+  const auto width = static_cast<int>(points / kPointsPerCharacter);
+  return DisplayText(column.type, row.Get(column.key), width, row.Pid());
+}
+
+QVariant vqMainTableController::objectValueForTableColumn(int columnIndex, int rowIndex) const {
+  auto& row = *fRows.Shown()[static_cast<std::size_t>(rowIndex)];
+  const auto& column = fColumns[static_cast<std::size_t>(columnIndex)];
+  if (column.key == kInternalIcon) return iconOf(row);
+  if (column.key == kInternalIndicator) return indicatorOf(row);
+  if (column.isInternal) return {};
+  return textOf(row, column);
+}
+
+QString vqMainTableController::spokenText(const RowDictionary& row, const Column& column) const {
+  if (column.key == kInternalCPUPercent)
+    return QString::number(NumberOf(row.Get(kInternalCpuUsage)) * 100.0, 'f', 1) +
+           QLatin1String(" %");
+  if (column.key == kInternalMemGraph) {
+    const auto size = [&](KeyId key) {
+      return DisplayText(kPropertyTypeMemory, row.Get(key), 0, row.Pid());
+    };
+    return size(kInternalRsz) + QLatin1String(" / ") + size(kInternalVsz);
+  }
+  if (column.key == kInternalIndicator) {
+    const char* name = ProcessIndicatorImageName(row.Pid());
+    return name != nullptr ? LocalizedString(name) : QString();
+  }
+  return column.isInternal ? QString() : textOf(row, column);
+}
+
+QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    return {};
+  const auto& row = *fRows.Shown()[static_cast<std::size_t>(index.row())];
+  const auto& column = fColumns[static_cast<std::size_t>(index.column())];
+  const bool isPicture = column.key == kInternalIcon || column.key == kInternalIndicator;
+  switch (role) {
+    case Qt::DisplayRole:
+      return isPicture ? QVariant() : objectValueForTableColumn(index.column(), index.row());
+    case Qt::DecorationRole:
+      return isPicture ? objectValueForTableColumn(index.column(), index.row()) : QVariant();
+    case Qt::TextAlignmentRole:
+      return QVariant(
+          Qt::Alignment(Qt::AlignVCenter | (column.rightAligned ? Qt::AlignRight : Qt::AlignLeft)));
+    case Qt::AccessibleTextRole:
+      return spokenText(row, column);
+    case kCpuShareRole:
+      return NumberOf(row.Get(kInternalCpuUsage));
+    case kResidentSizeRole:
+      return static_cast<qlonglong>(IntegerOf(row.Get(kInternalRsz)));
+    case kVirtualSizeRole:
+      return static_cast<qlonglong>(IntegerOf(row.Get(kInternalVsz)));
+    case StripedTableView::kRowHasChangedRole:
+      return row.HasChanged();
+    default:
+      return {};
+  }
+}
+
+QVariant vqMainTableController::headerData(int section, Qt::Orientation orientation,
+                                           int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+  const auto& column = fColumns[static_cast<std::size_t>(section)];
+  const std::string key(KeyText(column.key));
+  // A title has no room above a picture; the tooltip begins with it.
+  const bool isPicture = column.key == kInternalIcon || column.key == kInternalIndicator;
+  if (role == Qt::AccessibleTextRole) return LocalizedString(key.c_str());
+  if (role == Qt::DisplayRole) return isPicture ? QString() : LocalizedString(key.c_str());
+  if (role == Qt::ToolTipRole)
+    return QString(LocalizedString(key.c_str()) + QLatin1Char('\n') +
+                   LocalizedString((key + "_tip").c_str()));
+  return {};
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,216 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "consolidator/PropertyTypes.h"
+#include "main_window/ColumnMenus.h"
+#include "main_window/CustomCells.h"
+#include "main_window/MenuCommands.h"
+#include "main_window/ProcessRows.h"
+#include "main_window/StripedTableView.h"
+#include "main_window/VQTarvMainWindowInfoSynch.h"
+#include "main_window/vqTableController.h"
+
+namespace lurkwell {
+
+/// Opens the windows that follow a process. Implemented above this floor.
+class MonitorWindows {
+ public:
+  virtual ~MonitorWindows() = default;
+  /// `interval` in milliseconds.
+  virtual void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid) = 0;
+  virtual void CreateLoggingWindow(std::int32_t interval, std::int32_t pid) = 0;
+};
+
+/// The process table: its rows and columns as the view's model, the column menus, and what can be
+/// done to the selected processes. Main thread only.
+///
+/// Rows change while the consolidator talks to the synchroniser; the view hears of all of it in one
+/// commit at the end of the turn.
+class vqMainTableController final : public vqTableController, private ProcessRows::Announcer {
+  Q_OBJECT
+
+ public:
+  /// What cells draw from, besides the usual roles: the CPU share, resident and virtual size.
+  enum Role { kCpuShareRole = Qt::UserRole, kResidentSizeRole, kVirtualSizeRole };
+
+  /// Reads the columns from the preferences, adding what must be there, and makes the synchroniser.
+  vqMainTableController();
+  ~vqMainTableController() override;
+
+  /// Takes its view and window, builds columns and menus, and sorts as last time. Once.
+  void awakeFromNib(QWidget& window, StripedTableView& table);
+
+  // ---- The window's life ------------------------------------------------------------------------
+
+  void windowDidUpdate();
+  void windowDidBecomeKey();
+  /// Unless the application is quitting, the window does not come back at the next start.
+  void windowWillClose();
+
+  // ---- Rows -------------------------------------------------------------------------------------
+
+  ProcessRows& rows() { return fRows; }
+  const ProcessRows& rows() const { return fRows; }
+  /// All rows in the order of the sort, those that a filter hides among them.
+  const std::vector<RowDictionary*>& pidEntries() const { return fRows.All(); }
+  VQTarvMainWindowInfoSynch* synchronizer() const { return fInfoSynchronizer; }
+
+  /// Rows came or changed so that their order may be another one; done at the next commit.
+  void setNeedsResort() { fNeedsResort = true, setNeedsReload(); }
+  void setNeedsReload();
+  void memoryBarsHaveChanged();
+  void forgetSortableValues(std::int32_t pid) { fInternalRepresentations.Remove(pid); }
+  void synchronizerIsGone() { fInfoSynchronizer = nullptr; }
+
+  /// Lets the view have everything that has changed. While the order is held, only what cells show.
+  void commitChanges();
+  void triggerReload() override { commitChanges(); }
+  void turnHasEnded() { Q_EMIT updated(); }
+  /// Sorts the rows by the sort column; the view hears of it at the next commit.
+  void resortTable();
+
+  /// While a menu is open rows stay where they are. Calls nest.
+  void holdOrder(bool hold);
+
+  /// Shows only processes with this text in their name, their pid, or a text column, whatever its
+  /// case; all for an empty text.
+  void setFilter(const QString& text);
+
+  // ---- Columns ----------------------------------------------------------------------------------
+
+  const std::vector<KeyId>& keysWeTrackForUI() const { return fKeysWeTrackForUI; }
+  bool isTracked(std::string_view key) const { return fTracked.contains(key); }
+  void clearColumns();
+  void rebuildColumns();
+  void addColumnToMainTable(KeyId key);
+  /// Right behind `afterKey` when that is shown, else at the end; nothing when it is shown already.
+  void addToKeysWeTrackForUI(KeyId key, KeyId afterKey = kNoKey);
+  void removeFromKeysWeTrackForUI(KeyId key);
+  /// Keys, widths, directions and the sort column, as they stand on the screen.
+  void saveColumnPrefs();
+  ColumnMenus& columnMenus() { return fColumnMenus; }
+
+  // ---- Sorting and selection --------------------------------------------------------------------
+
+  RowComparison sortSelectorForColumn(std::string_view key) const override;
+  /// A click on a header. Always false: columns are never selected.
+  bool shouldSelectTableColumn(int column);
+  char toggleSortDirection(KeyId key);
+  void rememberSelection();
+  void restoreSelection();
+  /// In the order of the rows.
+  std::vector<std::int32_t> selectedPids() const;
+  bool selectPid(std::int32_t pid);
+
+  // ---- Commands on the selected processes -------------------------------------------------------
+
+  void processKillMenuItem();
+  void processHighPriorityMenuItem();
+  void processNormalPriorityMenuItem();
+  void processLowPriorityMenuItem();
+  void processHaltMenuItem();
+  void processContMenuItem();
+  void processHideMenuItem();
+  void processBringToFrontMenuItem();
+  void processRevealInFinderMenuItem();
+  void doubleClickAction() { processBringToFrontMenuItem(); }
+  void newCPUHistoryWindow();
+  void newLoggingWindow();
+  void setMonitorWindows(MonitorWindows* windows) { fMonitorWindows = windows; }
+  /// The selected rows as lines of tab-separated cells, columns as on the screen.
+  QString selectionAsText() const;
+  /// Reads and shows everything now instead of at the next turn.
+  void updateNow();
+
+  bool anyPIDsInSelection() const;
+  bool anyPSNsInSelection() const;
+  bool anyActionListItemsInSelection(std::int32_t kind) const;
+  bool validateMenuItem(MenuCommand command) const;
+  /// By the toolbar's identifiers; unknown ones are disabled.
+  bool validateToolbarItem(std::string_view identifier) const;
+
+  // ---- The model --------------------------------------------------------------------------------
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  /// What a cell shows: a text, a picture, or nothing where the cell draws by itself.
+  QVariant objectValueForTableColumn(int column, int row) const;
+
+ Q_SIGNALS:
+  /// The consolidator's turn is over, and the view has what it brought.
+  void updated();
+  /// The number of rows, or of selected ones, may be another one.
+  void contentsChanged();
+  /// A command was given whose window does not exist in this version.
+  void notYetAvailable();
+
+ protected:
+  int columnIndexOf(KeyId key) const override;
+
+ private:
+  struct Column {
+    KeyId key;
+    PropertyType type;
+    bool isInternal;
+    bool rightAligned;
+  };
+
+  void BeginInsert(int first, int last) override;
+  void EndInsert() override { endInsertRows(); }
+  void BeginRemove(int first, int last) override;
+  void EndRemove() override { endRemoveRows(); }
+  void Reorder(const std::function<void()>& change) override;
+  void CellsChanged(int firstRow, int lastRow) override;
+
+  void readColumnPrefs();
+  void addMissingColumns();
+  void track(KeyId key, char direction);
+  void chooseInitialSortColumn();
+  void adoptScreenLayout();
+  int widthForColumn(KeyId key, const QString& title) const;
+
+  bool passesFilter(const RowDictionary& row) const;
+  QVariant iconOf(RowDictionary& row) const;
+  QVariant indicatorOf(const RowDictionary& row) const;
+  QString textOf(const RowDictionary& row, const Column& column) const;
+  QString spokenText(const RowDictionary& row, const Column& column) const;
+  template <typename Action>
+  void forSelectedPids(Action action);
+  template <typename Action>
+  void forSelectedPSNs(Action action);
+  template <typename Predicate>
+  bool anySelected(Predicate predicate) const;
+
+  StripedTableView* stripedTable() const { return static_cast<StripedTableView*>(table()); }
+
+  VQTarvMainWindowInfoSynch* fInfoSynchronizer = nullptr;
+  ProcessRows fRows{*this};
+  /// In the order of the columns.
+  std::vector<KeyId> fKeysWeTrackForUI;
+  std::unordered_set<std::string_view> fTracked;
+  std::unordered_map<KeyId, char> fColumnSortDirection;
+  std::unordered_map<KeyId, int> fColumnWidths;
+  std::vector<Column> fColumns;
+  std::vector<std::int32_t> fRememberedSelectionPIDs;
+  QString fFilter;
+  bool fNeedsResort = false;
+  bool fCommitIsQueued = false;
+  int fHolds = 0;
+  MonitorWindows* fMonitorWindows = nullptr;
+  ColumnMenus fColumnMenus{*this};
+  TextCell fTextCell;
+  ImageCell fImageCell;
+  CPUCell fCPUCell;
+  MemGraphCell fMemGraphCell;
+};
+
+}  // namespace lurkwell

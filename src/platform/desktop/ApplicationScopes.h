@@ -1,0 +1,65 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/ProcessIdentity.h"
+#include "platform/desktop/ProcFolder.h"
+
+namespace lurkwell {
+
+/// The application whose processes the session manager keeps in one control group.
+struct ApplicationScope {
+  /// The group's name, such as "app-gnome-org.example.Editor-4711.scope".
+  std::string name;
+  /// The desktop entry's id, such as "org.example.Editor".
+  std::string entryId;
+};
+
+/// The application's group in the text of a cgroup file; nothing when the process is in none.
+/// Pure; any thread.
+std::optional<ApplicationScope> ScopeOfControlGroups(std::string_view text);
+
+/// The applications of a session as the session manager keeps them. Files are read once for each
+/// new process, and again for a while because a process is moved to its group after its start; of
+/// the others a few per refresh, in turn, so that none is wrong for ever. Main thread only.
+class ApplicationScopes {
+ public:
+  struct Application {
+    /// The one of the group that started first.
+    ProcessIdentity process;
+    ApplicationScope scope;
+  };
+
+  explicit ApplicationScopes(const ProcFolder& processes) : mFolder(processes) {}
+
+  /// The present applications, first started first.
+  std::vector<Application> Refresh();
+
+  /// The group of a process as of the last refresh; "" for none.
+  std::string NameOfScope(std::int32_t pid) const;
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  struct Process {
+    ProcessIdentity identity;
+    std::optional<ApplicationScope> scope;
+    Clock::time_point settled;
+  };
+
+  void LookAtSomeKnown();
+  void Read(Process& process, std::int32_t pid);
+  std::vector<Application> FirstOfEach() const;
+
+  const ProcFolder& mFolder;
+  bool mHasLooked = false;
+  std::unordered_map<std::int32_t, Process> mProcesses;
+  /// Who is looked at next, from the back.
+  std::vector<std::int32_t> mTurn;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,107 @@
+#include "platform/desktop/ProcFolder.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <climits>
+#include <memory>
+
+namespace lurkwell {
+namespace {
+
+struct CloseFolder {
+  void operator()(DIR* folder) const { ::closedir(folder); }
+};
+
+template <typename Number>
+std::optional<Number> WholeNumber(std::string_view text) {
+  Number number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return {};
+  return number;
+}
+
+/// The first 4095 bytes at most; nothing, and errno, when the file cannot be read.
+std::optional<std::string> ReadStart(const std::string& path) {
+  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+  if (descriptor < 0) return {};
+  std::array<char, 4095> buffer;
+  const ssize_t bytes = ::read(descriptor, buffer.data(), buffer.size());
+  const int error = errno;
+  ::close(descriptor);
+  errno = error;
+  if (bytes < 0) return {};
+  return std::string(buffer.data(), static_cast<std::size_t>(bytes));
+}
+
+}  // namespace
+
+std::optional<std::uint64_t> StartStampOfStat(std::string_view text) {
+  constexpr int kFieldsBefore = 19;
+  auto place = text.rfind(')');
+  if (place == std::string_view::npos) return {};
+  ++place;
+  for (int field = 0; field < kFieldsBefore; ++field) {
+    place = text.find(' ', place + 1);
+    if (place == std::string_view::npos) return {};
+  }
+  const auto end = text.find(' ', place + 1);
+  return WholeNumber<std::uint64_t>(text.substr(place + 1, end - place - 1));
+}
+
+std::optional<std::string> ProcFolder::Read(std::int32_t pid, const char* file) const {
+  return ReadStart(mRoot + '/' + std::to_string(pid) + '/' + file);
+}
+
+std::vector<std::int32_t> ProcFolder::Pids() const {
+  std::vector<std::int32_t> pids;
+  const std::unique_ptr<DIR, CloseFolder> folder(::opendir(mRoot.c_str()));
+  if (!folder) return pids;
+  while (const dirent* entry = ::readdir(folder.get())) {
+    if (const auto pid = WholeNumber<std::int32_t>(entry->d_name); pid && *pid > 0) {
+      pids.push_back(*pid);
+    }
+  }
+  return pids;
+}
+
+std::optional<ProcessIdentity> ProcFolder::Identify(std::int32_t pid) const {
+  const auto text = Read(pid, "stat");
+  const auto start = StartStampOfStat(text.value_or(""));
+  if (!start) return {};
+  return ProcessIdentity{pid, *start};
+}
+
+bool ProcFolder::IsThere(const ProcessIdentity& process) const {
+  errno = 0;
+  const auto text = Read(process.pid, "stat");
+  if (!text) return errno != ENOENT && errno != ESRCH && errno != ENOTDIR;
+  return StartStampOfStat(*text) == process.startStamp;
+}
+
+std::string ProcFolder::CommandName(std::int32_t pid) const {
+  std::string name = Read(pid, "comm").value_or("");
+  if (name.ends_with('\n')) name.pop_back();
+  return name;
+}
+
+std::string ProcFolder::Executable(std::int32_t pid) const {
+  constexpr std::string_view kDeleted = " (deleted)";
+  const std::string link = mRoot + '/' + std::to_string(pid) + "/exe";
+  std::array<char, PATH_MAX> target;
+  const ssize_t bytes = ::readlink(link.c_str(), target.data(), target.size());
+  if (bytes <= 0) return {};
+  std::string path(target.data(), static_cast<std::size_t>(bytes));
+  if (path.ends_with(kDeleted)) path.resize(path.size() - kDeleted.size());
+  return path;
+}
+
+std::string ProcFolder::ControlGroups(std::int32_t pid) const {
+  return Read(pid, "cgroup").value_or("");
+}
+
+}  // namespace lurkwell

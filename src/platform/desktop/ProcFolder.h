@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/ProcessIdentity.h"
+
+namespace lurkwell {
+
+/// What the desktop asks of /proc. Reads are small and bounded; nothing is kept. Main thread only.
+class ProcFolder {
+ public:
+  explicit ProcFolder(std::string root) : mRoot(std::move(root)) {}
+
+  /// All processes, in no order.
+  std::vector<std::int32_t> Pids() const;
+
+  /// The process that has this pid now; nothing when there is none.
+  std::optional<ProcessIdentity> Identify(std::int32_t pid) const;
+
+  /// Whether the process is there still, be it a zombie. True also when that cannot be told for the
+  /// moment (no descriptors left).
+  bool IsThere(const ProcessIdentity& process) const;
+
+  /// The name as the kernel has it; "" when it cannot be read.
+  std::string CommandName(std::int32_t pid) const;
+
+  /// The program's file, without the kernel's mark of deleted ones; "" when it cannot be read.
+  std::string Executable(std::int32_t pid) const;
+
+  /// The text of the control group file; "" when it cannot be read.
+  std::string ControlGroups(std::int32_t pid) const;
+
+ private:
+  std::optional<std::string> Read(std::int32_t pid, const char* file) const;
+
+  std::string mRoot;
+};
+
+/// The start in clock ticks from the text of a stat file. The name may hold anything, so fields
+/// count from the last closing bracket. Nothing when the text is not one.
+std::optional<std::uint64_t> StartStampOfStat(std::string_view text);
+
+}  // namespace lurkwell

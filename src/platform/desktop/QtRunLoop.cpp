@@ -1,0 +1,127 @@
+#include "platform/desktop/QtRunLoop.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <set>
+#include <utility>
+
+namespace lurkwell {
+namespace {
+
+constexpr double kNever = std::numeric_limits<double>::infinity();
+// A wait does not notice that the machine was asleep; the next look at the clock does.
+constexpr double kLongestWait = 1.0;
+
+/// The first date after `now` in steps from `date`.
+double NextDate(double date, double interval, double now) {
+  if (!(interval > 0)) return kNever;
+  if (date + interval > now) return date + interval;
+  const double next = date + (std::floor((now - date) / interval) + 1) * interval;
+  // An interval too short for the clock to tell apart.
+  return next > now ? next : now + interval;
+}
+
+}  // namespace
+
+/// What the loop and its timers share.
+struct QtRunLoop::State {
+  explicit State(Clock& theClock) : clock(theClock) {}
+
+  bool IsHolding() const { return isStopped || isServing; }
+  void Release();
+
+  Clock& clock;
+  bool isStopped = false;
+  bool isServing = false;
+  /// Due, but not to be served for the moment.
+  std::set<Timer*> held;
+};
+
+/// One single shot after the other, since each firing may set a date of its own.
+class QtRunLoop::Timer final : public RunLoopTimer {
+ public:
+  Timer(std::shared_ptr<State> state, double date, double interval, std::function<void()> callback)
+      : mState(std::move(state)),
+        mInterval(interval),
+        mCallback(std::make_shared<const std::function<void()>>(std::move(callback))) {
+    mTimer.setSingleShot(true);
+    mTimer.setTimerType(Qt::PreciseTimer);
+    mTimer.callOnTimeout([this] { FireIfDue(); });
+    SetNextFireDate(date);
+  }
+  ~Timer() override { mState->held.erase(this); }
+
+  void SetNextFireDate(double absoluteSeconds) override {
+    mDate = std::isnan(absoluteSeconds) ? kNever : absoluteSeconds;
+    mDateWasSet = true;
+    mState->held.erase(this);
+    Wait();
+  }
+
+  void Wait() {
+    if (mDate == kNever) return mTimer.stop();
+    const double seconds = std::clamp(mDate - mState->clock.AbsoluteTime(), 0.0, kLongestWait);
+    mTimer.start(static_cast<int>(std::ceil(seconds * 1000.0)));
+  }
+
+ private:
+  void FireIfDue() {
+    if (mDate > mState->clock.AbsoluteTime()) return Wait();
+    if (mState->IsHolding()) {
+      mState->held.insert(this);
+    } else {
+      Fire();
+    }
+  }
+
+  /// The callback may destroy this timer, and with it all that it has.
+  void Fire() {
+    const auto state = mState;
+    const auto callback = mCallback;
+    const std::weak_ptr<int> alive = mAlive;
+    mDateWasSet = false;
+    state->isServing = true;
+    (*callback)();
+    state->isServing = false;
+    if (!state->IsHolding()) state->Release();
+    if (alive.expired() || mDateWasSet) return;
+    mDate = NextDate(mDate, mInterval, mState->clock.AbsoluteTime());
+    Wait();
+  }
+
+  std::shared_ptr<State> mState;
+  double mDate = 0.0;
+  double mInterval;
+  bool mDateWasSet = false;
+  std::shared_ptr<const std::function<void()>> mCallback;
+  std::shared_ptr<int> mAlive = std::make_shared<int>(0);
+  QTimer mTimer;
+};
+
+void QtRunLoop::State::Release() {
+  for (Timer* timer : std::exchange(held, {})) timer->Wait();
+}
+
+QtRunLoop::QtRunLoop(Clock& clock) : mState(std::make_shared<State>(clock)) {}
+
+std::unique_ptr<RunLoopTimer> QtRunLoop::AddTimer(double firstFireDate, double interval,
+                                                  std::function<void()> callback) {
+  return std::make_unique<Timer>(mState, firstFireDate, interval, std::move(callback));
+}
+
+void QtRunLoop::Run() {
+  mState->isStopped = false;
+  mState->Release();
+  QCoreApplication::exec();
+}
+
+void QtRunLoop::Stop() {
+  mState->isStopped = true;
+  // Not quit, which any window could refuse.
+  QCoreApplication::exit();
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,130 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lurkwell {
+
+struct FreeReply {
+  void operator()(void* reply) const { std::free(reply); }
+};
+/// What the X server has sent, freed with its owner.
+template <typename T>
+using Reply = std::unique_ptr<T, FreeReply>;
+
+/// The atoms that are asked for by name.
+enum class XAtom : std::size_t {
+  kActiveWindow,
+  kChangeState,
+  kClientList,
+  kClientListStacking,
+  kCloseWindow,
+  kDeleteWindow,
+  kNetPid,
+  kNetState,
+  kNetName,
+  kProtocols,
+  kRestackWindow,
+  kState,
+  kStateHidden,
+  kSupported,
+  kTypeDialog,
+  kTypeNormal,
+  kTypeUtility,
+  kUtf8,
+  kWindowIcon,
+  kWindowType,
+  kCount
+};
+
+/// Something that has happened to a window somebody watches.
+struct XChange {
+  xcb_window_t window = 0;
+  /// The property that has changed; none when the window has gone.
+  xcb_atom_t property = 0;
+};
+
+/// A connection of its own to the X server. Every wait has a bound: a server that does not answer
+/// within it counts as lost, for good, and every later question is answered with nothing. Any one
+/// thread at a time.
+class XConnection {
+ public:
+  using Deadline = std::chrono::steady_clock::time_point;
+
+  /// Connects and prepares; null when that fails. Connecting itself may wait for ever for a server
+  /// that hangs: see XSession.
+  static std::unique_ptr<XConnection> Open(const std::string& display);
+  ~XConnection();
+  XConnection(const XConnection&) = delete;
+  XConnection& operator=(const XConnection&) = delete;
+
+  bool IsLost() const { return mLost; }
+  xcb_connection_t* Raw() const { return mConnection; }
+  xcb_window_t Root() const { return mRoot; }
+  xcb_atom_t Atom(XAtom atom) const { return mAtoms[static_cast<std::size_t>(atom)]; }
+  /// Whether the server tells the pids of its clients.
+  bool TellsClientPids() const { return mTellsClientPids; }
+  /// The bits of a window's id that do not tell its client.
+  std::uint32_t ResourceMask() const;
+
+  /// When a batch of requests that is sent now has to be answered.
+  static Deadline BatchDeadline();
+
+  /// Waits for the answer to one request; null when there is none, or an error.
+  template <typename T, typename Cookie>
+  Reply<T> Wait(Cookie cookie, Deadline deadline) {
+    return Reply<T>(static_cast<T*>(WaitFor(cookie.sequence, deadline)));
+  }
+
+  /// Asks for up to `words` 32-bit units of a property.
+  xcb_get_property_cookie_t AskProperty(xcb_window_t window, xcb_atom_t property,
+                                        std::uint32_t words) const;
+
+  /// Asks to be told of changes of a window's properties and of its end.
+  void Watch(xcb_window_t window) const;
+
+  /// Everything that has been told since the last call, without waiting.
+  std::vector<XChange> TakeChanges();
+
+  /// The server's time, by one question; 0 when it is lost.
+  xcb_timestamp_t ServerTime();
+
+  /// Sends what has been written.
+  void Flush();
+
+ private:
+  explicit XConnection(xcb_connection_t* connection, int screen);
+
+  bool Prepare();
+  bool Handshake();
+  void* WaitFor(unsigned sequence, Deadline deadline);
+  /// Waits for bytes from the server; false, and lost, when none come in time.
+  bool WaitForBytes(Deadline deadline);
+  void ReadEvents();
+
+  xcb_connection_t* mConnection;
+  int mScreen;
+  bool mLost = false;
+  bool mTellsClientPids = false;
+  xcb_window_t mRoot = 0;
+  /// Ours, never seen: its property changes carry the server's time.
+  xcb_window_t mOwnWindow = 0;
+  xcb_timestamp_t mLastTime = 0;
+  std::array<xcb_atom_t, static_cast<std::size_t>(XAtom::kCount)> mAtoms{};
+  std::vector<XChange> mChanges;
+};
+
+/// The bytes of a property of 8-bit units, or as many as came.
+std::string PropertyText(const xcb_get_property_reply_t* reply);
+
+/// The units of a property of 32-bit units; none for any other.
+std::vector<std::uint32_t> PropertyWords(const xcb_get_property_reply_t* reply);
+
+}  // namespace lurkwell

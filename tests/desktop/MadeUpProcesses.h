@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include "platform/MadeUpTree.h"
+#include "platform/desktop/DesktopSettings.h"
+
+namespace lurkwell {
+
+/// A proc tree and a folder of desktop entries, for a desktop without an X server.
+class MadeUpProcesses {
+ public:
+  /// `group` is the path of the control group.
+  void Write(int pid, std::uint64_t start, const std::string& group,
+             const std::string& name = "prog", const std::string& executable = "") const {
+    const std::string folder = "proc/" + std::to_string(pid);
+    std::string stat = std::to_string(pid) + " (" + name + ") S 1 1 1 0 -1 4194560";
+    for (int field = 10; field < 22; ++field) stat += " 7";
+    mTree.Write(folder + "/stat", stat + ' ' + std::to_string(start) + " 1 2 3\n");
+    mTree.Write(folder + "/comm", name + '\n');
+    mTree.Write(folder + "/cgroup", "0::" + group + '\n');
+    if (executable.empty()) return;
+    std::filesystem::create_symlink(executable, mTree.Root() + '/' + folder + "/exe");
+  }
+  void End(int pid) const {
+    std::filesystem::remove_all(mTree.Root() + "/proc/" + std::to_string(pid));
+  }
+  void WriteEntry(const std::string& id, const std::string& lines) const {
+    mTree.Write("applications/" + id + ".desktop", "[Desktop Entry]\nType=Application\n" + lines);
+  }
+  std::string EntryPath(const std::string& id) const {
+    return mTree.Root() + "/applications/" + id + ".desktop";
+  }
+
+  DesktopSettings Settings() const {
+    DesktopSettings settings;
+    settings.usesScopes = true;
+    settings.procFolder = mTree.Root() + "/proc";
+    settings.applicationFolders = {mTree.Root() + "/applications"};
+    return settings;
+  }
+
+ private:
+  MadeUpTree mTree;
+};
+
+inline constexpr const char* kAppSlice = "/user.slice/user-1000.slice/user@1000.service/app.slice/";
+
+}  // namespace lurkwell

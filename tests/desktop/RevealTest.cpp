@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <string>
+
+#include "desktop/MadeUpProcesses.h"
+#include "platform/desktop/DesktopProcessManager.h"
+#include "support/ChildProgram.h"
+
+namespace lurkwell {
+namespace {
+
+/// A session bus of this test's own.
+class TestBus {
+ public:
+  const std::string& Address() const { return mAddress; }
+  void End() { mDaemon.End(); }
+
+ private:
+  ChildProgram mDaemon{
+      {"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1"}};
+  std::string mAddress = mDaemon.ReadLine();
+};
+
+/// Writes down what it is asked to show, and answers nobody.
+class FakeFileManager final : public QDBusVirtualObject {
+ public:
+  explicit FakeFileManager(const std::string& address)
+      : mBus(QDBusConnection::connectToBus(QString::fromStdString(address), "fake")) {
+    EXPECT_TRUE(mBus.registerVirtualObject("/org/freedesktop/FileManager1", this));
+    EXPECT_TRUE(mBus.registerService("org.freedesktop.FileManager1"));
+  }
+  ~FakeFileManager() override { QDBusConnection::disconnectFromBus("fake"); }
+
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
+    EXPECT_EQ(message.interface(), "org.freedesktop.FileManager1");
+    EXPECT_EQ(message.member(), "ShowItems");
+    EXPECT_EQ(message.signature(), "ass");
+    shown = message.arguments().value(0).toStringList();
+    return true;
+  }
+
+  QStringList shown;
+
+ private:
+  QDBusConnection mBus;
+};
+
+TEST(Reveal, AsksTheFileManagerForTheEntryOrTheProgram) {
+  TestBus bus;
+  FakeFileManager fileManager(bus.Address());
+  const MadeUpProcesses processes;
+  processes.WriteEntry("known", "Name=Known\n");
+  processes.Write(1, 1, kAppSlice + std::string("app-known-1.scope"));
+  processes.Write(2, 2, kAppSlice + std::string("app-other-2.scope"), "other",
+                  "/opt/a b/\xc3\xbc#? (deleted)");
+  auto settings = processes.Settings();
+  settings.sessionBusAddress = bus.Address();
+  DesktopProcessManager manager(settings);
+  const auto shows = [&](ProcessSerialNumber psn, const std::string& uri) {
+    fileManager.shown.clear();
+    EXPECT_TRUE(manager.Reveal(psn));
+    return ComesTrue([&] {
+      QCoreApplication::processEvents();
+      return fileManager.shown == QStringList(QString::fromStdString(uri));
+    });
+  };
+  EXPECT_TRUE(shows({1, 1}, "file://" + processes.EntryPath("known")));
+  EXPECT_TRUE(shows({2, 2}, "file:///opt/a%20b/%C3%BC%23%3F"));
+  EXPECT_FALSE(manager.Reveal({3, 3}));
+  bus.End();
+  EXPECT_TRUE(ComesTrue([&] {
+    QCoreApplication::processEvents();
+    return !manager.Reveal({1, 1});
+  }));
+}
+
+}  // namespace
+}  // namespace lurkwell

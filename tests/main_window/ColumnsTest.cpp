@@ -1,0 +1,121 @@
+// Which columns there are, by menu and by preference.
+#include "main_window/MainWindowTest.h"
+
+namespace lurkwell {
+namespace {
+
+class ColumnsTest : public MainWindowTest {
+ protected:
+  void Reopen() {
+    window.reset();
+    Open();
+  }
+
+  void Toggle(QMenu& menu, const char* key) {
+    window->menus().ValidateAll();
+    auto* item = ColumnItem(menu, key);
+    ASSERT_NE(item, nullptr) << key;
+    ASSERT_TRUE(item->isEnabled());
+    item->trigger();
+  }
+
+  ColumnMenus& Menus() { return controller().columnMenus(); }
+  int Width(const char* key) { return window->table().columnWidth(ColumnOf(key)); }
+};
+
+TEST_F(ColumnsTest, WhatIsChosenComesBack) {
+  machine.tools.SetOutput("/bin/ps -Lww", "RSZ UID\n");
+  machine.tools.SetOutput("/bin/ps 0 -o RSZ", "RSZ\n");
+  machine.tools.SetOutput("/bin/ps 0 -o UID", "UID\n");
+  machine.tools.SetOutput("/bin/ps -axww -o pid,UID", "  PID UID\n    1   0\n  300  42\n");
+  machine.processTable.Birth(300, "p");
+  Open();
+  Toggle(Menus().BuiltInMenu(), "pid_p_nice");
+  Toggle(Menus().PSAvailableMenu(), "UID");
+  Menus().TopLevelItem(kInternalIcon).trigger();
+  Turn();
+  const std::string keys =
+      "meta_pid internal_Indicator meta_name meta_active_time internal_CPUPercent "
+      "internal_MemGraph pid_p_nice UID";
+  EXPECT_EQ(Keys(), keys);
+  ClickHeader("meta_pid");
+  EXPECT_EQ(Cell(2, ColumnOf("UID")), "42") << "filled for the rows that were there";
+  EXPECT_TRUE(ColumnItem(Menus().BuiltInMenu(), "pid_p_nice")->isChecked());
+  EXPECT_FALSE(Menus().TopLevelItem(kInternalIcon).isChecked());
+  // Badges stand beside icons.
+  Menus().TopLevelItem(kInternalIndicator).trigger();
+  Menus().TopLevelItem(kInternalIcon).trigger();
+  Menus().TopLevelItem(kInternalIndicator).trigger();
+  EXPECT_TRUE(Keys().ends_with("UID internal_Icon internal_Indicator")) << Keys();
+
+  window->table().setColumnWidth(ColumnOf("meta_name"), 333);
+  window->table().horizontalHeader()->moveSection(ColumnOf("UID"), 0);
+  ClickHeader("UID");
+  ClickHeader("UID");
+  const auto before = Table();
+  Reopen();
+  EXPECT_TRUE(Keys().starts_with("UID meta_pid meta_name meta_active_time")) << Keys();
+  EXPECT_EQ(Width("meta_name"), 333);
+  EXPECT_EQ(Width("internal_Icon"), 24);
+  EXPECT_EQ(controller().sortColumn(), InternKey("UID"));
+  Turn();
+  EXPECT_EQ(Table(), before);
+}
+
+TEST_F(ColumnsTest, TheNameHasTwoItemsThatAgree) {
+  Open();
+  auto& top = Menus().TopLevelItem(kMetaName);
+  auto* item = ColumnItem(Menus().BuiltInMenu(), "meta_name");
+  EXPECT_TRUE(top.isChecked() && item->isChecked());
+  top.trigger();
+  EXPECT_FALSE(top.isChecked() || item->isChecked() || controller().isTracked("meta_name"));
+  Toggle(Menus().BuiltInMenu(), "meta_name");
+  EXPECT_TRUE(top.isChecked() && item->isChecked() && controller().isTracked("meta_name"));
+  EXPECT_EQ(ColumnItem(Menus().BuiltInMenu(), "meta_pid"), nullptr);
+  EXPECT_EQ(Menus().BuiltInMenu().actions().size(), 37);
+}
+
+TEST_F(ColumnsTest, PreferencesThatAreOddAreMadeToFit) {
+  const auto add = [](int i, const char* key) {
+    SetPrefArrayString("MAIN_WINDOW_COLUMNS", i, "COLUMN_KEY", key);
+  };
+  SetPrefInt("HAS_RUN_TWO_POINT_THREE", 1);
+  SetPrefInt("HAS_RUN_TWO_POINT_FOUR", 1);
+  add(0, "meta_name");
+  add(1, "meta_name");
+  add(2, "NOSUCHCOLUMN");
+  add(3, "internal_cpu_usage");
+  add(4, "internal_CPUPercent");
+  SetPrefArrayInt("MAIN_WINDOW_COLUMNS", 0, "COLUMN_WIDTH", -7);
+  SetPrefArrayInt("MAIN_WINDOW_COLUMNS", 4, "COLUMN_SORT_DIRECTION", 17);
+  Open();
+  EXPECT_EQ(Keys(), "meta_name internal_CPUPercent meta_pid") << "pids are there for good";
+  EXPECT_GT(Width("meta_name"), 40);
+  EXPECT_GE(Width("meta_pid"), 45);
+  window.reset();
+  EXPECT_EQ(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 3);
+}
+
+TEST_F(ColumnsTest, SelectionAndRowsSurviveANewColumn) {
+  for (const int pid : {300, 301, 302}) machine.processTable.Birth(pid, "p");
+  Open();
+  ClickHeader("meta_pid");
+  Select({300, 302});
+  Toggle(Menus().BuiltInMenu(), "pid_p_priority");
+  EXPECT_EQ(Selected(), "300 302");
+  EXPECT_EQ(Pids(), "0 1 300 301 302");
+  Turn(10);
+  EXPECT_NE(Cell(2, ColumnOf("pid_p_priority")), "") << "at once";
+}
+
+TEST_F(ColumnsTest, EveryHeaderSaysWhatItsFigureIs) {
+  Open();
+  for (int column = 0; column < controller().columnCount(); ++column) {
+    const auto tip = controller().headerData(column, Qt::Horizontal, Qt::ToolTipRole).toString();
+    EXPECT_GT(tip.size(), 20) << column;
+    EXPECT_FALSE(tip.contains(QLatin1String("_tip"))) << tip.toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace lurkwell

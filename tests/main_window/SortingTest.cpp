@@ -1,0 +1,145 @@
+// The eleven comparisons, by clicks on headers.
+#include "main_window/MainWindowTest.h"
+
+namespace lurkwell {
+namespace {
+
+class SortingTest : public MainWindowTest {
+ protected:
+  void Show(const char* key) { controller().addToKeysWeTrackForUI(InternKey(key)); }
+};
+
+TEST_F(SortingTest, EqualOnesAreOrderedByPidInTheDirectionOfTheSort) {
+  auto& table = machine.processTable;
+  for (const int pid : {40, 30, 20}) table.Birth(pid, "same");
+  table.Birth(25, "Same");
+  table.Birth(50, "finder");
+  Open();
+  ClickHeader("meta_name");
+  EXPECT_EQ(Pids(), "50 0 1 20 25 30 40");
+  ClickHeader("meta_name");
+  EXPECT_EQ(Pids(), "40 30 25 20 1 0 50");
+  ClickHeader("meta_pid");
+  EXPECT_EQ(Pids(), "0 1 20 25 30 40 50") << "each column has a direction of its own";
+  ClickHeader("meta_name");
+  EXPECT_EQ(Pids(), "40 30 25 20 1 0 50");
+  ClickHeader("meta_name");
+  EXPECT_EQ(Pids(), "50 0 1 20 25 30 40");
+}
+
+TEST_F(SortingTest, TheIdleTaskCountsAsNothingUnlessTheUserWantsIt) {
+  auto& table = machine.processTable;
+  table.Birth(30, "busy");
+  table.Birth(31, "busier");
+  for (const int pid : {0, 30, 31}) table.Find(pid)->UseCPU(1);
+  table.Find(0)->virtualSize = 0x7000000000;
+  table.Find(30)->virtualSize = 0x20000000 + 5000;
+  Open();
+  const auto work = [&] {
+    table.Find(0)->UseCPU(1900);
+    table.Find(30)->UseCPU(200);
+    table.Find(31)->UseCPU(400);
+    Turn();
+  };
+  ClickHeader("internal_CPUPercent");
+  work();
+  EXPECT_EQ(Pids(), "31 30 1 0") << "descending is the first direction";
+  EXPECT_EQ(Cell(3, 5), "95.0 %") << "it is shown as it is";
+  EXPECT_EQ(gBiggestVSZ, 5000);
+  ClickHeader("internal_MemGraph");
+  EXPECT_EQ(Pids(), "0 1 31 30");
+  SetPrefInt("MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE", 0);
+  work();
+  EXPECT_EQ(Pids(), "1 31 30 0");
+  ClickHeader("internal_CPUPercent");
+  EXPECT_EQ(Pids(), "0 31 30 1");
+}
+
+TEST_F(SortingTest, NumbersTimesAndSizesSortAsWhatTheyAre) {
+  auto& table = machine.processTable;
+  table.Birth(30, "a").UseCPU(100'000);
+  table.Birth(31, "b").UseCPU(9'000);
+  table.Birth(32, "c").UseCPU(20'500);
+  table.Find(30)->residentSize = 900;
+  table.Find(31)->residentSize = 2LL << 20;
+  table.Find(32)->residentSize = 5LL << 32;
+  table.Find(30)->entry.nice = 9;
+  table.Find(31)->entry.nice = 10;
+  table.Find(32)->entry.nice = -5;
+  Open();
+  for (const char* key : {"pid_rsz", "pid_p_nice"}) Show(key);
+  Turn();
+  ClickHeader("meta_active_time");
+  EXPECT_EQ(Pids(), "0 1 31 32 30");
+  ClickHeader("pid_rsz");
+  EXPECT_EQ(Pids(), "0 1 30 31 32");
+  ClickHeader("pid_p_nice");
+  EXPECT_EQ(Pids(), "32 0 1 30 31");
+}
+
+TEST_F(SortingTest, ApplicationsAndMarkedProcessesComeFirst) {
+  auto& table = machine.processTable;
+  for (const auto& [pid, name] :
+       {std::pair(30, "zeta"), std::pair(31, "beta"), std::pair(32, "alpha")})
+    table.Birth(pid, name);
+  machine.processManager.Launch({1, 30}, 30, "Zeta");
+  machine.processManager.Launch({1, 31}, 31, "beta");
+  Open();
+  ClickHeader("meta_pid");
+  ClickHeader("internal_Icon");
+  EXPECT_EQ(Pids(), "31 30 32 0 1");
+  ClickHeader("internal_Icon");
+  EXPECT_EQ(Pids(), "1 0 32 30 31");
+  Select({32});
+  Choose("menu_process_halt");
+  ClickHeader("internal_Indicator");
+  EXPECT_EQ(Pids(), "32 31 30 0 1");
+}
+
+TEST_F(SortingTest, MissingValuesMoveNobodyAndHexadecimalColumnsDoNotSort) {
+  auto& table = machine.processTable;
+  for (const int pid : {30, 31, 32, 33}) table.Birth(pid, "p" + std::to_string(pid));
+  machine.tools.SetOutput("/bin/ps -Lww", "RSZ SESS\n");
+  machine.tools.SetOutput("/bin/ps 0 -o RSZ", "RSZ\n");
+  machine.tools.SetOutput("/bin/ps 0 -o SESS", "SESS\n");
+  machine.tools.SetOutput("/bin/ps -axww -o pid,RSZ", "  PID RSZ\n30 50\n32 7\n33 900\n");
+  Open();
+  for (const char* key : {"RSZ", "SESS"}) Show(key);
+  Turn();
+  ClickHeader("RSZ");
+  const auto order = Pids();
+  EXPECT_LT(order.find("32"), order.find("30"));
+  EXPECT_LT(order.find("30"), order.find("33"));
+  ClickHeader("SESS");
+  EXPECT_EQ(Pids(), order);
+  EXPECT_EQ(controller().sortColumn(), InternKey("SESS"));
+}
+
+TEST_F(SortingTest, TheRememberedSortColumnIsMadeToFit) {
+  SetPrefInt("MAIN_WINDOW_SORT_COLUMN_INDEX", 99);
+  Open();
+  EXPECT_EQ(controller().sortColumn(), kMetaPid) << "the first one";
+}
+
+TEST_F(SortingTest, TenThousandRowsInAnyOrderSortRight) {
+  InternalRepresentations sortable;
+  std::vector<std::unique_ptr<RowDictionary>> owners;
+  std::vector<RowDictionary*> rows;
+  std::srand(7);
+  for (int pid = 1; pid <= 10'000; ++pid) {
+    owners.push_back(std::make_unique<RowDictionary>(pid, sortable.Of(pid)));
+    rows.push_back(owners.back().get());
+    if (pid % 5 != 0) sortable.Of(pid).Set(kInternalCPUPercent, (std::rand() % 100) / 100.0);
+  }
+  std::vector<RowDictionary*> sorted = rows;
+  SortRows(sorted, cpuPercentCompare, {kInternalCPUPercent, false});
+  ASSERT_EQ(sorted.size(), rows.size());
+  for (std::size_t i = 1; i < sorted.size(); ++i) {
+    const double a = NumberOf(sorted[i - 1]->Sortable().Get(kInternalCPUPercent));
+    const double b = NumberOf(sorted[i]->Sortable().Get(kInternalCPUPercent));
+    ASSERT_TRUE(a > b || (a == b && sorted[i - 1]->Pid() > sorted[i]->Pid())) << i;
+  }
+}
+
+}  // namespace
+}  // namespace lurkwell

@@ -1,0 +1,244 @@
+// Rows: what they show from turn to turn, and how little the view hears of it.
+#include <QSignalSpy>
+
+#include "main_window/MainWindowTest.h"
+
+namespace lurkwell {
+namespace {
+
+using TableTest = MainWindowTest;
+
+/// What the view was told in one turn.
+struct Heard {
+  explicit Heard(QAbstractItemModel& model)
+      : inserted(&model, &QAbstractItemModel::rowsInserted),
+        removed(&model, &QAbstractItemModel::rowsRemoved),
+        moved(&model, &QAbstractItemModel::layoutChanged),
+        changed(&model, &QAbstractItemModel::dataChanged),
+        reset(&model, &QAbstractItemModel::modelReset) {}
+
+  std::string Take() {
+    std::string text;
+    for (auto* spy : {&inserted, &moved, &removed, &changed, &reset}) {
+      text += std::to_string(spy->count()) + " ";
+      spy->clear();
+    }
+    return text;
+  }
+
+  QSignalSpy inserted, removed, moved, changed, reset;
+};
+
+TEST_F(TableTest, ANewUserSeesSevenColumnsAndSharesFromTheSecondTurnOn) {
+  auto& table = machine.processTable;
+  auto& busy = table.Birth(300, "busy");
+  table.Birth(301, "idle");
+  busy.UseCPU(5000);
+  busy.residentSize = 3 << 20;
+  busy.virtualSize = 0x20000000 + (8 << 20);
+  Open();
+  EXPECT_EQ(Keys(),
+            "meta_pid internal_Icon internal_Indicator meta_name meta_active_time "
+            "internal_CPUPercent internal_MemGraph");
+  ClickHeader("meta_pid");
+  EXPECT_EQ(Table(),
+            " 0|||kernel_task|0.00|0.0 %|0 / 0\n"
+            " 1|||launchd|0.00|0.0 %|0 / 0\n"
+            " 300|||busy|5.00|0.0 %|3.0 M / 8.0 M\n"
+            " 301|||idle|0.00|0.0 %|0 / 0\n")
+      << "whatever it used before it was first seen";
+  busy.UseCPU(500);
+  table.Find(0)->UseCPU(2000);
+  Turn();
+  EXPECT_EQ(Cell(2, 4), "5.50");
+  EXPECT_EQ(Cell(2, 5), "25.0 %");
+  EXPECT_EQ(gBiggestVSZ, 8 << 20);
+  busy.UseCPU(9000);
+  Turn();
+  EXPECT_EQ(Cell(2, 5), "100.0 %") << "never more than one CPU";
+  EXPECT_EQ(Cell(2, 4), "14.50");
+}
+
+TEST_F(TableTest, ATurnReachesTheViewInOnePiece) {
+  auto& table = machine.processTable;
+  for (int pid = 100; pid < 400; ++pid) table.Birth(pid, "p" + std::to_string(pid % 7));
+  Open();
+  ClickHeader("meta_name");
+  Heard heard(controller());
+  EXPECT_EQ(heard.Take(), "0 0 0 0 0 ");
+  Turn();
+  EXPECT_EQ(heard.Take(), "0 0 0 0 0 ") << "nothing has changed";
+  table.Find(200)->UseCPU(1000);
+  Turn();
+  EXPECT_EQ(heard.Take(), "0 0 0 1 0 ");
+  for (int pid = 101; pid < 300; pid += 2) table.Death(pid);
+  for (int pid = 500; pid < 560; ++pid) table.Birth(pid, "p3");
+  for (int pid = 300; pid < 330; ++pid) table.Find(pid)->UseCPU(10);
+  Turn();
+  EXPECT_EQ(heard.Take(), "1 1 1 1 0 ");
+  EXPECT_EQ(controller().rowCount(), 302 - 100 + 60);
+  for (int row = 1; row < controller().rowCount(); ++row)
+    EXPECT_LE(Cell(row - 1, 3), Cell(row, 3)) << row;
+}
+
+TEST_F(TableTest, TheSelectionFollowsProcessesNotPlaces) {
+  auto& table = machine.processTable;
+  for (int pid = 10; pid < 30; ++pid) table.Birth(pid, "name" + std::to_string(40 - pid));
+  Open();
+  ClickHeader("meta_pid");
+  Select({12, 20, 28});
+  ClickHeader("meta_name");
+  EXPECT_EQ(Selected(), "28 20 12");
+  table.Death(20);
+  for (int pid = 40; pid < 60; ++pid) table.Birth(pid, "a" + std::to_string(pid));
+  Turn();
+  EXPECT_EQ(Selected(), "28 12");
+  EXPECT_TRUE(VQTarvMainWindowInfoSynch::SelectPID(55));
+  EXPECT_EQ(Selected(), "55");
+  EXPECT_FALSE(VQTarvMainWindowInfoSynch::SelectPID(20));
+  EXPECT_EQ(Selected(), "55");
+  // The pid of a selected process passes to another one: that was not selected.
+  table.Death(55);
+  table.Birth(55, "stranger");
+  Turn();
+  Turn();
+  EXPECT_NE(controller().rows().Find(55), nullptr);
+  EXPECT_EQ(Selected(), "");
+}
+
+TEST_F(TableTest, ARowThatChangesIsReadAgainWithItsIcon) {
+  machine.processTable.Birth(300, "editor");
+  Open();
+  ClickHeader("meta_pid");
+  EXPECT_FALSE(controller().index(2, 1).data(Qt::DecorationRole).isValid());
+  machine.processManager.Launch({7, 300}, 300, "Text Editor");
+  machine.iconServices.SetColour({7, 300}, 0xFF336699);
+  Turn();
+  Turn();
+  EXPECT_EQ(Cell(2, 3), "Text Editor");
+  const auto icon = controller().index(2, 1).data(Qt::DecorationRole).value<QPixmap>();
+  ASSERT_FALSE(icon.isNull());
+  EXPECT_EQ(icon.toImage().pixelColor(5, 5), QColor(0x33, 0x66, 0x99));
+  machine.log.Clear();
+  controller().index(2, 1).data(Qt::DecorationRole);
+  EXPECT_EQ(machine.log.Take(), "") << "fetched once";
+}
+
+TEST_F(TableTest, HostileNamesStayOnOneLineAndAreNoMarkup) {
+  machine.processTable.Birth(300, "<b>x</b>\n\x1b[1m\xff");
+  Open();
+  ClickHeader("meta_pid");
+  EXPECT_EQ(Cell(2, 3), "<b>x</b>\\012\\033[1m\\377");
+  Select({300});
+  EXPECT_EQ(controller().selectionAsText().count(QLatin1Char('\n')), 1);
+}
+
+TEST_F(TableTest, WhileAMenuIsOpenRowsKeepTheirPlaces) {
+  auto& table = machine.processTable;
+  for (int pid = 300; pid < 305; ++pid) table.Birth(pid, "p");
+  machine.helper.SetRecordsFigures(false);
+  Open();
+  ClickHeader("internal_CPUPercent");
+  const auto before = Pids();
+  Select({301, 302});
+  window->menus().ContextMenu().popup(window->pos());
+  table.Find(303)->UseCPU(1000);
+  table.Death(301);
+  table.Birth(310, "new");
+  Turn();
+  EXPECT_EQ(Pids(), before);
+  EXPECT_EQ(Selected(), "302") << "what has ended cannot be acted upon";
+  // Its pid may even be another's by now.
+  table.Birth(301, "stranger");
+  Turn();
+  Turn();
+  machine.log.Clear();
+  controller().processHaltMenuItem();
+  EXPECT_EQ(machine.log.Take(), "Helper Lkw Action Request:\\nkill_halt 302\n");
+  window->menus().ContextMenu().hide();
+  table.Find(303)->UseCPU(1000);
+  Turn();
+  EXPECT_EQ(Pids().substr(0, 4), "303 ");
+  EXPECT_NE(controller().rows().Find(310), nullptr);
+}
+
+TEST_F(TableTest, AClosedWindowHasNoRowsAndStartsAfreshWhenShownAgain) {
+  machine.processTable.Birth(300, "old");
+  Open();
+  EXPECT_EQ(controller().rowCount(), 3);
+  EXPECT_EQ(gNSMainWindow, window.get());
+  window->close();
+  EXPECT_EQ(controller().rowCount(), 0);
+  EXPECT_TRUE(gNSMainWindow.isNull());
+  EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", nullptr, false, 0), 0);
+  machine.processTable.Birth(301, "new");
+  Turn(20'000);
+  EXPECT_EQ(controller().rowCount(), 0);
+  window->show();
+  window->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", nullptr, false, 0), 1);
+  Turn(10);
+  EXPECT_EQ(controller().rowCount(), 4) << "not only when the heart beats next";
+  // The last window is the program's end, and comes back with it.
+  closingQuits = true;
+  window->close();
+  EXPECT_EQ(commands.Take(), "quit\n");
+  EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", nullptr, false, 0), 1);
+}
+
+TEST_F(TableTest, PreferencesShowAtOnce) {
+  auto& process = machine.processTable.Birth(300, "p");
+  process.residentSize = 3 << 20;
+  Open();
+  ClickHeader("meta_pid");
+  EXPECT_TRUE(Cell(2, 6).startsWith("3.0 M"));
+  SetPrefInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", 2);
+  SetPrefInt("MAIN_WINDOW_INTERVAL", 500);
+  process.UseCPU(100);
+  ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType("VQTarvMainWindowInfoSynch");
+  EXPECT_TRUE(Cell(2, 6).startsWith("3072")) << Cell(2, 6).toStdString();
+  EXPECT_EQ(controller().synchronizer()->Interval(), 500);
+}
+
+TEST_F(TableTest, AFilterHidesRowsAndChangesNothingElse) {
+  auto& table = machine.processTable;
+  table.Birth(300, "alpha");
+  table.Birth(301, "beta");
+  table.Birth(302, "ALPHABET");
+  Open();
+  ClickHeader("meta_name");
+  Select({301});
+  Choose("menu_edit_filter");
+  QTest::keyClicks(&window->filterField(), "alp");
+  EXPECT_EQ(Pids(), "300 302");
+  EXPECT_EQ(Selected(), "") << "nobody acts on what he cannot see";
+  table.Birth(303, "alps");
+  table.Birth(304, "other");
+  Turn();
+  EXPECT_EQ(Pids(), "300 302 303");
+  QTest::keyClick(&window->filterField(), Qt::Key_Escape);
+  EXPECT_FALSE(window->filterField().isVisible());
+  EXPECT_EQ(Pids(), "300 302 303 301 0 1 304");
+  EXPECT_EQ(Selected(), "");
+}
+
+TEST_F(TableTest, TypingFindsNames) {
+  auto& table = machine.processTable;
+  for (const auto& [pid, name] :
+       {std::pair(300, "apple"), std::pair(301, "apricot"), std::pair(302, "banana")})
+    table.Birth(pid, name);
+  Open();
+  ClickHeader("meta_name");
+  window->table().setFocus();
+  QTest::keyClicks(&window->table(), "ban");
+  EXPECT_EQ(Selected(), "302");
+  QTest::qWait(QApplication::keyboardInputInterval() + 50);
+  QTest::keyClicks(&window->table(), "a");
+  EXPECT_EQ(Selected(), "300");
+  QTest::keyClicks(&window->table(), "a");
+  EXPECT_EQ(Selected(), "301") << "again and again: from match to match";
+}
+
+}  // namespace
+}  // namespace lurkwell

@@ -1,0 +1,70 @@
+// The window as a whole, and the order of windows.
+#include <QLabel>
+
+#include "main_window/FrontmostWindow.h"
+#include "main_window/MainWindowTest.h"
+
+namespace lurkwell {
+namespace {
+
+using WindowTest = MainWindowTest;
+
+TEST_F(WindowTest, ComesBackWhereItWasIfThatCanBeSeen) {
+  Open();
+  window->setGeometry(100, 80, 500, 400);
+  QApplication::processEvents();
+  const auto place = window->pos();
+  window->SaveFrame();
+  window.reset();
+  Open();
+  EXPECT_EQ(window->size(), QSize(500, 400));
+  EXPECT_EQ(window->pos(), place);
+  for (const char* frame : {"90000 90000 500 400", "0 0 9 9", "rubbish", "0 0 -5 2000000000"}) {
+    SetPrefString("MAIN_WINDOW_FRAME", frame);
+    window.reset();
+    Open();
+    EXPECT_TRUE(window->screen()->geometry().intersects(window->frameGeometry())) << frame;
+    EXPECT_GT(window->width(), 99) << frame;
+  }
+}
+
+TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
+  machine.processTable.Birth(300, "p");
+  Open();
+  Select({300});
+  QString said;
+  for (const auto* label : window->findChildren<QLabel*>()) said += label->text() + "\n";
+  EXPECT_TRUE(said.contains(QLatin1String("3 processes, 3 shown, 1 selected")))
+      << said.toStdString();
+  helper.reset();
+  Turn();
+  said.clear();
+  for (const auto* label : window->findChildren<QLabel*>()) said += label->text() + "\n";
+  EXPECT_TRUE(said.contains(QLatin1String("helper"))) << said.toStdString();
+}
+
+TEST_F(WindowTest, TheKeyboardGoesToTheFrontmostWindowOfAKnownTitle) {
+  QWidget other, process, preferences;
+  other.setWindowTitle("Other Process");
+  process.setWindowTitle("Process list");
+  preferences.setWindowTitle("Lurkwell Preferences");
+  for (auto* widget : {&other, &process, &preferences}) WatchWindowOrder(*widget);
+  EXPECT_FALSE(EnsureThatCocoaWindowIsFrontmostIfPossible()) << "none of them is visible";
+  for (auto* widget : {&process, &preferences, &other}) {
+    widget->show();
+    widget->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(widget));
+  }
+  EXPECT_EQ(orderedWindows().first(), &other);
+  EXPECT_TRUE(EnsureThatCocoaWindowIsFrontmostIfPossible());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&preferences));
+  preferences.hide();
+  EXPECT_TRUE(EnsureThatCocoaWindowIsFrontmostIfPossible());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&process));
+  process.hide();
+  EXPECT_FALSE(EnsureThatCocoaWindowIsFrontmostIfPossible());
+  EXPECT_TRUE(other.isVisible());
+}
+
+}  // namespace
+}  // namespace lurkwell
