@@ -1677,7 +1677,7 @@
     </message>
     <message id="kill_confirmation_kill">
         <source></source>
-        <translation>Kill</translation>
+        <translation>&amp;Kill</translation>
     </message>
     <message id="main_window_not_available">
         <source></source>

@@ -40,7 +40,8 @@ void EndingSignals::Watch() {
   QObject::connect(mNotifier.get(), &QSocketNotifier::activated, [this] {
     signalfd_siginfo information;
     while (::read(mDescriptor, &information, sizeof information) == sizeof information)
-      QCoreApplication::quit();
+      // A window may refuse to quit; a signal is not a question.
+      QCoreApplication::exit(0);
   });
 }
 

@@ -168,7 +168,7 @@ std::optional<ProcessTableEntry> LinuxProcessTable::ReadEntry(std::int32_t pid,
   // What is on a processor now is not counted up to now.
   if (entry.state != RunState::kRunning) known.mark = mark;
   // The first turns are spread, so that no pass has to read all at once.
-  known.keepable = wasMarked ? kReadEvery - 1 : static_cast<std::uint8_t>(pid % kReadEvery);
+  known.keepable = static_cast<std::uint8_t>(wasMarked ? kReadEvery - 1 : pid % kReadEvery);
   return entry;
 }
 

@@ -1,0 +1,154 @@
+// Start-up and shutdown in their order, on a simulated machine.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+#include <algorithm>
+#include <memory>
+
+#include "app/SplashScreen.h"
+#include "app/WindowMode.h"
+#include "app/appDelegate.h"
+#include "consolidator/PI_Consolidator.h"
+#include "platform/ApplicationQuitting.h"
+#include "platform/simulated/SimulatedMachine.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "resources/Resources.h"
+#include "support/RecordingClient.h"
+
+namespace lurkwell {
+namespace {
+
+class ShellTest : public testing::Test {
+ protected:
+  ShellTest() {
+    machine.namedPipes.SetHelper(
+        [this](std::string_view request) { return machine.helper.Answer(request); });
+    machine.helper.SetRecordsFigures(false);
+  }
+
+  void Launch() {
+    delegate = std::make_unique<vqAppDelegate>();
+    delegate->init();
+    delegate->applicationDidFinishLaunching();
+    Pass(0);
+  }
+
+  void Pass(std::int64_t milliseconds) {
+    machine.runLoop.RunFor(milliseconds);
+    QApplication::processEvents();
+  }
+
+  bool MainWindowIsVisible() { return delegate->mainWindow().isVisible(); }
+  bool SplashIsVisible() {
+    return SplashScreen::window() != nullptr && SplashScreen::window()->isVisible();
+  }
+  static int Remembered() {
+    return GetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", nullptr, false, -1);
+  }
+
+  SimulatedMachine machine;
+  MachineInstallation installation{machine.services};
+  AccessLog told;
+  std::unique_ptr<vqAppDelegate> delegate;
+};
+
+TEST_F(ShellTest, ChecksToolsThenStartsTheHelperThenShowsTheWindowAndThePanel) {
+  machine.processTable.Birth(300, "p");
+  Launch();
+  const auto& lines = machine.log.Lines();
+  const auto at = [&](const std::string& what) {
+    return std::ranges::find_if(lines, [&](const auto& line) { return line.starts_with(what); }) -
+           lines.begin();
+  };
+  EXPECT_LT(at("Tools.Stat /bin/ps"), at("Tools.Stat /bin/kill"));
+  EXPECT_LT(at("Tools.Stat /bin/kill"), at("Tools.Stat /usr/bin/renice"));
+  EXPECT_LT(at("Tools.Stat /usr/bin/renice"), at("Tools.StartInBackground"));
+  EXPECT_LT(at("Tools.StartInBackground"), at("ProcessTable.Read"));
+  EXPECT_EQ(gAppDelegate, delegate.get());
+  EXPECT_TRUE(MainWindowIsVisible());
+  EXPECT_EQ(delegate->mainWindow().controller().rowCount(), 3) << "filled at once";
+
+  // The panel's first showing lasts three seconds, whatever is clicked.
+  ASSERT_TRUE(SplashIsVisible());
+  QString said;
+  for (const auto* label : SplashScreen::window()->findChildren<QLabel*>()) said += label->text();
+  EXPECT_TRUE(said.contains(QLatin1String("Lurkwell"))) << said.toStdString();
+  EXPECT_TRUE(said.contains(QLatin1String(LURKWELL_VERSION))) << said.toStdString();
+  QTest::mouseClick(SplashScreen::window(), Qt::LeftButton);
+  Pass(2900);
+  EXPECT_TRUE(SplashIsVisible());
+  Pass(200);
+  EXPECT_FALSE(SplashIsVisible());
+  // Later ones stay until they are clicked.
+  delegate->doAboutPanel();
+  Pass(20'000);
+  EXPECT_TRUE(SplashIsVisible());
+  QTest::mouseClick(SplashScreen::window(), Qt::LeftButton);
+  EXPECT_FALSE(SplashIsVisible());
+  delegate->applicationWillTerminate();
+}
+
+TEST_F(ShellTest, EndsInOrderAndRemembersTheWindow) {
+  machine.processTable.Birth(300, "p");
+  Launch();
+  auto* client = new RecordingClient("client", 1000, told);
+  AddProcessInformationClient(client);
+  told.Clear();
+  machine.log.Clear();
+  delegate->applicationWillTerminate();
+  EXPECT_TRUE(gApplicationQuitting);
+  EXPECT_EQ(told.Take(),
+            "client removed 300\nclient removed 1\nclient removed 0\nclient deleted\n");
+  EXPECT_EQ(Remembered(), 1);
+  EXPECT_GT(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 6);
+  EXPECT_TRUE(IsPrefArrayValuePresent("MAIN_WINDOW_COLUMNS", 0, "COLUMN_WIDTH"));
+  delegate->applicationWillTerminate();
+}
+
+TEST_F(ShellTest, AWindowClosedByHandStaysClosedUnlessNothingElseWouldBeSeen) {
+  Launch();
+  QWidget other;
+  other.show();
+  delegate->mainWindow().close();
+  EXPECT_EQ(Remembered(), 0);
+  delegate->applicationWillTerminate();
+  gApplicationQuitting = false;
+  Launch();
+  EXPECT_FALSE(MainWindowIsVisible());
+  delegate->doShowMainWindow();
+  EXPECT_TRUE(MainWindowIsVisible());
+  delegate->mainWindow().close();
+  delegate->applicationWillTerminate();
+  gApplicationQuitting = false;
+  other.hide();
+  SplashScreen::destroy();
+  Launch();
+  EXPECT_TRUE(MainWindowIsVisible()) << "a program without any window could not be reached";
+  delegate->applicationWillTerminate();
+}
+
+TEST_F(ShellTest, WithoutAToolItEndsBeforeTheHelperStarts) {
+  machine.tools.SetMissing("/usr/bin/renice");
+  // Whatever would start the helper ends that process with another status.
+  machine.tools.OnStart([](const auto&) -> bool { std::_Exit(7); });
+  EXPECT_EXIT(Launch(), testing::ExitedWithCode(255), "");
+  EXPECT_FALSE(SystemHasNecessaryTools());
+  machine.log.Clear();
+  machine.tools.SetMissing("/bin/ps");
+  EXPECT_FALSE(SystemHasNecessaryTools());
+  EXPECT_EQ(machine.log.Take(), "Tools.Stat /bin/ps\n") << "the first missing one ends the check";
+}
+
+}  // namespace
+}  // namespace lurkwell
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  lurkwell::InstallResources(*qApp);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}

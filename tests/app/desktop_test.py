@@ -1,0 +1,188 @@
+#!/usr/bin/env python3
+"""The whole program on the real machine and a real X server with a window manager.
+
+desktop_test.py BINARY [unittest arguments]
+"""
+import os
+import pathlib
+import plistlib
+import shutil
+import signal
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+BINARY = sys.argv.pop(1)
+
+
+def png_size(path):
+    """Width and height from the file's own head."""
+    head = pathlib.Path(path).read_bytes()[:24]
+    assert head[:8] == b"\x89PNG\r\n\x1a\n", head
+    return struct.unpack(">II", head[16:24])
+
+
+def helpers():
+    found = set()
+    for entry in pathlib.Path("/proc").iterdir():
+        if not entry.name.isdigit():
+            continue
+        try:
+            if (entry / "cmdline").read_bytes().startswith(b"lkw_helper_daemon"):
+                found.add(int(entry.name))
+        except OSError:
+            pass
+    return found
+
+
+class Desktop(unittest.TestCase):
+    def setUp(self):
+        self.home = tempfile.mkdtemp(prefix="lurkwell-test-")
+        self.addCleanup(shutil.rmtree, self.home, True)
+        self.run_folder = pathlib.Path(self.home, "run")
+        self.run_folder.mkdir(mode=0o700)
+        self.environment = {
+            key: value for key, value in os.environ.items()
+            if key not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR")}
+        self.environment.update(
+            HOME=self.home, XDG_CONFIG_HOME=self.home + "/config",
+            XDG_DATA_HOME=self.home + "/data", XDG_RUNTIME_DIR=str(self.run_folder),
+            TMPDIR=str(self.run_folder))
+        self.helpers_before = helpers()
+
+    def open_display(self):
+        reader, writer = os.pipe()
+        server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1000x800x24"],
+            pass_fds=[writer], stderr=subprocess.DEVNULL)
+        os.close(writer)
+        self.addCleanup(server.wait)
+        self.addCleanup(server.terminate)
+        with os.fdopen(reader) as numbers:
+            self.environment["DISPLAY"] = ":" + numbers.readline().strip()
+        manager = self.start(["openbox"])
+        self.addCleanup(manager.wait)
+        self.addCleanup(manager.terminate)
+        self.wait_for(lambda: "_NET_SUPPORTING_WM_CHECK" in self.output("xprop", "-root"))
+        return server
+
+    def start(self, command):
+        process = subprocess.Popen(command, env=self.environment, stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE, text=True)
+        self.addCleanup(process.stdout.close)
+        self.addCleanup(process.stderr.close)
+        self.addCleanup(process.kill)
+        return process
+
+    def output(self, *command):
+        return subprocess.run(command, env=self.environment, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, text=True, check=False).stdout
+
+    def wait_for(self, condition, seconds=20.0):
+        end = time.monotonic() + seconds
+        while not condition():
+            self.assertLess(time.monotonic(), end, "it did not come about")
+            time.sleep(0.05)
+
+    def windows(self):
+        return self.output("xwininfo", "-root", "-tree")
+
+    def active_window(self):
+        return self.output("xdotool", "getactivewindow", "getwindowname").strip()
+
+    def type_keys(self, *words):
+        """Keys into the main window, once it has the keyboard: the about panel had it first."""
+        def activate():
+            self.output("xdotool", "search", "--name", "^Processes$", "windowactivate")
+            time.sleep(0.2)
+            return self.active_window() == "Processes"
+        self.wait_for(activate)
+        self.output("xdotool", *words)
+
+    def preferences(self):
+        file = pathlib.Path(self.home, "config", "com.velquarin.lurkwell.plist")
+        return plistlib.loads(file.read_bytes())
+
+    def check_nothing_is_left(self):
+        self.wait_for(lambda: helpers() <= self.helpers_before)
+        self.assertEqual([p.name for p in self.run_folder.rglob("*") if p.is_fifo()], [])
+
+    def test_pictures_need_no_display(self):
+        picture = self.home + "/main.png"
+        for scale, size in (("1", (860, 560)), ("2", (1720, 1120))):
+            self.environment["QT_SCALE_FACTOR"] = scale
+            done = subprocess.run(
+                [BINARY, "--screenshot", picture, "--window", "main", "--theme", "dark"],
+                env=self.environment, capture_output=True, text=True, timeout=60, check=False)
+            self.assertEqual(done.returncode, 0, done.stderr)
+            self.assertEqual(png_size(picture), size)
+        # A picture changes nothing of what the user left open.
+        self.assertEqual(self.preferences()["DEFAULT_SHOW_PROCESS_LIST_WINDOW"], 1)
+        done = subprocess.run([BINARY, "--screenshot", "/nonexistent/x.png"], text=True,
+                              env=self.environment, capture_output=True, timeout=60, check=False)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("/nonexistent/x.png", done.stderr)
+        self.check_nothing_is_left()
+
+    def test_without_a_display_it_prints_and_says_how_to_see_the_window(self):
+        for display in (None, ":4242"):
+            if display:
+                self.environment["DISPLAY"] = display
+            done = subprocess.run([BINARY, "--count", "1"], env=self.environment, text=True,
+                                  capture_output=True, timeout=60, check=False)
+            self.assertEqual(done.returncode, 0, done.stderr)
+            self.assertIn("DISPLAY", done.stderr)
+            self.assertIn("    1:", done.stdout)
+
+    def test_senseless_options_are_told(self):
+        for words in (["--window", "moon"], ["--theme", "pink"], ["--screenshot"]):
+            done = subprocess.run([BINARY, *words], env=self.environment, capture_output=True,
+                                  text=True, timeout=60, check=False)
+            self.assertEqual(done.returncode, 2, words)
+            self.assertIn("--help", done.stderr)
+
+    def test_signals_and_the_last_window_end_it_in_order(self):
+        self.open_display()
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP, None):
+            program = self.start([BINARY, "--unprivileged"])
+            self.wait_for(lambda: '"Processes"' in self.windows())
+            self.wait_for(lambda: helpers() - self.helpers_before)
+            if number is None:
+                self.type_keys("key", "ctrl+w")
+            else:
+                program.send_signal(number)
+            _, errors = program.communicate(timeout=20)
+            self.assertEqual(program.returncode, 0, errors)
+            self.assertEqual(self.preferences()["DEFAULT_SHOW_PROCESS_LIST_WINDOW"], 1)
+            self.assertEqual(len(self.preferences()["MAIN_WINDOW_COLUMNS"]), 7)
+            self.check_nothing_is_left()
+
+    def test_a_lost_display_ends_it_without_leftovers(self):
+        server = self.open_display()
+        program = self.start([BINARY, "--unprivileged"])
+        self.wait_for(lambda: '"Processes"' in self.windows())
+        server.terminate()
+        program.communicate(timeout=20)
+        self.wait_for(lambda: helpers() <= self.helpers_before)
+
+    def test_a_key_kills_what_was_selected_after_asking(self):
+        self.open_display()
+        victim = subprocess.Popen(["sleep", "1000"])
+        self.addCleanup(victim.wait)
+        self.addCleanup(victim.kill)
+        self.start([BINARY, "--unprivileged"])
+        self.wait_for(lambda: '"Processes"' in self.windows())
+        self.type_keys("key", "ctrl+f")
+        self.output("xdotool", "type", str(victim.pid))
+        self.output("xdotool", "key", "Return", "ctrl+a", "Delete")
+        self.wait_for(lambda: self.active_window() not in ("Processes", ""))
+        self.assertIsNone(victim.poll())
+        self.output("xdotool", "key", "alt+k")
+        self.assertEqual(victim.wait(20), -signal.SIGTERM)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
