@@ -126,6 +126,8 @@ void MainMenus::BuildMenuBar() {
       QKeySequence::SelectAll));
   edit->addAction(Make(
       "menu_edit_filter", other, [this] { Q_EMIT filterRequested(); }, QKeySequence::Find));
+  edit->addAction(Make(
+      "menu_process_by_id", other, [this] { Q_EMIT pidRequested(); }, Qt::CTRL | Qt::Key_G));
   auto* view = AddMenu("menu_view");
   view->addAction(Make(
       "menu_view_update_now", other, [this] { mController.updateNow(); }, Qt::Key_F5));

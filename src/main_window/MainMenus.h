@@ -44,6 +44,7 @@ class MainMenus : public QObject {
   void filterRequested();
   void closeRequested();
   void killConfirmationRequested();
+  void pidRequested();
 
  private:
   struct Item {

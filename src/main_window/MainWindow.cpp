@@ -10,6 +10,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "main_window/AskForPid.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
 #include "preferences/PreferencesRetrieval.h"
@@ -52,6 +53,8 @@ MainWindow::MainWindow(ApplicationCommands& commands)
           &MainWindow::UpdateStatus);
   connect(mController.get(), &vqMainTableController::notYetAvailable, this,
           [this] { statusBar()->showMessage(LocalizedString("main_window_not_available"), 5000); });
+  connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
+  connect(mMenus.get(), &MainMenus::pidRequested, this, &MainWindow::FindByPid);
   connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);
   connect(mMenus.get(), &MainMenus::closeRequested, this, &QWidget::close);
   connect(mMenus.get(), &MainMenus::killConfirmationRequested, this, &MainWindow::ConfirmKill);
@@ -108,8 +111,22 @@ void MainWindow::EndFilter() {
 
 // ---- What is said -------------------------------------------------------------------------------
 
-QString MainWindow::HelperText() const {
-  return gFd_a2d < 0 ? LocalizedString("main_window_helper_absent") : QString();
+void MainWindow::LookAtHelper() {
+  char uid[16] = "";
+  // It may be another one than a moment ago.
+  if (gFd_a2d >= 0) QueryDaemon("geteuid", uid, sizeof uid - 1);
+  const char* text = gFd_a2d < 0                    ? "main_window_helper_absent"
+                     : std::string_view(uid) != "0" ? "main_window_helper_unprivileged"
+                                                    : "";
+  mHelper->setText(*text != 0 ? LocalizedString(text) : QString());
+}
+
+void MainWindow::FindByPid() {
+  const auto pid = AskForPid(this);
+  if (pid == kInvalidPID) return;
+  EndFilter();
+  if (!VQTarvMainWindowInfoSynch::SelectPID(pid))
+    statusBar()->showMessage(LocalizedString("main_window_by_id_not_found").arg(pid), 5000);
 }
 
 void MainWindow::UpdateStatus() {
@@ -118,7 +135,6 @@ void MainWindow::UpdateStatus() {
                        .arg(mController->pidEntries().size())
                        .arg(mController->rowCount())
                        .arg(selected));
-  mHelper->setText(HelperText());
 }
 
 void MainWindow::ConfirmKill() {

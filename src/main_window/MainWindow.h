@@ -39,8 +39,9 @@ class MainWindow : public QMainWindow {
   void ShowFilter();
   void EndFilter();
   void ConfirmKill();
+  void FindByPid();
+  void LookAtHelper();
   void UpdateStatus();
-  QString HelperText() const;
 
   ApplicationCommands& mCommands;
   std::unique_ptr<vqMainTableController> mController;

@@ -25,7 +25,7 @@ class CommandsTest : public MainWindowTest {
   std::string Done() {
     std::string text;
     for (const auto& line : machine.log.Lines())
-      if (line.starts_with("Helper") || line.starts_with("Signals") ||
+      if (line.starts_with("Helper Lkw") || line.starts_with("Signals") ||
           line.starts_with("ProcessManager"))
         text += line + "\n";
     machine.log.Clear();

@@ -1,0 +1,127 @@
+// The main window over simulated processes, drawn without a display: a turn of the table without
+// the collecting, a sort by another column, a page of scrolling.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <memory>
+#include <string>
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/MainWindow.h"
+#include "platform/simulated/SimulatedMachine.h"
+#include "resources/Resources.h"
+#include "support/HelperChannel.h"
+
+namespace lurkwell {
+namespace {
+
+void EnsureApplication() {
+  static int argc = 1;
+  static char name[] = "benchmarks";
+  static char* argv[] = {name, nullptr};
+  if (QCoreApplication::instance() != nullptr) return;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Lives to the end of the program.
+  InstallResources(*new QApplication(argc, argv));
+}
+
+class Window : public ApplicationCommands {
+ public:
+  explicit Window(std::int64_t processes) {
+    EnsureApplication();
+    for (std::int32_t pid = 100; pid < processes + 98; ++pid)
+      machine.processTable.Birth(pid, "process" + std::to_string(pid % 50), 1 + pid % 7);
+    machine.helper.SetRecordsFigures(false);
+    InitializeProcessInformationConsolidator();
+    window = std::make_unique<MainWindow>(*this);
+    window->show();
+    machine.runLoop.RunFor(2000);
+    QApplication::processEvents();
+  }
+  ~Window() {
+    window.reset();
+    ProcessInformationClient::DeleteAllProcessInformationClients();
+    DestroyProcessInformationConsolidator();
+  }
+
+  /// Two of a hundred processes have worked since the last turn; what is measured is the window's.
+  void Work() {
+    int at = 0;
+    for (const auto& row : window->controller().rows().All())
+      if (++at % 50 == 0) machine.processTable.Find(row->Pid())->UseCPU(10 + at % 90);
+    machine.runLoop.RunFor(1900);
+    machine.log.Clear();
+  }
+
+  /// What the consolidator does at the end of a heartbeat, and the drawing.
+  void Turn() {
+    window->controller().synchronizer()->NotifyProcessesHaveBeenUpdated();
+    QApplication::processEvents();
+  }
+
+  void SortBy(const char* key) {
+    auto& controller = window->controller();
+    const auto& keys = controller.keysWeTrackForUI();
+    const auto column = std::find(keys.begin(), keys.end(), InternKey(key)) - keys.begin();
+    controller.shouldSelectTableColumn(static_cast<int>(column));
+    QApplication::processEvents();
+  }
+
+  void ScrollPage() {
+    auto& bar = *window->table().verticalScrollBar();
+    bar.setValue(bar.value() + bar.pageStep() > bar.maximum() ? 0 : bar.value() + bar.pageStep());
+    QApplication::processEvents();
+  }
+
+ private:
+  void doThePrefs() override {}
+  void doAboutPanel() override {}
+  void doShowMainWindow() override {}
+  void doQuit() override {}
+  bool isLastWindow(const QWidget&) const override { return false; }
+
+  SimulatedMachine machine;
+  MachineInstallation installation{machine.services};
+  HelperChannel channel{machine};
+  std::unique_ptr<MainWindow> window;
+};
+
+void CountPerProcess(benchmark::State& state) {
+  state.counters["per_process"] = benchmark::Counter(
+      static_cast<double>(state.range(0)),
+      benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void BM_MainWindowTurn(benchmark::State& state) {
+  Window window(state.range(0));
+  window.SortBy("internal_CPUPercent");
+  for (auto _ : state) {
+    state.PauseTiming();
+    window.Work();
+    state.ResumeTiming();
+    window.Turn();
+  }
+  CountPerProcess(state);
+}
+BENCHMARK(BM_MainWindowTurn)->Arg(250)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+void BM_MainWindowSort(benchmark::State& state) {
+  Window window(state.range(0));
+  for (auto _ : state) {
+    window.SortBy("meta_name");
+    window.SortBy("meta_pid");
+  }
+  CountPerProcess(state);
+}
+BENCHMARK(BM_MainWindowSort)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+void BM_MainWindowScrollPage(benchmark::State& state) {
+  Window window(state.range(0));
+  for (auto _ : state) window.ScrollPage();
+}
+BENCHMARK(BM_MainWindowScrollPage)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace lurkwell
