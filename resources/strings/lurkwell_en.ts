@@ -1507,6 +1507,26 @@
         <source></source>
         <translation>&amp;Update Now</translation>
     </message>
+    <message id="menu_view_sort_by">
+        <source></source>
+        <translation>&amp;Sort By</translation>
+    </message>
+    <message id="menu_view_column_left">
+        <source></source>
+        <translation>Sorted Column &amp;Left</translation>
+    </message>
+    <message id="menu_view_column_right">
+        <source></source>
+        <translation>Sorted Column &amp;Right</translation>
+    </message>
+    <message id="menu_view_column_wider">
+        <source></source>
+        <translation>Sorted Column &amp;Wider</translation>
+    </message>
+    <message id="menu_view_column_narrower">
+        <source></source>
+        <translation>Sorted Column &amp;Narrower</translation>
+    </message>
     <message id="menu_view_show_toolbar">
         <source></source>
         <translation>Show &amp;Toolbar</translation>

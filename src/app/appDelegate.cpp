@@ -42,6 +42,8 @@ void vqAppDelegate::init() {
   InitializeProcessInformationConsolidator();
   gAppDelegate = this;
   fMainWindow = std::make_unique<MainWindow>(*this);
+  // A picture needs no place on the screen, and is no use that the user makes of the window.
+  fMainWindow->setAttribute(Qt::WA_DontShowOnScreen, mLaunch == Launch::kForPicture);
 }
 
 void vqAppDelegate::applicationDidFinishLaunching() {
@@ -54,7 +56,7 @@ void vqAppDelegate::applicationDidFinishLaunching() {
   // To come, in this place: the state machines of the animated view.
   LaunchHelperDaemon();
   // To come: reports of the Classic environment, its helper, the watchdog of remembered windows.
-  ReopenWindows();
+  if (mLaunch == Launch::kUsual) ReopenWindows();
   // To come: the client for debugging.
   if (mLaunch == Launch::kUsual) ShowSplashScreen();
   // To come: the hot key.
@@ -71,7 +73,7 @@ void vqAppDelegate::ReopenWindows() {
 
 void vqAppDelegate::applicationWillTerminate() {
   if (!std::exchange(mIsRunning, false)) return;
-  if (fMainWindow != nullptr) fMainWindow->SaveFrame();
+  if (fMainWindow != nullptr && mLaunch == Launch::kUsual) fMainWindow->SaveFrame();
   gApplicationQuitting = true;
   for (const std::int32_t pid : PidBlob())
     ProcessInformationClient::NotifyAllPidHasBeenRemoved(pid, true);

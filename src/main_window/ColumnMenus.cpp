@@ -1,8 +1,8 @@
 #include "main_window/ColumnMenus.h"
 
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/ControllerAssertion.h"
 #include "main_window/vqMainTableController.h"
-#include "platform/Assertion.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -10,31 +10,32 @@ namespace {
 
 constexpr char kMenusUnit[] = "vqMainTableController";
 
-QString TitleOf(KeyId key) {
+QString TitleOf(const char* key) {
   // An ampersand of a title is no mnemonic.
-  return LocalizedString(KeyText(key).data()).replace(QLatin1String("&"), QLatin1String("&&"));
+  return LocalizedString(key).replace(QLatin1String("&"), QLatin1String("&&"));
 }
 
+/// Items keep texts: a number is given to a key when it becomes a column, so that rows stay small.
 KeyId KeyOf(const QAction& item) {
-  return item.data().toInt();
+  return InternKey(item.data().toByteArray().constData());
 }
 
 }  // namespace
 
 ColumnMenus::ColumnMenus(vqMainTableController& controller) : mController(controller) {}
 
-QAction* ColumnMenus::AddItem(QMenu& menu, KeyId key) {
+QAction* ColumnMenus::AddItem(QMenu& menu, const char* key) {
   auto* item = menu.addAction(TitleOf(key));
-  item->setData(key);
+  item->setData(QByteArray(key));
   item->setCheckable(true);
-  item->setChecked(mController.isTracked(KeyText(key)));
-  item->setToolTip(LocalizedString((std::string(KeyText(key)) + "_tip").c_str()));
+  item->setChecked(mController.isTracked(key));
+  item->setToolTip(LocalizedString((std::string(key) + "_tip").c_str()));
   return item;
 }
 
 void ColumnMenus::Build() {
   const auto prepare = [this](QAction& item, KeyId key, void (ColumnMenus::*handler)()) {
-    item.setText(TitleOf(key));
+    item.setText(TitleOf(KeyText(key).data()));
     item.setCheckable(true);
     item.setChecked(mController.isTracked(KeyText(key)));
     connect(&item, &QAction::triggered, this, handler);
@@ -52,10 +53,9 @@ void ColumnMenus::Build() {
   char header[64];
   for (int n = 0; n < CountProcPropertyHeaders(); ++n) {
     if (!GetNthProcPropertyHeader(n, header, sizeof header)) continue;
-    const KeyId key = InternKey(header);
     const bool builtIn = n < CountBuiltInProcPropertyHeaders();
-    if (builtIn && key == kMetaPid) continue;
-    auto* item = AddItem(builtIn ? mBuiltInMenu : mPSAvailableMenu, key);
+    if (builtIn && KeyText(kMetaPid) == header) continue;
+    auto* item = AddItem(builtIn ? mBuiltInMenu : mPSAvailableMenu, header);
     connect(item, &QAction::triggered, this, [this, item, builtIn] {
       builtIn ? processBuiltInMenuItem(item) : processPSAvailableMenuItem(item);
     });
@@ -83,7 +83,7 @@ QAction& ColumnMenus::TopLevelItem(KeyId key) {
 
 QAction* ColumnMenus::BuiltInItem(KeyId key) const {
   for (auto* item : mBuiltInMenu.actions())
-    if (KeyOf(*item) == key) return item;
+    if (KeyText(key) == item->data().toByteArray().constData()) return item;
   return nullptr;
 }
 
@@ -121,13 +121,15 @@ void ColumnMenus::processNameMenuItem() {
 }
 
 void ColumnMenus::processBuiltInMenuItem(QAction* item) {
-  Require(mBuiltInMenu.actions().contains(item), kMenusUnit, "builtInMenuItemToDealWith");
+  const bool isOurs = mBuiltInMenu.actions().contains(item);
+  if (!Expect(isOurs, kMenusUnit, "builtInMenuItemToDealWith")) return;
   processGeneralMenuItem(item, KeyOf(*item));
   if (KeyOf(*item) == kMetaName) fTopLevelNameMenuItem.setChecked(item->isChecked());
 }
 
 void ColumnMenus::processPSAvailableMenuItem(QAction* item) {
-  Require(mPSAvailableMenu.actions().contains(item), kMenusUnit, "PSAvailableMenuItemToDealWith");
+  const bool isOurs = mPSAvailableMenu.actions().contains(item);
+  if (!Expect(isOurs, kMenusUnit, "PSAvailableMenuItemToDealWith")) return;
   processGeneralMenuItem(item, KeyOf(*item));
 }
 

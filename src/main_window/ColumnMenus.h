@@ -44,7 +44,7 @@ class ColumnMenus : public QObject {
   QAction& TopLevelItem(KeyId key);
 
  private:
-  QAction* AddItem(QMenu& menu, KeyId key);
+  QAction* AddItem(QMenu& menu, const char* key);
   QAction* BuiltInItem(KeyId key) const;
 
   vqMainTableController& mController;

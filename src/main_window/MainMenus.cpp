@@ -2,13 +2,12 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QMenuBar>
-#include <QUrl>
 
 #include "main_window/vqMainTableController.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
+#include "platform/Tools.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -34,6 +33,8 @@ QAction* MainMenus::Make(const char* id, MenuCommand command, std::function<void
   auto* action = new QAction(LocalizedString(id), &mWindow);
   action->setObjectName(QLatin1String(id));
   action->setShortcut(shortcut);
+  // A key that is held must not do the same, or something harsher, again and again.
+  action->setAutoRepeat(false);
   connect(action, &QAction::triggered, this, std::move(handler));
   mWindow.addAction(action);
   mItems.append({action, command});
@@ -41,16 +42,15 @@ QAction* MainMenus::Make(const char* id, MenuCommand command, std::function<void
 }
 
 void MainMenus::MakeProcessActions() {
-  using Command = void (Controller::*)();
-  const auto make = [this](const char* id, MenuCommand command, Command handler,
+  using Command = std::function<void(Controller&)>;
+  const auto make = [this](const char* id, MenuCommand command, const Command& handler,
                            const QKeySequence& shortcut = {}) {
     return Make(
-        id, command, [this, handler] { (mController.*handler)(); }, shortcut);
+        id, command, [this, handler] { handler(mController); }, shortcut);
   };
   auto* separator = static_cast<QAction*>(nullptr);
   mProcessActions = {
-      make("menu_process_quit_or_kill", MenuCommand::kKill, &Controller::processKillMenuItem,
-           Qt::CTRL | Qt::Key_K),
+      make("menu_process_quit_or_kill", MenuCommand::kKill, &Controller::processKillMenuItem),
       separator,
       make("menu_process_halt", MenuCommand::kHalt, &Controller::processHaltMenuItem,
            Qt::CTRL | Qt::Key_H),
@@ -81,7 +81,13 @@ void MainMenus::MakeProcessActions() {
   auto* ask = Make(
       "menu_process_kill", MenuCommand::kKill, [this] { Q_EMIT killConfirmationRequested(); },
       Qt::Key_Delete);
-  ask->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  mProcessActions.prepend(ask);
+  // Keys of the filter's field are its own.
+  for (auto* action : mProcessActions) {
+    if (action == nullptr) continue;
+    action->setShortcutContext(Qt::WidgetShortcut);
+    mController.table()->addAction(action);
+  }
 }
 
 QMenu* MainMenus::AddMenu(const char* id) {
@@ -91,15 +97,17 @@ QMenu* MainMenus::AddMenu(const char* id) {
 }
 
 void MainMenus::WatchMenu(QMenu& menu) {
-  connect(&menu, &QMenu::aboutToShow, this, [this] {
-    mController.holdOrder(true);
+  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] {
+    mController.holdOrder(&menu, true);
     ValidateAll();
   });
-  connect(&menu, &QMenu::aboutToHide, this, [this] { mController.holdOrder(false); });
+  connect(&menu, &QMenu::aboutToHide, this, [this, &menu] { mController.holdOrder(&menu, false); });
 }
 
 void MainMenus::BuildMenuBar() {
   const auto other = MenuCommand::kOther;
+  // A menu bar elsewhere on the desktop does not tell when its menus close.
+  mWindow.menuBar()->setNativeMenuBar(false);
   auto* application = AddMenu("menu_application");
   application->addAction(
       Make("menu_application_about", other, [this] { mCommands.doAboutPanel(); }));
@@ -131,6 +139,7 @@ void MainMenus::BuildMenuBar() {
   auto* view = AddMenu("menu_view");
   view->addAction(Make(
       "menu_view_update_now", other, [this] { mController.updateNow(); }, Qt::Key_F5));
+  BuildSortMenu(*view);
   auto* columns = AddMenu("menu_columns");
   mController.columnMenus().AppendTo(*columns);
   auto* process = AddMenu("menu_process");
@@ -143,6 +152,34 @@ void MainMenus::BuildMenuBar() {
       "menu_help_help", other, [this] { ShowHelp(); }, Qt::Key_F1));
 }
 
+void MainMenus::BuildSortMenu(QMenu& view) {
+  view.addSeparator();
+  mSortMenu.setTitle(LocalizedString("menu_view_sort_by"));
+  view.addMenu(&mSortMenu);
+  connect(&mSortMenu, &QMenu::aboutToShow, this, [this] {
+    mSortMenu.clear();
+    for (int column = 0; column < mController.columnCount(); ++column) {
+      const auto title =
+          mController.headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString();
+      auto* item =
+          mSortMenu.addAction(QString(title).replace(QLatin1Char('&'), QLatin1String("&&")));
+      item->setCheckable(true);
+      item->setChecked(mController.isSortColumn(column));
+      connect(item, &QAction::triggered, &mController,
+              [this, column] { mController.shouldSelectTableColumn(column); });
+    }
+  });
+  const auto add = [&](const char* id, int places, int points, Qt::Key key) {
+    view.addAction(Make(
+        id, MenuCommand::kOther, [=, this] { mController.changeSortColumn(places, points); },
+        Qt::ALT | Qt::SHIFT | key));
+  };
+  add("menu_view_column_left", -1, 0, Qt::Key_Left);
+  add("menu_view_column_right", 1, 0, Qt::Key_Right);
+  add("menu_view_column_wider", 0, 20, Qt::Key_Up);
+  add("menu_view_column_narrower", 0, -20, Qt::Key_Down);
+}
+
 void MainMenus::BuildContextMenu() {
   for (auto* action : mProcessActions)
     action != nullptr ? mContextMenu.addAction(action) : void(mContextMenu.addSeparator());
@@ -152,15 +189,18 @@ void MainMenus::BuildContextMenu() {
 }
 
 void MainMenus::ValidateAll() {
+  const auto facts = mController.selectionFacts();
   for (const auto& item : mItems)
-    item.action->setEnabled(mController.validateMenuItem(item.command));
+    item.action->setEnabled(mController.validateMenuItem(item.command, facts));
   mController.columnMenus().Validate();
 }
 
 void MainMenus::ShowHelp() {
   const auto page =
       TheMachine().bundle.Path() + "/Contents/Resources/Documentation/Documentation.html";
-  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(page)));
+  // Not through the toolkit: what that starts would never hear our blocked signals.
+  if (!TheMachine().tools.StartInBackground({"/usr/bin/xdg-open", page}))
+    Q_EMIT helpIsMissing(QString::fromStdString(page));
 }
 
 }  // namespace lurkwell

@@ -45,6 +45,8 @@ class MainMenus : public QObject {
   void closeRequested();
   void killConfirmationRequested();
   void pidRequested();
+  /// Nothing could be started that shows the page.
+  void helpIsMissing(const QString& page);
 
  private:
   struct Item {
@@ -58,6 +60,8 @@ class MainMenus : public QObject {
   void MakeProcessActions();
   void BuildMenuBar();
   void BuildContextMenu();
+  /// For whoever has no mouse: what can be done to headers.
+  void BuildSortMenu(QMenu& view);
   QMenu* AddMenu(const char* id);
   void WatchMenu(QMenu& menu);
   void ShowHelp();
@@ -71,6 +75,7 @@ class MainMenus : public QObject {
   QList<QAction*> mWindowActions;
   QMenu mContextMenu;
   QMenu mHeaderMenu;
+  QMenu mSortMenu;
 };
 
 }  // namespace lurkwell

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "consolidator/PropertyCatalogue.h"
+#include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
 #include "main_window/vqMainTableController.h"
-#include "platform/Assertion.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "resources/Resources.h"
 
@@ -20,8 +20,8 @@ constexpr int kSmallestPidWidth = 45;
 constexpr int kSmallestNameWidth = 220;
 constexpr int kSmallestBarWidth = 110;
 
-char DefaultDirection(KeyId key) {
-  return key == kInternalCPUPercent ? 0 : 1;
+char DefaultDirection(std::string_view key) {
+  return key == KeyText(kInternalCPUPercent) ? 0 : 1;
 }
 
 bool IsPicture(KeyId key) {
@@ -44,11 +44,19 @@ std::string RememberedKey(std::int32_t index) {
   return key;
 }
 
+void RememberColumn(std::int32_t index, const std::string& key, int width, std::int32_t direction) {
+  if (index >= GetPrefArrayCount(kMainWindowColumnsKey) || RememberedKey(index) != key)
+    SetPrefArrayString(kMainWindowColumnsKey, index, kColumnKeyKey, key.c_str());
+  if (width > 0) RememberInt(index, kColumnWidthKey, width);
+  RememberInt(index, kColumnSortDirectionKey, direction);
+}
+
 /// A key that a table can show: its own columns, or a property that is known at present.
 bool CanBeShown(const std::string& key) {
-  const KeyId id = InternKey(key);
-  if (IsInternalKey(key))
+  if (IsInternalKey(key)) {
+    const KeyId id = InternKey(key);
     return IsPicture(id) || id == kInternalCPUPercent || id == kInternalMemGraph;
+  }
   return !key.empty() && IsKnownProcProperty(key.c_str());
 }
 
@@ -78,12 +86,19 @@ void vqMainTableController::readColumnPrefs() {
       write(key);
   for (std::int32_t i = 0; i < GetPrefArrayCount(kMainWindowColumnsKey); ++i) {
     const auto text = RememberedKey(i);
-    if (!CanBeShown(text)) continue;
-    const KeyId key = InternKey(text);
+    const bool hasWidth = IsPrefArrayValuePresent(kMainWindowColumnsKey, i, kColumnWidthKey);
+    const int width =
+        hasWidth ? GetPrefArrayInt(kMainWindowColumnsKey, i, kColumnWidthKey, false, 0) : 0;
     const auto direction = GetPrefArrayInt(kMainWindowColumnsKey, i, kColumnSortDirectionKey, true,
-                                           DefaultDirection(key));
-    if (!isTracked(text) && IsPrefArrayValuePresent(kMainWindowColumnsKey, i, kColumnWidthKey))
-      fColumnWidths[key] = GetPrefArrayInt(kMainWindowColumnsKey, i, kColumnWidthKey, false, 0);
+                                           DefaultDirection(text)) != 0
+                               ? 1
+                               : 0;
+    if (!CanBeShown(text)) {
+      if (!text.empty() && !IsInternalKey(text)) fAbsentColumns.push_back({text, width, direction});
+      continue;
+    }
+    const KeyId key = InternKey(text);
+    if (!isTracked(text) && width > 0) fColumnWidths[key] = width;
     track(key, direction != 0 ? 1 : 0);
   }
   if (!isTracked(KeyText(kMetaPid))) {
@@ -111,7 +126,7 @@ void vqMainTableController::addToKeysWeTrackForUI(KeyId key, KeyId afterKey) {
   if (place != fKeysWeTrackForUI.end()) ++place;
   fKeysWeTrackForUI.insert(place, key);
   fTracked.insert(KeyText(key));
-  fColumnSortDirection.try_emplace(key, DefaultDirection(key));
+  fColumnSortDirection.try_emplace(key, DefaultDirection(KeyText(key)));
   gNewColumnWasAddedRecently = true;
   if (fTable == nullptr) return;
   rebuildColumns();
@@ -125,6 +140,11 @@ void vqMainTableController::removeFromKeysWeTrackForUI(KeyId key) {
   std::erase(fKeysWeTrackForUI, key);
   fTracked.erase(KeyText(key));
   if (fTable == nullptr) return;
+  if (key == fSortColumn) {
+    // Its figures are not read any more.
+    setSortColumn(kMetaPid, fColumnSortDirection[kMetaPid]);
+    setNeedsResort();
+  }
   rebuildColumns();
   saveColumnPrefs();
 }
@@ -168,7 +188,7 @@ void vqMainTableController::rebuildColumns() {
 }
 
 void vqMainTableController::addColumnToMainTable(KeyId key) {
-  Require(columnIndexOf(key) < 0, kColumnsUnit, "keyIndex == -1");
+  if (!Expect(columnIndexOf(key) < 0, kColumnsUnit, "keyIndex == -1")) return;
   const std::string name(KeyText(key));
   const auto type = GetProcPropertyType(name.c_str(), nullptr);
   if (fColumnWidths[key] <= 0)
@@ -199,19 +219,17 @@ void vqMainTableController::chooseInitialSortColumn() {
 
 void vqMainTableController::saveColumnPrefs() {
   adoptScreenLayout();
-  const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size());
+  const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size() + fAbsentColumns.size());
   while (GetPrefArrayCount(kMainWindowColumnsKey) > count)
     RemovePrefArrayElement(kMainWindowColumnsKey, count);
-  for (std::int32_t i = 0; i < count; ++i) {
-    const KeyId key = fKeysWeTrackForUI[static_cast<std::size_t>(i)];
-    const std::string name(KeyText(key));
-    if (i >= GetPrefArrayCount(kMainWindowColumnsKey) || RememberedKey(i) != name)
-      SetPrefArrayString(kMainWindowColumnsKey, i, kColumnKeyKey, name.c_str());
-    if (fColumnWidths[key] > 0) RememberInt(i, kColumnWidthKey, fColumnWidths[key]);
-    RememberInt(i, kColumnSortDirectionKey, fColumnSortDirection[key]);
+  std::int32_t i = 0;
+  for (const KeyId key : fKeysWeTrackForUI) {
     if (key == fSortColumn && GetPrefInt(kSortColumnIndexKey, nullptr, false, 0) != i)
       SetPrefInt(kSortColumnIndexKey, i);
+    RememberColumn(i++, std::string(KeyText(key)), fColumnWidths[key], fColumnSortDirection[key]);
   }
+  for (const auto& column : fAbsentColumns)
+    RememberColumn(i++, column.key, column.width, column.direction);
 }
 
 }  // namespace lurkwell

@@ -18,6 +18,14 @@ ProcessSerialNumber SerialNumberOf(std::int32_t pid) {
   return psn;
 }
 
+bool IsKernelPid(std::int32_t pid) {
+  return pid >= 0;
+}
+
+bool IsApplication(std::int32_t pid) {
+  return !SerialNumberOf(pid).IsNone();
+}
+
 struct ToolbarItem {
   std::string_view identifier;
   MenuCommand command;
@@ -53,11 +61,6 @@ template <typename Action>
 void vqMainTableController::forSelectedPSNs(Action action) {
   for (const auto pid : selectedPids())
     if (const auto psn = SerialNumberOf(pid); !psn.IsNone()) action(psn);
-}
-
-template <typename Predicate>
-bool vqMainTableController::anySelected(Predicate predicate) const {
-  return std::ranges::any_of(selectedPids(), predicate);
 }
 
 void vqMainTableController::processKillMenuItem() {
@@ -115,35 +118,46 @@ void vqMainTableController::newLoggingWindow() {
 }
 
 bool vqMainTableController::anyPIDsInSelection() const {
-  return anySelected([](std::int32_t pid) { return pid >= 0; });
+  return std::ranges::any_of(selectedPids(), IsKernelPid);
 }
 
 bool vqMainTableController::anyPSNsInSelection() const {
-  return anySelected([](std::int32_t pid) { return !SerialNumberOf(pid).IsNone(); });
+  return std::ranges::any_of(selectedPids(), IsApplication);
 }
 
 bool vqMainTableController::anyActionListItemsInSelection(std::int32_t kind) const {
-  return anySelected([=](std::int32_t pid) { return GetProcessAction(pid, kind, nullptr); });
+  return std::ranges::any_of(
+      selectedPids(), [=](std::int32_t pid) { return GetProcessAction(pid, kind, nullptr); });
 }
 
-bool vqMainTableController::validateMenuItem(MenuCommand command) const {
+vqMainTableController::SelectionFacts vqMainTableController::selectionFacts() const {
+  const auto pids = selectedPids();
+  const auto isHalted = [](std::int32_t pid) {
+    return GetProcessAction(pid, kProcessActionHalt, nullptr);
+  };
+  return {hasSelection(), std::ranges::any_of(pids, IsKernelPid),
+          std::ranges::any_of(pids, IsApplication), std::ranges::any_of(pids, isHalted)};
+}
+
+bool vqMainTableController::validateMenuItem(MenuCommand command,
+                                             const SelectionFacts& facts) const {
   switch (command) {
     case MenuCommand::kNewCPUHistoryWindow:
     case MenuCommand::kNewLoggingWindow:
     case MenuCommand::kKill:
-      return hasSelection();
+      return facts.any;
     case MenuCommand::kHide:
     case MenuCommand::kBringToFront:
     case MenuCommand::kReveal:
-      return anyPSNsInSelection();
+      return facts.anyPSNs;
     case MenuCommand::kHighPriority:
     case MenuCommand::kNormalPriority:
     case MenuCommand::kLowPriority:
-      return anyPIDsInSelection();
+      return facts.anyPIDs;
     case MenuCommand::kHalt:
-      return anyPIDsInSelection() && !anyActionListItemsInSelection(kProcessActionHalt);
+      return facts.anyPIDs && !facts.anyHalted;
     case MenuCommand::kContinue:
-      return anyActionListItemsInSelection(kProcessActionHalt);
+      return facts.anyHalted;
     case MenuCommand::kBuiltInColumn:
     case MenuCommand::kPSAvailableColumn:
       return fWindow != nullptr && fWindow->isActiveWindow();

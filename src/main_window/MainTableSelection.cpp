@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "consolidator/PropertyValues.h"
 #include "main_window/PropertyText.h"
 #include "main_window/vqMainTableController.h"
 
@@ -16,6 +17,20 @@ char vqMainTableController::toggleSortDirection(KeyId key) {
   auto& direction = fColumnSortDirection[key];
   direction = direction == 0 ? 1 : 0;
   return direction;
+}
+
+bool vqMainTableController::isSortColumn(int column) const {
+  return fSortColumn != kNoKey && columnIndexOf(fSortColumn) == column;
+}
+
+void vqMainTableController::changeSortColumn(int places, int points) {
+  const int column = fSortColumn == kNoKey ? -1 : columnIndexOf(fSortColumn);
+  if (column < 0) return;
+  auto& header = *fTable->horizontalHeader();
+  const int from = header.visualIndex(column);
+  header.moveSection(from, std::clamp(from + places, 0, header.count() - 1));
+  header.resizeSection(column,
+                       std::max(header.sectionSize(column) + points, header.minimumSectionSize()));
 }
 
 bool vqMainTableController::shouldSelectTableColumn(int column) {
@@ -73,6 +88,12 @@ void vqMainTableController::restoreSelection() {
     i = end;
   }
   fTable->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+QString vqMainTableController::nameOf(std::int32_t pid) {
+  char name[256];
+  GetPIDPropertyValue(pid, "meta_name", name, sizeof name, nullptr);
+  return PlainText(name);
 }
 
 bool vqMainTableController::selectPid(std::int32_t pid) {

@@ -24,6 +24,7 @@ constexpr char kFrameKey[] = "MAIN_WINDOW_FRAME";
 constexpr QSize kFirstSize(860, 560);
 /// So much of the window has to lie on a screen.
 constexpr int kGraspable = 40;
+constexpr int kTurnsBetweenQuestions = 30;
 
 QLabel* AddLabel(QStatusBar& bar, int stretch) {
   auto* label = new QLabel(&bar);
@@ -54,6 +55,8 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   connect(mController.get(), &vqMainTableController::notYetAvailable, this,
           [this] { statusBar()->showMessage(LocalizedString("main_window_not_available"), 5000); });
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
+  connect(mMenus.get(), &MainMenus::helpIsMissing, this,
+          [this](const QString& page) { statusBar()->showMessage(page, 20'000); });
   connect(mMenus.get(), &MainMenus::pidRequested, this, &MainWindow::FindByPid);
   connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);
   connect(mMenus.get(), &MainMenus::closeRequested, this, &QWidget::close);
@@ -88,9 +91,11 @@ void MainWindow::BuildContents() {
   mHelper = AddLabel(*statusBar(), 0);
   connect(mFilterField, &QLineEdit::textChanged, this,
           [this](const QString& text) { mController->setFilter(text); });
-  auto* escape = new QShortcut(Qt::Key_Escape, mFilterField);
-  escape->setContext(Qt::WidgetShortcut);
-  connect(escape, &QShortcut::activated, this, &MainWindow::EndFilter);
+  for (auto* widget : {static_cast<QWidget*>(mFilterField), static_cast<QWidget*>(mTable)}) {
+    auto* escape = new QShortcut(Qt::Key_Escape, widget);
+    escape->setContext(Qt::WidgetShortcut);
+    connect(escape, &QShortcut::activated, this, &MainWindow::EndFilter);
+  }
   connect(mFilterField, &QLineEdit::returnPressed, mTable, [this] { mTable->setFocus(); });
   mTable->setFocus();
 }
@@ -112,8 +117,11 @@ void MainWindow::EndFilter() {
 // ---- What is said -------------------------------------------------------------------------------
 
 void MainWindow::LookAtHelper() {
+  // Asked once per channel, and now and then, since descriptors come round.
+  if (gFd_a2d == mHelperChannel && ++mTurnsSinceAsked < kTurnsBetweenQuestions) return;
+  mHelperChannel = gFd_a2d;
+  mTurnsSinceAsked = 0;
   char uid[16] = "";
-  // It may be another one than a moment ago.
   if (gFd_a2d >= 0) QueryDaemon("geteuid", uid, sizeof uid - 1);
   const char* text = gFd_a2d < 0                    ? "main_window_helper_absent"
                      : std::string_view(uid) != "0" ? "main_window_helper_unprivileged"
@@ -144,10 +152,9 @@ void MainWindow::ConfirmKill() {
   box.setIcon(QMessageBox::Warning);
   box.setTextFormat(Qt::PlainText);
   if (pids.size() == 1) {
-    const auto& row = *mController->rows().Find(pids.front());
-    const auto* name = std::get_if<std::string>(&row.Get(kMetaName));
-    const auto shown = PlainText(name != nullptr ? *name : std::string());
-    box.setText(LocalizedString("kill_confirmation_title_one").arg(pids.front()).arg(shown));
+    box.setText(LocalizedString("kill_confirmation_title_one")
+                    .arg(pids.front())
+                    .arg(vqMainTableController::nameOf(pids.front())));
     box.setInformativeText(LocalizedString("kill_confirmation_text_one"));
   } else {
     box.setText(LocalizedString("kill_confirmation_title_several").arg(pids.size()));
@@ -156,12 +163,11 @@ void MainWindow::ConfirmKill() {
   QAbstractButton* kill =
       box.addButton(LocalizedString("kill_confirmation_kill"), QMessageBox::AcceptRole);
   box.setDefaultButton(box.addButton(QMessageBox::Cancel));
-  // The selection must still be what the question was about.
-  mController->holdOrder(true);
+  // The selection stays what the question was about, but for what ends meanwhile.
+  mController->holdOrder(&box, true);
   box.exec();
-  if (box.clickedButton() == kill && mController->selectedPids() == pids)
-    mController->processKillMenuItem();
-  mController->holdOrder(false);
+  if (box.clickedButton() == kill) mController->processKillMenuItem();
+  mController->holdOrder(&box, false);
 }
 
 // ---- Life ---------------------------------------------------------------------------------------
@@ -175,6 +181,8 @@ void MainWindow::RestoreFrame() {
   if (found == 0 || std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4) return;
   if (width < 100 || height < 100 || width > 20000 || height > 20000) return;
   resize(width, height);
+  mNormalFrame = {x, y, width, height};
+  if (std::string_view(text).ends_with(" maximised")) setWindowState(Qt::WindowMaximized);
   const QRect title(x, y, width, kGraspable);
   for (const auto* screen : QGuiApplication::screens()) {
     const auto seen = screen->availableGeometry() & title;
@@ -184,10 +192,11 @@ void MainWindow::RestoreFrame() {
 
 void MainWindow::SaveFrame() {
   char text[64];
-  const auto place = isMaximized() || isFullScreen() ? normalGeometry().topLeft() : pos();
-  const auto room = isMaximized() || isFullScreen() ? normalGeometry().size() : size();
-  std::snprintf(text, sizeof text, "%d %d %d %d", place.x(), place.y(), room.width(),
-                room.height());
+  const bool fills = isMaximized() || isFullScreen();
+  // A maximised window comes back maximised, and at its former place when it is made smaller.
+  if (!fills) mNormalFrame = {pos(), size()};
+  std::snprintf(text, sizeof text, "%d %d %d %d%s", mNormalFrame.x(), mNormalFrame.y(),
+                mNormalFrame.width(), mNormalFrame.height(), fills ? " maximised" : "");
   char before[64] = "";
   GetPrefString(kFrameKey, before, sizeof before, nullptr, false, "");
   if (std::string_view(text) != before) SetPrefString(kFrameKey, text);
@@ -195,6 +204,8 @@ void MainWindow::SaveFrame() {
 
 bool MainWindow::event(QEvent* event) {
   const bool handled = QMainWindow::event(event);
+  const bool isPlaced = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+  if (isPlaced && isVisible() && !isMaximized() && !isFullScreen()) mNormalFrame = {pos(), size()};
   if (event->type() == QEvent::Show) mController->windowDidUpdate();
   if (event->type() == QEvent::WindowActivate) {
     mController->windowDidBecomeKey();

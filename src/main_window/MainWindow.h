@@ -49,6 +49,10 @@ class MainWindow : public QMainWindow {
   QLineEdit* mFilterField = nullptr;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
+  int mHelperChannel = -2;
+  int mTurnsSinceAsked = 0;
+  /// As the window manager places it and Qt sizes it, while it does not fill the screen.
+  QRect mNormalFrame{0, 0, 860, 560};
   std::unique_ptr<MainMenus> mMenus;
 };
 

@@ -25,7 +25,9 @@ void ProcessRows::Remove(std::int32_t pid) {
 }
 
 void ProcessRows::TidyUp() {
-  if (!mDeparted.empty()) std::erase_if(mAll, [](const auto* row) { return row->isDeparted; });
+  if (mDeparted.empty()) return;
+  std::erase_if(mAll, [](const auto* row) { return row->isDeparted; });
+  std::erase_if(mDeparted, [](const auto& row) { return row->shownIndex < 0; });
 }
 
 void ProcessRows::RemoveAll() {

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
-#include "platform/Assertion.h"
 #include "process_control/ProcessActions.h"
 
 namespace lurkwell {
@@ -18,6 +18,14 @@ template <typename T>
 int Order(const T& a, const T& b, const compareContextStructure& context) {
   const int order = a < b ? -1 : b < a ? 1 : 0;
   return context.ascending ? order : -order;
+}
+
+/// A missing value is smaller than any.
+template <typename T>
+int OrderOfValues(const SortedRow& a, const SortedRow& b, T SortedRow::*value,
+                  const compareContextStructure& context) {
+  if (a.isMissing || b.isMissing) return Order(!a.isMissing, !b.isMissing, context);
+  return Order(a.*value, b.*value, context);
 }
 
 /// Reads what one comparison needs of every row.
@@ -95,29 +103,6 @@ Preparation PreparationFor(RowComparison compare) {
   return std::ranges::find(kComparisons, compare, &Comparison::compare)->prepare;
 }
 
-/// One merge sort from the bottom up. The standard library's sorts want a consistent order, which
-/// missing values do not give.
-void MergeSort(std::vector<SortedRow>& rows, RowComparison compare,
-               const compareContextStructure& context) {
-  const auto inOrder = [&](const SortedRow& a, const SortedRow& b) {
-    return compare(a, b, context) <= 0;
-  };
-  std::vector<SortedRow> merged(rows.size());
-  for (std::size_t width = 1; width < rows.size(); width *= 2) {
-    for (std::size_t begin = 0; begin < rows.size(); begin += 2 * width) {
-      const std::size_t middle = std::min(begin + width, rows.size());
-      const std::size_t end = std::min(middle + width, rows.size());
-      std::size_t left = begin;
-      std::size_t right = middle;
-      for (std::size_t out = begin; out < end; ++out) {
-        const bool takeLeft = right == end || (left < middle && inOrder(rows[left], rows[right]));
-        merged[out] = std::move(rows[takeLeft ? left++ : right++]);
-      }
-    }
-    std::swap(rows, merged);
-  }
-}
-
 bool IsInOrder(const std::vector<SortedRow>& rows, RowComparison compare,
                const compareContextStructure& context) {
   for (std::size_t i = 1; i < rows.size(); ++i)
@@ -160,17 +145,17 @@ int pidCompare(const SortedRow& a, const SortedRow& b, const compareContextStruc
 }
 
 int stringCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
-  const int order = a.isMissing || b.isMissing ? 0 : Order(a.text, b.text, context);
+  const int order = OrderOfValues(a, b, &SortedRow::text, context);
   return order != 0 ? order : pidCompare(a, b, context);
 }
 
 int integerCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
-  const int order = a.isMissing || b.isMissing ? 0 : Order(a.integer, b.integer, context);
+  const int order = OrderOfValues(a, b, &SortedRow::integer, context);
   return order != 0 ? order : pidCompare(a, b, context);
 }
 
 int realCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
-  const int order = a.isMissing || b.isMissing ? 0 : Order(a.number, b.number, context);
+  const int order = OrderOfValues(a, b, &SortedRow::number, context);
   return order != 0 ? order : pidCompare(a, b, context);
 }
 
@@ -185,13 +170,13 @@ int timeCompare(const SortedRow& a, const SortedRow& b, const compareContextStru
 
 int cpuPercentCompare(const SortedRow& a, const SortedRow& b,
                       const compareContextStructure& context) {
-  Require(a.pid != 0 || b.pid != 0, kSortingUnit, "pid1 || pid2");
+  if (!Expect(a.pid != 0 || b.pid != 0, kSortingUnit, "pid1 || pid2")) return 0;
   return timeCompare(a, b, context);
 }
 
 int memGraphCompare(const SortedRow& a, const SortedRow& b,
                     const compareContextStructure& context) {
-  Require(a.pid != 0 || b.pid != 0, kSortingUnit, "pid1 || pid2");
+  if (!Expect(a.pid != 0 || b.pid != 0, kSortingUnit, "pid1 || pid2")) return 0;
   const int order = Order(a.integer, b.integer, context);
   return order != 0 ? order : pidCompare(a, b, context);
 }
@@ -236,7 +221,9 @@ void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,
     prepare(sorted[i], context);
   }
   if (IsInOrder(sorted, comparison, context)) return;
-  MergeSort(sorted, comparison, context);
+  std::ranges::sort(sorted, [&](const SortedRow& a, const SortedRow& b) {
+    return comparison(a, b, context) < 0;
+  });
   std::ranges::transform(sorted, rows.begin(), &SortedRow::row);
 }
 

@@ -12,7 +12,7 @@
 namespace lurkwell {
 
 /// Orders rows by one column. Rows that compare the same are ordered by pid, in the direction of
-/// the sort, so every order is complete. Main thread only.
+/// the sort, so every order is complete; missing values are smaller than any. Main thread only.
 
 /// What a comparison may know besides the two rows.
 struct compareContextStructure {
@@ -42,7 +42,6 @@ int pidCompare(const SortedRow& a, const SortedRow& b, const compareContextStruc
 int stringCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
 int integerCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
 int realCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
-/// A missing size compares as the same as any other.
 int memoryCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
 /// Spans and dates; a missing one counts as 0.
 int timeCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
@@ -67,7 +66,7 @@ RowComparison ComparisonForColumn(std::string_view key);
 /// begin with "internal_".
 RowComparison SortingComparisonForColumn(std::string_view key);
 
-/// Sorts. Any comparison will do, consistent or not; n log n comparisons, n when in order already.
+/// Sorts with n log n comparisons; n when the rows are in order already.
 void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,
               const compareContextStructure& context);
 

@@ -1,5 +1,6 @@
 #include "main_window/StripedTableView.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
@@ -62,12 +63,17 @@ StripedTableView::~StripedTableView() {
 
 // ---- The context menu ---------------------------------------------------------------------------
 
+void StripedTableView::SelectAlone(int row) {
+  selectionModel()->setCurrentIndex(
+      model()->index(row, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
 void StripedTableView::showTheSpecialContextMenu(const QPoint& position,
                                                  Qt::KeyboardModifiers modifiers, bool isRightClick,
                                                  bool needToSelect) {
   if ((modifiers & Qt::ControlModifier) == 0 && !isRightClick) return;
   const int row = rowAt(position.y());
-  if (needToSelect && row >= 0) selectRow(row);
+  if (needToSelect && row >= 0) SelectAlone(row);
   if (row < 0 || model() == nullptr || row >= model()->rowCount()) return;
   if (fMenu != nullptr) fMenu->popup(viewport()->mapToGlobal(position));
 }
@@ -125,7 +131,7 @@ void StripedTableView::keyboardSearch(const QString& search) {
   for (int i = 0; i < count; ++i) {
     const int row = (first + i) % count;
     if (!RowMatches(row, mSearched)) continue;
-    selectRow(row);
+    SelectAlone(row);
     scrollTo(model()->index(row, mSearchColumn));
     return;
   }
@@ -134,8 +140,10 @@ void StripedTableView::keyboardSearch(const QString& search) {
 // ---- Drawing ------------------------------------------------------------------------------------
 
 void StripedTableView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
-                                   const QList<int>&) {
+                                   const QList<int>& roles) {
   if (!isVisible() || model() == nullptr) return;
+  // Assistive programs want to hear of every cell; the rest of what the base does is costlier.
+  if (QAccessible::isActive()) return QTableView::dataChanged(topLeft, bottomRight, roles);
   const int first = std::max(rowAt(0), topLeft.row());
   const int lastVisible = rowAt(viewport()->height() - 1);
   const int last = std::min(lastVisible < 0 ? bottomRight.row() : lastVisible, bottomRight.row());

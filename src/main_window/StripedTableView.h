@@ -53,6 +53,8 @@ class StripedTableView : public QTableView {
   void highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const;
   void drawGridInClipRect(QPainter& painter, const QRect& clip) const;
   bool RowMatches(int row, const QString& text) const;
+  /// That row and no other, whatever keys are held.
+  void SelectAlone(int row);
 
   QPointer<QMenu> fMenu;
   int mSearchColumn = -1;

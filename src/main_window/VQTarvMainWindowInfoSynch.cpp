@@ -6,10 +6,10 @@
 #include <cstring>
 
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
 #include "main_window/PropertyText.h"
 #include "main_window/vqMainTableController.h"
-#include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "preferences/PreferencesRetrieval.h"
@@ -44,12 +44,15 @@ class PropertyReader {
   /// Null when there is no such process.
   const char* Read(std::int32_t pid, const char* key) {
     bool found = false;
-    GetPIDPropertyValue(pid, key, mText, sizeof mText, &found);
+    mHasValue = GetPIDPropertyValue(pid, key, mText, sizeof mText, &found);
     return found ? mText : nullptr;
   }
+  /// Whether what was read last is a value rather than a note that there is none.
+  bool HasValue() const { return mHasValue; }
 
  private:
   char mText[255];
+  bool mHasValue = false;
 };
 
 }  // namespace
@@ -69,7 +72,11 @@ VQTarvMainWindowInfoSynch::~VQTarvMainWindowInfoSynch() {
 void VQTarvMainWindowInfoSynch::HookIntoConsolidator() {
   if (mHooked) return;
   mHooked = true;
+  // While nobody was served, not even what never changes was read.
+  gNewColumnWasAddedRecently = true;
   AddProcessInformationClient(this);
+  mOwner.internalRepresentations().KeepOnly(
+      [this](std::int32_t pid) { return mOwner.rows().Find(pid) != nullptr; });
   gNSMainWindow = mOwner.window();
   mOwner.commitChanges();
   RequestUpdate(this);
@@ -84,13 +91,15 @@ void VQTarvMainWindowInfoSynch::UnhookFromConsolidator() {
 
 ProcessInformationClient::NeedLevel VQTarvMainWindowInfoSynch::NeedPidsForProcProperty(
     const char* key) {
-  const bool needed = mOwner.isTracked(key) || std::strcmp(key, "meta_active_time") == 0 ||
-                      std::strcmp(key, "pid_rsz") == 0 || std::strcmp(key, "pid_vsz") == 0;
+  const bool needed = NeedPidProcProperty(kInvalidPID, key) || std::strcmp(key, "pid_rsz") == 0 ||
+                      std::strcmp(key, "pid_vsz") == 0;
   return needed ? kNeedAllPids : kNeedNoPids;
 }
 
 bool VQTarvMainWindowInfoSynch::NeedPidProcProperty(int, const char* key) {
-  return mOwner.isTracked(key) || std::strcmp(key, "meta_active_time") == 0;
+  // Questions, the filter and two sorts want names, shown or not.
+  return mOwner.isTracked(key) || std::strcmp(key, "meta_active_time") == 0 ||
+         std::strcmp(key, "meta_name") == 0;
 }
 
 void VQTarvMainWindowInfoSynch::setCPUDelta(RowDictionary& row, TimeValue activeTime,
@@ -116,7 +125,8 @@ void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyI
   if (IsInternalKey(name)) return;
   PropertyReader reader;
   const char* text = reader.Read(pid, name);
-  if (text == nullptr) return;
+  // ps has no line for every process, and not every column has come yet.
+  if (text == nullptr || (!reader.HasValue() && FindBuiltInProperty(name) == nullptr)) return;
   const auto type = GetProcPropertyType(name, nullptr);
   if (type == kPropertyTypeHex) {
     mHexadecimalWasMet = true;
@@ -202,7 +212,7 @@ void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
 }
 
 void VQTarvMainWindowInfoSynch::NotifyPidHasBeenAdded(int pid) {
-  Require(mOwner.rows().Find(pid) == nullptr, kSynchUnit, "0");
+  if (!Expect(mOwner.rows().Find(pid) == nullptr, kSynchUnit, "0")) return;
   auto& row = mOwner.rows().Add(pid, mOwner.internalRepresentations().Of(pid));
   UpdateAllFields(row, pid);
   mOwner.setNeedsResort();
@@ -227,6 +237,7 @@ void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
   std::uint8_t found = 0;
   const auto interval = GetPrefInt(kMainWindowIntervalKey, &found, false, 0);
   if (found != 0) SetInterval(interval);
+  mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) {
     UpdateAllFields(*row, row->Pid());
     // Formats may be others, too.

@@ -73,7 +73,7 @@ void vqMainTableController::windowWillClose() {
   if (!gApplicationQuitting) SetPrefInt(kShowProcessListKey, 0);
   if (fInfoSynchronizer != nullptr) fInfoSynchronizer->UnhookFromConsolidator();
   fRows.RemoveAll();
-  fHolds = 0;
+  fHolders.clear();
   commitChanges();
 }
 
@@ -94,7 +94,7 @@ void vqMainTableController::memoryBarsHaveChanged() {
 
 void vqMainTableController::commitChanges() {
   fCommitIsQueued = false;
-  if (fHolds > 0) {
+  if (!fHolders.empty()) {
     fRows.CommitCells();
     return;
   }
@@ -119,10 +119,10 @@ void vqMainTableController::resortTable() {
   SortRows(fRows.All(), comparison, {fSortColumn, ascending});
 }
 
-void vqMainTableController::holdOrder(bool hold) {
+void vqMainTableController::holdOrder(const QObject* holder, bool hold) {
   if (hold) {
-    ++fHolds;
-  } else if (fHolds > 0 && --fHolds == 0) {
+    fHolders.insert(holder);
+  } else if (fHolders.erase(holder) > 0 && fHolders.empty()) {
     // After the command that closed the menu.
     setNeedsReload();
   }
@@ -135,6 +135,7 @@ void vqMainTableController::setFilter(const QString& text) {
 
 bool vqMainTableController::passesFilter(const RowDictionary& row) const {
   if (QString::number(row.Pid()).contains(fFilter)) return true;
+  if (nameOf(row.Pid()).contains(fFilter, Qt::CaseInsensitive)) return true;
   const auto contains = [&](KeyId key) {
     const auto* text = std::get_if<std::string>(&row.Get(key));
     return text != nullptr && PlainText(*text).contains(fFilter, Qt::CaseInsensitive);

@@ -76,8 +76,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   /// Sorts the rows by the sort column; the view hears of it at the next commit.
   void resortTable();
 
-  /// While a menu is open rows stay where they are. Calls nest.
-  void holdOrder(bool hold);
+  /// While something holds the order (an open menu, a question), rows stay where they are.
+  void holdOrder(const QObject* holder, bool hold);
 
   /// Shows only processes with this text in their name, their pid, or a text column, whatever its
   /// case; all for an empty text.
@@ -103,10 +103,15 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   /// A click on a header. Always false: columns are never selected.
   bool shouldSelectTableColumn(int column);
   char toggleSortDirection(KeyId key);
+  bool isSortColumn(int column) const;
+  /// Moves the sort column by so many places to the right and makes it so many points wider.
+  void changeSortColumn(int places, int points);
   void rememberSelection();
   void restoreSelection();
-  /// In the order of the rows.
+  /// In the order of the rows, without those whose processes have ended.
   std::vector<std::int32_t> selectedPids() const;
+  /// A process's name on one line, whether names are shown or not.
+  static QString nameOf(std::int32_t pid);
   bool selectPid(std::int32_t pid);
 
   // ---- Commands on the selected processes -------------------------------------------------------
@@ -132,7 +137,18 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   bool anyPIDsInSelection() const;
   bool anyPSNsInSelection() const;
   bool anyActionListItemsInSelection(std::int32_t kind) const;
-  bool validateMenuItem(MenuCommand command) const;
+  /// What commands depend on, asked once for all of them.
+  struct SelectionFacts {
+    bool any;
+    bool anyPIDs;
+    bool anyPSNs;
+    bool anyHalted;
+  };
+  SelectionFacts selectionFacts() const;
+  bool validateMenuItem(MenuCommand command, const SelectionFacts& facts) const;
+  bool validateMenuItem(MenuCommand command) const {
+    return validateMenuItem(command, selectionFacts());
+  }
   /// By the toolbar's identifiers; unknown ones are disabled.
   bool validateToolbarItem(std::string_view identifier) const;
 
@@ -187,9 +203,6 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void forSelectedPids(Action action);
   template <typename Action>
   void forSelectedPSNs(Action action);
-  template <typename Predicate>
-  bool anySelected(Predicate predicate) const;
-
   StripedTableView* stripedTable() const { return static_cast<StripedTableView*>(table()); }
 
   VQTarvMainWindowInfoSynch* fInfoSynchronizer = nullptr;
@@ -200,11 +213,18 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   std::unordered_map<KeyId, char> fColumnSortDirection;
   std::unordered_map<KeyId, int> fColumnWidths;
   std::vector<Column> fColumns;
+  /// Remembered columns that ps does not offer this time; they are kept for the next.
+  struct AbsentColumn {
+    std::string key;
+    int width;
+    std::int32_t direction;
+  };
+  std::vector<AbsentColumn> fAbsentColumns;
   std::vector<std::int32_t> fRememberedSelectionPIDs;
   QString fFilter;
   bool fNeedsResort = false;
   bool fCommitIsQueued = false;
-  int fHolds = 0;
+  std::unordered_set<const QObject*> fHolders;
   MonitorWindows* fMonitorWindows = nullptr;
   ColumnMenus fColumnMenus{*this};
   TextCell fTextCell;

@@ -14,11 +14,29 @@
 #include "platform/ApplicationQuitting.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
+#include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
 #include "support/RecordingClient.h"
 
 namespace lurkwell {
 namespace {
+
+/// Notes what it hears at shutdown, and what had happened by then.
+class Witness final : public RecordingClient {
+ public:
+  explicit Witness(AccessLog& log) : RecordingClient("client", 1000, mUnused), mLog(log) {}
+  ~Witness() override { Note("deleted"); }
+  void NotifyPidHasBeenRemoved(int pid) override { Note("removed " + std::to_string(pid)); }
+
+ private:
+  void Note(const std::string& what) {
+    mLog.Add("client " + what + (gApplicationQuitting ? ", quitting" : "") +
+             (gFd_a2d >= 0 ? ", helper there" : ", helper gone"));
+  }
+
+  AccessLog mUnused;
+  AccessLog& mLog;
+};
 
 class ShellTest : public testing::Test {
  protected:
@@ -93,14 +111,15 @@ TEST_F(ShellTest, ChecksToolsThenStartsTheHelperThenShowsTheWindowAndThePanel) {
 TEST_F(ShellTest, EndsInOrderAndRemembersTheWindow) {
   machine.processTable.Birth(300, "p");
   Launch();
-  auto* client = new RecordingClient("client", 1000, told);
+  auto* client = new Witness(told);
   AddProcessInformationClient(client);
   told.Clear();
   machine.log.Clear();
   delegate->applicationWillTerminate();
   EXPECT_TRUE(gApplicationQuitting);
   EXPECT_EQ(told.Take(),
-            "client removed 300\nclient removed 1\nclient removed 0\nclient deleted\n");
+            "client removed 300, quitting, helper there\nclient removed 1, quitting, helper there\n"
+            "client removed 0, quitting, helper there\nclient deleted, quitting, helper gone\n");
   EXPECT_EQ(Remembered(), 1);
   EXPECT_GT(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 6);
   EXPECT_TRUE(IsPrefArrayValuePresent("MAIN_WINDOW_COLUMNS", 0, "COLUMN_WIDTH"));

@@ -112,6 +112,11 @@ class Desktop(unittest.TestCase):
 
     def test_pictures_need_no_display(self):
         picture = self.home + "/main.png"
+        # A picture changes nothing of what the user left.
+        left = {"DEFAULT_SHOW_PROCESS_LIST_WINDOW": 0, "MAIN_WINDOW_FRAME": "7 8 860 560"}
+        file = pathlib.Path(self.home, "config", "com.velquarin.lurkwell.plist")
+        file.parent.mkdir()
+        file.write_bytes(plistlib.dumps(left))
         for scale, size in (("1", (860, 560)), ("2", (1720, 1120))):
             self.environment["QT_SCALE_FACTOR"] = scale
             done = subprocess.run(
@@ -119,8 +124,12 @@ class Desktop(unittest.TestCase):
                 env=self.environment, capture_output=True, text=True, timeout=60, check=False)
             self.assertEqual(done.returncode, 0, done.stderr)
             self.assertEqual(png_size(picture), size)
-        # A picture changes nothing of what the user left open.
-        self.assertEqual(self.preferences()["DEFAULT_SHOW_PROCESS_LIST_WINDOW"], 1)
+        for key, value in left.items():
+            self.assertEqual(self.preferences()[key], value)
+        done = subprocess.run([BINARY, "--screenshot", picture, "--window", "about"], timeout=60,
+                              env=self.environment, capture_output=True, check=False)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertLess(png_size(picture)[0], 1600)
         done = subprocess.run([BINARY, "--screenshot", "/nonexistent/x.png"], text=True,
                               env=self.environment, capture_output=True, timeout=60, check=False)
         self.assertEqual(done.returncode, 1)
@@ -175,9 +184,12 @@ class Desktop(unittest.TestCase):
         self.addCleanup(victim.kill)
         self.start([BINARY, "--unprivileged"])
         self.wait_for(lambda: '"Processes"' in self.windows())
-        self.type_keys("key", "ctrl+f")
+        self.type_keys("key", "ctrl+g")
+        self.wait_for(lambda: self.active_window() not in ("Processes", ""))
+        self.output("xdotool", "key", "ctrl+a")
         self.output("xdotool", "type", str(victim.pid))
-        self.output("xdotool", "key", "Return", "ctrl+a", "Delete")
+        self.output("xdotool", "key", "Return")
+        self.type_keys("key", "Delete")
         self.wait_for(lambda: self.active_window() not in ("Processes", ""))
         self.assertIsNone(victim.poll())
         self.output("xdotool", "key", "alt+k")

@@ -38,7 +38,6 @@ TEST_F(ColumnsTest, WhatIsChosenComesBack) {
       "meta_pid internal_Indicator meta_name meta_active_time internal_CPUPercent "
       "internal_MemGraph pid_p_nice UID";
   EXPECT_EQ(Keys(), keys);
-  ClickHeader("meta_pid");
   EXPECT_EQ(Cell(2, ColumnOf("UID")), "42") << "filled for the rows that were there";
   EXPECT_TRUE(ColumnItem(Menus().BuiltInMenu(), "pid_p_nice")->isChecked());
   EXPECT_FALSE(Menus().TopLevelItem(kInternalIcon).isChecked());
@@ -93,7 +92,52 @@ TEST_F(ColumnsTest, PreferencesThatAreOddAreMadeToFit) {
   EXPECT_GT(Width("meta_name"), 40);
   EXPECT_GE(Width("meta_pid"), 45);
   window.reset();
-  EXPECT_EQ(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 3);
+  EXPECT_EQ(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 4);
+}
+
+TEST_F(ColumnsTest, AColumnThatPsDoesNotOfferThisTimeIsKept) {
+  Open();
+  for (const char* key : {"meta_active_time", "internal_CPUPercent"})
+    controller().removeFromKeysWeTrackForUI(InternKey(key));
+  window.reset();
+  const auto count = GetPrefArrayCount("MAIN_WINDOW_COLUMNS");
+  SetPrefArrayString("MAIN_WINDOW_COLUMNS", count, "COLUMN_KEY", "UID");
+  SetPrefArrayInt("MAIN_WINDOW_COLUMNS", count, "COLUMN_WIDTH", 99);
+  Open();
+  EXPECT_FALSE(controller().isTracked("UID"));
+  window.reset();
+  char key[64];
+  GetPrefArrayString("MAIN_WINDOW_COLUMNS", count, "COLUMN_KEY", key, sizeof key, false, "");
+  EXPECT_STREQ(key, "UID");
+  EXPECT_EQ(GetPrefArrayInt("MAIN_WINDOW_COLUMNS", count, "COLUMN_WIDTH", false, 0), 99);
+}
+
+TEST_F(ColumnsTest, WhenTheSortColumnGoesPidsTakeItsPlace) {
+  for (const int pid : {300, 302, 301}) machine.processTable.Birth(pid, "p");
+  Open();
+  Toggle(Menus().BuiltInMenu(), "pid_p_nice");
+  ClickHeader("pid_p_nice");
+  ClickHeader("pid_p_nice");
+  EXPECT_EQ(Pids(), "302 301 300 1 0");
+  controller().setFilter("30");
+  Toggle(Menus().BuiltInMenu(), "pid_p_nice");
+  EXPECT_EQ(controller().sortColumn(), kMetaPid);
+  Turn();
+  EXPECT_EQ(Pids(), "300 301 302");
+  EXPECT_EQ(GetPrefInt("MAIN_WINDOW_SORT_COLUMN_INDEX", nullptr, false, -1), 0);
+}
+
+TEST_F(ColumnsTest, HeadersObeyTheKeyboard) {
+  Open();
+  ClickHeader("meta_name");
+  const int width = Width("meta_name");
+  Choose("menu_view_column_left");
+  Choose("menu_view_column_wider");
+  EXPECT_EQ(Width("meta_name"), width + 20);
+  EXPECT_EQ(window->table().horizontalHeader()->visualIndex(ColumnOf("meta_name")), 2);
+  window.reset();
+  Open();
+  EXPECT_TRUE(Keys().starts_with("meta_pid internal_Icon meta_name internal_Indicator")) << Keys();
 }
 
 TEST_F(ColumnsTest, SelectionAndRowsSurviveANewColumn) {

@@ -101,6 +101,29 @@ TEST_F(CommandsTest, DeleteAsksFirstAndNamesTheProcess) {
   EXPECT_EQ(Done(), "Helper Lkw Action Request:\\nkill_normal 300\nSignals.Send 301 15\n");
 }
 
+TEST_F(CommandsTest, TheQuestionHoldsForWhatIsLeftWhenItIsAnswered) {
+  OpenWith({300, 301, 302});
+  machine.processTable.Find(302)->SetName("<b>&\n");
+  // Asked for by name, whether names are shown or not.
+  controller().removeFromKeysWeTrackForUI(kMetaName);
+  Turn();
+  Select({302});
+  Answer("Cancel");
+  PressDelete();
+  EXPECT_EQ(question, "Kill process 302 (<b>&\\012)?");
+  Select({300, 301});
+  QTimer::singleShot(0, &machineRoom, [this] {
+    machine.processTable.Death(300);
+    Turn();
+    Answer("Kill");
+  });
+  machine.log.Clear();
+  PressDelete();
+  EXPECT_EQ(Done(), "Signals.Send 301 15\n");
+  Turn();
+  EXPECT_EQ(controller().rowCount(), 4) << "the order is held no longer";
+}
+
 TEST_F(CommandsTest, PrioritiesAndHaltsShowBadgesAtOnce) {
   OpenWith({300, 301});
   Select({300});

@@ -124,7 +124,7 @@ class MainWindowTest : public ConsolidatorTest, public ApplicationCommands {
 
   QAction* ColumnItem(QMenu& menu, const char* key) {
     for (auto* item : menu.actions())
-      if (item->data().toInt() == InternKey(key)) return item;
+      if (item->data().toByteArray() == key) return item;
     return nullptr;
   }
 

@@ -1,4 +1,5 @@
 // Rows: what they show from turn to turn, and how little the view hears of it.
+#include <QMenuBar>
 #include <QSignalSpy>
 
 #include "main_window/MainWindowTest.h"
@@ -160,6 +161,26 @@ TEST_F(TableTest, WhileAMenuIsOpenRowsKeepTheirPlaces) {
   Turn();
   EXPECT_EQ(Pids().substr(0, 4), "303 ");
   EXPECT_NE(controller().rows().Find(310), nullptr);
+}
+
+TEST_F(TableTest, EveryMenuLetsTheRowsGoAgain) {
+  auto& table = machine.processTable;
+  table.Birth(300, "p");
+  Open();
+  QList<QMenu*> menus{&window->menus().HeaderMenu(), &window->menus().ContextMenu(),
+                      &controller().columnMenus().BuiltInMenu()};
+  for (const auto* action : window->menuBar()->actions()) menus.append(action->menu());
+  ASSERT_GT(menus.size(), 8);
+  int pid = 400;
+  for (auto* menu : menus) {
+    menu->popup(window->pos());
+    table.Birth(++pid, "new");
+    Turn();
+    EXPECT_EQ(controller().rows().Find(pid)->shownIndex, -1) << menu->title().toStdString();
+    menu->hide();
+    Turn();
+    EXPECT_GE(controller().rows().Find(pid)->shownIndex, 0) << menu->title().toStdString();
+  }
 }
 
 TEST_F(TableTest, AClosedWindowHasNoRowsAndStartsAfreshWhenShownAgain) {

@@ -38,7 +38,7 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
       << said.toStdString();
   EXPECT_FALSE(said.contains(QLatin1String("helper"))) << "all is well: nothing is said";
   const auto aboutHelper = [&] {
-    Turn();
+    Turn(60'000);
     for (const auto* label : window->findChildren<QLabel*>())
       if (label->text().contains(QLatin1String("helper"))) return label->text().toStdString();
     return std::string();

@@ -257,6 +257,8 @@ bool DesktopProcessManager::SetFrontProcess(ProcessSerialNumber psn) {
   auto* known = mDesktop->FindRunning(psn);
   auto* connection = mDesktop->Connection();
   if (known == nullptr || connection == nullptr) return false;
+  // Whoever hid all its windows wants all of them back.
+  if (!known->hidden.empty()) ShowHideProcess(psn, true);
   return RaiseWindows(*connection, *mDesktop->Windows(), known->windows);
 }
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdio>
+
+namespace lurkwell {
+
+/// A broken assumption of a window's own code: said on standard error, and survived. Gives `holds`
+/// back, so that the caller goes on with what it does then.
+inline bool Expect(bool holds, const char* controller, const char* description) {
+  if (!holds) std::fprintf(stderr, "%s: assertion failure: %s\n", controller, description);
+  return holds;
+}
+
+}  // namespace lurkwell
