@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "main_window/VQTarvMainWindowInfoSynch.h"
 #include "main_window/vqMainTableController.h"
@@ -95,9 +96,16 @@ void MemGraphCell::DrawText(QPainter& painter, const QRect& frame, const QPalett
   auto rect = frame.adjusted(3, 1, -3, -1);
   // A narrow column keeps the end of the text.
   if (rect.width() < 40 && frame.width() >= 40) rect.setLeft(rect.right() - 39);
-  painter.setPen(palette.color(QPalette::Text));
-  painter.drawText(rect, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
-                   QString::fromLatin1(text));
+  const auto draw = [&](const QRect& place, const QColor& colour) {
+    painter.setPen(colour);
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+                     QString::fromLatin1(text));
+  };
+  // Bars of any darkness may lie below: a rim of the ground's colour keeps the text readable.
+  const auto rim = palette.color(QPalette::Base);
+  for (const auto& [x, y] : {std::pair(-1, 0), std::pair(1, 0), std::pair(0, -1), std::pair(0, 1)})
+    draw(rect.translated(x, y), rim);
+  draw(rect, palette.color(QPalette::Text));
 }
 
 void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
@@ -109,8 +117,10 @@ void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
   };
   painter.fillRect(BarIn(frame.adjusted(3, 5, -3, -5), share(mVSZ), 3),
                    isLarger ? Colour(0.5, 0.7, 0.0) : Colour(0.2, 0.9, 0.2));
+  // The usual dark green would not be seen on a dark ground.
+  const auto resident = IsDark(palette) ? Colour(0.05, 0.5, 0.2) : Colour(0.0, 0.3, 0.0);
   painter.fillRect(BarIn(frame.adjusted(2, 2, -2, -2), share(mRSZ), 2),
-                   isLarger ? Colour(0.35, 0.4, 0.0) : Colour(0.0, 0.3, 0.0));
+                   isLarger ? Colour(0.35, 0.4, 0.0) : resident);
   if (gDrawVSZText) DrawText(painter, frame, palette);
 }
 

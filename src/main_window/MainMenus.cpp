@@ -2,12 +2,13 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QMenuBar>
+#include <QUrl>
 
 #include "main_window/vqMainTableController.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
-#include "platform/Tools.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -198,9 +199,8 @@ void MainMenus::ValidateAll() {
 void MainMenus::ShowHelp() {
   const auto page =
       TheMachine().bundle.Path() + "/Contents/Resources/Documentation/Documentation.html";
-  // Not through the toolkit: what that starts would never hear our blocked signals.
-  if (!TheMachine().tools.StartInBackground({"/usr/bin/xdg-open", page}))
-    Q_EMIT helpIsMissing(QString::fromStdString(page));
+  const auto shown = QString::fromStdString(page);
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(shown))) Q_EMIT helpIsMissing(shown);
 }
 
 }  // namespace lurkwell

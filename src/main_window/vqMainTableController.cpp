@@ -20,7 +20,7 @@ namespace {
 
 constexpr char kControllerUnit[] = "vqMainTableController";
 
-/// A digit's worth of a column, in points.
+/// A character's worth of a column, in points, unless the font has wider digits.
 constexpr double kPointsPerCharacter = 6.0;
 
 QPixmap PixmapOf(const Picture& picture, double scale) {
@@ -212,8 +212,11 @@ QVariant vqMainTableController::indicatorOf(const RowDictionary& row) const {
 }
 
 QString vqMainTableController::textOf(const RowDictionary& row, const Column& column) const {
-  const int points = fTable != nullptr ? fTable->columnWidth(columnIndexOf(column.key)) : 91;
-  const auto width = static_cast<int>(points / kPointsPerCharacter);
+  if (column.type != kPropertyTypeDate || fTable == nullptr)
+    return DisplayText(column.type, row.Get(column.key), 15, row.Pid());
+  const double digit = fTable->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+  const int points = fTable->columnWidth(columnIndexOf(column.key));
+  const auto width = static_cast<int>(points / std::max(digit, kPointsPerCharacter));
   return DisplayText(column.type, row.Get(column.key), width, row.Pid());
 }
 

@@ -1,47 +1,64 @@
 #include "platform/desktop/EndingSignals.h"
 
+#include <fcntl.h>
 #include <signal.h>
-#include <sys/signalfd.h>
 #include <unistd.h>
 #include <xcb/xcb.h>
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
+#include <cerrno>
+#include <utility>
 
 namespace lurkwell {
 namespace {
 
 constexpr int kEndingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
+/// What the handler writes into and the notifier reads from; -1 without an EndingSignals.
+int gPipe[2] = {-1, -1};
+
+extern "C" void NoteSignal(int) {
+  const int before = errno;
+  [[maybe_unused]] const auto written = ::write(gPipe[1], "!", 1);
+  errno = before;
+}
+
 bool IsIgnored(int signal) {
   struct sigaction action {};
   return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
+void Handle(int signal, void (*handler)(int)) {
+  struct sigaction action {};
+  action.sa_handler = handler;
+  action.sa_flags = SA_RESTART;
+  if (!IsIgnored(signal)) ::sigaction(signal, &action, nullptr);
+}
+
 }  // namespace
 
 EndingSignals::EndingSignals() {
-  sigset_t set;
-  ::sigemptyset(&set);
-  for (const int signal : kEndingSignals)
-    if (!IsIgnored(signal)) ::sigaddset(&set, signal);
-  ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
-  mDescriptor = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
+  if (::pipe2(gPipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
+  for (const int signal : kEndingSignals) Handle(signal, NoteSignal);
 }
 
 EndingSignals::~EndingSignals() {
   mNotifier.reset();
-  if (mDescriptor >= 0) ::close(mDescriptor);
+  if (gPipe[0] < 0) return;
+  for (const int signal : kEndingSignals) Handle(signal, SIG_DFL);
+  for (int& end : gPipe) ::close(std::exchange(end, -1));
 }
 
 void EndingSignals::Watch() {
-  if (mDescriptor < 0) return;
-  mNotifier = std::make_unique<QSocketNotifier>(mDescriptor, QSocketNotifier::Read);
-  QObject::connect(mNotifier.get(), &QSocketNotifier::activated, [this] {
-    signalfd_siginfo information;
-    while (::read(mDescriptor, &information, sizeof information) == sizeof information)
-      // A window may refuse to quit; a signal is not a question.
-      QCoreApplication::exit(0);
+  if (gPipe[0] < 0) return;
+  mNotifier = std::make_unique<QSocketNotifier>(gPipe[0], QSocketNotifier::Read);
+  QObject::connect(mNotifier.get(), &QSocketNotifier::activated, [] {
+    char notes[16];
+    while (::read(gPipe[0], notes, sizeof notes) > 0) {
+    }
+    // A window may refuse to quit; a signal is not a question.
+    QCoreApplication::exit(0);
   });
 }
 

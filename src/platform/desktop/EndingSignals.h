@@ -6,9 +6,9 @@ class QSocketNotifier;
 
 namespace lurkwell {
 
-/// Makes SIGINT, SIGTERM and SIGHUP quit the application in order, as its own menu does. They are
-/// blocked in the calling thread for this object's life, which therefore begins before other
-/// threads start; one that is ignored at that time (nohup) stays ignored. Needs a
+/// Makes SIGINT, SIGTERM and SIGHUP end the application in order, from this object's beginning to
+/// its end; one that is ignored already (nohup) stays ignored. Nothing is blocked, so programs that
+/// are started meanwhile hear signals as usual. One at a time; main thread; needs a
 /// QCoreApplication from Watch on.
 class EndingSignals {
  public:
@@ -21,7 +21,6 @@ class EndingSignals {
   void Watch();
 
  private:
-  int mDescriptor = -1;
   std::unique_ptr<QSocketNotifier> mNotifier;
 };
 
