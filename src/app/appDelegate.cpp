@@ -41,6 +41,7 @@ vqAppDelegate::~vqAppDelegate() {
 void vqAppDelegate::init() {
   InitializeProcessInformationConsolidator();
   gAppDelegate = this;
+  qApp->installEventFilter(this);
   fMainWindow = std::make_unique<MainWindow>(*this);
   // A picture needs no place on the screen, and is no use that the user makes of the window.
   fMainWindow->setAttribute(Qt::WA_DontShowOnScreen, mLaunch == Launch::kForPicture);
@@ -100,6 +101,12 @@ void vqAppDelegate::doShowMainWindow() {
   fMainWindow->show();
   fMainWindow->raise();
   fMainWindow->activateWindow();
+}
+
+bool vqAppDelegate::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::Quit) return false;
+  doQuit();
+  return true;
 }
 
 void vqAppDelegate::doQuit() {

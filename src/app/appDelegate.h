@@ -43,6 +43,10 @@ class vqAppDelegate final : public QObject, public ApplicationCommands {
 
   MainWindow& mainWindow() { return *fMainWindow; }
 
+  /// The desktop asks programs to quit by an event that would close the windows first, as if the
+  /// user had done it.
+  bool eventFilter(QObject* object, QEvent* event) override;
+
  private:
   void ReopenWindows();
 

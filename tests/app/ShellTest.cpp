@@ -126,6 +126,17 @@ TEST_F(ShellTest, EndsInOrderAndRemembersTheWindow) {
   delegate->applicationWillTerminate();
 }
 
+TEST_F(ShellTest, AtTheSessionsEndTheWindowCountsAsOpen) {
+  Launch();
+  QWidget other;
+  other.show();
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &quit);
+  EXPECT_TRUE(MainWindowIsVisible());
+  delegate->applicationWillTerminate();
+  EXPECT_EQ(Remembered(), 1);
+}
+
 TEST_F(ShellTest, AWindowClosedByHandStaysClosedUnlessNothingElseWouldBeSeen) {
   Launch();
   QWidget other;
