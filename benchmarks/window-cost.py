@@ -4,10 +4,10 @@
 window-cost.py [-n 250,1000,5000] [-s SECONDS] [--interval SECONDS] NAME=COMMAND [NAME=COMMAND ...]
 
 Each command runs alone on a private X server (Xvfb, openbox, 1280x900), N idle processes of
-different names beside it. After a warm-up its CPU time and that of its helpers (every process
-started meanwhile by this script's session, and the helper, which clears its environment) is
-taken over some seconds and divided by the number of intervals. One Markdown row each; root sees
-all. Start-up is the time until the window's pixels have stopped changing.
+different names beside it. After a warm-up the CPU time of its processes (known by a mark in
+their environment) and of the helper, which clears its own, is taken over some seconds and
+divided by the number of intervals. One Markdown row each; root sees all. Start-up is the time
+until the window's pixels have stopped changing.
 """
 import argparse
 import os

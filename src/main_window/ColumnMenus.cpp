@@ -50,6 +50,8 @@ void ColumnMenus::Build() {
   mBuiltInMenu.setTitle(LocalizedString("menu_columns_built_in"));
   mPSAvailableMenu.setTitle(LocalizedString("menu_columns_ps"));
   for (auto* menu : {&mBuiltInMenu, &mPSAvailableMenu}) menu->setToolTipsVisible(true);
+  // As many columns as ps has do not fit a screen side by side.
+  mPSAvailableMenu.setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
   char header[64];
   for (int n = 0; n < CountProcPropertyHeaders(); ++n) {
     if (!GetNthProcPropertyHeader(n, header, sizeof header)) continue;
