@@ -1868,5 +1868,89 @@ Free software under the MIT licence</translation>
         <source></source>
         <translation>Chooses what the toolbar holds and in which order.</translation>
     </message>
+    <message id="logging_title">
+        <source></source>
+        <translation>Logging %1 pid:%2</translation>
+    </message>
+    <message id="logging_title_file">
+        <source></source>
+        <translation>filename: %1</translation>
+    </message>
+    <message id="logging_table">
+        <source></source>
+        <translation>Log of one process</translation>
+    </message>
+    <message id="logging_column_time">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="logging_column_time_tip">
+        <source></source>
+        <translation>When the row was written.</translation>
+    </message>
+    <message id="logging_column_active">
+        <source></source>
+        <translation>CPU time</translation>
+    </message>
+    <message id="logging_column_active_tip">
+        <source></source>
+        <translation>CPU time used since the process started, in seconds.</translation>
+    </message>
+    <message id="logging_column_active_change">
+        <source></source>
+        <translation>∆ CPU time</translation>
+    </message>
+    <message id="logging_column_active_change_tip">
+        <source></source>
+        <translation>CPU time used since the row before, in seconds.</translation>
+    </message>
+    <message id="logging_column_real">
+        <source></source>
+        <translation>Resident</translation>
+    </message>
+    <message id="logging_column_real_tip">
+        <source></source>
+        <translation>Memory that the process has in the machine's memory.</translation>
+    </message>
+    <message id="logging_column_real_change">
+        <source></source>
+        <translation>∆ Resident</translation>
+    </message>
+    <message id="logging_column_real_change_tip">
+        <source></source>
+        <translation>Change of the resident memory since the row before.</translation>
+    </message>
+    <message id="logging_column_virtual">
+        <source></source>
+        <translation>Virtual</translation>
+    </message>
+    <message id="logging_column_virtual_tip">
+        <source></source>
+        <translation>Address space of the process.</translation>
+    </message>
+    <message id="logging_column_virtual_change">
+        <source></source>
+        <translation>∆ Virtual</translation>
+    </message>
+    <message id="logging_column_virtual_change_tip">
+        <source></source>
+        <translation>Change of the address space since the row before.</translation>
+    </message>
+    <message id="logging_note_ended">
+        <source></source>
+        <translation>The process has ended.</translation>
+    </message>
+    <message id="logging_note_ended_remembered">
+        <source></source>
+        <translation>The process has ended. The window comes back when a process of that name starts.</translation>
+    </message>
+    <message id="logging_note_not_created">
+        <source></source>
+        <translation>There is no log file: %1. The rows are only shown here.</translation>
+    </message>
+    <message id="logging_note_not_written">
+        <source></source>
+        <translation>Rows are missing in the log file: %1.</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,292 @@
+#include "monitor_windows/CPUHistoryWindow.h"
+
+#include <algorithm>
+#include <cstring>
+#include <thread>
+#include <utility>
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/FrontmostWindow.h"
+#include "main_window/PropertyText.h"
+#include "monitor_windows/ScreenPlacement.h"
+#include "platform/Assertion.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kHistoryUnit[] = "CPUHistoryWindow";
+constexpr WindowRect kUsualBounds{300, 300, 450, 370};
+constexpr int kLargestSide = 10'000;
+constexpr QSize kSmallestSize(60, 30);
+
+int gOpenWindows = 0;
+
+int MPProcessors() {
+  return static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+}
+
+double SecondsBetween(TimeValue from, TimeValue to) {
+  return static_cast<double>(to.seconds - from.seconds) +
+         (to.microseconds - from.microseconds) / 1e6;
+}
+
+TimeValue ActiveTimeOf(std::int32_t pid) {
+  char text[64];
+  bool found = false;
+  const bool has = GetPIDPropertyValue(pid, "meta_active_time", text, sizeof text, &found);
+  return has && found ? ReadTime(text) : TimeValue{};
+}
+
+/// The record's place, made to fit: a size that a window can have, on a screen that exists.
+WindowRect Sound(WindowRect rect) {
+  const std::int64_t width = std::int64_t{rect.right} - rect.left;
+  const std::int64_t height = std::int64_t{rect.bottom} - rect.top;
+  const auto isSide = [](std::int64_t side) { return side > 0 && side <= kLargestSide; };
+  if (!isSide(width) || !isSide(height)) {
+    rect.left = std::clamp(rect.left, -kLargestSide, kLargestSide);
+    rect.top = std::clamp(rect.top, -kLargestSide, kLargestSide);
+    rect.right = rect.left + kUsualBounds.right - kUsualBounds.left;
+    rect.bottom = rect.top + kUsualBounds.bottom - kUsualBounds.top;
+  }
+  const auto place = PlaceOnScreen(rect, kSmallestSize);
+  return {place.left(), place.top(), place.left() + place.width(), place.top() + place.height()};
+}
+
+}  // namespace
+
+CPUHistoryWindowInformationClient::CPUHistoryWindowInformationClient(const Uuid* uuid,
+                                                                     std::int32_t interval,
+                                                                     std::int32_t pid,
+                                                                     const WindowRect& rect,
+                                                                     bool trackDescendants)
+    : ProcessInformationClient(uuid, interval),
+      mPid(pid),
+      mBounds(rect),
+      mPreferences(CPUHistoryPreferences::Read()),
+      mGraph(rect.right - rect.left, rect.bottom - rect.top, MPProcessors()) {
+  mPreferences.trackDescendants = trackDescendants;
+  mGraph.SetRelative(mPreferences.useRelative);
+  mGraph.SetTrackDescendants(trackDescendants);
+  ApplyColours();
+}
+
+CPUHistoryWindowInformationClient::~CPUHistoryWindowInformationClient() {
+  RemoveProcessInformationClient(this);
+  if (Window() != nullptr) DisposeOfWindows();
+}
+
+// ---- What is needed -----------------------------------------------------------------------------
+
+ProcessInformationClient::NeedLevel CPUHistoryWindowInformationClient::NeedProcPropertiesForPid(
+    int pid) {
+  if (mProcessGone) return kNeedNoProcProperties;
+  return pid == mPid || mDescendants.contains(pid) ? kNeedSomeProcProperties
+                                                   : kNeedNoProcProperties;
+}
+
+ProcessInformationClient::NeedLevel CPUHistoryWindowInformationClient::NeedPidsForProcProperty(
+    const char* property) {
+  const bool needed = !mProcessGone && (std::strcmp(property, "meta_active_time") == 0 ||
+                                        std::strcmp(property, "pid_parent_pid") == 0);
+  return needed ? kNeedSomePids : kNeedNoPids;
+}
+
+bool CPUHistoryWindowInformationClient::NeedPidProcProperty(int pid, const char* property) {
+  return NeedProcPropertiesForPid(pid) == kNeedSomeProcProperties &&
+         NeedPidsForProcProperty(property) == kNeedSomePids;
+}
+
+// ---- The process --------------------------------------------------------------------------------
+
+void CPUHistoryWindowInformationClient::NotifyPidHasBeenAdded(int pid) {
+  if (pid == mPid && !mProcessGone && Window() == nullptr) CreateMacWindow();
+}
+
+void CPUHistoryWindowInformationClient::NotifyPidHasChangedAppreciably(int pid) {
+  if (pid == mPid && !mProcessGone) MarkKind();
+}
+
+void CPUHistoryWindowInformationClient::NotifyPidHasBeenRemoved(int pid) {
+  if (pid != mPid) {
+    mDescendants.erase(pid);
+    return;
+  }
+  if (mProcessGone) return;
+  const auto bounds = ContentBounds();
+  if (Window() != nullptr) {
+    SetPersistentClientInfo(kCPUHistoryWindowKind, nullptr, nullptr, &bounds, &Identifier());
+    DisposeOfWindows();
+  }
+  mProcessGone = true;
+}
+
+void CPUHistoryWindowInformationClient::NotifyProcessesHaveBeenUpdated() {
+  // Without a window the process had ended already when a remembered one was to be opened.
+  if (mProcessGone || Window() == nullptr) {
+    delete this;
+    return;
+  }
+  const double descendants = TakeDescendantsSeconds();
+  if (mGraph.AreLabelsDirty()) DrawLabels();
+  const auto now = TheMachine().clock.Now();
+  const double elapsed =
+      std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdateTime, now)) / 1000.0);
+  const auto active = ActiveTimeOf(mPid);
+  const double total = SecondsBetween(mLastActiveTime, active) + descendants;
+  const double share = total > 0.0 ? (total - descendants) / total : (0.01 - descendants) / 0.01;
+  mGraph.SetFilter(CPUHistoryFilter());
+  const double value = mGraph.SanitizeForScaling(total, share, elapsed);
+  DrawPercentage(value);
+  mGraph.DrawRightmostPixel(value, share);
+  Window()->ContentWidget().update();
+  mLastUpdateTime = now;
+  mLastActiveTime = active;
+}
+
+double CPUHistoryWindowInformationClient::TakeDescendantsSeconds() {
+  if (!mGraph.TracksDescendants()) return 0.0;
+  std::map<std::int32_t, Descendant> descendants;
+  double seconds = 0.0;
+  for (const auto pid : PidBlob(kPidBlobDescendantsOf, &mPid)) {
+    const auto active = ActiveTimeOf(pid);
+    const auto before = mDescendants.find(pid);
+    // What a process had used before anybody looked is no part of this turn; what one has used that
+    // was born since then is.
+    bool unread = !mDescendantsKnown;
+    if (before != mDescendants.end()) {
+      if (!before->second.unread) seconds += SecondsBetween(before->second.activeTime, active);
+      unread = before->second.unread && active.IsZero();
+    } else if (mDescendantsKnown) {
+      seconds += SecondsBetween({}, active);
+    }
+    descendants.emplace(pid, Descendant{active, unread && active.IsZero()});
+  }
+  mDescendants = std::move(descendants);
+  mDescendantsKnown = true;
+  return seconds;
+}
+
+// ---- The window ---------------------------------------------------------------------------------
+
+void CPUHistoryWindowInformationClient::CreateMacWindow() {
+  mLastUpdateTime = TheMachine().clock.Now();
+  CreateWindow(&mBounds, QString::number(mPid),
+               kWindowCloseBoxAttribute | kWindowSideTitlebarAttribute,
+               kWindowHideOnSuspendAttribute);
+  ++gOpenWindows;
+  Window()->SetPainter([this](QPainter& painter) { PaintGraph(painter); });
+  if (!EnsureThatCocoaWindowIsFrontmostIfPossible()) Window()->raise();
+  MarkKind();
+}
+
+void CPUHistoryWindowInformationClient::UglyHookCalledImmediatelyBeforeOverlayWindowIsCreated(
+    QWidget& group) {
+  Require(mNameWindow == nullptr, kHistoryUnit, "!mNameWindow");
+  const int r = group.width();
+  const int b = group.height();
+  const auto fontOf = [&](int size, bool bold) {
+    auto font = group.font();
+    font.setPixelSize(size);
+    font.setBold(bold);
+    return font;
+  };
+  mNameWindow = new Satellite(group, QRect(1, 1, r, 22), fontOf(12, false), {5, 18});
+  mHighWaterMarkWindow = new Satellite(group, QRect(r - 29, 1, 28, 9), fontOf(9, false), {1, 8});
+  mIconWindow = new Satellite(group, QRect(4, b - 44, 40, 40), group.font(), {});
+  mCurrentPercentageWindow =
+      new Satellite(group, QRect(r - 28, b - 23, 24, 11), fontOf(9, true), {2, 9});
+  mNameWindow->SetColours(mPreferences.background, mPreferences.name);
+  mHighWaterMarkWindow->SetColours(mPreferences.background, mPreferences.highWaterMark);
+  mCurrentPercentageWindow->SetColours(mPreferences.percentageBackground,
+                                       mPreferences.percentageForeground);
+}
+
+void CPUHistoryWindowInformationClient::DisposeOfWindows() {
+  Require(Window() != nullptr, kHistoryUnit, "mWindow != NULL");
+  Require(mNameWindow != nullptr, kHistoryUnit, "mNameWindow != NULL");
+  Require(mHighWaterMarkWindow != nullptr, kHistoryUnit, "mHighWaterMarkWindow != NULL");
+  Require(mIconWindow != nullptr, kHistoryUnit, "mIconWindow != NULL");
+  Require(mCurrentPercentageWindow != nullptr, kHistoryUnit, "mCurrentPercentageWindow != NULL");
+  mNameWindow = mHighWaterMarkWindow = mIconWindow = mCurrentPercentageWindow = nullptr;
+  DisposeWindow();
+  --gOpenWindows;
+}
+
+void CPUHistoryWindowInformationClient::MarkKind() {
+  mGraph.MarkLabelsDirty();
+  ProcessSerialNumber psn;
+  PID2PSN(mPid, &psn);
+  mIsApplication = mIsApplication || psn != ProcessSerialNumber{};
+}
+
+OSStatus CPUHistoryWindowInformationClient::NotifyUpdate() {
+  RedrawEntireWindow();
+  return noErr;
+}
+
+OSStatus CPUHistoryWindowInformationClient::NotifyDrawContent() {
+  mGraph.MarkLabelsDirty();
+  RedrawEntireWindow();
+  return noErr;
+}
+
+OSStatus CPUHistoryWindowInformationClient::NotifyClosed() {
+  if (!mProcessGone) RemovePersistentClientInfo(kCPUHistoryWindowKind, &Identifier());
+  delete this;
+  return eventNotHandledErr;
+}
+
+// ---- Preferences --------------------------------------------------------------------------------
+
+void CPUHistoryWindowInformationClient::NotifyPreferencesHaveBeenUpdated() {
+  if (mProcessGone) return;
+  mPreferences.ReadAgain();
+  if (const auto interval = StoredCPUHistoryInterval()) SetInterval(*interval);
+  mGraph.SetRelative(mPreferences.useRelative);
+  if (mPreferences.trackDescendants != mGraph.TracksDescendants()) {
+    mDescendants.clear();
+    mDescendantsKnown = false;
+  }
+  mGraph.SetTrackDescendants(mPreferences.trackDescendants);
+  ApplyColours();
+  if (mNameWindow != nullptr) mNameWindow->SetColours(mPreferences.background, mPreferences.name);
+  if (mHighWaterMarkWindow != nullptr)
+    mHighWaterMarkWindow->SetColours(mPreferences.background, mHighWaterMarkWindow->TextColour());
+  mGraph.MarkLabelsDirty();
+  RedrawEntireWindow();
+}
+
+void CPUHistoryWindowInformationClient::ApplyColours() {
+  mGraph.SetColours({mPreferences.background.rgba(), mPreferences.foreground.rgba(),
+                     mPreferences.descendantsForeground.rgba()});
+}
+
+// ---- Opening ------------------------------------------------------------------------------------
+
+void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
+                            const WindowRect* rect) {
+  char name[kRememberedTextSize];
+  char kind[kRememberedTextSize];
+  if (uuid == nullptr) {
+    bool hasName = false;
+    bool hasKind = false;
+    GetPIDPropertyValue(pid, "meta_name", name, sizeof name, &hasName);
+    GetPIDPropertyValue(pid, "meta_kind", kind, sizeof kind, &hasKind);
+    if (!hasName || !hasKind) return;
+  }
+  auto bounds = rect != nullptr ? Sound(*rect) : kUsualBounds;
+  if (rect == nullptr) LocateRectangleForNewWindow(&bounds);
+  auto* client = new CPUHistoryWindowInformationClient(uuid, interval, pid, bounds,
+                                                       CPUHistoryTracksDescendants());
+  if (uuid == nullptr)
+    SetPersistentClientInfo(kCPUHistoryWindowKind, name, kind, &bounds, &client->Identifier());
+  AddProcessInformationClient(client);
+}
+
+int CountOpenCPUHistoryWindows() {
+  return gOpenWindows;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+
+#include "consolidator/ProcessInformationClient.h"
+#include "monitor_windows/CPUHistoryGraph.h"
+#include "monitor_windows/CPUHistoryPreferences.h"
+#include "monitor_windows/ProcessInformationWindow.h"
+#include "monitor_windows/RememberedWindows.h"
+#include "monitor_windows/Satellite.h"
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+/// A small translucent window that follows the CPU share of one process, a pixel column per update.
+/// Made with new and registered; it deletes itself when its process has ended or its window is
+/// closed. Main thread only.
+class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
+                                                public ProcessInformationWindow {
+ public:
+  /// `uuid` may be null, `interval` is in milliseconds; the window comes up with the process. A
+  /// rectangle without width is a fatal assertion.
+  CPUHistoryWindowInformationClient(const Uuid* uuid, std::int32_t interval, std::int32_t pid,
+                                    const WindowRect& rect, bool trackDescendants);
+  ~CPUHistoryWindowInformationClient() override;
+
+  void NotifyPidHasBeenAdded(int pid) override;
+  void NotifyPidHasBeenRemoved(int pid) override;
+  void NotifyPidHasChangedAppreciably(int pid) override;
+  void NotifyPreferencesHaveBeenUpdated() override;
+  NeedLevel NeedProcPropertiesForPid(int pid) override;
+  NeedLevel NeedPidsForProcProperty(const char* property) override;
+  bool NeedPidProcProperty(int pid, const char* property) override;
+  void NotifyProcessesHaveBeenUpdated() override;
+  const char* TypeName() const override { return "CPUHistoryWindowInformationClient"; }
+
+  OSStatus NotifyUpdate() override;
+  OSStatus NotifyDrawContent() override;
+  OSStatus NotifyClosed() override;
+  void UglyHookCalledImmediatelyBeforeOverlayWindowIsCreated(QWidget& group) override;
+
+  const CPUHistoryGraph& Graph() const { return mGraph; }
+  /// The four labels; null without a window.
+  const Satellite* NameWindow() const { return mNameWindow; }
+  const Satellite* HighWaterMarkWindow() const { return mHighWaterMarkWindow; }
+  const Satellite* IconWindow() const { return mIconWindow; }
+  const Satellite* CurrentPercentageWindow() const { return mCurrentPercentageWindow; }
+
+ private:
+  void CreateMacWindow();
+  void DisposeOfWindows();
+  void MarkKind();
+  void RedrawEntireWindow();
+  void ApplyColours();
+  /// The time that the descendants have used since the last update. Those that have ended or
+  /// belong to others now do not count any more.
+  double TakeDescendantsSeconds();
+  void DrawLabels();
+  void DrawIcon();
+  void DrawPercentage(double value);
+  void PaintGraph(QPainter& painter) const;
+
+  std::int32_t mPid;
+  WindowRect mBounds;
+  bool mProcessGone = false;
+  bool mIsApplication = false;
+  TimeValue mLastUpdateTime;
+  TimeValue mLastActiveTime;
+  struct Descendant {
+    TimeValue activeTime;  ///< at the last update
+    bool unread = false;   ///< it was there before the window, and no figure has come yet
+  };
+  std::map<std::int32_t, Descendant> mDescendants;
+  bool mDescendantsKnown = false;
+
+  CPUHistoryPreferences mPreferences;
+  CPUHistoryGraph mGraph;
+
+  /// Children of the window.
+  Satellite* mNameWindow = nullptr;
+  Satellite* mHighWaterMarkWindow = nullptr;
+  Satellite* mIconWindow = nullptr;
+  Satellite* mCurrentPercentageWindow = nullptr;
+};
+
+/// Opens a window for a process. Without `rect` it goes where new windows go; one without size gets
+/// the usual one. Without `uuid` the window is a new one: it is remembered from now on, and an
+/// unknown process opens nothing. `interval` in milliseconds.
+void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
+                            const WindowRect* rect);
+
+/// How many of them are on the screen.
+int CountOpenCPUHistoryWindows();
+
+}  // namespace lurkwell

@@ -1,0 +1,197 @@
+#include "monitor_windows/FloatingWindow.h"
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+#include <QWindowStateChangeEvent>
+#include <utility>
+
+namespace lurkwell {
+namespace {
+
+constexpr int kCloseBoxSize = 9;
+constexpr int kCloseBoxInset = 2;
+
+int TitlebarWidth(std::uint32_t attributes) {
+  return (attributes & kWindowSideTitlebarAttribute) != 0 ? FloatingWindow::kSideTitlebarWidth : 0;
+}
+
+}  // namespace
+
+class FloatingWindow::Content : public QWidget {
+ public:
+  explicit Content(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  void SetPainter(std::function<void(QPainter&)> painter) {
+    mPainter = std::move(painter);
+    setAttribute(Qt::WA_OpaquePaintEvent, static_cast<bool>(mPainter));
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (!mPainter) return;
+    QPainter painter(this);
+    mPainter(painter);
+  }
+
+ private:
+  std::function<void(QPainter&)> mPainter;
+};
+
+FloatingWindow::FloatingWindow(const QRect& contentBounds, std::uint32_t attributes)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                           Qt::WindowDoesNotAcceptFocus),
+      mContent(new Content(this)),
+      mAttributes(attributes) {
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setAttribute(Qt::WA_Hover);
+  setFocusPolicy(Qt::NoFocus);
+  const int bar = TitlebarWidth(attributes);
+  setFixedSize(contentBounds.width() + bar, contentBounds.height());
+  move(contentBounds.left() - bar, contentBounds.top());
+  mContent->setGeometry(bar, 0, contentBounds.width(), contentBounds.height());
+}
+
+FloatingWindow::~FloatingWindow() = default;
+
+void FloatingWindow::SetEventHandler(std::function<void(WindowEventKind)> handler) {
+  mHandler = std::move(handler);
+}
+
+void FloatingWindow::SetPainter(std::function<void(QPainter&)> painter) {
+  mContent->SetPainter(std::move(painter));
+}
+
+QWidget& FloatingWindow::ContentWidget() {
+  return *mContent;
+}
+
+QRect FloatingWindow::ContentBounds() const {
+  return mContent->geometry().translated(pos());
+}
+
+void FloatingWindow::Tell(WindowEventKind kind) {
+  // The handler may replace itself, as when the window is closed.
+  const auto handler = mHandler;
+  if (handler) handler(kind);
+}
+
+bool FloatingWindow::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Show:
+      Tell(kEventWindowShowing);
+      Tell(kEventWindowDrawContent);
+      Tell(kEventWindowShown);
+      break;
+    case QEvent::Hide:
+      Tell(kEventWindowHiding);
+      Tell(kEventWindowHidden);
+      break;
+    case QEvent::WindowActivate:
+      Tell(kEventWindowActivated);
+      break;
+    case QEvent::WindowDeactivate:
+      Tell(kEventWindowDeactivated);
+      break;
+    case QEvent::Move:
+      Tell(kEventWindowBoundsChanged);
+      break;
+    case QEvent::ScreenChangeInternal:
+      Tell(kEventWindowUpdate);
+      break;
+    case QEvent::WindowStateChange:
+      HandleStateChange(static_cast<QWindowStateChangeEvent*>(event)->oldState());
+      break;
+    case QEvent::Close:
+      Tell(kEventWindowClosed);
+      break;
+    case QEvent::HoverEnter:
+    case QEvent::HoverLeave:
+      mHovered = event->type() == QEvent::HoverEnter;
+      update(CloseBox());
+      break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+      HandleMouse(*event);
+      return true;
+    default:
+      break;
+  }
+  return QWidget::event(event);
+}
+
+void FloatingWindow::HandleStateChange(Qt::WindowStates before) {
+  const auto changed = before ^ windowState();
+  if (changed.testFlag(Qt::WindowMinimized)) {
+    Tell(isMinimized() ? kEventWindowCollapsing : kEventWindowExpanding);
+    Tell(isMinimized() ? kEventWindowCollapsed : kEventWindowExpanded);
+  }
+  if (changed.testFlag(Qt::WindowMaximized)) Tell(kEventWindowZoomed);
+}
+
+void FloatingWindow::HandleMouse(QEvent& event) {
+  const auto& mouse = static_cast<QMouseEvent&>(event);
+  const auto place = mouse.position().toPoint();
+  if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::LeftButton) {
+    EndDrag();
+    mPressedCloseBox = CloseBox().contains(place);
+    mMayDrag = !mPressedCloseBox;
+    mGrip = place;
+    Tell(kEventWindowGetClickActivation);
+  } else if (event.type() == QEvent::MouseMove && mMayDrag && !mDragging) {
+    if ((place - mGrip).manhattanLength() < 3) return;
+    mDragging = true;
+    Tell(kEventWindowDragStarted);
+    // The window manager knows edges and other desktops; where it does not help, move by hand.
+    if (windowHandle() != nullptr && windowHandle()->startSystemMove()) {
+      mMayDrag = false;
+      return;
+    }
+  } else if (event.type() == QEvent::MouseButtonRelease) {
+    const bool closes = std::exchange(mPressedCloseBox, false) && CloseBox().contains(place);
+    EndDrag();
+    if (closes) close();
+    return;
+  }
+  if (event.type() != QEvent::MouseMove) return;
+  if (mDragging && mMayDrag) move(mouse.globalPosition().toPoint() - mGrip);
+  // After a move by the window manager the release never comes.
+  if (mouse.buttons() == Qt::NoButton) EndDrag();
+}
+
+void FloatingWindow::EndDrag() {
+  mMayDrag = false;
+  if (std::exchange(mDragging, false)) Tell(kEventWindowDragCompleted);
+}
+
+QRect FloatingWindow::CloseBox() const {
+  if ((mAttributes & kWindowCloseBoxAttribute) == 0) return {};
+  return {kCloseBoxInset, kCloseBoxInset, kCloseBoxSize, kCloseBoxSize};
+}
+
+void FloatingWindow::paintEvent(QPaintEvent*) {
+  const int bar = TitlebarWidth(mAttributes);
+  if (bar == 0) return;
+  QPainter painter(this);
+  const QColor ground(48, 50, 52);
+  painter.fillRect(0, 0, bar, height(), ground);
+  painter.fillRect(bar - 1, 0, 1, height(), ground.darker(150));
+  const auto box = CloseBox();
+  if (box.isEmpty()) return;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(mHovered ? QColor(226, 88, 80) : QColor(118, 121, 124));
+  painter.drawEllipse(box);
+  if (!mHovered) return;
+  painter.setPen(QPen(QColor(90, 16, 12), 1.2));
+  const auto cross = QRectF(box).adjusted(3, 3, -3, -3);
+  painter.drawLine(cross.topLeft(), cross.bottomRight());
+  painter.drawLine(cross.topRight(), cross.bottomLeft());
+}
+
+}  // namespace lurkwell

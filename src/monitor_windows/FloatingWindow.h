@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+
+namespace lurkwell {
+
+/// What happens to a floating window, in the numbers by which it is told.
+enum WindowEventKind : std::uint32_t {
+  kEventWindowUpdate = 1,
+  kEventWindowDrawContent = 2,
+  kEventWindowActivated = 5,
+  kEventWindowDeactivated = 6,
+  kEventWindowGetClickActivation = 7,
+  kEventWindowShowing = 22,
+  kEventWindowHiding = 23,
+  kEventWindowShown = 24,
+  kEventWindowHidden = 25,
+  kEventWindowBoundsChanging = 26,
+  kEventWindowBoundsChanged = 27,
+  kEventWindowResizeStarted = 28,
+  kEventWindowResizeCompleted = 29,
+  kEventWindowDragStarted = 30,
+  kEventWindowDragCompleted = 31,
+  kEventWindowCollapsed = 67,
+  kEventWindowExpanded = 70,
+  kEventWindowClosed = 73,
+  kEventWindowZoomed = 76,
+  kEventWindowGetMinimumSize = 81,
+  kEventWindowGetMaximumSize = 82,
+  kEventWindowCollapsing = 86,
+  kEventWindowExpanding = 87,
+};
+
+/// What a floating window has besides its content.
+enum WindowAttributes : std::uint32_t {
+  kWindowCloseBoxAttribute = 1,
+  kWindowSideTitlebarAttribute = 32,
+  kWindowHideOnSuspendAttribute = 0x1000000,
+};
+
+/// A small window above all others that never takes the keyboard. It is moved by dragging it
+/// anywhere; with a side title bar it has a narrow strip at the left, in which the close box lies.
+/// Everything that the toolkit tells it leaves here as event kinds. Main thread only.
+class FloatingWindow final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// The part of the window that its owner draws.
+  class Content;
+
+  static constexpr int kSideTitlebarWidth = 13;
+
+  /// `attributes` of WindowAttributes.
+  FloatingWindow(const QRect& contentBounds, std::uint32_t attributes);
+  ~FloatingWindow() override;
+
+  /// Who hears of events; an empty function for nobody.
+  void SetEventHandler(std::function<void(WindowEventKind)> handler);
+
+  /// Where labels go and what they are laid over.
+  QWidget& ContentWidget();
+  QRect ContentBounds() const;
+  /// Draws the content; without one it stays empty.
+  void SetPainter(std::function<void(QPainter&)> painter);
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QRect CloseBox() const;
+  void Tell(WindowEventKind kind);
+  void HandleMouse(QEvent& event);
+  void HandleStateChange(Qt::WindowStates before);
+  void EndDrag();
+
+  std::function<void(WindowEventKind)> mHandler;
+  Content* mContent = nullptr;
+  std::uint32_t mAttributes;
+  bool mHovered = false;
+  bool mPressedCloseBox = false;
+  bool mMayDrag = false;
+  bool mDragging = false;
+  QPoint mGrip;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,36 @@
+#include "monitor_windows/FollowingWindows.h"
+
+#include <utility>
+
+#include "monitor_windows/LoggingWindowUI.h"
+
+namespace lurkwell {
+
+FollowingWindows::FollowingWindows(LogFiles& logFiles, Histories histories)
+    : mLogFiles(logFiles), mHistories(std::move(histories)) {}
+
+void FollowingWindows::CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid) {
+  CreateCPUHistoryWindow(interval, pid, nullptr, nullptr);
+}
+
+void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t pid) {
+  CreateLoggingWindow(interval, pid, nullptr, nullptr, -1);
+}
+
+void FollowingWindows::CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid,
+                                              const Uuid* uuid, const WindowRect* rect) {
+  mHistories.create(interval, pid, uuid, rect);
+}
+
+void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t pid,
+                                           const Uuid* uuid, const WindowRect* rect,
+                                           std::int32_t prefsIndex) {
+  LoggingWindowUI::CreateLoggingWindowWithInterval(mLogFiles, interval, pid, uuid, rect,
+                                                   prefsIndex);
+}
+
+int FollowingWindows::CountOpenWindows() const {
+  return LoggingWindowUI::CountOpenWindows() + mHistories.countOpen();
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+
+#include "main_window/vqMainTableController.h"
+#include "monitor_windows/MonitorWindowKinds.h"
+#include "platform/LogFiles.h"
+
+namespace lurkwell {
+
+/// The windows that follow a process, as the main table and the watchdog open them. Main thread
+/// only.
+class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds {
+ public:
+  /// CPU history windows, which are made elsewhere.
+  struct Histories {
+    /// As MonitorWindowKinds::CreateCPUHistoryWindow.
+    std::function<void(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
+                       const WindowRect* rect)>
+        create;
+    std::function<int()> countOpen;
+  };
+
+  /// `logFiles` outlives this.
+  FollowingWindows(LogFiles& logFiles, Histories histories);
+
+  void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid) override;
+  void CreateLoggingWindow(std::int32_t interval, std::int32_t pid) override;
+
+  void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
+                              const WindowRect* rect) override;
+  void CreateLoggingWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
+                           const WindowRect* rect, std::int32_t prefsIndex) override;
+  int CountOpenWindows() const override;
+
+ private:
+  LogFiles& mLogFiles;
+  Histories mHistories;
+};
+
+}  // namespace lurkwell

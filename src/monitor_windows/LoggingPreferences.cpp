@@ -1,0 +1,95 @@
+#include "monitor_windows/LoggingPreferences.h"
+
+#include <algorithm>
+
+#include "monitor_windows/RememberedWindows.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+namespace {
+
+struct ColumnKeys {
+  const char* identifier;
+  bool LoggingSwitches::*isShown;
+  const char* general;
+  std::int32_t generalDefault;
+  const char* own;
+  const char* width;
+};
+
+constexpr ColumnKeys kColumns[kLoggingColumns] = {
+    {"timestampColID", &LoggingSwitches::includeTimeStamp, "LOG_WINDOW_INCLUDE_TIMESTAMP", 1,
+     "INCLUDE_TIMESTAMP", "LOG_TIMESTAMP_COL_WIDTH"},
+    {"activeColID", &LoggingSwitches::logActiveTime, "LOG_WINDOW_ACTIVE_TIME_BOOL", 1,
+     "LOG_ACTIVE_TIME", "LOG_ACTIVE_COL_WIDTH"},
+    {"\306activeColID", &LoggingSwitches::logDeltaActiveTime, "LOG_WINDOW_DELTA_ACTIVE_TIME_BOOL",
+     1, "LOG_DELTA_ACTIVE_TIME", "LOG_DELTA_ACTIVE_COL_WIDTH"},
+    {"realColID", &LoggingSwitches::logRealMemUsed, "LOG_WINDOW_REAL_MEM_BOOL", 0,
+     "LOG_REAL_MEM_USED", "LOG_REAL_MEM_COL_WIDTH"},
+    {"\306realColID", &LoggingSwitches::logDeltaRealMemUsed, "LOG_WINDOW_DELTA_REAL_MEM_BOOL", 0,
+     "LOG_DELTA_REAL_MEM_USED", "LOG_DELTA_REAL_MEM_COL_WIDTH"},
+    {"virtualColID", &LoggingSwitches::logVirtualMemUsed, "LOG_WINDOW_VIRTUAL_MEM_BOOL", 0,
+     "LOG_VIRTUAL_MEM_USED", "LOG_VIRTUAL_MEM_COL_WIDTH"},
+    {"\306virtualColID", &LoggingSwitches::logDeltaVirtualMemUsed,
+     "LOG_WINDOW_DELTA_VIRTUAL_MEM_BOOL", 0, "LOG_DELTA_VIRTUAL_MEM_USED",
+     "LOG_DELTA_VIRTUAL_MEM_COL_WIDTH"},
+};
+
+constexpr char kLogToFileKey[] = "LOG_TO_FILE";
+constexpr char kIntervalKey[] = "CUSTOM_UPDATE_INTERVAL";
+
+bool ReadSwitch(std::int32_t prefsIndex, const char* own, const char* general,
+                std::int32_t generalDefault) {
+  const auto value = GetPrefInt(general, nullptr, true, generalDefault);
+  return ReadRememberedInt(kLoggingWindowKind, prefsIndex, own, value) != 0;
+}
+
+}  // namespace
+
+LoggingSwitches ReadLoggingSwitches(std::int32_t prefsIndex) {
+  LoggingSwitches switches;
+  for (const auto& column : kColumns)
+    switches.*column.isShown =
+        ReadSwitch(prefsIndex, column.own, column.general, column.generalDefault);
+  return switches;
+}
+
+bool ReadLogToFile(std::int32_t prefsIndex) {
+  return ReadSwitch(prefsIndex, kLogToFileKey, "LOG_WINDOW_LOG_TO_FILE", 0);
+}
+
+std::int32_t ReadLoggingInterval(std::int32_t prefsIndex, std::int32_t fallback) {
+  return ReadRememberedInt(kLoggingWindowKind, prefsIndex, kIntervalKey, fallback);
+}
+
+std::optional<int> ReadColumnWidth(std::int32_t prefsIndex, LoggingColumn column) {
+  constexpr double kNarrowest = 10, kWidest = 4000;
+  const char* key = kColumns[column].width;
+  if (!IsPrefArrayValuePresent(kLoggingWindowKind, prefsIndex, key)) return std::nullopt;
+  const double width = GetPrefArrayDouble(kLoggingWindowKind, prefsIndex, key, false, 0);
+  if (!(width > 0)) return std::nullopt;
+  return static_cast<int>(std::clamp(width, kNarrowest, kWidest));
+}
+
+void SaveLoggingSettings(std::int32_t prefsIndex, const LoggingSwitches& switches, bool logToFile,
+                         std::int32_t interval) {
+  for (const auto& column : kColumns)
+    WriteRememberedInt(kLoggingWindowKind, prefsIndex, column.own,
+                       switches.*column.isShown ? 1 : 0);
+  WriteRememberedInt(kLoggingWindowKind, prefsIndex, kLogToFileKey, logToFile ? 1 : 0);
+  WriteRememberedInt(kLoggingWindowKind, prefsIndex, kIntervalKey, interval);
+}
+
+void SaveColumnWidth(std::int32_t prefsIndex, LoggingColumn column, int width) {
+  WriteRememberedDouble(kLoggingWindowKind, prefsIndex, kColumns[column].width, width);
+}
+
+bool IsShown(const LoggingSwitches& switches, LoggingColumn column) {
+  return switches.*kColumns[column].isShown;
+}
+
+const char* LoggingColumnIdentifier(LoggingColumn column) {
+  return kColumns[column].identifier;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,96 @@
+#include "monitor_windows/LoggingRecord.h"
+
+#include <cstdio>
+
+#include "process_control/DisplayFormats.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr std::int32_t kDateCharacters = 16;
+
+std::string SecondsText(TimeValue time) {
+  char text[48];
+  std::snprintf(text, sizeof text, "%lld.%06d", static_cast<long long>(time.seconds),
+                time.microseconds);
+  return text;
+}
+
+std::string DateText(TimeValue time) {
+  char text[64];
+  FormatDateString(text, sizeof text, time.seconds, time.microseconds, kDateCharacters);
+  return text;
+}
+
+std::string MemoryText(std::int64_t bytes, bool withSign) {
+  char text[64];
+  FormatMemoryString(bytes, text, sizeof text - 1, withSign);
+  return text;
+}
+
+/// The change since the last row; none at the first one.
+TimeValue ActiveTimeSince(TimeValue last, TimeValue now) {
+  if (last.IsZero()) return {};
+  TimeValue change{now.seconds - last.seconds, now.microseconds - last.microseconds};
+  if (change.microseconds < 0) {
+    --change.seconds;
+    change.microseconds += 1'000'000;
+  }
+  return change;
+}
+
+class RowWriter {
+ public:
+  void WriteTime(TimeValue now) {
+    mRow.cells[kTimeStampColumn] = DateText(now);
+    mRow.line = SecondsText(now);
+  }
+
+  void Write(LoggingColumn column, std::string cell, const std::string& number) {
+    mRow.cells[column] = std::move(cell);
+    mRow.line += '\t' + number;
+  }
+  void WriteSpan(LoggingColumn column, TimeValue span) {
+    Write(column, SecondsText(span), SecondsText(span));
+  }
+  void WriteMemory(LoggingColumn column, std::int64_t bytes, bool withSign) {
+    Write(column, MemoryText(bytes, withSign), std::to_string(bytes));
+  }
+
+  LoggedRow Take() { return std::move(mRow); }
+
+ private:
+  LoggedRow mRow;
+};
+
+}  // namespace
+
+std::optional<LoggedRow> LogFigures(const LoggingSwitches& switches, const LoggingFigures& figures,
+                                    LoggedInfoStruct& last) {
+  LoggedInfoStruct present = last;
+  present.timestamp = figures.now;
+  if (switches.ActiveTime()) present.activetime = figures.activetime.value_or(last.activetime);
+  if (switches.RealMem()) present.realMemUsed = figures.realMemUsed.value_or(last.realMemUsed);
+  if (switches.VirtualMem())
+    present.virtualMemUsed = figures.virtualMemUsed.value_or(last.virtualMemUsed);
+  if (present.activetime == last.activetime && present.realMemUsed == last.realMemUsed &&
+      present.virtualMemUsed == last.virtualMemUsed)
+    return std::nullopt;
+
+  RowWriter row;
+  if (switches.includeTimeStamp) row.WriteTime(present.timestamp);
+  if (switches.logActiveTime) row.WriteSpan(kActiveColumn, present.activetime);
+  if (switches.logDeltaActiveTime)
+    row.WriteSpan(kDeltaActiveColumn, ActiveTimeSince(last.activetime, present.activetime));
+  if (switches.logRealMemUsed) row.WriteMemory(kRealColumn, present.realMemUsed, false);
+  if (switches.logDeltaRealMemUsed)
+    row.WriteMemory(kDeltaRealColumn, present.realMemUsed - last.realMemUsed, true);
+  if (switches.logVirtualMemUsed) row.WriteMemory(kVirtualColumn, present.virtualMemUsed, false);
+  // Unlike the resident change, without a sign in front: this column is read by its numbers.
+  if (switches.logDeltaVirtualMemUsed)
+    row.WriteMemory(kDeltaVirtualColumn, present.virtualMemUsed - last.virtualMemUsed, false);
+  last = present;
+  return row.Take();
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,381 @@
+#include "monitor_windows/LoggingWindowUI.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QFile>
+#include <QHeaderView>
+#include <QShortcut>
+#include <QUiLoader>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/FrontmostWindow.h"
+#include "main_window/PropertyText.h"
+#include "monitor_windows/LoggingPreferences.h"
+#include "monitor_windows/LoggingWindowInformationClient2.h"
+#include "monitor_windows/ScreenPlacement.h"
+#include "platform/ApplicationQuitting.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+
+QPoint LoggingWindowUI::sLastLoggingWindowOriginForCascading;
+int LoggingWindowUI::sOpenWindows = 0;
+
+namespace {
+
+constexpr QSize kSmallest(40, 40);
+constexpr int kBesideColumns = 16;
+constexpr int kCellMargin = 16;
+
+/// Tells its controller, which belongs to it, that it is being closed.
+class LoggingWindow final : public QWidget {
+ public:
+  LoggingWindow() {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+  }
+
+  LoggingWindowUI* controller = nullptr;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->accept();
+    if (controller != nullptr) controller->windowWillClose();
+  }
+};
+
+/// A line in the table's words at its widest, for the columns' first widths.
+const char* WidestText(LoggingColumn column) {
+  switch (column) {
+    case kTimeStampColumn:
+      return "MMM 28 08:48:58";
+    case kActiveColumn:
+    case kDeltaActiveColumn:
+      return "8888.888888";
+    default:
+      return "- 8888.8 M";
+  }
+}
+
+const char* TitleId(LoggingColumn column) {
+  constexpr const char* kIds[kLoggingColumns] = {
+      "logging_column_time",          "logging_column_active",      "logging_column_active_change",
+      "logging_column_real",          "logging_column_real_change", "logging_column_virtual",
+      "logging_column_virtual_change"};
+  return kIds[column];
+}
+
+}  // namespace
+
+// ---- Opening ------------------------------------------------------------------------------------
+
+LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
+    LogFiles& logFiles, std::int32_t interval, std::int32_t thePid, const Uuid* theUuid,
+    const WindowRect* windowSize, std::int32_t somePrefIndex) {
+  auto window = std::make_unique<LoggingWindow>();
+  auto* controller = new LoggingWindowUI(*window);
+  controller->initWithPrefIndex(somePrefIndex);
+  auto& state = controller->mStateInfo;
+  state.pid = thePid;
+  interval = ReadLoggingInterval(somePrefIndex, interval);
+  state.millisecondsInterval = interval;
+  if (!controller->loadInterface()) {
+    std::fprintf(stderr, "Failed to load LoggingUI.nib\n");
+    return nullptr;
+  }
+  controller->awakeFromNib();
+  if (state.logToFile) controller->openLogFile(logFiles);
+  controller->setTitle();
+  controller->placeWindow(windowSize);
+  WatchWindowOrder(*window);
+  window->show();
+  window->raise();
+  window->activateWindow();
+  controller->mPIC = new LoggingWindowInformationClient2(theUuid, interval, *controller);
+  if (theUuid == nullptr) controller->rememberAsNew(controller->mPIC->Identifier());
+  AddProcessInformationClient(controller->mPIC);
+  window->controller = controller;
+  // It deletes itself when it is closed.
+  static_cast<void>(window.release());
+  return controller;
+}
+
+LoggingWindowUI::LoggingWindowUI(QWidget& window) : vqTableController(&window) {
+  fWindow = &window;
+  ++sOpenWindows;
+}
+
+LoggingWindowUI::~LoggingWindowUI() {
+  --sOpenWindows;
+  // A window that is deleted without having been closed.
+  delete std::exchange(mPIC, nullptr);
+}
+
+void LoggingWindowUI::initWithPrefIndex(std::int32_t prefsIndex) {
+  mStateInfo.prefsIndex = prefsIndex;
+  static_cast<LoggingSwitches&>(mStateInfo) = ReadLoggingSwitches(prefsIndex);
+  mStateInfo.logToFile = ReadLogToFile(prefsIndex);
+  for (int number = 0; number < kLoggingColumns; ++number) {
+    const auto column = static_cast<LoggingColumn>(number);
+    if (IsShown(mStateInfo, column)) fColumns.push_back(column);
+  }
+}
+
+bool LoggingWindowUI::loadInterface() {
+  QFile form(QStringLiteral(":/forms/LoggingUI.ui"));
+  auto* contents = form.open(QIODevice::ReadOnly) ? QUiLoader().load(&form, fWindow) : nullptr;
+  if (contents == nullptr) return false;
+  fTable = contents->findChild<QTableView*>(QStringLiteral("logTable"));
+  fNote = contents->findChild<QLabel*>(QStringLiteral("noteLabel"));
+  if (fTable == nullptr || fNote == nullptr) return false;
+  fWindow->resize(contents->size());
+  auto* layout = new QVBoxLayout(fWindow);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(contents);
+  return true;
+}
+
+void LoggingWindowUI::awakeFromNib() {
+  fWindow->setWindowIcon(NamedImage("logging"));
+  fNote->hide();
+  fTable->setModel(this);
+  fTable->setAccessibleName(LocalizedString("logging_table"));
+  fTable->verticalHeader()->hide();
+  fTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  fTable->verticalHeader()->setDefaultSectionSize(fTable->fontMetrics().height() + 4);
+  // Rows can be selected, columns not.
+  fTable->horizontalHeader()->setSectionsClickable(false);
+  fTable->horizontalHeader()->setHighlightSections(false);
+  fTable->horizontalHeader()->setStretchLastSection(true);
+  setColumnWidths();
+  mScrollView = fTable->verticalScrollBar();
+  connect(mScrollView, &QScrollBar::valueChanged, this, &LoggingWindowUI::scrollBarWasMoved);
+  connect(mScrollView, &QScrollBar::rangeChanged, this, [this](int, int most) {
+    if (fFollowsNewest) mScrollView->setValue(most);
+  });
+  auto* copy = new QShortcut(QKeySequence::Copy, fWindow);
+  connect(copy, &QShortcut::activated, this, &LoggingWindowUI::copySelection);
+  auto* close = new QShortcut(QKeySequence::Close, fWindow);
+  connect(close, &QShortcut::activated, fWindow, &QWidget::close);
+}
+
+int LoggingWindowUI::widthForColumn(LoggingColumn column) const {
+  if (const auto remembered = ReadColumnWidth(mStateInfo.prefsIndex, column)) return *remembered;
+  const auto title = LocalizedString(TitleId(column));
+  const int text = fTable->fontMetrics().horizontalAdvance(QLatin1String(WidestText(column)));
+  return std::max(text, fTable->horizontalHeader()->fontMetrics().horizontalAdvance(title)) +
+         kCellMargin;
+}
+
+void LoggingWindowUI::setColumnWidths() {
+  mStateInfo.desiredWidth = 0;
+  for (std::size_t place = 0; place < fColumns.size(); ++place) {
+    const int width = widthForColumn(fColumns[place]);
+    fTable->setColumnWidth(static_cast<int>(place), width);
+    mStateInfo.desiredWidth += width;
+  }
+}
+
+void LoggingWindowUI::openLogFile(LogFiles& logFiles) {
+  auto creation = logFiles.Create("Lkw_log_" + std::to_string(mStateInfo.pid) + "_");
+  if (creation.file == nullptr) {
+    fHasSaidFileFailed = true;
+    return say(LocalizedString("logging_note_not_created").arg(PlainText(creation.problem)));
+  }
+  mStateInfo.logFileName = creation.file->Path();
+  mStateInfo.logFile = std::move(creation.file);
+}
+
+void LoggingWindowUI::setTitle() {
+  char name[256] = "";
+  GetPIDPropertyValue(mStateInfo.pid, "meta_name", name, sizeof name, nullptr);
+  auto title =
+      LocalizedString("logging_title").arg(PlainText(name), QString::number(mStateInfo.pid));
+  if (mStateInfo.logFile != nullptr)
+    title += QLatin1Char(' ') +
+             LocalizedString("logging_title_file").arg(PlainText(mStateInfo.logFileName));
+  fWindow->setWindowTitle(title);
+}
+
+void LoggingWindowUI::placeWindow(const WindowRect* windowSize) {
+  fWindow->setMinimumSize(kSmallest);
+  if (windowSize != nullptr) {
+    const QRect place = PlaceOnScreen(*windowSize, kSmallest);
+    fWindow->resize(place.size());
+    fWindow->move(place.topLeft());
+    return;
+  }
+  const QSize size(mStateInfo.desiredWidth + kBesideColumns, fWindow->height());
+  fWindow->resize(size);
+  fWindow->move(CascadeTopLeftFromPoint(sLastLoggingWindowOriginForCascading, size));
+}
+
+WindowRect LoggingWindowUI::frame() const {
+  const QPoint place = fWindow->pos();
+  return {place.x(), place.y(), place.x() + fWindow->width(), place.y() + fWindow->height()};
+}
+
+void LoggingWindowUI::rememberAsNew(const Uuid& uuid) const {
+  char name[kRememberedTextSize];
+  char kind[kRememberedTextSize];
+  const auto read = [this](const char* property, char* text) {
+    return GetPIDPropertyValue(mStateInfo.pid, property, text, kRememberedTextSize, nullptr);
+  };
+  if (!read("meta_name", name) || !read("meta_kind", kind)) return;
+  const auto place = frame();
+  SetPersistentClientInfo(kLoggingWindowKind, name, kind, &place, &uuid);
+}
+
+// ---- Logging ------------------------------------------------------------------------------------
+
+void LoggingWindowUI::processesHaveBeenUpdated(const LoggingFigures& figures) {
+  auto row = LogFigures(mStateInfo, figures, mStateInfo.lastInfoSample);
+  if (!row) return;
+  if (mStateInfo.logFile != nullptr) appendToFile(row->line);
+  appendRow(std::move(*row));
+}
+
+void LoggingWindowUI::appendToFile(const std::string& line) {
+  const auto problem = mStateInfo.logFile->Append(line);
+  if (problem.empty() || std::exchange(fHasSaidFileFailed, true)) return;
+  say(LocalizedString("logging_note_not_written").arg(PlainText(problem)));
+}
+
+void LoggingWindowUI::appendRow(LoggedRow row) {
+  const bool followed = fFollowsNewest;
+  auto& rows = mStateInfo.logTableData;
+  if (numberOfRowsInTableView() >= kMostRows) {
+    // The oldest row may be the current one, whose successor the view would scroll to.
+    fTable->setAutoScroll(false);
+    beginRemoveRows({}, 0, 0);
+    rows.pop_front();
+    endRemoveRows();
+    fTable->setAutoScroll(true);
+    // Whoever reads older rows goes on reading the same ones.
+    if (!followed) mScrollView->setValue(mScrollView->value() - 1);
+  }
+  const int place = numberOfRowsInTableView();
+  beginInsertRows({}, place, place);
+  rows.push_back(std::move(row));
+  endInsertRows();
+  fFollowsNewest = followed;
+  triggerReload();
+}
+
+void LoggingWindowUI::triggerReload() {
+  if (fTable != nullptr && fFollowsNewest) fTable->scrollToBottom();
+}
+
+void LoggingWindowUI::scrollBarWasMoved(int value) {
+  fFollowsNewest = value >= mScrollView->maximum();
+}
+
+void LoggingWindowUI::say(const QString& text) {
+  if (fNote == nullptr) return;
+  fNote->setText(fNote->text().isEmpty() ? text : fNote->text() + QLatin1Char('\n') + text);
+  fNote->show();
+}
+
+// ---- The end ------------------------------------------------------------------------------------
+
+void LoggingWindowUI::processHasEnded() {
+  mStateInfo.pidWentAway = true;
+  const auto place = frame();
+  const auto index =
+      SetPersistentClientInfo(kLoggingWindowKind, nullptr, nullptr, &place, &mPIC->Identifier());
+  say(LocalizedString(index < 0 ? "logging_note_ended" : "logging_note_ended_remembered"));
+  if (index < 0) return;
+  mStateInfo.prefsIndex = index;
+  SaveLoggingSettings(index, mStateInfo, mStateInfo.logToFile,
+                      static_cast<std::int32_t>(mStateInfo.millisecondsInterval));
+  for (std::size_t column = 0; column < fColumns.size(); ++column)
+    SaveColumnWidth(index, fColumns[column], fTable->columnWidth(static_cast<int>(column)));
+}
+
+void LoggingWindowUI::windowWillClose() {
+  if (mPIC == nullptr) return;
+  if (!mStateInfo.pidWentAway && !gApplicationQuitting)
+    RemovePersistentClientInfo(kLoggingWindowKind, &mPIC->Identifier());
+  mStateInfo.logFile.reset();
+  delete std::exchange(mPIC, nullptr);
+}
+
+void LoggingWindowUI::clientIsGone(const LoggingWindowInformationClient2& client) {
+  if (mPIC != &client) return;
+  mPIC = nullptr;
+  delete fWindow.data();
+}
+
+// ---- The table ----------------------------------------------------------------------------------
+
+QString LoggingWindowUI::objectValueForTableColumn(LoggingColumn column, int row) const {
+  return QString::fromUtf8(
+      mStateInfo.logTableData[static_cast<std::size_t>(row)].cells[column].c_str());
+}
+
+RowComparison LoggingWindowUI::sortSelectorForColumn(std::string_view) const {
+  return stringCompare;
+}
+
+int LoggingWindowUI::columnIndexOf(KeyId key) const {
+  for (std::size_t place = 0; place < fColumns.size(); ++place)
+    if (InternKey(LoggingColumnIdentifier(fColumns[place])) == key) return static_cast<int>(place);
+  return -1;
+}
+
+int LoggingWindowUI::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : numberOfRowsInTableView();
+}
+
+int LoggingWindowUI::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(fColumns.size());
+}
+
+QVariant LoggingWindowUI::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const auto column = fColumns[static_cast<std::size_t>(index.column())];
+  if (role == Qt::DisplayRole) return objectValueForTableColumn(column, index.row());
+  if (role == Qt::TextAlignmentRole)
+    return QVariant::fromValue((column == kTimeStampColumn ? Qt::AlignLeft : Qt::AlignRight) |
+                               Qt::AlignVCenter);
+  return {};
+}
+
+QVariant LoggingWindowUI::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation == Qt::Vertical || section < 0 || section >= columnCount())
+    return vqTableController::headerData(section, orientation, role);
+  const auto column = fColumns[static_cast<std::size_t>(section)];
+  if (role == Qt::DisplayRole) return LocalizedString(TitleId(column));
+  if (role == Qt::ToolTipRole)
+    return LocalizedString((std::string(TitleId(column)) + "_tip").c_str());
+  if (role == Qt::TextAlignmentRole)
+    return QVariant::fromValue((column == kTimeStampColumn ? Qt::AlignLeft : Qt::AlignRight) |
+                               Qt::AlignVCenter);
+  return {};
+}
+
+QString LoggingWindowUI::selectionAsText() const {
+  QString text;
+  if (fTable == nullptr) return text;
+  auto rows = fTable->selectionModel()->selectedRows();
+  std::sort(rows.begin(), rows.end());
+  for (const auto& row : rows) {
+    QStringList cells;
+    for (const auto column : fColumns)
+      cells.append(objectValueForTableColumn(column, row.row()).trimmed());
+    text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+  }
+  return text;
+}
+
+void LoggingWindowUI::copySelection() const {
+  const auto text = selectionAsText();
+  if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+}
+
+}  // namespace lurkwell

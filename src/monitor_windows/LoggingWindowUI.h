@@ -1,0 +1,134 @@
+#pragma once
+
+#include <QLabel>
+#include <QPoint>
+#include <QScrollBar>
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "main_window/vqTableController.h"
+#include "monitor_windows/LoggingRecord.h"
+#include "monitor_windows/RememberedWindows.h"
+#include "platform/LogFiles.h"
+#include "platform/Uuid.h"
+
+namespace lurkwell {
+
+class LoggingWindowInformationClient2;
+
+/// What a logging window knows about itself.
+struct stateInfoStruct : LoggingSwitches {
+  std::int32_t pid = -1;
+  bool pidWentAway = false;
+  /// The window's element in the remembered ones, or -1.
+  std::int32_t prefsIndex = -1;
+  long millisecondsInterval = 0;
+  /// The width of all columns together.
+  int desiredWidth = 0;
+  LoggedInfoStruct lastInfoSample;
+  bool logToFile = false;
+  std::string logFileName;
+  /// Null when there is none.
+  std::unique_ptr<LogFile> logFile;
+  /// At most LoggingWindowUI::kMostRows.
+  std::deque<LoggedRow> logTableData;
+};
+
+/// A window that writes down what one process uses, a row whenever that changes, and appends the
+/// rows to a file if wanted. This is the table's model; the window owns it. The window and its
+/// client end together. Main thread only.
+class LoggingWindowUI final : public vqTableController {
+  Q_OBJECT
+
+ public:
+  static constexpr int kMostRows = 500;
+
+  /// Opens a window, the only way to do it; null, and nothing opened, when its form is missing.
+  /// `interval` in milliseconds; without `theUuid` the window is a new one and is remembered from
+  /// now on; without `windowSize` it goes where new ones go; `somePrefIndex` is a remembered
+  /// window's element or -1. `logFiles` is asked during the call only.
+  static LoggingWindowUI* CreateLoggingWindowWithInterval(LogFiles& logFiles, std::int32_t interval,
+                                                          std::int32_t thePid, const Uuid* theUuid,
+                                                          const WindowRect* windowSize,
+                                                          std::int32_t somePrefIndex);
+  /// How many there are.
+  static int CountOpenWindows() { return sOpenWindows; }
+
+  ~LoggingWindowUI() override;
+
+  const stateInfoStruct& stateInfo() const { return mStateInfo; }
+  const LoggingWindowInformationClient2* client() const { return mPIC; }
+  /// Whether that process is the one, and has not ended.
+  bool logs(std::int32_t pid) const { return !mStateInfo.pidWentAway && pid == mStateInfo.pid; }
+
+  // ---- What the client tells --------------------------------------------------------------------
+
+  void processesHaveBeenUpdated(const LoggingFigures& figures);
+  /// The window stays, and its layout is remembered for the next process of that name.
+  void processHasEnded();
+  /// Closes the window, unless that is what the client ends by.
+  void clientIsGone(const LoggingWindowInformationClient2& client);
+
+  // ---- The window's life ------------------------------------------------------------------------
+
+  /// While the process runs, the window is forgotten.
+  void windowWillClose();
+
+  // ---- The table --------------------------------------------------------------------------------
+
+  int numberOfRowsInTableView() const { return static_cast<int>(mStateInfo.logTableData.size()); }
+  QString objectValueForTableColumn(LoggingColumn column, int row) const;
+  RowComparison sortSelectorForColumn(std::string_view key) const override;
+  void triggerReload() override;
+  /// The selected rows as lines of tab-separated cells.
+  QString selectionAsText() const;
+  /// What the window says below its table; empty when there is nothing to say.
+  QString note() const { return fNote != nullptr ? fNote->text() : QString(); }
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  static QPoint sLastLoggingWindowOriginForCascading;
+
+ protected:
+  int columnIndexOf(KeyId key) const override;
+
+ private:
+  explicit LoggingWindowUI(QWidget& window);
+
+  /// Reads the switches.
+  void initWithPrefIndex(std::int32_t prefsIndex);
+  /// Takes its outlets from the form; false when the form is missing.
+  bool loadInterface();
+  void awakeFromNib();
+  void setColumnWidths();
+  int widthForColumn(LoggingColumn column) const;
+  void openLogFile(LogFiles& logFiles);
+  void setTitle();
+  void placeWindow(const WindowRect* windowSize);
+  WindowRect frame() const;
+  void rememberAsNew(const Uuid& uuid) const;
+  void appendToFile(const std::string& line);
+  void appendRow(LoggedRow row);
+  void scrollBarWasMoved(int value);
+  void say(const QString& text);
+  void copySelection() const;
+
+  static int sOpenWindows;
+
+  stateInfoStruct mStateInfo;
+  LoggingWindowInformationClient2* mPIC = nullptr;
+  /// Those that are shown, in their order.
+  std::vector<LoggingColumn> fColumns;
+  QPointer<QLabel> fNote;
+  QScrollBar* mScrollView = nullptr;
+  /// The newest row is in sight, and is to stay so.
+  bool fFollowsNewest = true;
+  bool fHasSaidFileFailed = false;
+};
+
+}  // namespace lurkwell

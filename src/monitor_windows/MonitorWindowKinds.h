@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+
+#include "monitor_windows/RememberedWindows.h"
+#include "platform/Uuid.h"
+
+namespace lurkwell {
+
+/// Opens the windows that follow a process, be it as new ones or as they were remembered. Main
+/// thread only.
+class MonitorWindowKinds {
+ public:
+  virtual ~MonitorWindowKinds() = default;
+
+  /// `interval` in milliseconds. Without `uuid` the window is a new one, which is remembered from
+  /// now on; without `rect` it goes where new ones go.
+  virtual void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
+                                      const WindowRect* rect) = 0;
+  /// The same; `prefsIndex` is the remembered window's element, -1 for none.
+  virtual void CreateLoggingWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
+                                   const WindowRect* rect, std::int32_t prefsIndex) = 0;
+  /// How many there are of both kinds at present.
+  virtual int CountOpenWindows() const = 0;
+};
+
+/// Shows the windows that are there from the start.
+class StartUpWindows {
+ public:
+  virtual ~StartUpWindows() = default;
+  virtual void doShowMainWindow() = 0;
+  virtual void doShowQuintessentialView() = 0;
+  virtual void showQuintessentialViewFullScreen() = 0;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,113 @@
+#include "monitor_windows/ProcessWatchdog.h"
+
+#include <cstdio>
+#include <cstring>
+#include <string_view>
+
+#include "consolidator/PI_Consolidator.h"
+#include "platform/Assertion.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+namespace {
+
+bool IsNameOrKind(const char* property) {
+  return std::strcmp(property, "meta_name") == 0 || std::strcmp(property, "meta_kind") == 0;
+}
+
+bool IsSignature(const char* property) {
+  return std::strcmp(property, "carbonpsn_signature") == 0;
+}
+
+bool ReadText(int pid, const char* property, char* text) {
+  return GetPIDPropertyValue(pid, property, text, kRememberedTextSize, nullptr);
+}
+
+bool IsSet(const char* key, std::int32_t defaultValue) {
+  return GetPrefInt(key, nullptr, true, defaultValue) != 0;
+}
+
+}  // namespace
+
+ProcessWatchdog::ProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kinds)
+    : ProcessInformationClient(nullptr, interval), mKinds(kinds) {}
+
+ProcessInformationClient::NeedLevel ProcessWatchdog::NeedPidsForProcProperty(const char* property) {
+  if (IsNameOrKind(property)) return kNeedAllPids;
+  return IsSignature(property) ? kNeedSomePids : kNeedNoPids;
+}
+
+bool ProcessWatchdog::NeedPidProcProperty(int pid, const char* property) {
+  if (IsNameOrKind(property)) return true;
+  if (!IsSignature(property)) return false;
+  char kind[kRememberedTextSize];
+  return pid < kInvalidPID ||
+         (ReadText(pid, "meta_kind", kind) && std::string_view(kind) == "OS X");
+}
+
+void ProcessWatchdog::Remember(int pid) {
+  if (!mNewPids.Contains(pid)) mNewPids.Push(pid);
+}
+
+void ProcessWatchdog::NotifyProcessesHaveBeenUpdated() {
+  if (mNewPids.Empty()) return;
+  mHistories.Refresh();
+  mLogs.Refresh();
+  while (!mNewPids.Empty()) OpenWindowsOf(mNewPids.Pop());
+}
+
+void ProcessWatchdog::OpenWindowsOf(int pid) {
+  WindowRect rect;
+  Uuid uuid;
+  std::int32_t index = 0;
+  while (CheckClientKindForNewPid(kCPUHistoryWindowKind, pid, &index, &rect, &uuid) && MayOpen()) {
+    const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
+    mKinds.CreateCPUHistoryWindow(interval, pid, &uuid, &rect);
+  }
+  index = 0;
+  while (CheckClientKindForNewPid(kLoggingWindowKind, pid, &index, &rect, &uuid) && MayOpen()) {
+    const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
+    mKinds.CreateLoggingWindow(interval, pid, &uuid, &rect, index - 1);
+  }
+}
+
+bool ProcessWatchdog::MayOpen() {
+  if (mKinds.CountOpenWindows() < kMostOpenWindows) return true;
+  if (!mHasSaidTooMany)
+    std::fprintf(stderr, "lurkwell: %d windows are open; remembered ones stay closed\n",
+                 kMostOpenWindows);
+  mHasSaidTooMany = true;
+  return false;
+}
+
+bool ProcessWatchdog::CheckClientKindForNewPid(const char* arrayName, int pid,
+                                               std::int32_t* startIndex, WindowRect* rect,
+                                               Uuid* uuid) {
+  Require(arrayName != nullptr, "ProcessWatchdog", "arrayName != NULL");
+  if (GetPrefArrayCount(arrayName) == 0) return false;
+  char name[kRememberedTextSize];
+  char kind[kRememberedTextSize];
+  if (!ReadText(pid, "meta_name", name) || !ReadText(pid, "meta_kind", kind)) return false;
+  const bool isHistory = std::strcmp(arrayName, kCPUHistoryWindowKind) == 0;
+  const auto index = (isHistory ? mHistories : mLogs).Find(name, kind, *startIndex);
+  if (index < 0) return false;
+  char text[kRememberedTextSize];
+  ReadRememberedText(arrayName, index, "WINDOW_UUID", text);
+  const auto identifier = Uuid::FromText(text);
+  if (!identifier) return false;
+  *rect = ReadRememberedRect(arrayName, index);
+  *uuid = *identifier;
+  *startIndex = index + 1;
+  return true;
+}
+
+void InitializeProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kinds,
+                               StartUpWindows& windows) {
+  AddProcessInformationClient(new ProcessWatchdog(interval, kinds));
+  if (IsSet("DEFAULT_SHOW_PROCESS_LIST_WINDOW", 1)) windows.doShowMainWindow();
+  if (IsSet("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0))
+    return windows.showQuintessentialViewFullScreen();
+  if (IsSet("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW", 0)) windows.doShowQuintessentialView();
+}
+
+}  // namespace lurkwell

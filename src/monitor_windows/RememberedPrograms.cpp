@@ -1,0 +1,58 @@
+#include "monitor_windows/RememberedPrograms.h"
+
+#include <algorithm>
+
+#include "monitor_windows/RememberedWindows.h"
+#include "platform/Uuid.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+namespace {
+
+std::string Program(const char* name, const char* kind) {
+  std::string program(name);
+  program += '\0';
+  return program += kind;
+}
+
+}  // namespace
+
+std::string RememberedPrograms::ProgramAt(std::int32_t index) const {
+  if (!IsPrefArrayValuePresent(mArrayName, index, "PROCESS_NAME") ||
+      !IsPrefArrayValuePresent(mArrayName, index, "PROCESS_KIND"))
+    return {};
+  char name[kRememberedTextSize];
+  char kind[kRememberedTextSize];
+  ReadRememberedText(mArrayName, index, "PROCESS_NAME", name);
+  ReadRememberedText(mArrayName, index, "PROCESS_KIND", kind);
+  char uuid[kRememberedTextSize];
+  ReadRememberedText(mArrayName, index, "WINDOW_UUID", uuid);
+  return Uuid::FromText(uuid) ? Program(name, kind) : std::string();
+}
+
+void RememberedPrograms::Refresh() {
+  mIndices.clear();
+  mCount = GetPrefArrayCount(mArrayName);
+  for (std::int32_t index = 0; index < mCount; ++index)
+    if (auto program = ProgramAt(index); !program.empty())
+      mIndices[std::move(program)].push_back(index);
+}
+
+std::int32_t RememberedPrograms::Known(const std::string& program, std::int32_t startIndex) const {
+  const auto at = mIndices.find(program);
+  if (at == mIndices.end()) return -1;
+  const auto index = std::ranges::lower_bound(at->second, startIndex);
+  return index != at->second.end() ? *index : -1;
+}
+
+std::int32_t RememberedPrograms::Find(const char* name, const char* kind, std::int32_t startIndex) {
+  if (GetPrefArrayCount(mArrayName) != mCount) Refresh();
+  const auto program = Program(name, kind);
+  const auto index = Known(program, startIndex);
+  if (index < 0 || ProgramAt(index) == program) return index;
+  // Another instance has changed the records under us.
+  Refresh();
+  return Known(program, startIndex);
+}
+
+}  // namespace lurkwell

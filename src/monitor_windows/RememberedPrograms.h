@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace lurkwell {
+
+/// Finds remembered windows by the program that they follow, so that looking up many processes
+/// walks the records once. Records without an identifier are left out: they could not be told from
+/// new windows. Main thread only.
+class RememberedPrograms {
+ public:
+  explicit RememberedPrograms(const char* arrayName) : mArrayName(arrayName) {}
+
+  /// Reads the records anew.
+  void Refresh();
+
+  /// The first record at or after `startIndex` whose name and kind are these to the byte, -1 for
+  /// none. As of the last Refresh, but never one that has become another.
+  std::int32_t Find(const char* name, const char* kind, std::int32_t startIndex);
+
+ private:
+  std::int32_t Known(const std::string& program, std::int32_t startIndex) const;
+  std::string ProgramAt(std::int32_t index) const;
+
+  const char* mArrayName;
+  std::int32_t mCount = -1;
+  /// Indices in ascending order, by name and kind.
+  std::unordered_map<std::string, std::vector<std::int32_t>> mIndices;
+};
+
+}  // namespace lurkwell

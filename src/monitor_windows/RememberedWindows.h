@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/Uuid.h"
+
+namespace lurkwell {
+
+/// The windows that follow programs, remembered in the preferences: an array for each kind of
+/// window, an element for each window. Main thread only; null array names and identifiers are fatal
+/// assertions of the unit ProcessWatchdog.
+
+inline constexpr char kCPUHistoryWindowKind[] = "CPU_HISTORY_WINDOW";
+inline constexpr char kLoggingWindowKind[] = "LOGGING_WINDOW";
+
+/// The size of texts in a record, their end included.
+inline constexpr std::int32_t kRememberedTextSize = 64;
+
+/// In the coordinates of the whole desktop.
+struct WindowRect {
+  std::int32_t left = 0;
+  std::int32_t top = 0;
+  std::int32_t right = 0;
+  std::int32_t bottom = 0;
+
+  friend bool operator==(const WindowRect&, const WindowRect&) = default;
+};
+
+/// The element of that window; the array's count when there is none.
+std::int32_t GetAppropriateIndexForUUID(const char* arrayName, const Uuid* uuid);
+
+/// Writes what is given into the element of that window and returns its index. A new element is
+/// made only when name, kind and rectangle are given; else -1. Every text is cut by its caller.
+std::int32_t SetPersistentClientInfo(const char* clientKind, const char* processName,
+                                     const char* processKind, const WindowRect* rect,
+                                     const Uuid* uuid);
+
+/// Forgets that window, in every element that there is of it.
+void RemovePersistentClientInfo(const char* arrayName, const Uuid* uuid);
+
+// ---- Single fields, of records that another run may have left incomplete or damaged -------------
+
+/// Leaves the buffer of kRememberedTextSize bytes empty when there is no such text.
+void ReadRememberedText(const char* arrayName, std::int32_t index, const char* key, char* buffer);
+std::int32_t ReadRememberedInt(const char* arrayName, std::int32_t index, const char* key,
+                               std::int32_t fallback);
+WindowRect ReadRememberedRect(const char* arrayName, std::int32_t index);
+
+/// Every write goes to disk, so what is so already is not written.
+void WriteRememberedInt(const char* arrayName, std::int32_t index, const char* key,
+                        std::int32_t value);
+void WriteRememberedDouble(const char* arrayName, std::int32_t index, const char* key,
+                           double value);
+
+}  // namespace lurkwell

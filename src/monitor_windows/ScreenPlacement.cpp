@@ -1,0 +1,58 @@
+#include "monitor_windows/ScreenPlacement.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <cstdint>
+
+namespace lurkwell {
+namespace {
+
+constexpr int kCascadeStep = 24;
+/// So much of a window has to be seen, so that it can be taken hold of.
+constexpr int kGraspable = 40;
+
+int SpanWithin(std::int64_t span, int smallest, int largest) {
+  return static_cast<int>(
+      std::clamp(span, std::int64_t{smallest}, std::int64_t{std::max(smallest, largest)}));
+}
+
+bool CanBeGrasped(const WindowRect& place) {
+  for (const auto* screen : QGuiApplication::screens()) {
+    const QRect free = screen->availableGeometry();
+    const auto left = std::max(place.left, free.left());
+    const auto right = std::min(place.right, free.right() + 1);
+    const bool titleIsSeen = place.top >= free.top() && place.top <= free.bottom() - kGraspable / 2;
+    if (titleIsSeen && std::int64_t{right} - left >= kGraspable) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
+  const auto* screen = QGuiApplication::screenAt({remembered.left, remembered.top});
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  const QRect free = screen->availableGeometry();
+  const int width =
+      SpanWithin(std::int64_t{remembered.right} - remembered.left, smallest.width(), free.width());
+  const int height = SpanWithin(std::int64_t{remembered.bottom} - remembered.top, smallest.height(),
+                                free.height());
+  if (CanBeGrasped(remembered)) return {remembered.left, remembered.top, width, height};
+  const int left =
+      std::clamp(remembered.left, free.left(), std::max(free.left(), free.right() + 1 - width));
+  const int top =
+      std::clamp(remembered.top, free.top(), std::max(free.top(), free.bottom() + 1 - height));
+  return {left, top, width, height};
+}
+
+QPoint CascadeTopLeftFromPoint(QPoint& point, QSize size) {
+  const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+  const QPoint first = free.topLeft() + QPoint(kCascadeStep, kCascadeStep);
+  const bool fits = !point.isNull() && free.contains(QRect(point, size));
+  const QPoint place = fits ? point : first;
+  point = place + QPoint(kCascadeStep, kCascadeStep);
+  return place;
+}
+
+}  // namespace lurkwell

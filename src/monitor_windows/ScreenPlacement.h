@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+#include "monitor_windows/RememberedWindows.h"
+
+namespace lurkwell {
+
+/// Where windows go. Coordinates are those of the whole desktop; main thread, with a desktop.
+
+/// The place of a remembered window, made to fit: no smaller than `smallest`, no larger than its
+/// screen, and moved as little as needed to lie on one. It stays as it is when it does.
+QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest);
+
+/// Where a new window of that size goes when `point` is next in the cascade; `point` moves on. The
+/// cascade begins at a null point, and again at the end of the screen.
+QPoint CascadeTopLeftFromPoint(QPoint& point, QSize size);
+
+}  // namespace lurkwell

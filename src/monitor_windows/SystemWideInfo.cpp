@@ -1,0 +1,127 @@
+#include "monitor_windows/SystemWideInfo.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <utility>
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/PropertyText.h"
+#include "monitor_windows/ScreenPlacement.h"
+#include "platform/Assertion.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kSystemUnit[] = "SystemWideInfo";
+constexpr char kLeftKey[] = "QUBS_DEBUGGING_WINDOW_LEFT";
+constexpr char kTopKey[] = "QUBS_DEBUGGING_WINDOW_TOP";
+constexpr char kRightKey[] = "QUBS_DEBUGGING_WINDOW_RIGHT";
+constexpr char kBottomKey[] = "QUBS_DEBUGGING_WINDOW_BOTTOM";
+constexpr QSize kSmallestSize(60, 50);
+
+WindowRect RememberedPlace() {
+  const WindowRect stored{
+      GetPrefInt(kLeftKey, nullptr, true, 100), GetPrefInt(kTopKey, nullptr, true, 300),
+      GetPrefInt(kRightKey, nullptr, true, 290), GetPrefInt(kBottomKey, nullptr, true, 350)};
+  // Preferences may hold any number.
+  const auto place = PlaceOnScreen(stored, kSmallestSize);
+  return {place.left(), place.top(), place.left() + place.width(), place.top() + place.height()};
+}
+
+/// As the figure is defined: the constant does not round to the nearest.
+long long Megabytes(std::int64_t bytes) {
+  return (bytes + 512) / 1'048'576;
+}
+
+}  // namespace
+
+SystemWideInfo* gSystemWideInfo = nullptr;
+
+SystemWideInfo::SystemWideInfo(std::int32_t interval, SystemFiguresSource source)
+    : ProcessInformationClient(nullptr, interval),
+      mSource(std::move(source)),
+      mLastUpdate(TheMachine().clock.Now()) {
+  const auto bounds = RememberedPlace();
+  CreateWindow(&bounds, QStringLiteral("System Info"), 0, kWindowHideOnSuspendAttribute);
+  Window()->SetPainter([this](QPainter& painter) {
+    painter.fillRect(painter.viewport(), Qt::white);
+    painter.setPen(Qt::black);
+    auto font = painter.font();
+    font.setPixelSize(12);
+    painter.setFont(font);
+    painter.drawText(5, 15, mMemoryLine);
+    painter.drawText(15, 30, mUsageLine);
+    painter.drawText(30, 45, mPageoutsLine);
+  });
+}
+
+SystemWideInfo::~SystemWideInfo() {
+  if (gSystemWideInfo == this) gSystemWideInfo = nullptr;
+  if (Window() == nullptr) return;
+  const auto bounds = ContentBounds();
+  SetPrefInt(kLeftKey, bounds.left);
+  SetPrefInt(kTopKey, bounds.top);
+  SetPrefInt(kRightKey, bounds.right);
+  SetPrefInt(kBottomKey, bounds.bottom);
+}
+
+ProcessInformationClient::NeedLevel SystemWideInfo::NeedPidsForProcProperty(const char* property) {
+  return std::strcmp(property, "meta_active_time") == 0 ? kNeedSomePids : kNeedNoPids;
+}
+
+bool SystemWideInfo::NeedPidProcProperty(int pid, const char* property) {
+  return pid == 0 && std::strcmp(property, "meta_active_time") == 0;
+}
+
+ProcessInformationClient::NeedLevel SystemWideInfo::NeedProcPropertyForPid(int pid) {
+  return pid == 0 ? kNeedSomeProcProperties : kNeedNoProcProperties;
+}
+
+double SystemWideInfo::TakeUsage(int processors) {
+  const auto now = TheMachine().clock.Now();
+  const double elapsed =
+      std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdate, now)) / 1000.0);
+  mLastUpdate = now;
+  char text[64];
+  bool found = false;
+  if (!GetPIDPropertyValue(0, "meta_active_time", text, sizeof text, &found) || !found) {
+    std::puts("perhaps the permissions aren't set 'cuz I'm not seeing pid zero.");
+    return 0.0;
+  }
+  const auto idle = ReadTime(text);
+  if (mLastIdleTime.IsZero()) mLastIdleTime = idle;
+  const double delta = static_cast<double>(idle.seconds - mLastIdleTime.seconds) +
+                       (idle.microseconds - mLastIdleTime.microseconds) / 1e6;
+  mLastIdleTime = idle;
+  return 1.0 - delta / (elapsed * std::max(processors, 1));
+}
+
+void SystemWideInfo::NotifyProcessesHaveBeenUpdated() {
+  const auto figures = mSource();
+  const double usage = TakeUsage(figures.processors);
+  mMemoryLine = QString::asprintf("MB used: %lld/%lld   ",
+                                  Megabytes(figures.physicalBytes - figures.freeBytes),
+                                  Megabytes(figures.physicalBytes));
+  mUsageLine = QString::asprintf("cpu usage: %.2f  ", usage * 100.0);
+  mPageoutsLine = QString::asprintf("pageouts: %lld  ", static_cast<long long>(figures.pageouts));
+  if (Window() != nullptr) Window()->ContentWidget().update();
+}
+
+void CreateSystemWideInfo(long interval, SystemFiguresSource source) {
+  Require(gSystemWideInfo == nullptr, kSystemUnit, "gSystemWideInfo == NULL");
+  gSystemWideInfo = new SystemWideInfo(static_cast<std::int32_t>(interval), std::move(source));
+  AddProcessInformationClient(gSystemWideInfo);
+}
+
+void CleanupSystemWideInfo() {
+  if (gSystemWideInfo == nullptr) return;
+  RemoveProcessInformationClient(gSystemWideInfo);
+  delete gSystemWideInfo;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+
+#include "consolidator/ProcessInformationClient.h"
+#include "monitor_windows/ProcessInformationWindow.h"
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+/// Figures of the machine that the debugging window shows.
+struct SystemFigures {
+  std::int64_t physicalBytes = 0;
+  std::int64_t freeBytes = 0;
+  std::int64_t pageouts = 0;  ///< since the machine started
+  int processors = 1;
+};
+
+using SystemFiguresSource = std::function<SystemFigures()>;
+
+/// A small debugging window: memory in use, the CPU usage of the whole machine, pageouts. Main
+/// thread only.
+class SystemWideInfo final : public ProcessInformationClient, public ProcessInformationWindow {
+ public:
+  /// `interval` in milliseconds; the window comes up at its last place.
+  SystemWideInfo(std::int32_t interval, SystemFiguresSource source);
+  /// Keeps the window's place.
+  ~SystemWideInfo() override;
+
+  NeedLevel NeedPidsForProcProperty(const char* property) override;
+  bool NeedPidProcProperty(int pid, const char* property) override;
+  void NotifyProcessesHaveBeenUpdated() override;
+  /// Nobody calls it: the base class's answer for a process is the one that counts.
+  virtual NeedLevel NeedProcPropertyForPid(int pid);
+  const char* TypeName() const override { return "SystemWideInfo"; }
+
+  /// The three lines.
+  const QString& MemoryLine() const { return mMemoryLine; }
+  const QString& UsageLine() const { return mUsageLine; }
+  const QString& PageoutsLine() const { return mPageoutsLine; }
+
+ private:
+  /// From 1 for a busy machine downwards; below 0 when the idle time says so.
+  double TakeUsage(int processors);
+
+  SystemFiguresSource mSource;
+  TimeValue mLastUpdate;
+  TimeValue mLastIdleTime;
+  QString mMemoryLine;
+  QString mUsageLine;
+  QString mPageoutsLine;
+};
+
+/// The one instance, or null.
+extern SystemWideInfo* gSystemWideInfo;
+
+/// A second one is a fatal assertion.
+void CreateSystemWideInfo(long interval, SystemFiguresSource source);
+/// Does nothing when there is none.
+void CleanupSystemWideInfo();
+
+}  // namespace lurkwell

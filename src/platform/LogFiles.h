@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace lurkwell {
+
+/// A text file that grows by lines. Closed, and left where it is, with its object. Main thread.
+class LogFile {
+ public:
+  virtual ~LogFile() = default;
+
+  /// Where it was created.
+  virtual const std::string& Path() const = 0;
+
+  /// Appends a line and a newline; whole, or not at all. Empty when the file has it, else why not,
+  /// in the system's words. A failed call may be followed by others.
+  virtual std::string Append(std::string_view line) = 0;
+};
+
+/// Makes log files in the temporary folder. Main thread.
+class LogFiles {
+ public:
+  virtual ~LogFiles() = default;
+
+  struct Creation {
+    /// Null when there is a problem.
+    std::unique_ptr<LogFile> file;
+    /// Why not, in the system's words.
+    std::string problem;
+  };
+
+  /// A new, empty file whose name is `prefix` and something random. Never one that is there,
+  /// through a link or otherwise; nobody but the user may read it.
+  virtual Creation Create(std::string_view prefix) = 0;
+};
+
+}  // namespace lurkwell

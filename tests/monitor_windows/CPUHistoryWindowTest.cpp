@@ -1,0 +1,232 @@
+// CPU history windows over a simulated machine: what they measure, show, remember and survive.
+#include <QApplication>
+#include <QScreen>
+#include <QTest>
+
+#include "monitor_windows/CPUHistoryWindow.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "support/ConsolidatorTest.h"
+
+namespace lurkwell {
+namespace {
+
+using Client = CPUHistoryWindowInformationClient;
+
+/// Somebody always wants everybody's name, as the watchdog does.
+class CPUHistoryWindowTest : public ConsolidatorTest {
+ protected:
+  void Start() {
+    ConsolidatorTest::Start();
+    Add("watchdog", 50).Needs({"meta_name", "meta_kind"});
+    Turn(100);
+  }
+
+  /// A process with a window of its own, and the first point, which is always 0.
+  Client* Open(std::int32_t pid, const WindowRect* rect = nullptr) {
+    const auto uuid = Uuid::Fresh();
+    auto* client = new Client(&uuid, 1000, pid, rect != nullptr ? *rect : kBounds, mTracks);
+    AddProcessInformationClient(client);
+    Turn(1000);
+    return client;
+  }
+
+  void Turn(std::int64_t milliseconds = 1000) {
+    machine.runLoop.RunFor(milliseconds);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+  }
+
+  static std::string Percent(const Client* client) {
+    return client->CurrentPercentageWindow()->Text().toStdString();
+  }
+
+  static constexpr WindowRect kBounds{200, 150, 350, 220};
+  bool mTracks = false;
+};
+
+TEST_F(CPUHistoryWindowTest, AProcessWithKnownUseGivesTheValuesLabelsAndScale) {
+  auto& worker = machine.processTable.Birth(300, "worker");
+  worker.UseCPU(77'000);
+  Start();
+  auto* client = Open(300);
+  const auto last = [&] { return client->Graph().Values().back(); };
+  EXPECT_EQ(last(), 0.0) << "whatever it used before";
+  EXPECT_EQ(Percent(client), "\u00A00%");
+  worker.UseCPU(200);
+  Turn();
+  EXPECT_DOUBLE_EQ(last(), 0.1);
+  EXPECT_EQ(Percent(client), "10%");
+  EXPECT_EQ(client->Graph().ScalePercent(), 10);
+  worker.UseCPU(300);
+  Turn();
+  EXPECT_DOUBLE_EQ(last(), 0.2);
+  EXPECT_EQ(Percent(client), "20%");
+  EXPECT_EQ(client->HighWaterMarkWindow()->Text(), QLatin1String("10%"))
+      << "labels are drawn before the point";
+  EXPECT_EQ(client->CurrentPercentageWindow()->y(), 3);
+  Turn();
+  EXPECT_EQ(client->HighWaterMarkWindow()->Text(), QLatin1String("20%"));
+  EXPECT_EQ(Percent(client), "10%");
+  EXPECT_EQ(client->CurrentPercentageWindow()->y(), 29);
+  EXPECT_EQ(client->NameWindow()->Text(), QLatin1String("worker"));
+  EXPECT_EQ(client->NameWindow()->geometry().topLeft(), QPoint(1, 1));
+  EXPECT_DOUBLE_EQ(client->NameWindow()->Alpha(), 0.6);
+  EXPECT_DOUBLE_EQ(client->IconWindow()->Alpha(), 0.2);
+  EXPECT_DOUBLE_EQ(client->CurrentPercentageWindow()->Alpha(), 0.7);
+}
+
+TEST_F(CPUHistoryWindowTest, AnUpdateChangesTwoColumnsOfWhatIsSeenAndMovesTheRest) {
+  SetPrefInt("CPU_HISTORY_WINDOW_USE_RELATIVE", 0);
+  for (const char* alpha : {"NAME_ALPHA", "HIGHWATERMARK_ALPHA", "CURRENT_PERCENTAGE_ALPHA"})
+    SetPrefDouble((std::string("DEFAULT_CPU_HISTORY_") + alpha).c_str(), 0.0);
+  auto& worker = machine.processTable.Birth(300, "worker");
+  Start();
+  auto* client = Open(300);
+  const auto seen = [&] {
+    return client->Window()->ContentWidget().grab().toImage().convertToFormat(QImage::Format_RGB32);
+  };
+  for (int i = 0; i < 5; ++i) worker.UseCPU(900), Turn();
+  const auto before = seen();
+  EXPECT_EQ(before.size(), QSize(150, 70));
+  worker.UseCPU(100);
+  Turn();
+  const auto after = seen();
+  EXPECT_EQ(after.copy(0, 0, 148, 70), before.copy(1, 0, 148, 70));
+  const int y = client->Graph().ScaleToInteger(client->Graph().Values().back());
+  const QRgb line = QColor::fromRgba64(16384, 65535, 16384).rgb();
+  EXPECT_EQ(after.pixel(149, y), line);
+  EXPECT_EQ(after.pixel(149, y + 1), line);
+  EXPECT_EQ(after.pixel(149, y + 2), QColor::fromRgba64(0, 1024, 0).rgb());
+  EXPECT_EQ(after.pixel(0, 0), QColor::fromRgba64(0, 1024, 0).rgb());
+}
+
+TEST_F(CPUHistoryWindowTest, DescendantsComeAndGoWithoutJumps) {
+  auto& table = machine.processTable;
+  mTracks = true;
+  SetPrefDouble("CPU_HISTORY_WINDOW_DEFAULT_FILTER", 0.0);
+  SetPrefInt("CPU_HISTORY_WINDOW_TRACK_PROCESS_DESCENDANTS", 1);
+  auto& shell = table.Birth(300, "shell");
+  table.Birth(301, "make", 300).UseCPU(50'000);
+  table.Birth(302, "compiler", 301).UseCPU(60'000);
+  Start();
+  auto* client = Open(300);
+  Turn();
+  const auto turn = [&] {
+    Turn();
+    return client->Graph().Values().back();
+  };
+  EXPECT_DOUBLE_EQ(turn(), 0.0);
+  shell.UseCPU(100);
+  table.Find(301)->UseCPU(50);
+  table.Find(302)->UseCPU(250);
+  EXPECT_NEAR(turn(), 0.4, 1e-9);
+  EXPECT_NEAR(client->Graph().OwnValues().back(), 0.1, 1e-9);
+  table.Birth(303, "linker", 301).UseCPU(300);
+  EXPECT_NEAR(turn(), 0.0, 1e-9) << "nobody has asked for its figures yet";
+  EXPECT_NEAR(turn(), 0.3, 1e-9) << "a new one's time counts from its birth";
+  table.Death(302);
+  shell.UseCPU(200);
+  EXPECT_NEAR(turn(), 0.2, 1e-9) << "the minute it had used is not taken back";
+  // With make gone, the linker is somebody else's.
+  table.Death(301);
+  shell.UseCPU(150);
+  EXPECT_NEAR(turn(), 0.15, 1e-9);
+  EXPECT_NEAR(client->Graph().OwnValues().back(), 0.15, 1e-9);
+  EXPECT_FALSE(client->NeedPidProcProperty(303, "meta_active_time"));
+  EXPECT_TRUE(client->NeedPidProcProperty(300, "pid_parent_pid"));
+  EXPECT_FALSE(client->NeedPidProcProperty(300, "pid_vsz"));
+}
+
+TEST_F(CPUHistoryWindowTest, AnApplicationHasItsIconAndItsOpacity) {
+  machine.processTable.Birth(300, "editor");
+  machine.processManager.Launch({0, 9}, 300, "Editor");
+  machine.iconServices.SetColour({0, 9}, 0xFF3366CC);
+  Start();
+  auto* client = Open(300);
+  Turn();
+  EXPECT_EQ(client->NameWindow()->Text(), QLatin1String("Editor"));
+  EXPECT_DOUBLE_EQ(client->IconWindow()->Alpha(), 0.7);
+  EXPECT_EQ(client->IconWindow()->Picture().toImage().pixel(5, 5), 0xFF3366CCU);
+  EXPECT_EQ(client->IconWindow()->geometry(), QRect(4, 26, 40, 40));
+}
+
+TEST_F(CPUHistoryWindowTest, TheEndOfTheProcessKeepsTheRecordAndClosingForgetsIt) {
+  const char* const kind = kCPUHistoryWindowKind;
+  machine.processTable.Birth(300, "worker");
+  machine.processTable.Birth(301, "other");
+  Start();
+  CreateCPUHistoryWindow(250, 299, nullptr, nullptr);
+  EXPECT_EQ(GetPrefArrayCount(kind), 0) << "no such process";
+  CreateCPUHistoryWindow(250, 300, nullptr, nullptr);
+  CreateCPUHistoryWindow(250, 301, nullptr, nullptr);
+  Turn(500);
+  ASSERT_EQ(CountOpenCPUHistoryWindows(), 2);
+  ASSERT_EQ(GetPrefArrayCount(kind), 2);
+  char name[64];
+  GetPrefArrayString(kind, 1, "PROCESS_NAME", name, sizeof name, false, nullptr);
+  EXPECT_STREQ(name, "other");
+  EXPECT_EQ(GetPrefArrayInt(kind, 0, "WINDOW_RECT_LEFT", false, 0), 100);
+  EXPECT_EQ(GetPrefArrayInt(kind, 1, "WINDOW_RECT_BOTTOM", false, 0), 230);
+  for (auto* widget : QApplication::topLevelWidgets())
+    if (widget->windowTitle() == QLatin1String("300")) widget->move(widget->pos() + QPoint(5, 7));
+  machine.processTable.Death(300);
+  Turn(1000);
+  EXPECT_EQ(CountOpenCPUHistoryWindows(), 1);
+  EXPECT_EQ(GetPrefArrayInt(kind, 0, "WINDOW_RECT_LEFT", false, 0), 105);
+  EXPECT_EQ(GetPrefArrayInt(kind, 0, "WINDOW_RECT_BOTTOM", false, 0), 207);
+  for (auto* widget : QApplication::topLevelWidgets())
+    if (widget->windowTitle() == QLatin1String("301")) widget->close();
+  Turn(1000);
+  EXPECT_EQ(CountOpenCPUHistoryWindows(), 0);
+  ASSERT_EQ(GetPrefArrayCount(kind), 1);
+  GetPrefArrayString(kind, 0, "PROCESS_NAME", name, sizeof name, false, nullptr);
+  EXPECT_STREQ(name, "worker");
+}
+
+TEST_F(CPUHistoryWindowTest, ADamagedRecordStillGivesAWindowOnTheScreen) {
+  machine.processTable.Birth(300, "worker");
+  Start();
+  const auto uuid = Uuid::Fresh();
+  for (const WindowRect& rect :
+       {WindowRect{}, WindowRect{-2147483647, 5, 2147483647, 4}, WindowRect{9, 9, 9, 90}})
+    CreateCPUHistoryWindow(250, 300, &uuid, &rect);
+  const WindowRect farAway{900'000, -900'000, 900'200, -899'900};
+  CreateCPUHistoryWindow(250, 300, &uuid, &farAway);
+  Turn(500);
+  EXPECT_EQ(CountOpenCPUHistoryWindows(), 4);
+  int onScreen = 0;
+  for (auto* widget : QApplication::topLevelWidgets())
+    if (const auto* window = qobject_cast<FloatingWindow*>(widget))
+      onScreen += QGuiApplication::screenAt(window->ContentBounds().center()) != nullptr ? 1 : 0;
+  EXPECT_EQ(onScreen, 4);
+  EXPECT_EQ(GetPrefArrayCount(kCPUHistoryWindowKind), 0) << "a remembered one is not recorded anew";
+}
+
+TEST_F(CPUHistoryWindowTest, OpenWindowsFollowThePreferences) {
+  auto& worker = machine.processTable.Birth(300, "worker");
+  machine.processTable.Birth(301, "child", 300).UseCPU(90'000);
+  Start();
+  auto* client = Open(300);
+  worker.UseCPU(400), Turn();
+  EXPECT_EQ(client->Graph().ScalePercent(), 20);
+  SetPrefInt("CPU_HISTORY_WINDOW_USE_RELATIVE", 0);
+  SetPrefInt("CPU_HISTORY_WINDOW_TRACK_PROCESS_DESCENDANTS", 1);
+  SetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", 125);
+  SetPrefInt("DEFAULT_CPU_HISTORY_BACKGROUND_RGB_RED", 65535);
+  SetPrefInt("DEFAULT_CPU_HISTORY_HWM_RGB_BLUE", 0);
+  SetPrefDouble("DEFAULT_CPU_HISTORY_NAME_ALPHA", 0.9);
+  ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(
+      "CPUHistoryWindowInformationClient");
+  EXPECT_EQ(client->Interval(), 125);
+  EXPECT_EQ(client->Graph().ScalePercent(), 100);
+  EXPECT_EQ(client->Graph().Bitmap().Pixel(100, 5), 0xFFFF0400U) << "drawn again at once";
+  Turn(125);
+  EXPECT_DOUBLE_EQ(client->NameWindow()->Alpha(), 0.9);
+  EXPECT_EQ(client->HighWaterMarkWindow()->Text(), QLatin1String("100%"));
+  EXPECT_EQ(client->HighWaterMarkWindow()->TextColour().blue(), 0);
+  Turn(500);
+  EXPECT_LT(client->Graph().Values().back(), 0.1) << "what the child used before does not count";
+}
+
+}  // namespace
+}  // namespace lurkwell

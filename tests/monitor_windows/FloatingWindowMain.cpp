@@ -1,0 +1,13 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "resources/Resources.h"
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  lurkwell::InstallResources(*qApp);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,204 @@
+// Floating windows: where they go, what they hear, what a click does.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QTest>
+
+#include "main_window/FrontmostWindow.h"
+#include "monitor_windows/ProcessInformationWindow.h"
+#include "platform/simulated/SimulatedMachine.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kXKey[] = "DEFAULT_X_COOR_FOR_NEWLY_CREATED_WINDOWS";
+constexpr char kYKey[] = "DEFAULT_Y_COOR_FOR_NEWLY_CREATED_WINDOWS";
+
+class Recorder final : public ProcessInformationWindow {
+ public:
+  OSStatus NotifyUpdate() override { return Heard("update"); }
+  OSStatus NotifyDrawContent() override { return Heard("draw"); }
+  OSStatus NotifyActivated() override { return Heard("activated"); }
+  OSStatus NotifyDeactivated() override { return Heard("deactivated"); }
+  OSStatus NotifyGetClickActivation() override {
+    heard.Add("click");
+    return ProcessInformationWindow::NotifyGetClickActivation();
+  }
+  OSStatus NotifyShowing() override { return Heard("showing"); }
+  OSStatus NotifyHiding() override { return Heard("hiding"); }
+  OSStatus NotifyShown() override { return Heard("shown"); }
+  OSStatus NotifyHidden() override { return Heard("hidden"); }
+  OSStatus NotifyCollapsing() override { return Heard("collapsing"); }
+  OSStatus NotifyCollapsed() override { return Heard("collapsed"); }
+  OSStatus NotifyExpanding() override { return Heard("expanding"); }
+  OSStatus NotifyExpanded() override { return Heard("expanded"); }
+  OSStatus NotifyZoomed() override { return Heard("zoomed"); }
+  OSStatus NotifyBoundsChanging() override { return Heard("bounds changing"); }
+  OSStatus NotifyBoundsChanged() override { return Heard("bounds changed"); }
+  OSStatus NotifyResizeStarted() override { return Heard("resize started"); }
+  OSStatus NotifyResizeCompleted() override { return Heard("resize completed"); }
+  OSStatus NotifyDragStarted() override { return Heard("drag started"); }
+  OSStatus NotifyDragCompleted() override { return Heard("drag completed"); }
+  OSStatus NotifyClosed() override { return Heard("closed"); }
+  bool AdjustMinimumAndMaximumWindowSizes(Point& min, Point& max) override {
+    min = {20, 30};
+    max = {200, 300};
+    return adjusts;
+  }
+  void UglyHookCalledImmediatelyBeforeOverlayWindowIsCreated(QWidget&) override {
+    heard.Add("hook");
+  }
+
+  AccessLog heard;
+  bool adjusts = false;
+
+ private:
+  OSStatus Heard(const char* what) {
+    heard.Add(what);
+    return 1;
+  }
+};
+
+class FloatingWindowTest : public testing::Test {
+ protected:
+  void Open(Recorder& recorder) {
+    const WindowRect bounds{200, 150, 350, 220};
+    recorder.CreateWindow(&bounds, QStringLiteral("4711"),
+                          kWindowCloseBoxAttribute | kWindowSideTitlebarAttribute,
+                          kWindowHideOnSuspendAttribute);
+    QApplication::processEvents();
+  }
+
+  SimulatedMachine machine;
+  MachineInstallation installation{machine.services};
+};
+
+TEST_F(FloatingWindowTest, NewWindowsCascadeAndComeBackToTheCorner) {
+  const auto free = QGuiApplication::primaryScreen()->availableGeometry();
+  const auto locate = [](int width, int height) {
+    WindowRect r{7, 7, 7 + width, 7 + height};
+    LocateRectangleForNewWindow(&r);
+    return r;
+  };
+  EXPECT_EQ(locate(150, 70), (WindowRect{100, 130, 250, 200}));
+  EXPECT_EQ(locate(150, 70), (WindowRect{120, 160, 270, 230}));
+  SetPrefInt(kXKey, free.left() + free.width() - 150 - 20);
+  EXPECT_EQ(locate(150, 70).left, free.left() + free.width() - 150) << "it just fits";
+  SetPrefInt(kYKey, 190);
+  EXPECT_EQ(locate(150, 70), (WindowRect{free.left() + 20, 220, free.left() + 170, 290}));
+  EXPECT_EQ(GetPrefInt(kXKey, nullptr, false, 0), free.left() + 20);
+  SetPrefInt(kXKey, -2147483647);
+  SetPrefInt(kYKey, 2147483647);
+  EXPECT_EQ(locate(150, 70).left, free.left() + 20);
+  EXPECT_EQ(GetPrefInt(kYKey, nullptr, false, 0), free.top() + 20);
+  EXPECT_DEATH(locate(free.width(), 70),
+               "ProcessInformationWindow:[0-9]+: failed assertion `width "
+               "< \\(availableRect.right - availableRect.left\\)'");
+  EXPECT_DEATH(locate(10, -1), "failed assertion `r->bottom >= r->top'");
+  EXPECT_DEATH(LocateRectangleForNewWindow(nullptr), "failed assertion `r'");
+}
+
+TEST_F(FloatingWindowTest, EventsGoToTheirOperations) {
+  Recorder recorder;
+  std::string answers;
+  for (std::uint32_t kind = 0; kind < 100; ++kind) {
+    const auto status =
+        ProcessInformationWindow::ProcessInformationWindowHandler(kind, &recorder, nullptr);
+    const auto heard = recorder.heard.Take();
+    if (heard.empty() || kind == kEventWindowGetClickActivation) {
+      EXPECT_EQ(status, eventNotHandledErr) << kind;
+    }
+    if (!heard.empty()) answers += std::to_string(kind) + " " + heard;
+  }
+  EXPECT_EQ(answers,
+            "1 update\n2 draw\n5 activated\n6 deactivated\n7 click\n22 showing\n23 hiding\n"
+            "24 hidden\n26 bounds changing\n27 bounds changed\n28 resize started\n"
+            "29 resize completed\n30 drag started\n31 drag completed\n67 collapsed\n70 expanded\n"
+            "73 closed\n76 zoomed\n86 collapsing\n87 expanding\n");
+  ProcessInformationWindow::Point dims{1, 1};
+  const auto ask = [&](std::uint32_t kind) {
+    return ProcessInformationWindow::ProcessInformationWindowHandler(kind, &recorder, &dims);
+  };
+  EXPECT_EQ(ask(kEventWindowGetMinimumSize), eventNotHandledErr);
+  EXPECT_EQ(dims.vertical, 1);
+  recorder.adjusts = true;
+  EXPECT_EQ(ask(kEventWindowGetMinimumSize), noErr);
+  EXPECT_EQ(dims.vertical, 20);
+  EXPECT_EQ(ask(kEventWindowGetMaximumSize), noErr);
+  EXPECT_EQ(dims.horizontal, 300);
+  EXPECT_DEATH(ProcessInformationWindow::ProcessInformationWindowHandler(1, nullptr, nullptr),
+               "failed assertion `userData");
+}
+
+TEST_F(FloatingWindowTest, AWindowComesUpTranslucentAtItsPlaceWithoutTakingTheKeyboard) {
+  SetPrefDouble("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA", 0.5);
+  Recorder recorder;
+  Open(recorder);
+  EXPECT_EQ(recorder.heard.Take(), "hook\nbounds changed\nshowing\ndraw\nhidden\nactivated\n")
+      << "labels first, then the screen";
+  const auto& window = *recorder.Window();
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_NEAR(window.windowOpacity(), 0.5, 0.01);
+  EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+  EXPECT_EQ(recorder.ContentBounds(), (WindowRect{200, 150, 350, 220}));
+  EXPECT_EQ(window.windowTitle(), QLatin1String("4711"));
+}
+
+TEST_F(FloatingWindowTest, AClickBringsTheApplicationForwardAndItsMainWindowTheKeyboard) {
+  QWidget mainWindow;
+  mainWindow.setWindowTitle(QStringLiteral("Processes"));
+  WatchWindowOrder(mainWindow);
+  QWidget other;
+  WatchWindowOrder(other);
+  mainWindow.show();
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  machine.processManager.Launch({1, 2}, getpid(), "self");
+  Recorder recorder;
+  Open(recorder);
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  machine.log.Clear();
+  machine.runLoop.RunFor(60'000);
+  EXPECT_TRUE(other.isActiveWindow());
+  QTest::mouseClick(recorder.Window(), Qt::LeftButton, {}, QPoint(60, 30));
+  EXPECT_NE(recorder.heard.Take().find("click\n"), std::string::npos);
+  EXPECT_NE(machine.log.Take().find("SetFrontProcess"), std::string::npos);
+  EXPECT_TRUE(other.isActiveWindow()) << "not before the run loop comes round";
+  machine.runLoop.RunFor(1);
+  QApplication::processEvents();
+  EXPECT_TRUE(mainWindow.isActiveWindow());
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  machine.runLoop.RunFor(60'000);
+  EXPECT_TRUE(other.isActiveWindow()) << "once for a click";
+}
+
+TEST_F(FloatingWindowTest, ItIsDraggedAnywhereAndClosedByItsBox) {
+  Recorder recorder;
+  Open(recorder);
+  auto* window = recorder.Window();
+  recorder.heard.Clear();
+  const QPoint grip(60, 30);
+  QTest::mousePress(window, Qt::LeftButton, {}, grip);
+  QMouseEvent drag(QEvent::MouseMove, QPointF(80, 40), window->mapToGlobal(QPointF(80, 40)),
+                   Qt::NoButton, Qt::LeftButton, {});
+  QApplication::sendEvent(window, &drag);
+  QTest::mouseRelease(window, Qt::LeftButton, {}, grip);
+  EXPECT_EQ(recorder.heard.Take(), "click\ndrag started\nbounds changed\ndrag completed\n");
+  EXPECT_EQ(recorder.ContentBounds(), (WindowRect{220, 160, 370, 230}));
+  QTest::mousePress(window, Qt::LeftButton, {}, QPoint(6, 6));
+  QTest::mouseRelease(window, Qt::LeftButton, {}, QPoint(60, 30));
+  EXPECT_TRUE(window->isVisible()) << "let go outside the box";
+  QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(6, 6));
+  EXPECT_NE(recorder.heard.Take().find("closed\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace lurkwell
