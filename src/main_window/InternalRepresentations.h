@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 #include <unordered_map>
 
 #include "main_window/RowDictionary.h"
@@ -16,11 +14,7 @@ class InternalRepresentations {
   /// The values of one process, made when missing; they stay where they are until removed.
   RowValues& Of(std::int32_t pid) { return mByPid[pid]; }
 
-  /// One value; nothing when the process or the value is unknown.
-  const RowValue& Find(std::int32_t pid, KeyId key) const;
-
   void Remove(std::int32_t pid) { mByPid.erase(pid); }
-  std::size_t CountProcesses() const { return mByPid.size(); }
 
   /// Forgets every process for which `keep` is false.
   template <typename Predicate>
@@ -31,8 +25,5 @@ class InternalRepresentations {
  private:
   std::unordered_map<std::int32_t, RowValues> mByPid;
 };
-
-/// The name under which a value of a process is known: "000042_meta_active_time".
-std::string internalRepresentationKey(std::int32_t pid, std::string_view key);
 
 }  // namespace lurkwell

@@ -150,7 +150,7 @@ void MainMenus::BuildMenuBar() {
   window->addAction(Make("menu_window_show_main", other, [this] { mCommands.doShowMainWindow(); }));
   auto* help = AddMenu("menu_help");
   help->addAction(Make(
-      "menu_help_help", other, [this] { ShowHelp(); }, Qt::Key_F1));
+      "menu_help_help", other, [this] { doLurkwellHelp(); }, Qt::Key_F1));
 }
 
 void MainMenus::BuildSortMenu(QMenu& view) {
@@ -196,7 +196,7 @@ void MainMenus::ValidateAll() {
   mController.columnMenus().Validate();
 }
 
-void MainMenus::ShowHelp() {
+void MainMenus::doLurkwellHelp() {
   const auto page =
       TheMachine().bundle.Path() + "/Contents/Resources/Documentation/Documentation.html";
   const auto shown = QString::fromStdString(page);

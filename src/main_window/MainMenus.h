@@ -64,7 +64,7 @@ class MainMenus : public QObject {
   void BuildSortMenu(QMenu& view);
   QMenu* AddMenu(const char* id);
   void WatchMenu(QMenu& menu);
-  void ShowHelp();
+  void doLurkwellHelp();
 
   QMainWindow& mWindow;
   vqMainTableController& mController;

@@ -65,19 +65,11 @@ class RealMachineTest : public ConsolidatorTest {
   LinuxProcessTable processTable;
   LinuxHostStatistics hostStatistics;
   LinuxTools tools;
-  Machine real{machine.clock,
-               machine.runLoop,
-               machine.preferenceDomain,
-               processTable,
-               machine.processManager,
-               machine.iconServices,
-               hostStatistics,
-               tools,
-               machine.signals,
-               machine.namedPipes,
-               machine.authorization,
-               machine.bundle,
-               machine.alerts};
+  Machine real{
+      machine.clock,          machine.runLoop,      machine.preferenceDomain, processTable,
+      machine.processManager, machine.iconServices, hostStatistics,           tools,
+      machine.signals,        machine.namedPipes,   machine.authorization,    machine.bundle,
+      machine.alerts};
   MachineInstallation realInstallation{real};
 };
 

@@ -8,21 +8,13 @@
 #include <set>
 #include <utility>
 
+#include "platform/FireDate.h"
+
 namespace lurkwell {
 namespace {
 
-constexpr double kNever = std::numeric_limits<double>::infinity();
 // A wait does not notice that the machine was asleep; the next look at the clock does.
 constexpr double kLongestWait = 1.0;
-
-/// The first date after `now` in steps from `date`.
-double NextDate(double date, double interval, double now) {
-  if (!(interval > 0)) return kNever;
-  if (date + interval > now) return date + interval;
-  const double next = date + (std::floor((now - date) / interval) + 1) * interval;
-  // An interval too short for the clock to tell apart.
-  return next > now ? next : now + interval;
-}
 
 }  // namespace
 
@@ -55,7 +47,7 @@ class QtRunLoop::Timer final : public RunLoopTimer {
   ~Timer() override { mState->held.erase(this); }
 
   void SetNextFireDate(double absoluteSeconds) override {
-    mDate = std::isnan(absoluteSeconds) ? kNever : absoluteSeconds;
+    mDate = Orderable(absoluteSeconds);
     mDateWasSet = true;
     mState->held.erase(this);
     Wait();

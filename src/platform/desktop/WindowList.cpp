@@ -212,7 +212,8 @@ void WindowList::ReadPids(const std::vector<xcb_window_t>& windows) {
        xcb_res_client_id_value_next(&i)) {
     if (xcb_res_client_id_value_value_length(i.data) < 1) continue;
     const std::uint32_t pid = *xcb_res_client_id_value_value(i.data);
-    if (pid > 0 && pid <= INT32_MAX) pids[i.data->spec.client] = static_cast<std::int32_t>(pid);
+    const auto& [about, length] = *i.data;
+    if (pid > 0 && pid <= INT32_MAX) pids[about.client] = static_cast<std::int32_t>(pid);
   }
   for (const xcb_window_t id : windows) {
     const auto window = mWindows.find(id);

@@ -35,8 +35,9 @@ class LinuxMachine {
   PolkitAuthorization authorization{bundle};
   TerminalAlerts alerts;
 
-  Machine services{clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
-                   tools, signals, namedPipes,       authorization, bundle,         alerts};
+  Machine services{
+      clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
+      tools, signals, namedPipes,       authorization, bundle,         alerts};
 };
 
 }  // namespace lurkwell

@@ -8,25 +8,13 @@
 #include <limits>
 #include <vector>
 
+#include "platform/FireDate.h"
+
 namespace lurkwell {
 namespace {
 
-constexpr double kNever = std::numeric_limits<double>::infinity();
 // A wait does not notice that the machine was asleep; the next look at the clock does.
 constexpr double kLongestWait = 1.0;
-
-double Orderable(double date) {
-  return std::isnan(date) ? kNever : date;
-}
-
-/// The first date after `now` in steps from `date`.
-double NextDate(double date, double interval, double now) {
-  if (!(interval > 0)) return kNever;
-  if (date + interval > now) return date + interval;
-  const double next = date + (std::floor((now - date) / interval) + 1) * interval;
-  // An interval too short for the clock to tell apart.
-  return next > now ? next : now + interval;
-}
 
 }  // namespace
 

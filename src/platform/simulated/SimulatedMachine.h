@@ -38,8 +38,9 @@ class SimulatedMachine {
   SimulatedAlerts alerts{log};
   SimulatedHelper helper{processTable, log};
 
-  Machine services{clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
-                   tools, signals, namedPipes,       authorization, bundle,         alerts};
+  Machine services{
+      clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
+      tools, signals, namedPipes,       authorization, bundle,         alerts};
 };
 
 }  // namespace lurkwell

@@ -8,7 +8,8 @@
 
 namespace lurkwell {
 
-/// Figures of the machine that the engine assumes: every process maps 512 MiB of shared text and data.
+/// Figures of the machine that the engine assumes: every process maps 512 MiB of shared text and
+/// data.
 class SimulatedHostStatistics final : public HostStatistics {
  public:
   std::int64_t SharedTextAndDataSize() const override { return 0x20000000; }

@@ -1,20 +1,6 @@
-#include "main_window/InternalRepresentations.h"
-
-#include <cstdio>
+#include "main_window/RowDictionary.h"
 
 namespace lurkwell {
-
-const RowValue& InternalRepresentations::Find(std::int32_t pid, KeyId key) const {
-  static const RowValue kNothing;
-  const auto found = mByPid.find(pid);
-  return found == mByPid.end() ? kNothing : found->second.Get(key);
-}
-
-std::string internalRepresentationKey(std::int32_t pid, std::string_view key) {
-  char digits[16];
-  std::snprintf(digits, sizeof digits, "%06d_", pid);
-  return digits + std::string(key);
-}
 
 double NumberOf(const RowValue& value) {
   if (const auto* integer = std::get_if<std::int64_t>(&value)) return static_cast<double>(*integer);
