@@ -89,7 +89,9 @@ class RealMachine {
                     mPipes,
                     mRest.authorization,
                     mRest.bundle,
-                    mRest.alerts};
+                    mRest.alerts,
+                    mRest.logFiles,
+                    mRest.hotKeys};
   MachineInstallation mInstallation{mServices};
 };
 

@@ -44,7 +44,7 @@ class Store {
                    Absent<ProcessTable>(),   Absent<ProcessManager>(), Absent<IconServices>(),
                    Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
                    Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
-                   Absent<Alerts>()};
+                   Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>()};
   MachineInstallation mInstallation;
 };
 

@@ -41,10 +41,13 @@ class DesktopMachine {
   LinuxBundle bundle;
   PolkitAuthorization authorization{bundle, mConsent};
   DesktopAlerts alerts;
+  LinuxLogFiles logFiles;
+  NoHotKeys hotKeys;
 
-  Machine services{
-      clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
-      tools, signals, namedPipes,       authorization, bundle,         alerts};
+  Machine services{clock,          runLoop,      preferenceDomain, processTable,
+                   processManager, iconServices, hostStatistics,   tools,
+                   signals,        namedPipes,   authorization,    bundle,
+                   alerts,         logFiles,     hotKeys};
 };
 
 int RunInTerminal(const CommandLine& commandLine) {

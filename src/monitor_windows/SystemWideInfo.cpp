@@ -1,17 +1,10 @@
 #include "monitor_windows/SystemWideInfo.h"
 
 #include <QPainter>
-#include <algorithm>
-#include <cstdio>
 #include <cstring>
-#include <utility>
 
-#include "consolidator/PI_Consolidator.h"
-#include "main_window/PropertyText.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/Assertion.h"
-#include "platform/Clock.h"
-#include "platform/Machine.h"
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
@@ -42,10 +35,8 @@ long long Megabytes(std::int64_t bytes) {
 
 SystemWideInfo* gSystemWideInfo = nullptr;
 
-SystemWideInfo::SystemWideInfo(std::int32_t interval, SystemFiguresSource source)
-    : ProcessInformationClient(nullptr, interval),
-      mSource(std::move(source)),
-      mLastUpdate(TheMachine().clock.Now()) {
+SystemWideInfo::SystemWideInfo(std::int32_t interval)
+    : ProcessInformationClient(nullptr, interval) {
   const auto bounds = RememberedPlace();
   CreateWindow(&bounds, QStringLiteral("System Info"), 0, kWindowHideOnSuspendAttribute);
   Window()->SetPainter([this](QPainter& painter) {
@@ -82,39 +73,19 @@ ProcessInformationClient::NeedLevel SystemWideInfo::NeedProcPropertyForPid(int p
   return pid == 0 ? kNeedSomeProcProperties : kNeedNoProcProperties;
 }
 
-double SystemWideInfo::TakeUsage(int processors) {
-  const auto now = TheMachine().clock.Now();
-  const double elapsed =
-      std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdate, now)) / 1000.0);
-  mLastUpdate = now;
-  char text[64];
-  bool found = false;
-  if (!GetPIDPropertyValue(0, "meta_active_time", text, sizeof text, &found) || !found) {
-    std::puts("perhaps the permissions aren't set 'cuz I'm not seeing pid zero.");
-    return 0.0;
-  }
-  const auto idle = ReadTime(text);
-  if (mLastIdleTime.IsZero()) mLastIdleTime = idle;
-  const double delta = static_cast<double>(idle.seconds - mLastIdleTime.seconds) +
-                       (idle.microseconds - mLastIdleTime.microseconds) / 1e6;
-  mLastIdleTime = idle;
-  return 1.0 - delta / (elapsed * std::max(processors, 1));
-}
-
 void SystemWideInfo::NotifyProcessesHaveBeenUpdated() {
-  const auto figures = mSource();
-  const double usage = TakeUsage(figures.processors);
-  mMemoryLine = QString::asprintf("MB used: %lld/%lld   ",
-                                  Megabytes(figures.physicalBytes - figures.freeBytes),
+  const auto figures = ReadSystemFigures();
+  const double usage = mUsage.Take();
+  mMemoryLine = QString::asprintf("MB used: %lld/%lld   ", Megabytes(figures.usedBytes),
                                   Megabytes(figures.physicalBytes));
   mUsageLine = QString::asprintf("cpu usage: %.2f  ", usage * 100.0);
   mPageoutsLine = QString::asprintf("pageouts: %lld  ", static_cast<long long>(figures.pageouts));
   if (Window() != nullptr) Window()->ContentWidget().update();
 }
 
-void CreateSystemWideInfo(long interval, SystemFiguresSource source) {
+void CreateSystemWideInfo(long interval) {
   Require(gSystemWideInfo == nullptr, kSystemUnit, "gSystemWideInfo == NULL");
-  gSystemWideInfo = new SystemWideInfo(static_cast<std::int32_t>(interval), std::move(source));
+  gSystemWideInfo = new SystemWideInfo(static_cast<std::int32_t>(interval));
   AddProcessInformationClient(gSystemWideInfo);
 }
 

@@ -2,30 +2,19 @@
 
 #include <QString>
 #include <cstdint>
-#include <functional>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "main_window/SystemFigures.h"
 #include "monitor_windows/ProcessInformationWindow.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
-
-/// Figures of the machine that the debugging window shows.
-struct SystemFigures {
-  std::int64_t physicalBytes = 0;
-  std::int64_t freeBytes = 0;
-  std::int64_t pageouts = 0;  ///< since the machine started
-  int processors = 1;
-};
-
-using SystemFiguresSource = std::function<SystemFigures()>;
 
 /// A small debugging window: memory in use, the CPU usage of the whole machine, pageouts. Main
 /// thread only.
 class SystemWideInfo final : public ProcessInformationClient, public ProcessInformationWindow {
  public:
   /// `interval` in milliseconds; the window comes up at its last place.
-  SystemWideInfo(std::int32_t interval, SystemFiguresSource source);
+  explicit SystemWideInfo(std::int32_t interval);
   /// Keeps the window's place.
   ~SystemWideInfo() override;
 
@@ -42,12 +31,7 @@ class SystemWideInfo final : public ProcessInformationClient, public ProcessInfo
   const QString& PageoutsLine() const { return mPageoutsLine; }
 
  private:
-  /// From 1 for a busy machine downwards; below 0 when the idle time says so.
-  double TakeUsage(int processors);
-
-  SystemFiguresSource mSource;
-  TimeValue mLastUpdate;
-  TimeValue mLastIdleTime;
+  MachineUsage mUsage;
   QString mMemoryLine;
   QString mUsageLine;
   QString mPageoutsLine;
@@ -57,7 +41,7 @@ class SystemWideInfo final : public ProcessInformationClient, public ProcessInfo
 extern SystemWideInfo* gSystemWideInfo;
 
 /// A second one is a fatal assertion.
-void CreateSystemWideInfo(long interval, SystemFiguresSource source);
+void CreateSystemWideInfo(long interval);
 /// Does nothing when there is none.
 void CleanupSystemWideInfo();
 

@@ -7,7 +7,9 @@ class Authorization;
 class Bundle;
 class Clock;
 class HostStatistics;
+class HotKeys;
 class IconServices;
+class LogFiles;
 class NamedPipes;
 class PreferenceDomain;
 class ProcessManager;
@@ -32,6 +34,8 @@ struct Machine {
   Authorization& authorization;
   Bundle& bundle;
   Alerts& alerts;
+  LogFiles& logFiles;
+  HotKeys& hotKeys;
 };
 
 /// The installed machine. Any thread. It is a programming error to ask before one is installed.

@@ -14,8 +14,11 @@ TEST_F(SystemWideInfoTest, ShowsMemoryUsageAndPageoutsAndKeepsItsPlace) {
   auto& idle = *machine.processTable.Find(0);
   idle.UseCPU(600'000);
   Start();
-  SystemFigures figures{2'147'483'648, 1'073'741'824 + 513, 42, 1};
-  CreateSystemWideInfo(1000, [&] { return figures; });
+  auto& host = machine.hostStatistics;
+  host.physicalMemory = 2'147'483'648;
+  host.pageSize = 1;
+  host.virtualMemory = {.freePages = 1'073'741'824 + 513, .pageouts = 42};
+  CreateSystemWideInfo(1000);
   const auto& info = *gSystemWideInfo;
   machine.runLoop.RunFor(1000);
   EXPECT_EQ(info.MemoryLine(), QLatin1String("MB used: 1023/2048   "));
@@ -25,15 +28,22 @@ TEST_F(SystemWideInfoTest, ShowsMemoryUsageAndPageoutsAndKeepsItsPlace) {
   machine.runLoop.RunFor(1000);
   EXPECT_EQ(info.UsageLine(), QLatin1String("cpu usage: 75.00  "));
   idle.UseCPU(1500);
-  figures.processors = 2;
+  host.processors = 2;
   machine.runLoop.RunFor(1000);
   EXPECT_EQ(info.UsageLine(), QLatin1String("cpu usage: 25.00  "));
   idle.UseCPU(1500);
-  figures.processors = 1;
+  host.processors = 1;
   machine.runLoop.RunFor(1000);
   EXPECT_EQ(info.UsageLine(), QLatin1String("cpu usage: -50.00  ")) << "not bounded";
+  host.pageSize.reset();
+  host.virtualMemory.reset();
+  testing::internal::CaptureStdout();
+  machine.runLoop.RunFor(1000);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "didn't get pagesize so defaulting to 4K\nerror: failed to get stats\n");
+  EXPECT_EQ(info.MemoryLine(), QLatin1String("MB used: 2048/2048   "));
   EXPECT_EQ(info.ContentBounds(), (WindowRect{100, 300, 290, 350}));
-  EXPECT_DEATH(CreateSystemWideInfo(1000, nullptr),
+  EXPECT_DEATH(CreateSystemWideInfo(1000),
                "SystemWideInfo:[0-9]+: failed assertion `gSystemWideInfo == NULL'");
   info.Window()->move(150, 320);
   QApplication::processEvents();

@@ -81,7 +81,7 @@ class PreferenceMachine {
                  Absent<ProcessTable>(),   Absent<ProcessManager>(), Absent<IconServices>(),
                  Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
                  Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
-                 Absent<Alerts>()},
+                 Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>()},
         mInstallation(mMachine) {}
 
  private:

@@ -72,7 +72,9 @@ class RealMachine {
                    namedPipes,
                    authorization,
                    bundle,
-                   alerts};
+                   alerts,
+                   simulated.logFiles,
+                   simulated.hotKeys};
   MachineInstallation installation{services};
 };
 

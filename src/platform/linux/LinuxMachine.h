@@ -4,10 +4,12 @@
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxHostStatistics.h"
+#include "platform/linux/LinuxLogFiles.h"
 #include "platform/linux/LinuxNamedPipes.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxSignals.h"
 #include "platform/linux/LinuxTools.h"
+#include "platform/linux/NoHotKeys.h"
 #include "platform/linux/NoIconServices.h"
 #include "platform/linux/NoProcessManager.h"
 #include "platform/linux/PolkitAuthorization.h"
@@ -34,10 +36,13 @@ class LinuxMachine {
   LinuxBundle bundle;
   PolkitAuthorization authorization{bundle};
   TerminalAlerts alerts;
+  LinuxLogFiles logFiles;
+  NoHotKeys hotKeys;
 
-  Machine services{
-      clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
-      tools, signals, namedPipes,       authorization, bundle,         alerts};
+  Machine services{clock,          runLoop,      preferenceDomain, processTable,
+                   processManager, iconServices, hostStatistics,   tools,
+                   signals,        namedPipes,   authorization,    bundle,
+                   alerts,         logFiles,     hotKeys};
 };
 
 }  // namespace lurkwell

@@ -7,7 +7,9 @@
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedHelper.h"
+#include "platform/simulated/SimulatedHotKeys.h"
 #include "platform/simulated/SimulatedIconServices.h"
+#include "platform/simulated/SimulatedLogFiles.h"
 #include "platform/simulated/SimulatedNamedPipes.h"
 #include "platform/simulated/SimulatedPreferenceDomain.h"
 #include "platform/simulated/SimulatedProcessManager.h"
@@ -36,11 +38,14 @@ class SimulatedMachine {
   SimulatedAuthorization authorization{log};
   SimulatedBundle bundle;
   SimulatedAlerts alerts{log};
+  SimulatedLogFiles logFiles;
+  SimulatedHotKeys hotKeys{log};
   SimulatedHelper helper{processTable, log};
 
-  Machine services{
-      clock, runLoop, preferenceDomain, processTable,  processManager, iconServices, hostStatistics,
-      tools, signals, namedPipes,       authorization, bundle,         alerts};
+  Machine services{clock,          runLoop,      preferenceDomain, processTable,
+                   processManager, iconServices, hostStatistics,   tools,
+                   signals,        namedPipes,   authorization,    bundle,
+                   alerts,         logFiles,     hotKeys};
 };
 
 }  // namespace lurkwell

@@ -9,10 +9,23 @@
 namespace lurkwell {
 
 /// Figures of the machine that the engine assumes: every process maps 512 MiB of shared text and
-/// data.
+/// data. The others are the test's to set.
 class SimulatedHostStatistics final : public HostStatistics {
  public:
   std::int64_t SharedTextAndDataSize() const override { return 0x20000000; }
+  std::optional<std::int64_t> PageSize() const override { return pageSize; }
+  bool ReadVirtualMemory(VirtualMemoryStatistics& statistics) const override {
+    if (virtualMemory) statistics = *virtualMemory;
+    return virtualMemory.has_value();
+  }
+  std::int64_t PhysicalMemory() const override { return physicalMemory; }
+  int Processors() const override { return processors; }
+
+  std::optional<std::int64_t> pageSize = 4096;
+  std::optional<VirtualMemoryStatistics> virtualMemory =
+      VirtualMemoryStatistics{131'072, 65'536, 32'768, 0};
+  std::int64_t physicalMemory = 1'073'741'824;
+  int processors = 1;
 };
 
 /// Signals are recorded, never sent.

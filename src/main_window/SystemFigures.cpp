@@ -1,0 +1,54 @@
+#include "main_window/SystemFigures.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/PropertyText.h"
+#include "platform/Clock.h"
+#include "platform/HostStatistics.h"
+#include "platform/Machine.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr std::int64_t kUsualPageSize = 4096;
+
+}  // namespace
+
+SystemFigures ReadSystemFigures() {
+  const auto& host = TheMachine().hostStatistics;
+  const auto pageSize = host.PageSize();
+  if (!pageSize) std::puts("didn't get pagesize so defaulting to 4K");
+  VirtualMemoryStatistics memory;
+  if (!host.ReadVirtualMemory(memory)) std::puts("error: failed to get stats");
+  const auto bytes = [size = pageSize.value_or(kUsualPageSize)](std::int64_t pages) {
+    return pages * size;
+  };
+  const auto physical = host.PhysicalMemory();
+  return {physical, physical - bytes(memory.freePages), bytes(memory.wiredPages),
+          bytes(memory.inactivePages), memory.pageouts};
+}
+
+MachineUsage::MachineUsage() : mLastUpdate(TheMachine().clock.Now()) {}
+
+double MachineUsage::Take() {
+  const auto now = TheMachine().clock.Now();
+  const double elapsed =
+      std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdate, now)) / 1000.0);
+  mLastUpdate = now;
+  char text[64];
+  bool found = false;
+  if (!GetPIDPropertyValue(0, "meta_active_time", text, sizeof text, &found) || !found) {
+    std::puts("perhaps the permissions aren't set 'cuz I'm not seeing pid zero.");
+    return 0.0;
+  }
+  const auto idle = ReadTime(text);
+  if (mLastIdleTime.IsZero()) mLastIdleTime = idle;
+  const double delta = static_cast<double>(idle.seconds - mLastIdleTime.seconds) +
+                       (idle.microseconds - mLastIdleTime.microseconds) / 1e6;
+  mLastIdleTime = idle;
+  return 1.0 - delta / (elapsed * TheMachine().hostStatistics.Processors());
+}
+
+}  // namespace lurkwell
