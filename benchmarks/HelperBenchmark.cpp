@@ -91,7 +91,9 @@ class RealMachine {
                     mRest.bundle,
                     mRest.alerts,
                     mRest.logFiles,
-                    mRest.hotKeys};
+                    mRest.hotKeys,
+                    mRest.screen,
+                    mRest.eventBus};
   MachineInstallation mInstallation{mServices};
 };
 

@@ -44,7 +44,8 @@ class Store {
                    Absent<ProcessTable>(),   Absent<ProcessManager>(), Absent<IconServices>(),
                    Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
                    Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
-                   Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>()};
+                   Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>(),
+                   Absent<Screen>(),         Absent<EventBus>()};
   MachineInstallation mInstallation;
 };
 

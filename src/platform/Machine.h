@@ -6,6 +6,7 @@ class Alerts;
 class Authorization;
 class Bundle;
 class Clock;
+class EventBus;
 class HostStatistics;
 class HotKeys;
 class IconServices;
@@ -15,6 +16,7 @@ class PreferenceDomain;
 class ProcessManager;
 class ProcessTable;
 class RunLoop;
+class Screen;
 class Signals;
 class Tools;
 
@@ -36,6 +38,8 @@ struct Machine {
   Alerts& alerts;
   LogFiles& logFiles;
   HotKeys& hotKeys;
+  Screen& screen;
+  EventBus& eventBus;
 };
 
 /// The installed machine. Any thread. It is a programming error to ask before one is installed.

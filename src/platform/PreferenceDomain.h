@@ -32,7 +32,10 @@ class PreferenceDomain {
   /// Sets the value under `key`. Value() shows it at once; Synchronize brings it to disk.
   virtual void SetValue(std::string_view key, PreferenceValue value) = 0;
 
-  /// Brings what was set since the last call to disk, durably, and takes in what another running
+  /// Forgets the value under `key`, as if it had never been set. Synchronize brings that to disk.
+  virtual void RemoveValue(std::string_view key) = 0;
+
+  /// Brings what was set or removed since the last call to disk, durably, and takes in what another running
   /// instance has written meanwhile. True when the disk now has it. Waits for another instance's
   /// lock for at most a second.
   virtual bool Synchronize() = 0;

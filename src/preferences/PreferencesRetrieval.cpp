@@ -4,15 +4,15 @@
 
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/PreferenceConversion.h"
 
 namespace lurkwell {
 namespace {
 
 void Store(const char* prefKey, PreferenceValue value) {
-  PreferenceDomain& domain = TheMachine().preferenceDomain;
-  domain.SetValue(PreferenceKey(prefKey).Text(), std::move(value));
-  domain.Synchronize();
+  TheMachine().preferenceDomain.SetValue(PreferenceKey(prefKey).Text(), std::move(value));
+  PreferenceBatch::Synchronize();
 }
 
 // The value under the key, after storing the default where that is wanted and needed.
@@ -49,6 +49,12 @@ void SetPrefInt(const char* prefKey, std::int32_t prefValue) {
 void SetPrefDouble(const char* prefKey, double prefValue) {
   Require(prefKey != nullptr, kPreferencesUnit, "prefKey != NULL");
   Store(prefKey, prefValue);
+}
+
+void RemovePref(const char* prefKey) {
+  Require(prefKey != nullptr, kPreferencesUnit, "prefKey != NULL");
+  TheMachine().preferenceDomain.RemoveValue(PreferenceKey(prefKey).Text());
+  PreferenceBatch::Synchronize();
 }
 
 std::int32_t GetPrefInt(const char* prefKey, std::uint8_t* found, bool writeDefault,

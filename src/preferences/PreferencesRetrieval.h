@@ -12,7 +12,8 @@
 ///
 /// Main thread only; a read-change-write of an array is not atomic between two running instances.
 /// Callers own the buffers they pass; nothing else changes hands. Every write is on disk before it
-/// returns, or counts for this run when the disk refuses (see PreferenceDomain). Reading a scalar
+/// returns (or before the PreferenceBatch around it ends), or counts for this run when the disk
+/// refuses (see PreferenceDomain). Reading a scalar
 /// neither allocates nor touches the disk, so it may be done in every update cycle.
 ///
 /// No call returns an error. A broken precondition is a fatal assertion of the unit
@@ -41,6 +42,9 @@ double GetPrefDouble(const char* prefKey, std::uint8_t* found, bool writeDefault
 /// one does.
 void GetPrefString(const char* prefKey, char* buffer, std::int32_t bufferSize, std::uint8_t* found,
                    bool writeDefault, const char* defaultValue);
+
+/// Removes whatever is stored under the key, so that its next reader meets it absent.
+void RemovePref(const char* prefKey);
 
 // ---- Arrays of dictionaries.
 

@@ -2,6 +2,7 @@
 
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/PreferenceConversion.h"
 #include "preferences/PreferencesRetrieval.h"
 
@@ -20,7 +21,7 @@ const PreferenceArray* StoredArray(const char* arrayKey) {
 
 void Store(const char* arrayKey, PreferenceValue array) {
   Domain().SetValue(PreferenceKey(arrayKey).Text(), std::move(array));
-  Domain().Synchronize();
+  PreferenceBatch::Synchronize();
 }
 
 // The element, null when there is none.

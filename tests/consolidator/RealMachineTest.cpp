@@ -69,7 +69,8 @@ class RealMachineTest : public ConsolidatorTest {
       machine.clock,          machine.runLoop,      machine.preferenceDomain, processTable,
       machine.processManager, machine.iconServices, hostStatistics,           tools,
       machine.signals,        machine.namedPipes,   machine.authorization,    machine.bundle,
-      machine.alerts,         machine.logFiles,     machine.hotKeys};
+      machine.alerts,         machine.logFiles,     machine.hotKeys,          machine.screen,
+      machine.eventBus};
   MachineInstallation realInstallation{real};
 };
 

@@ -7,23 +7,12 @@
 #include <string>
 
 #include "desktop/MadeUpProcesses.h"
+#include "desktop/TestBus.h"
 #include "platform/desktop/DesktopProcessManager.h"
 #include "support/ChildProgram.h"
 
 namespace lurkwell {
 namespace {
-
-/// A session bus of this test's own.
-class TestBus {
- public:
-  const std::string& Address() const { return mAddress; }
-  void End() { mDaemon.End(); }
-
- private:
-  ChildProgram mDaemon{
-      {"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1"}};
-  std::string mAddress = mDaemon.ReadLine();
-};
 
 /// Writes down what it is asked to show, and answers nobody.
 class FakeFileManager final : public QDBusVirtualObject {

@@ -81,7 +81,8 @@ class PreferenceMachine {
                  Absent<ProcessTable>(),   Absent<ProcessManager>(), Absent<IconServices>(),
                  Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
                  Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
-                 Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>()},
+                 Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>(),
+                 Absent<Screen>(),         Absent<EventBus>()},
         mInstallation(mMachine) {}
 
  private:

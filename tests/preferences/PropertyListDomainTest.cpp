@@ -53,6 +53,32 @@ TEST(PropertyListDomain, EveryKindOfValueComesBackFromDisk) {
   EXPECT_EQ(ModeOf(folder.Path() / "a"), fs::perms::owner_all);
 }
 
+TEST(PropertyListDomain, WhatIsRemovedIsGoneOnDiskWhateverAnotherInstanceStoresBesideIt) {
+  const TemporaryFolder folder;
+  PropertyListDomain one(folder.Path());
+  one.SetValue("KEPT", std::int64_t{1});
+  one.SetValue("REMOVED", std::int64_t{2});
+  EXPECT_TRUE(one.Synchronize());
+  PropertyListDomain other(folder.Path());
+  other.SetValue("REMOVED", std::int64_t{3});
+  other.SetValue("OTHER", std::int64_t{4});
+  EXPECT_TRUE(other.Synchronize());
+  one.RemoveValue("REMOVED");
+  one.RemoveValue("NEVER_THERE");
+  EXPECT_EQ(one.Value("REMOVED"), nullptr);
+  EXPECT_TRUE(one.Synchronize());
+  for (auto* domain : {&one, &other}) {
+    EXPECT_TRUE(domain->Synchronize());
+    EXPECT_EQ(domain->Value("REMOVED"), nullptr);
+    ASSERT_NE(domain->Value("OTHER"), nullptr);
+    ASSERT_NE(domain->Value("KEPT"), nullptr);
+  }
+  // And it may come back.
+  one.SetValue("REMOVED", std::int64_t{5});
+  EXPECT_TRUE(one.Synchronize());
+  EXPECT_NE(PropertyListDomain(folder.Path()).Value("REMOVED"), nullptr);
+}
+
 TEST(PropertyListDomain, NumbersDoNotDependOnTheUsersLanguage) {
   const TemporaryFolder folder;
   const std::string compile =

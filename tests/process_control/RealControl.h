@@ -74,7 +74,9 @@ class RealMachine {
                    bundle,
                    alerts,
                    simulated.logFiles,
-                   simulated.hotKeys};
+                   simulated.hotKeys,
+                   simulated.screen,
+                   simulated.eventBus};
   MachineInstallation installation{services};
 };
 

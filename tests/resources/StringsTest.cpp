@@ -51,7 +51,8 @@ class RealColumnsTest : public ConsolidatorTest {
       machine.clock,          machine.runLoop,      machine.preferenceDomain, machine.processTable,
       machine.processManager, machine.iconServices, machine.hostStatistics,   tools,
       machine.signals,        machine.namedPipes,   machine.authorization,    machine.bundle,
-      machine.alerts,         machine.logFiles,     machine.hotKeys};
+      machine.alerts,         machine.logFiles,     machine.hotKeys,          machine.screen,
+      machine.eventBus};
   MachineInstallation realInstallation{real};
 };
 

@@ -38,7 +38,8 @@ std::vector<std::string> ApplicationFolders() {
 }
 
 std::string SessionBusAddress() {
-  if (auto address = Variable("DBUS_SESSION_BUS_ADDRESS"); !address.empty()) return address;
+  if (auto address = Variable("DBUS_SESSION_BUS_ADDRESS"); !address.empty())
+    return address == "disabled:" ? "" : address;
   const std::string runtime = Variable("XDG_RUNTIME_DIR");
   std::error_code none;
   if (runtime.empty() || !std::filesystem::exists(runtime + "/bus", none)) return {};

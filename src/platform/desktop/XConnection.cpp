@@ -159,6 +159,10 @@ void XConnection::ReadEvents() {
       xcb_destroy_notify_event_t end;
       std::memcpy(&end, event.get(), sizeof end);
       mChanges.push_back({end.window, XCB_ATOM_NONE});
+    } else if (mKeepsKeyEvents && type == XCB_KEY_PRESS) {
+      std::memcpy(&mKeyEvents.presses.emplace_back(), event.get(), sizeof(xcb_key_press_event_t));
+    } else if (type == XCB_MAPPING_NOTIFY) {
+      mKeyEvents.mappingChanged = true;
     }
   }
   if (xcb_connection_has_error(mConnection) != 0) mLost = true;
@@ -180,6 +184,11 @@ void XConnection::Watch(xcb_window_t window) const {
 std::vector<XChange> XConnection::TakeChanges() {
   if (!mLost) ReadEvents();
   return std::exchange(mChanges, {});
+}
+
+XKeyEvents XConnection::TakeKeyEvents() {
+  if (!mLost) ReadEvents();
+  return std::exchange(mKeyEvents, {});
 }
 
 xcb_timestamp_t XConnection::ServerTime() {

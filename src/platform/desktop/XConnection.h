@@ -51,6 +51,12 @@ struct XChange {
   xcb_atom_t property = 0;
 };
 
+/// What has come from the keyboard.
+struct XKeyEvents {
+  std::vector<xcb_key_press_event_t> presses;
+  bool mappingChanged = false;
+};
+
 /// A connection of its own to the X server. Every wait has a bound: a server that does not answer
 /// within it counts as lost, for good, and every later question is answered with nothing. Any one
 /// thread at a time.
@@ -93,6 +99,10 @@ class XConnection {
   /// Everything that has been told since the last call, without waiting.
   std::vector<XChange> TakeChanges();
 
+  /// Key presses are kept from now on until they are taken; without it they are dropped.
+  void KeepKeyEvents() { mKeepsKeyEvents = true; }
+  XKeyEvents TakeKeyEvents();
+
   /// The server's time, by one question; 0 when it is lost.
   xcb_timestamp_t ServerTime();
 
@@ -119,6 +129,8 @@ class XConnection {
   xcb_timestamp_t mLastTime = 0;
   std::array<xcb_atom_t, static_cast<std::size_t>(XAtom::kCount)> mAtoms{};
   std::vector<XChange> mChanges;
+  bool mKeepsKeyEvents = false;
+  XKeyEvents mKeyEvents;
 };
 
 /// The bytes of a property of 8-bit units, or as many as came.

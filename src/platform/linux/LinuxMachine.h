@@ -9,9 +9,11 @@
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxSignals.h"
 #include "platform/linux/LinuxTools.h"
+#include "platform/linux/NoEventBus.h"
 #include "platform/linux/NoHotKeys.h"
 #include "platform/linux/NoIconServices.h"
 #include "platform/linux/NoProcessManager.h"
+#include "platform/linux/NoScreen.h"
 #include "platform/linux/PolkitAuthorization.h"
 #include "platform/linux/PollRunLoop.h"
 #include "platform/linux/PropertyListDomain.h"
@@ -38,11 +40,13 @@ class LinuxMachine {
   TerminalAlerts alerts;
   LinuxLogFiles logFiles;
   NoHotKeys hotKeys;
+  NoScreen screen;
+  NoEventBus eventBus;
 
-  Machine services{clock,          runLoop,      preferenceDomain, processTable,
-                   processManager, iconServices, hostStatistics,   tools,
-                   signals,        namedPipes,   authorization,    bundle,
-                   alerts,         logFiles,     hotKeys};
+  Machine services{
+      clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
+      hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
+      alerts,         logFiles, hotKeys,          screen,       eventBus};
 };
 
 }  // namespace lurkwell

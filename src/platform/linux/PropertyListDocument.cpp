@@ -238,4 +238,10 @@ void PropertyListDocument::Set(const std::string& key, const PreferenceValue& va
   plist_dict_set_item(mRoot, key.c_str(), node);
 }
 
+bool PropertyListDocument::Remove(const std::string& key) {
+  if (plist_dict_get_item(mRoot, key.c_str()) == nullptr) return false;
+  plist_dict_remove_item(mRoot, key.c_str());
+  return true;
+}
+
 }  // namespace lurkwell

@@ -49,6 +49,9 @@ class PropertyListDocument {
   /// when elements before them were removed or behind them appended.
   void Set(const std::string& key, const PreferenceValue& value);
 
+  /// Removes a value, of whatever kind; false when there was none.
+  bool Remove(const std::string& key);
+
  private:
   explicit PropertyListDocument(void* root) : mRoot(root) {}
 

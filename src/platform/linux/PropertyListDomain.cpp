@@ -64,6 +64,12 @@ void PropertyListDomain::SetValue(std::string_view key, PreferenceValue value) {
   mPending.emplace(key);
 }
 
+void PropertyListDomain::RemoveValue(std::string_view key) {
+  const auto at = mValues.find(key);
+  if (at != mValues.end()) mValues.erase(at);
+  mPending.emplace(key);
+}
+
 bool PropertyListDomain::Synchronize() {
   if (!mHasFolder) {
     Complain("the preferences cannot be saved", {"looking for the home folder", ENOENT});
@@ -149,7 +155,10 @@ bool PropertyListDomain::SetAside() {
 
 void PropertyListDomain::Adopt(PropertyListDocument document) {
   PreferenceValues values = document.Values();
-  for (const std::string& key : mPending) values[key] = std::move(mValues[key]);
+  for (const std::string& key : mPending) {
+    values.erase(key);
+    if (auto mine = mValues.extract(key)) values.insert(std::move(mine));
+  }
   mDocument = std::move(document);
   mValues = std::move(values);
   mIsDocumentAhead = false;
@@ -158,9 +167,13 @@ void PropertyListDomain::Adopt(PropertyListDocument document) {
 // True when there is something to write.
 bool PropertyListDomain::BringChangesIntoDocument() {
   for (const std::string& key : mPending) {
-    const PreferenceValue& value = mValues[key];
-    if (mDocument.Value(key) == value) continue;
-    mDocument.Set(key, value);
+    const auto at = mValues.find(key);
+    if (at == mValues.end()) {
+      if (mDocument.Remove(key)) mIsDocumentAhead = true;
+      continue;
+    }
+    if (mDocument.Value(key) == at->second) continue;
+    mDocument.Set(key, at->second);
     mIsDocumentAhead = true;
   }
   if (!mIsDocumentAhead) mPending.clear();

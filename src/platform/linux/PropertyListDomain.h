@@ -35,6 +35,7 @@ class PropertyListDomain final : public PreferenceDomain {
 
   const PreferenceValue* Value(std::string_view key) override;
   void SetValue(std::string_view key, PreferenceValue value) override;
+  void RemoveValue(std::string_view key) override;
   bool Synchronize() override;
 
  private:
@@ -53,7 +54,7 @@ class PropertyListDomain final : public PreferenceDomain {
   bool mHasFolder;
   PropertyListDocument mDocument;
   PreferenceValues mValues;
-  // Set since the last write that succeeded; mValues has what they are.
+  // Set or removed since the last write that succeeded; mValues has what they are.
   std::set<std::string, std::less<>> mPending;
   // The document holds what the disk does not.
   bool mIsDocumentAhead = false;

@@ -6,6 +6,7 @@
 #include "platform/simulated/SimulatedAuthorization.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedClock.h"
+#include "platform/simulated/SimulatedEventBus.h"
 #include "platform/simulated/SimulatedHelper.h"
 #include "platform/simulated/SimulatedHotKeys.h"
 #include "platform/simulated/SimulatedIconServices.h"
@@ -15,6 +16,7 @@
 #include "platform/simulated/SimulatedProcessManager.h"
 #include "platform/simulated/SimulatedProcessTable.h"
 #include "platform/simulated/SimulatedRunLoop.h"
+#include "platform/simulated/SimulatedScreen.h"
 #include "platform/simulated/SimulatedServices.h"
 #include "platform/simulated/SimulatedTools.h"
 
@@ -40,12 +42,14 @@ class SimulatedMachine {
   SimulatedAlerts alerts{log};
   SimulatedLogFiles logFiles;
   SimulatedHotKeys hotKeys{log};
+  SimulatedScreen screen{log};
+  SimulatedEventBus eventBus{log};
   SimulatedHelper helper{processTable, log};
 
-  Machine services{clock,          runLoop,      preferenceDomain, processTable,
-                   processManager, iconServices, hostStatistics,   tools,
-                   signals,        namedPipes,   authorization,    bundle,
-                   alerts,         logFiles,     hotKeys};
+  Machine services{
+      clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
+      hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
+      alerts,         logFiles, hotKeys,          screen,       eventBus};
 };
 
 }  // namespace lurkwell

@@ -24,6 +24,13 @@ class SimulatedPreferenceDomain final : public PreferenceDomain {
     ++mUnsynchronized;
   }
 
+  void RemoveValue(std::string_view key) override {
+    const auto at = mValues.find(key);
+    if (at == mValues.end()) return;
+    mValues.erase(at);
+    ++mUnsynchronized;
+  }
+
   bool Synchronize() override {
     ++mSynchronizeCount;
     if (mRefusesToSynchronize) return false;

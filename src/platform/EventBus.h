@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/ProcessIdentity.h"
+#include "platform/ProcessManager.h"
+
+namespace lurkwell {
+
+/// One value of an event; its alternative says its type: 'long', 'psn ' or, for bytes, '****'.
+using EventValue = std::variant<std::int32_t, ProcessSerialNumber, std::vector<std::byte>>;
+
+struct EventParameter {
+  FourCharCode keyword{};
+  EventValue value;
+};
+
+/// What one program tells another.
+struct Event {
+  FourCharCode eventClass{};
+  FourCharCode id{};
+  std::vector<EventParameter> parameters;
+  /// Of a received event: the way back to its sender, an address of its own.
+  std::string sender;
+
+  /// The value of that keyword if there is one of that type, else null.
+  template <typename T>
+  const T* Find(FourCharCode keyword) const {
+    for (const auto& parameter : parameters)
+      if (parameter.keyword == keyword) return std::get_if<T>(&parameter.value);
+    return nullptr;
+  }
+};
+
+/// Where an event goes: to the program with that signature, to the application with that serial
+/// number, or to the sender of an earlier event.
+using EventAddress = std::variant<FourCharCode, ProcessSerialNumber, std::string>;
+
+/// Events between the programs of one user. Nothing is waited for and nothing is answered. Main
+/// thread only.
+class EventBus {
+ public:
+  enum Status : int {
+    kNoError = 0,
+    kNoSuchProcess = -600,
+    kNoSuchParameter = -1701,
+    kCannotBeSent = -609,  ///< the event is too large, or the bus has gone
+  };
+
+  using Handler = std::function<void(const Event&)>;
+
+  virtual ~EventBus() = default;
+
+  /// kNoError means that the event is on its way, not that anybody has read it.
+  virtual Status Send(const EventAddress& address, const Event& event) = 0;
+
+  /// Calls `handler` for every event of that class and id from now on, instead of an earlier one.
+  /// Events without a handler are dropped, as are those of other users and those that are too many
+  /// or too large.
+  virtual void InstallEventHandler(FourCharCode eventClass, FourCharCode id, Handler handler) = 0;
+
+  /// How a program that is started from here finds the bus; "" without one.
+  virtual std::string Address() const = 0;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,180 @@
+#include "platform/desktop/DesktopScreen.h"
+
+#include <QGuiApplication>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace lurkwell {
+namespace {
+
+constexpr std::uint32_t kMostWords = 1U << 16;
+constexpr std::uint32_t kEveryDesktop = 0xffffffff;
+constexpr std::uint32_t kAddState = 1;
+constexpr int kOpaqueDepth = 24;
+
+/// Whether the renderer, by its name, is a program on the machine's processor.
+bool IsSoftware(std::string_view renderer) {
+  constexpr std::string_view kNames[] = {"llvmpipe", "softpipe", "swrast", "Software",
+                                         "SwiftShader"};
+  return renderer.empty() || std::ranges::any_of(kNames, [&](std::string_view name) {
+           return renderer.find(name) != std::string_view::npos;
+         });
+}
+
+std::string RendererName() {
+  QOpenGLContext context;
+  if (!context.create()) return {};
+  QOffscreenSurface surface;
+  surface.setFormat(context.format());
+  surface.create();
+  if (!context.makeCurrent(&surface)) return {};
+  const auto* name = context.functions()->glGetString(GL_RENDERER);
+  const std::string text = name != nullptr ? reinterpret_cast<const char*>(name) : "";
+  context.doneCurrent();
+  return text;
+}
+
+}  // namespace
+
+DesktopScreen::DesktopScreen(DesktopSettings settings)
+    : mSettings(std::move(settings)),
+      mIsOnWayland(QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {}
+
+DesktopScreen::~DesktopScreen() = default;
+
+bool DesktopScreen::UsesOpenGLAcceleration() {
+  if (mAccelerated < 0) mAccelerated = IsSoftware(RendererName()) ? 0 : 1;
+  return mAccelerated == 1;
+}
+
+XConnection* DesktopScreen::Server() {
+  if (!std::exchange(mHasTried, true) && !mIsOnWayland && !mSettings.display.empty())
+    mConnection = XConnection::Open(mSettings.display);
+  if (mConnection != nullptr && mConnection->IsLost()) mConnection.reset();
+  return mConnection.get();
+}
+
+xcb_atom_t DesktopScreen::AtomNamed(const std::string& name) {
+  const auto reply = mConnection->Wait<xcb_intern_atom_reply_t>(
+      xcb_intern_atom_unchecked(mConnection->Raw(), 0, static_cast<std::uint16_t>(name.size()),
+                                name.data()),
+      XConnection::BatchDeadline());
+  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+bool DesktopScreen::BlendsWindows() {
+  auto* server = Server();
+  if (server == nullptr) return mIsOnWayland;
+  // A compositor owns the selection of its screen's number.
+  const auto dot = mSettings.display.rfind('.');
+  const auto colon = mSettings.display.rfind(':');
+  const bool named = dot != std::string::npos && colon != std::string::npos && dot > colon;
+  const std::string number = named ? mSettings.display.substr(dot + 1) : "0";
+  const auto selection = AtomNamed("_NET_WM_CM_S" + number);
+  const auto reply = server->Wait<xcb_get_selection_owner_reply_t>(
+      xcb_get_selection_owner_unchecked(server->Raw(), selection), XConnection::BatchDeadline());
+  return reply && reply->owner != XCB_NONE;
+}
+
+void DesktopScreen::KeepInSight(std::uint64_t window) {
+  auto* server = Server();
+  if (server == nullptr) return;
+  const auto send = [&](const std::string& type, const std::array<std::uint32_t, 5>& words) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = static_cast<xcb_window_t>(window);
+    message.type = AtomNamed(type);
+    std::copy(words.begin(), words.end(), message.data.data32);
+    char event[32] = {};
+    std::memcpy(event, &message, sizeof message);
+    xcb_send_event(server->Raw(), 0, server->Root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   event);
+  };
+  constexpr std::uint32_t kFromApplication = 1;
+  const auto addStates = [&](const std::string& first, const std::string& second) {
+    send("_NET_WM_STATE", {kAddState, AtomNamed(first), second.empty() ? 0 : AtomNamed(second),
+                           kFromApplication, 0});
+  };
+  addStates("_NET_WM_STATE_ABOVE", "_NET_WM_STATE_STICKY");
+  addStates("_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER");
+  send("_NET_WM_DESKTOP", {kEveryDesktop, kFromApplication, 0, 0, 0});
+  server->Flush();
+}
+
+std::vector<xcb_window_t> DesktopScreen::WindowsAbove(xcb_window_t window,
+                                                      XConnection::Deadline deadline) {
+  const auto reply = mConnection->Wait<xcb_get_property_reply_t>(
+      mConnection->AskProperty(mConnection->Root(), mConnection->Atom(XAtom::kClientListStacking),
+                               kMostWords),
+      deadline);
+  auto windows = PropertyWords(reply.get());
+  const auto found = std::ranges::find(windows, window);
+  if (found == windows.end()) return {};
+  windows.erase(windows.begin(), found + 1);
+  return windows;
+}
+
+bool DesktopScreen::AreaOf(xcb_get_geometry_cookie_t geometry,
+                           xcb_translate_coordinates_cookie_t place, XConnection::Deadline deadline,
+                           Area& area, int& depth) {
+  const auto size = mConnection->Wait<xcb_get_geometry_reply_t>(geometry, deadline);
+  const auto at = mConnection->Wait<xcb_translate_coordinates_reply_t>(place, deadline);
+  if (!size || !at) return false;
+  area = {at->dst_x, at->dst_y, size->width, size->height};
+  depth = size->depth;
+  return true;
+}
+
+bool DesktopScreen::IsCovered(std::uint64_t number) {
+  auto* server = Server();
+  if (server == nullptr) return false;
+  const auto deadline = XConnection::BatchDeadline();
+  const auto window = static_cast<xcb_window_t>(number);
+  auto windows = WindowsAbove(window, deadline);
+  if (windows.empty()) return false;
+  windows.insert(windows.begin(), window);
+  struct Question {
+    xcb_get_geometry_cookie_t geometry;
+    xcb_translate_coordinates_cookie_t place;
+    xcb_get_window_attributes_cookie_t attributes;
+    xcb_get_property_cookie_t opacity;
+  };
+  const auto opacity = AtomNamed("_NET_WM_WINDOW_OPACITY");
+  std::vector<Question> questions;
+  for (const auto asked : windows)
+    questions.push_back(
+        {xcb_get_geometry_unchecked(server->Raw(), asked),
+         xcb_translate_coordinates_unchecked(server->Raw(), asked, server->Root(), 0, 0),
+         xcb_get_window_attributes_unchecked(server->Raw(), asked),
+         server->AskProperty(asked, opacity, 1)});
+  Area own;
+  bool isCovered = false;
+  for (std::size_t i = 0; i < windows.size(); ++i) {
+    const auto& question = questions[i];
+    Area area;
+    int depth = 0;
+    const bool isThere = AreaOf(question.geometry, question.place, deadline, area, depth);
+    const auto attributes =
+        server->Wait<xcb_get_window_attributes_reply_t>(question.attributes, deadline);
+    const auto set = server->Wait<xcb_get_property_reply_t>(question.opacity, deadline);
+    if (i == 0) own = area;
+    if (i == 0 || !isThere || !attributes) continue;
+    if (attributes->map_state != XCB_MAP_STATE_VIEWABLE || depth > kOpaqueDepth) continue;
+    if (const auto words = PropertyWords(set.get()); !words.empty() && words[0] != 0xffffffff)
+      continue;
+    if (area.x <= own.x && area.y <= own.y && area.x + area.width >= own.x + own.width &&
+        area.y + area.height >= own.y + own.height)
+      isCovered = true;
+  }
+  return isCovered;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,112 @@
+#include "platform/desktop/GlobalShortcutsPortal.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QTimer>
+
+#include "platform/desktop/BusProbe.h"
+
+namespace lurkwell {
+namespace {
+
+const QString kConnection = QStringLiteral("lurkwell-shortcuts");
+const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString kInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
+const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
+const QString kSessionToken = QStringLiteral("lurkwell_session");
+constexpr int kAnswerTimeout = 5000;
+
+using ShortcutList = QList<std::pair<QString, QVariantMap>>;
+
+}  // namespace
+
+GlobalShortcutsPortal::GlobalShortcutsPortal(const std::string& busAddress,
+                                             std::function<void(const QString&)> complain)
+    : mBus(DoesBusAnswer(busAddress)
+               ? QDBusConnection::connectToBus(QString::fromStdString(busAddress), kConnection)
+               : QDBusConnection(QStringLiteral("lurkwell-no-bus"))),
+      mComplain(std::move(complain)) {
+  qDBusRegisterMetaType<std::pair<QString, QVariantMap>>();
+  qDBusRegisterMetaType<ShortcutList>();
+}
+
+GlobalShortcutsPortal::~GlobalShortcutsPortal() {
+  // The session ends with the connection.
+  QDBusConnection::disconnectFromBus(kConnection);
+}
+
+bool GlobalShortcutsPortal::Add(const QString& id, const QString& trigger,
+                                std::function<void()> pressed) {
+  if (!mBus.isConnected()) return false;
+  mShortcuts.push_back({id, trigger, std::move(pressed)});
+  if (!std::exchange(mAsked, true)) QTimer::singleShot(0, this, [this] { CreateSession(); });
+  return true;
+}
+
+void GlobalShortcutsPortal::ExpectAnswer(const QString& token, const char* slot) {
+  const QString sender = mBus.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
+  mBus.connect(kService,
+               QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token),
+               kRequest, QStringLiteral("Response"), this, slot);
+}
+
+void GlobalShortcutsPortal::Call(const QString& method, const QVariantList& arguments) {
+  auto message = QDBusMessage::createMethodCall(kService, kPath, kInterface, method);
+  message.setArguments(arguments);
+  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(message, kAnswerTimeout), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+    if (watcher->isError()) mComplain(watcher->error().message());
+    watcher->deleteLater();
+  });
+}
+
+void GlobalShortcutsPortal::CreateSession() {
+  const QString token = QStringLiteral("lurkwell_create");
+  ExpectAnswer(token, SLOT(HandleSession(uint, QVariantMap)));
+  mBus.connect(kService, kPath, kInterface, QStringLiteral("Activated"), this,
+               SLOT(HandleActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
+  Call(QStringLiteral("CreateSession"),
+       {QVariantMap{{QStringLiteral("handle_token"), token},
+                    {QStringLiteral("session_handle_token"), kSessionToken}}});
+}
+
+void GlobalShortcutsPortal::HandleSession(uint response, const QVariantMap& results) {
+  if (response != 0) return mComplain(QStringLiteral("the desktop gives none"));
+  mSession = results.value(QStringLiteral("session_handle")).toString();
+  Bind();
+}
+
+void GlobalShortcutsPortal::Bind() {
+  const QString token = QStringLiteral("lurkwell_bind");
+  ExpectAnswer(token, SLOT(HandleBound(uint, QVariantMap)));
+  ShortcutList list;
+  for (const auto& shortcut : mShortcuts)
+    list.append({shortcut.id,
+                 {{QStringLiteral("description"), QStringLiteral("Animated view over the screen")},
+                  {QStringLiteral("preferred_trigger"), shortcut.trigger}}});
+  Call(QStringLiteral("BindShortcuts"),
+       {QVariant::fromValue(QDBusObjectPath(mSession)), QVariant::fromValue(list), QString(),
+        QVariantMap{{QStringLiteral("handle_token"), token}}});
+}
+
+void GlobalShortcutsPortal::HandleBound(uint response, const QVariantMap&) {
+  if (response != 0) mComplain(QStringLiteral("the user or the desktop refused them"));
+}
+
+void GlobalShortcutsPortal::HandleActivated(const QDBusObjectPath& session, const QString& id,
+                                            qulonglong, const QVariantMap&) {
+  if (session.path() != mSession) return;
+  for (const auto& shortcut : mShortcuts) {
+    if (shortcut.id != id) continue;
+    const auto pressed = shortcut.pressed;
+    pressed();
+    return;
+  }
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/Screen.h"
+#include "platform/simulated/AccessLog.h"
+
+namespace lurkwell {
+
+/// A screen that is what a test says.
+class SimulatedScreen final : public Screen {
+ public:
+  explicit SimulatedScreen(AccessLog& log) : mLog(log) {}
+
+  bool UsesOpenGLAcceleration() override {
+    mLog.Add("Screen.UsesOpenGLAcceleration");
+    return isAccelerated;
+  }
+  bool BlendsWindows() override { return blends; }
+  void KeepInSight(std::uint64_t) override { mLog.Add("Screen.KeepInSight"); }
+  bool IsCovered(std::uint64_t) override { return isCovered; }
+
+  bool isAccelerated = true;
+  bool blends = true;
+  bool isCovered = false;
+
+ private:
+  AccessLog& mLog;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,154 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVirtualObject>
+
+#include "desktop/TestBus.h"
+#include "platform/desktop/DesktopHotKeys.h"
+#include "platform/desktop/XConnection.h"
+#include "support/TestDisplay.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr std::uint32_t kF7Code = 98;
+constexpr std::uint32_t kF7Symbol = 0xffc4;
+constexpr std::uint32_t kFreeKey = 93;
+
+bool Becomes(const std::function<bool()>& condition) {
+  return ComesTrue([&] {
+    QCoreApplication::processEvents();
+    return condition();
+  });
+}
+
+/// A display with a window manager, nothing else on it, and keys pressed through the server's test
+/// extension.
+class HotKeysTest : public testing::Test {
+ protected:
+  DesktopSettings Settings() const {
+    DesktopSettings settings;
+    settings.display = display.Name();
+    return settings;
+  }
+  void Press(const std::string& combination) const {
+    ChildProgram tool({"xdotool", "key", combination}, display.Environment());
+    EXPECT_TRUE(tool.Ends());
+  }
+
+  TestDisplay display;
+  DesktopHotKeys keys{Settings(), DesktopHotKeys::Source::kXServer};
+  int plain = 0;
+  int super = 0;
+};
+
+TEST_F(HotKeysTest, ReachAProgramWithoutAWindowWhateverLocksAreOn) {
+  ASSERT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++plain; }));
+  ASSERT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kCommandModifier, [&] { ++super; }));
+  Press("F7");
+  EXPECT_TRUE(Becomes([&] { return plain == 1; }));
+  Press("super+F7");
+  EXPECT_TRUE(Becomes([&] { return super == 1; }));
+  for (const auto* lock : {"Caps_Lock", "Num_Lock"}) {
+    Press(lock);
+    Press("F7");
+    Press("super+F7");
+  }
+  EXPECT_TRUE(Becomes([&] { return plain == 3 && super == 3; })) << plain << " " << super;
+  // Other keys, and other modifiers, are not ours.
+  Press("F8");
+  Press("ctrl+F7");
+  Press("F7");
+  EXPECT_TRUE(Becomes([&] { return plain == 4; }));
+  EXPECT_EQ(super, 3);
+}
+
+TEST_F(HotKeysTest, FollowAKeyboardThatIsMappedAnew) {
+  ASSERT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++plain; }));
+  const auto connection = XConnection::Open(display.Name());
+  ASSERT_NE(connection, nullptr);
+  xcb_change_keyboard_mapping(connection->Raw(), 1, kFreeKey, 1, &kF7Symbol);
+  connection->ServerTime();
+  EXPECT_TRUE(Becomes([&] {
+    Press(std::to_string(kFreeKey));
+    return plain > 0;
+  }));
+}
+
+TEST_F(HotKeysTest, SayWhenAKeyIsTakenOrUnknown) {
+  DesktopHotKeys others(Settings(), DesktopHotKeys::Source::kXServer);
+  ASSERT_TRUE(others.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+  EXPECT_FALSE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+  EXPECT_FALSE(keys.RegisterEventHotKey(4242, HotKeys::kNoModifiers, [] {}));
+  EXPECT_FALSE(keys.RegisterEventHotKey(kF7Code, 512, [] {}));
+  display.EndServer();
+  DesktopHotKeys nowhere(Settings(), DesktopHotKeys::Source::kXServer);
+  EXPECT_FALSE(nowhere.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+  // The connection of the first one has gone, which is no reason to spin or to end.
+  QCoreApplication::processEvents();
+}
+
+/// Plays the desktop's portal: gives a session, notes what is bound, and can press.
+class FakePortal final : public QDBusVirtualObject {
+ public:
+  explicit FakePortal(const std::string& address)
+      : mBus(QDBusConnection::connectToBus(QString::fromStdString(address), "portal")) {
+    EXPECT_TRUE(mBus.registerVirtualObject("/org/freedesktop/portal/desktop", this));
+    EXPECT_TRUE(mBus.registerService("org.freedesktop.portal.Desktop"));
+  }
+  ~FakePortal() override { QDBusConnection::disconnectFromBus("portal"); }
+
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
+    const bool creates = message.member() == "CreateSession";
+    if (!creates) bound = message.signature();
+    const auto request = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
+                             .arg(message.service().mid(1).replace('.', '_'),
+                                  creates ? "lurkwell_create" : "lurkwell_bind");
+    mBus.send(message.createReply(QVariant::fromValue(QDBusObjectPath(request))));
+    Signal(request, "org.freedesktop.portal.Request", "Response",
+           {0U, QVariantMap{{"session_handle", "/session/1"}}});
+    return true;
+  }
+  void Press(const QString& id) {
+    Signal("/org/freedesktop/portal/desktop", "org.freedesktop.portal.GlobalShortcuts", "Activated",
+           {QVariant::fromValue(QDBusObjectPath("/session/1")), id, qulonglong{1}, QVariantMap()});
+  }
+
+  QString bound;
+
+ private:
+  void Signal(const QString& path, const QString& interface, const QString& member,
+              const QVariantList& arguments) {
+    auto signal = QDBusMessage::createSignal(path, interface, member);
+    signal.setArguments(arguments);
+    mBus.send(signal);
+  }
+
+  QDBusConnection mBus;
+};
+
+TEST(HotKeysOfThePortal, AreBoundAndPressed) {
+  TestBus bus;
+  FakePortal portal(bus.Address());
+  DesktopSettings settings;
+  settings.sessionBusAddress = bus.Address();
+  DesktopHotKeys keys(settings, DesktopHotKeys::Source::kPortal);
+  int presses = 0;
+  EXPECT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++presses; }));
+  EXPECT_TRUE(Becomes([&] { return !portal.bound.isEmpty(); }));
+  EXPECT_EQ(portal.bound.toStdString(), "oa(sa{sv})sa{sv}");
+  EXPECT_TRUE(Becomes([&] {
+    portal.Press("overlay-f7");
+    return presses > 0;
+  }));
+  settings.sessionBusAddress.clear();
+  DesktopHotKeys nowhere(settings, DesktopHotKeys::Source::kPortal);
+  EXPECT_FALSE(nowhere.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+}
+
+}  // namespace
+}  // namespace lurkwell
