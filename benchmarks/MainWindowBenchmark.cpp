@@ -1,5 +1,5 @@
 // The main window over simulated processes, drawn without a display: a turn of the table without
-// the collecting, a sort by another column, a page of scrolling.
+// the collecting, the gauges of the toolbar, a sort by another column, a page of scrolling.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -8,24 +8,14 @@
 #include <memory>
 #include <string>
 
+#include "OffscreenApplication.h"
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/MainWindow.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "resources/Resources.h"
 #include "support/HelperChannel.h"
 
 namespace lurkwell {
 namespace {
-
-void EnsureApplication() {
-  static int argc = 1;
-  static char name[] = "benchmarks";
-  static char* argv[] = {name, nullptr};
-  if (QCoreApplication::instance() != nullptr) return;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  // Lives to the end of the program.
-  InstallResources(*new QApplication(argc, argv));
-}
 
 class Window : public ApplicationCommands {
  public:
@@ -60,6 +50,8 @@ class Window : public ApplicationCommands {
     window->controller().synchronizer()->NotifyProcessesHaveBeenUpdated();
     QApplication::processEvents();
   }
+
+  void SetFreePages(std::int64_t pages) { machine.hostStatistics.virtualMemory->freePages = pages; }
 
   void SortBy(const char* key) {
     auto& controller = window->controller();
@@ -106,6 +98,17 @@ void BM_MainWindowTurn(benchmark::State& state) {
   CountPerProcess(state);
 }
 BENCHMARK(BM_MainWindowTurn)->Arg(250)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+/// A turn with next to no table: the gauges' pictures stay what they are, or one of them changes.
+void BM_MainWindowGauges(benchmark::State& state) {
+  Window window(2);
+  std::int64_t pages = 65'536;
+  for (auto _ : state) {
+    window.SetFreePages(state.range(0) != 0 ? (pages = 196'608 - pages) : pages);
+    window.Turn();
+  }
+}
+BENCHMARK(BM_MainWindowGauges)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_MainWindowSort(benchmark::State& state) {
   Window window(state.range(0));

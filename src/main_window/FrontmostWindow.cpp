@@ -1,6 +1,7 @@
 #include "main_window/FrontmostWindow.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QPointer>
 
 namespace lurkwell {
@@ -55,8 +56,11 @@ bool EnsureThatCocoaWindowIsFrontmostIfPossible() {
     const bool matches = title.startsWith(QLatin1String("Process")) ||
                          title.startsWith(QLatin1String("Lurkwell Pref"));
     if (!window->isVisible() || !matches) continue;
-    window->raise();
-    window->activateWindow();
+    // Whoever works with another program keeps the keyboard, and what is in front.
+    if (QGuiApplication::applicationState() == Qt::ApplicationActive) {
+      window->raise();
+      window->activateWindow();
+    }
     return true;
   }
   return false;

@@ -5,7 +5,9 @@
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QUrl>
+#include <algorithm>
 
+#include "main_window/MainToolbar.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
@@ -140,6 +142,10 @@ void MainMenus::BuildMenuBar() {
   auto* view = AddMenu("menu_view");
   view->addAction(Make(
       "menu_view_update_now", other, [this] { mController.updateNow(); }, Qt::Key_F5));
+  view->addAction(Make(
+      "menu_view_overlay", other, [this] { mCommands.doToggleQuintessentialViewFullScreen(); },
+      Qt::Key_F7));
+  BuildToolbarItems(*view);
   BuildSortMenu(*view);
   auto* columns = AddMenu("menu_columns");
   mController.columnMenus().AppendTo(*columns);
@@ -148,9 +154,44 @@ void MainMenus::BuildMenuBar() {
     action != nullptr ? process->addAction(action) : void(process->addSeparator());
   auto* window = AddMenu("menu_window");
   window->addAction(Make("menu_window_show_main", other, [this] { mCommands.doShowMainWindow(); }));
+  window->addAction(Make("menu_window_show_animated_view", other,
+                         [this] { mCommands.doShowQuintessentialView(); }));
   auto* help = AddMenu("menu_help");
   help->addAction(Make(
       "menu_help_help", other, [this] { doLurkwellHelp(); }, Qt::Key_F1));
+}
+
+void MainMenus::BuildToolbarItems(QMenu& view) {
+  auto& toolbar = *mController.toolbar();
+  mShowToolbar = Make("menu_view_show_toolbar", MenuCommand::kOther,
+                      [&toolbar] { toolbar.SetShown(toolbar.isHidden()); });
+  mShowToolbar->setCheckable(true);
+  mShowToolbar->setChecked(!toolbar.isHidden());
+  connect(&toolbar, &MainToolbar::shownChanged, mShowToolbar, &QAction::setChecked);
+  mCustomiseToolbar = Make("menu_view_customise_toolbar", MenuCommand::kOther,
+                           [this] { Q_EMIT mController.customisingRequested(); });
+  view.addSeparator();
+  view.addAction(mShowToolbar);
+  view.addAction(mCustomiseToolbar);
+}
+
+QMenu* MainMenus::MakeToolbarMenu(QWidget* parent) {
+  auto* menu = new QMenu(parent);
+  auto& toolbar = *mController.toolbar();
+  const auto add = [&](MainToolbar::DisplayMode mode, const char* id) {
+    auto* item = menu->addAction(LocalizedString(id));
+    item->setCheckable(true);
+    item->setChecked(std::max(toolbar.displayMode(), MainToolbar::kIconAndLabel) == mode);
+    connect(item, &QAction::triggered, &toolbar,
+            [&toolbar, mode] { toolbar.SetDisplayMode(mode); });
+  };
+  add(MainToolbar::kIconAndLabel, "toolbar_mode_both");
+  add(MainToolbar::kIconOnly, "toolbar_mode_icon");
+  add(MainToolbar::kLabelOnly, "toolbar_mode_text");
+  menu->addSeparator();
+  menu->addAction(mShowToolbar);
+  menu->addAction(mCustomiseToolbar);
+  return menu;
 }
 
 void MainMenus::BuildSortMenu(QMenu& view) {
@@ -193,6 +234,7 @@ void MainMenus::ValidateAll() {
   const auto facts = mController.selectionFacts();
   for (const auto& item : mItems)
     item.action->setEnabled(mController.validateMenuItem(item.command, facts));
+  mController.validateToolbarItems(facts);
   mController.columnMenus().Validate();
 }
 

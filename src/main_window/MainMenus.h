@@ -19,6 +19,8 @@ class ApplicationCommands {
   virtual void doThePrefs() = 0;
   virtual void doAboutPanel() = 0;
   virtual void doShowMainWindow() = 0;
+  virtual void doShowQuintessentialView() {}
+  virtual void doToggleQuintessentialViewFullScreen() {}
   virtual void doQuit() = 0;
   /// Whether nothing of the program would be seen without this window; closing it then quits.
   virtual bool isLastWindow(const QWidget& window) const = 0;
@@ -37,6 +39,9 @@ class MainMenus : public QObject {
   QMenu& ContextMenu() { return mContextMenu; }
   /// The columns, for a click on a header.
   QMenu& HeaderMenu() { return mHeaderMenu; }
+
+  /// The toolbar's own, for a click on it; whoever asked deletes it.
+  QMenu* MakeToolbarMenu(QWidget* parent);
 
   void ValidateAll();
 
@@ -60,6 +65,7 @@ class MainMenus : public QObject {
   void MakeProcessActions();
   void BuildMenuBar();
   void BuildContextMenu();
+  void BuildToolbarItems(QMenu& view);
   /// For whoever has no mouse: what can be done to headers.
   void BuildSortMenu(QMenu& view);
   QMenu* AddMenu(const char* id);
@@ -73,6 +79,8 @@ class MainMenus : public QObject {
   /// In the order in which menus show them; null separates.
   QList<QAction*> mProcessActions;
   QList<QAction*> mWindowActions;
+  QAction* mShowToolbar = nullptr;
+  QAction* mCustomiseToolbar = nullptr;
   QMenu mContextMenu;
   QMenu mHeaderMenu;
   QMenu mSortMenu;

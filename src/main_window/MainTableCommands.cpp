@@ -1,6 +1,5 @@
 // What can be done to the selected processes, and when.
 #include <algorithm>
-#include <iterator>
 
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/vqMainTableController.h"
@@ -25,26 +24,6 @@ bool IsKernelPid(std::int32_t pid) {
 bool IsApplication(std::int32_t pid) {
   return !SerialNumberOf(pid).IsNone();
 }
-
-struct ToolbarItem {
-  std::string_view identifier;
-  MenuCommand command;
-};
-
-constexpr ToolbarItem kToolbarItems[] = {
-    {"vqToolbarShowPreferences", MenuCommand::kOther},
-    {"vqToolbarOpenCPUHistoryWindow", MenuCommand::kNewCPUHistoryWindow},
-    {"vqToolbarOpenLoggingWindow", MenuCommand::kNewLoggingWindow},
-    {"vqToolbarKill", MenuCommand::kKill},
-    {"vqToolbarHighPriority", MenuCommand::kHighPriority},
-    {"vqToolbarMediumPriority", MenuCommand::kNormalPriority},
-    {"vqToolbarLowPriority", MenuCommand::kLowPriority},
-    {"vqToolbarProcessHalt", MenuCommand::kHalt},
-    {"vqToolbarProcessContinue", MenuCommand::kContinue},
-    {"vqToolbarBringToFront", MenuCommand::kBringToFront},
-    {"vqToolbarHideProcess", MenuCommand::kHide},
-    {"vqToolbarRevealInFinder", MenuCommand::kReveal},
-};
 
 }  // namespace
 
@@ -165,14 +144,6 @@ bool vqMainTableController::validateMenuItem(MenuCommand command,
       return true;
   }
   return true;
-}
-
-bool vqMainTableController::validateToolbarItem(std::string_view identifier) const {
-  const auto* item = std::ranges::find(kToolbarItems, identifier, &ToolbarItem::identifier);
-  if (item == std::end(kToolbarItems)) return false;
-  // A halted application without a kernel pid can be continued from the menu alone.
-  if (item->command == MenuCommand::kContinue && !anyPIDsInSelection()) return false;
-  return validateMenuItem(item->command);
 }
 
 }  // namespace lurkwell

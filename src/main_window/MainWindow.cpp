@@ -9,10 +9,13 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "main_window/AskForPid.h"
 #include "main_window/FrontmostWindow.h"
+#include "main_window/MainToolbar.h"
 #include "main_window/PropertyText.h"
+#include "main_window/ToolbarCustomiseDialog.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
@@ -54,6 +57,10 @@ MainWindow::MainWindow(ApplicationCommands& commands)
           &MainWindow::UpdateStatus);
   connect(mController.get(), &vqMainTableController::notYetAvailable, this,
           [this] { statusBar()->showMessage(LocalizedString("main_window_not_available"), 5000); });
+  connect(mController.get(), &vqMainTableController::preferencesRequested, this,
+          [this] { mCommands.doThePrefs(); });
+  connect(mController.get(), &vqMainTableController::customisingRequested, this,
+          &MainWindow::CustomiseToolbar);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
   connect(mMenus.get(), &MainMenus::helpIsMissing, this,
           [this](const QString& page) { statusBar()->showMessage(page, 20'000); });
@@ -66,6 +73,8 @@ MainWindow::MainWindow(ApplicationCommands& commands)
 }
 
 MainWindow::~MainWindow() {
+  // It arranges the controller's toolbar.
+  delete mCustomising;
   // The controller's last words go to the preferences, by way of the table.
   mMenus.reset();
   mController.reset();
@@ -114,6 +123,27 @@ void MainWindow::EndFilter() {
   mTable->setFocus();
 }
 
+// ---- The toolbar --------------------------------------------------------------------------------
+
+void MainWindow::CustomiseToolbar() {
+  auto& toolbar = *mController->toolbar();
+  toolbar.SetShown(true);
+  if (mCustomising == nullptr) {
+    mCustomising = new ToolbarCustomiseDialog(toolbar, this);
+    // Below the toolbar, which items are to be dropped on.
+    const auto below = toolbar.mapToGlobal(QPoint(toolbar.width() / 2, toolbar.height()));
+    const int lowest = screen()->availableGeometry().bottom() - mCustomising->height() - kGraspable;
+    mCustomising->move(below.x() - mCustomising->width() / 2, std::min(below.y(), lowest));
+  }
+  mCustomising->show();
+  mCustomising->raise();
+  mCustomising->activateWindow();
+}
+
+QMenu* MainWindow::createPopupMenu() {
+  return mMenus->MakeToolbarMenu(this);
+}
+
 // ---- What is said -------------------------------------------------------------------------------
 
 void MainWindow::LookAtHelper() {
@@ -139,8 +169,10 @@ void MainWindow::FindByPid() {
 
 void MainWindow::UpdateStatus() {
   const auto selected = mController->selectedPids().size();
-  mCounts->setText(LocalizedString("main_window_status_counts")
-                       .arg(mController->pidEntries().size())
+  const auto processes = mController->pidEntries().size();
+  mCounts->setText(LocalizedString(processes == 1 ? "main_window_status_counts_one"
+                                                  : "main_window_status_counts")
+                       .arg(processes)
                        .arg(mController->rowCount())
                        .arg(selected));
 }
@@ -217,6 +249,8 @@ bool MainWindow::event(QEvent* event) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   SaveFrame();
   event->accept();
+  // Without its toolbar it has nothing to do.
+  if (mCustomising != nullptr) mCustomising->close();
   // On this desktop nothing but windows leads back to the program.
   if (mCommands.isLastWindow(*this)) return mCommands.doQuit();
   mController->windowWillClose();

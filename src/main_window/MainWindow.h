@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPointer>
 #include <memory>
 
 #include "main_window/MainMenus.h"
@@ -29,6 +31,9 @@ class MainWindow : public QMainWindow {
   /// Writes the window's size and place into the preferences.
   void SaveFrame();
 
+  /// For a right click beside the table: what can be done to the toolbar.
+  QMenu* createPopupMenu() override;
+
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -40,6 +45,7 @@ class MainWindow : public QMainWindow {
   void EndFilter();
   void ConfirmKill();
   void FindByPid();
+  void CustomiseToolbar();
   void LookAtHelper();
   void UpdateStatus();
 
@@ -54,6 +60,8 @@ class MainWindow : public QMainWindow {
   /// As the window manager places it and Qt sizes it, while it does not fill the screen.
   QRect mNormalFrame{0, 0, 860, 560};
   std::unique_ptr<MainMenus> mMenus;
+  /// Deletes itself when it is closed.
+  QPointer<QDialog> mCustomising;
 };
 
 }  // namespace lurkwell

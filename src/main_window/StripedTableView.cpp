@@ -70,11 +70,12 @@ void StripedTableView::SelectAlone(int row) {
 
 void StripedTableView::showTheSpecialContextMenu(const QPoint& position,
                                                  Qt::KeyboardModifiers modifiers, bool isRightClick,
-                                                 bool needToSelect) {
+                                                 bool needToSelect, bool needToHit) {
   if ((modifiers & Qt::ControlModifier) == 0 && !isRightClick) return;
   const int row = rowAt(position.y());
   if (needToSelect && row >= 0) SelectAlone(row);
-  if (row < 0 || model() == nullptr || row >= model()->rowCount()) return;
+  const bool hits = row >= 0 && model() != nullptr && row < model()->rowCount();
+  if (needToHit && !hits) return;
   if (fMenu != nullptr) fMenu->popup(viewport()->mapToGlobal(position));
 }
 

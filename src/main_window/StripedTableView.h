@@ -28,9 +28,10 @@ class StripedTableView : public QTableView {
   void setSearchColumn(int column) { mSearchColumn = column; }
 
   /// Opens the context menu at a point of the viewport, when a click there asks for it and hits a
-  /// row; with `needToSelect` that row becomes the selection.
+  /// row; with `needToSelect` that row becomes the selection. A click in another window, for which
+  /// a row has been selected, need not hit one.
   void showTheSpecialContextMenu(const QPoint& position, Qt::KeyboardModifiers modifiers,
-                                 bool isRightClick, bool needToSelect);
+                                 bool isRightClick, bool needToSelect, bool needToHit = true);
 
   /// Repaints what the rows between show differently, as far as it can be seen.
   void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,

@@ -60,6 +60,7 @@ class PropertyReader {
 VQTarvMainWindowInfoSynch::VQTarvMainWindowInfoSynch(long interval, vqMainTableController& owner)
     : ProcessInformationClient(nullptr, static_cast<std::int32_t>(interval)), mOwner(owner) {
   zm_MainWindow = this;
+  ReadSystemInfoPreferences();
 }
 
 VQTarvMainWindowInfoSynch::~VQTarvMainWindowInfoSynch() {
@@ -87,6 +88,7 @@ void VQTarvMainWindowInfoSynch::UnhookFromConsolidator() {
   if (!mHooked) return;
   RemoveProcessInformationClient(this);
   mHooked = false;
+  StopFlashing();
 }
 
 ProcessInformationClient::NeedLevel VQTarvMainWindowInfoSynch::NeedPidsForProcProperty(
@@ -207,6 +209,10 @@ void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
   }
   // Every bar is measured by the biggest.
   if (drewText != gDrawVSZText || biggest != gBiggestVSZ) mOwner.memoryBarsHaveChanged();
+  mFigures = ReadSystemFigures();
+  UpdateSystemInfoToolbarItemCPU();
+  UpdateSystemInfoToolbarItemMemory();
+  UpdateSystemInfoToolbarItemPageouts();
   mOwner.triggerReload();
   mOwner.turnHasEnded();
 }

@@ -3,9 +3,12 @@
 #include <QPointer>
 #include <QWidget>
 #include <cstdint>
+#include <memory>
 
 #include "consolidator/ProcessInformationClient.h"
 #include "main_window/RowDictionary.h"
+#include "main_window/SystemFigures.h"
+#include "platform/RunLoop.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
@@ -59,9 +62,30 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   /// Selects the row of a process alone and scrolls to it; false when there is no such row.
   static bool SelectPID(int pid);
 
+  // ---- The machine as a whole -------------------------------------------------------------------
+
+  /// Take a new figure and, unless the toolbar is hidden, show it there; at the end of each update,
+  /// in this order, after ReadSystemFigures. The CPU usage is that since the call before.
+  void UpdateSystemInfoToolbarItemCPU();
+  void UpdateSystemInfoToolbarItemMemory();
+  /// The light holds the largest number of pages written out per update, which decays from one
+  /// update to the next: green below the yellow threshold, flashing red from the red one on.
+  void UpdateSystemInfoToolbarItemPageouts();
+  /// 0 green, 1 yellow, 2 and 3 the two reds.
+  void UpdateSystemInfoToolbarItemPageoutsWithSeverity(int severity);
+  /// Shows the figures of the last update once more: the toolbar has become visible, or has other
+  /// items.
+  void ShowSystemInfo();
+  /// The other red, while the light is flashing.
+  static void PageoutTimerFunc();
+
   static VQTarvMainWindowInfoSynch* zm_MainWindow;
 
  private:
+  void ReadSystemInfoPreferences();
+  void StopFlashing();
+  void ShowCPU();
+  void ShowMemory();
   void FindBiggestVSZ();
   void UpdateFixedFields(RowDictionary& row, TimeValue now);
   void UpdateChangingFields();
@@ -70,6 +94,24 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   bool mHooked = false;
   /// A hexadecimal property was asked for; they are not shown, and the user hears it once a turn.
   bool mHexadecimalWasMet = false;
+
+  MachineUsage mMachineUsage;
+  /// Of the last update; no figures before the first.
+  double mUsage = 0.0;
+  SystemFigures mFigures;
+  int mSeverity = -1;
+  std::int64_t mNewPageouts = 0;
+
+  std::int64_t mPreviousPageouts = -1;
+  double mPageoutsFilter = 0.0;
+  double mFilteredPageouts = 0.0;
+  std::int32_t mYellowThreshold = 0;
+  std::int32_t mRedThreshold = 0;
+  /// Dormant unless the light is flashing; seconds.
+  std::unique_ptr<RunLoopTimer> mFlashTimer;
+  double mFlashInterval = 0.0;
+  /// 0 before the first update, 1 while the light is steady, 2 and 3 while it flashes.
+  std::int32_t mPageoutState = 0;
 };
 
 }  // namespace lurkwell

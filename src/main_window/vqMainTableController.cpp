@@ -1,12 +1,14 @@
 #include "main_window/vqMainTableController.h"
 
 #include <QHeaderView>
+#include <QMainWindow>
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
 
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/MainToolbar.h"
 #include "main_window/Preferences.h"
 #include "main_window/PropertyText.h"
 #include "platform/ApplicationQuitting.h"
@@ -43,7 +45,7 @@ vqMainTableController::~vqMainTableController() {
   delete fInfoSynchronizer;
 }
 
-void vqMainTableController::awakeFromNib(QWidget& window, StripedTableView& table) {
+void vqMainTableController::awakeFromNib(QMainWindow& window, StripedTableView& table) {
   fWindow = &window;
   fTable = &table;
   table.setModel(this);
@@ -55,6 +57,7 @@ void vqMainTableController::awakeFromNib(QWidget& window, StripedTableView& tabl
   connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &vqMainTableController::contentsChanged);
   chooseInitialSortColumn();
+  setupToolbar(window);
   fColumnMenus.Build();
 }
 
@@ -135,7 +138,9 @@ void vqMainTableController::setFilter(const QString& text) {
 
 bool vqMainTableController::passesFilter(const RowDictionary& row) const {
   if (QString::number(row.Pid()).contains(fFilter)) return true;
-  if (nameOf(row.Pid()).contains(fFilter, Qt::CaseInsensitive)) return true;
+  // Where names are shown, the columns below have them.
+  if (!isTracked(KeyText(kMetaName)) && nameOf(row.Pid()).contains(fFilter, Qt::CaseInsensitive))
+    return true;
   const auto contains = [&](KeyId key) {
     const auto* text = std::get_if<std::string>(&row.Get(key));
     return text != nullptr && PlainText(*text).contains(fFilter, Qt::CaseInsensitive);

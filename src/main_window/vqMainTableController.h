@@ -14,10 +14,16 @@
 #include "main_window/MenuCommands.h"
 #include "main_window/ProcessRows.h"
 #include "main_window/StripedTableView.h"
+#include "main_window/ToolbarItems.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
 #include "main_window/vqTableController.h"
 
+class QAction;
+class QMainWindow;
+
 namespace lurkwell {
+
+class MainToolbar;
 
 /// Opens the windows that follow a process. Implemented above this floor.
 class MonitorWindows {
@@ -44,8 +50,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   vqMainTableController();
   ~vqMainTableController() override;
 
-  /// Takes its view and window, builds columns and menus, and sorts as last time. Once.
-  void awakeFromNib(QWidget& window, StripedTableView& table);
+  /// Takes its view and window, builds columns, menus and toolbar, and sorts as last time. Once.
+  void awakeFromNib(QMainWindow& window, StripedTableView& table);
 
   // ---- The window's life ------------------------------------------------------------------------
 
@@ -149,8 +155,25 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   bool validateMenuItem(MenuCommand command) const {
     return validateMenuItem(command, selectionFacts());
   }
-  /// By the toolbar's identifiers; unknown ones are disabled.
-  bool validateToolbarItem(std::string_view identifier) const;
+
+  // ---- The toolbar ------------------------------------------------------------------------------
+
+  /// Null before awakeFromNib.
+  MainToolbar* toolbar() const { return fToolbar; }
+  /// Null while it is hidden.
+  MainToolbar* visibleToolbar() const;
+  static QStringList toolbarDefaultItemIdentifiers();
+  /// In the order of the palette.
+  static QStringList toolbarAllowedItemIdentifiers();
+  /// Makes an item for the toolbar, which takes it over.
+  QAction* itemForItemIdentifier(const ToolbarItem& item);
+  /// By the toolbar's identifiers; those that are no buttons of ours are disabled.
+  bool validateToolbarItem(std::string_view identifier, const SelectionFacts& facts) const;
+  bool validateToolbarItem(std::string_view identifier) const {
+    return validateToolbarItem(identifier, selectionFacts());
+  }
+  void validateToolbarItems(const SelectionFacts& facts);
+  void doThePreferences() { Q_EMIT preferencesRequested(); }
 
   // ---- The model --------------------------------------------------------------------------------
 
@@ -168,6 +191,9 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void contentsChanged();
   /// A command was given whose window does not exist in this version.
   void notYetAvailable();
+  void preferencesRequested();
+  /// The toolbar is to be arranged.
+  void customisingRequested();
 
  protected:
   int columnIndexOf(KeyId key) const override;
@@ -191,6 +217,7 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void addMissingColumns();
   void track(KeyId key, char direction);
   void chooseInitialSortColumn();
+  void setupToolbar(QMainWindow& window);
   void adoptScreenLayout();
   int widthForColumn(KeyId key, const QString& title) const;
 
@@ -227,6 +254,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   std::unordered_set<const QObject*> fHolders;
   MonitorWindows* fMonitorWindows = nullptr;
   ColumnMenus fColumnMenus{*this};
+  /// The window's, which outlives this.
+  MainToolbar* fToolbar = nullptr;
   TextCell fTextCell;
   ImageCell fImageCell;
   CPUCell fCPUCell;

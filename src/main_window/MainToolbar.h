@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QStringList>
+#include <QToolBar>
+#include <functional>
+
+#include "main_window/SystemInfoImage.h"
+#include "main_window/ToolbarItems.h"
+
+namespace lurkwell {
+
+class ToolbarGauge;
+
+/// The main window's toolbar: items by identifier, in an order that the user may change. What the
+/// user makes of it is kept in the preferences under keys that begin with the toolbar's identifier:
+/// "_ITEMS" (identifiers between blanks), "_DISPLAY_MODE", "_SHOWN". Main thread only.
+class MainToolbar final : public QToolBar {
+  Q_OBJECT
+
+ public:
+  enum DisplayMode { kDefault, kIconAndLabel, kIconOnly, kLabelOnly };
+
+  /// More than any window has room for.
+  static constexpr qsizetype kMostItems = 64;
+
+  /// `makeItem` makes an item's action; the toolbar takes it over.
+  MainToolbar(const char* identifier, QWidget* parent,
+              std::function<QAction*(const ToolbarItem& item)> makeItem);
+
+  /// Makes the items that are remembered, but for unknown ones and those that are there already, or
+  /// the default ones.
+  void RestoreItems();
+
+  const QStringList& itemIdentifiers() const { return mIdentifiers; }
+  /// The items' actions, in the same order.
+  const QList<QAction*>& items() const { return mItems; }
+
+  /// Change what there is, and remember it. Items that cannot be there are left out.
+  void SetItems(const QStringList& identifiers);
+  /// Puts an item before the one at `place`; one that is there already moves, from place `from` if
+  /// there may be several of them.
+  void PutItem(const QString& identifier, int place, int from = -1);
+  void RemoveItem(int place);
+
+  DisplayMode displayMode() const { return mDisplayMode; }
+  void SetDisplayMode(DisplayMode mode);
+  void SetShown(bool shown);
+
+  /// While the user arranges the items, they are dragged instead of pressed, and none is disabled.
+  void SetCustomising(bool customising);
+  bool IsCustomising() const { return mCustomising; }
+
+  /// Show a picture, and figures in words, in the items of an identifier.
+  void ShowGauge(const char* identifier, const SystemInfoImage& image, const QString& figures);
+  void ShowLight(const char* identifier, const char* image, const QString& figures);
+
+ Q_SIGNALS:
+  /// There are other items, or they are shown again, so that they lack pictures and validation.
+  void itemsChanged();
+  void shownChanged(bool shown);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void Remember(const char* what, std::int32_t value);
+  QStringList RememberedItems() const;
+  void Rebuild(const QStringList& identifiers);
+  void WatchItems(bool watch);
+  void StartDrag(int place);
+  int PlaceAt(const QPoint& point) const;
+  template <typename Show>
+  void ForGauges(const char* identifier, Show show);
+
+  QByteArray mIdentifier;
+  std::function<QAction*(const ToolbarItem&)> mMakeItem;
+  QStringList mIdentifiers;
+  QList<QAction*> mItems;
+  DisplayMode mDisplayMode = kDefault;
+  bool mCustomising = false;
+  QPoint mPressed;
+};
+
+}  // namespace lurkwell

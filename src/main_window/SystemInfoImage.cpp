@@ -1,0 +1,85 @@
+#include "main_window/SystemInfoImage.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "main_window/SystemFigures.h"
+#include "platform/Assertion.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kGaugeUnit[] = "VQTarvMainWindowInfoSynch";
+
+constexpr int kBarLeft = 3;
+constexpr int kBarWidth = 58;
+constexpr int kBarTop = 4;
+constexpr int kBarBottom = 16;
+
+using Colour = std::array<std::uint8_t, 4>;
+constexpr Colour kEmptyBar{170, 170, 170, 255};
+constexpr Colour kCPUUsed{0, 0, 255, 255};
+constexpr Colour kMemoryRed{255, 0, 0, 255};
+constexpr Colour kMemoryYellowStripe{255, 255, 0, 255};
+constexpr Colour kMemoryPinkStripe{255, 170, 170, 255};
+
+/// Which part of which bar a pixel belongs to, as its message says.
+enum Segment { kCPUUsedSegment = 1, kCPUEmptySegment, kMemoryUsedSegment, kMemoryEmptySegment };
+
+/// The column behind a share of the bar.
+int ColumnBehind(double share) {
+  return static_cast<int>(share * kBarWidth) + kBarLeft;
+}
+
+void SetPixel(std::uint8_t* rawPixels, int x, int y, Segment segment, const Colour& colour) {
+  const int index = (y * kSystemInfoImageWidth + x) * 4;
+  const bool isInside = index >= 0 && index < kSystemInfoImageWidth * kSystemInfoImageHeight * 4;
+  if (!isInside) std::printf("%d ==> x == %d; y == %d; index == %d\n", segment, x, y, index);
+  Require(isInside, kGaugeUnit,
+          "indexIntoPixels >= 0 && indexIntoPixels < kSystemInfoImageWidth * "
+          "kSystemInfoImageHeight * 4");
+  std::uint8_t* cursor = rawPixels + index;
+  Require(cursor != nullptr, kGaugeUnit, "cursor");
+  std::copy(colour.begin(), colour.end(), cursor);
+}
+
+void Clear(std::uint8_t* rawPixels) {
+  Require(rawPixels != nullptr, kGaugeUnit, "rawPixels != NULL");
+  std::fill_n(rawPixels, std::tuple_size_v<SystemInfoImage>, std::uint8_t{0});
+}
+
+/// The bar, column by column: `colourAt` for those before `end`, empty from there.
+template <typename ColourAt>
+void DrawBar(std::uint8_t* rawPixels, int end, Segment used, Segment empty, ColourAt colourAt) {
+  Clear(rawPixels);
+  for (int y = kBarTop; y < kBarBottom; ++y) {
+    for (int x = kBarLeft; x < end; ++x) SetPixel(rawPixels, x, y, used, colourAt(x, y));
+    for (int x = end; x < kBarLeft + kBarWidth; ++x) SetPixel(rawPixels, x, y, empty, kEmptyBar);
+  }
+}
+
+}  // namespace
+
+void DrawCPUGauge(std::uint8_t* rawPixels, double usage) {
+  DrawBar(rawPixels, ColumnBehind(usage), kCPUUsedSegment, kCPUEmptySegment,
+          [](int, int) { return kCPUUsed; });
+}
+
+void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures) {
+  const auto physical = figures.physicalBytes != 0 ? figures.physicalBytes : 1;
+  const auto used = std::clamp<std::int64_t>(figures.usedBytes, 0, std::max(physical, {}));
+  const auto shareOf = [&](std::int64_t bytes) {
+    // However many bytes a broken figure has, columns are counted in int.
+    return std::clamp(static_cast<double>(bytes) / static_cast<double>(physical), -2.0, 2.0);
+  };
+  const int activeEnd = std::max(kBarLeft, ColumnBehind(shareOf(used - figures.inactiveBytes)));
+  const int wiredEnd = std::max(kBarLeft, ColumnBehind(shareOf(figures.wiredBytes)));
+  DrawBar(rawPixels, ColumnBehind(shareOf(used)), kMemoryUsedSegment, kMemoryEmptySegment,
+          [=](int x, int y) {
+            if (x < wiredEnd) return (100 + x - y) % 5 >= 3 ? kMemoryYellowStripe : kMemoryRed;
+            if (x > activeEnd) return (x + y) % 5 <= 2 ? kMemoryPinkStripe : kMemoryRed;
+            return kMemoryRed;
+          });
+}
+
+}  // namespace lurkwell

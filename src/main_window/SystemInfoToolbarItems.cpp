@@ -1,0 +1,127 @@
+// The synchroniser's figures of the machine as a whole, and how they reach the toolbar.
+#include <algorithm>
+#include <cmath>
+
+#include "main_window/MainToolbar.h"
+#include "main_window/SystemInfoImage.h"
+#include "main_window/SystemInfoTexts.h"
+#include "main_window/VQTarvMainWindowInfoSynch.h"
+#include "main_window/vqMainTableController.h"
+#include "platform/Clock.h"
+#include "platform/HostStatistics.h"
+#include "platform/Machine.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+namespace {
+
+/// Five years: for a timer that is not to fire.
+constexpr double kFarAway = 157'680'000.0;
+constexpr double kShortestFlash = 0.02;
+/// Filters above 1 grow; this many pages are enough.
+constexpr double kMostPageouts = 1e15;
+
+enum PageoutState { kSteady = 1, kFlashing, kFlashingOther };
+
+double FromNow(double seconds) {
+  return TheMachine().clock.AbsoluteTime() + seconds;
+}
+
+double FiniteReal(const char* key, double usual) {
+  const double value = GetPrefDouble(key, nullptr, true, usual);
+  return std::isfinite(value) ? value : usual;
+}
+
+}  // namespace
+
+void VQTarvMainWindowInfoSynch::ReadSystemInfoPreferences() {
+  mPageoutsFilter = FiniteReal("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_FILTER", 0.2);
+  mYellowThreshold = GetPrefInt("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_YELLOW", nullptr, true, 1);
+  mRedThreshold = GetPrefInt("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_RED", nullptr, true, 20);
+  // Preferences are edited by hand; the light must not take a core.
+  mFlashInterval =
+      std::max(kShortestFlash, FiniteReal("MAIN_WINDOW_PAGEOUT_CRITICAL_FLASH_INTERVAL", 0.25));
+  mFlashTimer = TheMachine().runLoop.AddTimer(FromNow(kFarAway), mFlashInterval, &PageoutTimerFunc);
+}
+
+void VQTarvMainWindowInfoSynch::UpdateSystemInfoToolbarItemCPU() {
+  mUsage = std::clamp(mMachineUsage.Take(), 0.0, 1.0);
+  ShowCPU();
+}
+
+void VQTarvMainWindowInfoSynch::ShowCPU() {
+  auto* toolbar = mOwner.visibleToolbar();
+  if (toolbar == nullptr) return;
+  SystemInfoImage image;
+  DrawCPUGauge(image.data(), mUsage);
+  toolbar->ShowGauge(kToolbarCPU, image,
+                     CPUGaugeText(mUsage, TheMachine().hostStatistics.Processors()));
+}
+
+void VQTarvMainWindowInfoSynch::UpdateSystemInfoToolbarItemMemory() {
+  ShowMemory();
+}
+
+void VQTarvMainWindowInfoSynch::ShowMemory() {
+  auto* toolbar = mOwner.visibleToolbar();
+  if (toolbar == nullptr) return;
+  SystemInfoImage image;
+  DrawMemoryGauge(image.data(), mFigures);
+  toolbar->ShowGauge(kToolbarMemory, image, MemoryGaugeText(mFigures));
+}
+
+void VQTarvMainWindowInfoSynch::UpdateSystemInfoToolbarItemPageouts() {
+  const auto pageouts = mFigures.pageouts;
+  if (mPreviousPageouts < 0) {
+    mPreviousPageouts = pageouts;
+    mFilteredPageouts = 0.0;
+  }
+  mNewPageouts = pageouts - mPreviousPageouts;
+  mPreviousPageouts = pageouts;
+  mFilteredPageouts = std::max(mFilteredPageouts * mPageoutsFilter, double(mNewPageouts));
+  mFilteredPageouts = std::min(mFilteredPageouts, kMostPageouts);
+  const auto level = static_cast<std::int64_t>(mFilteredPageouts);
+  if (level < mRedThreshold) {
+    StopFlashing();
+    mPageoutState = kSteady;
+  }
+  int severity = 1;
+  if (level < mYellowThreshold) {
+    severity = 0;
+  } else if (level >= mRedThreshold) {
+    severity = 2;
+    if (mPageoutState < kFlashing) mFlashTimer->SetNextFireDate(FromNow(mFlashInterval));
+    mPageoutState = kFlashing;
+  }
+  UpdateSystemInfoToolbarItemPageoutsWithSeverity(severity);
+}
+
+void VQTarvMainWindowInfoSynch::UpdateSystemInfoToolbarItemPageoutsWithSeverity(int severity) {
+  static constexpr const char* kImages[] = {"vm_green", "vm_yellow", "vm_red1", "vm_red2"};
+  mSeverity = severity;
+  if (auto* toolbar = mOwner.visibleToolbar())
+    toolbar->ShowLight(kToolbarPageouts, kImages[severity], PageoutsText(mNewPageouts));
+}
+
+void VQTarvMainWindowInfoSynch::StopFlashing() {
+  if (mPageoutState < kFlashing) return;
+  mFlashTimer->SetNextFireDate(FromNow(kFarAway));
+  mPageoutState = kSteady;
+}
+
+void VQTarvMainWindowInfoSynch::PageoutTimerFunc() {
+  if (zm_MainWindow == nullptr) return;
+  auto& state = zm_MainWindow->mPageoutState;
+  if (state != kFlashing && state != kFlashingOther) return;
+  state = state == kFlashing ? kFlashingOther : kFlashing;
+  zm_MainWindow->UpdateSystemInfoToolbarItemPageoutsWithSeverity(state);
+}
+
+void VQTarvMainWindowInfoSynch::ShowSystemInfo() {
+  if (mSeverity < 0) return;
+  ShowCPU();
+  ShowMemory();
+  UpdateSystemInfoToolbarItemPageoutsWithSeverity(mSeverity);
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,74 @@
+#include "main_window/ToolbarGauge.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionToolButton>
+
+#include "resources/Resources.h"
+
+namespace lurkwell {
+
+ToolbarGauge::ToolbarGauge(QSize size, int iconHeight, const QString& label, const QString& tip)
+    : mSize(size), mTip(tip) {
+  setIconSize({size.width(), std::max(iconHeight, size.height())});
+  setText(label);
+  setToolTip(tip);
+  setAccessibleName(label);
+  setAutoRaise(true);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+bool ToolbarGauge::IsShown(const QByteArray& picture) {
+  const qreal scale = devicePixelRatioF();
+  if (picture == mShown && scale == mScale) return true;
+  mShown = picture;
+  mScale = scale;
+  return false;
+}
+
+void ToolbarGauge::ShowImage(const SystemInfoImage& image) {
+  if (IsShown({reinterpret_cast<const char*>(image.data()), qsizetype(image.size())})) return;
+  const QImage pixels(image.data(), kSystemInfoImageWidth, kSystemInfoImageHeight,
+                      kSystemInfoImageWidth * 4, QImage::Format_RGBA8888);
+  // Without smoothing: each pixel of the picture becomes a square, or is left alone.
+  Show(QPixmap::fromImage(pixels.scaled((QSizeF(mSize) * mScale).toSize())));
+}
+
+void ToolbarGauge::ShowNamedImage(const char* name) {
+  if (IsShown(name)) return;
+  Show(NamedImage(name).pixmap(mSize, mScale));
+}
+
+void ToolbarGauge::Show(const QPixmap& picture) {
+  QPixmap pixmap((QSizeF(iconSize()) * mScale).toSize());
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  auto place = QRect({}, picture.size());
+  place.moveCenter(pixmap.rect().center());
+  painter.drawPixmap(place, picture);
+  painter.end();
+  pixmap.setDevicePixelRatio(mScale);
+  mIcon = QIcon(pixmap);
+  // The room for it is the same, so that nothing is laid out anew.
+  update();
+}
+
+void ToolbarGauge::SetFigures(const QString& figures) {
+  if (figures == accessibleDescription()) return;
+  setAccessibleDescription(figures);
+  setToolTip(figures + QLatin1String("\n\n") + mTip);
+}
+
+void ToolbarGauge::initStyleOption(QStyleOptionToolButton* option) const {
+  QToolButton::initStyleOption(option);
+  option->icon = mIcon;
+  option->iconSize = iconSize();
+  option->toolButtonStyle = toolButtonStyle();
+  option->state &= ~QStyle::State_MouseOver;
+}
+
+void ToolbarGauge::mousePressEvent(QMouseEvent* event) {
+  event->ignore();
+}
+
+}  // namespace lurkwell

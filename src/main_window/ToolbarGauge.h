@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QToolButton>
+
+#include "main_window/SystemInfoImage.h"
+
+namespace lurkwell {
+
+/// An item of the toolbar that shows a figure instead of doing something: looks as a button does,
+/// with the picture at its own size, and does not answer to clicks. Its figure is in the tooltip
+/// and in what is spoken of it. Main thread only.
+class ToolbarGauge final : public QToolButton {
+ public:
+  /// `size` is the picture's, in points; `iconHeight` that of the buttons beside it.
+  ToolbarGauge(QSize size, int iconHeight, const QString& label, const QString& tip);
+
+  /// Show a picture at whole pixels; nothing is drawn when it is the one that is shown already.
+  void ShowImage(const SystemInfoImage& image);
+  void ShowNamedImage(const char* name);
+
+  /// In words.
+  void SetFigures(const QString& figures);
+
+ protected:
+  void initStyleOption(QStyleOptionToolButton* option) const override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  /// A picture of so many points, in the middle of the room for it.
+  void Show(const QPixmap& picture);
+  bool IsShown(const QByteArray& picture);
+
+  QSize mSize;
+  QString mTip;
+  QIcon mIcon;
+  /// What is shown, and for which scale it was made.
+  QByteArray mShown;
+  qreal mScale = 0.0;
+};
+
+}  // namespace lurkwell
