@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 #include <thread>
 #include <utility>
 
@@ -21,7 +22,7 @@ constexpr WindowRect kUsualBounds{300, 300, 450, 370};
 constexpr int kLargestSide = 10'000;
 constexpr QSize kSmallestSize(60, 30);
 
-int gOpenWindows = 0;
+std::set<CPUHistoryWindowInformationClient*> gOpenWindows;
 
 int MPProcessors() {
   return static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
@@ -114,12 +115,18 @@ void CPUHistoryWindowInformationClient::NotifyPidHasBeenRemoved(int pid) {
     return;
   }
   if (mProcessGone) return;
-  const auto bounds = ContentBounds();
   if (Window() != nullptr) {
+    const auto bounds = ContentBounds();
     SetPersistentClientInfo(kCPUHistoryWindowKind, nullptr, nullptr, &bounds, &Identifier());
     DisposeOfWindows();
   }
   mProcessGone = true;
+}
+
+void CPUHistoryWindowInformationClient::RememberPlace() {
+  const auto bounds = ContentBounds();
+  if (std::exchange(mRememberedPlace, bounds) != bounds)
+    SetPersistentClientInfo(kCPUHistoryWindowKind, nullptr, nullptr, &bounds, &Identifier());
 }
 
 void CPUHistoryWindowInformationClient::NotifyProcessesHaveBeenUpdated() {
@@ -175,7 +182,8 @@ void CPUHistoryWindowInformationClient::CreateMacWindow() {
   CreateWindow(&mBounds, QString::number(mPid),
                kWindowCloseBoxAttribute | kWindowSideTitlebarAttribute,
                kWindowHideOnSuspendAttribute);
-  ++gOpenWindows;
+  gOpenWindows.insert(this);
+  mRememberedPlace = ContentBounds();
   Window()->SetPainter([this](QPainter& painter) { PaintGraph(painter); });
   if (!EnsureThatCocoaWindowIsFrontmostIfPossible()) Window()->raise();
   MarkKind();
@@ -211,7 +219,7 @@ void CPUHistoryWindowInformationClient::DisposeOfWindows() {
   Require(mCurrentPercentageWindow != nullptr, kHistoryUnit, "mCurrentPercentageWindow != NULL");
   mNameWindow = mHighWaterMarkWindow = mIconWindow = mCurrentPercentageWindow = nullptr;
   DisposeWindow();
-  --gOpenWindows;
+  gOpenWindows.erase(this);
 }
 
 void CPUHistoryWindowInformationClient::MarkKind() {
@@ -286,7 +294,11 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
 }
 
 int CountOpenCPUHistoryWindows() {
-  return gOpenWindows;
+  return static_cast<int>(gOpenWindows.size());
+}
+
+void RememberCPUHistoryPlaces() {
+  for (auto* client : gOpenWindows) client->RememberPlace();
 }
 
 }  // namespace lurkwell

@@ -35,6 +35,9 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "CPUHistoryWindowInformationClient"; }
 
+  /// Writes the window's place into its record when it has been moved since the last time.
+  void RememberPlace();
+
   OSStatus NotifyUpdate() override;
   OSStatus NotifyDrawContent() override;
   OSStatus NotifyClosed() override;
@@ -63,6 +66,7 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
 
   std::int32_t mPid;
   WindowRect mBounds;
+  WindowRect mRememberedPlace;
   bool mProcessGone = false;
   bool mIsApplication = false;
   TimeValue mLastUpdateTime;
@@ -92,5 +96,6 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
 
 /// How many of them are on the screen.
 int CountOpenCPUHistoryWindows();
+void RememberCPUHistoryPlaces();
 
 }  // namespace lurkwell

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "monitor_windows/LoggingWindowUI.h"
+#include "preferences/PreferenceBatch.h"
 
 namespace lurkwell {
 
@@ -19,18 +20,26 @@ void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t p
 
 void FollowingWindows::CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid,
                                               const Uuid* uuid, const WindowRect* rect) {
+  const PreferenceBatch batch;
   mHistories.create(interval, pid, uuid, rect);
 }
 
 void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t pid,
                                            const Uuid* uuid, const WindowRect* rect,
                                            std::int32_t prefsIndex) {
+  const PreferenceBatch batch;
   LoggingWindowUI::CreateLoggingWindowWithInterval(mLogFiles, interval, pid, uuid, rect,
                                                    prefsIndex);
 }
 
 int FollowingWindows::CountOpenWindows() const {
   return LoggingWindowUI::CountOpenWindows() + mHistories.countOpen();
+}
+
+void FollowingWindows::RememberPlaces() {
+  const PreferenceBatch batch;
+  LoggingWindowUI::RememberPlaces();
+  mHistories.rememberPlaces();
 }
 
 }  // namespace lurkwell

@@ -19,6 +19,7 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
                        const WindowRect* rect)>
         create;
     std::function<int()> countOpen;
+    std::function<void()> rememberPlaces;
   };
 
   /// `logFiles` outlives this.
@@ -32,6 +33,7 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
   void CreateLoggingWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
                            const WindowRect* rect, std::int32_t prefsIndex) override;
   int CountOpenWindows() const override;
+  void RememberPlaces() override;
 
  private:
   LogFiles& mLogFiles;

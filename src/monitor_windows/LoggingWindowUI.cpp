@@ -19,12 +19,13 @@
 #include "monitor_windows/LoggingWindowInformationClient2.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/ApplicationQuitting.h"
+#include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
 
 QPoint LoggingWindowUI::sLastLoggingWindowOriginForCascading;
-int LoggingWindowUI::sOpenWindows = 0;
+std::set<LoggingWindowUI*> LoggingWindowUI::sOpenWindows;
 
 namespace {
 
@@ -93,10 +94,14 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   controller->setTitle();
   controller->placeWindow(windowSize);
   WatchWindowOrder(*window);
+  // A window that comes back must not take the keyboard from another program.
+  const bool isActive = QApplication::applicationState() == Qt::ApplicationActive;
+  window->setAttribute(Qt::WA_ShowWithoutActivating, !isActive);
   window->show();
   window->raise();
-  window->activateWindow();
+  if (isActive) window->activateWindow();
   controller->mPIC = new LoggingWindowInformationClient2(theUuid, interval, *controller);
+  controller->mRememberedPlace = controller->frame();
   if (theUuid == nullptr) controller->rememberAsNew(controller->mPIC->Identifier());
   AddProcessInformationClient(controller->mPIC);
   window->controller = controller;
@@ -107,11 +112,11 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
 
 LoggingWindowUI::LoggingWindowUI(QWidget& window) : vqTableController(&window) {
   fWindow = &window;
-  ++sOpenWindows;
+  sOpenWindows.insert(this);
 }
 
 LoggingWindowUI::~LoggingWindowUI() {
-  --sOpenWindows;
+  sOpenWindows.erase(this);
   // A window that is deleted without having been closed.
   delete std::exchange(mPIC, nullptr);
 }
@@ -220,6 +225,16 @@ WindowRect LoggingWindowUI::frame() const {
   return {place.x(), place.y(), place.x() + fWindow->width(), place.y() + fWindow->height()};
 }
 
+void LoggingWindowUI::RememberPlaces() {
+  for (auto* log : sOpenWindows) {
+    const auto place = log->frame();
+    const bool isMoved = std::exchange(log->mRememberedPlace, place) != place;
+    if (isMoved && log->mPIC != nullptr && !log->mStateInfo.pidWentAway)
+      SetPersistentClientInfo(kLoggingWindowKind, nullptr, nullptr, &place,
+                              &log->mPIC->Identifier());
+  }
+}
+
 void LoggingWindowUI::rememberAsNew(const Uuid& uuid) const {
   char name[kRememberedTextSize];
   char kind[kRememberedTextSize];
@@ -284,6 +299,7 @@ void LoggingWindowUI::say(const QString& text) {
 // ---- The end ------------------------------------------------------------------------------------
 
 void LoggingWindowUI::processHasEnded() {
+  const PreferenceBatch batch;
   mStateInfo.pidWentAway = true;
   const auto place = frame();
   const auto index =

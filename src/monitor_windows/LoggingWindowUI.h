@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <deque>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -54,7 +55,9 @@ class LoggingWindowUI final : public vqTableController {
                                                           const WindowRect* windowSize,
                                                           std::int32_t somePrefIndex);
   /// How many there are.
-  static int CountOpenWindows() { return sOpenWindows; }
+  static int CountOpenWindows() { return static_cast<int>(sOpenWindows.size()); }
+  /// Has all of them write their places into their records, as far as they were moved.
+  static void RememberPlaces();
 
   ~LoggingWindowUI() override;
 
@@ -118,10 +121,11 @@ class LoggingWindowUI final : public vqTableController {
   void say(const QString& text);
   void copySelection() const;
 
-  static int sOpenWindows;
+  static std::set<LoggingWindowUI*> sOpenWindows;
 
   stateInfoStruct mStateInfo;
   LoggingWindowInformationClient2* mPIC = nullptr;
+  WindowRect mRememberedPlace;
   /// Those that are shown, in their order.
   std::vector<LoggingColumn> fColumns;
   QPointer<QLabel> fNote;

@@ -22,6 +22,9 @@ class MonitorWindowKinds {
                                    const WindowRect* rect, std::int32_t prefsIndex) = 0;
   /// How many there are of both kinds at present.
   virtual int CountOpenWindows() const = 0;
+  /// Writes the places of windows that were moved. Their processes may have ended unheard: windows
+  /// hear of it at their own intervals, and a program may be back before that.
+  virtual void RememberPlaces() = 0;
 };
 
 /// Shows the windows that are there from the start.

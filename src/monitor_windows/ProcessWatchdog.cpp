@@ -6,6 +6,7 @@
 
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Assertion.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
@@ -51,6 +52,8 @@ void ProcessWatchdog::Remember(int pid) {
 
 void ProcessWatchdog::NotifyProcessesHaveBeenUpdated() {
   if (mNewPids.Empty()) return;
+  const PreferenceBatch batch;
+  mKinds.RememberPlaces();
   mHistories.Refresh();
   mLogs.Refresh();
   while (!mNewPids.Empty()) OpenWindowsOf(mNewPids.Pop());

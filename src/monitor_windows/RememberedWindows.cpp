@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "platform/Assertion.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
@@ -58,6 +59,7 @@ std::int32_t SetPersistentClientInfo(const char* clientKind, const char* process
   const auto index = GetAppropriateIndexForUUID(clientKind, uuid);
   const bool complete = processName != nullptr && processKind != nullptr && rect != nullptr;
   if (!complete && index >= GetPrefArrayCount(clientKind)) return -1;
+  const PreferenceBatch batch;
   if (processName != nullptr) WriteText(clientKind, index, "PROCESS_NAME", processName);
   if (processKind != nullptr) WriteText(clientKind, index, "PROCESS_KIND", processKind);
   if (rect != nullptr)
@@ -71,6 +73,7 @@ void RemovePersistentClientInfo(const char* arrayName, const Uuid* uuid) {
   Require(arrayName != nullptr, kUnit, "arrayName != NULL");
   Require(uuid != nullptr, kUnit, "uuid != NULL");
   const auto text = uuid->Text();
+  const PreferenceBatch batch;
   for (std::int32_t index = GetPrefArrayCount(arrayName) - 1; index >= 0; --index)
     if (HasUuid(arrayName, index, text)) RemovePrefArrayElement(arrayName, index);
 }

@@ -104,7 +104,7 @@ class FollowingTest : public ConsolidatorTest, public StartUpWindows {
                     (rect != nullptr ? " at " + RectText(*rect) : ""));
          ++histories;
        },
-       [this] { return histories; }}};
+       [this] { return histories; }, [] {}}};
   int histories = 0;
 
  private:

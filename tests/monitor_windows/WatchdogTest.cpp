@@ -51,6 +51,12 @@ TEST_F(WatchdogTest, WindowsComeBackWithTheirProgram) {
   machine.processTable.Birth(500, "prog");
   Turn();
   EXPECT_EQ(Logs(), "400 at 150\n500 at 150\n") << "one for each instance";
+  for (auto* each : Windows())
+    if (each->stateInfo().pid == 500) each->window()->move(350, 160);
+  machine.processTable.Death(500);
+  machine.processTable.Birth(600, "prog");
+  Turn(500);
+  EXPECT_EQ(Logs(), "400 at 150\n500 at 350\n600 at 350\n") << "it was back before the log knew";
 }
 
 TEST_F(WatchdogTest, EveryRecordOfAProgramOpensItsWindow) {
