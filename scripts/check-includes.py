@@ -13,7 +13,7 @@ FLOORS = [
     {"preferences"},
     {"process_control", "consolidator"},
     {"resources"},  # beside src
-    {"main_window", "monitor_windows", "animated_view"},
+    {"main_window", "monitor_windows", "animated_view", "preferences_window"},
     {"app"},
 ]
 # Know the interfaces of platform and nobody else; only main.cpp and the tests name them.

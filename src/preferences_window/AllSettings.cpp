@@ -1,0 +1,142 @@
+#include "preferences_window/AllSettings.h"
+
+#include <QFile>
+#include <QHeaderView>
+#include <QScreen>
+#include <QShortcut>
+#include <QUiLoader>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cstdio>
+
+#include "main_window/FrontmostWindow.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr int kRefreshMilliseconds = 1000;
+constexpr int kCellMargin = 16;
+
+}  // namespace
+
+AllSettings* AllSettings::ShowOver(QWidget& parent) {
+  auto* window = parent.findChild<AllSettings*>(QString(), Qt::FindDirectChildrenOnly);
+  if (window == nullptr) {
+    window = new AllSettings(parent);
+    if (!window->loadInterface()) {
+      std::fprintf(stderr, "lurkwell: the form %s cannot be loaded\n", kFormPath);
+      delete window;
+      return nullptr;
+    }
+    window->setUpTable();
+    WatchWindowOrder(*window);
+  }
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->show();
+  window->raise();
+  window->activateWindow();
+  return window;
+}
+
+AllSettings::AllSettings(QWidget& parent)
+    : QWidget(&parent, Qt::Window),
+      fModel(new SettingsModel(this)),
+      fProxy(new QSortFilterProxyModel(this)) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setWindowTitle(LocalizedString("settings_title"));
+  setWindowIcon(NamedImage("show_preferences"));
+  fRefreshTimer.start(kRefreshMilliseconds);
+  connect(&fRefreshTimer, &QTimer::timeout, fModel, &SettingsModel::Refresh);
+}
+
+bool AllSettings::loadInterface() {
+  QFile form(QLatin1String{kFormPath});
+  auto* contents = form.open(QIODevice::ReadOnly) ? QUiLoader().load(&form, this) : nullptr;
+  if (contents == nullptr) return false;
+  fTable = contents->findChild<QTableView*>(QStringLiteral("settingsTable"));
+  fFilter = contents->findChild<QLineEdit*>(QStringLiteral("filterField"));
+  fNote = contents->findChild<QLabel*>(QStringLiteral("noteLabel"));
+  fReset = contents->findChild<QPushButton*>(QStringLiteral("resetButton"));
+  auto* close = contents->findChild<QPushButton*>(QStringLiteral("closeButton"));
+  if (fTable == nullptr || fFilter == nullptr || fNote == nullptr || fReset == nullptr ||
+      close == nullptr)
+    return false;
+  constexpr QSize kFrame(16, 48);
+  resize(contents->size().boundedTo(screen()->availableSize() - kFrame));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(contents);
+  connect(close, &QPushButton::clicked, this, &QWidget::close);
+  connect(fReset, &QPushButton::clicked, this, &AllSettings::resetSelection);
+  for (const auto& key : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
+    connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
+  auto* find = new QShortcut(QKeySequence::Find, this);
+  connect(find, &QShortcut::activated, fFilter, [this] { fFilter->setFocus(); });
+  return true;
+}
+
+void AllSettings::setUpTable() {
+  fProxy->setSourceModel(fModel);
+  fProxy->setFilterKeyColumn(-1);
+  fProxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+  connect(fFilter, &QLineEdit::textChanged, fProxy, &QSortFilterProxyModel::setFilterFixedString);
+  fTable->setModel(fProxy);
+  fTable->setAccessibleName(LocalizedString("settings_title"));
+  // By subject until the user wants another order.
+  fTable->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  fTable->setSortingEnabled(true);
+  fTable->horizontalHeader()->setStretchLastSection(true);
+  fTable->horizontalHeader()->setHighlightSections(false);
+  fTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  fTable->verticalHeader()->hide();
+  fTable->verticalHeader()->setDefaultSectionSize(fTable->fontMetrics().height() + 8);
+  setColumnWidths();
+  connect(fTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &AllSettings::selectionHasChanged);
+  connect(fModel, &SettingsModel::dataChanged, this, &AllSettings::selectionHasChanged);
+  connect(fModel, &SettingsModel::changed, this, &AllSettings::changed);
+  // After the editor's end, which selects.
+  connect(
+      fModel, &SettingsModel::refused, this,
+      [this](const QString& problem) { fNote->setText(problem); }, Qt::QueuedConnection);
+  fTable->selectRow(0);
+}
+
+void AllSettings::setColumnWidths() {
+  const auto& metrics = fTable->fontMetrics();
+  for (int column = 0; column < SettingsModel::kMeaning; ++column) {
+    const auto title = fModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    int widest = metrics.horizontalAdvance(title) + kCellMargin;
+    // A window's place and a few long keys need not be seen whole.
+    const int most = metrics.averageCharWidth() * (column == SettingsModel::kKey ? 64 : 24);
+    for (int row = 0; row < fModel->rowCount(); ++row)
+      widest =
+          std::max(widest, metrics.horizontalAdvance(fModel->index(row, column).data().toString()));
+    fTable->setColumnWidth(column, std::min(widest, most) + kCellMargin);
+  }
+}
+
+QList<int> AllSettings::selectedRows() const {
+  QList<int> rows;
+  for (const auto& index : fTable->selectionModel()->selectedRows())
+    rows += fProxy->mapToSource(index).row();
+  return rows;
+}
+
+void AllSettings::selectionHasChanged() {
+  const auto rows = selectedRows();
+  fReset->setEnabled(std::ranges::any_of(rows, [this](int row) { return fModel->CanReset(row); }));
+  QString note;
+  if (rows.size() == 1)
+    note = MeaningOf(PreferenceCatalogue()[static_cast<std::size_t>(rows.first())]) +
+           QLatin1Char(' ') + fModel->NoteOf(rows.first());
+  fNote->setText(note);
+}
+
+void AllSettings::resetSelection() {
+  for (const int row : selectedRows()) fModel->Reset(row);
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+#include <QTimer>
+#include <QWidget>
+
+#include "preferences_window/SettingsModel.h"
+
+namespace lurkwell {
+
+/// A window with every setting there is, for those that have no control of their own. There is one
+/// at most per preferences window, which it closes with. Main thread only.
+class AllSettings final : public QWidget {
+  Q_OBJECT
+
+ public:
+  static constexpr char kFormPath[] = ":/forms/AllSettings.ui";
+
+  /// Opens the window over `parent`, which owns it, or brings the one that is there to the front.
+  /// Null when its form cannot be loaded, which is said on standard error.
+  static AllSettings* ShowOver(QWidget& parent);
+
+  QTableView& table() { return *fTable; }
+
+ Q_SIGNALS:
+  /// A setting was changed here.
+  void changed();
+
+ private:
+  explicit AllSettings(QWidget& parent);
+
+  bool loadInterface();
+  void setUpTable();
+  void setColumnWidths();
+  QList<int> selectedRows() const;
+  void selectionHasChanged();
+  void resetSelection();
+
+  SettingsModel* fModel;
+  QSortFilterProxyModel* fProxy;
+  QTableView* fTable = nullptr;
+  QLineEdit* fFilter = nullptr;
+  QLabel* fNote = nullptr;
+  QPushButton* fReset = nullptr;
+  QTimer fRefreshTimer;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,97 @@
+#include "preferences_window/PreferenceChanges.h"
+
+#include <QLocale>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "consolidator/ProcessInformationClient.h"
+#include "preferences/PreferenceBatch.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+/// From the shortest to the longest.
+constexpr std::array<const char*, 3> kOrderedKeys = {"HEARTQUIVA_GL_THREAD_INTERVAL",
+                                                     "HEARTQUIVA_MAINPIC_INTERVAL",
+                                                     "HEARTQUIVA_HELPERPIC_INTERVAL"};
+
+void StoreNumber(const PreferenceEntry& entry, double value) {
+  if (entry.kind == PreferenceKind::kInterval)
+    StoreInterval(entry, static_cast<int>(value));
+  else if (entry.IsInteger())
+    SetPrefInt(entry.key, static_cast<std::int32_t>(value));
+  else
+    SetPrefDouble(entry.key, value);
+}
+
+/// As it is typed: no exponents where a plain number will do.
+QString Plain(double number) {
+  return QString::number(number, 'g', 12);
+}
+
+}  // namespace
+
+void StoreInterval(const PreferenceEntry& entry, int milliseconds,
+                   const std::function<void(const PreferenceEntry&, int)>& followed) {
+  const PreferenceBatch batch;
+  SetPrefInt(entry.key, milliseconds);
+  const auto* moved = std::ranges::find(kOrderedKeys, std::string_view(entry.key),
+                                        [](const char* key) { return std::string_view(key); });
+  if (moved == kOrderedKeys.end()) return;
+  for (const auto* other = kOrderedKeys.begin(); other != kOrderedKeys.end(); ++other) {
+    std::uint8_t found = 0;
+    const auto value = GetPrefInt(*other, &found, false, 0);
+    const bool isOutOfOrder = other < moved ? value > milliseconds : value < milliseconds;
+    if (found == 0 || !isOutOfOrder) continue;
+    SetPrefInt(*other, milliseconds);
+    if (followed) followed(*FindPreference(*other), milliseconds);
+  }
+}
+
+void NotifyOf(const PreferenceEntry& entry) {
+  if (entry.told != nullptr)
+    ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(entry.told);
+}
+
+ReadValue ReadNumber(const PreferenceEntry& entry, const QString& text) {
+  bool isNumber = false;
+  const QString plain = text.trimmed();
+  double value = plain.toDouble(&isNumber);
+  if (!isNumber) value = QLocale().toDouble(plain, &isNumber);
+  if (!isNumber || !std::isfinite(value))
+    return {std::nullopt, LocalizedString("settings_problem_no_number").arg(text)};
+  if (entry.IsInteger() && value != std::trunc(value))
+    return {std::nullopt, LocalizedString("settings_problem_not_whole").arg(text)};
+  if (value < entry.least || value > entry.most)
+    return {
+        std::nullopt,
+        LocalizedString("settings_problem_range").arg(text, Plain(entry.least), Plain(entry.most))};
+  return {value, {}};
+}
+
+void ChangeNumber(const PreferenceEntry& entry, double value) {
+  StoreNumber(entry, value);
+  NotifyOf(entry);
+}
+
+bool ChangeText(const PreferenceEntry& entry, const QString& text) {
+  const QByteArray bytes = text.toLatin1();
+  for (const QChar c : text)
+    if (c < u' ' || c > u'~') return false;
+  SetPrefString(entry.key, bytes.constData());
+  NotifyOf(entry);
+  return true;
+}
+
+void ResetPreference(const PreferenceEntry& entry) {
+  const PreferenceBatch batch;
+  if (entry.HasDefault() && entry.IsNumber()) StoreNumber(entry, entry.defaultValue);
+  if (entry.told != nullptr && entry.HasDefault()) NotifyOf(entry);
+  RemovePref(entry.key);
+  if (!entry.HasDefault()) NotifyOf(entry);
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "preferences_window/PreferenceCatalogue.h"
+
+namespace lurkwell {
+
+/// What both windows do to the settings: a change is stored at once, other settings follow where
+/// they must, and then those concerned are told, once. Main thread only.
+
+/// Stores the milliseconds. The animated view's frame, main and CPU intervals keep their order: the
+/// one that is changed wins, and a stored one that would be out of order follows. `followed` hears
+/// of every key that did.
+void StoreInterval(const PreferenceEntry& entry, int milliseconds,
+                   const std::function<void(const PreferenceEntry&, int)>& followed = {});
+
+/// Tells the entry's clients, if it has any.
+void NotifyOf(const PreferenceEntry& entry);
+
+/// A text that the user gave for a setting, as a number.
+struct ReadValue {
+  /// Nothing when it is refused.
+  std::optional<double> value;
+  /// Why, for the user.
+  QString problem;
+};
+ReadValue ReadNumber(const PreferenceEntry& entry, const QString& text);
+
+/// Stores a number that lies in the entry's range, and tells.
+void ChangeNumber(const PreferenceEntry& entry, double value);
+
+/// Stores a text, and tells. False, and nothing done, when it has characters that preferences
+/// cannot hold.
+bool ChangeText(const PreferenceEntry& entry, const QString& text);
+
+/// Removes the key. Those concerned are told while the default stands under it, since a missing
+/// value would leave them with what they have.
+void ResetPreference(const PreferenceEntry& entry);
+
+}  // namespace lurkwell

@@ -1,0 +1,303 @@
+#include "preferences_window/PreferencesUI.h"
+
+#include <QCloseEvent>
+#include <QFile>
+#include <QRadioButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStyle>
+#include <QUiLoader>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <memory>
+#include <utility>
+
+#include "main_window/ControllerAssertion.h"
+#include "main_window/FrontmostWindow.h"
+#include "platform/Alerts.h"
+#include "platform/Machine.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "preferences_window/AllSettings.h"
+#include "preferences_window/PreferenceChanges.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+
+vqPreferencesUI* gThePreferencesUI = nullptr;
+
+namespace {
+
+constexpr char kTabKey[] = "PREFERENCES_UI_DEFAULT_TAB";
+constexpr const char* kUnit = "PreferencesUI";
+/// Of the whole contents, in points, a page each.
+constexpr int kHeights[] = {283, 214, 373, 309, 353};
+constexpr int kTabs = static_cast<int>(std::size(kHeights));
+/// A change under the mouse counts when it has stood for so long: each goes to disk.
+constexpr int kDragMilliseconds = 100;
+
+/// Tells its controller, which belongs to it, that it is being closed.
+class PreferencesWindow final : public QWidget {
+ public:
+  PreferencesWindow() {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+  }
+
+  vqPreferencesUI* controller = nullptr;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->accept();
+    if (auto* closing = std::exchange(controller, nullptr)) closing->windowWillClose();
+  }
+};
+
+void BringToFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+/// Names that only the eye would find are told to those who listen.
+void NameSliders(const QWidget& contents) {
+  for (const auto* label : contents.findChildren<QLabel*>())
+    if (auto* buddy = label->buddy())
+      buddy->setAccessibleName(label->text().remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+}
+
+}  // namespace
+
+// ---- Opening and closing ------------------------------------------------------------------------
+
+void vqPreferencesUI::runWithTab(int tab, const QString& form) {
+  if (gThePreferencesUI != nullptr) return BringToFront(*gThePreferencesUI->fWindow);
+  auto window = std::make_unique<PreferencesWindow>();
+  auto* controller = new vqPreferencesUI(*window);
+  controller->initWithTabShowing(tab);
+  if (!controller->loadInterface(form)) {
+    std::fprintf(stderr, "MainWindowCocoa.nib failed to load\n");
+    window.reset();
+    TheMachine().alerts.RunAlertPanel(
+        LocalizedString("preferences_form_missing").toStdString(),
+        LocalizedString("preferences_form_missing_text").toStdString(), "OK", "", "");
+    return;
+  }
+  gThePreferencesUI = controller;
+  controller->awakeFromNib();
+  window->controller = controller;
+  WatchWindowOrder(*window);
+  // It deletes itself when it is closed.
+  BringToFront(*window.release());
+}
+
+void vqPreferencesUI::closeIfOpen() {
+  if (gThePreferencesUI != nullptr) gThePreferencesUI->fWindow->close();
+}
+
+vqPreferencesUI::vqPreferencesUI(QWidget& window) : QObject(&window), fWindow(&window) {
+  fDragTimer.setSingleShot(true);
+  fDragTimer.setInterval(kDragMilliseconds);
+  connect(&fDragTimer, &QTimer::timeout, this, &vqPreferencesUI::takePendingValue);
+  connect(&fGrowth, &QVariantAnimation::valueChanged, this,
+          [this](const QVariant& height) { fWindow->setFixedHeight(height.toInt()); });
+}
+
+vqPreferencesUI::~vqPreferencesUI() {
+  if (gThePreferencesUI == this) gThePreferencesUI = nullptr;
+}
+
+void vqPreferencesUI::initWithTabShowing(int tab) {
+  fTabToShow = tab;
+  if (tab != kRememberedTab) return;
+  fTabToShow = GetPrefInt(kTabKey, nullptr, true, 0);
+  // Preferences may hold any number.
+  if (fTabToShow < 0 || fTabToShow >= kTabs) fTabToShow = 0;
+}
+
+bool vqPreferencesUI::loadInterface(const QString& form) {
+  QFile file(form);
+  auto* contents = file.open(QIODevice::ReadOnly) ? QUiLoader().load(&file, fWindow) : nullptr;
+  if (contents == nullptr) return false;
+  fTabView = contents->findChild<QTabWidget*>(QStringLiteral("tabView"));
+  fNotice = contents->findChild<QLabel*>(QStringLiteral("changeNotice"));
+  if (fTabView == nullptr || fTabView->count() != kTabs || fNotice == nullptr) return false;
+  const auto isThere = [contents](const PreferenceControl& control) {
+    return contents->findChild<QWidget*>(QLatin1String(control.name)) != nullptr;
+  };
+  if (!std::ranges::all_of(PreferenceControls(), isThere)) return false;
+  auto* layout = new QVBoxLayout(fWindow);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSizeConstraint(QLayout::SetNoConstraint);
+  layout->addWidget(contents);
+  return true;
+}
+
+void vqPreferencesUI::awakeFromNib() {
+  fWindow->setWindowTitle(LocalizedString("preferences_title"));
+  fWindow->setWindowIcon(NamedImage("show_preferences"));
+  auto policy = fNotice->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  fNotice->setSizePolicy(policy);
+  PutNotificationChangeTextOnScreen(false);
+  NameSliders(*fWindow);
+  if (!Expect(fTabToShow != -1, kUnit, "Invalid initial tab setting in pref panel")) fTabToShow = 0;
+  fTabView->setCurrentIndex(fTabToShow);
+  fWindow->ensurePolished();
+  internalTabViewItem(fTabToShow);
+  loadControls();
+  connect(fTabView, &QTabWidget::currentChanged, this, &vqPreferencesUI::didSelectTabViewItem);
+  for (const auto& control : PreferenceControls()) connectControl(control);
+  for (const auto& key : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
+    connect(new QShortcut(key, fWindow), &QShortcut::activated, fWindow, &QWidget::close);
+  if (auto* button = fWindow->findChild<QPushButton*>(QStringLiteral("closeButton")))
+    connect(button, &QPushButton::clicked, fWindow, &QWidget::close);
+  if (auto* button = fWindow->findChild<QPushButton*>(QStringLiteral("allSettingsButton")))
+    connect(button, &QPushButton::clicked, this, &vqPreferencesUI::showAllSettings);
+}
+
+void vqPreferencesUI::windowWillClose() {
+  takePendingValue();
+  SetPrefInt(kTabKey, fTabToShow);
+  for (auto* child : fWindow->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+    if (child->isWindow()) child->close();
+  if (gThePreferencesUI == this) gThePreferencesUI = nullptr;
+  Q_EMIT closed();
+}
+
+// ---- Controls -----------------------------------------------------------------------------------
+
+void vqPreferencesUI::connectControl(const PreferenceControl& control) {
+  auto* widget = fWindow->findChild<QWidget*>(QLatin1String(control.name));
+  if (control.kind == ControlKind::kMatrix) {
+    for (auto* row : widget->findChildren<QRadioButton*>())
+      connect(row, &QRadioButton::clicked, this, [this, widget] { takeValueFrom(*widget); });
+  } else if (auto* slider = qobject_cast<QSlider*>(widget)) {
+    connectSlider(*slider, control);
+  } else if (auto* well = qobject_cast<QPushButton*>(widget)) {
+    connect(well, &QPushButton::clicked, this,
+            [this, well, &control] { chooseColour(*well, control); });
+  } else if (auto* box = qobject_cast<QAbstractButton*>(widget)) {
+    connect(box, &QAbstractButton::toggled, this, [this, box] { takeValueFrom(*box); });
+  }
+}
+
+void vqPreferencesUI::connectSlider(QSlider& slider, const PreferenceControl& control) {
+  connect(&slider, &QSlider::valueChanged, this, [this, &slider, &control] {
+    if (!slider.isSliderDown()) return takeValueFrom(slider);
+    DescribeSlider(*fWindow, control);
+    takeSoon(slider);
+  });
+  connect(&slider, &QSlider::sliderReleased, this, &vqPreferencesUI::takePendingValue);
+}
+
+void vqPreferencesUI::takeSoon(QWidget& sender) {
+  fDragged = &sender;
+  if (!fDragTimer.isActive()) fDragTimer.start();
+}
+
+void vqPreferencesUI::takePendingValue() {
+  fDragTimer.stop();
+  const QPointer<QWidget> sender = std::exchange(fDragged, nullptr);
+  if (sender != nullptr) takeValueFrom(*sender);
+}
+
+void vqPreferencesUI::takeValueFrom(const QWidget& sender) {
+  const auto name = sender.objectName();
+  const auto controls = PreferenceControls();
+  const auto control = std::ranges::find_if(
+      controls, [&](const auto& one) { return name == QLatin1String(one.name); });
+  if (control == controls.end()) return;
+  StoreControl(*fWindow, *control);
+  if (control->isForNewWindows) PutNotificationChangeTextOnScreen(true);
+  NotifyOf(EntryOf(*control));
+}
+
+void vqPreferencesUI::loadControls() {
+  for (const auto& control : PreferenceControls()) LoadControl(*fWindow, control);
+}
+
+void vqPreferencesUI::chooseColour(QPushButton& well, const PreferenceControl& control) {
+  const auto before = ShownColour(well);
+  auto* dialog = new QColorDialog(before, fWindow);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOption(QColorDialog::DontUseNativeDialog);
+  dialog->setWindowTitle(well.accessibleName());
+  dialog->setModal(true);
+  const auto take = [this, &well](const QColor& colour) {
+    ShowColour(well, colour);
+    takeSoon(well);
+  };
+  connect(dialog, &QColorDialog::currentColorChanged, this, take);
+  connect(dialog, &QColorDialog::finished, this, [this, &well, &control, before](int result) {
+    takePendingValue();
+    if (result == QDialog::Accepted || ShownColour(well) == before) return;
+    ShowColour(well, before);
+    StoreControl(*fWindow, control);
+    NotifyOf(EntryOf(control));
+  });
+  dialog->show();
+}
+
+void vqPreferencesUI::PutNotificationChangeTextOnScreen(bool show) {
+  fNotice->setVisible(show);
+}
+
+void vqPreferencesUI::showAllSettings() {
+  auto* window = AllSettings::ShowOver(*fWindow);
+  if (window == nullptr) return;
+  connect(window, &AllSettings::changed, this, &vqPreferencesUI::loadControls,
+          Qt::UniqueConnection);
+}
+
+// ---- Pages --------------------------------------------------------------------------------------
+
+void vqPreferencesUI::didSelectTabViewItem(int index) {
+  internalTabViewItem(index);
+}
+
+void vqPreferencesUI::internalTabViewItem(int index) {
+  if (!Expect(index >= 0 && index < kTabs, kUnit, "We're on an invalid tab in internalTabViewItem"))
+    return;
+  fTabToShow = index;
+  // Only the page that is shown counts for the height.
+  for (int page = 0; page < fTabView->count(); ++page)
+    fTabView->widget(page)->setSizePolicy(
+        QSizePolicy::Preferred, page == index ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+  setHeight(heightForTab(index), fWindow->isVisible());
+}
+
+int vqPreferencesUI::heightForTab(int index) const {
+  // Larger fonts and other themes need more.
+  auto* layout = fWindow->layout();
+  // From the page outwards; what they needed before is kept on every level.
+  for (auto* widget = static_cast<QWidget*>(fTabView); widget != fWindow;
+       widget = widget->parentWidget())
+    widget->updateGeometry();
+  const int width = std::max(fWindow->width(), layout->minimumSize().width());
+  int needed = layout->minimumSize().height();
+  if (layout->hasHeightForWidth()) needed = std::max(needed, layout->heightForWidth(width));
+  return std::max(kHeights[index], needed);
+}
+
+void vqPreferencesUI::setHeight(int height, bool animated) {
+  fGrowth.stop();
+  const auto* layout = fWindow->layout();
+  fWindow->setMinimumWidth(layout->minimumSize().width());
+  const int duration =
+      animated ? fWindow->style()->styleHint(QStyle::SH_Widget_Animation_Duration) : 0;
+  if (duration <= 0) {
+    fWindow->setFixedHeight(height);
+    if (!animated) fWindow->resize(std::max(fWindow->width(), layout->sizeHint().width()), height);
+    return;
+  }
+  // A window is measured from its top: that edge stays.
+  fGrowth.setDuration(duration);
+  fGrowth.setStartValue(fWindow->height());
+  fGrowth.setEndValue(height);
+  fGrowth.start();
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,201 @@
+#include "preferences_window/SettingsModel.h"
+
+#include <QFont>
+#include <QPalette>
+
+#include "platform/Machine.h"
+#include "platform/PreferenceDomain.h"
+#include "preferences_window/PreferenceChanges.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+QString NumberText(double number) {
+  return QString::number(number, 'g', 12);
+}
+
+QString TextOf(std::int64_t integer) {
+  return QString::number(integer);
+}
+QString TextOf(double real) {
+  return NumberText(real);
+}
+QString TextOf(const std::string& text) {
+  return QString::fromStdString(text);
+}
+QString TextOf(const PreferenceArray& array) {
+  return LocalizedString("settings_elements").arg(array.size());
+}
+
+/// Null when nothing is stored.
+QString StoredText(const PreferenceEntry& entry) {
+  const auto* value = TheMachine().preferenceDomain.Value(entry.key);
+  if (value == nullptr) return {};
+  const QString text = std::visit([](const auto& held) { return TextOf(held); }, *value);
+  return text.isNull() ? QStringLiteral("") : text;
+}
+
+QString DefaultText(const PreferenceEntry& entry) {
+  return entry.HasDefault() ? NumberText(entry.defaultValue) : QString();
+}
+
+QString KindText(const PreferenceEntry& entry) {
+  constexpr const char* kIds[] = {"settings_kind_switch",   "settings_kind_integer",
+                                  "settings_kind_interval", "settings_kind_colour",
+                                  "settings_kind_real",     "settings_kind_text",
+                                  "settings_kind_array"};
+  const QString text = LocalizedString(kIds[static_cast<int>(entry.kind)]);
+  if (entry.kind != PreferenceKind::kInteger && entry.kind != PreferenceKind::kReal) return text;
+  if (entry.most >= std::numeric_limits<std::int32_t>::max()) return text;
+  return LocalizedString("settings_kind_range")
+      .arg(text, NumberText(entry.least), NumberText(entry.most));
+}
+
+QString EffectText(const PreferenceEntry& entry) {
+  constexpr const char* kIds[] = {"settings_effect_at_once", "settings_effect_new_windows",
+                                  "settings_effect_next_start"};
+  return LocalizedString(kIds[static_cast<int>(entry.effect)]);
+}
+
+bool IsNumberText(const QString& text) {
+  bool isNumber = false;
+  text.toDouble(&isNumber);
+  return isNumber;
+}
+
+}  // namespace
+
+SettingsModel::SettingsModel(QObject* parent)
+    : QAbstractTableModel(parent), fStored(PreferenceCatalogue().size()) {
+  Refresh();
+}
+
+const PreferenceEntry& SettingsModel::EntryAt(int row) {
+  return PreferenceCatalogue()[static_cast<std::size_t>(row)];
+}
+
+int SettingsModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(fStored.size());
+}
+
+int SettingsModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumns;
+}
+
+QVariant SettingsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  constexpr const char* kIds[kColumns] = {"settings_column_key",     "settings_column_value",
+                                          "settings_column_default", "settings_column_kind",
+                                          "settings_column_effect",  "settings_column_meaning"};
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section >= kColumns) return {};
+  return LocalizedString(kIds[section]);
+}
+
+QVariant SettingsModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const auto& entry = EntryAt(index.row());
+  if (index.column() == kValue) return ValueData(index.row(), role);
+  if (role == Qt::ToolTipRole) return MeaningOf(entry);
+  if (role != Qt::DisplayRole) return {};
+  switch (index.column()) {
+    case kKey:
+      return QLatin1String(entry.key);
+    case kDefault:
+      return DefaultText(entry);
+    case kKind:
+      return KindText(entry);
+    case kEffect:
+      return EffectText(entry);
+    default:
+      return MeaningOf(entry);
+  }
+}
+
+QVariant SettingsModel::ValueData(int row, int role) const {
+  const auto& entry = EntryAt(row);
+  const auto& stored = fStored[static_cast<std::size_t>(row)];
+  const QString counts = stored.isNull() ? DefaultText(entry) : stored;
+  if (role == Qt::DisplayRole || role == Qt::EditRole) return counts;
+  if (role == Qt::ToolTipRole) return NoteOf(row);
+  if (role == Qt::CheckStateRole && entry.kind == PreferenceKind::kBoolean)
+    return counts.toDouble() != 0 ? Qt::Checked : Qt::Unchecked;
+  if (role == Qt::FontRole && entry.kind != PreferenceKind::kArray) {
+    QFont font;
+    font.setBold(!stored.isNull() && entry.HasDefault() && stored != DefaultText(entry));
+    font.setItalic(stored.isNull());
+    return font;
+  }
+  return {};
+}
+
+Qt::ItemFlags SettingsModel::flags(const QModelIndex& index) const {
+  auto flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+  if (!index.isValid() || index.column() != kValue) return flags;
+  const auto kind = EntryAt(index.row()).kind;
+  if (kind == PreferenceKind::kBoolean) return flags | Qt::ItemIsUserCheckable;
+  return kind == PreferenceKind::kArray ? flags : flags | Qt::ItemIsEditable;
+}
+
+bool SettingsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (!index.isValid() || index.column() != kValue) return false;
+  const auto& entry = EntryAt(index.row());
+  if (role == Qt::CheckStateRole && entry.kind == PreferenceKind::kBoolean)
+    return Change(entry, value.toInt() == Qt::Checked ? QStringLiteral("1") : QStringLiteral("0"));
+  if (role != Qt::EditRole || entry.kind == PreferenceKind::kArray) return false;
+  // An editor that was opened and left says what was there.
+  if (value.toString() == ValueData(index.row(), Qt::EditRole).toString()) return false;
+  return Change(entry, value.toString());
+}
+
+bool SettingsModel::Change(const PreferenceEntry& entry, const QString& text) {
+  if (entry.IsNumber()) {
+    const auto read = ReadNumber(entry, text);
+    if (!read.value) {
+      Q_EMIT refused(read.problem);
+      return false;
+    }
+    ChangeNumber(entry, *read.value);
+  } else if (!ChangeText(entry, text)) {
+    Q_EMIT refused(LocalizedString("settings_problem_characters"));
+    return false;
+  }
+  Refresh();
+  Q_EMIT changed();
+  return true;
+}
+
+bool SettingsModel::CanReset(int row) const {
+  return !fStored[static_cast<std::size_t>(row)].isNull() &&
+         EntryAt(row).kind != PreferenceKind::kArray;
+}
+
+void SettingsModel::Reset(int row) {
+  if (!CanReset(row)) return;
+  ResetPreference(EntryAt(row));
+  Refresh();
+  Q_EMIT changed();
+}
+
+void SettingsModel::Refresh() {
+  for (std::size_t i = 0; i < fStored.size(); ++i) {
+    const auto row = static_cast<int>(i);
+    QString text = StoredText(EntryAt(row));
+    if (text == fStored[i] && text.isNull() == fStored[i].isNull()) continue;
+    fStored[i] = std::move(text);
+    Q_EMIT dataChanged(index(row, kValue), index(row, kValue));
+  }
+}
+
+QString SettingsModel::NoteOf(int row) const {
+  const auto& entry = EntryAt(row);
+  const auto& stored = fStored[static_cast<std::size_t>(row)];
+  if (entry.kind == PreferenceKind::kArray) return LocalizedString("settings_note_array");
+  if (!stored.isNull() && entry.IsNumber() && !IsNumberText(stored))
+    return LocalizedString("settings_note_no_number");
+  constexpr const char* kIds[] = {"settings_note_at_once", "settings_note_new_windows",
+                                  "settings_note_next_start"};
+  const QString effect = LocalizedString(kIds[static_cast<int>(entry.effect)]);
+  return stored.isNull() ? LocalizedString("settings_note_not_stored").arg(effect) : effect;
+}
+
+}  // namespace lurkwell

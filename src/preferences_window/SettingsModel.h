@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QString>
+#include <vector>
+
+#include "preferences_window/PreferenceCatalogue.h"
+
+namespace lurkwell {
+
+/// Every setting there is, a row each in the catalogue's order: what is stored, the default, and
+/// what it is for. Values are edited here, switches as check boxes, all others as text. Main thread
+/// only.
+class SettingsModel final : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  enum Column { kKey, kValue, kDefault, kKind, kEffect, kMeaning, kColumns };
+
+  explicit SettingsModel(QObject* parent = nullptr);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+  /// Stores a value that fits and tells those concerned; refuses any other.
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+  /// Whether there is something to remove. The program's own records are left to it.
+  bool CanReset(int row) const;
+  void Reset(int row);
+
+  /// Looks whether anything is different now; others change settings too.
+  void Refresh();
+
+  /// What the user should know about a row.
+  QString NoteOf(int row) const;
+
+ Q_SIGNALS:
+  void refused(const QString& problem);
+  void changed();
+
+ private:
+  static const PreferenceEntry& EntryAt(int row);
+  bool Change(const PreferenceEntry& entry, const QString& text);
+  QVariant ValueData(int row, int role) const;
+
+  /// What is stored, as texts; null for nothing.
+  std::vector<QString> fStored;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,149 @@
+// The interval scale against its tables, written down once more as cases.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+#include "preferences_window/IntervalScale.h"
+
+namespace lurkwell {
+namespace {
+
+int Milliseconds(int position) {
+  return givenPhysicalValueCalcLogicalValueForMainWindowUpdateFreq(position);
+}
+int Position(int milliseconds) {
+  return givenLogicalValueCalcPhysicalValueForMainWindowUpdateControlFreq(milliseconds);
+}
+std::string Words(int milliseconds) {
+  return givenMillisecondsCalcStringDescriptionForMainWindowFreq(milliseconds).toStdString();
+}
+
+int ExpectedMilliseconds(int p) {
+  if (p < 20) return 100;
+  if (p < 40) return 111;
+  if (p < 60) return 125;
+  if (p < 80) return 142;
+  if (p < 100) return 166;
+  if (p < 120) return 200;
+  if (p < 140) return 250;
+  if (p < 160) return 333;
+  if (p < 180) return 500;
+  if (p < 200) return 1000;
+  if (p < 300) return p * 40 - 7'000;
+  if (p < 400) return p * 50 - 10'000;
+  if (p < 500) return p * 200 - 70'000;
+  if (p < 600) return p * 300 - 120'000;
+  if (p < 700) return p * 2'400 - 1'380'000;
+  if (p < 800) return p * 3'000 - 1'800'000;
+  if (p < 900) return p * 12'000 - 9'000'000;
+  return p * 18'000 - 14'400'000;
+}
+
+int ExpectedPosition(int m) {
+  if (m < 5'000) return 200 + (m - 1'000) / 40;
+  if (m < 10'000) return 300 + (m - 5'000) / 50;
+  if (m < 30'000) return 400 + (m - 10'000) / 200;
+  if (m < 60'000) return 500 + (m - 30'000) / 300;
+  if (m < 300'000) return 600 + (m - 60'000) / 2'400;
+  if (m < 600'000) return 700 + (m - 300'000) / 3'000;
+  if (m < 1'800'000) return 800 + (m - 600'000) / 12'000;
+  return 900 + (m - 1'800'000) / 18'000;
+}
+
+const std::map<int, int> kShortPositions = {{100, 0},   {111, 20}, {125, 40},  {142, 60},
+                                            {166, 80},  {167, 80}, {200, 100}, {250, 120},
+                                            {333, 140}, {500, 160}};
+
+class IntervalScaleTest : public testing::Test {
+ protected:
+  IntervalScaleTest() { testing::internal::CaptureStderr(); }
+  ~IntervalScaleTest() override { testing::internal::GetCapturedStderr(); }
+
+  /// What was said since it was asked last.
+  std::string Failures() {
+    const std::string said = testing::internal::GetCapturedStderr();
+    testing::internal::CaptureStderr();
+    return said;
+  }
+  void ExpectFailure(const char* method, const char* text) {
+    const std::string said = Failures();
+    EXPECT_NE(said.find(method), std::string::npos) << said;
+    EXPECT_NE(said.find("PreferencesUI"), std::string::npos) << said;
+    EXPECT_NE(said.find(text), std::string::npos) << said;
+  }
+};
+
+TEST_F(IntervalScaleTest, EveryPositionAndEveryIntervalOfTheScale) {
+  for (int p = 0; p <= 1000; ++p) {
+    ASSERT_EQ(Milliseconds(p), ExpectedMilliseconds(p)) << p;
+    // A slider that is loaded from what it stored goes back to the beginning of its stretch, or
+    // to the place of a second.
+    const int again = Position(Milliseconds(p));
+    ASSERT_EQ(again, p >= 200 ? p : p >= 180 ? 200 : p / 20 * 20) << p;
+  }
+  for (const auto& [milliseconds, position] : kShortPositions)
+    EXPECT_EQ(Position(milliseconds), position) << milliseconds;
+  for (int m = 1'000; m <= 3'600'000; ++m) ASSERT_EQ(Position(m), ExpectedPosition(m)) << m;
+  EXPECT_EQ(Failures(), "");
+}
+
+TEST_F(IntervalScaleTest, WhatTheScaleDoesNotHaveFailsAndGoesOn) {
+  constexpr const char* kLogical = "givenPhysicalValueCalcLogicalValueForMainWindowUpdateFreq";
+  constexpr const char* kPhysical =
+      "givenLogicalValueCalcPhysicalValueForMainWindowUpdateControlFreq";
+  for (const int position : {-1, 1001, 100'000}) {
+    EXPECT_EQ(Milliseconds(position), 0);
+    ExpectFailure(kLogical, "invalid conversion to logical value");
+  }
+  for (int m = 100; m < 1'000; ++m) {
+    if (kShortPositions.contains(m)) continue;
+    ASSERT_EQ(Position(m), 1000) << m;
+    ExpectFailure(kPhysical, "Bad input value");
+  }
+  Position(99);
+  ExpectFailure(kPhysical, "invalidly small logical value input");
+  Position(3'600'001);
+  ExpectFailure(kPhysical, "invalidly large logical value input");
+}
+
+TEST_F(IntervalScaleTest, Words) {
+  EXPECT_EQ(Words(100), "10 time(s) per second");
+  EXPECT_EQ(Words(333), "3 time(s) per second");
+  EXPECT_EQ(Words(999), "1 time(s) per second");
+  EXPECT_EQ(Words(1'500), "every 1 seconds");
+  EXPECT_EQ(Words(59'999), "every 59 seconds");
+  EXPECT_EQ(Words(60'000), "every 1 minute(s)");
+  EXPECT_EQ(Words(3'599'999), "every 59 minute(s)");
+  EXPECT_EQ(Words(3'600'000), "every hour");
+  EXPECT_EQ(Words(3'600'001), "invalid input. Can't convert");
+  EXPECT_EQ(Failures(), "");
+  EXPECT_EQ(Words(50), "20 time(s) per second");
+  ExpectFailure("givenMillisecondsCalcStringDescriptionForMainWindowFreq",
+                "invalid (too small) millisecond input");
+}
+
+TEST_F(IntervalScaleTest, WhatAFileMayHoldIsShownWithoutFailing) {
+  const std::map<int, int> nearest = {{-2'000'000'000, 0},
+                                      {0, 0},
+                                      {50, 0},
+                                      {150, 60},
+                                      {155, 80},
+                                      {800, 200},
+                                      {1'500, 212},
+                                      {3'600'001, 1000},
+                                      {2'000'000'000, 1000}};
+  for (const auto& [milliseconds, position] : nearest) {
+    EXPECT_EQ(NearestPosition(milliseconds), position) << milliseconds;
+    EXPECT_NE(DescriptionOfStored(milliseconds), "");
+  }
+  EXPECT_EQ(DescriptionOfStored(150), "6 time(s) per second");
+  EXPECT_EQ(DescriptionOfStored(50), "20 time(s) per second");
+  // Nothing is served more often.
+  EXPECT_EQ(DescriptionOfStored(-7), "50 time(s) per second");
+  EXPECT_EQ(DescriptionOfStored(7'200'000), "every 120 minute(s)");
+  EXPECT_EQ(Failures(), "");
+}
+
+}  // namespace
+}  // namespace lurkwell
