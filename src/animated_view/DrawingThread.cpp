@@ -1,0 +1,92 @@
+#include "animated_view/DrawingThread.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "animated_view/QuintessentialGlobals.h"
+#include "animated_view/QuintessentialInformationClient.h"
+#include "platform/ApplicationQuitting.h"
+#include "platform/CriticalRegion.h"
+
+namespace lurkwell {
+namespace {
+
+/// What there is to draw now, or null. Inside the mutex.
+QuintessentialInformationClient* VisibleClient() {
+  auto* client = gQuintessentialInformationClient;
+  if (client == nullptr || client->IsPaused() || !gQuintessentialViewIsCurrentlyShown)
+    return nullptr;
+  return client;
+}
+
+}  // namespace
+
+DrawingThread::DrawingThread()
+    : mThread([this](const std::stop_token& stop) { OpenGLDrawingThread(stop); }) {}
+
+DrawingThread::~DrawingThread() {
+  mThread.request_stop();
+  Wake();
+}
+
+void DrawingThread::Wake() {
+  {
+    const std::lock_guard lock(mWakeMutex);
+    mWoken = true;
+  }
+  mWakeCondition.notify_all();
+}
+
+std::chrono::microseconds DrawingThread::Rest(std::int32_t intervalMilliseconds,
+                                              std::chrono::duration<double, std::milli> elapsed) {
+  using namespace std::chrono_literals;
+  const auto past = std::chrono::duration_cast<std::chrono::milliseconds>(elapsed);
+  const auto rest = std::chrono::milliseconds(intervalMilliseconds) - past;
+  return std::clamp<std::chrono::microseconds>(rest, 1ms, 1s);
+}
+
+void DrawingThread::OpenGLDrawingThread(const std::stop_token& stop) {
+  std::unique_lock inside(gQuintessentialMutex);
+  while (!IsEnding(stop)) {
+    const auto frameStart = Clock::now();
+    auto* client = VisibleClient();
+    if (client != nullptr && !gQuintessentialWindowIsBeingResized) client->InternalDraw();
+    RestUntilNextFrame(stop, frameStart, inside);
+  }
+}
+
+bool DrawingThread::IsEnding(const std::stop_token& stop) const {
+  return stop.stop_requested() || gApplicationQuitting;
+}
+
+void DrawingThread::RestUntilNextFrame(const std::stop_token& stop, Clock::time_point frameStart,
+                                       std::unique_lock<CriticalRegion>& inside) {
+  const auto elapsed = [&] {
+    return std::chrono::duration<double, std::milli>(Clock::now() - frameStart);
+  };
+  for (;;) {
+    const auto* client = VisibleClient();
+    std::optional<std::chrono::microseconds> time;
+    if (client != nullptr) time = Rest(client->GLThreadInterval(), elapsed());
+    inside.unlock();
+    const bool woken = Sleep(stop, time);
+    inside.lock();
+    client = VisibleClient();
+    if (woken || IsEnding(stop)) return;
+    if (client != nullptr && elapsed().count() >= client->GLThreadInterval()) return;
+  }
+}
+
+bool DrawingThread::Sleep(const std::stop_token& stop,
+                          std::optional<std::chrono::microseconds> time) {
+  std::unique_lock lock(mWakeMutex);
+  const auto isWoken = [this] { return mWoken; };
+  if (time) {
+    mWakeCondition.wait_for(lock, stop, *time, isWoken);
+  } else {
+    mWakeCondition.wait(lock, stop, isWoken);
+  }
+  return std::exchange(mWoken, false);
+}
+
+}  // namespace lurkwell

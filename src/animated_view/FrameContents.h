@@ -1,0 +1,39 @@
+#pragma once
+
+#include <vector>
+
+#include "animated_view/FrameRenderer.h"
+#include "animated_view/QuintessentialInformationClient.h"
+
+namespace lurkwell {
+
+/// The size of a view. Pixels are device pixels.
+struct ViewSize {
+  double width = 0, height = 0;  ///< points
+  double pixelRatio = 1;         ///< pixels per point
+
+  int PixelWidth() const;
+  int PixelHeight() const;
+};
+
+/// How a view shows itself.
+enum class ViewMode {
+  kWindow,
+  kOverlay,           ///< what is behind shines through
+  kOpaqueFullscreen,  ///< in its place, where windows cannot be translucent
+};
+
+/// What follows is done inside gQuintessentialMutex.
+
+/// Gives every record that has new pictures its places in the renderer.
+void InitializeOpenGLProcessInfo(QipiList& list, FrameRenderer& renderer);
+
+/// What a frame shows of the records, in their order; `processes` is overwritten. A label follows
+/// its process from pixel to pixel, and only when that has moved far enough.
+void FindWhatIsDrawn(QipiList& list, const QuintessentialDrawingSettings& settings, ViewMode mode,
+                     const ViewSize& size, std::vector<DrawnProcess>& processes);
+
+FrameLook LookOf(const QuintessentialDrawingSettings& settings, ViewMode mode,
+                 const ViewSize& size);
+
+}  // namespace lurkwell

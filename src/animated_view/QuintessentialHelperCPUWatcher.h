@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+
+#include "consolidator/ProcessInformationClient.h"
+#include "platform/TimeValue.h"
+
+namespace lurkwell {
+
+class QuintessentialInformationClient;
+
+/// Turns CPU use into the weights that the icons ease towards: 0.5 at rest, from 0.9 when busy, 8.5
+/// at four processors or more. Main thread. Made by its owner with new and deleted by the registry
+/// or the owner, whichever ends first.
+class QuintessentialHelperCPUWatcher final : public ProcessInformationClient {
+ public:
+  /// `interval` in milliseconds. Is served from now on.
+  QuintessentialHelperCPUWatcher(QuintessentialInformationClient& owner, std::int32_t interval);
+  ~QuintessentialHelperCPUWatcher() override;
+
+  void NotifyProcessesHaveBeenUpdated() override;
+  NeedLevel NeedPidsForProcProperty(const char* property) override;
+  bool NeedPidProcProperty(int pid, const char* property) override;
+  const char* TypeName() const override { return "QuintessentialHelperCPUWatcher"; }
+
+  /// The owner is gone.
+  void Disown() { mOwner = nullptr; }
+
+ private:
+  bool IsWatching() const;
+
+  QuintessentialInformationClient* mOwner;
+  TimeValue mPreviousPass;
+  /// How much heavier the program's own two processes are; 0 for not at all.
+  double mTarvikFactor = 0.0;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,131 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+
+#include "animated_view/QuintessentialInformationProcessInfo.h"
+#include "animated_view/RandomSource.h"
+#include "consolidator/ProcessInformationClient.h"
+
+namespace lurkwell {
+
+class DrawingThread;
+class QuintessentialHelperCPUWatcher;
+
+/// A place in the current window, in logical points from its bottom left corner.
+struct QuintessentialPoint {
+  double x = 0;
+  double y = 0;
+};
+
+/// How the view is drawn.
+struct QuintessentialDrawingSettings {
+  bool drawConnectors = true;
+  bool drawConnectorsFullscreen = false;
+  bool drawTextNames = false;
+  double iconScale = 150.0;
+  double fullscreenExtraScale = 1.5;
+  double underlayAlpha = 0.25;  ///< 0 to 1, of the overlay's background
+};
+
+/// The three intervals of the preferences, in milliseconds, made to fit: none below 1, and frames
+/// at least as often as updates, updates at least as often as CPU readings; the slower ones give
+/// way. Main thread.
+struct AnimationIntervals {
+  std::int32_t frame = 100;
+  std::int32_t main = 200;
+  std::int32_t cpu = 1000;
+};
+AnimationIntervals FittedAnimationIntervals();
+
+/// The processes of the animated view: who they are, where they float, how heavy they are. Made on
+/// the main thread with new when the view is first shown; deleted, like every client, by the
+/// registry. Notifications come on the main thread; what the drawing thread looks at changes inside
+/// gQuintessentialMutex.
+class QuintessentialInformationClient final : public ProcessInformationClient {
+ public:
+  /// `interval` in milliseconds, raised to that of the frames when it is less. Becomes
+  /// gQuintessentialInformationClient; makes the CPU watcher and has it served. `random` is for
+  /// tests.
+  explicit QuintessentialInformationClient(std::int32_t interval,
+                                           RandomSource random = SystemRandom);
+  ~QuintessentialInformationClient() override;
+
+  // ---- Being shown. Main thread; nothing happens when it is so already.
+
+  /// The first update comes with the next turn of the run loop. Inside the mutex or not.
+  void HookIntoConsolidator();
+  /// Destroys all records. The next showing begins afresh.
+  void UnhookFromConsolidator();
+
+  /// While the view is covered or minimised: no frames, and hardly any updates. Continues where it
+  /// was.
+  void SetPaused(bool paused);
+  bool IsPaused() const { return mPaused; }
+
+  /// Starts the thread that draws whatever client there is, once per run of the program; in any
+  /// case the next frame comes at once. Call it whenever gQuintessentialViewIsCurrentlyShown was
+  /// set.
+  void CreateDrawingThreadIfNecessary();
+  /// Ends the thread and waits for its frame; not inside the mutex. At shutdown.
+  static void EndDrawingThread();
+
+  // ---- One frame. Inside the mutex.
+
+  /// Moves the records and has the current view drawn.
+  void InternalDraw();
+
+  QipiList& qipiList() { return mQipiList; }
+  const QuintessentialDrawingSettings& DrawingSettings() const { return mDrawing; }
+  /// Milliseconds from the beginning of one frame to that of the next.
+  std::int32_t GLThreadInterval() const { return mIntervals.frame; }
+
+  /// The pid of the record nearest to `point`, -1 when there is none.
+  std::int32_t GetClosestPidToPoint(QuintessentialPoint point) const;
+
+  // ---- The consolidator's notifications
+
+  void NotifyPidHasBeenAdded(int pid) override;
+  void NotifyPidHasBeenRemoved(int pid) override;
+  void NotifyPidHasChangedAppreciably(int pid) override;
+  void NotifyPreferencesHaveBeenUpdated() override;
+  NeedLevel NeedPidsForProcProperty(const char* property) override;
+  bool NeedPidProcProperty(int pid, const char* property) override;
+  void NotifyProcessesHaveBeenUpdated() override;
+  const char* TypeName() const override { return "QuintessentialInformationClient"; }
+
+ private:
+  friend class QuintessentialHelperCPUWatcher;
+
+  using Info = QuintessentialInformationProcessInfo;
+
+  /// Gives the new records that are ready to be shown places and names.
+  void PlaceNewRecords(QipiList& ready);
+  void StabilizeOnce();
+  void ReadDrawingSettings();
+  void ApplyIntervals();
+  void TakeIcon(Info& info);
+  void CleanUp(QipiList& list);
+
+  RandomSource mRandom;
+  QipiList mQipiList;
+  /// Main thread only.
+  QipiList mNewQipiList;
+  QuintessentialHelperCPUWatcher* mWatcher = nullptr;
+  QuintessentialDrawingSettings mDrawing;
+  AnimationIntervals mIntervals;
+  std::shared_ptr<const Picture> mDefaultIcon;
+  bool mHasStabilized = false;
+  bool mHooked = false;
+  bool mWatcherIsServed = false;
+  std::atomic<bool> mPaused = false;
+
+  static std::unique_ptr<DrawingThread> zmThread;
+};
+
+/// Has the current view draw itself. Inside the mutex, drawing thread. Fails
+/// "theCurrentQuintessentialView" when there is no view.
+void UpdateProcessInformationCocoa();
+
+}  // namespace lurkwell

@@ -1,0 +1,94 @@
+#include "animated_view/QuintessentialView.h"
+
+#include <QMouseEvent>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+#include <algorithm>
+#include <array>
+#include <mutex>
+#include <optional>
+
+#include "animated_view/QuintessentialGlobals.h"
+#include "animated_view/QuintessentialViewWindow.h"
+#include "animated_view/ViewDrawing.h"
+#include "main_window/Preferences.h"
+#include "main_window/StripedTableView.h"
+#include "main_window/VQTarvMainWindowInfoSynch.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr std::int32_t kFramesAfterExposure = 3;
+
+}  // namespace
+
+QuintessentialView::QuintessentialView(QuintessentialViewWindow& window, ViewDrawing& drawing)
+    : mWindow(window), mDrawing(drawing) {
+  gQuintessentialWindow = &window;
+}
+
+void QuintessentialView::drawRect() {
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  mKludgeCountdown = kFramesAfterExposure;
+  // The drawing thread alone has the context.
+  if (gQuintessentialViewIsCurrentlyShown && gQuintessentialInformationClient != nullptr)
+    gQuintessentialInformationClient->CreateDrawingThreadIfNecessary();
+}
+
+void QuintessentialView::internalDraw() {
+  if (!gQuintessentialViewIsCurrentlyShown) return;
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  if (!mDrawable || mDrawing.hasFailed) return;
+  if (mSize.PixelWidth() < 1 || mSize.PixelHeight() < 1) return;
+  if (DrawFrame()) return;
+  mDrawing.hasFailed = true;
+  mDrawing.tellOfFailure();
+}
+
+bool QuintessentialView::DrawFrame() {
+  if (!mDrawing.context.MakeCurrent(mWindow)) return false;
+  if (!mIsInitialized) NoteLimits();
+  // The renderer clears the whole window in every frame.
+  if (mKludgeCountdown > 0) --mKludgeCountdown;
+  mDrawing.processes.clear();
+  FrameLook look = LookOf({}, mMode, mSize);
+  if (auto* client = gQuintessentialInformationClient) {
+    auto& list = client->qipiList();
+    InitializeOpenGLProcessInfo(list, mDrawing.renderer);
+    FindWhatIsDrawn(list, client->DrawingSettings(), mMode, mSize, mDrawing.processes);
+    look = LookOf(client->DrawingSettings(), mMode, mSize);
+  }
+  look.opacity = mOpacity;
+  const bool drawn = mDrawing.renderer.Draw(mDrawing.context.Context(), look, mDrawing.processes);
+  mDrawing.context.Present(mWindow);
+  return drawn;
+}
+
+void QuintessentialView::NoteLimits() {
+  mIsInitialized = true;
+  std::array<GLint, 2> limits{};
+  mDrawing.context.Context().functions()->glGetIntegerv(GL_MAX_VIEWPORT_DIMS, limits.data());
+  gOpenGLViewportMaxDimensions = {limits[0], limits[1]};
+  mDrawing.tellOfLimits();
+}
+
+void QuintessentialView::handleMouseDownStuff(const QMouseEvent& event, bool isRightClick) {
+  if (gNSMainWindow == nullptr || gQuintessentialInformationClient == nullptr) return;
+  if (GetPrefInt(kShowProcessListKey, nullptr, false, 0) == 0) return;
+  const auto place = event.position();
+  bool isSelected = false;
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    const auto pid = gQuintessentialInformationClient->GetClosestPidToPoint(
+        {place.x(), mSize.height - place.y()});
+    isSelected = VQTarvMainWindowInfoSynch::SelectPID(pid);
+  }
+  auto* table = gTheStripedTableView;
+  if (!isSelected || table == nullptr) return;
+  table->showTheSpecialContextMenu(
+      table->viewport()->mapFromGlobal(event.globalPosition().toPoint()), event.modifiers(),
+      isRightClick, false, false);
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QPoint>
+#include <Qt>
+#include <cstdint>
+
+#include "animated_view/FrameContents.h"
+#include "animated_view/QuintessentialHost.h"
+
+class QMouseEvent;
+
+namespace lurkwell {
+
+class QuintessentialViewWindow;
+struct ViewDrawing;
+
+/// The animated view inside one window. Main thread, unless a function says otherwise.
+class QuintessentialView {
+ public:
+  /// Both outlive the view.
+  QuintessentialView(QuintessentialViewWindow& window, ViewDrawing& drawing);
+
+  /// Has the whole view drawn again, soon.
+  void drawRect();
+  /// One frame. Drawing thread, inside the mutex.
+  void internalDraw();
+
+  /// How many frames are still to be drawn whatever the engine's pause says.
+  std::int32_t kludgeCountdown() const { return mKludgeCountdown; }
+  void setKludgeCountdown(std::int32_t frames) { mKludgeCountdown = frames; }
+
+  void mouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, false); }
+  void rightMouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, true); }
+
+  // ---- Inside the mutex
+  // ---------------------------------------------------------------------------
+
+  void SetSize(const ViewSize& size) { mSize = size; }
+  const ViewSize& Size() const { return mSize; }
+  /// Whether the window is on the screen, so that drawing into it cannot wait.
+  void SetDrawable(bool drawable) { mDrawable = drawable; }
+  void SetMode(ViewMode mode) { mMode = mode; }
+  ViewMode Mode() const { return mMode; }
+  /// Of all that is drawn, where windows themselves cannot be translucent.
+  void SetOpacity(double opacity) { mOpacity = static_cast<float>(opacity); }
+
+ private:
+  /// Selects the process nearest to the click in the main table, and opens the table's menu for it
+  /// when the click asks for that.
+  void handleMouseDownStuff(const QMouseEvent& event, bool isRightClick);
+  bool DrawFrame();
+  void NoteLimits();
+
+  QuintessentialViewWindow& mWindow;
+  ViewDrawing& mDrawing;
+  ViewSize mSize;
+  ViewMode mMode = ViewMode::kWindow;
+  float mOpacity = 1.0F;
+  bool mDrawable = false;
+  bool mIsInitialized = false;
+  std::int32_t mKludgeCountdown = 0;
+};
+
+}  // namespace lurkwell

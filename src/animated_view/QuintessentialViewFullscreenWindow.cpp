@@ -1,0 +1,68 @@
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "animated_view/QuintessentialGlobals.h"
+#include "animated_view/QuintessentialViewWindow.h"
+#include "platform/Alerts.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+#include "platform/Screen.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr double kSecondsUntilVisible = 1.0;
+constexpr char kToldKey[] = "QUIVA_CHECK_COMPOSITOR";
+/// What Qt's X11 side takes a window's type from, and the bit for notifications there: window
+/// managers keep those above full-screen windows, too.
+constexpr char kWindowTypeProperty[] = "_q_xcb_wm_window_type";
+constexpr int kNotificationType = 0x800;
+
+constexpr Qt::WindowFlags kOverlayFlags = Qt::Window | Qt::FramelessWindowHint |
+                                          Qt::WindowStaysOnTopHint | Qt::WindowTransparentForInput |
+                                          Qt::WindowDoesNotAcceptFocus;
+
+void TellOnce() {
+  if (GetPrefInt(kToldKey, nullptr, false, 0) != 0) return;
+  SetPrefInt(kToldKey, 1);
+  TheMachine().alerts.RunAlertPanel(LocalizedString("overlay_needs_compositor").toStdString(),
+                                    LocalizedString("overlay_needs_compositor_text").toStdString(),
+                                    "OK", "", "");
+}
+
+}  // namespace
+
+void QuintessentialViewFullscreenWindow::setUpOverlayStuff() {
+  const bool blends = TheMachine().screen.BlendsWindows();
+  if (!blends) TellOnce();
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    // Window managers look at these when a window comes up, and no later.
+    if (!isVisible()) destroy();
+    setProperty(kWindowTypeProperty, blends ? QVariant(kNotificationType) : QVariant());
+    setFlags(blends ? kOverlayFlags : Qt::Window | Qt::FramelessWindowHint);
+    view().SetMode(blends ? ViewMode::kOverlay : ViewMode::kOpaqueFullscreen);
+    setGeometry(QGuiApplication::primaryScreen()->geometry());
+  }
+  setAlphaValue(blends ? 0.0 : 1.0);
+  mTimer = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kSecondsUntilVisible,
+                                         0.0, [this] { myTimer(); });
+}
+
+void QuintessentialViewFullscreenWindow::myTimer() {
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    setGeometry(QGuiApplication::primaryScreen()->geometry());
+    TakeSize();
+    if (view().Mode() == ViewMode::kOpaqueFullscreen && isVisible()) showFullScreen();
+  }
+  if (view().Mode() == ViewMode::kOverlay) {
+    setAlphaValue(GetPrefDouble("QUINT_FULLSCREEN_WINDOW_ALPHA", nullptr, true, 0.8));
+    if (isVisible()) TheMachine().screen.KeepInSight(winId());
+  }
+  view().drawRect();
+}
+
+}  // namespace lurkwell

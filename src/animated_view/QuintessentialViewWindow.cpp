@@ -1,0 +1,271 @@
+#include "animated_view/QuintessentialViewWindow.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+#include "animated_view/DrawingContext.h"
+#include "animated_view/QuintessentialSupport.h"
+#include "animated_view/QuintessentialWindowDelegate.h"
+#include "animated_view/ViewDrawing.h"
+#include "main_window/FrontmostWindow.h"
+#include "platform/Machine.h"
+#include "platform/Screen.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kFrameKey[] = "QUIVA_WINDOW_FRAME";
+constexpr QSize kFirstSize(900, 640);
+constexpr QSize kSmallestSize(200, 150);
+/// So much of the window has to lie on a screen.
+constexpr int kGraspable = 40;
+
+bool HasTranslucentWindows() {
+  return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+/// "X Y WIDTH HEIGHT[ maximised]"; none when it makes no sense.
+QRect RememberedFrame(bool& isMaximised) {
+  char text[64] = "";
+  std::uint8_t found = 0;
+  GetPrefString(kFrameKey, text, sizeof text, &found, false, "");
+  int x = 0, y = 0, width = 0, height = 0;
+  if (found == 0 || std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4) return {};
+  if (width < 100 || height < 100 || width > 20000 || height > 20000) return {};
+  if (x < -20000 || y < -20000 || x > 100000 || y > 100000) return {};
+  isMaximised = std::string_view(text).ends_with(" maximised");
+  return {x, y, width, height};
+}
+
+bool IsGraspable(const QRect& frame) {
+  const QRect title(frame.x(), frame.y(), frame.width(), kGraspable);
+  return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen* screen) {
+    const auto seen = screen->availableGeometry() & title;
+    return seen.width() >= kGraspable && seen.height() >= kGraspable / 2;
+  });
+}
+
+}  // namespace
+
+QuintessentialViewWindow* gQuintessentialWindow = nullptr;
+
+QuintessentialViewWindow::QuintessentialViewWindow(QuintessentialWindowDelegate& delegate,
+                                                   ViewDrawing& drawing,
+                                                   const ViewCommands& commands)
+    : mDelegate(delegate), mCommands(commands), mView(*this, drawing) {
+  setSurfaceType(QSurface::OpenGLSurface);
+  setFormat(drawing.context.Format());
+  setTitle(LocalizedString("quintessential_window_title"));
+  setIcon(NamedImage("lurkwell"));
+  setMinimumSize(kSmallestSize);
+  RestoreFrame();
+}
+
+QuintessentialViewWindow::~QuintessentialViewWindow() {
+  if (gQuintessentialWindow == this) gQuintessentialWindow = nullptr;
+}
+
+// ---- Showing and closing ------------------------------------------------------------------------
+
+bool QuintessentialViewWindow::canBecomeKeyWindow() const {
+  return !gQuintessentialViewIsFullScreenOverlay || mView.Mode() == ViewMode::kOpaqueFullscreen;
+}
+
+void QuintessentialViewWindow::makeKeyAndOrderFront() {
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  if ((windowStates() & Qt::WindowMinimized) != 0)
+    setWindowStates(windowStates() & ~Qt::WindowMinimized);
+  // Shown again where its contents were, it would move down by its title bar each time.
+  if (!isFullscreen() && !isVisible() && IsGraspable(mNormalFrame))
+    setFramePosition(mNormalFrame.topLeft());
+  show();
+  TakeSize();
+  raise();
+  if (canBecomeKeyWindow()) requestActivate();
+  if (mView.Mode() == ViewMode::kOverlay) TheMachine().screen.KeepInSight(winId());
+}
+
+void QuintessentialViewWindow::performClose() {
+  SaveFrame();
+  mDelegate.unhookConsolidatorIfNecessary();
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    mView.SetDrawable(false);
+    hide();
+  }
+  EnsureThatCocoaWindowIsFrontmostIfPossible();
+}
+
+void QuintessentialViewWindow::closeByUser() {
+  performClose();
+  mCommands.viewWasClosed();
+}
+
+void QuintessentialViewWindow::setAlphaValue(double alpha) {
+  if (HasTranslucentWindows()) return setOpacity(alpha);
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  mView.SetOpacity(alpha);
+}
+
+void QuintessentialViewWindow::RestoreFrame() {
+  bool isMaximised = false;
+  const QRect frame = RememberedFrame(isMaximised);
+  resize(frame.isValid() ? frame.size() : kFirstSize);
+  if (!frame.isValid()) return;
+  mNormalFrame = frame;
+  if (IsGraspable(frame)) setFramePosition(frame.topLeft());
+  if (isMaximised) setWindowStates(Qt::WindowMaximized);
+}
+
+void QuintessentialViewWindow::SaveFrame() {
+  if (isFullscreen() || !mNormalFrame.isValid() || !isVisible()) return;
+  const bool fills = (windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0;
+  char text[64];
+  std::snprintf(text, sizeof text, "%d %d %d %d%s", mNormalFrame.x(), mNormalFrame.y(),
+                mNormalFrame.width(), mNormalFrame.height(), fills ? " maximised" : "");
+  char before[64] = "";
+  GetPrefString(kFrameKey, before, sizeof before, nullptr, false, "");
+  if (std::string_view(text) != before) SetPrefString(kFrameKey, text);
+}
+
+// ---- Events -------------------------------------------------------------------------------------
+
+void QuintessentialViewWindow::TakeSize() {
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  mView.SetSize({static_cast<double>(width()), static_cast<double>(height()), devicePixelRatio()});
+}
+
+void QuintessentialViewWindow::exposeEvent(QExposeEvent*) {
+  bool cameUp = false;
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    cameUp = isExposed();
+    TakeSize();
+    mView.SetDrawable(cameUp && mMessage.isEmpty());
+  }
+  if (cameUp && isVisible()) {
+    mDelegate.windowDidUpdate();
+    mDelegate.windowDidExpose();
+    mView.drawRect();
+    PaintMessage();
+  }
+  // Another view's late goodbye must not stop this one.
+  if (gQuintessentialViewIsFullScreenOverlay == isFullscreen()) mDelegate.SetSeen(cameUp);
+}
+
+void QuintessentialViewWindow::resizeEvent(QResizeEvent* event) {
+  const QSize pixels = event->size() * devicePixelRatio();
+  const QSize bounded = mDelegate.windowWillResize(pixels);
+  mDelegate.windowDidResize([this] { TakeSize(); });
+  if (bounded != pixels) setMaximumSize(bounded / devicePixelRatio());
+  if (!isFullscreen() && (windowStates() & ~Qt::WindowActive) == 0 && isVisible())
+    mNormalFrame = QRect(framePosition(), event->size());
+  PaintMessage();
+}
+
+void QuintessentialViewWindow::moveEvent(QMoveEvent*) {
+  if (!isFullscreen() && (windowStates() & ~Qt::WindowActive) == 0 && isVisible())
+    mNormalFrame = QRect(framePosition(), size());
+}
+
+void QuintessentialViewWindow::closeEvent(QCloseEvent* event) {
+  // Accepted, it would take the native window away under the drawing thread.
+  event->ignore();
+  closeByUser();
+}
+
+void QuintessentialViewWindow::focusInEvent(QFocusEvent*) {
+  if (isVisible()) mDelegate.windowDidBecomeKey();
+}
+
+bool QuintessentialViewWindow::event(QEvent* event) {
+  if (event->type() == QEvent::PlatformSurface) {
+    // The native window comes or goes.
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    mView.SetDrawable(false);
+    return QWindow::event(event);
+  }
+  return QWindow::event(event);
+}
+
+void QuintessentialViewWindow::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) mView.mouseDown(*event);
+  if (event->button() == Qt::RightButton) mView.rightMouseDown(*event);
+}
+
+// ---- Keys ---------------------------------------------------------------------------------------
+
+void QuintessentialViewWindow::keyPressEvent(QKeyEvent* event) {
+  const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  const auto is = [&](Qt::KeyboardModifiers held, int key) {
+    return modifiers == held && event->key() == key;
+  };
+  if (event->isAutoRepeat()) return;
+  if (is(Qt::NoModifier, Qt::Key_F7)) return mCommands.doToggleQuintessentialViewFullScreen();
+  if (is(Qt::NoModifier, Qt::Key_Escape) && isFullscreen())
+    return mCommands.doToggleQuintessentialViewFullScreen();
+  if (is(Qt::NoModifier, Qt::Key_Escape) || is(Qt::ControlModifier, Qt::Key_W))
+    return closeByUser();
+  if (is(Qt::ControlModifier, Qt::Key_Q)) return mCommands.doQuit();
+  if (is(Qt::NoModifier, Qt::Key_Menu) || is(Qt::NoModifier, Qt::Key_F10) ||
+      is(Qt::ShiftModifier, Qt::Key_F10))
+    return ShowMenu(mapToGlobal(QPoint(8, 8)));
+  QWindow::keyPressEvent(event);
+}
+
+void QuintessentialViewWindow::ShowMenu(const QPoint& place) {
+  if (mMenu.isEmpty()) {
+    const auto add = [this](const char* id, const QKeySequence& key,
+                            std::function<void()> command) {
+      auto* action = mMenu.addAction(LocalizedString(id));
+      action->setShortcut(key);
+      connect(action, &QAction::triggered, this, std::move(command));
+    };
+    add("quintessential_menu_toggle", Qt::Key_F7, mCommands.doToggleQuintessentialViewFullScreen);
+    add("quintessential_menu_processes", {}, mCommands.doShowMainWindow);
+    mMenu.addSeparator();
+    add("quintessential_menu_close", Qt::CTRL | Qt::Key_W, [this] { closeByUser(); });
+  }
+  mMenu.popup(place);
+  mMenu.setActiveAction(mMenu.actions().constFirst());
+}
+
+// ---- When nothing can be drawn ------------------------------------------------------------------
+
+void QuintessentialViewWindow::ShowMessage(const QString& message) {
+  const bool wasVisible = isVisible();
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    mView.SetDrawable(false);
+    mMessage = message;
+    destroy();
+    setSurfaceType(QSurface::RasterSurface);
+    setFormat({});
+    mBackingStore = std::make_unique<QBackingStore>(this);
+  }
+  if (wasVisible) show();
+}
+
+void QuintessentialViewWindow::PaintMessage() {
+  if (mBackingStore == nullptr || !isExposed()) return;
+  mBackingStore->resize(size());
+  const QRect area(QPoint(), size());
+  mBackingStore->beginPaint(area);
+  {
+    QPainter painter(mBackingStore->paintDevice());
+    painter.fillRect(area, QGuiApplication::palette().window());
+    painter.setPen(QGuiApplication::palette().color(QPalette::WindowText));
+    painter.drawText(area.adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap, mMessage);
+  }
+  mBackingStore->endPaint();
+  mBackingStore->flush(area);
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QBackingStore>
+#include <QMenu>
+#include <QWindow>
+#include <functional>
+#include <memory>
+
+#include "animated_view/QuintessentialView.h"
+#include "platform/RunLoop.h"
+
+namespace lurkwell {
+
+class QuintessentialWindowDelegate;
+
+/// What a window of the animated view asks of the application as a whole.
+struct ViewCommands {
+  std::function<void()> doShowQuintessentialView;
+  std::function<void()> doToggleQuintessentialViewFullScreen;
+  std::function<void()> doShowMainWindow;
+  std::function<void()> doQuit;
+  /// The user has closed the view; nothing else of the program may be left to see.
+  std::function<void()> viewWasClosed;
+};
+
+/// The ordinary window of the animated view, the view and nothing else: a native window that is
+/// drawn into with OpenGL. It is hidden when it is closed, and kept. Main thread.
+class QuintessentialViewWindow : public QWindow {
+  Q_OBJECT
+
+ public:
+  /// All outlive the window.
+  QuintessentialViewWindow(QuintessentialWindowDelegate& delegate, ViewDrawing& drawing,
+                           const ViewCommands& commands);
+  ~QuintessentialViewWindow() override;
+
+  virtual bool isFullscreen() const { return false; }
+  QuintessentialView& view() { return mView; }
+
+  /// Makes the window what an overlay has to be; only where isFullscreen.
+  virtual void setUpOverlayStuff() {}
+  /// 0 (transparent) to 1.
+  void setAlphaValue(double alpha);
+  bool canBecomeKeyWindow() const;
+  /// Never overlaps a frame.
+  void makeKeyAndOrderFront();
+  /// Hides the window, ends its being served, and gives the keyboard to another window.
+  void performClose();
+
+  /// Nothing can be drawn: says so instead, from now on.
+  void ShowMessage(const QString& message);
+
+  /// Writes the place and size into the preferences, if it is an ordinary window's.
+  void SaveFrame();
+
+ protected:
+  void exposeEvent(QExposeEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  bool event(QEvent* event) override;
+
+  void TakeSize();
+  const ViewCommands& Commands() const { return mCommands; }
+
+ private:
+  void closeByUser();
+  void RestoreFrame();
+  void PaintMessage();
+  void ShowMenu(const QPoint& place);
+
+  QuintessentialWindowDelegate& mDelegate;
+  const ViewCommands& mCommands;
+  QuintessentialView mView;
+  QString mMessage;
+  std::unique_ptr<QBackingStore> mBackingStore;
+  QMenu mMenu;
+  QRect mNormalFrame;
+};
+
+/// The overlay over the whole screen: translucent, above everything, on every desktop, and neither
+/// clicks nor keys stay in it. Where windows cannot be translucent, a full-screen window.
+class QuintessentialViewFullscreenWindow final : public QuintessentialViewWindow {
+  Q_OBJECT
+
+ public:
+  using QuintessentialViewWindow::QuintessentialViewWindow;
+
+  bool isFullscreen() const override { return true; }
+  void setUpOverlayStuff() override;
+
+ private:
+  void myTimer();
+
+  std::unique_ptr<RunLoopTimer> mTimer;
+};
+
+/// The window of the view that was made last. Main thread.
+extern QuintessentialViewWindow* gQuintessentialWindow;
+
+}  // namespace lurkwell

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+#include "animated_view/QuintessentialHost.h"
+#include "animated_view/QuintessentialViewWindow.h"
+#include "animated_view/QuintessentialWindowDelegate.h"
+#include "animated_view/ViewDrawing.h"
+#include "platform/RunLoop.h"
+
+namespace lurkwell {
+
+/// The animated view's two windows with their views, and what the engine asks of them. Made at the
+/// start of the program, costs next to nothing until the view is first shown. One per process; main
+/// thread, but for what QuintessentialHost says.
+class QuintessentialWindows final : public QObject, public QuintessentialHost {
+  Q_OBJECT
+
+ public:
+  explicit QuintessentialWindows(ViewCommands commands);
+  /// Ends the drawing thread first, and then everything else, in whatever state it is.
+  ~QuintessentialWindows() override;
+
+  QuintessentialViewWindow& quintessentialWindow() { return *mWindow; }
+  QuintessentialView& quintessentialView() { return mWindow->view(); }
+  QuintessentialViewFullscreenWindow& quintessentialFullscreenWindow() {
+    return *mFullscreenWindow;
+  }
+  QuintessentialView& quintessentialFullscreenView() { return mFullscreenWindow->view(); }
+
+  /// Shows the window of the mode that is set.
+  void ShowCurrentWindow();
+  bool IsAnyVisible() const;
+  void SaveFrame();
+
+  /// Hooks the view up without a window, and gives what it would show; a null image where nothing
+  /// can be drawn.
+  void ShowForPicture();
+  QImage TakePicture(const QSize& points, double pixelRatio);
+
+  // ---- QuintessentialHost
+  // -------------------------------------------------------------------------
+
+  bool HasCurrentView() const override { return mWindow != nullptr; }
+  FrameSize CurrentWindowFrame() const override;
+  void CloseCurrentWindow() override;
+  void SetUpOverlayStuff() override;
+  void SetCurrentWindowAlpha(double alpha) override;
+  void SetFullscreenKludgeCountdown(int frames) override;
+  void doShowQuintessentialView() override { mCommands.doShowQuintessentialView(); }
+  /// The drawing thread takes the context by itself for each frame, and nobody else has use for it.
+  void MakeContextCurrent() override {}
+  void InternalDraw() override;
+  std::shared_ptr<const Picture> LabelImage(const std::string& name) override;
+  std::shared_ptr<const Picture> NamedPicture(const char* name) override;
+  void ReleaseTextures(QuintessentialInformationProcessInfo& info) override;
+  void DiscardBackground() override;
+
+ private:
+  QuintessentialViewWindow& CurrentWindow() const;
+  void MakeWindows();
+  void Prepare();
+  /// Labels are made for one number of pixels per point at a time.
+  void UsePixelRatio(double ratio);
+  void LookAround();
+  void HandleFailure();
+  void ApplyLimits();
+
+  ViewCommands mCommands;
+  ViewDrawing mDrawing;
+  QuintessentialWindowDelegate mDelegate;
+  std::unique_ptr<QuintessentialViewWindow> mWindow;
+  std::unique_ptr<QuintessentialViewFullscreenWindow> mFullscreenWindow;
+  std::unique_ptr<RunLoopTimer> mTimer;
+  std::shared_ptr<const Picture> mBackground;
+  std::shared_ptr<const Picture> mDefaultIcon;
+  std::unordered_map<std::string, std::weak_ptr<const Picture>> mLabels;
+  double mPixelRatio = 0.0;
+  int mFailures = 0;
+};
+
+/// The view of the mode that is set. Fails "theCurrentQuintessentialView" when there is none.
+QuintessentialView& GetCurrentQuintessentialView();
+
+extern QuintessentialWindows* gQuintessentialWindows;
+
+}  // namespace lurkwell

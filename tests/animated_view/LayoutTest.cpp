@@ -1,0 +1,236 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "PlainLayout.h"
+#include "animated_view/LayoutKernel.h"
+#include "animated_view/Placement.h"
+#include "animated_view/QuintessentialSupport.h"
+
+namespace lurkwell {
+namespace {
+
+using Info = QuintessentialInformationProcessInfo;
+
+Info Record(std::int32_t pid, double x, double y, std::int32_t parent = -1, bool placed = true) {
+  Info info;
+  info.pid = pid;
+  info.parentPid = parent;
+  info.x = x;
+  info.y = y;
+  info.locationInitialized = placed;
+  return info;
+}
+
+/// Families, orphans, records without a place, and heaps at one spot.
+QipiList Population(unsigned seed, int count) {
+  std::mt19937 random(seed);
+  std::uniform_real_distribution<double> unit;
+  QipiList list;
+  for (int i = 0; i < count; ++i) {
+    const int parent = static_cast<int>(random() % static_cast<unsigned>(count + 3)) - 2;
+    Info info = Record(i, unit(random), unit(random), parent, random() % 10 != 0);
+    if (i > 0 && random() % 12 == 0) {
+      info.x = list.front().x;
+      info.y = list.front().y + (random() % 2 == 0 ? 0.0 : 5e-5);
+    }
+    info.weight = 0.4 + 8 * unit(random) * unit(random);
+    random() % 2 == 0 ? list.PushBack(std::move(info)) : list.PushFront(std::move(info));
+  }
+  return list;
+}
+
+void ExpectSamePlaces(QipiList& quick, QipiList& plain) {
+  ASSERT_EQ(quick.size(), plain.size());
+  for (auto a = quick.begin(), b = plain.begin(); a != quick.end(); ++a, ++b) {
+    ASSERT_EQ(a->pid, b->pid);
+    ASSERT_EQ(a->locationInitialized, b->locationInitialized) << a->pid;
+    ASSERT_NEAR(a->x, b->x, 1e-9) << a->pid;
+    ASSERT_NEAR(a->y, b->y, 1e-9) << a->pid;
+  }
+}
+
+TEST(Layout, StepsAreThoseOfThePlainSum) {
+  for (unsigned seed = 1; seed <= 40; ++seed) {
+    SCOPED_TRACE(seed);
+    const int count = static_cast<int>(seed * seed / 4 + 1);
+    QipiList quick = Population(seed, count);
+    QipiList slow = Population(seed, count);
+    for (int step = 0; step < 3; ++step) {
+      const double distances = DisIsRevoltin(quick, step == 0);
+      const double expected = plain::Step(plain::Of(slow), step == 0);
+      EXPECT_NEAR(distances, expected, 1e-9 * expected);
+      ExpectSamePlaces(quick, slow);
+    }
+    const Info& one = quick.front();
+    double fx = 0, fy = 0, plainX = 0, plainY = 0;
+    SumOfForcesOnIndividualQIPI(one, quick, fx, fy);
+    plain::Sum(one, plain::Of(quick), plainX, plainY);
+    EXPECT_NEAR(fx, plainX, 1e-9 * (1 + std::abs(plainX)));
+    EXPECT_NEAR(fy, plainY, 1e-9 * (1 + std::abs(plainY)));
+  }
+}
+
+TEST(Layout, EveryKernelGivesTheSameSum) {
+  LayoutBodies bodies;
+  for (const auto& info : Population(7, 203)) bodies.Append(info);
+  for (std::size_t count : {0U, 1U, 3U, 64U, 203U}) {
+    const auto sum = [&](SumPushes kernel) {
+      return kernel(bodies.x.data(), bodies.y.data(), bodies.weight.data(), count, 0.3, 0.7);
+    };
+    const auto best = sum(BestSumPushes());
+    const auto baseline = sum(SumPushesBaseline);
+    EXPECT_NEAR(best.fx, baseline.fx, 1e-9 * std::abs(baseline.fx));
+    EXPECT_NEAR(best.fy, baseline.fy, 1e-9 * std::abs(baseline.fy));
+    EXPECT_NEAR(best.distance, baseline.distance, 1e-9 * baseline.distance);
+  }
+}
+
+TEST(Layout, BodiesAtOneSpotPushFarButFinitely) {
+  double fx = 0;
+  double fy = 0;
+  EXPECT_DOUBLE_EQ(FigureOutForce(0.3, 0.3, 0.5, 0.3, 0.3, 2.0, fx, fy), std::sqrt(2e-8));
+  EXPECT_DOUBLE_EQ(fx, -(0.0001 / std::sqrt(2e-8)) / 2e-8 * 5.0);
+  EXPECT_DOUBLE_EQ(fy, fx);
+  FigureOutForce(0.3, 0.3, 0.5, 0.29995, 0.8, 2.0, fx, fy);
+  EXPECT_GT(fx, 0);
+  EXPECT_LT(fy, 0);
+}
+
+TEST(Layout, MirroredRecordsStayMirrored) {
+  QipiList list;
+  list.PushBack(Record(1, 0.45, 0.5));
+  list.PushBack(Record(2, 0.55, 0.5));
+  for (int i = 0; i < 50; ++i) DisIsRevoltin(list, false);
+  const Info& left = *list.Find(1);
+  const Info& right = *list.Find(2);
+  EXPECT_LT(left.x, 0.45);
+  // Bodies in one line push a little to the left and down: what is not apart counts as 0.0001.
+  EXPECT_NEAR(left.x, 1.0 - right.x, 1e-4);
+}
+
+TEST(Layout, ALoneRecordComesToTheCentre) {
+  QipiList list;
+  list.PushBack(Record(1, 0.02, 0.97));
+  for (int i = 0; i < 40000; ++i) DisIsRevoltin(list, false);
+  EXPECT_NEAR(list.front().x, 0.5, 0.01);
+  EXPECT_NEAR(list.front().y, 0.5, 0.01);
+}
+
+TEST(Layout, StepsAreShortAndStayInside) {
+  for (const bool boost : {false, true}) {
+    QipiList list = Population(3, 150);
+    for (auto& info : list) info.weight = 8.5;
+    for (int step = 0; step < 20; ++step) {
+      std::vector<std::pair<double, double>> before;
+      for (const auto& info : list) before.emplace_back(info.x, info.y);
+      DisIsRevoltin(list, boost);
+      auto was = before.begin();
+      for (const auto& info : list) {
+        ASSERT_TRUE(info.x >= 0.001 && info.x <= 0.999 && info.y >= 0.001 && info.y <= 0.999);
+        const double limit = (boost ? 0.1 : 0.01) + 1e-12;
+        const bool wasInside =
+            was->first > 0.001 && was->first < 0.999 && was->second > 0.001 && was->second < 0.999;
+        if (wasInside) {
+          ASSERT_LE(std::abs(info.x - was->first), limit);
+          ASSERT_LE(std::abs(info.y - was->second), limit);
+        }
+        ++was;
+      }
+    }
+  }
+}
+
+TEST(Placement, FindsThePlainSearchsPlaces) {
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    SCOPED_TRACE(seed);
+    QipiList lists[2][2];
+    for (auto& [fresh, shown] : lists) {
+      std::mt19937 random(seed);
+      shown = Population(seed, 30);
+      std::uniform_real_distribution<double> unit;
+      for (int pid = 100; pid < 160; ++pid) {
+        // Parents among the shown, the new, nobody, and missing ones.
+        const int parents[] = {static_cast<int>(random() % 30),
+                               100 + static_cast<int>(random()) % 60, -1, 9999};
+        const int parent = parents[random() % 4];
+        fresh.PushFront(Record(pid, unit(random), unit(random),
+                               parent > pid && parent != 9999 ? -1 : parent, false));
+      }
+    }
+    const auto source = [seed] {
+      return [random = std::mt19937(seed)]() mutable { return static_cast<long>(random() >> 1); };
+    };
+    const RandomSource quickRandom = source();
+    const RandomSource plainRandom = source();
+    // A missing grandparent is for the tests below.
+    for (auto& [fresh, shown] : lists)
+      for (auto& info : fresh) {
+        const Info* parent = fresh.Find(info.parentPid);
+        if (parent != nullptr && parent->parentPid == 9999) info.parentPid = -1;
+      }
+    auto& [quickFresh, quickShown] = lists[0];
+    auto& [plainFresh, plainShown] = lists[1];
+    Placement placement(quickFresh, quickShown, quickRandom);
+    for (auto& info : quickFresh) EXPECT_TRUE(placement.SetUpInitialCoords(info));
+    for (auto& info : plainFresh)
+      plain::Place(info, plain::Of(plainFresh), plain::Of(plainShown), plainRandom);
+    ExpectSamePlaces(quickFresh, plainFresh);
+  }
+}
+
+long Middle() {
+  return 1073741823;
+}
+
+TEST(Placement, MissingAndCircularParentsAreSurvived) {
+  QipiList fresh;
+  QipiList shown;
+  fresh.PushBack(Record(10, 0.2, 0.2, 9999, false));
+  fresh.PushBack(Record(11, 0.9, 0.9, 10, false));
+  fresh.PushBack(Record(20, 0.3, 0.3, 22, false));
+  fresh.PushBack(Record(21, 0.4, 0.4, 20, false));
+  fresh.PushBack(Record(22, 0.5, 0.5, 21, false));
+  fresh.PushBack(Record(0, 0.5, 0.5, 0, false));
+  const RandomSource random = Middle;
+  Placement placement(fresh, shown, random);
+  for (auto& info : fresh) EXPECT_TRUE(placement.SetUpInitialCoords(info));
+  const Info& orphan = *fresh.Find(10);
+  EXPECT_FALSE(orphan.locationInitialized);
+  EXPECT_EQ(orphan.x, 0.2);
+  EXPECT_NEAR(fresh.Find(11)->x, orphan.x, 0.1 + 1e-12) << "beside its parent, as that one stands";
+  for (const int pid : {0, 11, 20, 21, 22})
+    EXPECT_TRUE(fresh.Find(pid)->locationInitialized) << pid;
+
+  double with = 0, without = 0, unused = 0;
+  SumOfForcesOnIndividualQIPI(*fresh.Find(0), fresh, with, unused);
+  fresh.Remove(10, [](Info&) {});
+  SumOfForcesOnIndividualQIPI(*fresh.Find(0), fresh, without, unused);
+  EXPECT_EQ(with, without) << "what has no place pushes nobody";
+}
+
+TEST(Placement, LongAncestriesNeedNoStackAndComeInSlices) {
+  constexpr int kDepth = 2000;
+  QipiList fresh;
+  QipiList shown;
+  for (int pid = 1; pid <= kDepth; ++pid)
+    fresh.PushFront(Record(pid, 0.5, 0.5, pid - 1 == 0 ? -1 : pid - 1, false));
+  const RandomSource random = Middle;
+  int passes = 0;
+  for (bool done = false; !done; ++passes) {
+    ASSERT_LT(passes, 100);
+    Placement placement(fresh, shown, random, 10'000'000);
+    done = placement.SetUpInitialCoords(fresh.front());
+    // Only what has its ancestors' places has one itself.
+    bool placed = true;
+    for (int pid = 1; pid <= kDepth; ++pid) {
+      EXPECT_TRUE(placed || !fresh.Find(pid)->locationInitialized);
+      placed = fresh.Find(pid)->locationInitialized;
+    }
+  }
+  EXPECT_GT(passes, 10);
+  EXPECT_TRUE(fresh.front().locationInitialized);
+}
+
+}  // namespace
+}  // namespace lurkwell

@@ -1,0 +1,273 @@
+// The animated view's windows on a real display over a simulated machine: shown, clicked, closed,
+// laid over the screen.
+#include <xcb/shape.h>
+
+#include <QTest>
+#include <algorithm>
+
+#include "animated_view/FlowControlFSMMgr.h"
+#include "animated_view/HotKey.h"
+#include "animated_view/OnADisplay.h"
+#include "animated_view/QuintessentialSupport.h"
+#include "animated_view/QuintessentialWindows.h"
+#include "consolidator/PI_Consolidator.h"
+#include "main_window/MainWindow.h"
+#include "platform/ApplicationQuitting.h"
+#include "platform/desktop/DesktopScreen.h"
+#include "platform/desktop/XConnection.h"
+#include "platform/simulated/SimulatedMachine.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "support/HelperChannel.h"
+
+namespace lurkwell {
+namespace {
+
+class ViewWindows : public OnADisplay, public ApplicationCommands {
+ protected:
+  explicit ViewWindows(const std::vector<std::string>& compositor = {})
+      : OnADisplay(TestDisplay::Manager::kOpenbox) {
+    if (!compositor.empty()) {
+      picom = std::make_unique<ChildProgram>(compositor, display.Environment());
+      EXPECT_TRUE(ComesTrue([&] { return realScreen.BlendsWindows(); }, 20)) << "no picom";
+    }
+    machine.screen.blends = !compositor.empty();
+    for (std::int32_t pid = 100; pid < 120; ++pid)
+      machine.processTable.Birth(pid, "process" + std::to_string(pid), 1);
+    channel = std::make_unique<HelperChannel>(machine);
+    InitializeProcessInformationConsolidator();
+    CreateFlowControlFSMMgr();
+    windows = std::make_unique<QuintessentialWindows>(
+        ViewCommands{[this] { windows->ShowCurrentWindow(); }, [] { HotKeyFunc(); }, [] {}, [] {},
+                     [this] { ++closedByUser; }});
+  }
+  ~ViewWindows() override {
+    gApplicationQuitting = true;
+    mainWindow.reset();
+    ProcessInformationClient::DeleteAllProcessInformationClients();
+    DestroyFlowControlFSMMgr();
+    windows.reset();
+    channel.reset();
+    DestroyProcessInformationConsolidator();
+  }
+
+  void doThePrefs() override {}
+  void doAboutPanel() override {}
+  void doShowMainWindow() override {}
+  void doQuit() override {}
+  bool isLastWindow(const QWidget&) const override { return false; }
+
+  /// Serves windows and timers until it is so.
+  bool ComesAbout(const std::function<bool()>& condition) {
+    return Becomes([&] {
+      machine.runLoop.RunFor(10);
+      return condition();
+    });
+  }
+  static std::size_t Records() {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    const auto* client = gQuintessentialInformationClient;
+    return client == nullptr
+               ? 0
+               : const_cast<QuintessentialInformationClient*>(client)->qipiList().size();
+  }
+  /// So that drawing has happened: the first frame reads the display's limits.
+  static bool HasDrawn() {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    return gOpenGLViewportMaxDimensions.width > 0;
+  }
+  /// What the screen shows at a place of the window.
+  QColor PixelOf(QWindow& window, int x, int y) {
+    if (server == nullptr) server = XConnection::Open(display.Name());
+    const QPoint at = window.mapToGlobal(QPoint(x, y));
+    const auto image = server->Wait<xcb_get_image_reply_t>(
+        xcb_get_image_unchecked(server->Raw(), XCB_IMAGE_FORMAT_Z_PIXMAP, server->Root(),
+                                static_cast<std::int16_t>(at.x()),
+                                static_cast<std::int16_t>(at.y()), 1, 1, ~0U),
+        XConnection::BatchDeadline());
+    if (image == nullptr) return {};
+    const auto* bytes = xcb_get_image_data(image.get());
+    return {bytes[2], bytes[1], bytes[0]};
+  }
+  std::string Properties(QWindow& window) const {
+    return Output({"xprop", "-id", std::to_string(window.winId()), "_NET_WM_WINDOW_OPACITY",
+                   "_NET_WM_DESKTOP", "_NET_WM_STATE", "_NET_WM_WINDOW_TYPE", "WM_HINTS"});
+  }
+
+  SimulatedMachine machine;
+  MachineInstallation installation{machine.services};
+  std::unique_ptr<HelperChannel> channel;
+  DesktopScreen realScreen{[this] {
+    DesktopSettings settings;
+    settings.display = display.Name();
+    return settings;
+  }()};
+  std::unique_ptr<XConnection> server;
+  std::unique_ptr<ChildProgram> picom;
+  std::unique_ptr<QuintessentialWindows> windows;
+  std::unique_ptr<MainWindow> mainWindow;
+  int closedByUser = 0;
+};
+
+constexpr char kShownKey[] = "DEFAULT_SHOW_PROCESS_QUIVA_WINDOW";
+
+TEST_F(ViewWindows, ShowProcessesAndKeepTheirPlaceUntilTheyAreClosed) {
+  windows->ShowCurrentWindow();
+  auto& window = windows->quintessentialWindow();
+  EXPECT_TRUE(ComesAbout([&] { return HasDrawn() && Records() > 20; }));
+  EXPECT_EQ(GetPrefInt(kShownKey, nullptr, false, -1), 1);
+  // The corner shows the background, some of the rest something else.
+  EXPECT_TRUE(ComesAbout([&] {
+    const QColor corner = PixelOf(window, 2, 2);
+    return corner.blue() > corner.red() && corner.red() < 120;
+  }));
+  window.resize(500, 400);
+  window.setFramePosition({60, 70});
+  EXPECT_TRUE(ComesAbout([&] {
+    const auto frame = windows->CurrentWindowFrame();
+    return frame.width == 500 && frame.height == 400;
+  }));
+  Serve(300);
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(closedByUser, 1);
+  EXPECT_EQ(Records(), 0U);
+  EXPECT_EQ(GetPrefInt(kShownKey, nullptr, false, -1), 0);
+  char frame[64] = "";
+  GetPrefString("QUIVA_WINDOW_FRAME", frame, sizeof frame, nullptr, false, "");
+  EXPECT_STREQ(frame, "60 70 500 400");
+  // Shown again, and open at the program's end, it is remembered.
+  windows->ShowCurrentWindow();
+  EXPECT_TRUE(ComesAbout([&] { return Records() > 20; }));
+  gApplicationQuitting = true;
+  window.close();
+  EXPECT_EQ(GetPrefInt(kShownKey, nullptr, false, -1), 1);
+}
+
+TEST_F(ViewWindows, NothingMovesWhileNobodySeesThem) {
+  windows->ShowCurrentWindow();
+  EXPECT_TRUE(ComesAbout([&] { return Records() > 20; }));
+  auto* client = gQuintessentialInformationClient;
+  machine.screen.isCovered = true;
+  EXPECT_TRUE(ComesAbout([&] { return client->IsPaused(); }));
+  machine.screen.isCovered = false;
+  EXPECT_TRUE(ComesAbout([&] { return !client->IsPaused(); }));
+  auto& window = windows->quintessentialWindow();
+  window.showMinimized();
+  EXPECT_TRUE(ComesAbout([&] { return client->IsPaused(); }));
+  window.showNormal();
+  EXPECT_TRUE(ComesAbout([&] { return !client->IsPaused(); }));
+  // A real window over it, and beside it.
+  QWidget cover;
+  cover.setWindowFlags(Qt::FramelessWindowHint);
+  cover.setGeometry(0, 0, 1024, 768);
+  cover.show();
+  EXPECT_TRUE(ComesAbout([&] { return realScreen.IsCovered(window.winId()); }));
+  EXPECT_FALSE(realScreen.IsCovered(cover.winId()));
+  cover.resize(100, 100);
+  EXPECT_TRUE(ComesAbout([&] { return !realScreen.IsCovered(window.winId()); }));
+}
+
+TEST_F(ViewWindows, AClickSelectsTheNearestProcess) {
+  windows->ShowCurrentWindow();
+  EXPECT_TRUE(ComesAbout([&] { return Records() > 20; }));
+  auto& window = windows->quintessentialWindow();
+  mainWindow = std::make_unique<MainWindow>(*this);
+  mainWindow->show();
+  EXPECT_TRUE(ComesAbout([&] { return mainWindow->controller().rowCount() > 20; }));
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    auto* info = gQuintessentialInformationClient->qipiList().Find(110);
+    info->x = 0.25;
+    info->y = 0.9;  // upwards
+  }
+  gQuintessentialInformationClient->SetPaused(true);
+  const QPoint place(window.width() / 4, window.height() / 10);
+  const auto selected = [&] { return mainWindow->controller().selectedPids(); };
+  SetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", 0);
+  QTest::mouseClick(&window, Qt::LeftButton, {}, place);
+  EXPECT_TRUE(selected().empty());
+  SetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", 1);
+  QTest::mouseClick(&window, Qt::LeftButton, {}, place);
+  EXPECT_EQ(selected(), std::vector<std::int32_t>{110});
+  EXPECT_FALSE(mainWindow->menus().ContextMenu().isVisible());
+  QTest::mouseClick(&window, Qt::LeftButton, Qt::ControlModifier, place);
+  EXPECT_TRUE(mainWindow->menus().ContextMenu().isVisible());
+  mainWindow->menus().ContextMenu().hide();
+  QTest::mouseClick(&window, Qt::RightButton, {}, place);
+  EXPECT_TRUE(mainWindow->menus().ContextMenu().isVisible());
+  mainWindow->menus().ContextMenu().hide();
+}
+
+TEST_F(ViewWindows, WithoutACompositorTheOverlayIsAnOpaqueWindowAndSaysSoOnce) {
+  SetUpHotKey();
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(machine.hotKeys.Press(98, HotKeys::kNoModifiers), 1);
+    auto& overlay = windows->quintessentialFullscreenWindow();
+    EXPECT_TRUE(ComesAbout([&] { return overlay.isExposed() && Records() > 20; }));
+    EXPECT_EQ(windows->quintessentialFullscreenView().Mode(), ViewMode::kOpaqueFullscreen);
+    EXPECT_FALSE(windows->quintessentialWindow().isVisible());
+    EXPECT_TRUE(ComesAbout([&] { return overlay.geometry() == QRect(0, 0, 1024, 768); }));
+    QTest::keyClick(&overlay, Qt::Key_Escape);
+    EXPECT_TRUE(ComesAbout([&] { return windows->quintessentialWindow().isExposed(); }));
+    EXPECT_FALSE(overlay.isVisible());
+    windows->quintessentialWindow().performClose();
+  }
+  EXPECT_EQ(std::ranges::count_if(machine.log.Lines(),
+                                  [](const auto& line) { return line.starts_with("Alerts."); }),
+            1);
+}
+
+class Overlay : public ViewWindows {
+ protected:
+  Overlay() : ViewWindows({"picom", "--backend", "xrender", "--config", "/dev/null"}) {}
+};
+
+TEST_F(Overlay, IsTranslucentAboveEverythingAndOutOfTheWay) {
+  // White ground behind, which a click has to reach.
+  QWidget behind;
+  behind.setWindowFlags(Qt::FramelessWindowHint);
+  behind.setPalette(Qt::white);
+  behind.setGeometry(0, 0, 600, 500);
+  behind.show();
+  EXPECT_TRUE(ComesAbout([&] { return behind.isActiveWindow(); }));
+  HotKeyFunc();
+  auto& overlay = windows->quintessentialFullscreenWindow();
+  // Through the server: the simulated screen leaves that to us.
+  EXPECT_TRUE(ComesAbout([&] { return overlay.isExposed(); }));
+  realScreen.KeepInSight(overlay.winId());
+  EXPECT_TRUE(ComesAbout([&] {
+    const auto all = Properties(overlay);
+    return all.find("_NET_WM_WINDOW_OPACITY") != std::string::npos &&
+           all.find("3435973836") != std::string::npos &&  // 0.8
+           all.find("_NET_WM_DESKTOP(CARDINAL) = 4294967295") != std::string::npos;
+  })) << Properties(overlay);
+  const auto properties = Properties(overlay);
+  EXPECT_NE(properties.find("_NET_WM_STATE_ABOVE"), std::string::npos) << properties;
+  EXPECT_NE(properties.find("_NET_WM_WINDOW_TYPE_NOTIFICATION"), std::string::npos) << properties;
+  EXPECT_NE(properties.find("Client accepts input or input focus: False"), std::string::npos)
+      << properties;
+  EXPECT_EQ(overlay.geometry(), QRect(0, 0, 1024, 768));
+  EXPECT_TRUE(behind.isActiveWindow());
+  // Its input region has no rectangle, so the pointer is in the window behind.
+  const auto connection = XConnection::Open(display.Name());
+  xcb_prefetch_extension_data(connection->Raw(), &xcb_shape_id);
+  const Reply<xcb_shape_get_rectangles_reply_t> input(xcb_shape_get_rectangles_reply(
+      connection->Raw(),
+      xcb_shape_get_rectangles(connection->Raw(), static_cast<xcb_window_t>(overlay.winId()),
+                               XCB_SHAPE_SK_INPUT),
+      nullptr));
+  ASSERT_NE(input, nullptr);
+  EXPECT_EQ(xcb_shape_get_rectangles_rectangles_length(input.get()), 0);
+  // Dark at 63 of 255 and 0.8 over white: grey, and nothing like either.
+  EXPECT_TRUE(ComesAbout([&] {
+    const QColor mixed = PixelOf(overlay, 3, 3);
+    return mixed.red() > 190 && mixed.red() < 235;
+  })) << PixelOf(overlay, 3, 3).red();
+  HotKeyFunc();
+  EXPECT_TRUE(ComesAbout([&] { return windows->quintessentialWindow().isExposed(); }));
+  EXPECT_FALSE(overlay.isVisible());
+  EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", nullptr, false, -1), 0);
+}
+
+}  // namespace
+}  // namespace lurkwell
