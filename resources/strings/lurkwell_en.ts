@@ -1615,9 +1615,37 @@
         <source></source>
         <translation>&amp;Animated View</translation>
     </message>
-    <message id="menu_window_full_screen">
+    <message id="menu_view_overlay">
         <source></source>
-        <translation>&amp;Full Screen</translation>
+        <translation>Animated View &amp;over the Screen</translation>
+    </message>
+    <message id="quintessential_window_title">
+        <source></source>
+        <translation>Animated View</translation>
+    </message>
+    <message id="quintessential_menu_toggle">
+        <source></source>
+        <translation>&amp;Over the Whole Screen</translation>
+    </message>
+    <message id="quintessential_menu_processes">
+        <source></source>
+        <translation>Show &amp;Processes</translation>
+    </message>
+    <message id="quintessential_menu_close">
+        <source></source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message id="quintessential_cannot_draw">
+        <source></source>
+        <translation>The animated view cannot be drawn: this display has no OpenGL 3.3 or OpenGL ES 3.0, or it has stopped working. Everything else in Lurkwell goes on.</translation>
+    </message>
+    <message id="overlay_needs_compositor">
+        <source></source>
+        <translation>The animated view cannot be translucent here.</translation>
+    </message>
+    <message id="overlay_needs_compositor_text">
+        <source></source>
+        <translation>Nothing blends the windows of this desktop (no compositor is running). The view will fill the whole screen instead; press Escape or F7 to leave it.</translation>
     </message>
     <message id="menu_help_help">
         <source></source>
@@ -1638,6 +1666,10 @@
     <message id="main_window_status_counts">
         <source></source>
         <translation>%1 processes, %2 shown, %3 selected</translation>
+    </message>
+    <message id="main_window_status_counts_one">
+        <source></source>
+        <translation>%1 process, %2 shown, %3 selected</translation>
     </message>
     <message id="main_window_helper_starting">
         <source></source>
@@ -1748,6 +1780,14 @@ Free software under the MIT licence</translation>
         <source></source>
         <translation>How busy the machine's processors are.</translation>
     </message>
+    <message id="toolbar_system_cpu_figure_one">
+        <source></source>
+        <translation>CPU: %1 % of %2 processor</translation>
+    </message>
+    <message id="toolbar_system_cpu_figure">
+        <source></source>
+        <translation>CPU: %1 % of %2 processors</translation>
+    </message>
     <message id="toolbar_system_ram">
         <source></source>
         <translation>Memory</translation>
@@ -1756,6 +1796,13 @@ Free software under the MIT licence</translation>
         <source></source>
         <translation>How the machine's memory is used.</translation>
     </message>
+    <message id="toolbar_system_ram_figures">
+        <source></source>
+        <translation>Memory: %1 of %2 used
+Wired: %3
+Inactive: %4
+Free: %5</translation>
+    </message>
     <message id="toolbar_vm_thrashing">
         <source></source>
         <translation>Swapping</translation>
@@ -1763,6 +1810,14 @@ Free software under the MIT licence</translation>
     <message id="toolbar_vm_thrashing_tip">
         <source></source>
         <translation>Green while no memory is being swapped out, yellow while some is, flashing red while it is so much that the machine slows down.</translation>
+    </message>
+    <message id="toolbar_vm_thrashing_figure_one">
+        <source></source>
+        <translation>%1 page swapped out since the last update</translation>
+    </message>
+    <message id="toolbar_vm_thrashing_figure">
+        <source></source>
+        <translation>%1 pages swapped out since the last update</translation>
     </message>
     <message id="toolbar_usage_history">
         <source></source>
@@ -1868,6 +1923,98 @@ Free software under the MIT licence</translation>
         <source></source>
         <translation>Chooses what the toolbar holds and in which order.</translation>
     </message>
+    <message id="toolbar_separator">
+        <source></source>
+        <translation>Separator</translation>
+    </message>
+    <message id="toolbar_separator_tip">
+        <source></source>
+        <translation>A line between groups of items.</translation>
+    </message>
+    <message id="toolbar_space">
+        <source></source>
+        <translation>Space</translation>
+    </message>
+    <message id="toolbar_space_tip">
+        <source></source>
+        <translation>Some room between items.</translation>
+    </message>
+    <message id="toolbar_flexible_space">
+        <source></source>
+        <translation>Flexible Space</translation>
+    </message>
+    <message id="toolbar_flexible_space_tip">
+        <source></source>
+        <translation>Moves what follows to the end of the toolbar.</translation>
+    </message>
+    <message id="toolbar_title">
+        <source></source>
+        <translation>Toolbar</translation>
+    </message>
+    <message id="toolbar_customise_title">
+        <source></source>
+        <translation>Customise Toolbar</translation>
+    </message>
+    <message id="toolbar_customise_hint">
+        <source></source>
+        <translation>Drag items into the toolbar, or out of it to the list of available items. They can be dropped on the toolbar of the window, too.</translation>
+    </message>
+    <message id="toolbar_customise_available">
+        <source></source>
+        <translation>Available &amp;items:</translation>
+    </message>
+    <message id="toolbar_customise_current">
+        <source></source>
+        <translation>In the &amp;toolbar:</translation>
+    </message>
+    <message id="toolbar_customise_add">
+        <source></source>
+        <translation>&amp;Add</translation>
+    </message>
+    <message id="toolbar_customise_remove">
+        <source></source>
+        <translation>&amp;Remove</translation>
+    </message>
+    <message id="toolbar_customise_earlier">
+        <source></source>
+        <translation>Move &amp;Up</translation>
+    </message>
+    <message id="toolbar_customise_later">
+        <source></source>
+        <translation>Move &amp;Down</translation>
+    </message>
+    <message id="toolbar_customise_default_set">
+        <source></source>
+        <translation>Default set:</translation>
+    </message>
+    <message id="toolbar_customise_default_set_tip">
+        <source></source>
+        <translation>Can be dragged into the toolbar as a whole.</translation>
+    </message>
+    <message id="toolbar_customise_use_default">
+        <source></source>
+        <translation>U&amp;se Default Set</translation>
+    </message>
+    <message id="toolbar_customise_mode">
+        <source></source>
+        <translation>Sh&amp;ow:</translation>
+    </message>
+    <message id="toolbar_customise_done">
+        <source></source>
+        <translation>Do&amp;ne</translation>
+    </message>
+    <message id="toolbar_mode_both">
+        <source></source>
+        <translation>Icons and Text</translation>
+    </message>
+    <message id="toolbar_mode_icon">
+        <source></source>
+        <translation>Icons Only</translation>
+    </message>
+    <message id="toolbar_mode_text">
+        <source></source>
+        <translation>Text Only</translation>
+    </message>
     <message id="logging_title">
         <source></source>
         <translation>Logging %1 pid:%2</translation>
@@ -1951,6 +2098,774 @@ Free software under the MIT licence</translation>
     <message id="logging_note_not_written">
         <source></source>
         <translation>Rows are missing in the log file: %1.</translation>
+    </message>
+    <message id="preferences_title">
+        <source></source>
+        <translation>Lurkwell Preferences</translation>
+    </message>
+    <message id="preferences_form_missing">
+        <source></source>
+        <translation>The preferences cannot be shown.</translation>
+    </message>
+    <message id="preferences_form_missing_text">
+        <source></source>
+        <translation>A part of the program is missing: the layout of the preferences window. Install Lurkwell again.</translation>
+    </message>
+    <message id="preferences_times_per_second">
+        <source></source>
+        <translation>%1 time(s) per second</translation>
+    </message>
+    <message id="preferences_every_seconds">
+        <source></source>
+        <translation>every %1 seconds</translation>
+    </message>
+    <message id="preferences_every_minutes">
+        <source></source>
+        <translation>every %1 minute(s)</translation>
+    </message>
+    <message id="preferences_every_hour">
+        <source></source>
+        <translation>every hour</translation>
+    </message>
+    <message id="preferences_interval_invalid">
+        <source></source>
+        <translation>invalid input. Can't convert</translation>
+    </message>
+    <message id="preferences_percent">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="preferences_page_general">
+        <source></source>
+        <translation>General</translation>
+    </message>
+    <message id="preferences_page_mainwindow">
+        <source></source>
+        <translation>Main Window</translation>
+    </message>
+    <message id="preferences_page_animatedview">
+        <source></source>
+        <translation>Animated View</translation>
+    </message>
+    <message id="preferences_page_history">
+        <source></source>
+        <translation>CPU History</translation>
+    </message>
+    <message id="preferences_page_logging">
+        <source></source>
+        <translation>Logging</translation>
+    </message>
+    <message id="preferences_all_settings">
+        <source></source>
+        <translation>A&amp;ll Settings…</translation>
+    </message>
+    <message id="preferences_all_settings_tip">
+        <source></source>
+        <translation>Every setting of the program, those without a control of their own among them.</translation>
+    </message>
+    <message id="preferences_close">
+        <source></source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message id="preferences_close_tip">
+        <source></source>
+        <translation>Closes the window. Every change is saved already.</translation>
+    </message>
+    <message id="preferences_memoryFormatMatrix">
+        <source></source>
+        <translation>Memory sizes</translation>
+    </message>
+    <message id="preferences_memoryFormatMatrix_tip">
+        <source></source>
+        <translation>The unit of memory sizes in tables, bars and logs.</translation>
+    </message>
+    <message id="preferences_memoryFormatMatrix_automatic">
+        <source></source>
+        <translation>&amp;Automatic</translation>
+    </message>
+    <message id="preferences_memoryFormatMatrix_bytes">
+        <source></source>
+        <translation>&amp;Bytes</translation>
+    </message>
+    <message id="preferences_memoryFormatMatrix_kilobytes">
+        <source></source>
+        <translation>&amp;Kilobytes</translation>
+    </message>
+    <message id="preferences_memoryFormatMatrix_megabytes">
+        <source></source>
+        <translation>&amp;Megabytes</translation>
+    </message>
+    <message id="preferences_memoryFormatMatrix_gigabytes">
+        <source></source>
+        <translation>&amp;Gigabytes</translation>
+    </message>
+    <message id="preferences_dateFormatMatrix">
+        <source></source>
+        <translation>Dates</translation>
+    </message>
+    <message id="preferences_dateFormatMatrix_tip">
+        <source></source>
+        <translation>How dates and times are written in tables and logs.</translation>
+    </message>
+    <message id="preferences_dateFormatMatrix_calendar">
+        <source></source>
+        <translation>Cale&amp;ndar and clock</translation>
+    </message>
+    <message id="preferences_dateFormatMatrix_seconds">
+        <source></source>
+        <translation>&amp;Seconds since 1970</translation>
+    </message>
+    <message id="preferences_dateFormatMatrix_microseconds">
+        <source></source>
+        <translation>Seconds and mic&amp;roseconds</translation>
+    </message>
+    <message id="preferences_mainWindowInterval">
+        <source></source>
+        <translation>&amp;Update the table:</translation>
+    </message>
+    <message id="preferences_mainWindowInterval_tip">
+        <source></source>
+        <translation>How often the main window's table is brought up to date. Updating seldom costs less.</translation>
+    </message>
+    <message id="preferences_memoryGraph">
+        <source></source>
+        <translation>Show the &amp;virtual size on memory bars</translation>
+    </message>
+    <message id="preferences_memoryGraph_tip">
+        <source></source>
+        <translation>Writes the size of a process's address space on its memory bar.</translation>
+    </message>
+    <message id="preferences_frameInterval">
+        <source></source>
+        <translation>&amp;Draw a picture:</translation>
+    </message>
+    <message id="preferences_frameInterval_tip">
+        <source></source>
+        <translation>How often the animated view is drawn. The two intervals below are never shorter.</translation>
+    </message>
+    <message id="preferences_mainInterval">
+        <source></source>
+        <translation>Update the &amp;processes:</translation>
+    </message>
+    <message id="preferences_mainInterval_tip">
+        <source></source>
+        <translation>How often the animated view looks for processes that started or ended. Never shorter than drawing, never longer than measuring.</translation>
+    </message>
+    <message id="preferences_cpuInterval">
+        <source></source>
+        <translation>&amp;Measure CPU usage:</translation>
+    </message>
+    <message id="preferences_cpuInterval_tip">
+        <source></source>
+        <translation>How often the animated view measures the CPU usage of its processes. The two intervals above are never longer.</translation>
+    </message>
+    <message id="preferences_windowAlpha">
+        <source></source>
+        <translation>&amp;Opacity in full screen:</translation>
+    </message>
+    <message id="preferences_windowAlpha_tip">
+        <source></source>
+        <translation>How much of the desktop the full-screen view covers: 0 % hides the view, 100 % hides the desktop.</translation>
+    </message>
+    <message id="preferences_underlayAlpha">
+        <source></source>
+        <translation>Opacity of the &amp;backdrop:</translation>
+    </message>
+    <message id="preferences_underlayAlpha_tip">
+        <source></source>
+        <translation>How strongly the picture behind the processes shows in full screen.</translation>
+    </message>
+    <message id="preferences_connectors">
+        <source></source>
+        <translation>&amp;Join parents and children in full screen</translation>
+    </message>
+    <message id="preferences_connectors_tip">
+        <source></source>
+        <translation>Draws a line from each process to its parent, in the full-screen view too.</translation>
+    </message>
+    <message id="preferences_historyInterval">
+        <source></source>
+        <translation>&amp;Measure CPU usage:</translation>
+    </message>
+    <message id="preferences_historyInterval_tip">
+        <source></source>
+        <translation>How often a CPU history gets a new point.</translation>
+    </message>
+    <message id="preferences_historyFilter">
+        <source></source>
+        <translation>Smoot&amp;h by:</translation>
+    </message>
+    <message id="preferences_historyFilter_tip">
+        <source></source>
+        <translation>How much of the point before goes into the next: 0 % shows every jump, higher values a calmer line.</translation>
+    </message>
+    <message id="preferences_historyColour">
+        <source></source>
+        <translation>&amp;Graph:</translation>
+    </message>
+    <message id="preferences_historyColour_tip">
+        <source></source>
+        <translation>The colour of the process's own CPU usage.</translation>
+    </message>
+    <message id="preferences_descendantsColour">
+        <source></source>
+        <translation>D&amp;escendants:</translation>
+    </message>
+    <message id="preferences_descendantsColour_tip">
+        <source></source>
+        <translation>The colour of the CPU usage of the process's descendants. Holds for windows opened from now on.</translation>
+    </message>
+    <message id="preferences_relative">
+        <source></source>
+        <translation>&amp;Scale to the recent maximum</translation>
+    </message>
+    <message id="preferences_relative_tip">
+        <source></source>
+        <translation>The graph's height stands for the highest recent usage instead of 100 %.</translation>
+    </message>
+    <message id="preferences_descendants">
+        <source></source>
+        <translation>&amp;Include the process's descendants</translation>
+    </message>
+    <message id="preferences_descendants_tip">
+        <source></source>
+        <translation>Shows what the processes that it started use, in a colour of their own.</translation>
+    </message>
+    <message id="preferences_loggingInterval">
+        <source></source>
+        <translation>Loo&amp;k for changes:</translation>
+    </message>
+    <message id="preferences_loggingInterval_tip">
+        <source></source>
+        <translation>How often a log looks whether there is something new to write down.</translation>
+    </message>
+    <message id="preferences_timestamp">
+        <source></source>
+        <translation>&amp;Time</translation>
+    </message>
+    <message id="preferences_timestamp_tip">
+        <source></source>
+        <translation>A column with the time of each row.</translation>
+    </message>
+    <message id="preferences_logToFile">
+        <source></source>
+        <translation>Write to a &amp;file, too</translation>
+    </message>
+    <message id="preferences_logToFile_tip">
+        <source></source>
+        <translation>Appends every row to a text file of the log's own.</translation>
+    </message>
+    <message id="preferences_activeTime">
+        <source></source>
+        <translation>CP&amp;U time</translation>
+    </message>
+    <message id="preferences_activeTime_tip">
+        <source></source>
+        <translation>A column with the CPU time that the process has used.</translation>
+    </message>
+    <message id="preferences_deltaActiveTime">
+        <source></source>
+        <translation>Chan&amp;ge of CPU time</translation>
+    </message>
+    <message id="preferences_deltaActiveTime_tip">
+        <source></source>
+        <translation>A column with the CPU time used since the row before.</translation>
+    </message>
+    <message id="preferences_realMemory">
+        <source></source>
+        <translation>&amp;Real memory</translation>
+    </message>
+    <message id="preferences_realMemory_tip">
+        <source></source>
+        <translation>A column with the memory that the process has in use.</translation>
+    </message>
+    <message id="preferences_deltaRealMemory">
+        <source></source>
+        <translation>Change of r&amp;eal memory</translation>
+    </message>
+    <message id="preferences_deltaRealMemory_tip">
+        <source></source>
+        <translation>A column with the change of the real memory since the row before.</translation>
+    </message>
+    <message id="preferences_virtualMemory">
+        <source></source>
+        <translation>&amp;Virtual memory</translation>
+    </message>
+    <message id="preferences_virtualMemory_tip">
+        <source></source>
+        <translation>A column with the size of the process's address space.</translation>
+    </message>
+    <message id="preferences_deltaVirtualMemory">
+        <source></source>
+        <translation>Cha&amp;nge of virtual memory</translation>
+    </message>
+    <message id="preferences_deltaVirtualMemory_tip">
+        <source></source>
+        <translation>A column with the change of the virtual memory since the row before.</translation>
+    </message>
+    <message id="preferences_notice">
+        <source></source>
+        <translation>Changes hold for log windows that are opened from now on.</translation>
+    </message>
+    <message id="settings_title">
+        <source></source>
+        <translation>All Settings</translation>
+    </message>
+    <message id="settings_filter">
+        <source></source>
+        <translation>Filter by key, value or meaning</translation>
+    </message>
+    <message id="settings_reset">
+        <source></source>
+        <translation>&amp;Reset to Default</translation>
+    </message>
+    <message id="settings_reset_tip">
+        <source></source>
+        <translation>Removes the stored values of the selected settings, so that their defaults count.</translation>
+    </message>
+    <message id="settings_column_key">
+        <source></source>
+        <translation>Key</translation>
+    </message>
+    <message id="settings_column_value">
+        <source></source>
+        <translation>Value</translation>
+    </message>
+    <message id="settings_column_default">
+        <source></source>
+        <translation>Default</translation>
+    </message>
+    <message id="settings_column_kind">
+        <source></source>
+        <translation>Type</translation>
+    </message>
+    <message id="settings_column_effect">
+        <source></source>
+        <translation>Holds</translation>
+    </message>
+    <message id="settings_column_meaning">
+        <source></source>
+        <translation>Meaning</translation>
+    </message>
+    <message id="settings_kind_switch">
+        <source></source>
+        <translation>switch</translation>
+    </message>
+    <message id="settings_kind_integer">
+        <source></source>
+        <translation>whole number</translation>
+    </message>
+    <message id="settings_kind_interval">
+        <source></source>
+        <translation>milliseconds</translation>
+    </message>
+    <message id="settings_kind_colour">
+        <source></source>
+        <translation>colour, 0 to 65535</translation>
+    </message>
+    <message id="settings_kind_real">
+        <source></source>
+        <translation>number</translation>
+    </message>
+    <message id="settings_kind_text">
+        <source></source>
+        <translation>text</translation>
+    </message>
+    <message id="settings_kind_array">
+        <source></source>
+        <translation>records</translation>
+    </message>
+    <message id="settings_kind_range">
+        <source></source>
+        <translation>%1, %2 to %3</translation>
+    </message>
+    <message id="settings_effect_at_once">
+        <source></source>
+        <translation>at once</translation>
+    </message>
+    <message id="settings_effect_new_windows">
+        <source></source>
+        <translation>for new windows</translation>
+    </message>
+    <message id="settings_effect_next_start">
+        <source></source>
+        <translation>from the next start</translation>
+    </message>
+    <message id="settings_note_at_once">
+        <source></source>
+        <translation>A change holds at once.</translation>
+    </message>
+    <message id="settings_note_new_windows">
+        <source></source>
+        <translation>A change holds for windows that are opened from then on.</translation>
+    </message>
+    <message id="settings_note_next_start">
+        <source></source>
+        <translation>A change holds from the next start of the program.</translation>
+    </message>
+    <message id="settings_note_not_stored">
+        <source></source>
+        <translation>Nothing is stored; the default counts. %1</translation>
+    </message>
+    <message id="settings_note_array">
+        <source></source>
+        <translation>The program keeps these records itself; they are not changed here.</translation>
+    </message>
+    <message id="settings_note_no_number">
+        <source></source>
+        <translation>What is stored is no number and is read as 0. Enter a number, or reset the setting.</translation>
+    </message>
+    <message id="settings_elements">
+        <source></source>
+        <translation>%1 record(s)</translation>
+    </message>
+    <message id="settings_problem_no_number">
+        <source></source>
+        <translation>“%1” is no number. The setting stays as it was.</translation>
+    </message>
+    <message id="settings_problem_not_whole">
+        <source></source>
+        <translation>“%1” is no whole number. The setting stays as it was.</translation>
+    </message>
+    <message id="settings_problem_range">
+        <source></source>
+        <translation>“%1” is out of range: it must be from %2 to %3. The setting stays as it was.</translation>
+    </message>
+    <message id="settings_problem_characters">
+        <source></source>
+        <translation>The text has characters that settings cannot hold. The setting stays as it was.</translation>
+    </message>
+    <message id="settings_component_red">
+        <source></source>
+        <translation>%1 Red.</translation>
+    </message>
+    <message id="settings_component_green">
+        <source></source>
+        <translation>%1 Green.</translation>
+    </message>
+    <message id="settings_component_blue">
+        <source></source>
+        <translation>%1 Blue.</translation>
+    </message>
+    <message id="setting_GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT">
+        <source></source>
+        <translation>Unit of memory sizes: 0 automatic, 1 bytes, 2 kilobytes, 3 megabytes, 4 gigabytes.</translation>
+    </message>
+    <message id="setting_GENERAL_PREFERRED_DATE_DISPLAY_FORMAT">
+        <source></source>
+        <translation>How dates are written: 0 calendar and clock, 1 seconds since 1970, 2 seconds and microseconds.</translation>
+    </message>
+    <message id="setting_GENERAL_ALWAYS_AUTHENTICATE_DAEMON">
+        <source></source>
+        <translation>Ask for an administrator's password at every start, even when the helper has its rights already.</translation>
+    </message>
+    <message id="setting_PREFERENCES_UI_DEFAULT_TAB">
+        <source></source>
+        <translation>Page of the preferences window that was shown last, counted from 0.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_INTERVAL">
+        <source></source>
+        <translation>Time between two updates of the main window's table.</translation>
+    </message>
+    <message id="setting_MEM_GRAPH_DRAW_VSZ">
+        <source></source>
+        <translation>Write the virtual size on memory bars.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE">
+        <source></source>
+        <translation>Show the idle task's CPU usage and size as 0, so that its bars do not hide all others.</translation>
+    </message>
+    <message id="setting_MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT">
+        <source></source>
+        <translation>Leave the region that all processes share out of virtual sizes, on machines that have one.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_PAGEOUT_CRITICAL_FLASH_INTERVAL">
+        <source></source>
+        <translation>Seconds between two changes of the paging light's red, while many pages go out.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_FILTER">
+        <source></source>
+        <translation>What remains of the paging rate from one update to the next, from 0 to 1.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_RED">
+        <source></source>
+        <translation>Pages that go out per update from which the paging light is red.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_YELLOW">
+        <source></source>
+        <translation>Pages that go out per update from which the paging light is yellow.</translation>
+    </message>
+    <message id="setting_DEFAULT_SHOW_PROCESS_LIST_WINDOW">
+        <source></source>
+        <translation>Open the main window at the start. The program notes here whether it was open.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_FRAME">
+        <source></source>
+        <translation>Place and size of the main window.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_SORT_COLUMN_INDEX">
+        <source></source>
+        <translation>The remembered column that the table is sorted by, counted from 0.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_COLUMNS">
+        <source></source>
+        <translation>Columns of the table, with their widths and sort directions.</translation>
+    </message>
+    <message id="setting_HAS_RUN_TWO_POINT_THREE">
+        <source></source>
+        <translation>Whether the indicator's column was added to the table once.</translation>
+    </message>
+    <message id="setting_HAS_RUN_TWO_POINT_FOUR">
+        <source></source>
+        <translation>Whether the memory bar's column was added to the table once.</translation>
+    </message>
+    <message id="setting_DEFAULT_X_COOR_FOR_NEWLY_CREATED_WINDOWS">
+        <source></source>
+        <translation>Left edge of the small window that was opened last; the next is put beside it.</translation>
+    </message>
+    <message id="setting_DEFAULT_Y_COOR_FOR_NEWLY_CREATED_WINDOWS">
+        <source></source>
+        <translation>Top edge of the small window that was opened last; the next is put below it.</translation>
+    </message>
+    <message id="setting_DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA">
+        <source></source>
+        <translation>Opacity of small windows, 1 for opaque.</translation>
+    </message>
+    <message id="setting_DEFAULT_WATCHDOG_INTERVAL">
+        <source></source>
+        <translation>How often the program looks for new processes whose windows it remembers.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_WINDOW_INTERVAL">
+        <source></source>
+        <translation>Time between two points of a CPU history.</translation>
+    </message>
+    <message id="setting_CPU_HISTORY_WINDOW_USE_RELATIVE">
+        <source></source>
+        <translation>Scale CPU histories to the recent maximum instead of 100 %.</translation>
+    </message>
+    <message id="setting_CPU_HISTORY_WINDOW_TRACK_PROCESS_DESCENDANTS">
+        <source></source>
+        <translation>Show the CPU usage of a process's descendants in its history, too.</translation>
+    </message>
+    <message id="setting_CPU_HISTORY_WINDOW_DEFAULT_FILTER">
+        <source></source>
+        <translation>How much of the point before goes into the next, from 0 to 1.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_BACKGROUND_RGB">
+        <source></source>
+        <translation>Ground of CPU histories.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_FOREGROUND_RGB">
+        <source></source>
+        <translation>The process's own CPU usage in its history.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_DESCENDANTS_FOREGROUND_RGB">
+        <source></source>
+        <translation>CPU usage of descendants in a history.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_NAME_RGB">
+        <source></source>
+        <translation>The name in CPU histories.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_HWM_RGB">
+        <source></source>
+        <translation>The scale's label in CPU histories with a fixed scale.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_HWM_RELATIVE_RGB">
+        <source></source>
+        <translation>The scale's label in CPU histories that are scaled to the maximum.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_HWM_FLASH_RGB">
+        <source></source>
+        <translation>The scale's label while it flashes after a change.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_CURRENT_PERCENTAGE_BG">
+        <source></source>
+        <translation>Ground of the current percentage in CPU histories.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_CURRENT_PERCENTAGE_FG">
+        <source></source>
+        <translation>The current percentage in CPU histories.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_NAME_ALPHA">
+        <source></source>
+        <translation>Opacity of the name in CPU histories.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_HIGHWATERMARK_ALPHA">
+        <source></source>
+        <translation>Opacity of the scale's label in CPU histories.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_CURRENT_PERCENTAGE_ALPHA">
+        <source></source>
+        <translation>Opacity of the current percentage in CPU histories.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_ICON_ALPHA">
+        <source></source>
+        <translation>Opacity of the icon in CPU histories, of old; another setting has taken its place.</translation>
+    </message>
+    <message id="setting_DEFAULT_CPU_HISTORY_ICON_ALPHA_REALLY">
+        <source></source>
+        <translation>Opacity of the icon in CPU histories.</translation>
+    </message>
+    <message id="setting_CPU_HISTORY_WINDOW">
+        <source></source>
+        <translation>CPU histories that come back when a process of their name starts.</translation>
+    </message>
+    <message id="setting_DEFAULT_LOGGING_WINDOW_INTERVAL">
+        <source></source>
+        <translation>How often a log looks for changes.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_INCLUDE_TIMESTAMP">
+        <source></source>
+        <translation>Logs have a column with the time.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_ACTIVE_TIME_BOOL">
+        <source></source>
+        <translation>Logs have a column with the CPU time.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_DELTA_ACTIVE_TIME_BOOL">
+        <source></source>
+        <translation>Logs have a column with the change of the CPU time.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_REAL_MEM_BOOL">
+        <source></source>
+        <translation>Logs have a column with the real memory.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_DELTA_REAL_MEM_BOOL">
+        <source></source>
+        <translation>Logs have a column with the change of the real memory.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_VIRTUAL_MEM_BOOL">
+        <source></source>
+        <translation>Logs have a column with the virtual memory.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_DELTA_VIRTUAL_MEM_BOOL">
+        <source></source>
+        <translation>Logs have a column with the change of the virtual memory.</translation>
+    </message>
+    <message id="setting_LOG_WINDOW_LOG_TO_FILE">
+        <source></source>
+        <translation>Logs are written to files, too.</translation>
+    </message>
+    <message id="setting_LOGGING_WINDOW">
+        <source></source>
+        <translation>Logs that come back when a process of their name starts.</translation>
+    </message>
+    <message id="setting_HEARTQUIVA_GL_THREAD_INTERVAL">
+        <source></source>
+        <translation>Time between two pictures of the animated view. Never longer than the next one.</translation>
+    </message>
+    <message id="setting_HEARTQUIVA_MAINPIC_INTERVAL">
+        <source></source>
+        <translation>How often the animated view looks for processes that started or ended. Never longer than the next one.</translation>
+    </message>
+    <message id="setting_HEARTQUIVA_HELPERPIC_INTERVAL">
+        <source></source>
+        <translation>How often the animated view measures the CPU usage of its processes.</translation>
+    </message>
+    <message id="setting_QUIVA_FULLSCREEN_DRAW_PARENT_CHILD_CONNECTORS">
+        <source></source>
+        <translation>Draw lines between parents and children in the full-screen view, too.</translation>
+    </message>
+    <message id="setting_QUINT_FULLSCREEN_WINDOW_ALPHA">
+        <source></source>
+        <translation>Opacity of the full-screen view.</translation>
+    </message>
+    <message id="setting_QUINT_FULLSCREEN_UNDERLAY_ALPHA">
+        <source></source>
+        <translation>Opacity of the picture behind the processes in the full-screen view.</translation>
+    </message>
+    <message id="setting_HEARTQUIVA_ICON_SCALE_FACTOR">
+        <source></source>
+        <translation>Size of the busiest process's icon in the animated view, in points.</translation>
+    </message>
+    <message id="setting_QUIVA_FULLSCREEN_EXTRA_SCALE_FACTOR">
+        <source></source>
+        <translation>How many times larger icons are in the full-screen view.</translation>
+    </message>
+    <message id="setting_QUINT_MAX_ITERATIONS_TO_STABILIZE_WHEN_FIRST_SHOWING">
+        <source></source>
+        <translation>Steps of the animated view's layout before it is shown for the first time, at most.</translation>
+    </message>
+    <message id="setting_QUINT_TARVIK_FACTOR">
+        <source></source>
+        <translation>Addition to every process's weight in the animated view; none without a value.</translation>
+    </message>
+    <message id="setting_FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE">
+        <source></source>
+        <translation>Key that turns the full-screen view on and off anywhere on the desktop, by its number; 98 is F7.</translation>
+    </message>
+    <message id="setting_QUIVA_CHECK_QUARTZ_EXTREME">
+        <source></source>
+        <translation>Whether the display's graphics were checked when the animated view was shown for the first time.</translation>
+    </message>
+    <message id="setting_DEFAULT_SHOW_PROCESS_QUIVA_WINDOW">
+        <source></source>
+        <translation>Open the animated view at the start. The program notes here whether it was open.</translation>
+    </message>
+    <message id="setting_DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW">
+        <source></source>
+        <translation>Open the animated view in full screen at the start. The program notes here whether it was.</translation>
+    </message>
+    <message id="setting_CLASSIC_INITIAL_ASSUMED_CPU_USAGE">
+        <source></source>
+        <translation>CPU usage that the Classic environment is assumed to have before it is measured.</translation>
+    </message>
+    <message id="setting_CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER">
+        <source></source>
+        <translation>How much a measurement of the Classic environment's CPU usage counts, from 0 to 1.</translation>
+    </message>
+    <message id="setting_CLASSIC_WATCHDOG_INTERVAL">
+        <source></source>
+        <translation>How often the program looks whether the Classic environment runs.</translation>
+    </message>
+    <message id="setting_CLASSIC_NUB_CONTROL_DEFAULT_SLEEP_TIX">
+        <source></source>
+        <translation>How long the program's helper in the Classic environment sleeps between two looks, in sixtieths of a second.</translation>
+    </message>
+    <message id="setting_QUBS_DEBUGGING_AND_TESTING">
+        <source></source>
+        <translation>Show a small window with the machine's figures, for debugging.</translation>
+    </message>
+    <message id="setting_QUBS_DEBUGGING_SWI_INTERVAL">
+        <source></source>
+        <translation>How often the window with the machine's figures is brought up to date.</translation>
+    </message>
+    <message id="setting_QUBS_DEBUGGING_WINDOW_LEFT">
+        <source></source>
+        <translation>Left edge of the window with the machine's figures.</translation>
+    </message>
+    <message id="setting_QUBS_DEBUGGING_WINDOW_TOP">
+        <source></source>
+        <translation>Top edge of the window with the machine's figures.</translation>
+    </message>
+    <message id="setting_QUBS_DEBUGGING_WINDOW_RIGHT">
+        <source></source>
+        <translation>Right edge of the window with the machine's figures.</translation>
+    </message>
+    <message id="setting_QUBS_DEBUGGING_WINDOW_BOTTOM">
+        <source></source>
+        <translation>Bottom edge of the window with the machine's figures.</translation>
+    </message>
+    <message id="setting_vqMainTableToolbarIdentifierTarvikTemp14_ITEMS">
+        <source></source>
+        <translation>Items of the main window's toolbar, in their order, blanks between them.</translation>
+    </message>
+    <message id="setting_vqMainTableToolbarIdentifierTarvikTemp14_DISPLAY_MODE">
+        <source></source>
+        <translation>What the main window's toolbar shows: 0 the desktop's usual way, 1 pictures and names, 2 pictures, 3 names.</translation>
+    </message>
+    <message id="setting_vqMainTableToolbarIdentifierTarvikTemp14_SHOWN">
+        <source></source>
+        <translation>Show the main window's toolbar.</translation>
+    </message>
+    <message id="setting_QUIVA_CHECK_COMPOSITOR">
+        <source></source>
+        <translation>Whether it was said that the full-screen view needs a desktop with transparency.</translation>
+    </message>
+    <message id="setting_QUIVA_WINDOW_FRAME">
+        <source></source>
+        <translation>Place and size of the animated view's window.</translation>
     </message>
 </context>
 </TS>

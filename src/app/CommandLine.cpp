@@ -14,7 +14,13 @@ Watches the processes of this machine.
   --theme THEME        light, dark, or system: what the desktop has
   --screenshot FILE    write a picture of a window (PNG) after two updates and end;
                        works without a display, too
-  --window NAME        which window: main or about (with --screenshot)
+  --window NAME        which window (with --screenshot): main, history, logging,
+                       preferences, settings, animated or about; history and
+                       logging follow lurkwell itself; animated needs a display
+  --new-instance       start another instance; without it, one that is running comes
+                       to the front
+  --toggle-overlay     have the instance that is running show the animated view over
+                       the whole screen, or in its window again
   --print              print the processes in the terminal, once a second
   --count N            end after N updates (with --print)
   --columns KEY,...    print these properties instead of the usual five
@@ -31,6 +37,9 @@ printed.
 Exit status: 0 after a normal end, 1 when something failed, 2 for options that
 make no sense.
 )";
+
+constexpr const char* kWindows[] = {"main",     "history",  "logging", "preferences",
+                                    "settings", "animated", "about"};
 
 /// Walks over the arguments; an option's value follows it or stands behind "=".
 class Reader {
@@ -68,6 +77,8 @@ class Reader {
     if (mOption == "--screenshot") return ReadScreenshot();
     if (mOption == "--window") return ReadWindow();
     if (mOption == "--theme") return ReadTheme();
+    // Of a session manager; Qt reads it.
+    if (mOption == "-session") return TakeValue();
     if (mValue) return Complain(std::string(mOption) + " takes no value");
     if (mOption == "--print") {
       mLine.action = CommandLine::Action::kPrint;
@@ -77,6 +88,10 @@ class Reader {
       mLine.action = CommandLine::Action::kVersion;
     } else if (mOption == "--unprivileged") {
       mLine.unprivileged = true;
+    } else if (mOption == "--new-instance") {
+      mLine.newInstance = true;
+    } else if (mOption == "--toggle-overlay") {
+      mLine.toggleOverlay = true;
     } else {
       return Complain("unknown option '" + std::string(mOption) + "'");
     }
@@ -120,8 +135,11 @@ class Reader {
   bool ReadWindow() {
     if (!TakeValue()) return false;
     mLine.window = *mValue;
-    return mLine.window == "main" || mLine.window == "about" ||
-           Complain("there is no window '" + mLine.window + "'; there are main and about");
+    for (const auto* name : kWindows)
+      if (mLine.window == name) return true;
+    std::string names;
+    for (const auto* name : kWindows) names += std::string(names.empty() ? "" : ", ") + name;
+    return Complain("there is no window '" + mLine.window + "'; there are " + names);
   }
 
   bool ReadTheme() {

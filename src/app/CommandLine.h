@@ -23,9 +23,13 @@ struct CommandLine {
   bool unprivileged = false;
   /// A file to write a window's picture to, instead of running on.
   std::optional<std::string> screenshot;
-  /// Which window: "main" or "about".
+  /// Which window; one of those that the help text names.
   std::string window = "main";
   Theme theme = Theme::kSystem;
+  /// Start another instance beside one that is running.
+  bool newInstance = false;
+  /// Have the running instance change between the animated view's window and overlay, and end.
+  bool toggleOverlay = false;
 };
 
 /// Exit statuses of the program.

@@ -1,5 +1,7 @@
 #include "app/WindowMode.h"
 
+#include <unistd.h>
+
 #include <QApplication>
 #include <QPalette>
 #include <QPixmap>
@@ -10,6 +12,9 @@
 #include "app/appDelegate.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
+#include "platform/Uuid.h"
+#include "preferences_window/AllSettings.h"
+#include "preferences_window/PreferencesUI.h"
 #include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
 
@@ -17,6 +22,11 @@ namespace lurkwell {
 namespace {
 
 constexpr int kUpdatesBeforePicture = 2;
+/// So that a history has something to show.
+constexpr int kUpdatesOfFollowing = 5;
+constexpr int kHistoryInterval = 50;
+constexpr int kLoggingInterval = 200;
+constexpr QSize kAnimatedSize(900, 640);
 
 QPalette DarkPalette() {
   QPalette palette(QColor(46, 49, 56), QColor(36, 39, 45));
@@ -37,31 +47,83 @@ QPalette LightPalette() {
   return palette;
 }
 
-/// Takes the picture after some updates and ends the run loop.
+/// Opens the window, takes its picture after some updates and ends the run loop. Nothing of it is
+/// seen, and the user's preferences stay as they are.
 class Photographer : public QObject {
  public:
   Photographer(vqAppDelegate& delegate, const CommandLine& commandLine)
       : mDelegate(delegate), mCommandLine(commandLine) {
+    qApp->installEventFilter(this);
     connect(&delegate.mainWindow().controller(), &vqMainTableController::updated, this, [this] {
-      if (++mUpdates == kUpdatesBeforePicture)
+      if (++mUpdates == 1) Open();
+      if (mUpdates == (Follows() ? kUpdatesOfFollowing : kUpdatesBeforePicture))
         QMetaObject::invokeMethod(this, &Photographer::Take, Qt::QueuedConnection);
     });
   }
 
   int Status() const { return mStatus; }
 
+  bool eventFilter(QObject* object, QEvent* event) override {
+    auto* widget = event->type() == QEvent::Polish ? qobject_cast<QWidget*>(object) : nullptr;
+    if (widget != nullptr && widget->isWindow()) widget->setAttribute(Qt::WA_DontShowOnScreen);
+    return false;
+  }
+
  private:
-  void Take() {
-    QWidget* window = &mDelegate.mainWindow();
-    if (mCommandLine.window == "about") {
-      ShowSplashScreen();
-      window = SplashScreen::window();
+  bool Follows() const {
+    return mCommandLine.window == "history" || mCommandLine.window == "logging" ||
+           mCommandLine.window == "animated";
+  }
+
+  void Open() {
+    // With an identifier of its own a window is not remembered.
+    const auto uuid = Uuid::Fresh();
+    auto& windows = mDelegate.monitorWindows();
+    if (mCommandLine.window == "about") ShowSplashScreen();
+    if (mCommandLine.window == "animated") mDelegate.quintessentialWindows().ShowForPicture();
+    // With a page's number the remembered one is not asked for.
+    if (mCommandLine.window == "preferences" || mCommandLine.window == "settings")
+      vqPreferencesUI::runWithTab(0);
+    if (mCommandLine.window == "settings" && gThePreferencesUI != nullptr)
+      gThePreferencesUI->showAllSettings();
+    if (mCommandLine.window == "history")
+      windows.CreateCPUHistoryWindow(kHistoryInterval, ::getpid(), &uuid, nullptr);
+    if (mCommandLine.window == "logging")
+      windows.CreateLoggingWindow(kLoggingInterval, ::getpid(), &uuid, nullptr, -1);
+  }
+
+  /// What was opened, else the main window.
+  QWidget* Window() {
+    auto* main = &mDelegate.mainWindow();
+    if (mCommandLine.window == "main") return main;
+    auto* panel = gThePreferencesUI != nullptr ? &gThePreferencesUI->window() : nullptr;
+    if (mCommandLine.window == "preferences") return panel;
+    if (mCommandLine.window == "settings" && panel != nullptr)
+      return panel->findChild<AllSettings*>();
+    for (auto* window : QApplication::topLevelWidgets())
+      if (window != main && window->isVisible()) return window;
+    return nullptr;
+  }
+
+  bool Save(const QString& file) {
+    if (mCommandLine.window == "animated") {
+      const auto picture =
+          mDelegate.quintessentialWindows().TakePicture(kAnimatedSize, qApp->devicePixelRatio());
+      if (picture.isNull()) std::fputs("lurkwell: there is no OpenGL to draw with\n", stderr);
+      return !picture.isNull() && picture.save(file, "PNG");
     }
+    auto* window = Window();
+    return window != nullptr && window->grab().save(file, "PNG");
+  }
+
+  void Take() {
     const auto file = QString::fromStdString(*mCommandLine.screenshot);
-    if (!window->grab().save(file, "PNG")) {
+    if (!Save(file)) {
       std::fprintf(stderr, "lurkwell: cannot write '%s'\n", mCommandLine.screenshot->c_str());
       mStatus = kExitFailure;
     }
+    // Closed, it would remember its page.
+    if (gThePreferencesUI != nullptr) delete &gThePreferencesUI->window();
     TheMachine().runLoop.Stop();
   }
 

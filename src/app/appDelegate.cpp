@@ -4,22 +4,35 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "animated_view/FlowControlFSMMgr.h"
+#include "animated_view/HotKey.h"
+#include "animated_view/QuintessentialGlobals.h"
+#include "animated_view/flowcontrolfsm.h"
 #include "app/SplashScreen.h"
 #include "consolidator/PI_Consolidator.h"
-#include "main_window/Preferences.h"
+#include "monitor_windows/CPUHistoryWindow.h"
+#include "monitor_windows/ProcessWatchdog.h"
+#include "monitor_windows/SystemWideInfo.h"
 #include "platform/Alerts.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
+#include "platform/Screen.h"
 #include "platform/Tools.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/PreferencesRetrieval.h"
+#include "preferences_window/PreferencesUI.h"
 #include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
 
 vqAppDelegate* gAppDelegate = nullptr;
+
+namespace {
+constexpr char kDebuggingKey[] = "QUBS_DEBUGGING_AND_TESTING";
+}  // namespace
 
 bool ToolExists(const std::string& path) {
   const int statRes = TheMachine().tools.Stat(path);
@@ -31,9 +44,14 @@ bool SystemHasNecessaryTools() {
   return ToolExists("/bin/ps") && ToolExists("/bin/kill") && ToolExists("/usr/bin/renice");
 }
 
-vqAppDelegate::vqAppDelegate(Launch launch) : mLaunch(launch) {}
+vqAppDelegate::vqAppDelegate(Launch launch)
+    : mLaunch(launch),
+      mFollowingWindows(
+          TheMachine().logFiles,
+          {&CreateCPUHistoryWindow, &CountOpenCPUHistoryWindows, &RememberCPUHistoryPlaces}) {}
 
 vqAppDelegate::~vqAppDelegate() {
+  fQuintessentialWindows.reset();
   fMainWindow.reset();
   if (gAppDelegate == this) gAppDelegate = nullptr;
 }
@@ -43,8 +61,13 @@ void vqAppDelegate::init() {
   gAppDelegate = this;
   qApp->installEventFilter(this);
   fMainWindow = std::make_unique<MainWindow>(*this);
-  // A picture needs no place on the screen, and is no use that the user makes of the window.
-  fMainWindow->setAttribute(Qt::WA_DontShowOnScreen, mLaunch == Launch::kForPicture);
+  fMainWindow->controller().setMonitorWindows(&mFollowingWindows);
+  fQuintessentialWindows = std::make_unique<QuintessentialWindows>(ViewCommands{
+      [this] { doShowQuintessentialView(); }, [this] { doToggleQuintessentialViewFullScreen(); },
+      [this] { doShowMainWindow(); }, [this] { doQuit(); },
+      [this] {
+        if (!IsAnythingVisibleBut(nullptr)) doQuit();
+      }});
 }
 
 void vqAppDelegate::applicationDidFinishLaunching() {
@@ -54,42 +77,61 @@ void vqAppDelegate::applicationDidFinishLaunching() {
     std::exit(-1);
   }
   mIsRunning = true;
-  // To come, in this place: the state machines of the animated view.
+  CreateFlowControlFSMMgr();
   LaunchHelperDaemon();
-  // To come: reports of the Classic environment, its helper, the watchdog of remembered windows.
-  if (mLaunch == Launch::kUsual) ReopenWindows();
-  // To come: the client for debugging.
+  // To come: reports of the Classic environment, its helper.
+  if (mLaunch == Launch::kUsual) OpenFirstWindows();
+  QubsDebugging();
   if (mLaunch == Launch::kUsual) ShowSplashScreen();
-  // To come: the hot key.
+  if (mLaunch == Launch::kUsual) SetUpHotKey();
 }
 
-void vqAppDelegate::ReopenWindows() {
-  const bool remembered = GetPrefInt(kShowProcessListKey, nullptr, true, 1) != 0;
-  const auto windows = QApplication::topLevelWidgets();
-  const bool anyVisible =
-      std::ranges::any_of(windows, [](const auto* window) { return window->isVisible(); });
+void vqAppDelegate::OpenFirstWindows() {
+  InitializeProcessWatchdog(GetPrefInt("DEFAULT_WATCHDOG_INTERVAL", nullptr, true, 500),
+                            mFollowingWindows, *this);
   // A start that shows nothing would leave a program that nobody can reach.
-  if (remembered || !anyVisible) doShowMainWindow();
+  if (!IsAnythingVisibleBut(nullptr)) doShowMainWindow();
+}
+
+void QubsDebugging() {
+  if (GetPrefInt(kDebuggingKey, nullptr, true, 0) == 0) return;
+  CreateSystemWideInfo(GetPrefInt("QUBS_DEBUGGING_SWI_INTERVAL", nullptr, true, 500));
+}
+
+void QubsDebuggingCleanup() {
+  if (GetPrefInt(kDebuggingKey, nullptr, true, 0) != 0) CleanupSystemWideInfo();
 }
 
 void vqAppDelegate::applicationWillTerminate() {
   if (!std::exchange(mIsRunning, false)) return;
   if (fMainWindow != nullptr && mLaunch == Launch::kUsual) fMainWindow->SaveFrame();
+  vqPreferencesUI::closeIfOpen();
+  fQuintessentialWindows->SaveFrame();
   gApplicationQuitting = true;
-  for (const std::int32_t pid : PidBlob())
-    ProcessInformationClient::NotifyAllPidHasBeenRemoved(pid, true);
+  {
+    const PreferenceBatch batch;
+    for (const std::int32_t pid : PidBlob())
+      ProcessInformationClient::NotifyAllPidHasBeenRemoved(pid, true);
+  }
   // To come: the Classic helper's end.
   QuitHelperDaemon();
-  // To come: the end of the client for debugging.
+  QubsDebuggingCleanup();
   ProcessInformationClient::DeleteAllProcessInformationClients();
-  // To come: the end of the state machines.
+  DestroyFlowControlFSMMgr();
+  fQuintessentialWindows.reset();
   SplashScreen::destroy();
   fMainWindow.reset();
   DestroyProcessInformationConsolidator();
 }
 
 void vqAppDelegate::doThePrefs() {
-  Q_EMIT fMainWindow->controller().notYetAvailable();
+  const auto* before = gThePreferencesUI;
+  vqPreferencesUI::runWithTab(vqPreferencesUI::kRememberedTab);
+  if (gThePreferencesUI == before) return;
+  connect(gThePreferencesUI, &vqPreferencesUI::closed, this,
+          [this, &window = gThePreferencesUI->window()] {
+            if (isLastWindow(window)) doQuit();
+          });
 }
 
 void vqAppDelegate::doAboutPanel() {
@@ -103,6 +145,28 @@ void vqAppDelegate::doShowMainWindow() {
   fMainWindow->activateWindow();
 }
 
+void vqAppDelegate::CheckGraphicsOnce() {
+  constexpr char kCheckedKey[] = "QUIVA_CHECK_QUARTZ_EXTREME";
+  if (GetPrefInt(kCheckedKey, nullptr, true, 0) != 0) return;
+  SetPrefInt(kCheckedKey, 1);
+  if (TheMachine().screen.UsesOpenGLAcceleration()) return;
+  TheMachine().alerts.RunAlertPanel(LocalizedString("no_quartz_extreme").toStdString(), " ", "OK",
+                                    "", "");
+}
+
+void vqAppDelegate::doShowQuintessentialView() {
+  CheckGraphicsOnce();
+  fQuintessentialWindows->ShowCurrentWindow();
+}
+
+void vqAppDelegate::showQuintessentialViewFullScreen() {
+  doToggleQuintessentialViewFullScreen();
+}
+
+void vqAppDelegate::doToggleQuintessentialViewFullScreen() {
+  ToggleQuintessentialFullScreen();
+}
+
 bool vqAppDelegate::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::Quit) return false;
   doQuit();
@@ -114,8 +178,14 @@ void vqAppDelegate::doQuit() {
 }
 
 bool vqAppDelegate::isLastWindow(const QWidget& window) const {
-  return std::ranges::none_of(QApplication::topLevelWidgets(), [&](const QWidget* other) {
-    return other != &window && other->isVisible() && other != SplashScreen::window() &&
+  return !IsAnythingVisibleBut(&window);
+}
+
+bool vqAppDelegate::IsAnythingVisibleBut(const QWidget* window) const {
+  // Between window and overlay there is neither.
+  if (gToggleFullscreenInProgress || fQuintessentialWindows->IsAnyVisible()) return true;
+  return std::ranges::any_of(QApplication::topLevelWidgets(), [&](const QWidget* other) {
+    return other != window && other->isVisible() && other != SplashScreen::window() &&
            other->windowType() != Qt::Popup;
   });
 }

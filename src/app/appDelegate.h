@@ -4,13 +4,15 @@
 #include <memory>
 #include <string>
 
+#include "animated_view/QuintessentialWindows.h"
 #include "main_window/MainWindow.h"
+#include "monitor_windows/FollowingWindows.h"
 
 namespace lurkwell {
 
 /// Starts the program's parts in their order and ends them in theirs, and serves the commands that
 /// concern the application as a whole. One per process; main thread only.
-class vqAppDelegate final : public QObject, public ApplicationCommands {
+class vqAppDelegate final : public QObject, public ApplicationCommands, public StartUpWindows {
   Q_OBJECT
 
  public:
@@ -39,20 +41,30 @@ class vqAppDelegate final : public QObject, public ApplicationCommands {
   void doAboutPanel() override;
   void doShowMainWindow() override;
   void doQuit() override;
+  void doShowQuintessentialView() override;
+  void showQuintessentialViewFullScreen() override;
+  void doToggleQuintessentialViewFullScreen() override;
   bool isLastWindow(const QWidget& window) const override;
 
   MainWindow& mainWindow() { return *fMainWindow; }
+  QuintessentialWindows& quintessentialWindows() { return *fQuintessentialWindows; }
+  MonitorWindowKinds& monitorWindows() { return mFollowingWindows; }
 
   /// The desktop asks programs to quit by an event that would close the windows first, as if the
   /// user had done it.
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  void ReopenWindows();
+  void OpenFirstWindows();
+  void CheckGraphicsOnce();
+  bool IsAnythingVisibleBut(const QWidget* window) const;
 
   Launch mLaunch;
   bool mIsRunning = false;
+  /// Serves the main window and the watchdog, which go before it.
+  FollowingWindows mFollowingWindows;
   std::unique_ptr<MainWindow> fMainWindow;
+  std::unique_ptr<QuintessentialWindows> fQuintessentialWindows;
 };
 
 extern vqAppDelegate* gAppDelegate;
@@ -61,5 +73,9 @@ extern vqAppDelegate* gAppDelegate;
 /// /usr/bin/renice.
 bool SystemHasNecessaryTools();
 bool ToolExists(const std::string& path);
+
+/// The window with figures for debugging, for those whose preferences want it.
+void QubsDebugging();
+void QubsDebuggingCleanup();
 
 }  // namespace lurkwell

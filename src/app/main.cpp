@@ -6,13 +6,18 @@
 
 #include "app/CommandLine.h"
 #include "app/PrintMode.h"
+#include "app/SessionRestart.h"
 #include "app/WindowMode.h"
+#include "app/appDelegate.h"
 #include "platform/Machine.h"
 #include "platform/desktop/DesktopAlerts.h"
+#include "platform/desktop/DesktopHotKeys.h"
 #include "platform/desktop/DesktopIconServices.h"
 #include "platform/desktop/DesktopProcessManager.h"
+#include "platform/desktop/DesktopScreen.h"
 #include "platform/desktop/EndingSignals.h"
 #include "platform/desktop/QtRunLoop.h"
+#include "platform/desktop/RunningInstance.h"
 #include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxMachine.h"
 
@@ -42,12 +47,14 @@ class DesktopMachine {
   PolkitAuthorization authorization{bundle, mConsent};
   DesktopAlerts alerts;
   LinuxLogFiles logFiles;
-  NoHotKeys hotKeys;
+  DesktopHotKeys hotKeys{DesktopSettings::FromEnvironment()};
+  DesktopScreen screen{DesktopSettings::FromEnvironment()};
+  NoEventBus eventBus;
 
-  Machine services{clock,          runLoop,      preferenceDomain, processTable,
-                   processManager, iconServices, hostStatistics,   tools,
-                   signals,        namedPipes,   authorization,    bundle,
-                   alerts,         logFiles,     hotKeys};
+  Machine services{
+      clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
+      hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
+      alerts,         logFiles, hotKeys,          screen,       eventBus};
 };
 
 int RunInTerminal(const CommandLine& commandLine) {
@@ -56,12 +63,54 @@ int RunInTerminal(const CommandLine& commandLine) {
   return RunPrintMode(commandLine);
 }
 
+std::string BusAddress() {
+  return DesktopSettings::FromEnvironment().sessionBusAddress;
+}
+
+/// Where there is no session bus, Qt would have one started, which would outlive this program.
+void HaveNoBusStarted() {
+  if (BusAddress().empty()) ::setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
+}
+
+int ToggleOverlay(int& argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  if (RunningInstance(BusAddress()).ToggleOverlay() == RunningInstance::Answer::kDone)
+    return kExitSuccess;
+  std::fputs("lurkwell: no running instance answers, so there is no overlay to toggle\n", stderr);
+  return kExitFailure;
+}
+
+/// Has others find this instance; false when one that is running has come to the front instead.
+bool BecomeTheInstance(RunningInstance& instance) {
+  const auto answer = instance.BringToFront();
+  if (answer == RunningInstance::Answer::kDone) return false;
+  if (answer == RunningInstance::Answer::kSilent)
+    std::fputs("lurkwell: an instance that is running does not answer; starting another\n", stderr);
+  instance.Become(
+      [] {
+        if (gAppDelegate != nullptr) gAppDelegate->doShowMainWindow();
+      },
+      [] {
+        if (gAppDelegate != nullptr) gAppDelegate->doToggleQuintessentialViewFullScreen();
+      });
+  return true;
+}
+
 int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   EndingSignals signals;
+  HaveNoBusStarted();
   QApplication::setApplicationName(QStringLiteral("lurkwell"));
   QApplication::setDesktopFileName(QStringLiteral("com.velquarin.lurkwell"));
-  const QApplication application(argc, argv);
+  QApplication application(argc, argv);
   signals.Watch();
+  const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot;
+  if (commandLine.screenshot) {
+    NeverRestartWithSession(application);
+  } else {
+    RestartWithSession(application);
+  }
+  RunningInstance instance(isOnItsOwn ? "" : BusAddress());
+  if (!isOnItsOwn && !BecomeTheInstance(instance)) return kExitSuccess;
   // A picture is taken without asking anybody anything.
   using Consent = PolkitAuthorization::Consent;
   DesktopMachine machine(commandLine.screenshot ? Consent::kOnlyIfGiven : Consent::kMayAsk);
@@ -71,6 +120,7 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
 
 int Run(const CommandLine& commandLine, int& argc, char** argv) {
   if (commandLine.action == CommandLine::Action::kPrint) return RunInTerminal(commandLine);
+  if (commandLine.toggleOverlay) return ToggleOverlay(argc, argv);
   const bool platformIsChosen = std::getenv("QT_QPA_PLATFORM") != nullptr;
   if (!platformIsChosen && !IsDisplayReachable()) {
     if (!commandLine.screenshot) {
@@ -103,6 +153,8 @@ int main(int argc, char** argv) {
   }
   // The helper's end of a pipe may go at any time; writing to it then is an error, not the end.
   std::signal(SIGPIPE, SIG_IGN);
+  // A file that must not grow is a failed write.
+  std::signal(SIGXFSZ, SIG_IGN);
   RaiseDescriptorLimit();
   return Run(*commandLine, argc, argv);
 }

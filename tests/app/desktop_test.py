@@ -3,120 +3,19 @@
 
 desktop_test.py BINARY [unittest arguments]
 """
-import os
-import pathlib
-import plistlib
-import shutil
 import signal
-import struct
 import subprocess
-import sys
-import tempfile
-import time
 import unittest
 
-BINARY = sys.argv.pop(1)
+from desktop_support import BINARY, Desktop, helpers, png_size
 
 
-def png_size(path):
-    """Width and height from the file's own head."""
-    head = pathlib.Path(path).read_bytes()[:24]
-    assert head[:8] == b"\x89PNG\r\n\x1a\n", head
-    return struct.unpack(">II", head[16:24])
-
-
-def helpers():
-    found = set()
-    for entry in pathlib.Path("/proc").iterdir():
-        if not entry.name.isdigit():
-            continue
-        try:
-            if (entry / "cmdline").read_bytes().startswith(b"lkw_helper_daemon"):
-                found.add(int(entry.name))
-        except OSError:
-            pass
-    return found
-
-
-class Desktop(unittest.TestCase):
-    def setUp(self):
-        self.home = tempfile.mkdtemp(prefix="lurkwell-test-")
-        self.addCleanup(shutil.rmtree, self.home, True)
-        self.run_folder = pathlib.Path(self.home, "run")
-        self.run_folder.mkdir(mode=0o700)
-        self.environment = {
-            key: value for key, value in os.environ.items()
-            if key not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR")}
-        self.environment.update(
-            HOME=self.home, XDG_CONFIG_HOME=self.home + "/config",
-            XDG_DATA_HOME=self.home + "/data", XDG_RUNTIME_DIR=str(self.run_folder),
-            TMPDIR=str(self.run_folder))
-        self.helpers_before = helpers()
-
-    def open_display(self):
-        reader, writer = os.pipe()
-        server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1000x800x24"],
-            pass_fds=[writer], stderr=subprocess.DEVNULL)
-        os.close(writer)
-        self.addCleanup(server.wait)
-        self.addCleanup(server.terminate)
-        with os.fdopen(reader) as numbers:
-            self.environment["DISPLAY"] = ":" + numbers.readline().strip()
-        manager = self.start(["openbox"])
-        self.addCleanup(manager.wait)
-        self.addCleanup(manager.terminate)
-        self.wait_for(lambda: "_NET_SUPPORTING_WM_CHECK" in self.output("xprop", "-root"))
-        return server
-
-    def start(self, command):
-        process = subprocess.Popen(command, env=self.environment, stdout=subprocess.PIPE,
-                                   stderr=subprocess.PIPE, text=True)
-        self.addCleanup(process.stdout.close)
-        self.addCleanup(process.stderr.close)
-        self.addCleanup(process.kill)
-        return process
-
-    def output(self, *command):
-        return subprocess.run(command, env=self.environment, stdout=subprocess.PIPE,
-                              stderr=subprocess.DEVNULL, text=True, check=False).stdout
-
-    def wait_for(self, condition, seconds=20.0):
-        end = time.monotonic() + seconds
-        while not condition():
-            self.assertLess(time.monotonic(), end, "it did not come about")
-            time.sleep(0.05)
-
-    def windows(self):
-        return self.output("xwininfo", "-root", "-tree")
-
-    def active_window(self):
-        return self.output("xdotool", "getactivewindow", "getwindowname").strip()
-
-    def type_keys(self, *words):
-        """Keys into the main window, once it has the keyboard: the about panel had it first."""
-        def activate():
-            self.output("xdotool", "search", "--name", "^Processes$", "windowactivate")
-            time.sleep(0.2)
-            return self.active_window() == "Processes"
-        self.wait_for(activate)
-        self.output("xdotool", *words)
-
-    def preferences(self):
-        file = pathlib.Path(self.home, "config", "com.velquarin.lurkwell.plist")
-        return plistlib.loads(file.read_bytes())
-
-    def check_nothing_is_left(self):
-        self.wait_for(lambda: helpers() <= self.helpers_before)
-        self.assertEqual([p.name for p in self.run_folder.rglob("*") if p.is_fifo()], [])
-
+class Shell(Desktop):
     def test_pictures_need_no_display(self):
         picture = self.home + "/main.png"
         # A picture changes nothing of what the user left.
         left = {"DEFAULT_SHOW_PROCESS_LIST_WINDOW": 0, "MAIN_WINDOW_FRAME": "7 8 860 560"}
-        file = pathlib.Path(self.home, "config", "com.velquarin.lurkwell.plist")
-        file.parent.mkdir()
-        file.write_bytes(plistlib.dumps(left))
+        self.write_preferences(left)
         for scale, size in (("1", (860, 560)), ("2", (1720, 1120))):
             self.environment["QT_SCALE_FACTOR"] = scale
             done = subprocess.run(

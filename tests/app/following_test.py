@@ -1,0 +1,102 @@
+#!/usr/bin/env python3
+"""Windows that follow real programs: they go with them, and come back with them.
+
+following_test.py BINARY [unittest arguments]
+"""
+import pathlib
+import shutil
+import subprocess
+import time
+import unittest
+
+from desktop_support import FollowedProgram
+
+
+class Following(FollowedProgram):
+    def test_windows_come_back_with_their_program(self):
+        self.open_display()
+        victim = self.start_victim()
+        program = self.start_program()
+        self.open_both(victim.pid)
+        self.move(f"^{victim.pid}$", 600, 500)
+        self.move(f"^Logging lkwvictim pid:{victim.pid}$", 40, 420)
+        self.wait_for(lambda: self.places(victim.pid).get("history") == (600, 500) and
+                      self.places(victim.pid)["log"][1] >= 420)
+        placed = self.places(victim.pid)
+        # Whoever works with another program keeps the keyboard.
+        other_program = self.start(["xterm", "-T", "another"])
+        self.wait_for(lambda: self.active_window() == "another")
+        self.end_victim(victim)
+        self.wait_for(lambda: "history" not in self.places(victim.pid))
+
+        again = self.start_victim()
+        self.wait_for(lambda: self.places(again.pid) == placed,
+                      tell=lambda: f"{placed} {self.windows()}")
+        self.assertEqual(self.active_window(), "another")
+        other_program.kill()
+        other = self.start_victim()
+        self.wait_for(lambda: self.places(other.pid) == placed)
+
+        self.end_program(program)
+        self.check_nothing_is_left()
+        program = self.start_program()
+        self.wait_for(lambda: self.places(again.pid) == placed == self.places(other.pid))
+
+        # What its user closes stays closed.
+        for one in (again, other):
+            self.output("xdotool", "search", "--name", f"^{one.pid}$", "windowclose")
+        self.end_program(program)
+        self.assertEqual(len(self.preferences()["LOGGING_WINDOW"]), 1)
+
+    def test_a_place_on_a_screen_that_is_gone_is_moved_onto_one_that_is_there(self):
+        self.open_display()
+        victim = self.start_victim()
+        program = self.start_program()
+        self.open_both(victim.pid)
+        self.end_program(program)
+        left = self.preferences()
+        for kind in ("CPU_HISTORY_WINDOW", "LOGGING_WINDOW"):
+            left[kind][0].update(WINDOW_RECT_LEFT=5000, WINDOW_RECT_RIGHT=5163,
+                                 WINDOW_RECT_TOP=-900, WINDOW_RECT_BOTTOM=-830)
+        self.write_preferences(left)
+        program = self.start_program()
+        self.wait_for(lambda: len(self.places(victim.pid)) == 2)
+        for x, y in self.places(victim.pid).values():
+            self.assertTrue(0 <= x < 1000 and 0 <= y < 800, (x, y))
+        self.end_program(program)
+
+    def test_a_log_that_cannot_be_written_ends_nothing(self):
+        self.open_display()
+        # Something that logs a line at each reading.
+        shutil.copy(shutil.which("dash"), self.victim_program)
+        busy = subprocess.Popen([self.victim_program, "-c", "while :; do :; done"])
+        self.addCleanup(busy.wait)
+        self.addCleanup(busy.kill)
+        settings = {"LOG_WINDOW_LOG_TO_FILE": 1, "DEFAULT_LOGGING_WINDOW_INTERVAL": 100}
+        for fault in ("full", "removed", "no folder"):
+            self.write_preferences(settings)
+            logs = pathlib.Path(self.home, "logs " + fault)
+            self.environment["TMPDIR"] = str(logs)
+            if fault != "no folder":
+                logs.mkdir()
+            program = self.start_program()
+            self.open_both(busy.pid)
+            if fault != "no folder":
+                self.wait_for(lambda: [log for log in logs.glob("*") if log.stat().st_size > 400])
+                log = next(logs.glob("*"))
+                self.assertEqual(log.stat().st_mode & 0o777, 0o600)
+            if fault == "full":
+                size = log.stat().st_size + 100
+                subprocess.run(["prlimit", f"--pid={program.pid}", f"--fsize={size}:"], check=True)
+            elif fault == "removed":
+                log.unlink()
+            time.sleep(2)
+            if fault == "full":
+                self.assertLessEqual(log.stat().st_size, size)
+                self.assertTrue(log.read_bytes().endswith(b"\n"), "a line is there whole or not")
+            self.assertEqual(len(self.places(busy.pid)), 2)
+            self.end_program(program)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
