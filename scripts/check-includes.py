@@ -45,6 +45,9 @@ def floor_of(folder):
 def may_include(file, folder, included):
     if folder == included:
         return True
+    if folder == "classic_nub":
+        # Speaks on the desktop's bus, and has nothing else of the machine.
+        return included in {"platform", "platform/desktop"}
     if folder in PROGRAMS or included in PROGRAMS:
         return False
     if included in MACHINES:

@@ -1,0 +1,35 @@
+# The Debian package that `./package` makes.
+if(LURKWELL_PACKAGED)
+  install(FILES copyright DESTINATION share/doc/lurkwell)
+  install_gzipped(changelog changelog.Debian share/doc/lurkwell)
+  install(FILES lintian-overrides DESTINATION share/lintian/overrides RENAME lurkwell)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME lurkwell)
+set(CPACK_PACKAGE_VENDOR "The Lurkwell developers")
+set(CPACK_PACKAGE_CONTACT "The Lurkwell developers <lurkwell@velquarin.com>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "interactive process monitor with an animated view")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Lurkwell shows every process of the machine in several views at once: a table
+with 38 properties and every column of ps, windows that follow one process
+with a history or a log, and an animated view in a window or over the whole
+screen.
+.
+Processes can be quit, killed, halted, continued and given another priority.
+For those of other users a small confined helper asks for an administrator's
+consent once; without it the program works with the user's own rights.")
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_OUTPUT_FILE_PREFIX ${CMAKE_BINARY_DIR}/packages)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
+  GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# ps and kill; renice is essential.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "procps")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pkexec | policykit-1")
+include(CPack)

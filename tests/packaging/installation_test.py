@@ -1,0 +1,117 @@
+#!/usr/bin/env python3
+"""What an installation holds, and whether it works from its own place.
+
+installation_test.py CMAKE BUILD SOURCE --paths|--no-paths [unittest arguments]
+"""
+import gzip
+import os
+import pathlib
+import re
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+import xml.etree.ElementTree
+
+CMAKE, BUILD, SOURCE, PATHS = (sys.argv.pop(1) for _ in range(4))
+ID = "com.velquarin.lurkwell"
+SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
+
+
+def words(*command, **more):
+    return subprocess.run(command, capture_output=True, text=True, check=False, timeout=60, **more)
+
+
+class Installation(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = tempfile.TemporaryDirectory(prefix="lurkwell-test-")
+        cls.addClassCleanup(cls.folder.cleanup)
+        cls.prefix = pathlib.Path(cls.folder.name, "usr")
+        done = words(CMAKE, "--install", BUILD, "--strip", "--prefix", str(cls.prefix))
+        assert done.returncode == 0, done.stderr
+        cls.program = str(cls.prefix / "bin/lurkwell")
+        home = pathlib.Path(cls.folder.name, "home")
+        (home / "run").mkdir(parents=True, mode=0o700)
+        cls.environment = {
+            "PATH": os.environ["PATH"], "HOME": str(home), "XDG_RUNTIME_DIR": str(home / "run"),
+            "LC_ALL": "C.UTF-8"}
+
+    def run_program(self, *arguments):
+        done = words(self.program, *arguments, env=self.environment)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        return done.stdout
+
+    def text(self, path):
+        return (self.prefix / path).read_text()
+
+    def options_of_help(self):
+        return set(re.findall(r"--[a-z-]+", self.run_program("--help")))
+
+    def test_it_works_from_its_own_place(self):
+        self.assertRegex(self.run_program("--version"), r"^lurkwell \d+\.\d+\.\d+\n$")
+        # As a session manager starts it.
+        self.assertIn("lurkwell", self.run_program("-session", "10_20", "--version"))
+        self.assertIn("    1:", self.run_program("--print", "--count", "1", "--unprivileged"))
+        picture = self.environment["HOME"] + "/main.png"
+        self.run_program("--screenshot", picture)
+        self.assertGreater(os.path.getsize(picture), 5000)
+        # The user's helper comes from the installed one.
+        mine = pathlib.Path(self.environment["HOME"], ".local/share/Lurkwell/Lurkwell_helper")
+        twin = self.prefix / "lib/lurkwell/Contents/Resources/Lurkwell_helper"
+        self.assertEqual(mine.read_bytes(), twin.read_bytes())
+        self.assertEqual(twin.stat().st_mode & 0o7777, 0o755)
+        self.assertTrue((twin.parent / "Documentation/Documentation.html").is_file())
+        self.assertFalse((self.prefix / "lib/lurkwell/Contents/build-tree").exists())
+
+    def test_nothing_tells_where_it_was_built(self):
+        if PATHS == "--paths":
+            self.skipTest("this kind of build tells")
+        for file in self.prefix.rglob("*"):
+            if file.is_file():
+                for place in (SOURCE, BUILD):
+                    self.assertNotIn(place.encode(), file.read_bytes(), file)
+
+    def test_the_desktop_finds_it(self):
+        entry = self.prefix / f"share/applications/{ID}.desktop"
+        done = words("desktop-file-validate", str(entry))
+        self.assertEqual((done.returncode, done.stdout + done.stderr), (0, ""))
+        for option in re.findall(r"^Exec=lurkwell (\S+)$", entry.read_text(), re.M):
+            self.assertIn(option, self.options_of_help())
+        metainfo = self.prefix / f"share/metainfo/{ID}.metainfo.xml"
+        done = words("appstreamcli", "validate", "--no-net", "--pedantic", str(metainfo))
+        self.assertEqual(done.returncode, 0, done.stdout)
+        releases = xml.etree.ElementTree.parse(metainfo).findall("releases/release")
+        self.assertEqual(self.run_program("--version").split()[1], releases[0].get("version"))
+        icons = self.prefix / "share/icons/hicolor"
+        self.assertTrue((icons / f"scalable/apps/{ID}.svg").is_file())
+        for size in SIZES:
+            picture = (icons / f"{size}x{size}/apps/{ID}.png").read_bytes()
+            self.assertEqual(struct.unpack(">II", picture[16:24]), (size, size))
+            self.assertGreater(len(picture), 10 * size)
+
+    def test_the_administrator_is_asked_for_the_installed_helper(self):
+        policy = xml.etree.ElementTree.parse(self.prefix / f"share/polkit-1/actions/{ID}.policy")
+        path = policy.find("action/annotate[@key='org.freedesktop.policykit.exec.path']").text
+        self.assertTrue(path.endswith("/lib/lurkwell/Contents/Resources/Lurkwell_helper"), path)
+        self.assertTrue(path.startswith("/"), path)
+        for who in policy.find("action/defaults"):
+            self.assertEqual(who.text, "auth_admin")
+
+    def test_the_manual_agrees_with_the_help(self):
+        page = self.prefix / "share/man/man1/lurkwell.1.gz"
+        done = words("man", "--warnings", "--nh", "--nj", "-E", "UTF-8", "-l", str(page),
+                     env={**self.environment, "MANWIDTH": "80", "MANPAGER": "cat"})
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        options = done.stdout.split("\nOPTIONS\n")[1].split("\nEXIT STATUS\n")[0]
+        self.assertEqual(set(re.findall(r"^ +(--[a-z-]+)", options, re.M)), self.options_of_help())
+        windows = words(self.program, "--window", "?", env=self.environment).stderr
+        for window in windows.split("there are ")[1].split("\n")[0].split(", "):
+            self.assertIn(window, options)
+        version = self.run_program("--version").split()[1]
+        self.assertIn(version, gzip.decompress(page.read_bytes()).decode())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
