@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "consolidator/ClassicEstimate.h"
+#include "consolidator/FamilyIndex.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/PropertyTypes.h"
 #include "consolidator/RecordStore.h"
@@ -31,6 +32,7 @@ inline std::array<std::unique_ptr<CriticalRegion>, kInformationKindCount>
 inline std::array<std::int32_t, kInformationKindCount> gGenerationCount{};
 
 inline RecordStore gRecords;
+inline FamilyIndex gFamilyIndex;
 inline PSHeaderRegistry gPSHeaders;
 inline SyntheticPidTable gPSN2PIDMap;
 inline ClassicEstimate gClassicEstimate;

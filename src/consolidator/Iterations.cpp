@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
@@ -44,7 +45,9 @@ void Derive(MetaProcessInformation& record) {
   // The desktop names applications.
   if (!record.psn.IsNone()) return;
   DeriveName(record);
-  if (std::string_view(record.name).starts_with(kClassicEnvironmentPrefix))
+  // A heartbeat for a client that needs no times says nothing about them; the next one, perhaps a
+  // millisecond later, would find a whole interval's use in it.
+  if (std::string_view(record.name).starts_with(kClassicEnvironmentPrefix) && AreTimesRead(record))
     gClassicEstimate.MeasureEnvironment(record.activeTime, TheMachine().clock.Now());
 }
 

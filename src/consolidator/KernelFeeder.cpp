@@ -38,7 +38,9 @@ class KernelPass {
     const bool all = level == Client::kNeedAllProcProperties;
     ReportTableFigures(entry, all);
     if (entry.state == RunState::kStopped) NoteHalted(entry.pid);
-    if (const unsigned groups = GroupsFor(entry.pid, all)) mQueries.Ask(entry.pid, groups);
+    const unsigned groups = GroupsFor(entry.pid, all);
+    if ((groups & kThreadTime) != 0) NoteTimesRead(entry.pid);
+    if (groups != 0) mQueries.Ask(entry.pid, groups);
   }
 
  private:

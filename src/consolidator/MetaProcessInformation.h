@@ -50,6 +50,8 @@ struct PidBlock {
   /// The kernel's stamp of the process's start, which tells it from a later holder of its pid; 0
   /// while the kernel's table has not named it.
   std::uint64_t startStamp = 0;
+  /// The iteration in which the CPU times were last asked for.
+  std::int32_t timesGeneration = 0;
 };
 
 /// What the desktop says of an application.
@@ -65,6 +67,8 @@ struct CarbonBlock {
 class ClassicRecord {
  public:
   static constexpr std::size_t kSize = 396;
+  /// Two words, high then low.
+  static constexpr std::size_t kSerialNumberOffset = 8;
 
   ClassicRecord() = default;
   /// Copies the bytes and makes the name fit: terminated, at most 254 characters.

@@ -110,13 +110,17 @@ void InitializeProcessInformationConsolidator() {
 void HeartbeatCFTimerFunc(RunLoopTimer* timer) {
   const ConsolidatorGuard guard;
   const TimeValue now = TheMachine().clock.Now();
+  // A client's handler may run a heartbeat within its own.
+  gFamilyIndex.Share(false);
   RunFeeders(now);
   const bool phantoms = DeletePhantoms();
   AnnounceNew();
   AnnounceChanged();
   const bool removed = RetireRemoved();
   if (phantoms || removed) ForgetMissingParents();
+  gFamilyIndex.Share(true);
   Client::NotifyAllProcessesHaveBeenUpdated(&now);
+  gFamilyIndex.Share(false);
   const auto milliseconds = static_cast<double>(Client::GetMillisecondsToNextHeartbeat(&now));
   timer->SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
 }

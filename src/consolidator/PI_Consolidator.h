@@ -2,6 +2,7 @@
 
 // The consolidator: one collector of process data, one record per process, and a heartbeat that
 // reads, retires and announces. This header is all that its clients include.
+#include "consolidator/ClassicReports.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessQueries.h"

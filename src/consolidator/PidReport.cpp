@@ -114,4 +114,12 @@ bool NoteStartStamp(std::int32_t pid, std::uint64_t startStamp) {
   return known == startStamp;
 }
 
+void NoteTimesRead(std::int32_t pid) {
+  gRecords.GetPIDInformation(pid).pidInfo->timesGeneration = gGenerationCount[kInformationKindPID];
+}
+
+bool AreTimesRead(const MetaProcessInformation& record) {
+  return record.pidInfo->timesGeneration == gGenerationCount[kInformationKindPID];
+}
+
 }  // namespace lurkwell

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string>
 
+#include "consolidator/ConsolidatorState.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/PropertyTypes.h"
@@ -25,6 +26,13 @@ void ReportApplication(ProcessSerialNumber psn, const ApplicationInformation& in
   ReportProcessInformationForCarbonPSN(psn, "carbonpsn_mode", mode);
 }
 
+void Touch(std::int32_t pid, ProcessSerialNumber psn) {
+  const ConsolidatorGuard guard;
+  TouchProcessInformationForPID(pid, kInformationKindCarbonPSN);
+  // Without its number the record of an application that has no kernel pid would never retire.
+  if (pid < 0) gRecords.SetSerialNumber(*gRecords.GetExistingPIDInformation(pid), psn);
+}
+
 }  // namespace
 
 void PSNExtractProcessInformation(TimeValue now) {
@@ -35,7 +43,7 @@ void PSNExtractProcessInformation(TimeValue now) {
     psn = *next;
     const std::int32_t pid = PSN2PID(psn);
     if (Client::NeedAnyProcPropertyForPid(pid, &now) == Client::kNeedNoProcProperties) {
-      TouchProcessInformationForPID(pid, kInformationKindCarbonPSN);
+      Touch(pid, psn);
     } else if (const auto information = manager.GetProcessInformation(psn)) {
       ReportApplication(psn, *information);
     }

@@ -1,7 +1,6 @@
 #include "consolidator/ProcessQueries.h"
 
 #include <cstdio>
-#include <unordered_map>
 #include <vector>
 
 #include "consolidator/ConsolidatorState.h"
@@ -11,60 +10,18 @@
 namespace lurkwell {
 namespace {
 
-/// The parent of a known process, kInvalidPID when it has none that is another process.
-std::int32_t ParentOf(const MetaProcessInformation& record) {
-  if (record.pidInfo == nullptr) return kInvalidPID;
-  const std::int32_t parent = record.pidInfo->parentPid;
-  return parent == record.pid ? kInvalidPID : parent;
-}
-
-/// Tells for any number of processes whether they descend from one, looking at each process once.
-class DescendantSet {
- public:
-  explicit DescendantSet(std::int32_t ancestor) : mAncestor(ancestor) {}
-
-  bool Contains(const MetaProcessInformation& record) {
-    Require(mAncestor != kInvalidPID, kUnit, "potentialAncestorPid != kInvalidPID");
-    mPath.clear();
-    bool descends = false;
-    std::int32_t pid = record.pid;
-    const MetaProcessInformation* at = &record;
-    // A path longer than there are records goes round in a loop.
-    while (at != nullptr && mPath.size() <= gRecords.Size()) {
-      const auto known = mKnown.find(pid);
-      if (known != mKnown.end()) {
-        descends = known->second;
-        break;
-      }
-      mPath.push_back(pid);
-      pid = ParentOf(*at);
-      if (pid == kInvalidPID) break;
-      if (pid == mAncestor) {
-        descends = true;
-        break;
-      }
-      at = gRecords.GetExistingPIDInformation(pid);
-    }
-    for (const auto passed : mPath) mKnown.emplace(passed, descends);
-    return descends;
-  }
-
- private:
-  std::int32_t mAncestor;
-  std::unordered_map<std::int32_t, bool> mKnown;
-  std::vector<std::int32_t> mPath;
-};
-
 std::vector<std::int32_t> ValidPids(int kind, std::int32_t argument) {
+  if (kind == kPidBlobDescendantsOf && !gRecords.Empty()) {
+    Require(argument != kInvalidPID, kUnit, "potentialAncestorPid != kInvalidPID");
+    return gFamilyIndex.Descendants(gRecords, argument);
+  }
   std::vector<std::int32_t> pids;
   if (kind == kPidBlobAll) pids.reserve(gRecords.Size());
-  DescendantSet descendants(argument);
   for (const auto& record : gRecords.Records()) {
     if (!record.valid) continue;
-    const bool taken = kind == kPidBlobAll ||
-                       (kind == kPidBlobChildrenOf && record.pidInfo != nullptr &&
-                        record.pidInfo->parentPid == argument) ||
-                       (kind == kPidBlobDescendantsOf && descendants.Contains(record));
+    const bool taken =
+        kind == kPidBlobAll || (kind == kPidBlobChildrenOf && record.pidInfo != nullptr &&
+                                record.pidInfo->parentPid == argument);
     if (taken) pids.push_back(record.pid);
   }
   return pids;

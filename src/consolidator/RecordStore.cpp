@@ -23,7 +23,10 @@ MetaProcessInformation& RecordStore::GetPIDInformation(std::int32_t pid) {
   if (auto* existing = GetExistingPIDInformation(pid)) return *existing;
   auto& record = mRecords.emplace_front(pid);
   record.valid = true;
-  if (pid >= 0) record.pidInfo = std::make_unique<PidBlock>();
+  if (pid >= 0)
+    record.pidInfo = std::make_unique<PidBlock>();
+  else
+    ++mWithoutKernelPid;
   mByPid.emplace(pid, &record);
   mLastFound = &record;
   return record;
@@ -44,6 +47,7 @@ void RecordStore::SetSerialNumber(MetaProcessInformation& record, ProcessSerialN
 RecordStore::List::iterator RecordStore::EraseAfter(List::iterator position) {
   auto& record = *std::next(position);
   if (FindBySerialNumber(record.psn) == &record) mBySerialNumber.erase(record.psn);
+  if (record.pid < 0) --mWithoutKernelPid;
   mByPid.erase(record.pid);
   mLastFound = nullptr;
   return mRecords.erase_after(position);
@@ -51,6 +55,7 @@ RecordStore::List::iterator RecordStore::EraseAfter(List::iterator position) {
 
 void RecordStore::Clear() {
   mLastFound = nullptr;
+  mWithoutKernelPid = 0;
   mByPid.clear();
   mBySerialNumber.clear();
   mRecords.clear();

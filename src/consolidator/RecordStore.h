@@ -23,6 +23,8 @@ class RecordStore {
   List& Records() { return mRecords; }
   bool Empty() const { return mRecords.empty(); }
   std::size_t Size() const { return mByPid.size(); }
+  /// How many of them are of applications without a kernel pid.
+  std::size_t CountWithoutKernelPid() const { return mWithoutKernelPid; }
   /// The pid of the newest record, kInvalidPID without any.
   std::int32_t HeadPid() const;
 
@@ -44,6 +46,7 @@ class RecordStore {
 
  private:
   List mRecords;
+  std::size_t mWithoutKernelPid = 0;
   std::unordered_map<std::int32_t, MetaProcessInformation*> mByPid;
   std::unordered_map<ProcessSerialNumber, MetaProcessInformation*, SerialNumberHash>
       mBySerialNumber;

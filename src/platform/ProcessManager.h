@@ -38,6 +38,10 @@ class ProcessManager {
   /// The serial number of the application that a kernel pid runs; nothing when it is none.
   virtual std::optional<ProcessSerialNumber> GetProcessForPID(std::int32_t pid) = 0;
 
+  /// This program's own serial number, whether it is listed or not; {0, 0} on machines that give
+  /// none.
+  virtual ProcessSerialNumber GetCurrentProcess() { return {}; }
+
   // The actions are asked for, not waited for: true means that the application, or the desktop on
   // its behalf, has been asked; false that it is gone or that this desktop cannot do it.
 

@@ -31,7 +31,9 @@ class RunLoop {
   /// Serves timers until Stop is called.
   virtual void Run() = 0;
 
-  /// Ends Run after the callback that is being served. Main thread only.
+  /// Ends Run after the callback that is being served. Main thread only. Before Run, as when the
+  /// user answers a question at the start by ending the program: a loop on the desktop then does
+  /// not begin.
   virtual void Stop() = 0;
 };
 

@@ -14,8 +14,9 @@ struct ToolOutput {
   bool complete = false;
 };
 
-/// Programs of the system that run beside ours. Main thread only. Nothing passes through a shell,
-/// and every program gets the same fixed environment and language.
+/// Programs of the system that run beside ours. Main thread only, but for starting one in the
+/// background. Nothing passes through a shell, and every program gets the same fixed environment
+/// and language.
 class Tools {
  public:
   virtual ~Tools() = default;
@@ -30,7 +31,7 @@ class Tools {
 
   /// Starts a program that runs on by itself: it is nobody's waited-for child, keeps no descriptor
   /// of ours but the standard three, and ends when it likes. `arguments` starts with the program's
-  /// path. False when it could not be started.
+  /// path. False when it could not be started. Any thread; takes two seconds at most.
   virtual bool StartInBackground(const std::vector<std::string>& arguments) = 0;
 
   /// stat: 0 when there is such a file, -1 when not.

@@ -288,6 +288,10 @@ TEST_F(PropertiesTest, FamiliesAreFollowedUpwards) {
   EXPECT_EQ(list(kPidBlobDescendantsOf, 10), "12 11 ");
   EXPECT_EQ(list(kPidBlobDescendantsOf, 0), "13 12 11 10 1 ");
   EXPECT_EQ(list(3, 10), "");
+  machine.processTable.Birth(21, "chicken", 20);
+  machine.processTable.Birth(20, "egg", 21);
+  machine.runLoop.RunFor(15'000);
+  EXPECT_EQ(list(kPidBlobDescendantsOf, 20), "20 21 ") << "a loop has an end";
   EXPECT_DEATH(PidIsAncestor(-1, 1), "failed assertion `pid != kInvalidPID'");
   EXPECT_DEATH(PidIsAncestor(1, -1), "failed assertion `potentialAncestorPid != kInvalidPID'");
   EXPECT_DEATH(

@@ -15,8 +15,10 @@ namespace lurkwell {
 namespace {
 
 constexpr std::uint32_t kF7Code = 98;
+constexpr std::uint32_t kF8Code = 100;
 constexpr std::uint32_t kF7Symbol = 0xffc4;
 constexpr std::uint32_t kFreeKey = 93;
+constexpr std::uint8_t kOtherFreeKey = 97;
 
 bool Becomes(const std::function<bool()>& condition) {
   return ComesTrue([&] {
@@ -32,6 +34,7 @@ class HotKeysTest : public testing::Test {
   DesktopSettings Settings() const {
     DesktopSettings settings;
     settings.display = display.Name();
+    settings.retryInterval = std::chrono::milliseconds(0);
     return settings;
   }
   void Press(const std::string& combination) const {
@@ -76,6 +79,68 @@ TEST_F(HotKeysTest, FollowAKeyboardThatIsMappedAnew) {
     Press(std::to_string(kFreeKey));
     return plain > 0;
   }));
+  // Somebody else has the key that this one moves to next; only that is said, and only once.
+  testing::internal::CaptureStderr();
+  xcb_grab_key(connection->Raw(), 0, connection->Root(), XCB_MOD_MASK_ANY, kOtherFreeKey,
+               XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  for (int i = 0; i < 2; ++i) {
+    xcb_change_keyboard_mapping(connection->Raw(), 1, kOtherFreeKey, 1, &kF7Symbol);
+    connection->ServerTime();
+    const int before = plain;
+    EXPECT_TRUE(Becomes([&] {
+      Press(std::to_string(kFreeKey));
+      return plain > before;
+    }));
+  }
+  const std::string said = testing::internal::GetCapturedStderr();
+  EXPECT_NE(said.find("no hot key F7: another"), std::string::npos) << said;
+  EXPECT_EQ(said.find("no hot key"), said.rfind("no hot key")) << said;
+}
+
+TEST(HotKeysOfNoDesktop, AreRefusedThoughThereIsAnXServer) {
+  const TestDisplay display(TestDisplay::Manager::kNone);
+  DesktopSettings settings;
+  settings.display = display.Name();
+  // The test's own windows are not on it.
+  DesktopHotKeys keys(settings);
+  EXPECT_FALSE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+}
+
+TEST_F(HotKeysTest, CountOnceWhileTheKeyIsHeld) {
+  ASSERT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++plain; }));
+  const auto say = [&](const std::string& action) {
+    ChildProgram tool({"xdotool", action, "F7"}, display.Environment());
+    EXPECT_TRUE(tool.Ends());
+  };
+  say("keydown");
+  EXPECT_TRUE(Becomes([&] { return plain == 1; }));
+  // Several times the server's delay and interval.
+  EXPECT_FALSE(ComesTrue(
+      [&] {
+        QCoreApplication::processEvents();
+        return plain > 1;
+      },
+      1.5));
+  say("keyup");
+  Press("F7");
+  EXPECT_TRUE(Becomes([&] { return plain == 2; }));
+}
+
+TEST_F(HotKeysTest, AreTakenAgainFromAServerThatDidNotAnswerForAWhile) {
+  ASSERT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++plain; }));
+  display.Freeze(true);
+  EXPECT_FALSE(keys.RegisterEventHotKey(kF7Code, HotKeys::kCommandModifier, [&] { ++super; }));
+  DesktopHotKeys others(Settings(), DesktopHotKeys::Source::kXServer);
+  int eights = 0;
+  EXPECT_FALSE(others.RegisterEventHotKey(kF8Code, HotKeys::kNoModifiers, [&] { ++eights; }));
+  display.Freeze(false);
+  EXPECT_TRUE(Becomes([&] {
+    Press("F7");
+    Press("super+F7");
+    Press("F8");
+    return plain > 0 && super > 0 && eights > 0;
+  })) << plain
+      << " " << super << " " << eights;
 }
 
 TEST_F(HotKeysTest, SayWhenAKeyIsTakenOrUnknown) {
@@ -117,6 +182,9 @@ class FakePortal final : public QDBusVirtualObject {
     Signal("/org/freedesktop/portal/desktop", "org.freedesktop.portal.GlobalShortcuts", "Activated",
            {QVariant::fromValue(QDBusObjectPath("/session/1")), id, qulonglong{1}, QVariantMap()});
   }
+  void Close() {
+    Signal("/session/1", "org.freedesktop.portal.Session", "Closed", {QVariantMap()});
+  }
 
   QString bound;
 
@@ -133,18 +201,34 @@ class FakePortal final : public QDBusVirtualObject {
 
 TEST(HotKeysOfThePortal, AreBoundAndPressed) {
   TestBus bus;
-  FakePortal portal(bus.Address());
+  auto portal = std::make_unique<FakePortal>(bus.Address());
   DesktopSettings settings;
   settings.sessionBusAddress = bus.Address();
   DesktopHotKeys keys(settings, DesktopHotKeys::Source::kPortal);
   int presses = 0;
   EXPECT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++presses; }));
-  EXPECT_TRUE(Becomes([&] { return !portal.bound.isEmpty(); }));
-  EXPECT_EQ(portal.bound.toStdString(), "oa(sa{sv})sa{sv}");
+  EXPECT_TRUE(Becomes([&] { return !portal->bound.isEmpty(); }));
+  EXPECT_EQ(portal->bound.toStdString(), "oa(sa{sv})sa{sv}");
   EXPECT_TRUE(Becomes([&] {
-    portal.Press("overlay-f7");
+    portal->Press("overlay-f7");
     return presses > 0;
   }));
+  // One that is started anew knows nothing of the session.
+  portal.reset();
+  portal = std::make_unique<FakePortal>(bus.Address());
+  EXPECT_TRUE(Becomes([&] { return !portal->bound.isEmpty(); }));
+  testing::internal::CaptureStderr();
+  portal->Close();
+  const int before = presses;
+  portal->Press("overlay-f7");
+  EXPECT_FALSE(ComesTrue(
+      [&] {
+        QCoreApplication::processEvents();
+        return presses > before;
+      },
+      0.5));
+  const std::string said = testing::internal::GetCapturedStderr();
+  EXPECT_NE(said.find("has ended the session"), std::string::npos) << said;
   settings.sessionBusAddress.clear();
   DesktopHotKeys nowhere(settings, DesktopHotKeys::Source::kPortal);
   EXPECT_FALSE(nowhere.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <chrono>
+#include <fstream>
 #include <thread>
 
 #include "desktop/TestBus.h"
@@ -39,6 +40,100 @@ TEST(RunningInstance, IsFoundByTheNextOneAndDoesWhatItIsAsked) {
   EXPECT_EQ(toggles, 2);
   first.reset();
   EXPECT_EQ(program()->ToggleOverlay(), Answer::kNobody);
+}
+
+/// A session bus that lets every user in, which usual ones do not. The folder is everybody's too.
+class OpenBus {
+ public:
+  OpenBus() {
+    std::ofstream(mBase + ".conf")
+        << "<busconfig><type>session</type><listen>unix:path=" << mBase
+        << ".socket</listen><policy context='default'><allow user='*'/>"
+           "<allow send_destination='*' eavesdrop='true'/><allow own='*'/>"
+           "<allow receive_sender='*'/></policy></busconfig>";
+    mDaemon = std::make_unique<ChildProgram>(std::vector<std::string>{
+        "dbus-daemon", "--config-file=" + mBase + ".conf", "--nofork", "--print-address=1"});
+    mAddress = mDaemon->ReadLine();
+  }
+  ~OpenBus() {
+    for (const auto* ending : {".conf", ".socket"}) ::unlink((mBase + ending).c_str());
+  }
+  const std::string& Address() const { return mAddress; }
+  std::string Socket() const { return mBase + ".socket"; }
+
+ private:
+  std::string mBase = "/tmp/lurkwell-instance-" + std::to_string(::getpid());
+  std::unique_ptr<ChildProgram> mDaemon;
+  std::string mAddress;
+};
+
+std::vector<std::string> As(uid_t user, std::vector<std::string> words) {
+  words.insert(words.begin(), {"setpriv", "--reuid=" + std::to_string(user), "--clear-groups"});
+  return words;
+}
+
+/// Takes the instance's name on a bus, and never answers anybody.
+constexpr char kHolder[] = R"(
+import os, socket, struct, sys, time
+def text(v): return struct.pack('<I', len(v)) + v + b'\0'
+def pad(b, n): return b + b'\0' * (-len(b) % n)
+def call(member, serial, body):
+  fields = b''
+  for code, kind, v in ((1, b'o', b'/org/freedesktop/DBus'), (2, b's', b'org.freedesktop.DBus'),
+                        (3, b's', member), (6, b's', b'org.freedesktop.DBus')):
+    fields = pad(fields, 8) + bytes([code, 1]) + kind + b'\0' + text(v)
+  if body: fields = pad(fields, 8) + bytes([8, 1]) + b'g\0' + b'\2su\0'
+  return pad(struct.pack('<BBBBIII', 108, 1, 0, 1, len(body), serial, len(fields)) + fields,
+             8) + body
+os.setuid(int(sys.argv[2]))
+s = socket.socket(socket.AF_UNIX)
+s.connect(sys.argv[1])
+s.send(b'\0AUTH EXTERNAL ' + str(os.getuid()).encode().hex().encode() + b'\r\n')
+s.recv(1000)
+s.send(b'BEGIN\r\n' + call(b'Hello', 1, b'') + call(b'RequestName', 2,
+       pad(text(b'com.velquarin.lurkwell'), 4) + struct.pack('<I', 4)))
+got = b''
+while b'NameAcquired' not in got or b'com.velquarin.lurkwell' not in got: got += s.recv(1000)
+print('ready', flush=True)
+time.sleep(60)
+)";
+
+TEST(RunningInstance, FollowsASilentOneAndNeitherHearsNorTrustsStrangers) {
+  constexpr uid_t kStranger = 65534;
+  ASSERT_EQ(::geteuid(), 0U) << "needs root to become somebody else";
+  const OpenBus bus;
+  const auto hold = [&](uid_t user) {
+    auto holder = std::make_unique<ChildProgram>(
+        std::vector<std::string>{"python3", "-c", kHolder, bus.Socket(), std::to_string(user)});
+    EXPECT_EQ(holder->ReadLine(), "ready");
+    return holder;
+  };
+  int fronts = 0;
+  const auto present = [&](uid_t user) {
+    ChildProgram caller(
+        As(user,
+           {"dbus-send", "--bus=" + bus.Address(), "--print-reply", "--dest=com.velquarin.lurkwell",
+            "/com/velquarin/lurkwell/Instance", "com.velquarin.lurkwell.Instance.Present"}));
+    EXPECT_TRUE(ComesTrue([&] {
+      QCoreApplication::processEvents();
+      return caller.Ends(0);
+    }));
+    return caller.ReadLine().starts_with("method return");
+  };
+  auto holder = hold(0);
+  auto instance = std::make_unique<RunningInstance>(bus.Address());
+  EXPECT_EQ(instance->BringToFront(), Answer::kSilent);
+  EXPECT_FALSE(instance->Become([&] { ++fronts; }, [] {}));
+  instance->WaitInLine();
+  holder.reset();
+  EXPECT_TRUE(ComesTrue([&] { return present(0); }));
+  EXPECT_FALSE(present(kStranger));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(fronts, 1);
+  instance.reset();
+  holder = hold(kStranger);
+  instance = std::make_unique<RunningInstance>(bus.Address());
+  EXPECT_EQ(instance->BringToFront(), Answer::kNobody);
 }
 
 TEST(RunningInstance, NeverWaitsLongForABusThatHangsOrIsNotThere) {

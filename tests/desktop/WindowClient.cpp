@@ -2,6 +2,7 @@
 //
 // window-client INSTANCE CLASS   opens a window and prints "ready"; then reads lines:
 //   window | dialog | dock       another one: of its own right, a dialog of the first, a dock
+//   mute                         another one that does not want the keyboard
 //   withdraw                     the first window goes but is kept
 //   icon W H COLOUR PIXELS       the first window gets an icon of so many pixels, whatever W and H
 //   pid PID HOST                 the first window says that it is of this process
@@ -83,6 +84,7 @@ void Obey(const std::string& line, xcb_window_t main, const std::string& windowC
   } else {
     const xcb_window_t window = Open(what, windowClass);
     if (what == "dialog") xcb_icccm_set_wm_transient_for(gConnection, window, main);
+    if (what == "mute") Set(window, "WM_HINTS", XCB_ATOM_WM_HINTS, {1, 0, 0, 0, 0, 0, 0, 0, 0});
     if (what == "dock") {
       Set(window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, {Atom("_NET_WM_WINDOW_TYPE_DOCK")});
     }

@@ -183,11 +183,22 @@ TEST(DesktopWindows, AllWindowsOfAProcessComeToTheFrontAndHideTogether) {
   desktop.Walk();
   EXPECT_TRUE(desktop.manager->SetFrontProcess(psn));
   EXPECT_TRUE(ComesTrue([&] { return observer.Stacking().front() == other.window; }));
+  // The keyboard goes past a window in front that does not want it.
+  TestDesktop::Tell(*one.program, "mute");
+  EXPECT_TRUE(ComesTrue([&] { return observer.Stacking().size() == 4; }));
+  desktop.manager->SetFrontProcess(desktop.Await(other.program->Pid()));
+  EXPECT_TRUE(ComesTrue([&] { return observer.Active() == other.window; }));
+  desktop.Walk();
+  EXPECT_TRUE(desktop.manager->SetFrontProcess(psn));
+  EXPECT_TRUE(ComesTrue([&] {
+    const auto stacking = observer.Stacking();
+    return stacking.front() == other.window && observer.Active() == stacking[2];
+  }));
   EXPECT_TRUE(desktop.manager->ShowHideProcess(psn, false));
   EXPECT_TRUE(ComesTrue([&] {
     int hidden = 0;
     for (const auto window : observer.Stacking()) hidden += observer.IsHidden(window) ? 1 : 0;
-    return hidden == 2;
+    return hidden == 3;
   }));
 }
 

@@ -14,9 +14,15 @@ namespace {
 
 constexpr std::uint32_t kF1Symbol = 0xffbe;
 constexpr std::uint32_t kF20Symbol = 0xffd1;
+constexpr char kRefusedReason[] = "another program has it, or the keyboard has no such key";
 
-bool IsOnWayland() {
-  return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+/// Who gives keys away for windows such as this program's: an X server that is there for others
+/// would take them from its own programs.
+DesktopHotKeys::Source SourceOfPlatform() {
+  const QString platform = QGuiApplication::platformName();
+  if (platform.startsWith(QLatin1String("wayland"))) return DesktopHotKeys::Source::kPortal;
+  return platform == QLatin1String("xcb") ? DesktopHotKeys::Source::kXServer
+                                          : DesktopHotKeys::Source::kNone;
 }
 
 /// As people and portals write it: "F7", "a".
@@ -37,6 +43,10 @@ std::string NameOf(std::uint32_t symbol) {
   }
 }
 
+std::string ServerNameOf(std::uint32_t symbol, bool withSuper) {
+  return (withSuper ? "Super+" : "") + NameOf(symbol);
+}
+
 void Complain(const std::string& key, const std::string& reason) {
   std::fprintf(stderr, "lurkwell: no hot key %s: %s\n", key.c_str(), reason.c_str());
 }
@@ -44,7 +54,7 @@ void Complain(const std::string& key, const std::string& reason) {
 }  // namespace
 
 DesktopHotKeys::DesktopHotKeys(DesktopSettings settings)
-    : DesktopHotKeys(std::move(settings), IsOnWayland() ? Source::kPortal : Source::kXServer) {}
+    : DesktopHotKeys(std::move(settings), SourceOfPlatform()) {}
 
 DesktopHotKeys::DesktopHotKeys(DesktopSettings settings, Source source)
     : mSettings(std::move(settings)), mSource(source) {}
@@ -60,22 +70,35 @@ bool DesktopHotKeys::RegisterEventHotKey(std::uint32_t virtualKeyCode, std::uint
     return false;
   }
   const bool withSuper = modifiers == kCommandModifier;
-  return mSource == Source::kPortal ? AskPortal(*symbol, withSuper, std::move(pressed))
-                                    : TakeFromServer(*symbol, withSuper, std::move(pressed));
+  switch (mSource) {
+    case Source::kXServer:
+      return TakeFromServer(*symbol, withSuper, std::move(pressed));
+    case Source::kPortal:
+      return AskPortal(*symbol, withSuper, std::move(pressed));
+    case Source::kNone:
+      break;
+  }
+  Complain(ServerNameOf(*symbol, withSuper), "the windows are on no desktop that gives keys");
+  return false;
 }
 
 bool DesktopHotKeys::TakeFromServer(std::uint32_t symbol, bool withSuper,
                                     std::function<void()> pressed) {
-  const std::string name = (withSuper ? "Super+" : "") + NameOf(symbol);
-  if (!std::exchange(mHasTriedServer, true) && !mSettings.display.empty())
-    mGrabs = XKeyGrabs::Open(mSettings.display);
-  if (mGrabs == nullptr) {
+  const std::string name = ServerNameOf(symbol, withSuper);
+  if (mSettings.display.empty()) {
     Complain(name, "there is no X server");
     return false;
   }
-  if (mGrabs->Add(symbol, withSuper, std::move(pressed))) return true;
-  Complain(name, "another program has it, or the keyboard has no such key");
-  return false;
+  if (mGrabs == nullptr)
+    mGrabs = std::make_unique<XKeyGrabs>(
+        mSettings.display, mSettings.retryInterval, [](std::uint32_t refused, bool refusedSuper) {
+          Complain(ServerNameOf(refused, refusedSuper), kRefusedReason);
+        });
+  const auto outcome = mGrabs->Add(symbol, withSuper, std::move(pressed));
+  if (outcome == XKeyGrabs::Outcome::kRefused) Complain(name, kRefusedReason);
+  if (outcome == XKeyGrabs::Outcome::kNoServer)
+    Complain(name, "the X server does not answer; it is asked again later");
+  return outcome == XKeyGrabs::Outcome::kTaken;
 }
 
 bool DesktopHotKeys::AskPortal(std::uint32_t symbol, bool withSuper,

@@ -11,10 +11,11 @@ class GlobalShortcutsPortal;
 class XKeyGrabs;
 
 /// The desktop's hot keys: taken from the X server, or asked of the portal where windows are not
-/// the X server's. Connects at the first key that is wanted.
+/// the X server's, of nobody where windows are shown in some other way. Connects at the first key
+/// that is wanted.
 class DesktopHotKeys final : public HotKeys {
  public:
-  enum class Source { kXServer, kPortal };
+  enum class Source { kXServer, kPortal, kNone };
 
   explicit DesktopHotKeys(DesktopSettings settings);
   DesktopHotKeys(DesktopSettings settings, Source source);
@@ -29,7 +30,6 @@ class DesktopHotKeys final : public HotKeys {
 
   DesktopSettings mSettings;
   Source mSource;
-  bool mHasTriedServer = false;
   std::unique_ptr<XKeyGrabs> mGrabs;
   std::unique_ptr<GlobalShortcutsPortal> mPortal;
 };

@@ -27,6 +27,13 @@ bool IsSoftware(std::string_view renderer) {
          });
 }
 
+DesktopScreen::Source SourceOfPlatform() {
+  const QString platform = QGuiApplication::platformName();
+  if (platform.startsWith(QLatin1String("wayland"))) return DesktopScreen::Source::kWayland;
+  return platform == QLatin1String("xcb") ? DesktopScreen::Source::kXServer
+                                          : DesktopScreen::Source::kUnknown;
+}
+
 std::string RendererName() {
   QOpenGLContext context;
   if (!context.create()) return {};
@@ -43,8 +50,13 @@ std::string RendererName() {
 }  // namespace
 
 DesktopScreen::DesktopScreen(DesktopSettings settings)
+    : DesktopScreen(std::move(settings), SourceOfPlatform()) {}
+
+DesktopScreen::DesktopScreen(DesktopSettings settings, Source source)
     : mSettings(std::move(settings)),
-      mIsOnWayland(QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {}
+      mSource(source),
+      mLink(mSettings.display, mSettings.retryInterval),
+      mBlends(source == Source::kWayland) {}
 
 DesktopScreen::~DesktopScreen() = default;
 
@@ -54,23 +66,28 @@ bool DesktopScreen::UsesOpenGLAcceleration() {
 }
 
 XConnection* DesktopScreen::Server() {
-  if (!std::exchange(mHasTried, true) && !mIsOnWayland && !mSettings.display.empty())
-    mConnection = XConnection::Open(mSettings.display);
-  if (mConnection != nullptr && mConnection->IsLost()) mConnection.reset();
-  return mConnection.get();
+  if (mSource != Source::kXServer || mSettings.display.empty()) return nullptr;
+  if (mLink.Connection() != nullptr && mLink.Connection()->IsLost()) {
+    mLink.Drop();
+    mAtoms.clear();
+  }
+  return mLink.Connect();
 }
 
 xcb_atom_t DesktopScreen::AtomNamed(const std::string& name) {
-  const auto reply = mConnection->Wait<xcb_intern_atom_reply_t>(
-      xcb_intern_atom_unchecked(mConnection->Raw(), 0, static_cast<std::uint16_t>(name.size()),
+  if (const auto known = mAtoms.find(name); known != mAtoms.end()) return known->second;
+  auto* server = mLink.Connection();
+  const auto reply = server->Wait<xcb_intern_atom_reply_t>(
+      xcb_intern_atom_unchecked(server->Raw(), 0, static_cast<std::uint16_t>(name.size()),
                                 name.data()),
       XConnection::BatchDeadline());
-  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+  if (!reply) return XCB_ATOM_NONE;
+  return mAtoms[name] = reply->atom;
 }
 
 bool DesktopScreen::BlendsWindows() {
   auto* server = Server();
-  if (server == nullptr) return mIsOnWayland;
+  if (server == nullptr) return mBlends;
   // A compositor owns the selection of its screen's number.
   const auto dot = mSettings.display.rfind('.');
   const auto colon = mSettings.display.rfind(':');
@@ -79,7 +96,8 @@ bool DesktopScreen::BlendsWindows() {
   const auto selection = AtomNamed("_NET_WM_CM_S" + number);
   const auto reply = server->Wait<xcb_get_selection_owner_reply_t>(
       xcb_get_selection_owner_unchecked(server->Raw(), selection), XConnection::BatchDeadline());
-  return reply && reply->owner != XCB_NONE;
+  if (reply) mBlends = reply->owner != XCB_NONE;
+  return mBlends;
 }
 
 void DesktopScreen::KeepInSight(std::uint64_t window) {
@@ -111,9 +129,9 @@ void DesktopScreen::KeepInSight(std::uint64_t window) {
 
 std::vector<xcb_window_t> DesktopScreen::WindowsAbove(xcb_window_t window,
                                                       XConnection::Deadline deadline) {
-  const auto reply = mConnection->Wait<xcb_get_property_reply_t>(
-      mConnection->AskProperty(mConnection->Root(), mConnection->Atom(XAtom::kClientListStacking),
-                               kMostWords),
+  auto* server = mLink.Connection();
+  const auto reply = server->Wait<xcb_get_property_reply_t>(
+      server->AskProperty(server->Root(), server->Atom(XAtom::kClientListStacking), kMostWords),
       deadline);
   auto windows = PropertyWords(reply.get());
   const auto found = std::ranges::find(windows, window);
@@ -125,8 +143,9 @@ std::vector<xcb_window_t> DesktopScreen::WindowsAbove(xcb_window_t window,
 bool DesktopScreen::AreaOf(xcb_get_geometry_cookie_t geometry,
                            xcb_translate_coordinates_cookie_t place, XConnection::Deadline deadline,
                            Area& area, int& depth) {
-  const auto size = mConnection->Wait<xcb_get_geometry_reply_t>(geometry, deadline);
-  const auto at = mConnection->Wait<xcb_translate_coordinates_reply_t>(place, deadline);
+  auto* server = mLink.Connection();
+  const auto size = server->Wait<xcb_get_geometry_reply_t>(geometry, deadline);
+  const auto at = server->Wait<xcb_translate_coordinates_reply_t>(place, deadline);
   if (!size || !at) return false;
   area = {at->dst_x, at->dst_y, size->width, size->height};
   depth = size->depth;
@@ -136,9 +155,8 @@ bool DesktopScreen::AreaOf(xcb_get_geometry_cookie_t geometry,
 bool DesktopScreen::IsCovered(std::uint64_t number) {
   auto* server = Server();
   if (server == nullptr) return false;
-  const auto deadline = XConnection::BatchDeadline();
   const auto window = static_cast<xcb_window_t>(number);
-  auto windows = WindowsAbove(window, deadline);
+  auto windows = WindowsAbove(window, XConnection::BatchDeadline());
   if (windows.empty()) return false;
   windows.insert(windows.begin(), window);
   struct Question {
@@ -148,6 +166,7 @@ bool DesktopScreen::IsCovered(std::uint64_t number) {
     xcb_get_property_cookie_t opacity;
   };
   const auto opacity = AtomNamed("_NET_WM_WINDOW_OPACITY");
+  const auto deadline = XConnection::BatchDeadline();
   std::vector<Question> questions;
   for (const auto asked : windows)
     questions.push_back(

@@ -1,19 +1,26 @@
 #pragma once
 
-#include <memory>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "platform/Screen.h"
 #include "platform/desktop/DesktopSettings.h"
-#include "platform/desktop/XConnection.h"
+#include "platform/desktop/XLink.h"
 
 namespace lurkwell {
 
 /// The screen as the X server, the window manager and the compositor know it. Connects when it is
-/// first asked. Without an X server windows are taken to be translucent and uncovered, which is so
-/// on Wayland.
+/// first asked, and again, later, to a server that did not answer in time. Without one windows are
+/// taken to be uncovered, and translucent on Wayland or as they last were. An X server that other
+/// programs' windows are on is left alone.
 class DesktopScreen final : public Screen {
  public:
+  enum class Source { kXServer, kWayland, kUnknown };
+
+  /// The source is that of the application's own windows.
   explicit DesktopScreen(DesktopSettings settings);
+  DesktopScreen(DesktopSettings settings, Source source);
   ~DesktopScreen() override;
 
   /// Needs a QGuiApplication; looks once.
@@ -27,16 +34,19 @@ class DesktopScreen final : public Screen {
     int x = 0, y = 0, width = 0, height = 0;
   };
 
+  /// Null while there is none.
   XConnection* Server();
+  /// Asked for once a connection; needs one.
   xcb_atom_t AtomNamed(const std::string& name);
   bool AreaOf(xcb_get_geometry_cookie_t geometry, xcb_translate_coordinates_cookie_t place,
               XConnection::Deadline deadline, Area& area, int& depth);
   std::vector<xcb_window_t> WindowsAbove(xcb_window_t window, XConnection::Deadline deadline);
 
   DesktopSettings mSettings;
-  bool mIsOnWayland;
-  bool mHasTried = false;
-  std::unique_ptr<XConnection> mConnection;
+  Source mSource;
+  XLink mLink;
+  std::map<std::string, xcb_atom_t> mAtoms;
+  bool mBlends;
   int mAccelerated = -1;
 };
 

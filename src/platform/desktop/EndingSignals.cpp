@@ -5,7 +5,6 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
-#include <QCoreApplication>
 #include <QSocketNotifier>
 #include <cerrno>
 #include <utility>
@@ -50,15 +49,14 @@ EndingSignals::~EndingSignals() {
   for (int& end : gPipe) ::close(std::exchange(end, -1));
 }
 
-void EndingSignals::Watch() {
+void EndingSignals::Watch(std::function<void()> end) {
   if (gPipe[0] < 0) return;
   mNotifier = std::make_unique<QSocketNotifier>(gPipe[0], QSocketNotifier::Read);
-  QObject::connect(mNotifier.get(), &QSocketNotifier::activated, [] {
+  QObject::connect(mNotifier.get(), &QSocketNotifier::activated, [end = std::move(end)] {
     char notes[16];
     while (::read(gPipe[0], notes, sizeof notes) > 0) {
     }
-    // A window may refuse to quit; a signal is not a question.
-    QCoreApplication::exit(0);
+    end();
   });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 class QSocketNotifier;
@@ -17,8 +18,9 @@ class EndingSignals {
   EndingSignals(const EndingSignals&) = delete;
   EndingSignals& operator=(const EndingSignals&) = delete;
 
-  /// From now on a signal, also one that came before, ends the event loop.
-  void Watch();
+  /// From now on a signal, also one that came before, calls `end` on the main thread. What a modal
+  /// question waits for does not hold it up.
+  void Watch(std::function<void()> end);
 
  private:
   std::unique_ptr<QSocketNotifier> mNotifier;

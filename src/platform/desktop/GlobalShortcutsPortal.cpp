@@ -18,6 +18,7 @@ const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
+const QString kSessionInterface = QStringLiteral("org.freedesktop.portal.Session");
 const QString kSessionToken = QStringLiteral("lurkwell_session");
 constexpr int kAnswerTimeout = 5000;
 
@@ -33,6 +34,7 @@ GlobalShortcutsPortal::GlobalShortcutsPortal(const std::string& busAddress,
       mComplain(std::move(complain)) {
   qDBusRegisterMetaType<std::pair<QString, QVariantMap>>();
   qDBusRegisterMetaType<ShortcutList>();
+  mPortal = std::make_unique<ServiceOwner>(mBus, kService, [this] { FollowPortal(); });
 }
 
 GlobalShortcutsPortal::~GlobalShortcutsPortal() {
@@ -65,6 +67,19 @@ void GlobalShortcutsPortal::Call(const QString& method, const QVariantList& argu
   });
 }
 
+/// Sessions end with the portal they were made by.
+void GlobalShortcutsPortal::FollowPortal() {
+  const QString& name = mPortal->Name();
+  if (name.isEmpty()) {
+    if (!mSession.isEmpty())
+      mComplain(QStringLiteral("it has ended; it is asked anew if it returns"));
+    mSession.clear();
+    return;
+  }
+  const QString before = std::exchange(mPortalName, name);
+  if (mAsked && !before.isEmpty() && before != name) CreateSession();
+}
+
 void GlobalShortcutsPortal::CreateSession() {
   const QString token = QStringLiteral("lurkwell_create");
   ExpectAnswer(token, SLOT(HandleSession(uint, QVariantMap)));
@@ -78,6 +93,9 @@ void GlobalShortcutsPortal::CreateSession() {
 void GlobalShortcutsPortal::HandleSession(uint response, const QVariantMap& results) {
   if (response != 0) return mComplain(QStringLiteral("the desktop gives none"));
   mSession = results.value(QStringLiteral("session_handle")).toString();
+  if (mSession.isEmpty()) return mComplain(QStringLiteral("the desktop names no session"));
+  mBus.connect(kService, mSession, kSessionInterface, QStringLiteral("Closed"), this,
+               SLOT(HandleClosed()));
   Bind();
 }
 
@@ -96,6 +114,12 @@ void GlobalShortcutsPortal::Bind() {
 
 void GlobalShortcutsPortal::HandleBound(uint response, const QVariantMap&) {
   if (response != 0) mComplain(QStringLiteral("the user or the desktop refused them"));
+}
+
+/// Not asked anew: it may be the user who has taken the keys away.
+void GlobalShortcutsPortal::HandleClosed() {
+  if (std::exchange(mSession, {}).isEmpty()) return;
+  mComplain(QStringLiteral("the desktop has ended the session"));
 }
 
 void GlobalShortcutsPortal::HandleActivated(const QDBusObjectPath& session, const QString& id,

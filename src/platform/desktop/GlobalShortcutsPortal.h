@@ -7,18 +7,22 @@
 #include <QVariantMap>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
+
+#include "platform/desktop/SessionBus.h"
 
 namespace lurkwell {
 
 /// Keys that a desktop without a common X server gives away through its portal; the user may be
-/// asked, and may choose other keys. Main thread; never waits for an answer.
+/// asked, and may choose other keys. A portal that is started anew is asked again. Main thread;
+/// never waits for an answer.
 class GlobalShortcutsPortal : public QObject {
   Q_OBJECT
 
  public:
-  /// `complain` is called with a reason when the portal is missing or refuses.
+  /// `complain` is called with a reason when the portal is missing, refuses or ends the session.
   GlobalShortcutsPortal(const std::string& busAddress,
                         std::function<void(const QString&)> complain);
   ~GlobalShortcutsPortal() override;
@@ -33,6 +37,8 @@ class GlobalShortcutsPortal : public QObject {
   void HandleActivated(const QDBusObjectPath& session, const QString& id, qulonglong timestamp,
                        const QVariantMap& options);
 
+  void HandleClosed();
+
  private:
   struct Shortcut {
     QString id;
@@ -40,6 +46,7 @@ class GlobalShortcutsPortal : public QObject {
     std::function<void()> pressed;
   };
 
+  void FollowPortal();
   void CreateSession();
   void Bind();
   void Call(const QString& method, const QVariantList& arguments);
@@ -51,6 +58,9 @@ class GlobalShortcutsPortal : public QObject {
   std::vector<Shortcut> mShortcuts;
   QString mSession;
   bool mAsked = false;
+  std::unique_ptr<ServiceOwner> mPortal;
+  /// The last portal there was.
+  QString mPortalName;
 };
 
 }  // namespace lurkwell

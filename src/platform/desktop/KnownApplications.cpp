@@ -6,8 +6,7 @@ KnownApplication& KnownApplications::Add(const ProcessIdentity& process) {
   mPlaces[process.pid] = mOrder.size();
   auto& added = *mOrder.emplace_back(std::make_unique<KnownApplication>());
   added.process = process;
-  added.psn = {static_cast<std::uint32_t>(process.startStamp),
-               static_cast<std::uint32_t>(process.pid)};
+  added.psn = SerialNumberOf(process);
   return added;
 }
 

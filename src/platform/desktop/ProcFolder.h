@@ -40,6 +40,13 @@ class ProcFolder {
   std::string mRoot;
 };
 
+/// The serial number of a process as an application: the low bits of its start, then its pid.
+/// {0, 0} of none.
+constexpr ProcessSerialNumber SerialNumberOf(const ProcessIdentity& process) {
+  if (process.pid == kInvalidPID) return {};
+  return {static_cast<std::uint32_t>(process.startStamp), static_cast<std::uint32_t>(process.pid)};
+}
+
 /// The start in clock ticks from the text of a stat file. The name may hold anything, so fields
 /// count from the last closing bracket. Nothing when the text is not one.
 std::optional<std::uint64_t> StartStampOfStat(std::string_view text);

@@ -27,6 +27,8 @@ struct QtRunLoop::State {
 
   Clock& clock;
   bool isStopped = false;
+  /// No Run has ended for it yet.
+  bool isStopWanted = false;
   bool isServing = false;
   /// Due, but not to be served for the moment.
   std::set<Timer*> held;
@@ -105,13 +107,15 @@ std::unique_ptr<RunLoopTimer> QtRunLoop::AddTimer(double firstFireDate, double i
 }
 
 void QtRunLoop::Run() {
+  if (std::exchange(mState->isStopWanted, false)) return;
   mState->isStopped = false;
   mState->Release();
   QCoreApplication::exec();
+  mState->isStopWanted = false;
 }
 
 void QtRunLoop::Stop() {
-  mState->isStopped = true;
+  mState->isStopped = mState->isStopWanted = true;
   // Not quit, which any window could refuse.
   QCoreApplication::exit();
 }

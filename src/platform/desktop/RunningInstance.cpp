@@ -1,31 +1,53 @@
 #include "platform/desktop/RunningInstance.h"
 
+#include <unistd.h>
+
+#include <QDBusError>
 #include <QDBusMessage>
-#include <QDBusPendingReply>
 #include <QMetaObject>
 #include <string>
 #include <utility>
 
-#include "platform/desktop/BusProbe.h"
-
 namespace lurkwell {
 namespace {
 
-const QString kConnection = QStringLiteral("lurkwell-instance");
+const QString kConnection = RunningInstance::ConnectionName();
 const QString kService = QStringLiteral("com.velquarin.lurkwell");
 const QString kPath = QStringLiteral("/com/velquarin/lurkwell/Instance");
 const QString kInterface = QStringLiteral("com.velquarin.lurkwell.Instance");
 constexpr int kAnswerTimeout = 3000;
+constexpr int kBusTimeout = 1000;
+// The bus's own numbers.
+constexpr uint kNoFlags = 0;
+constexpr uint kDoNotQueue = 4;
+constexpr uint kIsOwner = 1;
+constexpr uint kWasOwner = 4;
 
-/// One that is not connected, for no bus.
-QDBusConnection Connected(const std::string& address) {
-  if (!DoesBusAnswer(address)) return QDBusConnection(QStringLiteral("lurkwell-no-bus"));
-  return QDBusConnection::connectToBus(QString::fromStdString(address), kConnection);
+QDBusMessage AskBus(const QDBusConnection& bus, const QString& method,
+                    const QVariantList& arguments) {
+  auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                                QStringLiteral("/org/freedesktop/DBus"),
+                                                QStringLiteral("org.freedesktop.DBus"), method);
+  message.setArguments(arguments);
+  return bus.call(message, QDBus::Block, kBusTimeout);
+}
+
+/// What the bus answers, "" or 0 for an error.
+template <typename T>
+T FirstOf(const QDBusMessage& answer) {
+  const bool isReply = answer.type() == QDBusMessage::ReplyMessage;
+  return isReply ? answer.arguments().value(0).value<T>() : T{};
+}
+
+bool IsOurs(const QDBusConnection& bus, const QString& connection) {
+  const auto answer = AskBus(bus, QStringLiteral("GetConnectionUnixUser"), {connection});
+  return answer.type() == QDBusMessage::ReplyMessage && FirstOf<uint>(answer) == ::geteuid();
 }
 
 }  // namespace
 
-RunningInstance::RunningInstance(const std::string& busAddress) : mBus(Connected(busAddress)) {}
+RunningInstance::RunningInstance(const std::string& busAddress)
+    : mBus(ConnectToBus(busAddress, kConnection)) {}
 
 RunningInstance::~RunningInstance() {
   QDBusConnection::disconnectFromBus(kConnection);
@@ -33,7 +55,9 @@ RunningInstance::~RunningInstance() {
 
 RunningInstance::Answer RunningInstance::Ask(const QString& method) {
   if (!mBus.isConnected()) return Answer::kNobody;
-  auto message = QDBusMessage::createMethodCall(kService, kPath, kInterface, method);
+  const auto owner = FirstOf<QString>(AskBus(mBus, QStringLiteral("GetNameOwner"), {kService}));
+  if (owner.isEmpty() || !IsOurs(mBus, owner)) return Answer::kNobody;
+  auto message = QDBusMessage::createMethodCall(owner, kPath, kInterface, method);
   message.setAutoStartService(false);
   const QDBusMessage answer = mBus.call(message, QDBus::Block, kAnswerTimeout);
   if (answer.type() == QDBusMessage::ReplyMessage) return Answer::kDone;
@@ -58,18 +82,42 @@ bool RunningInstance::Become(std::function<void()> bringToFront,
   mToggleOverlay = std::move(toggleOverlay);
   // First the object, so that nobody finds the name without it.
   return mBus.isConnected() && mBus.registerObject(kPath, this, QDBusConnection::ExportAllSlots) &&
-         mBus.registerService(kService);
+         RequestName(kDoNotQueue);
 }
 
-// Queued: the caller is answered before anything that may wait.
+void RunningInstance::WaitInLine() {
+  if (mBus.isConnected()) RequestName(kNoFlags);
+}
+
+bool RunningInstance::RequestName(uint flags) {
+  const auto answer = FirstOf<uint>(AskBus(mBus, QStringLiteral("RequestName"), {kService, flags}));
+  return answer == kIsOwner || answer == kWasOwner;
+}
+
+void RunningInstance::Serve(const std::function<void()>& action) {
+  setDelayedReply(true);
+  const auto call = message();
+  const bool isAsking = mUsers.Ask(call.service(), [this, call, action](bool isOurs) {
+    if (!isOurs) {
+      mBus.send(call.createErrorReply(QDBusError::AccessDenied,
+                                      QStringLiteral("only for the user of this instance")));
+      return;
+    }
+    mBus.send(call.createReply());
+    // Queued: the caller is answered before anything that may wait.
+    QMetaObject::invokeMethod(
+        this, [action] { action(); }, Qt::QueuedConnection);
+  });
+  if (!isAsking)
+    mBus.send(call.createErrorReply(QDBusError::LimitsExceeded, QStringLiteral("too many calls")));
+}
+
 void RunningInstance::Present() {
-  QMetaObject::invokeMethod(
-      this, [this] { mBringToFront(); }, Qt::QueuedConnection);
+  if (calledFromDBus()) Serve(mBringToFront);
 }
 
 void RunningInstance::Toggle() {
-  QMetaObject::invokeMethod(
-      this, [this] { mToggleOverlay(); }, Qt::QueuedConnection);
+  if (calledFromDBus()) Serve(mToggleOverlay);
 }
 
 }  // namespace lurkwell

@@ -1,15 +1,19 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QObject>
 #include <functional>
 #include <string>
+
+#include "platform/desktop/SessionBus.h"
 
 namespace lurkwell {
 
 /// The one instance of the program that a user's session has, found through the session bus. Main
 /// thread; no call waits longer than a few seconds. Without a bus every instance is on its own.
-class RunningInstance : public QObject {
+/// Other users' programs are not heard, and an instance of theirs counts as none.
+class RunningInstance : public QObject, protected QDBusContext {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "com.velquarin.lurkwell.Instance")
 
@@ -17,6 +21,9 @@ class RunningInstance : public QObject {
   /// `busAddress` as in DesktopSettings; "" for no bus.
   explicit RunningInstance(const std::string& busAddress);
   ~RunningInstance() override;
+
+  /// The connection's name within this program, for others who share it.
+  static QString ConnectionName() { return QStringLiteral("lurkwell-instance"); }
 
   enum class Answer {
     kDone,    ///< the running instance has done it
@@ -33,6 +40,10 @@ class RunningInstance : public QObject {
   /// served as long as this object lives.
   bool Become(std::function<void()> bringToFront, std::function<void()> toggleOverlay);
 
+  /// After Become has failed: becomes the instance once the other one has gone. Does nothing
+  /// without a bus.
+  void WaitInLine();
+
  public Q_SLOTS:
   // What other instances call.
   void Present();
@@ -40,8 +51,13 @@ class RunningInstance : public QObject {
 
  private:
   Answer Ask(const QString& method);
+  /// Does what the method that is being called is for, once the caller is known to be ours.
+  void Serve(const std::function<void()>& action);
+  /// Asks the bus for the name, with its own flags; true when it is ours.
+  bool RequestName(uint flags);
 
   QDBusConnection mBus;
+  BusUsers mUsers{mBus};
   std::function<void()> mBringToFront;
   std::function<void()> mToggleOverlay;
 };

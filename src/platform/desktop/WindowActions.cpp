@@ -64,6 +64,26 @@ std::vector<xcb_window_t> FromBackToFront(const WindowList& list,
   return ordered;
 }
 
+/// Which of the windows, frontmost last, is to have the keyboard: the frontmost that does not
+/// refuse it. Programs that take it by themselves say the same of all their windows as those say
+/// that never want it, so if there is no other, the frontmost.
+xcb_window_t WhichTakesKeyboard(XConnection& connection, const std::vector<xcb_window_t>& windows) {
+  constexpr std::uint32_t kHasInput = 1;
+  const auto deadline = XConnection::BatchDeadline();
+  std::vector<xcb_get_property_cookie_t> asked;
+  for (const xcb_window_t window : windows) {
+    asked.push_back(connection.AskProperty(window, XCB_ATOM_WM_HINTS, 9));
+  }
+  xcb_window_t taker = XCB_WINDOW_NONE;
+  for (std::size_t i = 0; i < windows.size(); ++i) {
+    const auto hints =
+        PropertyWords(connection.Wait<xcb_get_property_reply_t>(asked[i], deadline).get());
+    const bool refuses = hints.size() > 1 && (hints[0] & kHasInput) != 0 && hints[1] == 0;
+    if (!refuses) taker = windows[i];
+  }
+  return taker != XCB_WINDOW_NONE ? taker : windows.back();
+}
+
 bool Send(XConnection& connection, const std::vector<xcb_window_t>& windows) {
   connection.Flush();
   return !windows.empty() && !connection.IsLost();
@@ -102,7 +122,8 @@ bool RaiseWindows(XConnection& connection, const WindowList& list,
                   {kFromUser, XCB_WINDOW_NONE, XCB_STACK_MODE_ABOVE});
     }
   }
-  TellManager(connection, ordered.back(), XAtom::kActiveWindow, {kFromUser, time});
+  TellManager(connection, WhichTakesKeyboard(connection, ordered), XAtom::kActiveWindow,
+              {kFromUser, time});
   return Send(connection, windows);
 }
 

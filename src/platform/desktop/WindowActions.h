@@ -16,8 +16,8 @@ namespace lurkwell {
 bool CloseWindows(XConnection& connection, const WindowList& list,
                   const std::vector<xcb_window_t>& windows);
 
-/// Brings the windows to the front in their order, the frontmost of them with the keyboard; that
-/// one also if it was iconified.
+/// Brings the windows to the front in their order, the frontmost of them that accepts it with the
+/// keyboard; that one also if it was iconified.
 bool RaiseWindows(XConnection& connection, const WindowList& list,
                   const std::vector<xcb_window_t>& windows);
 

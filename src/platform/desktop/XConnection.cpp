@@ -159,10 +159,12 @@ void XConnection::ReadEvents() {
       xcb_destroy_notify_event_t end;
       std::memcpy(&end, event.get(), sizeof end);
       mChanges.push_back({end.window, XCB_ATOM_NONE});
-    } else if (mKeepsKeyEvents && type == XCB_KEY_PRESS) {
-      std::memcpy(&mKeyEvents.presses.emplace_back(), event.get(), sizeof(xcb_key_press_event_t));
+    } else if (mKeepsKeyEvents && (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE)) {
+      std::memcpy(&mKeyEvents.keys.emplace_back(), event.get(), sizeof(xcb_key_press_event_t));
     } else if (type == XCB_MAPPING_NOTIFY) {
-      mKeyEvents.mappingChanged = true;
+      xcb_mapping_notify_event_t mapping;
+      std::memcpy(&mapping, event.get(), sizeof mapping);
+      if (mapping.request != XCB_MAPPING_POINTER) mKeyEvents.mappingChanged = true;
     }
   }
   if (xcb_connection_has_error(mConnection) != 0) mLost = true;

@@ -53,7 +53,9 @@ struct XChange {
 
 /// What has come from the keyboard.
 struct XKeyEvents {
-  std::vector<xcb_key_press_event_t> presses;
+  /// Presses and releases, as they came; the type tells which.
+  std::vector<xcb_key_press_event_t> keys;
+  /// Of the keys or the modifiers.
   bool mappingChanged = false;
 };
 
@@ -99,7 +101,8 @@ class XConnection {
   /// Everything that has been told since the last call, without waiting.
   std::vector<XChange> TakeChanges();
 
-  /// Key presses are kept from now on until they are taken; without it they are dropped.
+  /// Presses and releases of keys are kept from now on until they are taken; without it they are
+  /// dropped.
   void KeepKeyEvents() { mKeepsKeyEvents = true; }
   XKeyEvents TakeKeyEvents();
 

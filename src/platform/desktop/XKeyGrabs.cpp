@@ -2,7 +2,6 @@
 
 #include <xcb/xcbext.h>
 
-#include <QTimer>
 #include <algorithm>
 #include <cstring>
 #include <utility>
@@ -14,6 +13,10 @@ constexpr std::uint32_t kNumLock = 0xff7f;
 constexpr std::uint32_t kScrollLock = 0xff14;
 constexpr std::uint32_t kSuperLeft = 0xffeb;
 constexpr std::uint32_t kSuperRight = 0xffec;
+constexpr std::chrono::milliseconds kShortestRetry{50};
+/// A try goes on in the background; how often its end is looked for.
+constexpr int kLooksPerRetry = 5;
+constexpr std::chrono::milliseconds kLongestFirstWait{500};
 constexpr std::uint16_t kRealModifiers = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL |
                                          XCB_MOD_MASK_1 | XCB_MOD_MASK_2 | XCB_MOD_MASK_3 |
                                          XCB_MOD_MASK_4 | XCB_MOD_MASK_5;
@@ -31,46 +34,73 @@ std::vector<std::uint16_t> Combinations(const std::vector<std::uint16_t>& masks)
 
 }  // namespace
 
-std::unique_ptr<XKeyGrabs> XKeyGrabs::Open(const std::string& display) {
-  auto connection = XConnection::Open(display);
-  if (connection == nullptr) return nullptr;
-  std::unique_ptr<XKeyGrabs> grabs(new XKeyGrabs(std::move(connection)));
-  if (!grabs->ReadKeyboard()) return nullptr;
-  return grabs;
-}
-
-XKeyGrabs::XKeyGrabs(std::unique_ptr<XConnection> connection) : mConnection(std::move(connection)) {
-  mConnection->KeepKeyEvents();
-  mNotifier = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(mConnection->Raw()),
-                                                QSocketNotifier::Read);
-  QObject::connect(mNotifier.get(), &QSocketNotifier::activated, [this] { ReadEvents(); });
+XKeyGrabs::XKeyGrabs(const std::string& display, std::chrono::milliseconds retryInterval,
+                     Refused refused)
+    : mLink(display, retryInterval), mRefused(std::move(refused)) {
+  mRetry.setInterval(std::max(kShortestRetry, retryInterval / kLooksPerRetry));
+  QObject::connect(&mRetry, &QTimer::timeout, [this] { TryAgain(); });
 }
 
 XKeyGrabs::~XKeyGrabs() = default;
 
+// ---- The connection -----------------------------------------------------------------------------
+
+bool XKeyGrabs::Prepare(std::chrono::milliseconds longestWait) {
+  if (mNotifier != nullptr) return true;
+  auto* connection = mLink.Connect(longestWait);
+  if (connection == nullptr || !ReadKeyboard()) {
+    GiveUpConnection();
+    return false;
+  }
+  connection->KeepKeyEvents();
+  mNotifier = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection->Raw()),
+                                                QSocketNotifier::Read);
+  QObject::connect(mNotifier.get(), &QSocketNotifier::activated, [this] { ReadEvents(); });
+  mRetry.stop();
+  return true;
+}
+
+/// The server would go on keeping our keys from everybody for a connection that is not read.
+void XKeyGrabs::GiveUpConnection() {
+  if (mNotifier != nullptr) {
+    mNotifier->setEnabled(false);
+    // It may be the one that is calling.
+    mNotifier.release()->deleteLater();
+  }
+  if (mLink.Connection() != nullptr) mLink.Drop();
+  for (auto& grab : mGrabs) grab.keys.clear();
+  mLastRelease = {};
+  mRetry.start();
+}
+
+void XKeyGrabs::TryAgain() {
+  if (Prepare(std::chrono::milliseconds::zero())) TakeAll();
+}
+
 // ---- The keyboard -------------------------------------------------------------------------------
 
 bool XKeyGrabs::ReadKeyboard() {
-  auto* raw = mConnection->Raw();
+  auto* connection = mLink.Connection();
+  auto* raw = connection->Raw();
   const auto* setup = xcb_get_setup(raw);
   const auto deadline = XConnection::BatchDeadline();
   mFirstKey = setup->min_keycode;
   const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-  const auto mapping = mConnection->Wait<xcb_get_keyboard_mapping_reply_t>(
+  const auto mapping = connection->Wait<xcb_get_keyboard_mapping_reply_t>(
       xcb_get_keyboard_mapping_unchecked(raw, mFirstKey, count), deadline);
   if (mapping == nullptr) return false;
   mSymbolsPerKey = mapping->keysyms_per_keycode;
   const auto* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
   mSymbols.assign(symbols, symbols + xcb_get_keyboard_mapping_keysyms_length(mapping.get()));
   ReadModifiers(deadline);
-  return !mConnection->IsLost();
+  return !connection->IsLost();
 }
 
 void XKeyGrabs::ReadModifiers(XConnection::Deadline deadline) {
   mLocks = {XCB_MOD_MASK_LOCK};
   mSuper = 0;
-  const auto reply = mConnection->Wait<xcb_get_modifier_mapping_reply_t>(
-      xcb_get_modifier_mapping_unchecked(mConnection->Raw()), deadline);
+  const auto reply = mLink.Connection()->Wait<xcb_get_modifier_mapping_reply_t>(
+      xcb_get_modifier_mapping_unchecked(mLink.Connection()->Raw()), deadline);
   if (reply == nullptr) return;
   const auto* keys = xcb_get_modifier_mapping_keycodes(reply.get());
   const std::size_t perModifier = reply->keycodes_per_modifier;
@@ -102,77 +132,104 @@ std::vector<xcb_keycode_t> XKeyGrabs::KeysOf(std::uint32_t symbol) const {
 
 // ---- Keys ---------------------------------------------------------------------------------------
 
-bool XKeyGrabs::Add(std::uint32_t symbol, bool withSuper, std::function<void()> pressed) {
-  Grab grab{symbol, withSuper, std::move(pressed), {}};
-  const bool taken = Take(grab);
-  // Kept either way: another keyboard may have the key.
-  mGrabs.push_back(std::move(grab));
-  ReadSoon();
-  return taken;
+XKeyGrabs::Outcome XKeyGrabs::Add(std::uint32_t symbol, bool withSuper,
+                                  std::function<void()> pressed) {
+  auto& grab = mGrabs.emplace_back(Grab{symbol, withSuper, std::move(pressed), {}});
+  if (!Prepare(kLongestFirstWait)) return Outcome::kNoServer;
+  const auto outcome = Take(grab);
+  grab.isRefused = outcome == Outcome::kRefused;
+  if (outcome == Outcome::kNoServer) {
+    GiveUpConnection();
+  } else {
+    ReadSoon();
+  }
+  return outcome;
 }
 
-bool XKeyGrabs::Take(Grab& grab) {
+XKeyGrabs::Outcome XKeyGrabs::Take(Grab& grab) {
   grab.keys = KeysOf(grab.symbol);
-  if (grab.keys.empty() || (grab.withSuper && mSuper == 0)) return false;
+  if (grab.keys.empty() || (grab.withSuper && mSuper == 0)) return Outcome::kRefused;
+  auto* connection = mLink.Connection();
   std::vector<xcb_void_cookie_t> cookies;
   for (const auto key : grab.keys) {
     for (const auto locks : Combinations(mLocks)) {
       const auto modifiers = static_cast<std::uint16_t>(locks | (grab.withSuper ? mSuper : 0));
-      cookies.push_back(xcb_grab_key_checked(mConnection->Raw(), 0, mConnection->Root(), modifiers,
+      cookies.push_back(xcb_grab_key_checked(connection->Raw(), 0, connection->Root(), modifiers,
                                              key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
   }
   // Answers come in order: once the server has told its time, every refusal has come.
-  mConnection->ServerTime();
-  bool taken = true;
+  connection->ServerTime();
+  if (connection->IsLost()) return Outcome::kNoServer;
+  auto outcome = Outcome::kTaken;
   for (const auto cookie : cookies) {
     void* none = nullptr;
     xcb_generic_error_t* error = nullptr;
-    xcb_poll_for_reply(mConnection->Raw(), cookie.sequence, &none, &error);
+    xcb_poll_for_reply(connection->Raw(), cookie.sequence, &none, &error);
     std::free(none);
-    if (error != nullptr) taken = false;
+    if (error != nullptr) outcome = Outcome::kRefused;
     std::free(error);
   }
-  return taken && !mConnection->IsLost();
+  return outcome;
+}
+
+void XKeyGrabs::TakeAll() {
+  std::vector<std::pair<std::uint32_t, bool>> refused;
+  for (auto& grab : mGrabs) {
+    const auto outcome = Take(grab);
+    if (outcome == Outcome::kNoServer) return GiveUpConnection();
+    const bool isRefused = outcome == Outcome::kRefused;
+    if (!std::exchange(grab.isRefused, isRefused) && isRefused)
+      refused.emplace_back(grab.symbol, grab.withSuper);
+  }
+  ReadSoon();
+  for (const auto& [symbol, withSuper] : refused) mRefused(symbol, withSuper);
 }
 
 void XKeyGrabs::GiveBack(const Grab& grab) {
+  const auto* connection = mLink.Connection();
   for (const auto key : grab.keys)
-    xcb_ungrab_key(mConnection->Raw(), key, mConnection->Root(), XCB_MOD_MASK_ANY);
+    xcb_ungrab_key(connection->Raw(), key, connection->Root(), XCB_MOD_MASK_ANY);
 }
 
 // ---- Events -------------------------------------------------------------------------------------
 
 void XKeyGrabs::ReadEvents() {
-  const auto events = mConnection->TakeKeyEvents();
-  if (mConnection->IsLost()) {
-    mNotifier->setEnabled(false);
-    return;
-  }
-  for (const auto& press : events.presses) HandlePress(press);
+  auto* connection = mLink.Connection();
+  if (connection == nullptr) return;
+  const auto events = connection->TakeKeyEvents();
+  if (connection->IsLost()) return GiveUpConnection();
   if (events.mappingChanged) FollowMapping();
+  for (const auto& event : events.keys) HandleKey(event);
 }
 
-void XKeyGrabs::HandlePress(const xcb_key_press_event_t& press) {
-  const auto held = static_cast<std::uint16_t>(press.state & kRealModifiers & ~mAllLocks);
+void XKeyGrabs::HandleKey(const xcb_key_press_event_t& event) {
+  if ((event.response_type & 0x7f) == XCB_KEY_RELEASE) {
+    mLastRelease = {event.detail, event.time};
+    return;
+  }
+  // A key that is held is said to go up and down in the same moment, over and over.
+  if (event.detail == mLastRelease.key && event.time == mLastRelease.time) return;
+  const auto held = static_cast<std::uint16_t>(event.state & kRealModifiers & ~mAllLocks);
   for (const auto& grab : mGrabs) {
-    const bool isKey = std::ranges::find(grab.keys, press.detail) != grab.keys.end();
+    const bool isKey = std::ranges::find(grab.keys, event.detail) != grab.keys.end();
     if (!isKey || held != (grab.withSuper ? mSuper : 0)) continue;
-    grab.pressed();
+    // It may add a key, which moves the grabs.
+    const auto pressed = grab.pressed;
+    pressed();
     return;
   }
 }
 
 void XKeyGrabs::FollowMapping() {
   for (const auto& grab : mGrabs) GiveBack(grab);
-  if (!ReadKeyboard()) return;
-  for (auto& grab : mGrabs) Take(grab);
-  ReadSoon();
+  if (!ReadKeyboard()) return GiveUpConnection();
+  TakeAll();
 }
 
 /// Presses that came while something else was waited for have left nothing to read behind.
 void XKeyGrabs::ReadSoon() {
-  QTimer::singleShot(0, mNotifier.get(), [this] { ReadEvents(); });
+  QTimer::singleShot(0, &mRetry, [this] { ReadEvents(); });
 }
 
 }  // namespace lurkwell

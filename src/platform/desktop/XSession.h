@@ -1,12 +1,11 @@
 #pragma once
 
 #include <chrono>
-#include <future>
 #include <memory>
 #include <string>
 
 #include "platform/desktop/WindowList.h"
-#include "platform/desktop/XConnection.h"
+#include "platform/desktop/XLink.h"
 
 namespace lurkwell {
 
@@ -20,20 +19,12 @@ class XSession {
   bool Refresh();
 
   /// Null while there is no server; until the next refresh.
-  XConnection* Connection() const { return mConnection.get(); }
+  XConnection* Connection() const { return mLink.Connection(); }
   WindowList* Windows() const { return mWindows.get(); }
 
  private:
-  using Clock = std::chrono::steady_clock;
-
-  void TryToConnect();
-
-  std::string mDisplay;
   std::string mHostName;
-  std::chrono::milliseconds mRetryInterval;
-  Clock::time_point mNextTry{};
-  std::future<std::unique_ptr<XConnection>> mOpening;
-  std::unique_ptr<XConnection> mConnection;
+  XLink mLink;
   std::unique_ptr<WindowList> mWindows;
 };
 

@@ -52,7 +52,8 @@ bool WaitForEnd(pid_t child, const FileDescriptor& handle, steady_clock::time_po
     if (left.count() <= 0) return false;
     if (!handle.IsOpen()) left = std::min(left, kLook);
     pollfd wait{handle.Get(), POLLIN, 0};
-    ::poll(&wait, 1, static_cast<int>(left.count()));
+    // Only signals that are to end the program have handlers.
+    if (::poll(&wait, 1, static_cast<int>(left.count())) < 0 && errno == EINTR) return false;
   }
 }
 
@@ -145,7 +146,7 @@ bool PolkitAuthorization::FinishStep() {
   if (!WaitForEnd(child.pid, child.handle, steady_clock::now() + kLongestStep)) {
     // A step that root runs cannot be ended from here; it goes on by itself.
     SendThroughHandle(child.handle, SIGKILL);
-    return Fail("the permission step took too long");
+    return Fail("the permission step took too long, or the program is to end");
   }
   int status = 0;
   const bool isKnown = ::waitpid(child.pid, &status, 0) == child.pid;

@@ -33,6 +33,7 @@ class SimulatedProcessManager final : public ProcessManager {
   std::optional<ApplicationInformation> GetProcessInformation(ProcessSerialNumber psn) override;
   std::optional<std::int32_t> GetProcessPID(ProcessSerialNumber psn) override;
   std::optional<ProcessSerialNumber> GetProcessForPID(std::int32_t pid) override;
+  ProcessSerialNumber GetCurrentProcess() override { return {0x4242, 4242}; }
   bool Quit(ProcessSerialNumber psn) override { return Act("Quit", psn); }
   bool ShowHideProcess(ProcessSerialNumber psn, bool show) override {
     return Act(show ? "Show" : "Hide", psn);

@@ -1,0 +1,70 @@
+#include "consolidator/ClassicReports.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "consolidator/ConsolidatorState.h"
+#include "consolidator/ProcessReports.h"
+#include "platform/EventBus.h"
+#include "platform/Machine.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr FourCharCode kEventClass = {'Z', 'r', 'v', 'q'};
+constexpr FourCharCode kReport = {'Z', 'r', 'q', '0'};
+constexpr FourCharCode kRecords = {'Z', 'r', 'v', '#'};
+
+ProcessSerialNumber SerialNumberOf(const std::byte* record) {
+  ProcessSerialNumber psn;
+  std::memcpy(&psn.high, record + ClassicRecord::kSerialNumberOffset, sizeof psn.high);
+  std::memcpy(&psn.low, record + ClassicRecord::kSerialNumberOffset + sizeof psn.high,
+              sizeof psn.low);
+  return psn;
+}
+
+/// Serial numbers cost the sender nothing.
+bool HasRoomFor(ProcessSerialNumber psn) {
+  static bool hasTold = false;
+  if (gRecords.FindBySerialNumber(psn) != nullptr ||
+      gRecords.CountWithoutKernelPid() < kMostClassicApplications)
+    return true;
+  if (!std::exchange(hasTold, true))
+    std::fprintf(stderr, "lurkwell: more than %zu Classic applications; others are left out\n",
+                 kMostClassicApplications);
+  return false;
+}
+
+void ReportRecords(std::span<const std::byte> data) {
+  const ConsolidatorGuard guard;
+  const auto count = std::min(data.size() / ClassicRecord::kSize, kMostRecordsInReport);
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::byte* record = data.data() + i * ClassicRecord::kSize;
+    const auto psn = SerialNumberOf(record);
+    // Nothing could ever retire an application without one.
+    if (!psn.IsNone() && HasRoomFor(psn)) ReportProcessInformationClassicPSNBlob(psn, record);
+  }
+}
+
+}  // namespace
+
+void ClassicPSNSetupProcessExtractionAppleEvent() {
+  TheMachine().eventBus.InstallEventHandler(kEventClass, kReport, HandleProcessInformationReport);
+}
+
+void HandleProcessInformationReport(const Event& event) {
+  const auto* data = event.Find<std::vector<std::byte>>(kRecords);
+  if (data == nullptr) {
+    std::printf("Apple Event Handler got an error! %d\n", EventBus::kNoSuchParameter);
+    return;
+  }
+  BeginProcessInformationIteration(kInformationKindClassicPSN);
+  ReportRecords(*data);
+  EndProcessInformationIteration(kInformationKindClassicPSN);
+}
+
+}  // namespace lurkwell

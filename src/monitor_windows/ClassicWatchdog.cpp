@@ -1,0 +1,178 @@
+#include "monitor_windows/ClassicWatchdog.h"
+
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <string_view>
+#include <system_error>
+
+#include "consolidator/PI_Consolidator.h"
+#include "platform/Assertion.h"
+#include "platform/Bundle.h"
+#include "platform/EventBus.h"
+#include "platform/Machine.h"
+#include "platform/Tools.h"
+#include "preferences/PreferencesRetrieval.h"
+
+namespace lurkwell {
+
+ClassicWatchdog* gClassicWatchdog = nullptr;
+std::int32_t gClassicNubPid = kInvalidPID;
+std::int32_t gClassicWatchdogState = kClassicInitial;
+
+namespace {
+
+constexpr char kUnit[] = "ClassicWatchdog";
+constexpr FourCharCode kNubSignature = {'z', 'r', 'N', 'v'};
+constexpr FourCharCode kControlClass = {'Z', 'r', 'v', 'q'};
+constexpr FourCharCode kControl = {'Z', 'r', 'v', '_'};
+constexpr FourCharCode kServedProcess = {'Z', 'r', 'v', '1'};
+constexpr FourCharCode kSleepTicks = {'Z', 'r', 'v', '2'};
+constexpr FourCharCode kCoreEvents = {'a', 'e', 'v', 't'};
+constexpr FourCharCode kQuit = {'q', 'u', 'i', 't'};
+constexpr int kFileNotFound = -43;
+constexpr int kLaunchFailed = -10810;
+
+bool IsClassic(int pid) {
+  return pid < kInvalidPID;
+}
+
+bool IsSignature(const char* property) {
+  return std::strcmp(property, "carbonpsn_signature") == 0;
+}
+
+}  // namespace
+
+ClassicWatchdog::ClassicWatchdog(std::int32_t interval)
+    : ProcessInformationClient(nullptr, interval) {}
+
+ClassicWatchdog::~ClassicWatchdog() {
+  if (mLaunch.joinable()) mLaunch.join();
+}
+
+void ClassicWatchdog::NotifyPidHasBeenAdded(int pid) {
+  if (IsClassic(pid) && gClassicWatchdogState < kClassicNubMissing)
+    gClassicWatchdogState = kClassicNubMissing;
+}
+
+ProcessInformationClient::NeedLevel ClassicWatchdog::NeedProcPropertiesForPid(int pid) {
+  return IsClassic(pid) ? kNeedSomeProcProperties : kNeedNoProcProperties;
+}
+
+ProcessInformationClient::NeedLevel ClassicWatchdog::NeedPidsForProcProperty(const char* property) {
+  return IsSignature(property) ? kNeedSomePids : kNeedNoPids;
+}
+
+bool ClassicWatchdog::NeedPidProcProperty(int pid, const char* property) {
+  return IsClassic(pid) && IsSignature(property);
+}
+
+/// The signature comes from the environment, so one that has none yet is no nub, and no error.
+ClassicWatchdog::Sight ClassicWatchdog::LookAtProcesses() const {
+  Sight sight;
+  for (const std::int32_t pid : PidBlob()) {
+    if (!IsClassic(pid)) continue;
+    sight.classic = true;
+    char signature[8];
+    if (!GetPIDPropertyValue(pid, "carbonpsn_signature", signature, sizeof signature, nullptr) ||
+        std::string_view(signature) != std::string_view(kNubSignature.data(), kNubSignature.size()))
+      continue;
+    sight.nub = true;
+    if (gClassicWatchdogState == kClassicInitial || gClassicWatchdogState == kClassicNubMissing ||
+        gClassicWatchdogState == kClassicNubLaunched) {
+      gClassicWatchdogState = kClassicNubFound;
+      gClassicNubPid = pid;
+    }
+  }
+  return sight;
+}
+
+void ClassicWatchdog::NotifyProcessesHaveBeenUpdated() {
+  const Sight sight = LookAtProcesses();
+  if (!sight.nub && gClassicWatchdogState == kClassicNubTold)
+    gClassicWatchdogState = kClassicNubMissing;
+  if (!sight.classic) gClassicWatchdogState = kClassicNotSeen;
+  switch (gClassicWatchdogState) {
+    case kClassicInitial:
+      gClassicWatchdogState = kClassicNotSeen;
+      break;
+    case kClassicNubMissing:
+      LaunchNub();
+      break;
+    case kClassicNubFound:
+      AdjustClassicNub(true);
+      break;
+    default:
+      break;
+  }
+}
+
+/// A program may take its time to start, so a thread of its own waits for that.
+void ClassicWatchdog::LaunchNub() {
+  if (mIsLaunching) return;
+  if (mLaunch.joinable()) mLaunch.join();
+  const std::string path = TheMachine().bundle.Path() + "/Contents/Resources/ClassicProcessInfoNub";
+  if (TheMachine().tools.Stat(path) != 0) {
+    std::printf("error %d when looking for ClassicProcessInfoNub!\n", kFileNotFound);
+    return;
+  }
+  mLaunchBlock = {path, "--bus", TheMachine().eventBus.Address()};
+  mIsLaunching = true;
+  try {
+    mLaunch = std::thread([this] {
+      LaunchClassicNubEntryPoint(mLaunchBlock);
+      mIsLaunching = false;
+    });
+    gClassicWatchdogState = kClassicNubLaunched;
+  } catch (const std::system_error& error) {
+    mIsLaunching = false;
+    std::printf("error %d when launching!\n", error.code().value());
+  }
+}
+
+void ClassicWatchdog::LaunchClassicNubEntryPoint(const std::vector<std::string>& block) {
+  if (!TheMachine().tools.StartInBackground(block))
+    std::printf("error %d when launching!\n", kLaunchFailed);
+}
+
+void TurnOnClassicNub() {
+  Require(gClassicWatchdog == nullptr, kUnit, "gClassicWatchdog == NULL");
+  gClassicWatchdogState = kClassicInitial;
+  gClassicNubPid = kInvalidPID;
+  gClassicWatchdog =
+      new ClassicWatchdog(GetPrefInt("CLASSIC_WATCHDOG_INTERVAL", nullptr, true, 5000));
+  AddProcessInformationClient(gClassicWatchdog);
+}
+
+void TurnOffClassicNub() {
+  AdjustClassicNub(false);
+  KillClassicNub();
+  Require(gClassicWatchdog != nullptr, kUnit, "gClassicWatchdog != NULL");
+  RemoveProcessInformationClient(gClassicWatchdog);
+  delete gClassicWatchdog;
+  gClassicWatchdog = nullptr;
+}
+
+void AdjustClassicNub(bool on) {
+  auto& machine = TheMachine();
+  const auto ticks = GetPrefInt("CLASSIC_NUB_CONTROL_DEFAULT_SLEEP_TIX", nullptr, true, 120);
+  Event event{kControlClass, kControl, {}, {}};
+  event.parameters.push_back(
+      {kServedProcess, on ? machine.processManager.GetCurrentProcess() : ProcessSerialNumber{}});
+  event.parameters.push_back({kSleepTicks, on ? ticks : std::numeric_limits<std::int32_t>::max()});
+  const auto status = machine.eventBus.Send(kNubSignature, event);
+  if (status == EventBus::kNoSuchProcess) {
+    gClassicWatchdogState = kClassicNubMissing;
+    gClassicNubPid = kInvalidPID;
+  } else if (status == EventBus::kNoError) {
+    // At the end a nub may be there that has not been listed yet.
+    Require(gClassicNubPid != kInvalidPID || !on, kUnit, "gClassicNubPid != -1");
+    gClassicWatchdogState = kClassicNubTold;
+  }
+}
+
+void KillClassicNub() {
+  TheMachine().eventBus.Send(kNubSignature, {kCoreEvents, kQuit, {}, {}});
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QDBusVirtualObject>
+#include <chrono>
+#include <map>
+#include <utility>
+
+#include "platform/EventBus.h"
+#include "platform/desktop/SessionBus.h"
+
+namespace lurkwell {
+
+/// Events over the session bus. Only programs of the same user are heard, at most 20 events a
+/// second, each of at most 4,096 records; what is more is dropped and counted. Without a bus there
+/// are no events, and a line on standard error says so once somebody wants some. A bus that goes is
+/// not looked for again. Main thread only; needs a QCoreApplication.
+class DBusEventBus final : public QDBusVirtualObject, public EventBus {
+ public:
+  static constexpr std::size_t kLargestEvent = 4096 * 396;
+  static constexpr int kMostEventsPerSecond = 20;
+
+  struct Settings {
+    /// "" for no bus.
+    std::string address;
+    /// The connection to use; made, and ended with this, when there is none of that name yet.
+    QString connection = QStringLiteral("lurkwell-events");
+    /// The name to be found by; "" for none of its own.
+    QString service;
+  };
+
+  explicit DBusEventBus(const Settings& settings);
+  ~DBusEventBus() override;
+
+  Status Send(const EventAddress& address, const Event& event) override;
+  void InstallEventHandler(FourCharCode eventClass, FourCharCode id, Handler handler) override;
+  std::string Address() const override { return mAddress; }
+
+  const QDBusConnection& Connection() const { return mBus; }
+  /// Whether Settings::service is this program's.
+  bool HasItsName() const { return mHasItsName; }
+  /// Events that were not handed on: of strangers, malformed, too many or too large.
+  std::uint64_t Dropped() const { return mDropped; }
+
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+ private:
+  QString ServiceOf(const EventAddress& address) const;
+  void Drop(const char* why);
+  void HandleFrom(const QDBusMessage& message, bool isOurs);
+  bool TakeTurn();
+
+  std::string mAddress;
+  bool mOwnsConnection;
+  QDBusConnection mBus;
+  bool mHasItsName = false;
+  bool mHasSent = false;
+  bool mHasToldOfDrops = false;
+  BusUsers mUsers;
+  ServiceOwner mNub;
+  ServiceOwner mEnvironment;
+  std::map<std::pair<FourCharCode, FourCharCode>, Handler> mHandlers;
+  std::uint64_t mDropped = 0;
+  double mTurns = kMostEventsPerSecond;
+  std::chrono::steady_clock::time_point mLastTurn = std::chrono::steady_clock::now();
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,171 @@
+// Reports of the Classic environment, from the event to the table's properties.
+#include <malloc.h>
+
+#include <chrono>
+
+#include "classic/ClassicRecords.h"
+#include "consolidator/ClassicReports.h"
+#include "support/ConsolidatorTest.h"
+
+namespace lurkwell {
+namespace {
+
+using Bytes = std::vector<std::byte>;
+
+class ClassicReports : public ConsolidatorTest {
+ protected:
+  void StartClassic() {
+    Start();
+    ClassicPSNSetupProcessExtractionAppleEvent();
+  }
+  void Report(const Bytes& records) { EXPECT_TRUE(machine.eventBus.Deliver(ReportOf(records))); }
+  std::string Output(const std::function<void()>& action) {
+    testing::internal::CaptureStdout();
+    action();
+    std::fflush(stdout);
+    return testing::internal::GetCapturedStdout();
+  }
+};
+
+TEST_F(ClassicReports, GuestsLiveAsLongAsTheDesktopListsThem) {
+  machine.processManager.Launch({2, 1}, std::nullopt, "SimpleText", {'t', 't', 'x', 't'});
+  StartClassic();
+  Add("client", 1000).NeedsEverything();
+  EXPECT_NE(Told(1000).find("client added -2\n"), std::string::npos);
+  EXPECT_EQ(Value(-2, "classicpsn_name"), "()");
+  // One byte more than a record; a record without a number; one of an application nobody lists.
+  auto report = ClassicBytes({2, 1}, "SimpleText", 77);
+  report.push_back(std::byte{1});
+  Report(report);
+  EXPECT_EQ(Value(-2, "classicpsn_active_time"), "77");
+  EXPECT_EQ(Value(-2, "classicpsn_signature"), "ttxt");
+  Report(ClassicBytes({0, 0}, "Nobody", 1));
+  Report(ClassicBytes({7, 7}, "Unlisted", 1));
+  EXPECT_EQ(Value(-3, "meta_kind"), "Classic");
+  // Came and went between two heartbeats: nobody hears of it.
+  EXPECT_EQ(Told(1000), "client updated\n");
+  EXPECT_EQ(Value(-3, "meta_kind"), "[]");
+  machine.processManager.Remove({2, 1});
+  EXPECT_EQ(Told(1000), "client removed -2\nclient updated\n");
+  EXPECT_EQ(PidBlob().size(), 2);
+}
+
+TEST_F(ClassicReports, BrokenParametersAreALineAndNothingElse) {
+  StartClassic();
+  const auto handle = [&](std::vector<EventParameter> parameters) {
+    return Output([&] {
+      machine.eventBus.Deliver(
+          {{'Z', 'r', 'v', 'q'}, {'Z', 'r', 'q', '0'}, std::move(parameters), {}});
+    });
+  };
+  const std::string complaint = "Apple Event Handler got an error! -1701\n";
+  EXPECT_EQ(handle({}), complaint);
+  EXPECT_EQ(handle({{{'Z', 'r', 'v', '#'}, 5}}), complaint);
+  EXPECT_EQ(handle({{{'Z', 'r', 'v', '#'}, Bytes(395)}}), "");
+  EXPECT_EQ(PidBlob().size(), 0);
+}
+
+// 100 ms of the environment's CPU a second, then 900 ms: the share follows at a twentieth.
+TEST_F(ClassicReports, TheEstimateIsExactToTheMicrosecond) {
+  auto& environment = machine.processTable.Birth(300, "TruBlueEnv");
+  machine.processManager.Launch({2, 1}, std::nullopt, "Busy");
+  machine.processManager.Launch({2, 2}, std::nullopt, "Idle");
+  StartClassic();
+  Add("client", 1000).NeedsEverything();
+  std::uint32_t ticks = 1000;
+  const auto second = [&](std::int64_t milliseconds, std::uint32_t passed) {
+    environment.UseCPU(milliseconds);
+    machine.runLoop.RunFor(1000);
+    ticks += passed;
+    Bytes report = ClassicBytes({2, 1}, "Busy", ticks);
+    const auto idle = ClassicBytes({2, 2}, "Idle", 5);
+    report.insert(report.end(), idle.begin(), idle.end());
+    Report(report);
+  };
+  environment.UseCPU(40);
+  machine.runLoop.RunFor(0);
+  Report(ClassicBytes({2, 1}, "Busy", ticks));
+  EXPECT_EQ(Value(-2, "meta_active_time"), "0.000001");
+  second(100, 60);  // share 0.1: 60 * 0.1 / 60.25 = 0.0995850...
+  EXPECT_EQ(Value(-2, "meta_active_time"), "0.099586");
+  second(900, 60);  // 0.1 + 0.05 * 0.8 = 0.14: 0.1394190...
+  EXPECT_EQ(Value(-2, "meta_active_time"), "0.239005");
+  second(900, 6025);  // 0.14 + 0.05 * 0.76 = 0.178: 17.8 to the microsecond
+  EXPECT_EQ(Value(-2, "meta_active_time"), "18.039005");
+  // It began again: nothing is taken back.
+  ticks = 0;
+  second(900, 10);
+  EXPECT_EQ(Value(-2, "meta_active_time"), "18.039005");
+  EXPECT_EQ(Value(-3, "meta_active_time"), "0.000001");
+}
+
+TEST_F(ClassicReports, ABeatThatReadsNoTimesMeasuresNothing) {
+  auto& environment = machine.processTable.Birth(300, "TruBlueEnv");
+  machine.processManager.Launch({2, 1}, std::nullopt, "Busy");
+  StartClassic();
+  Add("table", 1000).NeedsEverything();
+  machine.runLoop.RunFor(999);
+  // Due a millisecond before the table, again and again.
+  Add("other", 1000);
+  for (std::uint32_t second = 0; second < 50; ++second) {
+    environment.UseCPU(100);
+    machine.runLoop.RunFor(1000);
+    Report(ClassicBytes({2, 1}, "Busy", second * 60));
+  }
+  // 49 seconds of 60 ticks at a share of 0.1.
+  EXPECT_NEAR(std::stod(Value(-2, "meta_active_time")), 49 * 60 * 0.1 / 60.25, 0.001);
+}
+
+TEST_F(ClassicReports, ReportsBeyondTheTableOfMadeUpPidsKeepTheirRecords) {
+  for (std::uint32_t i = 1; i <= 200; ++i)
+    machine.processManager.Launch({2, i}, std::nullopt, "Guest");
+  StartClassic();
+  // Nobody needs them, so they are only touched.
+  Add("client", 1000);
+  Told(1000);
+  EXPECT_EQ(Told(5000),
+            "client updated\nclient updated\nclient updated\nclient updated\nclient "
+            "updated\n");
+  EXPECT_EQ(PidBlob().size(), 202);
+  for (std::uint32_t i = 1; i <= 200; ++i) machine.processManager.Remove({2, i});
+  Told(1000);
+  EXPECT_EQ(PidBlob().size(), 2);
+}
+
+TEST_F(ClassicReports, AFloodOfSerialNumbersIsBoundedAndLeavesNothing) {
+  StartClassic();
+  Add("client", 1000).NeedsEverything();
+  Told(1000);
+  constexpr std::uint32_t kRecords = 100'000;
+  constexpr std::uint32_t kInReport = 5000;
+  std::uint32_t number = 0;
+  const auto flood = [&] {
+    std::chrono::duration<double> longest{};
+    for (std::uint32_t sent = 0; sent < kRecords; sent += kInReport) {
+      Bytes report;
+      for (std::uint32_t i = 0; i < kInReport; ++i) {
+        const auto record = ClassicBytes({5, ++number}, "Flood", number);
+        report.insert(report.end(), record.begin(), record.end());
+      }
+      const auto start = std::chrono::steady_clock::now();
+      Report(report);
+      // Every fourth time the heart beats in between.
+      if (sent % (4 * kInReport) == 0) {
+        EXPECT_EQ(Told(1000), "client updated\n");
+      }
+      longest = std::max<std::chrono::duration<double>>(longest,
+                                                        std::chrono::steady_clock::now() - start);
+      EXPECT_LE(PidBlob().size(), static_cast<std::int32_t>(2 + kMostClassicApplications));
+    }
+    EXPECT_LT(longest.count(), 0.1);
+    Told(1000);
+    EXPECT_EQ(PidBlob().size(), 2);
+    return ::mallinfo2().uordblks;
+  };
+  const auto once = flood();
+  const auto twice = flood();
+  EXPECT_LT(twice, once + once / 20);
+}
+
+}  // namespace
+}  // namespace lurkwell
