@@ -8,6 +8,7 @@
 #include "consolidator/PI_Consolidator.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "platform/simulated/SimulatedMachine.h"
+#include "preferences/PreferencesRetrieval.h"
 #include "support/HelperChannel.h"
 
 namespace lurkwell {
@@ -18,10 +19,14 @@ constexpr std::int32_t kInterval = 250;
 
 class Histories {
  public:
-  explicit Histories(std::int64_t windows) : mWindows(static_cast<std::int32_t>(windows)) {
+  explicit Histories(std::int64_t windows, std::int32_t processes = 250, bool tracks = false)
+      : mWindows(static_cast<std::int32_t>(windows)) {
     EnsureApplication();
-    for (std::int32_t pid = kFirstPid; pid < kFirstPid + 250; ++pid)
-      machine.processTable.Birth(pid, "process" + std::to_string(pid));
+    if (tracks) SetPrefInt("CPU_HISTORY_WINDOW_TRACK_PROCESS_DESCENDANTS", 1);
+    // Families of four generations.
+    for (std::int32_t pid = kFirstPid; pid < kFirstPid + processes; ++pid)
+      machine.processTable.Birth(pid, "process" + std::to_string(pid),
+                                 pid < kFirstPid + processes / 4 ? 1 : pid - processes / 4);
     machine.helper.SetRecordsFigures(false);
     InitializeProcessInformationConsolidator();
     const WindowRect rect{100, 100, 263, 170};
@@ -73,6 +78,18 @@ void BM_HistoryUpdate(benchmark::State& state) {
 }
 // None shows what the simulated machine takes by itself.
 BENCHMARK(BM_HistoryUpdate)->Arg(0)->Arg(1)->Arg(20)->Unit(benchmark::kMicrosecond);
+
+// With all descendants, of 5000 processes.
+void BM_HistoryUpdateTracking(benchmark::State& state) {
+  Histories histories(state.range(0), 5000, true);
+  for (auto _ : state) {
+    state.PauseTiming();
+    histories.Work();
+    state.ResumeTiming();
+    histories.Turn();
+  }
+}
+BENCHMARK(BM_HistoryUpdateTracking)->Arg(0)->Arg(1)->Arg(20)->Unit(benchmark::kMicrosecond);
 
 void BM_HistoryRedraw(benchmark::State& state) {
   Histories histories(state.range(0));

@@ -1671,14 +1671,6 @@
         <source></source>
         <translation>%1 process, %2 shown, %3 selected</translation>
     </message>
-    <message id="main_window_helper_starting">
-        <source></source>
-        <translation>The helper is being started.</translation>
-    </message>
-    <message id="main_window_helper_privileged">
-        <source></source>
-        <translation>The helper runs with an administrator's rights.</translation>
-    </message>
     <message id="main_window_helper_unprivileged">
         <source></source>
         <translation>The helper is not running with an administrator's rights: other users' processes may lack figures.</translation>
@@ -1731,9 +1723,25 @@
         <source></source>
         <translation>&amp;Kill</translation>
     </message>
-    <message id="main_window_not_available">
+    <message id="follow_confirmation_title">
         <source></source>
-        <translation>This is not part of this version yet.</translation>
+        <translation>Open %1 new windows?</translation>
+    </message>
+    <message id="follow_confirmation_text">
+        <source></source>
+        <translation>One window will be opened for each selected process.</translation>
+    </message>
+    <message id="follow_confirmation_open">
+        <source></source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message id="follow_limit_title">
+        <source></source>
+        <translation>%1 of %2 windows were opened.</translation>
+    </message>
+    <message id="follow_limit_text">
+        <source></source>
+        <translation>No more windows that follow processes can be open at a time. Close some of them first.</translation>
     </message>
     <message id="button_ok">
         <source></source>
@@ -2301,19 +2309,19 @@ Free: %5</translation>
     </message>
     <message id="preferences_historyColour">
         <source></source>
-        <translation>&amp;Graph:</translation>
+        <translation>CPU usa&amp;ge:</translation>
     </message>
     <message id="preferences_historyColour_tip">
         <source></source>
-        <translation>The colour of the process's own CPU usage.</translation>
+        <translation>The colour of the line of the process's CPU usage, with that of its descendants while they are included.</translation>
     </message>
     <message id="preferences_descendantsColour">
         <source></source>
-        <translation>D&amp;escendants:</translation>
+        <translation>Own shar&amp;e:</translation>
     </message>
     <message id="preferences_descendantsColour_tip">
         <source></source>
-        <translation>The colour of the CPU usage of the process's descendants. Holds for windows opened from now on.</translation>
+        <translation>The colour of the line of the process's own share while its descendants are included. Holds for windows opened from now on.</translation>
     </message>
     <message id="preferences_relative">
         <source></source>
@@ -2471,6 +2479,10 @@ Free: %5</translation>
         <source></source>
         <translation>text</translation>
     </message>
+    <message id="settings_kind_record">
+        <source></source>
+        <translation>the program's own record</translation>
+    </message>
     <message id="settings_kind_array">
         <source></source>
         <translation>records</translation>
@@ -2507,9 +2519,9 @@ Free: %5</translation>
         <source></source>
         <translation>Nothing is stored; the default counts. %1</translation>
     </message>
-    <message id="settings_note_array">
+    <message id="settings_note_record">
         <source></source>
-        <translation>The program keeps these records itself; they are not changed here.</translation>
+        <translation>The program keeps this itself; it is not changed here.</translation>
     </message>
     <message id="settings_note_no_number">
         <source></source>
@@ -2657,11 +2669,11 @@ Free: %5</translation>
     </message>
     <message id="setting_DEFAULT_CPU_HISTORY_FOREGROUND_RGB">
         <source></source>
-        <translation>The process's own CPU usage in its history.</translation>
+        <translation>The process's CPU usage in its history, with that of its descendants while they are included.</translation>
     </message>
     <message id="setting_DEFAULT_CPU_HISTORY_DESCENDANTS_FOREGROUND_RGB">
         <source></source>
-        <translation>CPU usage of descendants in a history.</translation>
+        <translation>The process's own share of the CPU usage in its history while its descendants are included.</translation>
     </message>
     <message id="setting_DEFAULT_CPU_HISTORY_NAME_RGB">
         <source></source>

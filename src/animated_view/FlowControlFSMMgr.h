@@ -71,6 +71,9 @@ class FlowControlFSMMgr {
   /// Deletes a machine before its end. Null fails "fsm", an empty list "mFSMHead".
   void RemoveFSM(FlowControlFSM* fsm);
 
+  /// Whether a machine is still under way.
+  bool IsBusy() const { return mFSMHead != nullptr; }
+
  private:
   static void CFTimerFunc();
   void Tick();

@@ -46,10 +46,11 @@ int ViewSize::PixelHeight() const {
 void InitializeOpenGLProcessInfo(QipiList& list, FrameRenderer& renderer) {
   for (auto& info : list) {
     if (info.texturesReady) continue;
-    renderer.Icons().Release(info.iconTexture);
-    info.iconTexture = renderer.Icons().Acquire(info.iconImage);
+    if (info.iconTexture == 0) info.iconTexture = renderer.Icons().Acquire(info.iconImage);
     if (info.labelTexture == 0) info.labelTexture = renderer.Labels().Acquire(info.labelImage);
-    info.texturesReady = true;
+    // What finds no room is tried again: others make some when they go.
+    info.texturesReady = (info.iconTexture != 0 || info.iconImage == nullptr) &&
+                         (info.labelTexture != 0 || info.labelImage == nullptr);
   }
 }
 

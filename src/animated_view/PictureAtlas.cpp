@@ -9,6 +9,7 @@ namespace {
 
 /// Every driver that is served has at least so many layers.
 constexpr int kMostPages = 256;
+constexpr int kMostOldErrors = 16;
 
 QImage AsImage(const Picture& picture) {
   return QImage(reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width,
@@ -129,7 +130,8 @@ bool PictureAtlas::Upload(QOpenGLExtraFunctions& gl) {
 
 bool PictureAtlas::MakeTexture(QOpenGLExtraFunctions& gl) {
   Destroy(gl);
-  while (gl.glGetError() != GL_NO_ERROR) {
+  // A context that is lost has errors without end.
+  for (int i = 0; i < kMostOldErrors && gl.glGetError() != GL_NO_ERROR; ++i) {
   }
   // Room for some more, so that this is rare.
   const int pages = std::min(kMostPages, std::max(1, mSlots.Pages() + mSlots.Pages() / 2));
@@ -139,7 +141,7 @@ bool PictureAtlas::MakeTexture(QOpenGLExtraFunctions& gl) {
   const auto set = [&](GLenum name, GLint value) {
     gl.glTexParameteri(GL_TEXTURE_2D_ARRAY, name, value);
   };
-  set(GL_TEXTURE_MIN_FILTER, exact ? GL_NEAREST : GL_LINEAR_MIPMAP_LINEAR);
+  set(GL_TEXTURE_MIN_FILTER, exact ? GL_NEAREST : GL_LINEAR_MIPMAP_NEAREST);
   set(GL_TEXTURE_MAG_FILTER, exact ? GL_NEAREST : GL_LINEAR);
   set(GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
   set(GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);

@@ -1,6 +1,7 @@
 #include "animated_view/QuintessentialHelperCPUWatcher.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <string_view>
@@ -19,11 +20,18 @@ constexpr char kActiveTime[] = "meta_active_time";
 constexpr double kBusyBonus = 0.2;
 constexpr double kHighestRatio = 4.0;
 constexpr double kNoticeableFactor = 0.0001;
+constexpr double kLargestFactor = 1000.0;
 
 struct CPUTime {
   std::int32_t seconds;
   std::int32_t microseconds;
 };
+
+/// None, whatever else the file says, where it is no factor to draw with.
+double ReadTarvikFactor() {
+  const double factor = GetPrefDouble("QUINT_TARVIK_FACTOR", nullptr, false, 0.0);
+  return std::isfinite(factor) && factor <= kLargestFactor ? factor : 0.0;
+}
 
 bool ReadActiveTime(std::int32_t pid, CPUTime& time) {
   char text[64];
@@ -56,7 +64,7 @@ QuintessentialHelperCPUWatcher::QuintessentialHelperCPUWatcher(
     : ProcessInformationClient(nullptr, interval),
       mOwner(&owner),
       mPreviousPass(TheMachine().clock.Now()),
-      mTarvikFactor(GetPrefDouble("QUINT_TARVIK_FACTOR", nullptr, false, 0.0)) {
+      mTarvikFactor(ReadTarvikFactor()) {
   AddProcessInformationClient(this);
 }
 

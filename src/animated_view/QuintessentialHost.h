@@ -29,7 +29,7 @@ class QuintessentialHost {
   virtual void CloseCurrentWindow() = 0;
   /// Prepares the overlay's window, when the current one is that.
   virtual void SetUpOverlayStuff() = 0;
-  /// 0 (transparent) to 1.
+  /// 0 (transparent) to 1. Nothing happens to an overlay whose time to be seen has not come.
   virtual void SetCurrentWindowAlpha(double alpha) = 0;
   /// How many of the overlay's next frames begin with a cleared window.
   virtual void SetFullscreenKludgeCountdown(int frames) = 0;

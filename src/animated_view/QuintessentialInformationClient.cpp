@@ -52,6 +52,10 @@ AnimationIntervals FittedAnimationIntervals() {
   return intervals;
 }
 
+double OverlayWindowAlpha() {
+  return ReadAlpha("QUINT_FULLSCREEN_WINDOW_ALPHA", 0.8);
+}
+
 void UpdateProcessInformationCocoa() {
   HostOfCurrentView().InternalDraw();
 }
@@ -92,8 +96,11 @@ void QuintessentialInformationClient::HookIntoConsolidator() {
   if (mHooked) return;
   mHooked = true;
   mPaused = false;
-  // Nobody tells a client that is not served about preferences.
-  NotifyPreferencesHaveBeenUpdated();
+  {
+    // Nobody tells a client that is not served about preferences.
+    const Guard guard(gQuintessentialMutex);
+    ReadSettings();
+  }
   AddProcessInformationClient(this);
   RequestUpdate(this);
   if (mWatcher == nullptr || mWatcherIsServed) return;
@@ -163,13 +170,18 @@ std::int32_t QuintessentialInformationClient::GetClosestPidToPoint(
 
 void QuintessentialInformationClient::NotifyPreferencesHaveBeenUpdated() {
   const Guard guard(gQuintessentialMutex);
+  if (gQuintessentialHost != nullptr && gQuintessentialViewIsFullScreenOverlay &&
+      gQuintessentialViewIsCurrentlyShown)
+    HostOfCurrentView().SetCurrentWindowAlpha(OverlayWindowAlpha());
+  ReadSettings();
+}
+
+void QuintessentialInformationClient::ReadSettings() {
   mIntervals = FittedAnimationIntervals();
   ApplyIntervals();
   const double underlayAlpha = mDrawing.underlayAlpha;
   ReadDrawingSettings();
   if (gQuintessentialHost == nullptr || !gQuintessentialViewIsFullScreenOverlay) return;
-  if (gQuintessentialViewIsCurrentlyShown)
-    HostOfCurrentView().SetCurrentWindowAlpha(ReadAlpha("QUINT_FULLSCREEN_WINDOW_ALPHA", 0.8));
   if (mDrawing.underlayAlpha != underlayAlpha) gQuintessentialHost->DiscardBackground();
 }
 

@@ -23,7 +23,6 @@ struct QuintessentialPoint {
 struct QuintessentialDrawingSettings {
   bool drawConnectors = true;
   bool drawConnectorsFullscreen = false;
-  bool drawTextNames = false;
   double iconScale = 150.0;
   double fullscreenExtraScale = 1.5;
   double underlayAlpha = 0.25;  ///< 0 to 1, of the overlay's background
@@ -38,6 +37,9 @@ struct AnimationIntervals {
   std::int32_t cpu = 1000;
 };
 AnimationIntervals FittedAnimationIntervals();
+
+/// How opaque the overlay's window is to be by the preferences, 0 to 1. Main thread.
+double OverlayWindowAlpha();
 
 /// The processes of the animated view: who they are, where they float, how heavy they are. Made on
 /// the main thread with new when the view is first shown; deleted, like every client, by the
@@ -103,6 +105,8 @@ class QuintessentialInformationClient final : public ProcessInformationClient {
   /// Gives the new records that are ready to be shown places and names.
   void PlaceNewRecords(QipiList& ready);
   void StabilizeOnce();
+  /// Takes over what the preferences say now. Inside the mutex.
+  void ReadSettings();
   void ReadDrawingSettings();
   void ApplyIntervals();
   void TakeIcon(Info& info);

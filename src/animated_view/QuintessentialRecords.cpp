@@ -19,10 +19,9 @@ namespace {
 using Guard = CriticalRegion::Guard;
 using Info = QuintessentialInformationProcessInfo;
 
-constexpr int kIconSize = 128;
+/// Busy processes are drawn larger than the usual icon, and have to stay sharp.
+constexpr int kIconSize = 256;
 constexpr std::int32_t kValueSize = 63;
-/// The main thread takes the steps: a mistyped preference must not keep it for minutes.
-constexpr std::int32_t kMostStabilizingSteps = 100;
 
 bool IsNeeded(const char* property) {
   return std::strcmp(property, "meta_name") == 0 || std::strcmp(property, "pid_parent_pid") == 0;

@@ -41,7 +41,8 @@ void QuintessentialView::internalDraw() {
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   if (!mDrawable || mDrawing.hasFailed) return;
   if (mSize.PixelWidth() < 1 || mSize.PixelHeight() < 1) return;
-  if (DrawFrame()) return;
+  mDrawing.hasDrawn = DrawFrame();
+  if (mDrawing.hasDrawn) return;
   mDrawing.hasFailed = true;
   mDrawing.tellOfFailure();
 }

@@ -24,19 +24,23 @@ constexpr Qt::WindowFlags kOverlayFlags = Qt::Window | Qt::FramelessWindowHint |
                                           Qt::WindowStaysOnTopHint | Qt::WindowTransparentForInput |
                                           Qt::WindowDoesNotAcceptFocus;
 
-void TellOnce() {
+/// Not at once: a question inside a timer's callback would hold up all other timers.
+void TellOnce(QObject& context) {
   if (GetPrefInt(kToldKey, nullptr, false, 0) != 0) return;
   SetPrefInt(kToldKey, 1);
-  TheMachine().alerts.RunAlertPanel(LocalizedString("overlay_needs_compositor").toStdString(),
-                                    LocalizedString("overlay_needs_compositor_text").toStdString(),
-                                    "OK", "", "");
+  const auto tell = [] {
+    TheMachine().alerts.RunAlertPanel(
+        LocalizedString("overlay_needs_compositor").toStdString(),
+        LocalizedString("overlay_needs_compositor_text").toStdString(), "OK", "", "");
+  };
+  QMetaObject::invokeMethod(&context, tell, Qt::QueuedConnection);
 }
 
 }  // namespace
 
 void QuintessentialViewFullscreenWindow::setUpOverlayStuff() {
   const bool blends = TheMachine().screen.BlendsWindows();
-  if (!blends) TellOnce();
+  if (!blends) TellOnce(*this);
   {
     const CriticalRegion::Guard inside(gQuintessentialMutex);
     // Window managers look at these when a window comes up, and no later.
@@ -46,12 +50,14 @@ void QuintessentialViewFullscreenWindow::setUpOverlayStuff() {
     view().SetMode(blends ? ViewMode::kOverlay : ViewMode::kOpaqueFullscreen);
     setGeometry(QGuiApplication::primaryScreen()->geometry());
   }
+  mIsRevealed = !blends;
   setAlphaValue(blends ? 0.0 : 1.0);
   mTimer = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kSecondsUntilVisible,
                                          0.0, [this] { myTimer(); });
 }
 
 void QuintessentialViewFullscreenWindow::myTimer() {
+  mIsRevealed = true;
   {
     const CriticalRegion::Guard inside(gQuintessentialMutex);
     setGeometry(QGuiApplication::primaryScreen()->geometry());
@@ -59,7 +65,7 @@ void QuintessentialViewFullscreenWindow::myTimer() {
     if (view().Mode() == ViewMode::kOpaqueFullscreen && isVisible()) showFullScreen();
   }
   if (view().Mode() == ViewMode::kOverlay) {
-    setAlphaValue(GetPrefDouble("QUINT_FULLSCREEN_WINDOW_ALPHA", nullptr, true, 0.8));
+    setAlphaValue(OverlayWindowAlpha());
     if (isVisible()) TheMachine().screen.KeepInSight(winId());
   }
   view().drawRect();

@@ -78,7 +78,13 @@ bool QuintessentialViewWindow::canBecomeKeyWindow() const {
   return !gQuintessentialViewIsFullScreenOverlay || mView.Mode() == ViewMode::kOpaqueFullscreen;
 }
 
+bool QuintessentialViewWindow::IsCurrent() const {
+  return gQuintessentialViewIsFullScreenOverlay == isFullscreen();
+}
+
 void QuintessentialViewWindow::makeKeyAndOrderFront() {
+  // Nothing exposes a window that is there already.
+  if (isVisible() && isExposed()) mDelegate.windowDidUpdate();
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   if ((windowStates() & Qt::WindowMinimized) != 0)
     setWindowStates(windowStates() & ~Qt::WindowMinimized);
@@ -93,14 +99,16 @@ void QuintessentialViewWindow::makeKeyAndOrderFront() {
 }
 
 void QuintessentialViewWindow::performClose() {
-  SaveFrame();
   mDelegate.unhookConsolidatorIfNecessary();
-  {
-    const CriticalRegion::Guard inside(gQuintessentialMutex);
-    mView.SetDrawable(false);
-    hide();
-  }
+  Withdraw();
   EnsureThatCocoaWindowIsFrontmostIfPossible();
+}
+
+void QuintessentialViewWindow::Withdraw() {
+  SaveFrame();
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  mView.SetDrawable(false);
+  hide();
 }
 
 void QuintessentialViewWindow::closeByUser() {
@@ -151,13 +159,13 @@ void QuintessentialViewWindow::exposeEvent(QExposeEvent*) {
     mView.SetDrawable(cameUp && mMessage.isEmpty());
   }
   if (cameUp && isVisible()) {
-    mDelegate.windowDidUpdate();
+    if (IsCurrent()) mDelegate.windowDidUpdate();
     mDelegate.windowDidExpose();
     mView.drawRect();
     PaintMessage();
   }
   // Another view's late goodbye must not stop this one.
-  if (gQuintessentialViewIsFullScreenOverlay == isFullscreen()) mDelegate.SetSeen(cameUp);
+  if (IsCurrent()) mDelegate.SetSeen(cameUp);
 }
 
 void QuintessentialViewWindow::resizeEvent(QResizeEvent* event) {
@@ -182,7 +190,7 @@ void QuintessentialViewWindow::closeEvent(QCloseEvent* event) {
 }
 
 void QuintessentialViewWindow::focusInEvent(QFocusEvent*) {
-  if (isVisible()) mDelegate.windowDidBecomeKey();
+  if (isVisible() && IsCurrent()) mDelegate.windowDidBecomeKey();
 }
 
 bool QuintessentialViewWindow::event(QEvent* event) {

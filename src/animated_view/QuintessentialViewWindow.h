@@ -44,6 +44,8 @@ class QuintessentialViewWindow : public QWindow {
   bool canBecomeKeyWindow() const;
   /// Never overlaps a frame.
   void makeKeyAndOrderFront();
+  /// Takes the window away without a word to the engine, for the view that is shown instead.
+  void Withdraw();
   /// Hides the window, ends its being served, and gives the keyboard to another window.
   void performClose();
 
@@ -67,6 +69,8 @@ class QuintessentialViewWindow : public QWindow {
   const ViewCommands& Commands() const { return mCommands; }
 
  private:
+  /// Whether its view is the one of the mode that is set. The other one is on its way out.
+  bool IsCurrent() const;
   void closeByUser();
   void RestoreFrame();
   void PaintMessage();
@@ -91,11 +95,14 @@ class QuintessentialViewFullscreenWindow final : public QuintessentialViewWindow
 
   bool isFullscreen() const override { return true; }
   void setUpOverlayStuff() override;
+  /// Whether the time has passed for which the window stays transparent after its set-up.
+  bool IsRevealed() const { return mIsRevealed; }
 
  private:
   void myTimer();
 
   std::unique_ptr<RunLoopTimer> mTimer;
+  bool mIsRevealed = true;
 };
 
 /// The window of the view that was made last. Main thread.

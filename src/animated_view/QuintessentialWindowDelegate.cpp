@@ -44,6 +44,7 @@ void QuintessentialWindowDelegate::hookUpConsolidatorIfNecessary() {
   gQuintessentialHost->MakeContextCurrent();
   gQuintessentialInformationClient->CreateDrawingThreadIfNecessary();
   gQuintessentialInformationClient->HookIntoConsolidator();
+  if (mRests) SetSeen(false);
 }
 
 void QuintessentialWindowDelegate::unhookConsolidatorIfNecessary() {
@@ -79,8 +80,12 @@ void QuintessentialWindowDelegate::windowDidResize(const std::function<void()>& 
 
 void QuintessentialWindowDelegate::SetSeen(bool seen) {
   if (!gQuintessentialViewIsCurrentlyShown || gQuintessentialInformationClient == nullptr) return;
-  if (gQuintessentialInformationClient->IsPaused() == seen)
-    gQuintessentialInformationClient->SetPaused(!seen);
+  gQuintessentialInformationClient->SetPaused(mRests || !seen);
+}
+
+void QuintessentialWindowDelegate::RestForGood() {
+  mRests = true;
+  SetSeen(false);
 }
 
 }  // namespace lurkwell

@@ -33,12 +33,15 @@ class QuintessentialWindowDelegate {
 
   /// Whether the user can see the view; while not, nothing moves.
   void SetSeen(bool seen);
+  /// Nothing can be drawn: from now on nothing moves, whoever sees the view.
+  void RestForGood();
 
  private:
   void Remember(bool shown) const;
 
   std::function<void()> mPrepare;
   bool mRemembers = true;
+  bool mRests = false;
 };
 
 extern QuintessentialWindowDelegate* gQuintessentialWindowDelegate;

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QScreen>
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -24,6 +25,8 @@ constexpr int kBackgroundSide = 1024;
 constexpr double kSecondsBetweenLooks = 1.0;
 /// A display may lose a context now and then; one that keeps losing it cannot draw.
 constexpr int kMostFailures = 3;
+/// Frames for so long are no luck.
+constexpr double kSecondsUntilForgiven = 5.0;
 constexpr std::size_t kManyLabels = 4096;
 
 std::shared_ptr<const Picture> Rendered(const char* name, int side) {
@@ -97,6 +100,9 @@ void QuintessentialWindows::ShowCurrentWindow() {
       HandleFailure();
     }
   }
+  QuintessentialViewWindow* const both[] = {mWindow.get(), mFullscreenWindow.get()};
+  for (auto* window : both)
+    if (window != &CurrentWindow() && window->isVisible()) window->Withdraw();
   CurrentWindow().makeKeyAndOrderFront();
   if (mTimer == nullptr)
     mTimer = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kSecondsBetweenLooks,
@@ -117,6 +123,7 @@ void QuintessentialWindows::LookAround() {
     mTimer.reset();
     return;
   }
+  ForgiveFailures();
   auto& window = CurrentWindow();
   if (!window.isVisible()) return;
   const bool minimised = (window.windowStates() & Qt::WindowMinimized) != 0;
@@ -162,6 +169,7 @@ void QuintessentialWindows::SetUpOverlayStuff() {
 
 void QuintessentialWindows::SetCurrentWindowAlpha(double alpha) {
   auto& window = CurrentWindow();
+  if (window.isFullscreen() && !mFullscreenWindow->IsRevealed()) return;
   if (window.view().Mode() != ViewMode::kOpaqueFullscreen) window.setAlphaValue(alpha);
 }
 
@@ -176,8 +184,11 @@ void QuintessentialWindows::InternalDraw() {
 
 std::shared_ptr<const Picture> QuintessentialWindows::LabelImage(const std::string& name) {
   if (mPixelRatio <= 0) UsePixelRatio(CurrentWindow().devicePixelRatio());
-  if (mLabels.size() > kManyLabels)
+  if (mLabels.size() > std::max(mManyLabels, kManyLabels)) {
     std::erase_if(mLabels, [](const auto& label) { return label.second.expired(); });
+    // Where more names than that are in use, not every new one sweeps.
+    mManyLabels = 2 * mLabels.size();
+  }
   auto& known = mLabels[name];
   auto picture = known.lock();
   if (picture == nullptr) known = picture = ConvertCStringToNSImage(name, true, mPixelRatio);
@@ -208,18 +219,30 @@ void QuintessentialWindows::DiscardBackground() {
 void QuintessentialWindows::HandleFailure() {
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   mDrawing.renderer.Forget();
+  mLastFailure = TheMachine().clock.AbsoluteTime();
   if (++mFailures < kMostFailures && mDrawing.context.Create()) {
     mDrawing.hasFailed = false;
     return;
   }
   mDrawing.context.Destroy();
+  mDelegate.RestForGood();
   for (auto* window :
        {mWindow.get(), static_cast<QuintessentialViewWindow*>(mFullscreenWindow.get())})
     window->ShowMessage(LocalizedString("quintessential_cannot_draw"));
 }
 
+void QuintessentialWindows::ForgiveFailures() {
+  if (mFailures == 0 || mFailures >= kMostFailures) return;
+  if (TheMachine().clock.AbsoluteTime() < mLastFailure + kSecondsUntilForgiven) return;
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  if (mDrawing.hasDrawn) mFailures = 0;
+}
+
 void QuintessentialWindows::ApplyLimits() {
-  const auto [width, height] = gOpenGLViewportMaxDimensions;
+  const auto [width, height] = [] {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    return gOpenGLViewportMaxDimensions;
+  }();
   if (width <= 0) return;
   const QSize pixels(width, height > 0 ? height : width);
   mWindow->setMaximumSize(pixels / mWindow->devicePixelRatio());

@@ -32,7 +32,7 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   }
   QuintessentialView& quintessentialFullscreenView() { return mFullscreenWindow->view(); }
 
-  /// Shows the window of the mode that is set.
+  /// Shows the window of the mode that is set, and no other.
   void ShowCurrentWindow();
   bool IsAnyVisible() const;
   void SaveFrame();
@@ -68,6 +68,7 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   void UsePixelRatio(double ratio);
   void LookAround();
   void HandleFailure();
+  void ForgiveFailures();
   void ApplyLimits();
 
   ViewCommands mCommands;
@@ -80,7 +81,9 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   std::shared_ptr<const Picture> mDefaultIcon;
   std::unordered_map<std::string, std::weak_ptr<const Picture>> mLabels;
   double mPixelRatio = 0.0;
+  std::size_t mManyLabels = 0;
   int mFailures = 0;
+  double mLastFailure = 0.0;
 };
 
 /// The view of the mode that is set. Fails "theCurrentQuintessentialView" when there is none.

@@ -17,6 +17,8 @@ struct ViewDrawing {
   std::vector<DrawnProcess> processes;
   /// Drawing has failed; nobody draws until the main thread has dealt with it.
   bool hasFailed = false;
+  /// Whether a frame has been drawn since the last failure.
+  bool hasDrawn = false;
   /// Called on the drawing thread when it fails; has the main thread do something about it.
   std::function<void()> tellOfFailure;
   /// Called on the drawing thread once the largest view is known.

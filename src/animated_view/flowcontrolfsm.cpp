@@ -17,7 +17,7 @@ constexpr int kClearedFrames = 3;
 }  // namespace
 
 void ToggleQuintessentialFullScreen() {
-  if (std::exchange(gToggleFullscreenInProgress, true)) return;
+  if (gFCFSMMgr == nullptr || std::exchange(gToggleFullscreenInProgress, true)) return;
   auto fsm = FlowControlFSM::CreateFlowControlFSM();
   if (gQuintessentialViewIsCurrentlyShown)
     fsm->AppendFlowControlFSMState(FSMCloseQuintWindow::Create());

@@ -6,7 +6,9 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QStyleFactory>
+#include <QThread>
 #include <cstdio>
+#include <cstdlib>
 
 #include "app/SplashScreen.h"
 #include "app/appDelegate.h"
@@ -141,6 +143,14 @@ void ApplyTheme(CommandLine::Theme theme) {
   QApplication::setPalette(theme == CommandLine::Theme::kDark ? DarkPalette() : LightPalette());
 }
 
+/// Registered while the program runs; does nothing after its regular end.
+void EndAfterLostDisplay() {
+  if (gAppDelegate == nullptr || !gAppDelegate->isRunning()) return;
+  // Another thread that finds the connection gone may not touch what the main thread works on.
+  if (QThread::currentThread() == qApp->thread()) gAppDelegate->displayWasLost();
+  std::_Exit(kExitFailure);
+}
+
 int RunWindowMode(const CommandLine& commandLine) {
   QApplication::setQuitOnLastWindowClosed(false);
   InstallResources(*qApp);
@@ -150,6 +160,7 @@ int RunWindowMode(const CommandLine& commandLine) {
   vqAppDelegate delegate(picture ? vqAppDelegate::Launch::kForPicture
                                  : vqAppDelegate::Launch::kUsual);
   delegate.init();
+  std::atexit(&EndAfterLostDisplay);
   std::unique_ptr<Photographer> photographer;
   if (picture) photographer = std::make_unique<Photographer>(delegate, commandLine);
   delegate.applicationDidFinishLaunching();

@@ -11,11 +11,14 @@
 #include "app/SplashScreen.h"
 #include "consolidator/PI_Consolidator.h"
 #include "monitor_windows/CPUHistoryWindow.h"
+#include "monitor_windows/ClassicWatchdog.h"
 #include "monitor_windows/ProcessWatchdog.h"
+#include "monitor_windows/RememberedWindows.h"
 #include "monitor_windows/SystemWideInfo.h"
 #include "platform/Alerts.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
+#include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
 #include "platform/Screen.h"
@@ -31,6 +34,8 @@ namespace lurkwell {
 vqAppDelegate* gAppDelegate = nullptr;
 
 namespace {
+/// The watchdog looks at the processes sooner.
+constexpr double kFirstLookSeconds = 2.0;
 constexpr char kDebuggingKey[] = "QUBS_DEBUGGING_AND_TESTING";
 }  // namespace
 
@@ -48,7 +53,8 @@ vqAppDelegate::vqAppDelegate(Launch launch)
     : mLaunch(launch),
       mFollowingWindows(
           TheMachine().logFiles,
-          {&CreateCPUHistoryWindow, &CountOpenCPUHistoryWindows, &RememberCPUHistoryPlaces}) {}
+          {&CreateCPUHistoryWindow, &CountOpenCPUHistoryWindows, &IsCPUHistoryWindowOpen,
+           &RememberCPUHistoryPlaces}) {}
 
 vqAppDelegate::~vqAppDelegate() {
   fQuintessentialWindows.reset();
@@ -79,17 +85,30 @@ void vqAppDelegate::applicationDidFinishLaunching() {
   mIsRunning = true;
   CreateFlowControlFSMMgr();
   LaunchHelperDaemon();
-  // To come: reports of the Classic environment, its helper.
+  if (mLaunch == Launch::kUsual) {
+    ClassicPSNSetupProcessExtractionAppleEvent();
+    TurnOnClassicNub();
+  }
   if (mLaunch == Launch::kUsual) OpenFirstWindows();
   QubsDebugging();
   if (mLaunch == Launch::kUsual) ShowSplashScreen();
   if (mLaunch == Launch::kUsual) SetUpHotKey();
+  mHasLaunched = true;
 }
 
 void vqAppDelegate::OpenFirstWindows() {
   InitializeProcessWatchdog(GetPrefInt("DEFAULT_WATCHDOG_INTERVAL", nullptr, true, 500),
                             mFollowingWindows, *this);
   // A start that shows nothing would leave a program that nobody can reach.
+  if (IsAnythingVisibleBut(nullptr)) return;
+  const bool remembersAny =
+      GetPrefArrayCount(kCPUHistoryWindowKind) > 0 || GetPrefArrayCount(kLoggingWindowKind) > 0;
+  if (!remembersAny) return ShowSomething();
+  mFirstLook = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kFirstLookSeconds,
+                                             0.0, [this] { ShowSomething(); });
+}
+
+void vqAppDelegate::ShowSomething() {
   if (!IsAnythingVisibleBut(nullptr)) doShowMainWindow();
 }
 
@@ -104,16 +123,16 @@ void QubsDebuggingCleanup() {
 
 void vqAppDelegate::applicationWillTerminate() {
   if (!std::exchange(mIsRunning, false)) return;
-  if (fMainWindow != nullptr && mLaunch == Launch::kUsual) fMainWindow->SaveFrame();
+  mFirstLook.reset();
   vqPreferencesUI::closeIfOpen();
-  fQuintessentialWindows->SaveFrame();
+  if (mLaunch == Launch::kUsual) KeepArrangement();
   gApplicationQuitting = true;
   {
     const PreferenceBatch batch;
     for (const std::int32_t pid : PidBlob())
       ProcessInformationClient::NotifyAllPidHasBeenRemoved(pid, true);
   }
-  // To come: the Classic helper's end.
+  if (gClassicWatchdog != nullptr) TurnOffClassicNub();
   QuitHelperDaemon();
   QubsDebuggingCleanup();
   ProcessInformationClient::DeleteAllProcessInformationClients();
@@ -124,14 +143,27 @@ void vqAppDelegate::applicationWillTerminate() {
   DestroyProcessInformationConsolidator();
 }
 
+void vqAppDelegate::KeepArrangement() {
+  const PreferenceBatch batch;
+  fMainWindow->SaveFrame();
+  fQuintessentialWindows->SaveFrame();
+  mFollowingWindows.RememberPlaces();
+}
+
+void vqAppDelegate::displayWasLost() {
+  if (!std::exchange(mIsRunning, false)) return;
+  gApplicationQuitting = true;
+  if (mLaunch == Launch::kUsual) {
+    const PreferenceBatch batch;
+    KeepArrangement();
+    fMainWindow->controller().saveColumnPrefs();
+  }
+  if (gClassicWatchdog != nullptr) TurnOffClassicNub();
+  QuitHelperDaemon();
+}
+
 void vqAppDelegate::doThePrefs() {
-  const auto* before = gThePreferencesUI;
   vqPreferencesUI::runWithTab(vqPreferencesUI::kRememberedTab);
-  if (gThePreferencesUI == before) return;
-  connect(gThePreferencesUI, &vqPreferencesUI::closed, this,
-          [this, &window = gThePreferencesUI->window()] {
-            if (isLastWindow(window)) doQuit();
-          });
 }
 
 void vqAppDelegate::doAboutPanel() {
@@ -149,9 +181,15 @@ void vqAppDelegate::CheckGraphicsOnce() {
   constexpr char kCheckedKey[] = "QUIVA_CHECK_QUARTZ_EXTREME";
   if (GetPrefInt(kCheckedKey, nullptr, true, 0) != 0) return;
   SetPrefInt(kCheckedKey, 1);
-  if (TheMachine().screen.UsesOpenGLAcceleration()) return;
-  TheMachine().alerts.RunAlertPanel(LocalizedString("no_quartz_extreme").toStdString(), " ", "OK",
-                                    "", "");
+  // A question asked inside a timer would hold all others up.
+  QMetaObject::invokeMethod(
+      this,
+      [] {
+        if (TheMachine().screen.UsesOpenGLAcceleration()) return;
+        TheMachine().alerts.RunAlertPanel(LocalizedString("no_quartz_extreme").toStdString(), " ",
+                                          "OK", "", "");
+      },
+      Qt::QueuedConnection);
 }
 
 void vqAppDelegate::doShowQuintessentialView() {
@@ -167,7 +205,16 @@ void vqAppDelegate::doToggleQuintessentialViewFullScreen() {
   ToggleQuintessentialFullScreen();
 }
 
-bool vqAppDelegate::eventFilter(QObject*, QEvent* event) {
+bool vqAppDelegate::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::Close && object->isWidgetType() && isRunning()) {
+    // Not before it is closed.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          if (isRunning() && !IsAnythingVisibleBut(nullptr)) doQuit();
+        },
+        Qt::QueuedConnection);
+  }
   if (event->type() != QEvent::Quit) return false;
   doQuit();
   return true;
@@ -183,10 +230,12 @@ bool vqAppDelegate::isLastWindow(const QWidget& window) const {
 
 bool vqAppDelegate::IsAnythingVisibleBut(const QWidget* window) const {
   // Between window and overlay there is neither.
-  if (gToggleFullscreenInProgress || fQuintessentialWindows->IsAnyVisible()) return true;
+  if (gFCFSMMgr != nullptr && gFCFSMMgr->IsBusy()) return true;
+  if (fQuintessentialWindows->IsAnyVisible()) return true;
+  const auto* forDebugging = gSystemWideInfo != nullptr ? gSystemWideInfo->Window() : nullptr;
   return std::ranges::any_of(QApplication::topLevelWidgets(), [&](const QWidget* other) {
     return other != window && other->isVisible() && other != SplashScreen::window() &&
-           other->windowType() != Qt::Popup;
+           static_cast<const QWidget*>(other) != forDebugging && other->windowType() != Qt::Popup;
   });
 }
 

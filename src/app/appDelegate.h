@@ -46,21 +46,33 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void doToggleQuintessentialViewFullScreen() override;
   bool isLastWindow(const QWidget& window) const override;
 
+  /// From the end of the launch to the beginning of the end.
+  bool isRunning() const { return mHasLaunched && mIsRunning; }
+
+  /// The toolkit ends the process when it loses the display: keeps what the user arranged and sends
+  /// the helper away, without the windows, which are gone.
+  void displayWasLost();
+
   MainWindow& mainWindow() { return *fMainWindow; }
   QuintessentialWindows& quintessentialWindows() { return *fQuintessentialWindows; }
   MonitorWindowKinds& monitorWindows() { return mFollowingWindows; }
 
   /// The desktop asks programs to quit by an event that would close the windows first, as if the
-  /// user had done it.
+  /// user had done it. And whoever closes the last window quits.
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   void OpenFirstWindows();
+  void ShowSomething();
+  void KeepArrangement();
   void CheckGraphicsOnce();
   bool IsAnythingVisibleBut(const QWidget* window) const;
 
   Launch mLaunch;
   bool mIsRunning = false;
+  bool mHasLaunched = false;
+  /// Until the watchdog has brought back what it remembers.
+  std::unique_ptr<RunLoopTimer> mFirstLook;
   /// Serves the main window and the watchdog, which go before it.
   FollowingWindows mFollowingWindows;
   std::unique_ptr<MainWindow> fMainWindow;

@@ -10,6 +10,8 @@
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
 #include "platform/Machine.h"
+#include "platform/desktop/ClassicProcessManager.h"
+#include "platform/desktop/DBusEventBus.h"
 #include "platform/desktop/DesktopAlerts.h"
 #include "platform/desktop/DesktopHotKeys.h"
 #include "platform/desktop/DesktopIconServices.h"
@@ -27,10 +29,19 @@ namespace {
 /// This machine with its desktop. Main thread; a QApplication exists.
 class DesktopMachine {
  public:
-  explicit DesktopMachine(PolkitAuthorization::Consent consent) : mConsent(consent) {}
+  enum class Use {
+    kBySomebody,
+    /// A picture is taken without asking anybody anything.
+    kForPicture,
+  };
+
+  DesktopMachine(Use use, const std::string& busAddress)
+      : mUse(use), eventBus({busAddress, RunningInstance::ConnectionName(), {}}) {}
 
  private:
-  PolkitAuthorization::Consent mConsent;
+  bool MayAsk() const { return mUse == Use::kBySomebody; }
+
+  Use mUse;
 
  public:
   LinuxClock clock;
@@ -44,16 +55,20 @@ class DesktopMachine {
   LinuxSignals signals;
   LinuxNamedPipes namedPipes;
   LinuxBundle bundle;
-  PolkitAuthorization authorization{bundle, mConsent};
-  DesktopAlerts alerts;
+  PolkitAuthorization authorization{bundle, MayAsk() ? PolkitAuthorization::Consent::kMayAsk
+                                                     : PolkitAuthorization::Consent::kOnlyIfGiven};
+  DesktopAlerts desktopAlerts;
+  TerminalAlerts terminalAlerts;
+  Alerts& alerts = MayAsk() ? static_cast<Alerts&>(desktopAlerts) : terminalAlerts;
   LinuxLogFiles logFiles;
   DesktopHotKeys hotKeys{DesktopSettings::FromEnvironment()};
   DesktopScreen screen{DesktopSettings::FromEnvironment()};
-  NoEventBus eventBus;
+  DBusEventBus eventBus;
+  ClassicProcessManager applications{processManager, eventBus, eventBus.Connection()};
 
   Machine services{
-      clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
-      hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
+      clock,          runLoop,  preferenceDomain, processTable, applications,  iconServices,
+      hostStatistics, tools,    signals,          namedPipes,   authorization, bundle,
       alerts,         logFiles, hotKeys,          screen,       eventBus};
 };
 
@@ -80,19 +95,31 @@ int ToggleOverlay(int& argc, char** argv) {
   return kExitFailure;
 }
 
-/// Has others find this instance; false when one that is running has come to the front instead.
-bool BecomeTheInstance(RunningInstance& instance) {
+/// Has an instance that is running come to the front; says so when it does not answer.
+RunningInstance::Answer AskTheInstance(RunningInstance& instance) {
   const auto answer = instance.BringToFront();
-  if (answer == RunningInstance::Answer::kDone) return false;
   if (answer == RunningInstance::Answer::kSilent)
     std::fputs("lurkwell: an instance that is running does not answer; starting another\n", stderr);
-  instance.Become(
+  return answer;
+}
+
+/// Has others find this instance; false when one that is running has come to the front instead.
+bool BecomeTheInstance(RunningInstance& instance) {
+  using Answer = RunningInstance::Answer;
+  const auto answer = AskTheInstance(instance);
+  if (answer == Answer::kDone) return false;
+  const bool isTheInstance = instance.Become(
       [] {
-        if (gAppDelegate != nullptr) gAppDelegate->doShowMainWindow();
+        if (gAppDelegate != nullptr && gAppDelegate->isRunning()) gAppDelegate->doShowMainWindow();
       },
       [] {
-        if (gAppDelegate != nullptr) gAppDelegate->doToggleQuintessentialViewFullScreen();
+        if (gAppDelegate != nullptr && gAppDelegate->isRunning())
+          gAppDelegate->doToggleQuintessentialViewFullScreen();
       });
+  if (isTheInstance) return true;
+  // Nobody was there, and now somebody is: started at the same time.
+  if (answer == Answer::kNobody && AskTheInstance(instance) == Answer::kDone) return false;
+  instance.WaitInLine();
   return true;
 }
 
@@ -102,7 +129,6 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("lurkwell"));
   QApplication::setDesktopFileName(QStringLiteral("com.velquarin.lurkwell"));
   QApplication application(argc, argv);
-  signals.Watch();
   const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot;
   if (commandLine.screenshot) {
     NeverRestartWithSession(application);
@@ -111,10 +137,11 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   }
   RunningInstance instance(isOnItsOwn ? "" : BusAddress());
   if (!isOnItsOwn && !BecomeTheInstance(instance)) return kExitSuccess;
-  // A picture is taken without asking anybody anything.
-  using Consent = PolkitAuthorization::Consent;
-  DesktopMachine machine(commandLine.screenshot ? Consent::kOnlyIfGiven : Consent::kMayAsk);
+  using Use = DesktopMachine::Use;
+  DesktopMachine machine(commandLine.screenshot ? Use::kForPicture : Use::kBySomebody,
+                         commandLine.screenshot ? "" : BusAddress());
   const MachineInstallation installation(machine.services);
+  signals.Watch([&machine] { machine.runLoop.Stop(); });
   return RunWindowMode(commandLine);
 }
 

@@ -136,8 +136,9 @@ void ColumnMenus::processPSAvailableMenuItem(QAction* item) {
 }
 
 void ColumnMenus::Validate() {
-  const bool builtIn = mController.validateMenuItem(MenuCommand::kBuiltInColumn);
-  const bool ps = mController.validateMenuItem(MenuCommand::kPSAvailableColumn);
+  // Columns do not depend on what is selected.
+  const bool builtIn = mController.validateMenuItem(MenuCommand::kBuiltInColumn, {});
+  const bool ps = mController.validateMenuItem(MenuCommand::kPSAvailableColumn, {});
   for (auto* item : mBuiltInMenu.actions()) item->setEnabled(builtIn);
   for (auto* item : mPSAvailableMenu.actions()) item->setEnabled(ps);
 }

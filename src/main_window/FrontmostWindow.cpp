@@ -50,14 +50,15 @@ QList<QWidget*> orderedWindows() {
   return WindowOrder::Instance().Windows();
 }
 
-bool EnsureThatCocoaWindowIsFrontmostIfPossible() {
+bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change) {
   for (auto* window : orderedWindows()) {
     const auto title = window->windowTitle();
     const bool matches = title.startsWith(QLatin1String("Process")) ||
                          title.startsWith(QLatin1String("Lurkwell Pref"));
     if (!window->isVisible() || !matches) continue;
     // Whoever works with another program keeps the keyboard, and what is in front.
-    if (QGuiApplication::applicationState() == Qt::ApplicationActive) {
+    if (change == OrderChange::kByUser ||
+        QGuiApplication::applicationState() == Qt::ApplicationActive) {
       window->raise();
       window->activateWindow();
     }

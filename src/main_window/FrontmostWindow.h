@@ -14,9 +14,16 @@ void WatchWindowOrder(QWidget& window);
 /// Front to back, invisible ones among them.
 QList<QWidget*> orderedWindows();
 
+/// Why the order of the windows has changed.
+enum class OrderChange {
+  kByUser,   ///< a click or a key of the user's
+  kByItself  ///< a window opened without being asked for
+};
+
 /// Gives the keyboard to the frontmost visible window whose title begins with "Process" or
-/// "Lurkwell Pref", after others have changed the order behind its back. False, and nothing
-/// changed, when there is none.
-bool EnsureThatCocoaWindowIsFrontmostIfPossible();
+/// "Lurkwell Pref", after others have changed the order behind its back. A change that came by
+/// itself takes the keyboard from no other program. False, and nothing changed, when there is no
+/// such window.
+bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change = OrderChange::kByUser);
 
 }  // namespace lurkwell

@@ -1,15 +1,22 @@
 // What can be done to the selected processes, and when.
+#include <QMessageBox>
+#include <QPushButton>
 #include <algorithm>
 
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/ProcessActions.h"
+#include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {
+
+/// More windows than that are not opened by an oversight.
+constexpr std::size_t kManyWindows = 20;
 
 ProcessSerialNumber SerialNumberOf(std::int32_t pid) {
   ProcessSerialNumber psn;
@@ -84,16 +91,52 @@ void vqMainTableController::processRevealInFinderMenuItem() {
   forSelectedPSNs([](ProcessSerialNumber psn) { RevealProcessInFinder(psn); });
 }
 
+void vqMainTableController::followSelectedPids(void (MonitorWindows::*open)(std::int32_t,
+                                                                            std::int32_t),
+                                               std::int32_t interval) {
+  if (fMonitorWindows == nullptr) return;
+  const auto asked = selectedPids().size();
+  if (asked > kManyWindows && !confirmFollowing(asked)) return;
+  auto pids = selectedPids();
+  const auto wanted = pids.size();
+  pids.resize(std::min(wanted, static_cast<std::size_t>(fMonitorWindows->CountRoom())));
+  {
+    const PreferenceBatch batch;
+    for (const auto pid : pids) (fMonitorWindows->*open)(interval, pid);
+  }
+  if (pids.size() == wanted) return;
+  QMessageBox box(window());
+  box.setIcon(QMessageBox::Information);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(LocalizedString("follow_limit_title").arg(pids.size()).arg(wanted));
+  box.setInformativeText(LocalizedString("follow_limit_text"));
+  box.exec();
+}
+
+bool vqMainTableController::confirmFollowing(std::size_t windows) {
+  QMessageBox box(window());
+  box.setIcon(QMessageBox::Question);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(LocalizedString("follow_confirmation_title").arg(windows));
+  box.setInformativeText(LocalizedString("follow_confirmation_text"));
+  const QAbstractButton* open =
+      box.addButton(LocalizedString("follow_confirmation_open"), QMessageBox::AcceptRole);
+  box.setDefaultButton(box.addButton(QMessageBox::Cancel));
+  // The selection stays what the question was about, but for what ends meanwhile.
+  holdOrder(&box, true);
+  box.exec();
+  holdOrder(&box, false);
+  return box.clickedButton() == open;
+}
+
 void vqMainTableController::newCPUHistoryWindow() {
   const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
-  if (fMonitorWindows == nullptr) return Q_EMIT notYetAvailable();
-  for (const auto pid : selectedPids()) fMonitorWindows->CreateCPUHistoryWindow(interval, pid);
+  followSelectedPids(&MonitorWindows::CreateCPUHistoryWindow, interval);
 }
 
 void vqMainTableController::newLoggingWindow() {
   const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
-  if (fMonitorWindows == nullptr) return Q_EMIT notYetAvailable();
-  for (const auto pid : selectedPids()) fMonitorWindows->CreateLoggingWindow(interval, pid);
+  followSelectedPids(&MonitorWindows::CreateLoggingWindow, interval);
 }
 
 bool vqMainTableController::anyPIDsInSelection() const {

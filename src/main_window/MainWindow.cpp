@@ -55,8 +55,6 @@ MainWindow::MainWindow(ApplicationCommands& commands)
           &vqMainTableController::doubleClickAction);
   connect(mController.get(), &vqMainTableController::contentsChanged, this,
           &MainWindow::UpdateStatus);
-  connect(mController.get(), &vqMainTableController::notYetAvailable, this,
-          [this] { statusBar()->showMessage(LocalizedString("main_window_not_available"), 5000); });
   connect(mController.get(), &vqMainTableController::preferencesRequested, this,
           [this] { mCommands.doThePrefs(); });
   connect(mController.get(), &vqMainTableController::customisingRequested, this,

@@ -21,13 +21,18 @@ SystemFigures ReadSystemFigures() {
   const auto pageSize = host.PageSize();
   if (!pageSize) std::puts("didn't get pagesize so defaulting to 4K");
   VirtualMemoryStatistics memory;
-  if (!host.ReadVirtualMemory(memory)) std::puts("error: failed to get stats");
+  const bool isRead = host.ReadVirtualMemory(memory);
+  if (!isRead) std::puts("error: failed to get stats");
   const auto bytes = [size = pageSize.value_or(kUsualPageSize)](std::int64_t pages) {
     return pages * size;
   };
   const auto physical = host.PhysicalMemory();
-  return {physical, physical - bytes(memory.freePages), bytes(memory.wiredPages),
-          bytes(memory.inactivePages), memory.pageouts};
+  return {physical,
+          physical - bytes(memory.freePages),
+          bytes(memory.wiredPages),
+          bytes(memory.inactivePages),
+          memory.pageouts,
+          isRead};
 }
 
 MachineUsage::MachineUsage() : mLastUpdate(TheMachine().clock.Now()) {}

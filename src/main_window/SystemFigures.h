@@ -13,6 +13,8 @@ struct SystemFigures {
   std::int64_t wiredBytes = 0;
   std::int64_t inactiveBytes = 0;
   std::int64_t pageouts = 0;
+  /// Whether the host told the pages; without, their number says nothing.
+  bool knowsPageouts = false;
 };
 
 /// From the host's statistics. What those do not tell is printed, and counts as 0. Main thread.

@@ -71,13 +71,12 @@ void VQTarvMainWindowInfoSynch::ShowMemory() {
 }
 
 void VQTarvMainWindowInfoSynch::UpdateSystemInfoToolbarItemPageouts() {
-  const auto pageouts = mFigures.pageouts;
-  if (mPreviousPageouts < 0) {
-    mPreviousPageouts = pageouts;
-    mFilteredPageouts = 0.0;
+  // A reading that failed counts for nothing, and is nothing to compare the next one with.
+  mNewPageouts = 0;
+  if (mFigures.knowsPageouts) {
+    if (mPreviousPageouts) mNewPageouts = mFigures.pageouts - *mPreviousPageouts;
+    mPreviousPageouts = mFigures.pageouts;
   }
-  mNewPageouts = pageouts - mPreviousPageouts;
-  mPreviousPageouts = pageouts;
   mFilteredPageouts = std::max(mFilteredPageouts * mPageoutsFilter, double(mNewPageouts));
   mFilteredPageouts = std::min(mFilteredPageouts, kMostPageouts);
   const auto level = static_cast<std::int64_t>(mFilteredPageouts);

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTimer>
 
 #include "main_window/MainToolbar.h"
@@ -24,6 +25,36 @@ void AfterTheDrop(QObject* receiver, Change change) {
   QTimer::singleShot(0, receiver, change);
 }
 
+/// Pictures are drawn for the list's ground and much of them is blue: the selected row gets a
+/// paler highlight, and keeps its picture's colours.
+class PaleSelection final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (!option->state.testFlag(QStyle::State_Selected)) return;
+    const auto& palette = option->palette;
+    option->palette.setColor(QPalette::Highlight, Between(palette.color(QPalette::Base),
+                                                          palette.color(QPalette::Highlight)));
+    option->palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+    const qreal scale = option->widget != nullptr ? option->widget->devicePixelRatioF() : 1;
+    const auto picture = option->icon.pixmap(option->decorationSize, scale);
+    option->icon = QIcon(picture);
+    option->icon.addPixmap(picture, QIcon::Selected);
+  }
+
+ private:
+  static QColor Between(const QColor& ground, const QColor& highlight) {
+    constexpr float kShare = 0.3F;
+    const auto mix = [](float from, float to) { return from + (to - from) * kShare; };
+    return QColor::fromRgbF(mix(ground.redF(), highlight.redF()),
+                            mix(ground.greenF(), highlight.greenF()),
+                            mix(ground.blueF(), highlight.blueF()));
+  }
+};
+
 QLabel* MakeHeading(const char* id, QWidget* buddy) {
   auto* label = new QLabel(LocalizedString(id));
   label->setBuddy(buddy);
@@ -37,6 +68,7 @@ QLabel* MakeHeading(const char* id, QWidget* buddy) {
 ToolbarItemList::ToolbarItemList(bool isToolbar, QWidget* parent)
     : QListWidget(parent), mIsToolbar(isToolbar) {
   setIconSize(kPictureSize);
+  setItemDelegate(new PaleSelection(this));
   setDragEnabled(true);
   setAcceptDrops(true);
   setDragDropMode(DragDrop);

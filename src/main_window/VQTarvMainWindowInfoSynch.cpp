@@ -163,17 +163,37 @@ void VQTarvMainWindowInfoSynch::FindBiggestVSZ() {
   }
 }
 
-void VQTarvMainWindowInfoSynch::UpdateFixedFields(RowDictionary& row, TimeValue now) {
+void VQTarvMainWindowInfoSynch::RefreshBars() {
+  const bool drewText = gDrawVSZText;
+  const auto biggest = gBiggestVSZ;
+  gDrawVSZText = DrawsVSZText();
+  mOwner.rows().TidyUp();
+  FindBiggestVSZ();
   PropertyReader reader;
-  if (const char* text = reader.Read(row.Pid(), "meta_active_time")) {
-    const auto activeTime = ReadTime(text);
-    setCPUDelta(row, activeTime, now);
-    row.Set(kMetaActiveTime, activeTime);
-    row.Sortable().Set(kMetaActiveTime, activeTime);
+  for (auto* row : mOwner.rows().All()) {
+    if (const char* text = reader.Read(row->Pid(), "pid_rsz"))
+      row->Set(kInternalRsz, ReadValue(kPropertyTypeInteger, text));
+    row->SetIndicator(ProcessIndicatorImageName(row->Pid()));
   }
-  if (const char* text = reader.Read(row.Pid(), "pid_rsz"))
-    row.Set(kInternalRsz, ReadValue(kPropertyTypeInteger, text));
-  row.SetIndicator(ProcessIndicatorImageName(row.Pid()));
+  // Every bar is measured by the biggest.
+  if (drewText != gDrawVSZText || biggest != gBiggestVSZ) mOwner.memoryBarsHaveChanged();
+}
+
+void VQTarvMainWindowInfoSynch::UpdateCPUShares() {
+  const auto now = TheMachine().clock.Now();
+  PropertyReader reader;
+  for (auto* row : mOwner.rows().All()) {
+    const char* text = reader.Read(row->Pid(), "meta_active_time");
+    if (text == nullptr) continue;
+    const auto activeTime = ReadTime(text);
+    setCPUDelta(*row, activeTime, now);
+    row->Set(kMetaActiveTime, activeTime);
+    row->Sortable().Set(kMetaActiveTime, activeTime);
+  }
+}
+
+void VQTarvMainWindowInfoSynch::BeepForHexadecimals() {
+  if (std::exchange(mHexadecimalWasMet, false)) QApplication::beep();
 }
 
 void VQTarvMainWindowInfoSynch::UpdateChangingFields() {
@@ -189,26 +209,17 @@ void VQTarvMainWindowInfoSynch::UpdateChangingFields() {
 }
 
 void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
-  const auto now = TheMachine().clock.Now();
-  const bool drewText = gDrawVSZText;
-  const auto biggest = gBiggestVSZ;
-  gDrawVSZText = DrawsVSZText();
-  mOwner.rows().TidyUp();
-  FindBiggestVSZ();
-  const auto& rows = mOwner.rows().All();
-  std::for_each(rows.rbegin(), rows.rend(),
-                [&](RowDictionary* row) { UpdateFixedFields(*row, now); });
+  RefreshBars();
+  UpdateCPUShares();
   UpdateChangingFields();
   gNewColumnWasAddedRecently = false;
-  if (std::exchange(mHexadecimalWasMet, false)) QApplication::beep();
+  BeepForHexadecimals();
   if (mOwner.sortColumn() != kNoKey) {
     int changes = 0;
     const char* name = KeyText(mOwner.sortColumn()).data();
     GetProcPropertyType(name, &changes);
     if (changes != 0) mOwner.setNeedsResort();
   }
-  // Every bar is measured by the biggest.
-  if (drewText != gDrawVSZText || biggest != gBiggestVSZ) mOwner.memoryBarsHaveChanged();
   mFigures = ReadSystemFigures();
   UpdateSystemInfoToolbarItemCPU();
   UpdateSystemInfoToolbarItemMemory();
@@ -243,14 +254,17 @@ void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
   std::uint8_t found = 0;
   const auto interval = GetPrefInt(kMainWindowIntervalKey, &found, false, 0);
   if (found != 0) SetInterval(interval);
-  mOwner.rows().TidyUp();
+  RefreshBars();
   for (auto* row : mOwner.rows().All()) {
     UpdateAllFields(*row, row->Pid());
     // Formats may be others, too.
     row->SetChanged(true);
   }
+  BeepForHexadecimals();
   mOwner.setNeedsResort();
-  NotifyProcessesHaveBeenUpdated();
+  // The gauges' texts have formats, too.
+  ShowSystemInfo();
+  mOwner.triggerReload();
 }
 
 bool VQTarvMainWindowInfoSynch::SelectPID(int pid) {

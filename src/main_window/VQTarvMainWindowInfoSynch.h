@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "consolidator/ProcessInformationClient.h"
 #include "main_window/RowDictionary.h"
@@ -39,6 +40,8 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void NotifyPidHasBeenAdded(int pid) override;
   void NotifyPidHasBeenRemoved(int pid) override;
   void NotifyPidHasChangedAppreciably(int pid) override;
+  /// Shows what was read last in the formats that hold now. Shares, gauges and the light stay as
+  /// they are until the next update: nothing was measured.
   void NotifyPreferencesHaveBeenUpdated() override;
   NeedLevel NeedPidsForProcProperty(const char* key) override;
   bool NeedPidProcProperty(int pid, const char* key) override;
@@ -87,7 +90,9 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void ShowCPU();
   void ShowMemory();
   void FindBiggestVSZ();
-  void UpdateFixedFields(RowDictionary& row, TimeValue now);
+  void RefreshBars();
+  void UpdateCPUShares();
+  void BeepForHexadecimals();
   void UpdateChangingFields();
 
   vqMainTableController& mOwner;
@@ -102,7 +107,8 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   int mSeverity = -1;
   std::int64_t mNewPageouts = 0;
 
-  std::int64_t mPreviousPageouts = -1;
+  /// As of the last reading that succeeded.
+  std::optional<std::int64_t> mPreviousPageouts;
   double mPageoutsFilter = 0.0;
   double mFilteredPageouts = 0.0;
   std::int32_t mYellowThreshold = 0;

@@ -32,6 +32,8 @@ class MonitorWindows {
   /// `interval` in milliseconds.
   virtual void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid) = 0;
   virtual void CreateLoggingWindow(std::int32_t interval, std::int32_t pid) = 0;
+  /// How many more may be opened.
+  virtual int CountRoom() const = 0;
 };
 
 /// The process table: its rows and columns as the view's model, the column menus, and what can be
@@ -132,6 +134,7 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void processBringToFrontMenuItem();
   void processRevealInFinderMenuItem();
   void doubleClickAction() { processBringToFrontMenuItem(); }
+  /// These do nothing before setMonitorWindows.
   void newCPUHistoryWindow();
   void newLoggingWindow();
   void setMonitorWindows(MonitorWindows* windows) { fMonitorWindows = windows; }
@@ -189,8 +192,6 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void updated();
   /// The number of rows, or of selected ones, may be another one.
   void contentsChanged();
-  /// A command was given whose window does not exist in this version.
-  void notYetAvailable();
   void preferencesRequested();
   /// The toolbar is to be arranged.
   void customisingRequested();
@@ -230,6 +231,10 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void forSelectedPids(Action action);
   template <typename Action>
   void forSelectedPSNs(Action action);
+  /// Has a window opened for each selected process, as far as its user and the room agree.
+  void followSelectedPids(void (MonitorWindows::*open)(std::int32_t, std::int32_t),
+                          std::int32_t interval);
+  bool confirmFollowing(std::size_t windows);
   StripedTableView* stripedTable() const { return static_cast<StripedTableView*>(table()); }
 
   VQTarvMainWindowInfoSynch* fInfoSynchronizer = nullptr;

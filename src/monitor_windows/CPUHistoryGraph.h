@@ -49,6 +49,9 @@ class CPUHistoryGraph {
   /// negative, and the own part at `value` times `share`, when that is wanted and not negative.
   void DrawRightmostPixel(double value, double share);
 
+  /// Fills the picture with the background.
+  void Erase() { mBitmap.Erase(mColours.background); }
+
   /// Draws all columns again, the oldest first. Own parts lie at the value times the stored own
   /// part here, lower than in the running graph.
   void RedrawEntireWindow();

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <set>
-#include <thread>
 #include <utility>
 
 #include "consolidator/PI_Consolidator.h"
@@ -12,6 +11,7 @@
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
+#include "platform/HostStatistics.h"
 #include "platform/Machine.h"
 
 namespace lurkwell {
@@ -22,11 +22,8 @@ constexpr WindowRect kUsualBounds{300, 300, 450, 370};
 constexpr int kLargestSide = 10'000;
 constexpr QSize kSmallestSize(60, 30);
 
-std::set<CPUHistoryWindowInformationClient*> gOpenWindows;
-
-int MPProcessors() {
-  return static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
-}
+/// Those whose windows are there or still to come.
+std::set<CPUHistoryWindowInformationClient*> gClients;
 
 double SecondsBetween(TimeValue from, TimeValue to) {
   return static_cast<double>(to.seconds - from.seconds) +
@@ -66,14 +63,18 @@ CPUHistoryWindowInformationClient::CPUHistoryWindowInformationClient(const Uuid*
       mPid(pid),
       mBounds(rect),
       mPreferences(CPUHistoryPreferences::Read()),
-      mGraph(rect.right - rect.left, rect.bottom - rect.top, MPProcessors()) {
+      mGraph(rect.right - rect.left, rect.bottom - rect.top,
+             TheMachine().hostStatistics.Processors()) {
   mPreferences.trackDescendants = trackDescendants;
   mGraph.SetRelative(mPreferences.useRelative);
   mGraph.SetTrackDescendants(trackDescendants);
   ApplyColours();
+  mGraph.Erase();
+  gClients.insert(this);
 }
 
 CPUHistoryWindowInformationClient::~CPUHistoryWindowInformationClient() {
+  gClients.erase(this);
   RemoveProcessInformationClient(this);
   if (Window() != nullptr) DisposeOfWindows();
 }
@@ -121,9 +122,11 @@ void CPUHistoryWindowInformationClient::NotifyPidHasBeenRemoved(int pid) {
     DisposeOfWindows();
   }
   mProcessGone = true;
+  gClients.erase(this);
 }
 
 void CPUHistoryWindowInformationClient::RememberPlace() {
+  if (Window() == nullptr) return;
   const auto bounds = ContentBounds();
   if (std::exchange(mRememberedPlace, bounds) != bounds)
     SetPersistentClientInfo(kCPUHistoryWindowKind, nullptr, nullptr, &bounds, &Identifier());
@@ -160,7 +163,7 @@ double CPUHistoryWindowInformationClient::TakeDescendantsSeconds() {
     const auto active = ActiveTimeOf(pid);
     const auto before = mDescendants.find(pid);
     // What a process had used before anybody looked is no part of this turn; what one has used that
-    // was born since then is.
+    // was born since then is. A figure that came before it was asked for may be an old one.
     bool unread = !mDescendantsKnown;
     if (before != mDescendants.end()) {
       if (!before->second.unread) seconds += SecondsBetween(before->second.activeTime, active);
@@ -168,7 +171,7 @@ double CPUHistoryWindowInformationClient::TakeDescendantsSeconds() {
     } else if (mDescendantsKnown) {
       seconds += SecondsBetween({}, active);
     }
-    descendants.emplace(pid, Descendant{active, unread && active.IsZero()});
+    descendants.emplace(pid, Descendant{active, unread});
   }
   mDescendants = std::move(descendants);
   mDescendantsKnown = true;
@@ -182,10 +185,9 @@ void CPUHistoryWindowInformationClient::CreateMacWindow() {
   CreateWindow(&mBounds, QString::number(mPid),
                kWindowCloseBoxAttribute | kWindowSideTitlebarAttribute,
                kWindowHideOnSuspendAttribute);
-  gOpenWindows.insert(this);
   mRememberedPlace = ContentBounds();
   Window()->SetPainter([this](QPainter& painter) { PaintGraph(painter); });
-  if (!EnsureThatCocoaWindowIsFrontmostIfPossible()) Window()->raise();
+  if (!EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange::kByItself)) Window()->raise();
   MarkKind();
 }
 
@@ -219,7 +221,6 @@ void CPUHistoryWindowInformationClient::DisposeOfWindows() {
   Require(mCurrentPercentageWindow != nullptr, kHistoryUnit, "mCurrentPercentageWindow != NULL");
   mNameWindow = mHighWaterMarkWindow = mIconWindow = mCurrentPercentageWindow = nullptr;
   DisposeWindow();
-  gOpenWindows.erase(this);
 }
 
 void CPUHistoryWindowInformationClient::MarkKind() {
@@ -263,6 +264,7 @@ void CPUHistoryWindowInformationClient::NotifyPreferencesHaveBeenUpdated() {
   if (mHighWaterMarkWindow != nullptr)
     mHighWaterMarkWindow->SetColours(mPreferences.background, mHighWaterMarkWindow->TextColour());
   mGraph.MarkLabelsDirty();
+  mGraph.Erase();
   RedrawEntireWindow();
 }
 
@@ -285,7 +287,8 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
     if (!hasName || !hasKind) return;
   }
   auto bounds = rect != nullptr ? Sound(*rect) : kUsualBounds;
-  if (rect == nullptr) LocateRectangleForNewWindow(&bounds);
+  const QSize size(bounds.right - bounds.left, bounds.bottom - bounds.top);
+  if (rect == nullptr && !AreaForNewWindow(size).isNull()) LocateRectangleForNewWindow(&bounds);
   auto* client = new CPUHistoryWindowInformationClient(uuid, interval, pid, bounds,
                                                        CPUHistoryTracksDescendants());
   if (uuid == nullptr)
@@ -294,11 +297,17 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
 }
 
 int CountOpenCPUHistoryWindows() {
-  return static_cast<int>(gOpenWindows.size());
+  return static_cast<int>(gClients.size());
+}
+
+bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) {
+  return std::ranges::any_of(gClients, [&](const auto* client) {
+    return client->Pid() == pid && client->Identifier() == uuid;
+  });
 }
 
 void RememberCPUHistoryPlaces() {
-  for (auto* client : gOpenWindows) client->RememberPlace();
+  for (auto* client : gClients) client->RememberPlace();
 }
 
 }  // namespace lurkwell

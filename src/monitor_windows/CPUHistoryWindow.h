@@ -35,6 +35,8 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "CPUHistoryWindowInformationClient"; }
 
+  std::int32_t Pid() const { return mPid; }
+
   /// Writes the window's place into its record when it has been moved since the last time.
   void RememberPlace();
 
@@ -73,7 +75,7 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   TimeValue mLastActiveTime;
   struct Descendant {
     TimeValue activeTime;  ///< at the last update
-    bool unread = false;   ///< it was there before the window, and no figure has come yet
+    bool unread = false;   ///< it was there before the window, and no figure was asked for yet
   };
   std::map<std::int32_t, Descendant> mDescendants;
   bool mDescendantsKnown = false;
@@ -94,8 +96,10 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
 void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
                             const WindowRect* rect);
 
-/// How many of them are on the screen.
+/// How many of them are on the screen or about to be, for processes that have not ended.
 int CountOpenCPUHistoryWindows();
+/// Whether one of these is that process's window of that identifier.
+bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid);
 void RememberCPUHistoryPlaces();
 
 }  // namespace lurkwell

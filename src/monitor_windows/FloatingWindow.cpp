@@ -100,6 +100,12 @@ bool FloatingWindow::event(QEvent* event) {
     case QEvent::Move:
       Tell(kEventWindowBoundsChanged);
       break;
+    case QEvent::Resize: {
+      const int bar = TitlebarWidth(mAttributes);
+      mContent->setGeometry(bar, 0, width() - bar, height());
+      if (isVisible()) Tell(kEventWindowBoundsChanged);
+      break;
+    }
     case QEvent::ScreenChangeInternal:
       Tell(kEventWindowUpdate);
       break;

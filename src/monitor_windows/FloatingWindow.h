@@ -42,6 +42,7 @@ enum WindowAttributes : std::uint32_t {
 
 /// A small window above all others that never takes the keyboard. It is moved by dragging it
 /// anywhere; with a side title bar it has a narrow strip at the left, in which the close box lies.
+/// Its size is fixed as long as its owner sets no other bounds for it; the content follows.
 /// Everything that the toolkit tells it leaves here as event kinds. Main thread only.
 class FloatingWindow final : public QWidget {
   Q_OBJECT

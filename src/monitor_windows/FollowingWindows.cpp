@@ -1,5 +1,6 @@
 #include "monitor_windows/FollowingWindows.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "monitor_windows/LoggingWindowUI.h"
@@ -34,6 +35,18 @@ void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t p
 
 int FollowingWindows::CountOpenWindows() const {
   return LoggingWindowUI::CountOpenWindows() + mHistories.countOpen();
+}
+
+int FollowingWindows::CountRoom() const {
+  return std::max(0, kMostOpenWindows - CountOpenWindows());
+}
+
+bool FollowingWindows::IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) const {
+  return mHistories.isOpen(uuid, pid);
+}
+
+bool FollowingWindows::IsLoggingWindowOpen(const Uuid& uuid, std::int32_t pid) const {
+  return LoggingWindowUI::IsOpen(uuid, pid);
 }
 
 void FollowingWindows::RememberPlaces() {

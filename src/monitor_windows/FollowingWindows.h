@@ -19,6 +19,7 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
                        const WindowRect* rect)>
         create;
     std::function<int()> countOpen;
+    std::function<bool(const Uuid& uuid, std::int32_t pid)> isOpen;
     std::function<void()> rememberPlaces;
   };
 
@@ -33,6 +34,9 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
   void CreateLoggingWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
                            const WindowRect* rect, std::int32_t prefsIndex) override;
   int CountOpenWindows() const override;
+  int CountRoom() const override;
+  bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) const override;
+  bool IsLoggingWindowOpen(const Uuid& uuid, std::int32_t pid) const override;
   void RememberPlaces() override;
 
  private:

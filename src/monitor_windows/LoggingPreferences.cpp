@@ -72,16 +72,12 @@ std::optional<int> ReadColumnWidth(std::int32_t prefsIndex, LoggingColumn column
 }
 
 void SaveLoggingSettings(std::int32_t prefsIndex, const LoggingSwitches& switches, bool logToFile,
-                         std::int32_t interval) {
-  for (const auto& column : kColumns)
-    WriteRememberedInt(kLoggingWindowKind, prefsIndex, column.own,
-                       switches.*column.isShown ? 1 : 0);
-  WriteRememberedInt(kLoggingWindowKind, prefsIndex, kLogToFileKey, logToFile ? 1 : 0);
-  WriteRememberedInt(kLoggingWindowKind, prefsIndex, kIntervalKey, interval);
-}
-
-void SaveColumnWidth(std::int32_t prefsIndex, LoggingColumn column, int width) {
-  WriteRememberedDouble(kLoggingWindowKind, prefsIndex, kColumns[column].width, width);
+                         std::int32_t interval, std::span<const LoggingColumnWidth> widths) {
+  RememberedChanges changes(kLoggingWindowKind, prefsIndex);
+  for (const auto& column : kColumns) changes.SetInt(column.own, switches.*column.isShown ? 1 : 0);
+  changes.SetInt(kLogToFileKey, logToFile ? 1 : 0);
+  changes.SetInt(kIntervalKey, interval);
+  for (const auto& [column, width] : widths) changes.SetDouble(kColumns[column].width, width);
 }
 
 bool IsShown(const LoggingSwitches& switches, LoggingColumn column) {

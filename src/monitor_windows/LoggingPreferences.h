@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 #include "monitor_windows/LoggingRecord.h"
 
@@ -16,9 +17,12 @@ std::int32_t ReadLoggingInterval(std::int32_t prefsIndex, std::int32_t fallback)
 /// In points; nothing when none is remembered.
 std::optional<int> ReadColumnWidth(std::int32_t prefsIndex, LoggingColumn column);
 
+struct LoggingColumnWidth {
+  LoggingColumn column;
+  int width;
+};
 void SaveLoggingSettings(std::int32_t prefsIndex, const LoggingSwitches& switches, bool logToFile,
-                         std::int32_t interval);
-void SaveColumnWidth(std::int32_t prefsIndex, LoggingColumn column, int width);
+                         std::int32_t interval, std::span<const LoggingColumnWidth> widths);
 
 bool IsShown(const LoggingSwitches& switches, LoggingColumn column);
 /// The key of a column's cells: "∆" in Mac Roman begins those of changes.

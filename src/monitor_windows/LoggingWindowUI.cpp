@@ -225,6 +225,12 @@ WindowRect LoggingWindowUI::frame() const {
   return {place.x(), place.y(), place.x() + fWindow->width(), place.y() + fWindow->height()};
 }
 
+bool LoggingWindowUI::IsOpen(const Uuid& uuid, std::int32_t pid) {
+  return std::ranges::any_of(sOpenWindows, [&](const auto* log) {
+    return log->logs(pid) && log->mPIC != nullptr && log->mPIC->Identifier() == uuid;
+  });
+}
+
 void LoggingWindowUI::RememberPlaces() {
   for (auto* log : sOpenWindows) {
     const auto place = log->frame();
@@ -307,10 +313,11 @@ void LoggingWindowUI::processHasEnded() {
   say(LocalizedString(index < 0 ? "logging_note_ended" : "logging_note_ended_remembered"));
   if (index < 0) return;
   mStateInfo.prefsIndex = index;
-  SaveLoggingSettings(index, mStateInfo, mStateInfo.logToFile,
-                      static_cast<std::int32_t>(mStateInfo.millisecondsInterval));
+  std::vector<LoggingColumnWidth> widths;
   for (std::size_t column = 0; column < fColumns.size(); ++column)
-    SaveColumnWidth(index, fColumns[column], fTable->columnWidth(static_cast<int>(column)));
+    widths.push_back({fColumns[column], fTable->columnWidth(static_cast<int>(column))});
+  SaveLoggingSettings(index, mStateInfo, mStateInfo.logToFile,
+                      static_cast<std::int32_t>(mStateInfo.millisecondsInterval), widths);
 }
 
 void LoggingWindowUI::windowWillClose() {

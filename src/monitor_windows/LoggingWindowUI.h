@@ -56,6 +56,8 @@ class LoggingWindowUI final : public vqTableController {
                                                           std::int32_t somePrefIndex);
   /// How many there are.
   static int CountOpenWindows() { return static_cast<int>(sOpenWindows.size()); }
+  /// Whether one of them logs that process, which has not ended, under that identifier.
+  static bool IsOpen(const Uuid& uuid, std::int32_t pid);
   /// Has all of them write their places into their records, as far as they were moved.
   static void RememberPlaces();
 

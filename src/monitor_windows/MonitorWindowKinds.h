@@ -11,6 +11,9 @@ namespace lurkwell {
 /// thread only.
 class MonitorWindowKinds {
  public:
+  /// Nobody opens more than so many of both kinds together.
+  static constexpr int kMostOpenWindows = 200;
+
   virtual ~MonitorWindowKinds() = default;
 
   /// `interval` in milliseconds. Without `uuid` the window is a new one, which is remembered from
@@ -22,6 +25,10 @@ class MonitorWindowKinds {
                                    const WindowRect* rect, std::int32_t prefsIndex) = 0;
   /// How many there are of both kinds at present.
   virtual int CountOpenWindows() const = 0;
+  /// Whether the process, which has not ended as far as the window knows, has its window of that
+  /// identifier.
+  virtual bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) const = 0;
+  virtual bool IsLoggingWindowOpen(const Uuid& uuid, std::int32_t pid) const = 0;
   /// Writes the places of windows that were moved. Their processes may have ended unheard: windows
   /// hear of it at their own intervals, and a program may be back before that.
   virtual void RememberPlaces() = 0;

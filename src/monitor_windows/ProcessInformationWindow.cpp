@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include "main_window/FrontmostWindow.h"
+#include "monitor_windows/ScreenPlacement.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -208,9 +209,11 @@ void LocateRectangleForNewWindow(WindowRect* r) {
   Require(r->bottom >= r->top, kWindowUnit, "r->bottom >= r->top");
   const auto* screen = QGuiApplication::primaryScreen();
   Require(screen != nullptr, kWindowUnit, "status == noErr");
-  const auto available = screen->availableGeometry();
   const int width = r->right - r->left;
   const int height = r->bottom - r->top;
+  // A window that the whole screen has no room for is its maker's fault; a panel is not.
+  auto available = AreaForNewWindow({width, height});
+  if (available.isNull()) available = screen->geometry();
   Require(width < available.width(), kWindowUnit,
           "width < (availableRect.right - availableRect.left)");
   Require(height < available.height(), kWindowUnit,

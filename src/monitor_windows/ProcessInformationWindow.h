@@ -100,8 +100,9 @@ class ProcessInformationWindow {
 };
 
 /// Moves a rectangle to where a new window goes: to the right of and below the last one, and back
-/// to the corner of the main screen's free area when it would leave it. Fatal assertions: no
-/// rectangle, one that is inverted, no screen, a window that is not smaller than the free area.
+/// to the corner of the main screen's free area when it would leave it; of the whole screen, when
+/// the free area is too small for it. Fatal assertions: no rectangle, one that is inverted, no
+/// screen, a window that is not smaller than the screen.
 void LocateRectangleForNewWindow(WindowRect* r);
 
 }  // namespace lurkwell

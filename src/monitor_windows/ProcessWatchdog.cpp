@@ -63,22 +63,27 @@ void ProcessWatchdog::OpenWindowsOf(int pid) {
   WindowRect rect;
   Uuid uuid;
   std::int32_t index = 0;
-  while (CheckClientKindForNewPid(kCPUHistoryWindowKind, pid, &index, &rect, &uuid) && MayOpen()) {
+  while (CheckClientKindForNewPid(kCPUHistoryWindowKind, pid, &index, &rect, &uuid)) {
+    // A process that changes its name and changes it back has kept its windows.
+    if (mKinds.IsCPUHistoryWindowOpen(uuid, pid)) continue;
+    if (!MayOpen()) break;
     const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
     mKinds.CreateCPUHistoryWindow(interval, pid, &uuid, &rect);
   }
   index = 0;
-  while (CheckClientKindForNewPid(kLoggingWindowKind, pid, &index, &rect, &uuid) && MayOpen()) {
+  while (CheckClientKindForNewPid(kLoggingWindowKind, pid, &index, &rect, &uuid)) {
+    if (mKinds.IsLoggingWindowOpen(uuid, pid)) continue;
+    if (!MayOpen()) break;
     const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
     mKinds.CreateLoggingWindow(interval, pid, &uuid, &rect, index - 1);
   }
 }
 
 bool ProcessWatchdog::MayOpen() {
-  if (mKinds.CountOpenWindows() < kMostOpenWindows) return true;
+  if (mKinds.CountOpenWindows() < MonitorWindowKinds::kMostOpenWindows) return true;
   if (!mHasSaidTooMany)
     std::fprintf(stderr, "lurkwell: %d windows are open; remembered ones stay closed\n",
-                 kMostOpenWindows);
+                 MonitorWindowKinds::kMostOpenWindows);
   mHasSaidTooMany = true;
   return false;
 }

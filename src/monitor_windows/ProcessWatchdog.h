@@ -13,9 +13,6 @@ namespace lurkwell {
 /// client, at shutdown.
 class ProcessWatchdog final : public ProcessInformationClient {
  public:
-  /// No remembered window is opened while so many are open.
-  static constexpr int kMostOpenWindows = 200;
-
   /// `interval` in milliseconds; `kinds` outlives this.
   ProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kinds);
 

@@ -4,7 +4,6 @@
 
 #include "platform/Assertion.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
 namespace {
@@ -27,19 +26,6 @@ bool HasUuid(const char* arrayName, std::int32_t index, std::string_view uuid) {
   return text == uuid;
 }
 
-/// Another instance may have made the array shorter since the index was found.
-bool CanBeWritten(const char* arrayName, std::int32_t index) {
-  return index >= 0 && index <= GetPrefArrayCount(arrayName);
-}
-
-void WriteText(const char* arrayName, std::int32_t index, const char* key, const char* value) {
-  if (!CanBeWritten(arrayName, index)) return;
-  char before[kRememberedTextSize];
-  ReadRememberedText(arrayName, index, key, before);
-  if (*value == '\0' || std::string_view(before) != value)
-    SetPrefArrayString(arrayName, index, key, value);
-}
-
 }  // namespace
 
 std::int32_t GetAppropriateIndexForUUID(const char* arrayName, const Uuid* uuid) {
@@ -59,13 +45,13 @@ std::int32_t SetPersistentClientInfo(const char* clientKind, const char* process
   const auto index = GetAppropriateIndexForUUID(clientKind, uuid);
   const bool complete = processName != nullptr && processKind != nullptr && rect != nullptr;
   if (!complete && index >= GetPrefArrayCount(clientKind)) return -1;
-  const PreferenceBatch batch;
-  if (processName != nullptr) WriteText(clientKind, index, "PROCESS_NAME", processName);
-  if (processKind != nullptr) WriteText(clientKind, index, "PROCESS_KIND", processKind);
+  const auto text = uuid->Text();
+  RememberedChanges changes(clientKind, index);
+  if (processName != nullptr) changes.SetText("PROCESS_NAME", processName);
+  if (processKind != nullptr) changes.SetText("PROCESS_KIND", processKind);
   if (rect != nullptr)
-    for (const auto& field : kRectFields)
-      WriteRememberedInt(clientKind, index, field.key, rect->*field.value);
-  WriteText(clientKind, index, kUuidKey, uuid->Text().c_str());
+    for (const auto& field : kRectFields) changes.SetInt(field.key, rect->*field.value);
+  changes.SetText(kUuidKey, text.c_str());
   return index;
 }
 
@@ -97,21 +83,33 @@ WindowRect ReadRememberedRect(const char* arrayName, std::int32_t index) {
   return rect;
 }
 
-void WriteRememberedInt(const char* arrayName, std::int32_t index, const char* key,
-                        std::int32_t value) {
-  if (!CanBeWritten(arrayName, index)) return;
-  if (!IsPrefArrayValuePresent(arrayName, index, key) ||
-      GetPrefArrayInt(arrayName, index, key, false, 0) != value)
-    SetPrefArrayInt(arrayName, index, key, value);
+RememberedChanges::RememberedChanges(const char* arrayName, std::int32_t index)
+    : mArrayName(arrayName), mIndex(index) {}
+
+RememberedChanges::~RememberedChanges() {
+  // Another instance may have made the array shorter since the index was found.
+  const bool canBeWritten = mIndex >= 0 && mIndex <= GetPrefArrayCount(mArrayName);
+  if (canBeWritten && !mFields.empty()) SetPrefArrayFields(mArrayName, mIndex, mFields);
 }
 
-void WriteRememberedDouble(const char* arrayName, std::int32_t index, const char* key,
-                           double value) {
-  if (!CanBeWritten(arrayName, index)) return;
+void RememberedChanges::SetInt(const char* key, std::int32_t value) {
+  if (!IsPrefArrayValuePresent(mArrayName, mIndex, key) ||
+      GetPrefArrayInt(mArrayName, mIndex, key, false, 0) != value)
+    mFields.push_back({key, value});
+}
+
+void RememberedChanges::SetDouble(const char* key, double value) {
   constexpr double kSame = 0.001;
-  const bool isThere = IsPrefArrayValuePresent(arrayName, index, key);
-  const double change = isThere ? GetPrefArrayDouble(arrayName, index, key, false, 0) - value : 1.0;
-  if (!(change > -kSame && change < kSame)) SetPrefArrayDouble(arrayName, index, key, value);
+  const bool isThere = IsPrefArrayValuePresent(mArrayName, mIndex, key);
+  const double change =
+      isThere ? GetPrefArrayDouble(mArrayName, mIndex, key, false, 0) - value : 1.0;
+  if (!(change > -kSame && change < kSame)) mFields.push_back({key, value});
+}
+
+void RememberedChanges::SetText(const char* key, const char* value) {
+  char before[kRememberedTextSize];
+  ReadRememberedText(mArrayName, mIndex, key, before);
+  if (*value == '\0' || std::string_view(before) != value) mFields.push_back({key, value});
 }
 
 }  // namespace lurkwell

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "platform/Uuid.h"
+#include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
 
@@ -46,10 +48,23 @@ std::int32_t ReadRememberedInt(const char* arrayName, std::int32_t index, const 
                                std::int32_t fallback);
 WindowRect ReadRememberedRect(const char* arrayName, std::int32_t index);
 
-/// Every write goes to disk, so what is so already is not written.
-void WriteRememberedInt(const char* arrayName, std::int32_t index, const char* key,
-                        std::int32_t value);
-void WriteRememberedDouble(const char* arrayName, std::int32_t index, const char* key,
-                           double value);
+/// Collects values for one element and writes them together, once, when it ends. What is so already
+/// is not written, since every write goes to disk. Texts have to live as long as this.
+class RememberedChanges {
+ public:
+  RememberedChanges(const char* arrayName, std::int32_t index);
+  ~RememberedChanges();
+  RememberedChanges(const RememberedChanges&) = delete;
+  RememberedChanges& operator=(const RememberedChanges&) = delete;
+
+  void SetInt(const char* key, std::int32_t value);
+  void SetDouble(const char* key, double value);
+  void SetText(const char* key, const char* value);
+
+ private:
+  const char* mArrayName;
+  std::int32_t mIndex;
+  std::vector<PrefArrayField> mFields;
+};
 
 }  // namespace lurkwell

@@ -30,9 +30,22 @@ bool CanBeGrasped(const WindowRect& place) {
 
 }  // namespace
 
+QRect AreaWithRoom(const QRect& free, const QRect& screen, QSize size) {
+  for (const auto& area : {free, screen})
+    if (size.width() < area.width() && size.height() < area.height()) return area;
+  return {};
+}
+
+QRect AreaForNewWindow(QSize size) {
+  const auto* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {};
+  return AreaWithRoom(screen->availableGeometry(), screen->geometry(), size);
+}
+
 QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
   const auto* screen = QGuiApplication::screenAt({remembered.left, remembered.top});
   if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {QPoint(remembered.left, remembered.top), smallest};
   const QRect free = screen->availableGeometry();
   const int width =
       SpanWithin(std::int64_t{remembered.right} - remembered.left, smallest.width(), free.width());
@@ -47,7 +60,8 @@ QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
 }
 
 QPoint CascadeTopLeftFromPoint(QPoint& point, QSize size) {
-  const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+  const auto* screen = QGuiApplication::primaryScreen();
+  const QRect free = screen != nullptr ? screen->availableGeometry() : QRect();
   const QPoint first = free.topLeft() + QPoint(kCascadeStep, kCascadeStep);
   const bool fits = !point.isNull() && free.contains(QRect(point, size));
   const QPoint place = fits ? point : first;

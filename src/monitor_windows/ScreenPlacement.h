@@ -10,8 +10,16 @@ namespace lurkwell {
 
 /// Where windows go. Coordinates are those of the whole desktop; main thread, with a desktop.
 
+/// Where there is room for a new window of that size: the main screen without panels and the like,
+/// or all of it when those leave too little. Null when that is too small as well, or there is no
+/// screen.
+QRect AreaForNewWindow(QSize size);
+/// The same for a screen of which `free` is not taken.
+QRect AreaWithRoom(const QRect& free, const QRect& screen, QSize size);
+
 /// The place of a remembered window, made to fit: no smaller than `smallest`, no larger than its
-/// screen, and moved as little as needed to lie on one. It stays as it is when it does.
+/// screen, and moved as little as needed to lie on one. It stays as it is when it
+/// does; without any screen it keeps its corner at least.
 QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest);
 
 /// Where a new window of that size goes when `point` is next in the cascade; `point` moves on. The

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
+#include <variant>
 
 /// Every setting of the program is read and written here, in the installed machine's preference
 /// domain. A value is a number or a text under a key, or an array of dictionaries of such values
@@ -71,6 +73,15 @@ void SetPrefArrayDouble(const char* arrayKey, std::int32_t index, const char* di
                         double prefValue);
 void SetPrefArrayString(const char* arrayKey, std::int32_t index, const char* dictKey,
                         const char* prefValue);
+
+struct PrefArrayField {
+  const char* dictKey;
+  std::variant<std::int32_t, double, const char*> value;
+};
+/// Stores several values of one element at once, which costs one copy of the array instead of one
+/// for each. Fails as the calls for one value do.
+void SetPrefArrayFields(const char* arrayKey, std::int32_t index,
+                        std::span<const PrefArrayField> fields);
 
 /// True when the element is there and holds anything under the dictionary key. Never fails. A
 /// caller that reads what another run may have left incomplete asks this before the two getters

@@ -61,6 +61,14 @@ void StoreField(const char* arrayKey, std::int32_t index, const char* dictKey,
   Store(arrayKey, copy.Take());
 }
 
+PreferenceScalar Scalar(const PrefArrayField& field) {
+  if (const auto* number = std::get_if<std::int32_t>(&field.value)) return std::int64_t{*number};
+  if (const auto* real = std::get_if<double>(&field.value)) return *real;
+  const char* prefValue = std::get<const char*>(field.value);
+  Require(prefValue != nullptr, kPreferencesUnit, "prefValue != NULL");
+  return Utf8FromMacRoman(prefValue);
+}
+
 // One value of one element, null when the element lacks it.
 const PreferenceScalar* Field(const char* arrayKey, std::int32_t index, const char* dictKey) {
   const std::int32_t count = GetPrefArrayCount(arrayKey);
@@ -124,6 +132,21 @@ void SetPrefArrayString(const char* arrayKey, std::int32_t index, const char* di
                         const char* prefValue) {
   Require(prefValue != nullptr, kPreferencesUnit, "prefValue != NULL");
   StoreField(arrayKey, index, dictKey, Utf8FromMacRoman(prefValue));
+}
+
+void SetPrefArrayFields(const char* arrayKey, std::int32_t index,
+                        std::span<const PrefArrayField> fields) {
+  const std::int32_t count = GetPrefArrayCount(arrayKey);
+  Require((index >= 0) && (index <= count), kPreferencesUnit, "(index >= 0) && (index <= count)");
+  const PreferenceArray* stored = StoredArray(arrayKey);
+  PreferenceArray array = stored != nullptr ? *stored : PreferenceArray{};
+  if (index == count) array.emplace_back();
+  auto& dict = array[static_cast<std::size_t>(index)];
+  for (const auto& field : fields) {
+    Require(field.dictKey != nullptr, kPreferencesUnit, "dictPrefKey != NULL");
+    dict.insert_or_assign(std::string(PreferenceKey(field.dictKey).Text()), Scalar(field));
+  }
+  Store(arrayKey, std::move(array));
 }
 
 bool IsPrefArrayValuePresent(const char* arrayKey, std::int32_t index, const char* dictKey) {

@@ -136,7 +136,7 @@ void AllSettings::selectionHasChanged() {
 }
 
 void AllSettings::resetSelection() {
-  for (const int row : selectedRows()) fModel->Reset(row);
+  fModel->Reset(selectedRows());
 }
 
 }  // namespace lurkwell

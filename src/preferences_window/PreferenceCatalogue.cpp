@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "animated_view/QuintessentialGlobals.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -46,6 +47,10 @@ constexpr PreferenceEntry Component(const char* key, double defaultValue,
 constexpr PreferenceEntry Text(const char* key, PreferenceEffect effect) {
   return {key, kText, kNone, 0, 0, effect, kNobody};
 }
+constexpr PreferenceEntry Record(const char* key, double defaultValue,
+                                 PreferenceEffect effect = kNextStart) {
+  return {key, kRecord, defaultValue, defaultValue, defaultValue, effect, kNobody};
+}
 constexpr PreferenceEntry Array(const char* key) {
   return {key, kArray, kNone, 0, 0, kNextStart, kNobody};
 }
@@ -54,7 +59,7 @@ constexpr PreferenceEntry kCatalogue[] = {
     Number("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", 0, 0, 4, kAtOnce, kAll),
     Number("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", 0, 0, 2, kAtOnce, kAll),
     Switch("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", false, kNextStart),
-    Number("PREFERENCES_UI_DEFAULT_TAB", 0, 0, 4, kNewWindows),
+    Record("PREFERENCES_UI_DEFAULT_TAB", 0, kNewWindows),
 
     Interval("MAIN_WINDOW_INTERVAL", 2000, kAtOnce, kTable),
     Switch("MEM_GRAPH_DRAW_VSZ", false, kAtOnce, kTable),
@@ -64,12 +69,12 @@ constexpr PreferenceEntry kCatalogue[] = {
     Real("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_FILTER", 0.2, 0, 1, kNextStart),
     Number("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_RED", 20, 0, kMostInt, kNextStart),
     Number("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_YELLOW", 1, 0, kMostInt, kNextStart),
-    Switch("DEFAULT_SHOW_PROCESS_LIST_WINDOW", true, kNextStart),
-    Text("MAIN_WINDOW_FRAME", kNextStart),
+    Record("DEFAULT_SHOW_PROCESS_LIST_WINDOW", 1),
+    Record("MAIN_WINDOW_FRAME", kNone),
     Text("vqMainTableToolbarIdentifierTarvikTemp14_ITEMS", kNextStart),
     Number("vqMainTableToolbarIdentifierTarvikTemp14_DISPLAY_MODE", 0, 0, 3, kNextStart),
     Switch("vqMainTableToolbarIdentifierTarvikTemp14_SHOWN", true, kNextStart),
-    Number("MAIN_WINDOW_SORT_COLUMN_INDEX", 1, 0, kMostInt, kNextStart),
+    Record("MAIN_WINDOW_SORT_COLUMN_INDEX", 1),
     Array("MAIN_WINDOW_COLUMNS"),
     Number("HAS_RUN_TWO_POINT_THREE", kNone, 0, 1, kNextStart),
     Number("HAS_RUN_TWO_POINT_FOUR", kNone, 0, 1, kNextStart),
@@ -136,24 +141,27 @@ constexpr PreferenceEntry kCatalogue[] = {
     Real("QUINT_FULLSCREEN_UNDERLAY_ALPHA", 0.25, 0, 1, kAtOnce, kAnimatedView),
     Real("HEARTQUIVA_ICON_SCALE_FACTOR", 150, 1, 2000, kNextStart),
     Real("QUIVA_FULLSCREEN_EXTRA_SCALE_FACTOR", 1.5, 0.1, 10, kNextStart),
-    Number("QUINT_MAX_ITERATIONS_TO_STABILIZE_WHEN_FIRST_SHOWING", 10, 0, 1000, kNextStart),
+    Number("QUINT_MAX_ITERATIONS_TO_STABILIZE_WHEN_FIRST_SHOWING", 10, 0, kMostStabilizingSteps,
+           kNextStart),
     Real("QUINT_TARVIK_FACTOR", kNone, -1000, 1000, kNextStart),
     Number("FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE", 98, 0, 127, kNextStart),
     Switch("QUIVA_CHECK_QUARTZ_EXTREME", false, kNextStart),
     Switch("QUIVA_CHECK_COMPOSITOR", false, kNextStart),
-    Text("QUIVA_WINDOW_FRAME", kNextStart),
-    Switch("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW", false, kNextStart),
-    Switch("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", false, kNextStart),
+    Record("QUIVA_WINDOW_FRAME", kNone),
+    Record("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW", 0),
+    Record("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0),
 
     Real("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", 0.1, 0, 1, kNextStart),
     Real("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", 0.05, 0, 1, kAtOnce),
+    Interval("CLASSIC_WATCHDOG_INTERVAL", 5000, kNextStart),
+    Number("CLASSIC_NUB_CONTROL_DEFAULT_SLEEP_TIX", 120, 6, 216'000, kNextStart),
 
     Switch("QUBS_DEBUGGING_AND_TESTING", false, kNextStart),
     Interval("QUBS_DEBUGGING_SWI_INTERVAL", 500, kNextStart),
-    Number("QUBS_DEBUGGING_WINDOW_LEFT", 100, kLeastInt, kMostInt, kNextStart),
-    Number("QUBS_DEBUGGING_WINDOW_TOP", 300, kLeastInt, kMostInt, kNextStart),
-    Number("QUBS_DEBUGGING_WINDOW_RIGHT", 290, kLeastInt, kMostInt, kNextStart),
-    Number("QUBS_DEBUGGING_WINDOW_BOTTOM", 350, kLeastInt, kMostInt, kNextStart),
+    Record("QUBS_DEBUGGING_WINDOW_LEFT", 100),
+    Record("QUBS_DEBUGGING_WINDOW_TOP", 300),
+    Record("QUBS_DEBUGGING_WINDOW_RIGHT", 290),
+    Record("QUBS_DEBUGGING_WINDOW_BOTTOM", 350),
 };
 
 }  // namespace

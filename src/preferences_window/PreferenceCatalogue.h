@@ -15,7 +15,8 @@ enum class PreferenceKind : std::uint8_t {
   kColour,    ///< one component of three, 0 to 65535
   kReal,
   kText,
-  kArray,  ///< the program's own records, an element each
+  kRecord,  ///< a number or a text that the program writes by itself
+  kArray,   ///< the program's own records, an element each
 };
 
 enum class PreferenceEffect : std::uint8_t {
@@ -39,6 +40,8 @@ struct PreferenceEntry {
   bool HasDefault() const { return defaultValue == defaultValue; }
   bool IsInteger() const { return kind <= PreferenceKind::kColour; }
   bool IsNumber() const { return kind <= PreferenceKind::kReal; }
+  /// What the user would change here, the program would overwrite.
+  bool IsProgramsOwn() const { return kind >= PreferenceKind::kRecord; }
 };
 
 /// Every key there is, by subject. Any thread.

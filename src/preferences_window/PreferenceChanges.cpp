@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
+#include <string>
 
 #include "consolidator/ProcessInformationClient.h"
 #include "preferences/PreferenceBatch.h"
@@ -25,6 +27,16 @@ void StoreNumber(const PreferenceEntry& entry, double value) {
     SetPrefInt(entry.key, static_cast<std::int32_t>(value));
   else
     SetPrefDouble(entry.key, value);
+}
+
+/// Type names of clients, each once.
+std::set<std::string> ConcernedBy(std::span<const PreferenceEntry* const> entries) {
+  std::set<std::string> names;
+  for (const auto* entry : entries)
+    if (entry->told != nullptr) names.insert(entry->told);
+  // All of them are nobody twice.
+  if (names.contains("*")) names = {"*"};
+  return names;
 }
 
 /// As it is typed: no exponents where a plain number will do.
@@ -86,12 +98,17 @@ bool ChangeText(const PreferenceEntry& entry, const QString& text) {
   return true;
 }
 
-void ResetPreference(const PreferenceEntry& entry) {
+void ResetPreferences(std::span<const PreferenceEntry* const> entries) {
   const PreferenceBatch batch;
-  if (entry.HasDefault() && entry.IsNumber()) StoreNumber(entry, entry.defaultValue);
-  if (entry.told != nullptr && entry.HasDefault()) NotifyOf(entry);
-  RemovePref(entry.key);
-  if (!entry.HasDefault()) NotifyOf(entry);
+  for (const auto* entry : entries) {
+    if (entry->HasDefault() && entry->IsNumber())
+      StoreNumber(*entry, entry->defaultValue);
+    else
+      RemovePref(entry->key);
+  }
+  for (const auto& name : ConcernedBy(entries))
+    ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(name.c_str());
+  for (const auto* entry : entries) RemovePref(entry->key);
 }
 
 }  // namespace lurkwell

@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 #include <optional>
+#include <span>
 
 #include "preferences_window/PreferenceCatalogue.h"
 
@@ -36,8 +37,8 @@ void ChangeNumber(const PreferenceEntry& entry, double value);
 /// cannot hold.
 bool ChangeText(const PreferenceEntry& entry, const QString& text);
 
-/// Removes the key. Those concerned are told while the default stands under it, since a missing
-/// value would leave them with what they have.
-void ResetPreference(const PreferenceEntry& entry);
+/// Removes the keys. Those concerned are told while the defaults stand under them, since a missing
+/// value would leave them with what they have; each is told once.
+void ResetPreferences(std::span<const PreferenceEntry* const> entries);
 
 }  // namespace lurkwell

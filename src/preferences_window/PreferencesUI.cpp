@@ -34,7 +34,7 @@ constexpr const char* kUnit = "PreferencesUI";
 /// Of the whole contents, in points, a page each.
 constexpr int kHeights[] = {283, 214, 373, 309, 353};
 constexpr int kTabs = static_cast<int>(std::size(kHeights));
-/// A change under the mouse counts when it has stood for so long: each goes to disk.
+/// A change under the mouse or a held key counts when it has stood for so long: each goes to disk.
 constexpr int kDragMilliseconds = 100;
 
 /// Tells its controller, which belongs to it, that it is being closed.
@@ -164,7 +164,6 @@ void vqPreferencesUI::windowWillClose() {
   for (auto* child : fWindow->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
     if (child->isWindow()) child->close();
   if (gThePreferencesUI == this) gThePreferencesUI = nullptr;
-  Q_EMIT closed();
 }
 
 // ---- Controls -----------------------------------------------------------------------------------
@@ -185,8 +184,13 @@ void vqPreferencesUI::connectControl(const PreferenceControl& control) {
 }
 
 void vqPreferencesUI::connectSlider(QSlider& slider, const PreferenceControl& control) {
+  connect(&slider, &QSlider::actionTriggered, this, [this, &slider] {
+    // Keys and wheels have moved the position; the value follows.
+    if (slider.sliderPosition() != slider.value()) fStepped = &slider;
+  });
   connect(&slider, &QSlider::valueChanged, this, [this, &slider, &control] {
-    if (!slider.isSliderDown()) return takeValueFrom(slider);
+    const bool isStep = std::exchange(fStepped, nullptr) == &slider;
+    if (!isStep && !slider.isSliderDown()) return takeValueFrom(slider);
     DescribeSlider(*fWindow, control);
     takeSoon(slider);
   });
@@ -194,6 +198,7 @@ void vqPreferencesUI::connectSlider(QSlider& slider, const PreferenceControl& co
 }
 
 void vqPreferencesUI::takeSoon(QWidget& sender) {
+  if (fDragged != &sender) takePendingValue();
   fDragged = &sender;
   if (!fDragTimer.isActive()) fDragTimer.start();
 }

@@ -47,10 +47,6 @@ class vqPreferencesUI final : public QObject {
   void windowWillClose();
   void showAllSettings();
 
- Q_SIGNALS:
-  /// The window is closed; the settings of its last change are stored.
-  void closed();
-
  private:
   explicit vqPreferencesUI(QWidget& window);
 
@@ -70,8 +66,10 @@ class vqPreferencesUI final : public QObject {
   QTabWidget* fTabView = nullptr;
   QLabel* fNotice = nullptr;
   std::int32_t fTabToShow = 0;
-  /// A control that the mouse is changing, until its value is taken.
+  /// A control that the mouse or a key is changing, until its value is taken.
   QPointer<QWidget> fDragged;
+  /// A slider between a key's or the wheel's step and the value that follows from it.
+  const QWidget* fStepped = nullptr;
   QTimer fDragTimer;
   QVariantAnimation fGrowth;
 };

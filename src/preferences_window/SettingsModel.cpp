@@ -44,7 +44,7 @@ QString KindText(const PreferenceEntry& entry) {
   constexpr const char* kIds[] = {"settings_kind_switch",   "settings_kind_integer",
                                   "settings_kind_interval", "settings_kind_colour",
                                   "settings_kind_real",     "settings_kind_text",
-                                  "settings_kind_array"};
+                                  "settings_kind_record",   "settings_kind_array"};
   const QString text = LocalizedString(kIds[static_cast<int>(entry.kind)]);
   if (entry.kind != PreferenceKind::kInteger && entry.kind != PreferenceKind::kReal) return text;
   if (entry.most >= std::numeric_limits<std::int32_t>::max()) return text;
@@ -119,7 +119,7 @@ QVariant SettingsModel::ValueData(int row, int role) const {
   if (role == Qt::ToolTipRole) return NoteOf(row);
   if (role == Qt::CheckStateRole && entry.kind == PreferenceKind::kBoolean)
     return counts.toDouble() != 0 ? Qt::Checked : Qt::Unchecked;
-  if (role == Qt::FontRole && entry.kind != PreferenceKind::kArray) {
+  if (role == Qt::FontRole && !entry.IsProgramsOwn()) {
     QFont font;
     font.setBold(!stored.isNull() && entry.HasDefault() && stored != DefaultText(entry));
     font.setItalic(stored.isNull());
@@ -131,9 +131,9 @@ QVariant SettingsModel::ValueData(int row, int role) const {
 Qt::ItemFlags SettingsModel::flags(const QModelIndex& index) const {
   auto flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
   if (!index.isValid() || index.column() != kValue) return flags;
-  const auto kind = EntryAt(index.row()).kind;
-  if (kind == PreferenceKind::kBoolean) return flags | Qt::ItemIsUserCheckable;
-  return kind == PreferenceKind::kArray ? flags : flags | Qt::ItemIsEditable;
+  const auto& entry = EntryAt(index.row());
+  if (entry.kind == PreferenceKind::kBoolean) return flags | Qt::ItemIsUserCheckable;
+  return entry.IsProgramsOwn() ? flags : flags | Qt::ItemIsEditable;
 }
 
 bool SettingsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -141,7 +141,7 @@ bool SettingsModel::setData(const QModelIndex& index, const QVariant& value, int
   const auto& entry = EntryAt(index.row());
   if (role == Qt::CheckStateRole && entry.kind == PreferenceKind::kBoolean)
     return Change(entry, value.toInt() == Qt::Checked ? QStringLiteral("1") : QStringLiteral("0"));
-  if (role != Qt::EditRole || entry.kind == PreferenceKind::kArray) return false;
+  if (role != Qt::EditRole || entry.IsProgramsOwn()) return false;
   // An editor that was opened and left says what was there.
   if (value.toString() == ValueData(index.row(), Qt::EditRole).toString()) return false;
   return Change(entry, value.toString());
@@ -165,13 +165,15 @@ bool SettingsModel::Change(const PreferenceEntry& entry, const QString& text) {
 }
 
 bool SettingsModel::CanReset(int row) const {
-  return !fStored[static_cast<std::size_t>(row)].isNull() &&
-         EntryAt(row).kind != PreferenceKind::kArray;
+  return !fStored[static_cast<std::size_t>(row)].isNull() && !EntryAt(row).IsProgramsOwn();
 }
 
-void SettingsModel::Reset(int row) {
-  if (!CanReset(row)) return;
-  ResetPreference(EntryAt(row));
+void SettingsModel::Reset(const QList<int>& rows) {
+  std::vector<const PreferenceEntry*> entries;
+  for (const int row : rows)
+    if (CanReset(row)) entries.push_back(&EntryAt(row));
+  if (entries.empty()) return;
+  ResetPreferences(entries);
   Refresh();
   Q_EMIT changed();
 }
@@ -189,7 +191,7 @@ void SettingsModel::Refresh() {
 QString SettingsModel::NoteOf(int row) const {
   const auto& entry = EntryAt(row);
   const auto& stored = fStored[static_cast<std::size_t>(row)];
-  if (entry.kind == PreferenceKind::kArray) return LocalizedString("settings_note_array");
+  if (entry.IsProgramsOwn()) return LocalizedString("settings_note_record");
   if (!stored.isNull() && entry.IsNumber() && !IsNumberText(stored))
     return LocalizedString("settings_note_no_number");
   constexpr const char* kIds[] = {"settings_note_at_once", "settings_note_new_windows",

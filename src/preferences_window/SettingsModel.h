@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QList>
 #include <QString>
 #include <vector>
 
@@ -30,7 +31,8 @@ class SettingsModel final : public QAbstractTableModel {
 
   /// Whether there is something to remove. The program's own records are left to it.
   bool CanReset(int row) const;
-  void Reset(int row);
+  /// Resets those of the rows that can be, together.
+  void Reset(const QList<int>& rows);
 
   /// Looks whether anything is different now; others change settings too.
   void Refresh();

@@ -166,6 +166,17 @@ TEST_F(AnimatedClient, CPUUseBecomesWeight) {
   EXPECT_EQ(host.frames, 1);
 }
 
+TEST_F(AnimatedClient, AFactorThatCannotBeDrawnIsNone) {
+  machine.processTable.Birth(103, "Lurkwell");
+  machine.preferenceDomain.SetValue("QUINT_TARVIK_FACTOR", 1e300);
+  Make();
+  Show();
+  machine.runLoop.RunFor(1100);
+  machine.processTable.Find(103)->UseCPU(250);
+  machine.runLoop.RunFor(1000);
+  EXPECT_DOUBLE_EQ(Of(103).targetWeight, 2 * 0.45 + 0.5);
+}
+
 TEST_F(AnimatedClient, ChangesAreTakenOver) {
   machine.processTable.Birth(100, "before");
   MakeAndShow();
@@ -245,8 +256,9 @@ TEST_F(AnimatedClient, IntervalsAreMadeToFit) {
 }
 
 TEST_F(AnimatedClient, ChangedPreferencesReachTheOverlay) {
-  MakeAndShow();
   gQuintessentialViewIsFullScreenOverlay = true;
+  MakeAndShow();
+  EXPECT_EQ(host.Told(), Lines{}) << "the overlay shows itself when its time has come";
   SetPref("HEARTQUIVA_GL_THREAD_INTERVAL", 40);
   SetPref("HEARTQUIVA_MAINPIC_INTERVAL", 300);
   SetPref("QUIVA_FULLSCREEN_DRAW_PARENT_CHILD_CONNECTORS", 1);

@@ -222,6 +222,26 @@ TEST(FrameContents, ScalesIconsLinksRelativesAndHoldsLabelsStill) {
   EXPECT_EQ(LookOf(settings, ViewMode::kOverlay, size).backgroundAlpha, 0);
 }
 
+TEST(FrameContents, WhatFindsNoRoomGetsItWhenOthersGo) {
+  FrameRenderer renderer;
+  QipiList list;
+  for (std::int32_t pid = 1; pid <= 257; ++pid) {
+    QuintessentialInformationProcessInfo info;
+    info.pid = pid;
+    info.iconImage = Plain(2, 2, 0xff000000);
+    list.PushBack(std::move(info));
+  }
+  InitializeOpenGLProcessInfo(list, renderer);
+  const auto& last = *list.Find(257);
+  EXPECT_NE(list.Find(256)->iconTexture, 0U);
+  EXPECT_EQ(last.iconTexture, 0U);
+  EXPECT_FALSE(last.texturesReady);
+  list.Remove(3, [&](auto& info) { renderer.Icons().Release(info.iconTexture); });
+  InitializeOpenGLProcessInfo(list, renderer);
+  EXPECT_NE(last.iconTexture, 0U);
+  EXPECT_TRUE(last.texturesReady);
+}
+
 class Labels : public OnADisplay {
  protected:
   Labels() : OnADisplay(TestDisplay::Manager::kNone) {}

@@ -82,8 +82,10 @@ TEST_F(FlowControl, TheOverlayComesOnTheFourthTick) {
 
   EXPECT_EQ(NextTick(), (Lines{"set up", "countdown 3"}));
   EXPECT_FALSE(gToggleFullscreenInProgress) << "a tick before the view is back";
+  EXPECT_TRUE(gFCFSMMgr->IsBusy()) << "until it is back";
 
   EXPECT_EQ(NextTick(), Lines{"show"});
+  EXPECT_FALSE(gFCFSMMgr->IsBusy());
   EXPECT_EQ(NextTick(), Lines{});
   EXPECT_TRUE(gQuintessentialViewIsFullScreenOverlay) << "the two calls meanwhile were ignored";
 }

@@ -217,6 +217,70 @@ TEST_F(ViewWindows, WithoutACompositorTheOverlayIsAnOpaqueWindowAndSaysSoOnce) {
             1);
 }
 
+TEST_F(ViewWindows, TheOverlayIsNotSeenBeforeItsTime) {
+  machine.screen.blends = true;
+  HotKeyFunc();
+  machine.runLoop.RunFor(400);
+  auto& overlay = windows->quintessentialFullscreenWindow();
+  EXPECT_TRUE(Becomes([&] { return overlay.isExposed() && gQuintessentialViewIsCurrentlyShown; }));
+  machine.runLoop.RunFor(500);
+  EXPECT_EQ(overlay.opacity(), 0.0);
+  machine.preferenceDomain.SetValue("QUINT_FULLSCREEN_WINDOW_ALPHA", 7.0);
+  gQuintessentialInformationClient->NotifyPreferencesHaveBeenUpdated();
+  EXPECT_EQ(overlay.opacity(), 0.0);
+  machine.runLoop.RunFor(500);
+  EXPECT_EQ(overlay.opacity(), 1.0) << "at most";
+  machine.preferenceDomain.SetValue("QUINT_FULLSCREEN_WINDOW_ALPHA", 0.5);
+  gQuintessentialInformationClient->NotifyPreferencesHaveBeenUpdated();
+  EXPECT_NEAR(overlay.opacity(), 0.5, 0.01);
+}
+
+TEST_F(ViewWindows, OneOfTheTwoIsThereHoweverQuicklyTheyAreExchanged) {
+  auto& window = windows->quintessentialWindow();
+  auto& overlay = windows->quintessentialFullscreenWindow();
+  // Before the window's first exposure has been served nothing is hooked up, and nothing closed.
+  windows->ShowCurrentWindow();
+  HotKeyFunc();
+  machine.runLoop.RunFor(500);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_TRUE(ComesAbout([&] { return overlay.isExposed() && Records() > 20; }));
+  // Two more requests, each as soon as it is heard.
+  HotKeyFunc();
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_TRUE(ComesAbout([] { return !gToggleFullscreenInProgress; }));
+    HotKeyFunc();
+  }
+  EXPECT_TRUE(ComesAbout([] { return !gFCFSMMgr->IsBusy(); }));
+  EXPECT_FALSE(gQuintessentialViewIsFullScreenOverlay);
+  EXPECT_TRUE(ComesAbout([&] { return window.isExposed() && Records() > 20; }));
+  EXPECT_FALSE(overlay.isVisible());
+  window.performClose();
+  Serve(200);
+  EXPECT_EQ(Records(), 0U);
+  EXPECT_FALSE(windows->IsAnyVisible());
+}
+
+struct NoOpenGL {
+  NoOpenGL() { ::setenv("QT_XCB_GL_INTEGRATION", "none", 1); }
+};
+class WithoutOpenGL : private NoOpenGL, public ViewWindows {};
+
+TEST_F(WithoutOpenGL, AMessageStandsAndNothingMoves) {
+  windows->ShowCurrentWindow();
+  auto& window = windows->quintessentialWindow();
+  EXPECT_TRUE(ComesAbout(
+      [&] { return window.isExposed() && gQuintessentialInformationClient != nullptr; }));
+  EXPECT_EQ(window.surfaceType(), QSurface::RasterSurface);
+  for (int round = 0; round < 2; ++round) {
+    Serve(100);
+    machine.runLoop.RunFor(3000);
+    EXPECT_TRUE(gQuintessentialInformationClient->IsPaused());
+    window.performClose();
+    windows->ShowCurrentWindow();
+    EXPECT_TRUE(ComesAbout([&] { return gQuintessentialViewIsCurrentlyShown.load(); }));
+  }
+}
+
 class Overlay : public ViewWindows {
  protected:
   Overlay() : ViewWindows({"picom", "--backend", "xrender", "--config", "/dev/null"}) {}

@@ -42,11 +42,34 @@ class Following(FollowedProgram):
         program = self.start_program()
         self.wait_for(lambda: self.places(again.pid) == placed == self.places(other.pid))
 
-        # What its user closes stays closed.
+        # A click on a floating window takes the keyboard from another program.
+        another = self.start(["xterm", "-T", "another"])
+        self.wait_for(lambda: self.active_window() == "another")
+        self.click_history(again.pid, 60, 30)
+        self.wait_for(lambda: self.active_window() == "Processes")
+        another.kill()
+
+        # What its user closes stays closed. Both instances share a record of each kind, so the
+        # first to be closed forgets it.
         for one in (again, other):
-            self.output("xdotool", "search", "--name", f"^{one.pid}$", "windowclose")
+            self.click_history(one.pid, 6, 6)
+            self.wait_for(lambda: "history" not in self.places(one.pid))
+            self.output("xdotool", "search", "--name", f"^Logging lkwvictim pid:{one.pid}$",
+                        "windowactivate", "--sync", "key", "ctrl+w")
+            self.wait_for(lambda: not self.places(one.pid))
+        self.assertEqual(self.preferences()["CPU_HISTORY_WINDOW"], [])
+        self.assertEqual(self.preferences()["LOGGING_WINDOW"], [])
         self.end_program(program)
-        self.assertEqual(len(self.preferences()["LOGGING_WINDOW"]), 1)
+        program = self.start_program()
+        time.sleep(2)
+        self.assertEqual([self.places(again.pid), self.places(other.pid)], [{}, {}])
+        self.end_program(program)
+
+    def click_history(self, pid, x, y):
+        # The two instances' windows lie upon each other.
+        window = self.output("xdotool", "search", "--name", f"^{pid}$").split()[0]
+        self.output("xdotool", "windowraise", window)
+        self.output("xdotool", "mousemove", "--window", window, str(x), str(y), "click", "1")
 
     def test_a_place_on_a_screen_that_is_gone_is_moved_onto_one_that_is_there(self):
         self.open_display()

@@ -230,18 +230,40 @@ TEST_F(CommandsTest, WindowsThatFollowAProcessOpenForEachSelectedOne) {
     }
     void CreateLoggingWindow(std::int32_t interval, std::int32_t pid) override {
       opened += "log " + std::to_string(interval) + " " + std::to_string(pid) + "\n";
+      SetPrefInt("remembered", pid);
     }
+    int CountRoom() const override { return room; }
     std::string opened;
+    int room = 200;
   } windows;
   OpenWith({300, 301});
   Select({300, 301});
-  QSignalSpy sorry(&controller(), &vqMainTableController::notYetAvailable);
   Choose("menu_file_new_logging");
-  EXPECT_EQ(sorry.count(), 1);
   controller().setMonitorWindows(&windows);
   Choose("menu_file_new_logging");
   Choose("menu_file_new_cpu_history");
   EXPECT_EQ(windows.opened, "log 1000 300\nlog 1000 301\nhistory 250 300\nhistory 250 301\n");
+  for (int pid = 400; pid < 430; ++pid) machine.processTable.Birth(pid, "many");
+  Turn();
+  windows.opened.clear();
+  window->table().selectAll();
+  Answer("Cancel");
+  Choose("menu_file_new_logging");
+  EXPECT_EQ(question, "Open 34 new windows?");
+  EXPECT_EQ(windows.opened, "");
+  windows.room = 25;
+  const auto writes = machine.preferenceDomain.SynchronizeCount();
+  question.clear();
+  Answer("Open");
+  const std::function<void()> agree = [&] {
+    if (!question.empty()) return Answer("OK");
+    QTimer::singleShot(10, &machineRoom, agree);
+  };
+  agree();
+  Choose("menu_file_new_logging");
+  EXPECT_EQ(question, "25 of 34 windows were opened.");
+  EXPECT_EQ(std::ranges::count(windows.opened, '\n'), 25);
+  EXPECT_EQ(machine.preferenceDomain.SynchronizeCount(), writes + 1);
 }
 
 TEST_F(CommandsTest, ARightClickTakesItsRowAndOpensTheMenu) {

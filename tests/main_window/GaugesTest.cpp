@@ -164,6 +164,54 @@ TEST_F(GaugesTest, WhatTheMachineDoesNotTellIsPrintedAndSurvived) {
   EXPECT_EQ(PixelsOf(kToolbarMemory, 0xffaaaaaa), 0) << "nothing is known to be free";
 }
 
+TEST_F(GaugesTest, AReadingThatFailedIsNoAlarmAndNothingToCompareWith) {
+  auto& memory = machine.hostStatistics.virtualMemory;
+  memory->pageouts = 5000;
+  const auto known = memory;
+  memory.reset();
+  Open();
+  EXPECT_EQ(Light(), "green");
+  memory = known;
+  Turn();
+  EXPECT_EQ(Light(), "green") << "the first reading that succeeds is where counting begins";
+  memory.reset();
+  Turn();
+  EXPECT_EQ(Light(), "green");
+  EXPECT_EQ(Said(kToolbarPageouts), "0 pages swapped out since the last update");
+  memory = known;
+  PageOut(3);
+  Turn();
+  EXPECT_EQ(Said(kToolbarPageouts), "3 pages swapped out since the last update");
+  EXPECT_EQ(Light(), "yellow");
+}
+
+TEST_F(GaugesTest, PreferencesMeasureNothing) {
+  machine.processTable.Find(0)->UseCPU(70'000);
+  auto& busy = machine.processTable.Birth(300, "busy");
+  busy.UseCPU(5000);
+  Open();
+  ClickHeader("meta_pid");
+  machine.processTable.Find(0)->UseCPU(1000);
+  busy.UseCPU(500);
+  PageOut(15);
+  Turn();
+  const auto shown = [this] { return Cell(2, 5).toStdString() + Said(kToolbarCPU) + Light(); };
+  const std::string before = shown();
+  EXPECT_EQ(before, "25.0 %CPU: 50 % of 1 processoryellow");
+  SetPrefInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", 3);
+  for (int i = 0; i < 3; ++i)
+    ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType("*");
+  QApplication::processEvents();
+  EXPECT_EQ(shown(), before);
+  EXPECT_EQ(Said(kToolbarPageouts), "15 pages swapped out since the last update");
+  EXPECT_EQ(Said(kToolbarMemory).find("Memory: 512.0 M of 1024.0 M used"), 0U)
+      << Said(kToolbarMemory) << "only the format is another one";
+  busy.UseCPU(500);
+  machine.processTable.Find(0)->UseCPU(1000);
+  Turn();
+  EXPECT_EQ(shown(), before) << "the whole interval counts; 3 pages are left of 15";
+}
+
 TEST_F(GaugesTest, ABurstOfPageoutsFlashesAndDecays) {
   Open();
   EXPECT_EQ(Lights(250), "green 250\n");

@@ -219,5 +219,26 @@ TEST_F(ToolbarTest, ShowingAndHidingIsRemembered) {
   EXPECT_EQ(Toolbar().toolButtonStyle(), Qt::ToolButtonTextOnly);
 }
 
+TEST_F(ToolbarTest, TheSelectedRowsPictureStandsOutFromItsGround) {
+  Open();
+  auto& list = *Customise().findChild<ToolbarItemList*>("available");
+  list.setFocus();
+  for (int row = 0; row < list.count(); ++row) {
+    list.setCurrentRow(row);
+    const auto place = list.visualItemRect(list.item(row));
+    const auto image = list.viewport()->grab().toImage();
+    const QColor ground = image.pixelColor(place.right() - 3, place.center().y());
+    int visible = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y)
+      for (int x = place.left(); x < place.left() + 30; ++x) {
+        const auto pixel = image.pixelColor(x, y);
+        visible += std::abs(pixel.red() - ground.red()) + std::abs(pixel.green() - ground.green()) +
+                       std::abs(pixel.blue() - ground.blue()) >
+                   120;
+      }
+    EXPECT_GT(visible, 50) << qPrintable(list.item(row)->text());
+  }
+}
+
 }  // namespace
 }  // namespace lurkwell

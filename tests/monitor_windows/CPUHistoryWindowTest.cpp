@@ -137,6 +137,23 @@ TEST_F(CPUHistoryWindowTest, DescendantsComeAndGoWithoutJumps) {
   EXPECT_FALSE(client->NeedPidProcProperty(300, "pid_vsz"));
 }
 
+TEST_F(CPUHistoryWindowTest, WhatAnotherClientOnceReadIsNoBaseForDescendants) {
+  auto& table = machine.processTable;
+  mTracks = true;
+  SetPrefDouble("CPU_HISTORY_WINDOW_DEFAULT_FILTER", 0.0);
+  table.Birth(300, "shell");
+  table.Birth(301, "make", 300).UseCPU(50'000);
+  Start();
+  auto& reader = Add("reader", 50).Needs({"meta_active_time"});
+  Turn(200);
+  reader.Needs({});
+  Turn(200);
+  table.Find(301)->UseCPU(60'000);
+  auto* client = Open(300);
+  Turn(5000);
+  EXPECT_EQ(std::ranges::max(client->Graph().Values()), 0.0);
+}
+
 TEST_F(CPUHistoryWindowTest, AnApplicationHasItsIconAndItsOpacity) {
   machine.processTable.Birth(300, "editor");
   machine.processManager.Launch({0, 9}, 300, "Editor");
@@ -220,6 +237,7 @@ TEST_F(CPUHistoryWindowTest, OpenWindowsFollowThePreferences) {
   EXPECT_EQ(client->Interval(), 125);
   EXPECT_EQ(client->Graph().ScalePercent(), 100);
   EXPECT_EQ(client->Graph().Bitmap().Pixel(100, 5), 0xFFFF0400U) << "drawn again at once";
+  EXPECT_EQ(client->Graph().Bitmap().Pixel(0, 5), 0xFFFF0400U) << "the column without a point too";
   Turn(125);
   EXPECT_DOUBLE_EQ(client->NameWindow()->Alpha(), 0.9);
   EXPECT_EQ(client->HighWaterMarkWindow()->Text(), QLatin1String("100%"));

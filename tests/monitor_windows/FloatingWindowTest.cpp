@@ -4,11 +4,13 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QTest>
 
 #include "main_window/FrontmostWindow.h"
 #include "monitor_windows/ProcessInformationWindow.h"
+#include "monitor_windows/ScreenPlacement.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
 
@@ -20,6 +22,7 @@ constexpr char kYKey[] = "DEFAULT_Y_COOR_FOR_NEWLY_CREATED_WINDOWS";
 
 class Recorder final : public ProcessInformationWindow {
  public:
+  using ProcessInformationWindow::ProcessInformationWindow;
   OSStatus NotifyUpdate() override { return Heard("update"); }
   OSStatus NotifyDrawContent() override { return Heard("draw"); }
   OSStatus NotifyActivated() override { return Heard("activated"); }
@@ -95,6 +98,11 @@ TEST_F(FloatingWindowTest, NewWindowsCascadeAndComeBackToTheCorner) {
   SetPrefInt(kYKey, 2147483647);
   EXPECT_EQ(locate(150, 70).left, free.left() + 20);
   EXPECT_EQ(GetPrefInt(kYKey, nullptr, false, 0), free.top() + 20);
+  const QRect screen(0, 0, 800, 600);
+  EXPECT_EQ(AreaWithRoom({0, 30, 800, 570}, screen, {150, 70}), QRect(0, 30, 800, 570));
+  EXPECT_EQ(AreaWithRoom({0, 30, 800, 70}, screen, {150, 70}), screen)
+      << "panels take all but that";
+  EXPECT_TRUE(AreaWithRoom({}, {0, 0, 100, 50}, {150, 70}).isNull());
   EXPECT_DEATH(locate(free.width(), 70),
                "ProcessInformationWindow:[0-9]+: failed assertion `width "
                "< \\(availableRect.right - availableRect.left\\)'");
@@ -147,6 +155,25 @@ TEST_F(FloatingWindowTest, AWindowComesUpTranslucentAtItsPlaceWithoutTakingTheKe
   EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
   EXPECT_EQ(recorder.ContentBounds(), (WindowRect{200, 150, 350, 220}));
   EXPECT_EQ(window.windowTitle(), QLatin1String("4711"));
+}
+
+TEST_F(FloatingWindowTest, AWindowThatExistsCanBeTakenOver) {
+  SetPrefDouble("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA", 0.5);
+  const QPointer<FloatingWindow> window =
+      new FloatingWindow({200, 150, 150, 70}, kWindowCloseBoxAttribute);
+  {
+    Recorder recorder(window);
+    window->show();
+    QApplication::processEvents();
+    EXPECT_EQ(recorder.heard.Take(), "bounds changed\nshowing\ndraw\nhidden\nactivated\n");
+    EXPECT_NEAR(window->windowOpacity(), 0.5, 0.01);
+    window->setMaximumSize(500, 500);
+    window->resize(400, 300);
+    EXPECT_EQ(recorder.heard.Take(), "bounds changed\n");
+    EXPECT_EQ(recorder.ContentBounds(), (WindowRect{200, 150, 600, 450}));
+  }
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(window.isNull()) << "it goes with its owner";
 }
 
 TEST_F(FloatingWindowTest, AClickBringsTheApplicationForwardAndItsMainWindowTheKeyboard) {

@@ -99,13 +99,17 @@ class FollowingTest : public ConsolidatorTest, public StartUpWindows {
   SimulatedLogFiles disk;
   FollowingWindows windows{
       disk,
-      {[this](std::int32_t interval, std::int32_t pid, const Uuid*, const WindowRect* rect) {
+      {[this](std::int32_t interval, std::int32_t pid, const Uuid* uuid, const WindowRect* rect) {
          opened.Add("history of " + std::to_string(pid) + " every " + std::to_string(interval) +
                     (rect != nullptr ? " at " + RectText(*rect) : ""));
-         ++histories;
+         histories.emplace_back(uuid != nullptr ? *uuid : Uuid{}, pid);
        },
-       [this] { return histories; }, [] {}}};
-  int histories = 0;
+       [this] { return static_cast<int>(histories.size()); },
+       [this](const Uuid& uuid, std::int32_t pid) {
+         return std::ranges::find(histories, std::pair(uuid, pid)) != histories.end();
+       },
+       [] {}}};
+  std::vector<std::pair<Uuid, std::int32_t>> histories;
 
  private:
   bool mKeeper = false;

@@ -15,7 +15,9 @@ TEST_F(RememberedWindowsTest, RecordsAreMadeWholeChangedInPartAndRemovedWherever
   EXPECT_EQ(SetPersistentClientInfo("LOGGING_WINDOW", nullptr, nullptr, &rect, &mFirst), -1);
   EXPECT_EQ(SetPersistentClientInfo("LOGGING_WINDOW", "a", nullptr, &rect, &mFirst), -1);
   EXPECT_EQ(GetPrefArrayCount("LOGGING_WINDOW"), 0) << "never in part";
+  auto writes = machine.preferenceDomain.SynchronizeCount();
   EXPECT_EQ(SetPersistentClientInfo("LOGGING_WINDOW", "a", "OS X", &rect, &mFirst), 0);
+  EXPECT_EQ(machine.preferenceDomain.SynchronizeCount(), writes + 1) << "a record is one write";
   EXPECT_EQ(SetPersistentClientInfo("LOGGING_WINDOW", "b", "OS X", &rect, &mSecond), 1);
   const WindowRect moved{-5, -6, 7, 8};
   EXPECT_EQ(SetPersistentClientInfo("LOGGING_WINDOW", nullptr, nullptr, &moved, &mSecond), 1);
@@ -29,7 +31,7 @@ TEST_F(RememberedWindowsTest, RecordsAreMadeWholeChangedInPartAndRemovedWherever
   EXPECT_EQ(GetPrefArrayCount("LOGGING_WINDOW"), 1) << "both of them";
   EXPECT_EQ(GetAppropriateIndexForUUID("LOGGING_WINDOW", &mSecond), 0);
   EXPECT_EQ(GetAppropriateIndexForUUID("LOGGING_WINDOW", &mFirst), 1);
-  const auto writes = machine.preferenceDomain.SynchronizeCount();
+  writes = machine.preferenceDomain.SynchronizeCount();
   SetPersistentClientInfo("LOGGING_WINDOW", "b", "OS X", &moved, &mSecond);
   EXPECT_EQ(machine.preferenceDomain.SynchronizeCount(), writes) << "nothing was new";
 }

@@ -144,6 +144,18 @@ TEST_P(PreferencesRetrieval, ArraysGrowByOneAtTheirEndAndCloseUpAfterARemoval) {
   EXPECT_TRUE(IsPrefArrayValuePresent("A", 0, "ABSENT_REAL"));
   EXPECT_FALSE(IsPrefArrayValuePresent("A", 1, "ABSENT_REAL"));
   EXPECT_FALSE(IsPrefArrayValuePresent("A", 2, "ID"));
+
+  const PrefArrayField fields[] = {{"ID", 7}, {"WIDTH", 3.5}, {"NAME", "all"}};
+  SetPrefArrayFields("A", 1, fields);
+  SetPrefArrayFields("A", 2, fields);
+  ASSERT_EQ(GetPrefArrayCount("A"), 3);
+  for (const std::int32_t index : {1, 2}) {
+    EXPECT_EQ(GetPrefArrayInt("A", index, "ID", false, 0), 7);
+    EXPECT_EQ(GetPrefArrayDouble("A", index, "WIDTH", false, 0), 3.5);
+    GetPrefArrayString("A", index, "NAME", name, sizeof name, false, "");
+    EXPECT_STREQ(name, "all");
+  }
+  EXPECT_EQ(GetPrefArrayInt("A", 0, "ID", false, 0), 11);
 }
 
 TEST_P(PreferencesRetrieval, AnArrayTakesThePlaceOfAValueThatIsNone) {
@@ -197,6 +209,7 @@ TEST_P(PreferencesRetrieval, BrokenPreconditionsAreFatal) {
       {"(index >= 0) && (index <= count)", [] { EnsureArrayItemExists("ONE", -1); }},
       {"(index >= 0) && (index <= count)", [] { SetPrefArrayInt("ONE", 2, "ID", 1); }},
       {"(index >= 0) && (index <= count)", [] { SetPrefArrayDouble("NEW", 1, "ID", 1); }},
+      {"(index >= 0) && (index <= count)", [] { SetPrefArrayFields("ONE", 2, {}); }},
       {"(index >= 0) && (index < count)", [] { GetPrefArrayInt("ONE", 1, "ID", true, 1); }},
       {"(index >= 0) && (index < count)", [] { GetPrefArrayDouble("NONE", 0, "ID", true, 1); }},
       {"dictPrefKey != NULL", [] { SetPrefArrayInt("ONE", 0, nullptr, 1); }},

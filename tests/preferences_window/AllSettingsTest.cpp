@@ -54,7 +54,7 @@ TEST_F(AllSettingsTest, TakesWhatFitsAndRefusesTheRestWithAReason) {
       {"CPU_HISTORY_WINDOW_DEFAULT_FILTER", "1.01", "out of range"},
       {"CPU_HISTORY_WINDOW_DEFAULT_FILTER", "nan", "no number"},
       {"DEFAULT_CPU_HISTORY_NAME_RGB_RED", "65536", "out of range"},
-      {"MAIN_WINDOW_FRAME", "1 2 \u2603", "cannot hold"},
+      {"vqMainTableToolbarIdentifierTarvikTemp14_ITEMS", "1 2 \u2603", "cannot hold"},
   };
   for (const auto& [key, text, reason] : kRefusals) {
     EXPECT_FALSE(Enter(key, text)) << key << text;
@@ -75,7 +75,52 @@ TEST_F(AllSettingsTest, TakesWhatFitsAndRefusesTheRestWithAReason) {
   auto* model = Table().table().model();
   EXPECT_TRUE(model->setData(Cell("MEM_GRAPH_DRAW_VSZ"), Qt::Checked, Qt::CheckStateRole));
   EXPECT_EQ(Stored("MEM_GRAPH_DRAW_VSZ"), 1);
-  EXPECT_FALSE(Cell("MAIN_WINDOW_COLUMNS").flags().testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(AllSettingsTest, WhatTheProgramWritesByItselfIsShownOnly) {
+  SetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", 0);
+  SetPrefString("MAIN_WINDOW_FRAME", "1 2 300 400");
+  OpenTable();
+  EXPECT_EQ(Cell("MAIN_WINDOW_FRAME").data(), "1 2 300 400");
+  EXPECT_EQ(Cell("PREFERENCES_UI_DEFAULT_TAB", SettingsModel::kDefault).data(), "0");
+  auto* model = Table().table().model();
+  for (const char* key : {"MAIN_WINDOW_FRAME", "DEFAULT_SHOW_PROCESS_LIST_WINDOW",
+                          "PREFERENCES_UI_DEFAULT_TAB", "MAIN_WINDOW_COLUMNS"}) {
+    const auto flags = Cell(key).flags();
+    EXPECT_FALSE(flags & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable)) << key;
+    EXPECT_FALSE(Enter(key, "1")) << key;
+    EXPECT_FALSE(model->setData(Cell(key), Qt::Checked, Qt::CheckStateRole)) << key;
+  }
+  EXPECT_EQ(Stored("DEFAULT_SHOW_PROCESS_LIST_WINDOW"), 0);
+  Reset("DEFAULT_SHOW_PROCESS_LIST_WINDOW");
+  EXPECT_EQ(Stored("DEFAULT_SHOW_PROCESS_LIST_WINDOW"), 0);
+}
+
+TEST_F(AllSettingsTest, ManyAreResetInOneWriteAndEachClientIsToldOnce) {
+  for (const char* key : {"MEM_GRAPH_DRAW_VSZ", "CPU_HISTORY_WINDOW_TRACK_PROCESS_DESCENDANTS",
+                          "DEFAULT_CPU_HISTORY_NAME_RGB_RED", "DEFAULT_CPU_HISTORY_NAME_RGB_BLUE"})
+    SetPrefInt(key, 1);
+  OpenTable();
+  const auto resetAll = [this] {
+    const auto writes = machine.preferenceDomain.SynchronizeCount();
+    Table().table().selectAll();
+    Table().findChild<QPushButton*>("resetButton")->click();
+    return machine.preferenceDomain.SynchronizeCount() - writes;
+  };
+  EXPECT_EQ(resetAll(), 1);
+  EXPECT_TRUE(machine.preferenceDomain.Values().empty());
+  EXPECT_EQ(Heard(),
+            "CPUHistoryWindowInformationClient preferences\n"
+            "VQTarvMainWindowInfoSynch preferences\n");
+  SetPrefInt("MEM_GRAPH_DRAW_VSZ", 1);
+  SetPrefInt("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", 1);
+  SetPrefInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", 1);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Cell("MEM_GRAPH_DRAW_VSZ").data() == "1"; }));
+  EXPECT_EQ(resetAll(), 1);
+  EXPECT_EQ(Heard(),
+            "Bystander preferences\nCPUHistoryWindowInformationClient preferences\n"
+            "QuintessentialInformationClient preferences\n"
+            "VQTarvMainWindowInfoSynch preferences\n");
 }
 
 TEST_F(AllSettingsTest, KeepsTheOrderOfTheAnimatedViewsIntervals) {

@@ -158,6 +158,26 @@ TEST_F(PanelTest, ADraggedSliderIsTakenNowAndThenAndAtItsEnd) {
   EXPECT_EQ(Stored("MAIN_WINDOW_INTERVAL"), 100) << "closed under the mouse";
 }
 
+TEST_F(PanelTest, AHeldKeyIsTakenNowAndThenAndFindsTheDefaultAgain) {
+  Open(1);
+  auto& slider = Find<QSlider>("mainWindowIntervalSlider");
+  ASSERT_EQ(slider.value(), 225);
+  const auto writes = machine.preferenceDomain.SynchronizeCount();
+  for (int i = 0; i < 20; ++i) QTest::keyClick(&slider, Qt::Key_Right);
+  EXPECT_EQ(Text("mainWindowIntervalText"), "every 6 seconds") << "shown at once";
+  for (int i = 0; i < 20; ++i) QTest::keyClick(&slider, Qt::Key_Left);
+  ASSERT_TRUE(QTest::qWaitFor([] { return Stored("MAIN_WINDOW_INTERVAL") == 2000; }));
+  EXPECT_LE(machine.preferenceDomain.SynchronizeCount(), writes + 2);
+  Heard();
+  // What waits is not lost to another control, nor to the end of the window.
+  Find<QTabWidget>("tabView").setCurrentIndex(2);
+  QTest::keyClick(&Find("windowAlphaSlider"), Qt::Key_Home);
+  QTest::keyClick(&Find("underlayAlphaSlider"), Qt::Key_End);
+  Close();
+  EXPECT_EQ(Stored("QUINT_FULLSCREEN_WINDOW_ALPHA"), 0);
+  EXPECT_EQ(Stored("QUINT_FULLSCREEN_UNDERLAY_ALPHA"), 1);
+}
+
 TEST_F(PanelTest, EveryControlIsNamedAndExplained) {
   Open(0);
   for (const auto& control : PreferenceControls()) {

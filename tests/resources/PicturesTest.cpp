@@ -41,7 +41,9 @@ double Visible(const QImage& image, QRgb ground) {
 }
 
 TEST(PicturesTest, EachIsSeenOnLightAndDarkAndDrawnAnewForEachScale) {
-  const QStringList names = QDir(":/images").entryList({"*.svg"});
+  QStringList names = QDir(":/images").entryList({"*.svg"});
+  // A ground for others to be seen on; it is not to stand out.
+  EXPECT_TRUE(names.removeOne("qvbackground.svg"));
   ASSERT_GT(names.size(), 20);
   for (const QString& file : names) {
     SCOPED_TRACE(file.toStdString());
