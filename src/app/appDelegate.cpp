@@ -51,10 +51,9 @@ bool SystemHasNecessaryTools() {
 
 vqAppDelegate::vqAppDelegate(Launch launch)
     : mLaunch(launch),
-      mFollowingWindows(
-          TheMachine().logFiles,
-          {&CreateCPUHistoryWindow, &CountOpenCPUHistoryWindows, &IsCPUHistoryWindowOpen,
-           &RememberCPUHistoryPlaces}) {}
+      mFollowingWindows(TheMachine().logFiles,
+                        {&CreateCPUHistoryWindow, &CountOpenCPUHistoryWindows,
+                         &IsCPUHistoryWindowOpen, &RememberCPUHistoryPlaces}) {}
 
 vqAppDelegate::~vqAppDelegate() {
   fQuintessentialWindows.reset();

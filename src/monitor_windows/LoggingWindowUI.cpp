@@ -165,7 +165,7 @@ void LoggingWindowUI::awakeFromNib() {
   });
   auto* copy = new QShortcut(QKeySequence::Copy, fWindow);
   connect(copy, &QShortcut::activated, this, &LoggingWindowUI::copySelection);
-  auto* close = new QShortcut(QKeySequence::Close, fWindow);
+  auto* close = new QShortcut(Qt::CTRL | Qt::Key_W, fWindow);
   connect(close, &QShortcut::activated, fWindow, &QWidget::close);
 }
 

@@ -35,9 +35,9 @@ class PreferenceDomain {
   /// Forgets the value under `key`, as if it had never been set. Synchronize brings that to disk.
   virtual void RemoveValue(std::string_view key) = 0;
 
-  /// Brings what was set or removed since the last call to disk, durably, and takes in what another running
-  /// instance has written meanwhile. True when the disk now has it. Waits for another instance's
-  /// lock for at most a second.
+  /// Brings what was set or removed since the last call to disk, durably, and takes in what another
+  /// running instance has written meanwhile. True when the disk now has it. Waits for another
+  /// instance's lock for at most a second.
   virtual bool Synchronize() = 0;
 };
 

@@ -4,8 +4,8 @@
 
 namespace lurkwell {
 
-/// What windows of an unusual kind ask of the desktop. Main thread only; no answer takes longer than
-/// a fraction of a second. `window` is a window's number as the windowing system knows it.
+/// What windows of an unusual kind ask of the desktop. Main thread only; no answer takes longer
+/// than a fraction of a second. `window` is a window's number as the windowing system knows it.
 class Screen {
  public:
   virtual ~Screen() = default;

@@ -42,6 +42,10 @@ class Following(FollowedProgram):
         program = self.start_program()
         self.wait_for(lambda: self.places(again.pid) == placed == self.places(other.pid))
 
+        # So far the two instances' windows lie upon each other.
+        self.move(f"^{other.pid}$", 300, 620)
+        self.wait_for(lambda: self.places(other.pid).get("history") == (300, 620))
+
         # A click on a floating window takes the keyboard from another program.
         another = self.start(["xterm", "-T", "another"])
         self.wait_for(lambda: self.active_window() == "another")
@@ -54,9 +58,11 @@ class Following(FollowedProgram):
         for one in (again, other):
             self.click_history(one.pid, 6, 6)
             self.wait_for(lambda: "history" not in self.places(one.pid))
-            self.output("xdotool", "search", "--name", f"^Logging lkwvictim pid:{one.pid}$",
-                        "windowactivate", "--sync", "key", "ctrl+w")
-            self.wait_for(lambda: not self.places(one.pid))
+            title = f"Logging lkwvictim pid:{one.pid}"
+            self.output("xdotool", "search", "--name", f"^{title}$", "windowactivate")
+            self.wait_for(lambda: self.active_window() == title, tell=self.active_window)
+            self.output("xdotool", "key", "ctrl+w")
+            self.wait_for(lambda: not self.places(one.pid), tell=self.active_window)
         self.assertEqual(self.preferences()["CPU_HISTORY_WINDOW"], [])
         self.assertEqual(self.preferences()["LOGGING_WINDOW"], [])
         self.end_program(program)
@@ -66,9 +72,7 @@ class Following(FollowedProgram):
         self.end_program(program)
 
     def click_history(self, pid, x, y):
-        # The two instances' windows lie upon each other.
         window = self.output("xdotool", "search", "--name", f"^{pid}$").split()[0]
-        self.output("xdotool", "windowraise", window)
         self.output("xdotool", "mousemove", "--window", window, str(x), str(y), "click", "1")
 
     def test_a_place_on_a_screen_that_is_gone_is_moved_onto_one_that_is_there(self):

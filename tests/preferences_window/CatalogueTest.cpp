@@ -143,6 +143,7 @@ TEST(CatalogueTest, EveryWordOfTheSourcesThatLooksLikeAKeyIsKnown) {
                                        "WINDOW_RECT_BOTTOM",
                                        "WINDOW_RECT_RIGHT",
                                        "QT_QPA_PLATFORM",
+                                       "DBUS_SESSION_BUS_ADDRESS",
                                        "P_RU"};
   static const QRegularExpression word(R"re("([A-Z]+(?:_[A-Z0-9]+)+)")re");
   for (const auto& [place, text] : Sources()) {
