@@ -60,11 +60,21 @@ class Life(FollowedProgram):
         # Without a graphics card it says once that the view will be slow.
         self.answer_alert()
         self.wait_for(lambda: self.is_shown("Animated View"))
-        self.choose("ctrl+comma")
-        self.wait_for(lambda: self.active_window() == "Lurkwell Preferences")
+        def has_preferences():
+            # The view takes the keyboard some time after it is shown.
+            self.choose("ctrl+comma")
+            time.sleep(0.5)
+            return self.active_window() == "Lurkwell Preferences"
+        self.wait_for(has_preferences, tell=self.active_window)
 
     def answer_alert(self):
-        self.wait_for(lambda: self.active_window() == "lurkwell")
+        def has_keyboard():
+            # The view that it is about may come up over it.
+            self.output("xdotool", "search", "--onlyvisible", "--name", "^lurkwell$",
+                        "windowactivate")
+            time.sleep(0.2)
+            return self.active_window() == "lurkwell"
+        self.wait_for(has_keyboard, tell=self.windows)
         self.output("xdotool", "key", "Return")
 
     def change_a_preference(self):
