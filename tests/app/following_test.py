@@ -92,6 +92,25 @@ class Following(FollowedProgram):
             self.assertTrue(0 <= x < 1000 and 0 <= y < 800, (x, y))
         self.end_program(program)
 
+    def test_whoever_closes_the_last_window_quits(self):
+        self.open_display()
+        victim = self.start_victim()
+        program = self.start_program()
+        self.open_both(victim.pid)
+        self.type_keys("key", "ctrl+w")
+        self.wait_for(lambda: '"Processes"' not in self.windows() or
+                      self.active_window() != "Processes")
+        title = f"Logging lkwvictim pid:{victim.pid}"
+        self.output("xdotool", "search", "--name", f"^{title}$", "windowactivate")
+        self.wait_for(lambda: self.active_window() == title)
+        self.output("xdotool", "key", "ctrl+w")
+        self.wait_for(lambda: "log" not in self.places(victim.pid))
+        self.assertIsNone(program.poll())
+        self.click_history(victim.pid, 6, 6)
+        _, errors = program.communicate(timeout=20)
+        self.assertEqual(program.returncode, 0, errors)
+        self.check_nothing_is_left()
+
     def test_a_log_that_cannot_be_written_ends_nothing(self):
         self.open_display()
         # Something that logs a line at each reading.
