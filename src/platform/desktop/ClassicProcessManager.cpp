@@ -90,6 +90,8 @@ void ClassicProcessManager::Take(const QVariant& list) {
     guest.information = {name.left(kLongestName).toStdString(), *typeCode, *signatureCode, mode};
     if (mPlaces.emplace(guest.psn, mGuests.size()).second) mGuests.push_back(std::move(guest));
   }
+  // Without it the list's reader is never given back.
+  argument.endArray();
 }
 
 void ClassicProcessManager::Clear() {
