@@ -9,6 +9,7 @@
 #include <limits>
 #include <utility>
 
+#include "platform/ClassicEvents.h"
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/ProcFolder.h"
 
@@ -16,15 +17,6 @@ namespace lurkwell {
 namespace {
 
 using std::chrono::milliseconds;
-
-constexpr FourCharCode kEventClass = {'Z', 'r', 'v', 'q'};
-constexpr FourCharCode kControl = {'Z', 'r', 'v', '_'};
-constexpr FourCharCode kReport = {'Z', 'r', 'q', '0'};
-constexpr FourCharCode kRecords = {'Z', 'r', 'v', '#'};
-constexpr FourCharCode kServedProcess = {'Z', 'r', 'v', '1'};
-constexpr FourCharCode kSleepTicks = {'Z', 'r', 'v', '2'};
-constexpr FourCharCode kCoreEvents = {'a', 'e', 'v', 't'};
-constexpr FourCharCode kQuit = {'q', 'u', 'i', 't'};
 
 constexpr qsizetype kRecordSize = 396;
 constexpr std::int64_t kTicksPerSecond = 60;
@@ -55,8 +47,10 @@ Nub::Nub(DBusEventBus& events, std::function<void()> quit)
   connect(&mUnwanted, &QTimer::timeout, this, mQuit);
   mUnwanted.start(kLongestUnwanted);
   connect(&mNextReport, &QTimer::timeout, this, &Nub::Report);
-  mEvents.InstallEventHandler(kEventClass, kControl, [this](const Event& event) { Obey(event); });
-  mEvents.InstallEventHandler(kCoreEvents, kQuit, [this](const Event&) { mQuit(); });
+  mEvents.InstallEventHandler(classic_events::kClass, classic_events::kControl,
+                              [this](const Event& event) { Obey(event); });
+  mEvents.InstallEventHandler(classic_events::kCoreEvents, classic_events::kQuit,
+                              [this](const Event&) { mQuit(); });
 }
 
 /// A guest ends with its environment.
@@ -76,8 +70,8 @@ void Nub::Register() {
 }
 
 void Nub::Obey(const Event& control) {
-  const auto* served = control.Find<ProcessSerialNumber>(kServedProcess);
-  const auto* ticks = control.Find<std::int32_t>(kSleepTicks);
+  const auto* served = control.Find<ProcessSerialNumber>(classic_events::kServedProcess);
+  const auto* ticks = control.Find<std::int32_t>(classic_events::kSleepTicks);
   if (served == nullptr || ticks == nullptr) return;
   mUnwanted.stop();
   mServed = *served;
@@ -112,9 +106,11 @@ void Nub::SendRecords(const QByteArray& records) {
   const auto largest = static_cast<qsizetype>(DBusEventBus::kLargestEvent);
   const auto size = std::min(records.size(), largest) / kRecordSize * kRecordSize;
   const auto* start = reinterpret_cast<const std::byte*>(records.constData());
-  mEvents.Send(
-      mServedSender,
-      {kEventClass, kReport, {{kRecords, std::vector<std::byte>(start, start + size)}}, {}});
+  mEvents.Send(mServedSender,
+               {classic_events::kClass,
+                classic_events::kReport,
+                {{classic_events::kRecords, std::vector<std::byte>(start, start + size)}},
+                {}});
 }
 
 }  // namespace lurkwell

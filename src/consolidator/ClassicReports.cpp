@@ -9,15 +9,12 @@
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/ProcessReports.h"
+#include "platform/ClassicEvents.h"
 #include "platform/EventBus.h"
 #include "platform/Machine.h"
 
 namespace lurkwell {
 namespace {
-
-constexpr FourCharCode kEventClass = {'Z', 'r', 'v', 'q'};
-constexpr FourCharCode kReport = {'Z', 'r', 'q', '0'};
-constexpr FourCharCode kRecords = {'Z', 'r', 'v', '#'};
 
 ProcessSerialNumber SerialNumberOf(const std::byte* record) {
   ProcessSerialNumber psn;
@@ -53,11 +50,12 @@ void ReportRecords(std::span<const std::byte> data) {
 }  // namespace
 
 void ClassicPSNSetupProcessExtractionAppleEvent() {
-  TheMachine().eventBus.InstallEventHandler(kEventClass, kReport, HandleProcessInformationReport);
+  TheMachine().eventBus.InstallEventHandler(classic_events::kClass, classic_events::kReport,
+                                            HandleProcessInformationReport);
 }
 
 void HandleProcessInformationReport(const Event& event) {
-  const auto* data = event.Find<std::vector<std::byte>>(kRecords);
+  const auto* data = event.Find<std::vector<std::byte>>(classic_events::kRecords);
   if (data == nullptr) {
     std::printf("Apple Event Handler got an error! %d\n", EventBus::kNoSuchParameter);
     return;

@@ -9,6 +9,7 @@
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Assertion.h"
 #include "platform/Bundle.h"
+#include "platform/ClassicEvents.h"
 #include "platform/EventBus.h"
 #include "platform/Machine.h"
 #include "platform/Tools.h"
@@ -24,12 +25,6 @@ namespace {
 
 constexpr char kUnit[] = "ClassicWatchdog";
 constexpr FourCharCode kNubSignature = {'z', 'r', 'N', 'v'};
-constexpr FourCharCode kControlClass = {'Z', 'r', 'v', 'q'};
-constexpr FourCharCode kControl = {'Z', 'r', 'v', '_'};
-constexpr FourCharCode kServedProcess = {'Z', 'r', 'v', '1'};
-constexpr FourCharCode kSleepTicks = {'Z', 'r', 'v', '2'};
-constexpr FourCharCode kCoreEvents = {'a', 'e', 'v', 't'};
-constexpr FourCharCode kQuit = {'q', 'u', 'i', 't'};
 constexpr int kFileNotFound = -43;
 constexpr int kLaunchFailed = -10810;
 
@@ -156,10 +151,12 @@ void TurnOffClassicNub() {
 void AdjustClassicNub(bool on) {
   auto& machine = TheMachine();
   const auto ticks = GetPrefInt("CLASSIC_NUB_CONTROL_DEFAULT_SLEEP_TIX", nullptr, true, 120);
-  Event event{kControlClass, kControl, {}, {}};
+  Event event{classic_events::kClass, classic_events::kControl, {}, {}};
   event.parameters.push_back(
-      {kServedProcess, on ? machine.processManager.GetCurrentProcess() : ProcessSerialNumber{}});
-  event.parameters.push_back({kSleepTicks, on ? ticks : std::numeric_limits<std::int32_t>::max()});
+      {classic_events::kServedProcess,
+       on ? machine.processManager.GetCurrentProcess() : ProcessSerialNumber{}});
+  event.parameters.push_back(
+      {classic_events::kSleepTicks, on ? ticks : std::numeric_limits<std::int32_t>::max()});
   const auto status = machine.eventBus.Send(kNubSignature, event);
   if (status == EventBus::kNoSuchProcess) {
     gClassicWatchdogState = kClassicNubMissing;
@@ -172,7 +169,8 @@ void AdjustClassicNub(bool on) {
 }
 
 void KillClassicNub() {
-  TheMachine().eventBus.Send(kNubSignature, {kCoreEvents, kQuit, {}, {}});
+  TheMachine().eventBus.Send(kNubSignature,
+                             {classic_events::kCoreEvents, classic_events::kQuit, {}, {}});
 }
 
 }  // namespace lurkwell

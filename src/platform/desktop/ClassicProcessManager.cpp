@@ -7,6 +7,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include "platform/ClassicEvents.h"
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/EventMessage.h"
 
@@ -16,8 +17,6 @@ namespace {
 constexpr int kAnswerTimeout = 5000;
 constexpr int kShortestPause = 100;
 constexpr qsizetype kLongestName = 255;
-constexpr FourCharCode kCoreEvents = {'a', 'e', 'v', 't'};
-constexpr FourCharCode kQuit = {'q', 'u', 'i', 't'};
 constexpr char kListSignature[] = "a(uussus)";
 
 }  // namespace
@@ -140,7 +139,8 @@ ProcessSerialNumber ClassicProcessManager::GetCurrentProcess() {
 
 bool ClassicProcessManager::Quit(ProcessSerialNumber psn) {
   if (Find(psn) == nullptr) return mDesktop.Quit(psn);
-  return mEvents.Send(psn, {kCoreEvents, kQuit, {}, {}}) == EventBus::kNoError;
+  return mEvents.Send(psn, {classic_events::kCoreEvents, classic_events::kQuit, {}, {}}) ==
+         EventBus::kNoError;
 }
 
 // Guests have no windows of their own on this desktop, nor files that could be shown.
