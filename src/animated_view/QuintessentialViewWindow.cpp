@@ -13,6 +13,7 @@
 #include "animated_view/QuintessentialWindowDelegate.h"
 #include "animated_view/ViewDrawing.h"
 #include "main_window/FrontmostWindow.h"
+#include "main_window/WindowFrame.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
 #include "preferences/PreferencesRetrieval.h"
@@ -24,32 +25,9 @@ namespace {
 constexpr char kFrameKey[] = "QUIVA_WINDOW_FRAME";
 constexpr QSize kFirstSize(900, 640);
 constexpr QSize kSmallestSize(200, 150);
-/// So much of the window has to lie on a screen.
-constexpr int kGraspable = 40;
 
 bool HasTranslucentWindows() {
   return QGuiApplication::platformName() == QLatin1String("xcb");
-}
-
-/// "X Y WIDTH HEIGHT[ maximised]"; none when it makes no sense.
-QRect RememberedFrame(bool& isMaximised) {
-  char text[64] = "";
-  std::uint8_t found = 0;
-  GetPrefString(kFrameKey, text, sizeof text, &found, false, "");
-  int x = 0, y = 0, width = 0, height = 0;
-  if (found == 0 || std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4) return {};
-  if (width < 100 || height < 100 || width > 20000 || height > 20000) return {};
-  if (x < -20000 || y < -20000 || x > 100000 || y > 100000) return {};
-  isMaximised = std::string_view(text).ends_with(" maximised");
-  return {x, y, width, height};
-}
-
-bool IsGraspable(const QRect& frame) {
-  const QRect title(frame.x(), frame.y(), frame.width(), kGraspable);
-  return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen* screen) {
-    const auto seen = screen->availableGeometry() & title;
-    return seen.width() >= kGraspable && seen.height() >= kGraspable / 2;
-  });
 }
 
 }  // namespace
@@ -123,8 +101,7 @@ void QuintessentialViewWindow::setAlphaValue(double alpha) {
 }
 
 void QuintessentialViewWindow::RestoreFrame() {
-  bool isMaximised = false;
-  const QRect frame = RememberedFrame(isMaximised);
+  const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
   resize(frame.isValid() ? frame.size() : kFirstSize);
   if (!frame.isValid()) return;
   mNormalFrame = frame;
@@ -135,12 +112,7 @@ void QuintessentialViewWindow::RestoreFrame() {
 void QuintessentialViewWindow::SaveFrame() {
   if (isFullscreen() || !mNormalFrame.isValid() || !isVisible()) return;
   const bool fills = (windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0;
-  char text[64];
-  std::snprintf(text, sizeof text, "%d %d %d %d%s", mNormalFrame.x(), mNormalFrame.y(),
-                mNormalFrame.width(), mNormalFrame.height(), fills ? " maximised" : "");
-  char before[64] = "";
-  GetPrefString(kFrameKey, before, sizeof before, nullptr, false, "");
-  if (std::string_view(text) != before) SetPrefString(kFrameKey, text);
+  WriteWindowFrame(kFrameKey, mNormalFrame, fills);
 }
 
 // ---- Events -------------------------------------------------------------------------------------

@@ -16,6 +16,7 @@
 #include "main_window/MainToolbar.h"
 #include "main_window/PropertyText.h"
 #include "main_window/ToolbarCustomiseDialog.h"
+#include "main_window/WindowFrame.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
@@ -204,32 +205,19 @@ void MainWindow::ConfirmKill() {
 
 void MainWindow::RestoreFrame() {
   resize(kFirstSize);
-  char text[64] = "";
-  std::uint8_t found = 0;
-  GetPrefString(kFrameKey, text, sizeof text, &found, false, "");
-  int x = 0, y = 0, width = 0, height = 0;
-  if (found == 0 || std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4) return;
-  if (width < 100 || height < 100 || width > 20000 || height > 20000) return;
-  resize(width, height);
-  mNormalFrame = {x, y, width, height};
-  if (std::string_view(text).ends_with(" maximised")) setWindowState(Qt::WindowMaximized);
-  const QRect title(x, y, width, kGraspable);
-  for (const auto* screen : QGuiApplication::screens()) {
-    const auto seen = screen->availableGeometry() & title;
-    if (seen.width() >= kGraspable && seen.height() >= kGraspable / 2) return move(x, y);
-  }
+  const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
+  if (!frame.isValid()) return;
+  resize(frame.size());
+  mNormalFrame = frame;
+  if (isMaximised) setWindowState(Qt::WindowMaximized);
+  if (IsGraspable(frame)) move(frame.topLeft());
 }
 
 void MainWindow::SaveFrame() {
-  char text[64];
   const bool fills = isMaximized() || isFullScreen();
   // A maximised window comes back maximised, and at its former place when it is made smaller.
   if (!fills) mNormalFrame = {pos(), size()};
-  std::snprintf(text, sizeof text, "%d %d %d %d%s", mNormalFrame.x(), mNormalFrame.y(),
-                mNormalFrame.width(), mNormalFrame.height(), fills ? " maximised" : "");
-  char before[64] = "";
-  GetPrefString(kFrameKey, before, sizeof before, nullptr, false, "");
-  if (std::string_view(text) != before) SetPrefString(kFrameKey, text);
+  WriteWindowFrame(kFrameKey, mNormalFrame, fills);
 }
 
 bool MainWindow::event(QEvent* event) {

@@ -102,6 +102,7 @@ TEST(CatalogueTest, KeysAreComputedInKnownPlacesOnly) {
                                    "main_window/MainToolbar.cpp",
                                    "main_window/MainTableColumns.cpp",
                                    "main_window/SystemInfoToolbarItems.cpp",
+                                   "main_window/WindowFrame.cpp",
                                    "monitor_windows/CPUHistoryPreferences.cpp",
                                    "monitor_windows/LoggingPreferences.cpp",
                                    "monitor_windows/ProcessWatchdog.cpp"};
