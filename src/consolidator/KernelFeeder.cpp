@@ -10,6 +10,7 @@
 #include "consolidator/PropertyNeeds.h"
 #include "platform/Machine.h"
 #include "platform/ProcessTable.h"
+#include "process_control/DaemonCommunication.h"
 #include "process_control/ProcessActions.h"
 
 namespace lurkwell {
@@ -102,6 +103,7 @@ class KernelPass {
 }  // namespace
 
 void PIDExtractProcessInformation(TimeValue now) {
+  const DaemonConversation conversation;
   KernelPass pass(now);
   for (const auto& entry : TheMachine().processTable.Read()) {
     pass.Feed(entry);

@@ -101,6 +101,7 @@ constexpr Rule kRules[] = {
     {SYS_pidfd_send_signal, 1, {SIGTERM, SIGKILL, SIGSTOP, SIGCONT}, 4},
     {SYS_setpriority, 0, {PRIO_PROCESS}, 1},
     {SYS_ppoll, 1, {1}, 1},
+    {SYS_sched_setaffinity, 0, {0}, 1},
     {SYS_exit_group, -1, {}, 0},
 };
 

@@ -179,8 +179,18 @@ bool ParseStat(std::string_view text, StatFigures& figures, std::string_view& na
   figures.start = fields[22];
   figures.virtualSize = fields[23];
   figures.residentPages = fields[24];
+  figures.processor = static_cast<std::uint32_t>(fields[39]);
   figures.policy = static_cast<std::uint32_t>(fields[41]);
   return true;
+}
+
+bool ReadStat(const System& system, std::int32_t pid, StatFigures& figures) {
+  const int file = OpenProcessFile(system, pid, kStatFile);
+  if (file < 0) return false;
+  std::string_view name;
+  const bool read = ParseStat(Read(system, file), figures, name);
+  system.close(file);
+  return read;
 }
 
 bool AddFigures(const System& system, const Surroundings& surroundings, ProcessFiles& files,

@@ -13,6 +13,9 @@ namespace lurkwell::helper {
 /// any byte; it points into `text`.
 bool ParseStat(std::string_view text, StatFigures& figures, std::string_view& name);
 
+/// Opens, reads and closes the stat file of a process; false, and nothing written, when it cannot.
+bool ReadStat(const System& system, std::int32_t pid, StatFigures& figures);
+
 /// Adds one line a figure of the groups that `line` asks for, in a fixed order: property, pid and
 /// value, with a blank between. Figures that may not be read are 0; a process that does not exist
 /// adds no lines. Of one that has not run since it was last read, which its time on processors

@@ -10,10 +10,11 @@ namespace lurkwell::helper {
 /// The files of a process that figures come from.
 enum ProcessFile : unsigned { kStatFile, kStatusFile, kIoFile, kProcessFileCount };
 
-/// What /proc/PID/stat says of a process: the start in ticks since boot, sizes in bytes and pages.
+/// What /proc/PID/stat says of a process: the start in ticks since boot, sizes in bytes and pages,
+/// the processor that its first thread was on last.
 struct StatFigures {
   char state;
-  std::uint32_t policy;
+  std::uint32_t policy, processor;
   std::uint64_t minorFaults, majorFaults, userTicks, systemTicks, start, virtualSize, residentPages;
 };
 

@@ -1,5 +1,6 @@
 #include <errno.h>
 #include <fcntl.h>
+#include <sched.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
@@ -59,6 +60,13 @@ std::uint32_t Milliseconds() {
   return static_cast<std::uint32_t>(now.tv_sec * 1000 + now.tv_nsec / 1000000);
 }
 
+int StayOn(std::uint32_t processor) {
+  cpu_set_t processors;
+  CPU_ZERO(&processors);
+  CPU_SET(processor, &processors);
+  return OrError(sched_setaffinity(0, sizeof processors, &processors));
+}
+
 void Log(std::string_view line) {
   if (gLog >= 0 && write(gLog, line.data(), line.size()) < 0) return;
 }
@@ -66,7 +74,7 @@ void Log(std::string_view line) {
 }  // namespace
 
 const System kRealSystem = {OpenProcess, SignalProcess, SetNice,      OpenFile, ReadFile,
-                            Close,       RunTime,       Milliseconds, Log};
+                            Close,       RunTime,       Milliseconds, StayOn,   Log};
 
 /// A full log holds an action up for a moment only: the application waits 250 ms for its answer.
 void ConnectLog() {

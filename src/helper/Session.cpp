@@ -17,6 +17,8 @@ void Session::Begin(const System& system, const Surroundings& surroundings) {
   mSystem = &system;
   mSurroundings = surroundings;
   mFiles.Begin(system, surroundings);
+  mLastAsked = system.milliseconds() - 2 * kPause;
+  mProcessor = -1;
 }
 
 std::string_view Session::Answer(std::string_view request) {
@@ -44,9 +46,22 @@ bool Session::Continues(std::string_view request) const {
          mSystem->milliseconds() - mRequestBegun <= kYoung;
 }
 
+/// Two processes that take turns cost twice as much on two processors, each of which has to be
+/// woken by the other, as on one. The application stays where it is during a beat.
+void Session::JoinPeer() {
+  const std::uint32_t now = mSystem->milliseconds();
+  const bool begins = now - mLastAsked > kPause;
+  mLastAsked = now;
+  StatFigures peer;
+  if (!begins || !ReadStat(*mSystem, mSurroundings.peerPid, peer) || mProcessor == peer.processor)
+    return;
+  mProcessor = mSystem->stayOn(peer.processor) < 0 ? -1 : std::int64_t{peer.processor};
+}
+
 /// The answer stands in mAnswer from the request before; only the lines that are new are added. An
 /// answer that is full ends with the last process that fits whole.
 std::string_view Session::AnswerFigures(std::string_view request) {
+  JoinPeer();
   mFiles.Sweep();
   if (!Continues(request)) {
     mRequestSize = kFiguresHeader.size();

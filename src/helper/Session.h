@@ -27,6 +27,10 @@ class Session {
   /// not gathered again.
   static constexpr std::uint32_t kYoung = 250;
 
+  /// Requests that come closer together than this, in milliseconds, belong to one beat.
+  static constexpr std::uint32_t kPause = 50;
+
+  void JoinPeer();
   std::string_view AnswerFigures(std::string_view request);
   bool Continues(std::string_view request) const;
 
@@ -37,6 +41,9 @@ class Session {
   char mRequest[kRequestCapacity];
   std::size_t mRequestSize;
   std::uint32_t mRequestBegun;
+  /// When figures were asked last, and the processor the helper has put itself on, -1 for none.
+  std::uint32_t mLastAsked;
+  std::int64_t mProcessor;
   char mAnswer[kAnswerCapacity];
   std::size_t mAnswerSize;
 };

@@ -23,6 +23,8 @@ struct System {
   std::uint64_t (*runTime)(std::int32_t pid);
   /// Milliseconds since some moment before; wraps.
   std::uint32_t (*milliseconds)();
+  /// From now on the helper runs on this processor alone.
+  int (*stayOn)(std::uint32_t processor);
   /// One line for the system log; without effect where there is none.
   void (*log)(std::string_view line);
 };

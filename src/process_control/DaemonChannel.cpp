@@ -160,6 +160,14 @@ void NormalInternalLaunchDaemon(const char* helperPath, AuthorizationReference* 
   }
 }
 
+DaemonConversation::DaemonConversation() {
+  if (gFd_a2d >= 0) TheMachine().namedPipes.BeginExchanges();
+}
+
+DaemonConversation::~DaemonConversation() {
+  TheMachine().namedPipes.EndExchanges();
+}
+
 std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity) {
   *answer = '\0';
   if (gFd_a2d < 0 || capacity < 1) return -1;

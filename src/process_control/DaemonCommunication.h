@@ -38,6 +38,16 @@ void SetHelperUnprivileged(bool unprivileged);
 /// when it begins with "!Error". A closed channel costs nothing.
 std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity);
 
+/// Many requests follow while this exists; it makes them cheaper and changes nothing else. Not
+/// nested.
+class DaemonConversation {
+ public:
+  DaemonConversation();
+  ~DaemonConversation();
+  DaemonConversation(const DaemonConversation&) = delete;
+  DaemonConversation& operator=(const DaemonConversation&) = delete;
+};
+
 /// Closes the channel, which ends the helper, and starts no other. The result of the last close.
 int QuitHelperDaemon();
 

@@ -84,12 +84,17 @@ std::uint32_t Milliseconds() {
   return gSystem->milliseconds;
 }
 
+int StayOn(std::uint32_t processor) {
+  gSystem->processors.push_back(processor);
+  return 0;
+}
+
 void Log(std::string_view line) {
   gSystem->log.emplace_back(line);
 }
 
 constexpr System kCalls = {OpenProcess, SignalProcess, SetNice,      OpenFile, ReadFile,
-                           Close,       RunTime,       Milliseconds, Log};
+                           Close,       RunTime,       Milliseconds, StayOn,   Log};
 
 }  // namespace
 

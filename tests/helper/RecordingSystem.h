@@ -32,6 +32,8 @@ class RecordingSystem {
   /// Each signal and change of a nice value: "signal 12 15", "nice 12 -5".
   std::vector<std::string> effects;
   std::vector<std::string> log;
+  /// Each processor that the helper has put itself on.
+  std::vector<std::uint32_t> processors;
   /// Each file opened, and how many descriptors are open now.
   std::vector<std::string> opened;
   std::map<int, std::string> open;

@@ -167,7 +167,8 @@ TEST_F(SessionTest, FiguresComeFromTheFilesOfTheAskedGroups) {
       .io = "rchar: 9\nwchar: 9\nsyscr: 100\nsyscw: 11\n"};
   EXPECT_EQ(Figures("pid_internal_thread_time 70\n"),
             "pid_user_time 70 12.340000\npid_system_time 70 0.070000\n");
-  EXPECT_EQ(mMachine.opened, (Effects{"/proc/70/stat"}));
+  // The first is the application's, for its processor.
+  EXPECT_EQ(mMachine.opened, (Effects{"/proc/60/stat", "/proc/70/stat"}));
   EXPECT_EQ(Figures("pid_internal_basic_info_events_info 70\npid_internal_events_info 71\n"
                     "pid_internal_thread_time_events_info 0\n"),
             "pid_vsz 70 9007199254740993\npid_rsz 70 12288\npid_suspend_count 70 1\n"
@@ -276,6 +277,29 @@ TEST_F(SessionTest, FilesStayOpenWithinTheLimitAndFollowTheProcess) {
   mMachine.processes.erase(100);
   EXPECT_EQ(Figures("pid_internal 100\n"), "!Error no such process\n");
   EXPECT_TRUE(mMachine.open.empty());
+}
+
+TEST_F(SessionTest, ABeatIsAnsweredOnTheProcessorOfTheApplication) {
+  using Processors = std::vector<std::uint32_t>;
+  auto& peer = mMachine.processes[60].fields[39];
+  peer = "3";
+  Figures("pid_internal 70\n");
+  peer = "0";
+  for (int request = 0; request < 5; ++request) {
+    mMachine.milliseconds += 40;
+    Figures("pid_internal 70\n");
+  }
+  EXPECT_EQ(mMachine.processors, Processors{3});
+  for (int beat = 0; beat < 3; ++beat) {
+    mMachine.milliseconds += 1000;
+    Figures("pid_internal 70\n");
+  }
+  EXPECT_EQ(mMachine.processors, (Processors{3, 0}));
+  mMachine.processes.erase(60);
+  mMachine.milliseconds += 1000;
+  Figures("pid_internal 70\n");
+  EXPECT_EQ(mMachine.processors.size(), 2u);
+  EXPECT_EQ(mMachine.open.size(), 1u);
 }
 
 TEST_F(SessionTest, NoAnswerIsLongerThanOneReadAndEachEndsWithAWholeProcess) {

@@ -163,6 +163,20 @@ std::ptrdiff_t LinuxNamedPipes::Read(int descriptor, std::span<char> buffer, Mil
   }
 }
 
+void LinuxNamedPipes::BeginExchanges() {
+  cpu_set_t all, here;
+  const int processor = ::sched_getcpu();
+  if (processor < 0 || ::sched_getaffinity(0, sizeof all, &all) != 0 || CPU_COUNT(&all) < 2) return;
+  CPU_ZERO(&here);
+  CPU_SET(static_cast<std::size_t>(processor), &here);
+  if (::sched_setaffinity(0, sizeof here, &here) == 0) mProcessors = all;
+}
+
+void LinuxNamedPipes::EndExchanges() {
+  if (mProcessors) ::sched_setaffinity(0, sizeof *mProcessors, &*mProcessors);
+  mProcessors.reset();
+}
+
 int LinuxNamedPipes::Close(int descriptor) {
   return descriptor < 0 ? -1 : ::close(descriptor);
 }
