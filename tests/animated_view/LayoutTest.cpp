@@ -97,50 +97,6 @@ TEST(Layout, BodiesAtOneSpotPushFarButFinitely) {
   EXPECT_LT(fy, 0);
 }
 
-TEST(Layout, MirroredRecordsStayMirrored) {
-  QipiList list;
-  list.PushBack(Record(1, 0.45, 0.5));
-  list.PushBack(Record(2, 0.55, 0.5));
-  for (int i = 0; i < 50; ++i) DisIsRevoltin(list, false);
-  const Info& left = *list.Find(1);
-  const Info& right = *list.Find(2);
-  EXPECT_LT(left.x, 0.45);
-  // Bodies in one line push a little to the left and down: what is not apart counts as 0.0001.
-  EXPECT_NEAR(left.x, 1.0 - right.x, 1e-4);
-}
-
-TEST(Layout, ALoneRecordComesToTheCentre) {
-  QipiList list;
-  list.PushBack(Record(1, 0.02, 0.97));
-  for (int i = 0; i < 40000; ++i) DisIsRevoltin(list, false);
-  EXPECT_NEAR(list.front().x, 0.5, 0.01);
-  EXPECT_NEAR(list.front().y, 0.5, 0.01);
-}
-
-TEST(Layout, StepsAreShortAndStayInside) {
-  for (const bool boost : {false, true}) {
-    QipiList list = Population(3, 150);
-    for (auto& info : list) info.weight = 8.5;
-    for (int step = 0; step < 20; ++step) {
-      std::vector<std::pair<double, double>> before;
-      for (const auto& info : list) before.emplace_back(info.x, info.y);
-      DisIsRevoltin(list, boost);
-      auto was = before.begin();
-      for (const auto& info : list) {
-        ASSERT_TRUE(info.x >= 0.001 && info.x <= 0.999 && info.y >= 0.001 && info.y <= 0.999);
-        const double limit = (boost ? 0.1 : 0.01) + 1e-12;
-        const bool wasInside =
-            was->first > 0.001 && was->first < 0.999 && was->second > 0.001 && was->second < 0.999;
-        if (wasInside) {
-          ASSERT_LE(std::abs(info.x - was->first), limit);
-          ASSERT_LE(std::abs(info.y - was->second), limit);
-        }
-        ++was;
-      }
-    }
-  }
-}
-
 TEST(Placement, FindsThePlainSearchsPlaces) {
   for (unsigned seed = 1; seed <= 12; ++seed) {
     SCOPED_TRACE(seed);

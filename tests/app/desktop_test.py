@@ -7,7 +7,7 @@ import signal
 import subprocess
 import unittest
 
-from desktop_support import BINARY, Desktop, helpers, png_size
+from desktop_support import BINARY, Desktop, png_size
 
 
 class Shell(Desktop):
@@ -51,30 +51,6 @@ class Shell(Desktop):
                                   text=True, timeout=60, check=False)
             self.assertEqual(done.returncode, 2, words)
             self.assertIn("--help", done.stderr)
-
-    def test_signals_and_the_last_window_end_it_in_order(self):
-        self.open_display()
-        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP, None):
-            program = self.start([BINARY, "--unprivileged"])
-            self.wait_for(lambda: '"Processes"' in self.windows())
-            self.wait_for(lambda: helpers() - self.helpers_before)
-            if number is None:
-                self.type_keys("key", "ctrl+w")
-            else:
-                program.send_signal(number)
-            _, errors = program.communicate(timeout=20)
-            self.assertEqual(program.returncode, 0, errors)
-            self.assertEqual(self.preferences()["DEFAULT_SHOW_PROCESS_LIST_WINDOW"], 1)
-            self.assertEqual(len(self.preferences()["MAIN_WINDOW_COLUMNS"]), 7)
-            self.check_nothing_is_left()
-
-    def test_a_lost_display_ends_it_without_leftovers(self):
-        server = self.open_display()
-        program = self.start([BINARY, "--unprivileged"])
-        self.wait_for(lambda: '"Processes"' in self.windows())
-        server.terminate()
-        program.communicate(timeout=20)
-        self.wait_for(lambda: helpers() <= self.helpers_before)
 
     def test_a_key_kills_what_was_selected_after_asking(self):
         self.open_display()

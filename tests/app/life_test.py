@@ -157,6 +157,8 @@ class Life(FollowedProgram):
                 self.program.communicate(timeout=20)
                 if way not in ("lost display", "SIGTERM at once"):
                     self.assertEqual(self.program.returncode, 0)
+                    self.assertEqual(self.setting("DEFAULT_SHOW_PROCESS_LIST_WINDOW"), 1)
+                    self.assertEqual(len(self.setting("MAIN_WINDOW_COLUMNS")), 7)
                 self.wait_for(lambda: not self.processes_of_session())
                 self.wait_for(lambda: helpers() <= self.helpers_before)
                 if way == "lost display":

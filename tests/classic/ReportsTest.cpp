@@ -5,6 +5,7 @@
 
 #include "classic/ClassicRecords.h"
 #include "consolidator/ClassicReports.h"
+#include "preferences/PreferencesRetrieval.h"
 #include "support/ConsolidatorTest.h"
 
 namespace lurkwell {
@@ -42,6 +43,10 @@ TEST_F(ClassicReports, GuestsLiveAsLongAsTheDesktopListsThem) {
   Report(ClassicBytes({0, 0}, "Nobody", 1));
   Report(ClassicBytes({7, 7}, "Unlisted", 1));
   EXPECT_EQ(Value(-3, "meta_kind"), "Classic");
+  // Nor is anything known of a process of the kernel's from here.
+  machine.processManager.Launch({5, 1}, 1, "Application");
+  Report(ClassicBytes({5, 1}, "Claims", 1));
+  EXPECT_EQ(Value(1, "classicpsn_name"), "()");
   // Came and went between two heartbeats: nobody hears of it.
   EXPECT_EQ(Told(1000), "client updated\n");
   EXPECT_EQ(Value(-3, "meta_kind"), "[]");
@@ -97,6 +102,38 @@ TEST_F(ClassicReports, TheEstimateIsExactToTheMicrosecond) {
   second(900, 10);
   EXPECT_EQ(Value(-2, "meta_active_time"), "18.039005");
   EXPECT_EQ(Value(-3, "meta_active_time"), "0.000001");
+}
+
+TEST_F(ClassicReports, OneEnvironmentIsMeasuredAtATime) {
+  machine.processTable.Birth(300, "TruBlueEnv").UseCPU(1'000'000);
+  machine.processTable.Birth(301, "TruBlueToo").UseCPU(500);
+  machine.processManager.Launch({2, 1}, std::nullopt, "Busy");
+  StartClassic();
+  Add("client", 1000).NeedsEverything();
+  std::uint32_t ticks = 0;
+  const auto usedAfter = [&](int seconds) {
+    for (int i = 0; i < seconds; ++i) {
+      for (const int pid : {300, 301, 302})
+        if (auto* environment = machine.processTable.Find(pid)) environment->UseCPU(100);
+      machine.runLoop.RunFor(1000);
+      Report(ClassicBytes({2, 1}, "Busy", ticks += 60));
+    }
+    return std::stod(Value(-2, "meta_active_time"));
+  };
+  constexpr double kSecond = 60 * 0.1 / 60.25;
+  EXPECT_NEAR(usedAfter(10), 9 * kSecond, 0.001);
+  machine.processTable.Death(301);
+  EXPECT_NEAR(usedAfter(10), 19 * kSecond, 0.001);
+  // A new one, with preferences out of range: as it was, then a whole processor, then at once 0.1.
+  SetPrefDouble("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", 1e30);
+  SetPrefDouble("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", 1e30);
+  machine.processTable.Death(300);
+  machine.processTable.Birth(302, "TruBlueEnv").UseCPU(10);
+  EXPECT_NEAR(usedAfter(2), 30 * kSecond, 0.001);
+  EXPECT_NEAR(usedAfter(10), 40 * kSecond, 0.001);
+  // Misread once: neither taken back nor counted.
+  machine.processTable.Find(302)->userTime = {0, 1};
+  EXPECT_NEAR(usedAfter(2), 42 * kSecond, 0.001);
 }
 
 TEST_F(ClassicReports, ABeatThatReadsNoTimesMeasuresNothing) {

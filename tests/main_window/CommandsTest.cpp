@@ -83,6 +83,22 @@ TEST_F(CommandsTest, EachKillIsHarsherThanTheOneBefore) {
             "Helper Lkw Action Request:\\nkill_harsh 300\nSignals.Send 301 15\n");
 }
 
+// The table is not due yet when another client hears of the end; numbers beyond 127 are forgotten.
+TEST_F(CommandsTest, AGuestThatHasEndedIsNotAskedToQuit) {
+  for (std::uint32_t i = 1; i <= 130; ++i)
+    machine.processManager.Launch({9, i}, std::nullopt, "Guest");
+  OpenWith({300});
+  Select({-131});
+  Add("other", 100);
+  machine.processManager.Remove({9, 130});
+  Turn(200);
+  ASSERT_EQ(Selected(), "-131");
+  ASSERT_EQ(Value(-131, "meta_pid"), "[]");
+  machine.log.Clear();
+  Choose("menu_process_quit_or_kill");
+  EXPECT_EQ(Done(), "");
+}
+
 TEST_F(CommandsTest, DeleteAsksFirstAndNamesTheProcess) {
   OpenWith({300, 301});
   Select({300});
