@@ -46,8 +46,8 @@ def may_include(file, folder, included):
     if folder == included:
         return True
     if folder == "classic_nub":
-        # Speaks on the desktop's bus, and has nothing else of the machine.
-        return included in {"platform", "platform/desktop"}
+        # Speaks on the desktop's bus; of the kernel's it has handles, which are headers.
+        return included in {"platform", "platform/desktop", "platform/linux"}
     if folder in PROGRAMS or included in PROGRAMS:
         return False
     if included in MACHINES:

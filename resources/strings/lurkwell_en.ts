@@ -1679,6 +1679,14 @@
         <source></source>
         <translation>The helper is not running: figures beyond the process table are missing.</translation>
     </message>
+    <message id="main_window_help_missing">
+        <source></source>
+        <translation>Nothing could be started that shows the help page, %1.</translation>
+    </message>
+    <message id="main_window_stale_tip">
+        <source></source>
+        <translation>The last update brought no figures for this column; these are older ones.</translation>
+    </message>
     <message id="main_window_by_id_title">
         <source></source>
         <translation>Find Process by ID</translation>
@@ -2865,7 +2873,7 @@ Free: %5</translation>
     </message>
     <message id="setting_vqMainTableToolbarIdentifierTarvikTemp14_DISPLAY_MODE">
         <source></source>
-        <translation>What the main window's toolbar shows: 0 the desktop's usual way, 1 pictures and names, 2 pictures, 3 names.</translation>
+        <translation>What the main window's toolbar shows: 0 or 1 pictures and names, 2 pictures, 3 names.</translation>
     </message>
     <message id="setting_vqMainTableToolbarIdentifierTarvikTemp14_SHOWN">
         <source></source>

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 #include <string_view>
 
@@ -22,33 +21,19 @@ constexpr double kHighestRatio = 4.0;
 constexpr double kNoticeableFactor = 0.0001;
 constexpr double kLargestFactor = 1000.0;
 
-struct CPUTime {
-  std::int32_t seconds;
-  std::int32_t microseconds;
-};
-
 /// None, whatever else the file says, where it is no factor to draw with.
 double ReadTarvikFactor() {
   const double factor = GetPrefDouble("QUINT_TARVIK_FACTOR", nullptr, false, 0.0);
   return std::isfinite(factor) && factor <= kLargestFactor ? factor : 0.0;
 }
 
-bool ReadActiveTime(std::int32_t pid, CPUTime& time) {
-  char text[64];
-  return GetPIDPropertyValue(pid, kActiveTime, text, sizeof text, nullptr) &&
-         std::sscanf(text, "%d.%d", &time.seconds, &time.microseconds) == 2;
+double SecondsSinceLast(const QuintessentialInformationProcessInfo& info, TimeValue time) {
+  return info.pid == 0 ? 0.0 : std::max(SecondsBetween(*info.lastActive, time), 0.0);
 }
 
-double MillisecondsSinceLast(const QuintessentialInformationProcessInfo& info, CPUTime time) {
-  if (info.pid == 0) return 0.0;
-  const double seconds = static_cast<double>(time.seconds) - info.lastActiveSeconds;
-  const double microseconds = static_cast<double>(time.microseconds) - info.lastActiveMicroseconds;
-  return std::max(seconds * 1000.0 + microseconds / 1000.0, 0.0);
-}
-
-double TargetWeight(const QuintessentialInformationProcessInfo& info, CPUTime time, double wall,
+double TargetWeight(const QuintessentialInformationProcessInfo& info, TimeValue time, double wall,
                     double tarvikFactor) {
-  double ratio = MillisecondsSinceLast(info, time) / wall;
+  double ratio = SecondsSinceLast(info, time) / wall;
   if (ratio > 0) ratio += kBusyBonus;
   ratio = std::min(ratio, kHighestRatio);
   const std::string_view name(info.name);
@@ -88,17 +73,13 @@ bool QuintessentialHelperCPUWatcher::IsWatching() const {
 void QuintessentialHelperCPUWatcher::NotifyProcessesHaveBeenUpdated() {
   if (!IsWatching()) return;
   const TimeValue now = TheMachine().clock.Now();
-  const double wall = std::max(static_cast<double>(now.seconds - mPreviousPass.seconds) * 1000.0 +
-                                   (now.microseconds - mPreviousPass.microseconds) / 1000.0,
-                               1.0);
+  const double wall = std::max(SecondsBetween(mPreviousPass, now), 0.001);
   const CriticalRegion::Guard guard(gQuintessentialMutex);
   for (auto& info : mOwner->qipiList()) {
-    CPUTime time{};
-    if (!ReadActiveTime(info.pid, time)) continue;
-    if (info.lastActiveSeconds >= 0)
-      info.targetWeight = TargetWeight(info, time, wall, mTarvikFactor);
-    info.lastActiveSeconds = time.seconds;
-    info.lastActiveMicroseconds = time.microseconds;
+    const auto time = ActiveTimeOf(info.pid);
+    if (!time) continue;
+    if (info.lastActive) info.targetWeight = TargetWeight(info, *time, wall, mTarvikFactor);
+    info.lastActive = time;
   }
   mPreviousPass = now;
 }

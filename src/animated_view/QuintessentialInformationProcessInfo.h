@@ -4,10 +4,12 @@
 #include <cstdint>
 #include <list>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 
 #include "platform/IconServices.h"
+#include "platform/TimeValue.h"
 
 namespace lurkwell {
 
@@ -23,9 +25,8 @@ struct QuintessentialInformationProcessInfo {
   /// The charge in the force law and the factor of the icon's size; eases towards targetWeight.
   double weight = 0.4;
   double targetWeight = 0.6;
-  /// CPU time at the previous reading; -1 before the first.
-  std::int32_t lastActiveSeconds = -1;
-  std::int32_t lastActiveMicroseconds = 0;
+  /// CPU time at the previous reading.
+  std::optional<TimeValue> lastActive;
   /// Where the step under way takes it; 0 between steps.
   double nextX = -1.0;
   double nextY = -1.0;

@@ -91,18 +91,22 @@ bool ColumnsOutputClient::NeedPidProcProperty(int, const char* property) {
 
 void ColumnsOutputClient::NotifyProcessesHaveBeenUpdated() {
   const auto rows = ReadRows(mColumns);
-  std::vector<int> widths;
+  std::vector<std::size_t> widths;
+  std::vector<bool> areTexts;
   for (std::size_t i = 0; i < mColumns.size(); ++i) {
     std::size_t width = mColumns[i].size();
-    for (const auto& row : rows) width = std::max(width, row.values[i].size());
-    const bool isText = GetProcPropertyType(mColumns[i].c_str(), nullptr) == kPropertyTypeString;
-    widths.push_back(isText ? -static_cast<int>(width) : static_cast<int>(width));
+    for (const auto& row : rows) width = std::max(width, CountCharacters(row.values[i]));
+    widths.push_back(width);
+    areTexts.push_back(GetProcPropertyType(mColumns[i].c_str(), nullptr) == kPropertyTypeString);
   }
   const auto print = [&](const std::vector<std::string>& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
+      const std::string blanks(widths[i] - CountCharacters(values[i]), ' ');
       // Nothing stands behind the last column's text.
-      const bool pad = i + 1 < values.size() || widths[i] > 0;
-      std::printf(" %*s", pad ? widths[i] : 0, values[i].c_str());
+      const bool isLast = i + 1 == values.size();
+      const std::string cell =
+          areTexts[i] ? values[i] + (isLast ? "" : blanks) : blanks + values[i];
+      std::printf(" %s", cell.c_str());
     }
     std::putchar('\n');
   };

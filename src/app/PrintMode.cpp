@@ -1,6 +1,7 @@
 #include "app/PrintMode.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <functional>
@@ -8,6 +9,7 @@
 #include "app/ColumnsOutputClient.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/PrintfOutputClient.h"
+#include "consolidator/ProcessInformationFeederPS.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
@@ -75,6 +77,8 @@ int RunPrintMode(const CommandLine& commandLine) {
     DestroyProcessInformationConsolidator();
     return kExitUsage;
   }
+  // The first listing has the columns of ps, too.
+  SetPSPatience(std::chrono::seconds(1));
   SetHelperUnprivileged(commandLine.unprivileged);
   LaunchHelperDaemon();
   EndOfPrinting end(commandLine.count);

@@ -141,6 +141,11 @@ void ApplyTheme(CommandLine::Theme theme) {
   if (theme == CommandLine::Theme::kSystem) return;
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(theme == CommandLine::Theme::kDark ? DarkPalette() : LightPalette());
+  if (theme != CommandLine::Theme::kDark) return;
+  // The style draws an empty box by its ground alone.
+  auto boxes = DarkPalette();
+  boxes.setColor(QPalette::Base, QColor(124, 128, 136));
+  for (const char* kind : {"QCheckBox", "QRadioButton"}) QApplication::setPalette(boxes, kind);
 }
 
 /// Registered while the program runs; does nothing after its regular end.

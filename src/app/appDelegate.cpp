@@ -10,8 +10,10 @@
 #include "animated_view/flowcontrolfsm.h"
 #include "app/SplashScreen.h"
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/FrontmostWindow.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "monitor_windows/ClassicWatchdog.h"
+#include "monitor_windows/FloatingWindow.h"
 #include "monitor_windows/ProcessWatchdog.h"
 #include "monitor_windows/RememberedWindows.h"
 #include "monitor_windows/SystemWideInfo.h"
@@ -170,10 +172,7 @@ void vqAppDelegate::doAboutPanel() {
 }
 
 void vqAppDelegate::doShowMainWindow() {
-  fMainWindow->setWindowState(fMainWindow->windowState() & ~Qt::WindowMinimized);
-  fMainWindow->show();
-  fMainWindow->raise();
-  fMainWindow->activateWindow();
+  BringToFront(*fMainWindow);
 }
 
 void vqAppDelegate::CheckGraphicsOnce() {
@@ -205,21 +204,36 @@ void vqAppDelegate::doToggleQuintessentialViewFullScreen() {
 }
 
 bool vqAppDelegate::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() == QEvent::Close && object->isWidgetType() && isRunning()) {
-    // Not before it is closed.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-          if (isRunning() && !IsAnythingVisibleBut(nullptr)) doQuit();
-        },
-        Qt::QueuedConnection);
-  }
+  if (event->type() == QEvent::Close && object->isWidgetType())
+    OnceNothingIsVisible(&vqAppDelegate::doQuit);
+  if (event->type() == QEvent::Hide && qobject_cast<FloatingWindow*>(object) != nullptr)
+    OnceNothingIsVisible(&vqAppDelegate::ComeBack);
   if (event->type() != QEvent::Quit) return false;
   doQuit();
   return true;
 }
 
+void vqAppDelegate::OnceNothingIsVisible(void (vqAppDelegate::*then)()) {
+  if (!isRunning()) return;
+  // Not before the window has gone.
+  QMetaObject::invokeMethod(
+      this,
+      [this, then] {
+        if (isRunning() && !mIsQuitting && !IsAnythingVisibleBut(nullptr)) (this->*then)();
+      },
+      Qt::QueuedConnection);
+}
+
+void vqAppDelegate::ComeBack() {
+  // Unasked, it takes the keyboard from no other program.
+  const bool isActive = QGuiApplication::applicationState() == Qt::ApplicationActive;
+  fMainWindow->setAttribute(Qt::WA_ShowWithoutActivating, !isActive);
+  fMainWindow->show();
+  fMainWindow->setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
 void vqAppDelegate::doQuit() {
+  mIsQuitting = true;
   TheMachine().runLoop.Stop();
 }
 

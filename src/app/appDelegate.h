@@ -58,7 +58,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   MonitorWindowKinds& monitorWindows() { return mFollowingWindows; }
 
   /// The desktop asks programs to quit by an event that would close the windows first, as if the
-  /// user had done it. And whoever closes the last window quits.
+  /// user had done it. Whoever closes the last window quits; when it goes because its process has
+  /// ended, the main window comes.
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
@@ -66,11 +67,14 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void ShowSomething();
   void KeepArrangement();
   void CheckGraphicsOnce();
+  void OnceNothingIsVisible(void (vqAppDelegate::*then)());
+  void ComeBack();
   bool IsAnythingVisibleBut(const QWidget* window) const;
 
   Launch mLaunch;
   bool mIsRunning = false;
   bool mHasLaunched = false;
+  bool mIsQuitting = false;
   /// Until the watchdog has brought back what it remembers.
   std::unique_ptr<RunLoopTimer> mFirstLook;
   /// Serves the main window and the watchdog, which go before it.

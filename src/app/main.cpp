@@ -1,8 +1,11 @@
 #include <QApplication>
+#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
+#include <utility>
 
 #include "app/CommandLine.h"
 #include "app/PrintMode.h"
@@ -26,12 +29,31 @@
 namespace lurkwell {
 namespace {
 
+/// The user's settings for a run that stores none: what is set counts until its end.
+class UnstoredPreferences final : public PreferenceDomain {
+ public:
+  const PreferenceValue* Value(std::string_view key) override { return mStored.Value(key); }
+  void SetValue(std::string_view key, PreferenceValue value) override {
+    mStored.SetValue(key, std::move(value));
+  }
+  void RemoveValue(std::string_view key) override { mStored.RemoveValue(key); }
+  bool Synchronize() override { return true; }
+
+ private:
+  PropertyListDomain mStored;
+};
+
+std::unique_ptr<PreferenceDomain> PreferencesFor(bool isKept) {
+  if (isKept) return std::make_unique<PropertyListDomain>();
+  return std::make_unique<UnstoredPreferences>();
+}
+
 /// This machine with its desktop. Main thread; a QApplication exists.
 class DesktopMachine {
  public:
   enum class Use {
     kBySomebody,
-    /// A picture is taken without asking anybody anything.
+    /// A picture is taken without asking anybody anything, or leaving anything behind.
     kForPicture,
   };
 
@@ -46,7 +68,8 @@ class DesktopMachine {
  public:
   LinuxClock clock;
   QtRunLoop runLoop{clock};
-  PropertyListDomain preferenceDomain;
+  std::unique_ptr<PreferenceDomain> preferences = PreferencesFor(MayAsk());
+  PreferenceDomain& preferenceDomain = *preferences;
   LinuxProcessTable processTable;
   DesktopProcessManager processManager{DesktopSettings::FromEnvironment()};
   DesktopIconServices iconServices{processManager};
@@ -124,11 +147,18 @@ bool BecomeTheInstance(RunningInstance& instance) {
 }
 
 int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
+  if (commandLine.count || !commandLine.columns.empty()) {
+    std::fprintf(stderr, "lurkwell: %s needs --print\nTry 'lurkwell --help'.\n",
+                 commandLine.count ? "--count" : "--columns");
+    return kExitUsage;
+  }
   EndingSignals signals;
   HaveNoBusStarted();
   QApplication::setApplicationName(QStringLiteral("lurkwell"));
   QApplication::setDesktopFileName(QStringLiteral("com.velquarin.lurkwell"));
   QApplication application(argc, argv);
+  // Qt takes the user's language for texts; numbers are read and written with a point.
+  std::setlocale(LC_NUMERIC, "C");
   const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot;
   if (commandLine.screenshot) {
     NeverRestartWithSession(application);

@@ -73,12 +73,28 @@ void Nub::Obey(const Event& control) {
   const auto* served = control.Find<ProcessSerialNumber>(classic_events::kServedProcess);
   const auto* ticks = control.Find<std::int32_t>(classic_events::kSleepTicks);
   if (served == nullptr || ticks == nullptr) return;
-  mUnwanted.stop();
   mServed = *served;
   mServedSender = control.sender;
-  if (mServed.IsNone()) return mNextReport.stop();
+  if (mServed.IsNone()) return Rest();
+  mUnwanted.stop();
+  WatchServedProcess();
   mNextReport.start(SleepOf(*ticks));
   Report();
+}
+
+void Nub::Rest() {
+  mServedEnds.reset();
+  mNextReport.stop();
+  mUnwanted.start(kLongestUnwanted);
+}
+
+/// However long it sleeps, it hears of the end. Without pidfds it does with the next report.
+void Nub::WatchServedProcess() {
+  mServedEnds.reset();
+  mServedHandle = OpenProcessHandle(static_cast<pid_t>(mServed.low));
+  if (!mServedHandle.IsOpen()) return;
+  mServedEnds = std::make_unique<QSocketNotifier>(mServedHandle.Get(), QSocketNotifier::Read);
+  connect(mServedEnds.get(), &QSocketNotifier::activated, this, mQuit);
 }
 
 bool Nub::ServedProcessIsThere() const {

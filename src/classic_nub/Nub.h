@@ -1,19 +1,22 @@
 #pragma once
 
 #include <QObject>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "platform/EventBus.h"
 #include "platform/desktop/DBusEventBus.h"
+#include "platform/linux/ProcessHandle.h"
 
 namespace lurkwell {
 
 /// A guest of the Classic environment that tells one program, again and again, what the environment
 /// says of its guests. Whom and how often is what the last control event said. It ends when it is
-/// asked to quit, when the environment or the program that it serves has gone, and when nobody
-/// wants to be served for a minute after its start. Main thread only.
+/// asked to quit, when the environment or the program that it serves has gone, and when nobody has
+/// wanted to be served for a minute. Main thread only.
 class Nub final : public QObject {
  public:
   Nub(DBusEventBus& events, std::function<void()> quit);
@@ -22,6 +25,8 @@ class Nub final : public QObject {
   void Follow();
   void Register();
   void Obey(const Event& control);
+  void Rest();
+  void WatchServedProcess();
   void Report();
   void SendRecords(const QByteArray& records);
   bool ServedProcessIsThere() const;
@@ -34,6 +39,8 @@ class Nub final : public QObject {
   QTimer mNextReport;
   ProcessSerialNumber mServed;
   std::string mServedSender;
+  FileDescriptor mServedHandle;
+  std::unique_ptr<QSocketNotifier> mServedEnds;
   bool mIsAsking = false;
   bool mHasHadEnvironment = false;
 };

@@ -1,5 +1,7 @@
 #include "consolidator/ClassicEstimate.h"
 
+#include <algorithm>
+
 #include "consolidator/MetaProcessInformation.h"
 #include "preferences/PreferencesRetrieval.h"
 
@@ -8,27 +10,40 @@ namespace {
 
 /// Ticks in a second, a little above the rate of the tick itself.
 constexpr double kTicksPerSecond = 60.25;
+constexpr double kMostProcessors = 8192;
+/// Longer than any process runs; sums of such times stay numbers.
+constexpr std::int64_t kMostSeconds = std::int64_t{1} << 53;
 
 double Seconds(TimeValue time) {
   return static_cast<double>(time.seconds) + time.microseconds / 1e6;
 }
 
+/// A share between 0 and 1, whatever the file says.
+double PreferredShare(const char* key, double usual) {
+  const double share = GetPrefDouble(key, nullptr, true, usual);
+  return share > 0 ? std::min(share, 1.0) : 0;
+}
+
 }  // namespace
 
-void ClassicEstimate::MeasureEnvironment(TimeValue activeTime, TimeValue now) {
-  if (mPreviousActiveTime.IsZero() && mPreviousMeasurement.IsZero()) {
-    gTruBlueFilteredCPUUsage =
-        GetPrefDouble("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", nullptr, true, 0.1);
+void ClassicEstimate::MeasureEnvironment(ProcessIdentity process, TimeValue activeTime,
+                                         TimeValue now) {
+  if (activeTime.IsZero()) return;
+  if (process != mEnvironment) {
+    gTruBlueFilteredCPUUsage = PreferredShare("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", 0.1);
   } else {
     const auto elapsed = MillisecondsBetween(mPreviousMeasurement, now);
     // Two measurements within one millisecond say nothing.
-    if (elapsed <= 0) return;
+    if (elapsed == 0) return;
     const double consumed = Seconds(activeTime) - Seconds(mPreviousActiveTime);
-    const double usage = consumed / (static_cast<double>(elapsed) / 1000.0);
-    gTruBlueFilteredCPUUsage +=
-        (usage - gTruBlueFilteredCPUUsage) *
-        GetPrefDouble("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", nullptr, true, 0.05);
+    // Clocks are set back, and times that were misread come right again.
+    if (elapsed > 0 && consumed >= 0) {
+      const double usage = consumed / (static_cast<double>(elapsed) / 1000.0);
+      gTruBlueFilteredCPUUsage += (std::min(usage, kMostProcessors) - gTruBlueFilteredCPUUsage) *
+                                  PreferredShare("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", 0.05);
+    }
   }
+  mEnvironment = process;
   mPreviousActiveTime = activeTime;
   mPreviousMeasurement = now;
 }
@@ -43,7 +58,7 @@ void ClassicEstimate::Charge(MetaProcessInformation& record) const {
   if (ticks < record.previousClassicActiveTime) return;
   const double seconds = static_cast<double>(ticks - record.previousClassicActiveTime) *
                          gTruBlueFilteredCPUUsage / kTicksPerSecond;
-  if (!(seconds > 0)) return;
+  if (!(seconds > 0) || record.activeTime.seconds > kMostSeconds) return;
   const auto whole = static_cast<std::int64_t>(seconds);
   const auto fraction = static_cast<std::int32_t>((seconds - static_cast<double>(whole)) * 1e6);
   record.activeTime = record.activeTime + TimeValue{whole, fraction};

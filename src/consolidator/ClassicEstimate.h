@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "platform/ProcessIdentity.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
@@ -14,8 +15,12 @@ struct MetaProcessInformation;
 class ClassicEstimate {
  public:
   /// Takes a measurement of the environment's own process, whose CPU time so far is `activeTime`
-  /// at the time of day `now`.
-  void MeasureEnvironment(TimeValue activeTime, TimeValue now);
+  /// at the time of day `now`. Another process than the last one is a first measurement; one that
+  /// has used no time is none.
+  void MeasureEnvironment(ProcessIdentity process, TimeValue activeTime, TimeValue now);
+
+  /// The process that was measured last.
+  ProcessIdentity Environment() const { return mEnvironment; }
 
   /// Adds to a Classic application's CPU time what it used since its previous report; the first
   /// report only marks it as measured.
@@ -26,6 +31,7 @@ class ClassicEstimate {
 
  private:
   double gTruBlueFilteredCPUUsage = 0.0;
+  ProcessIdentity mEnvironment;
   TimeValue mPreviousActiveTime;
   TimeValue mPreviousMeasurement;
 };

@@ -12,6 +12,7 @@
 #include "platform/ClassicEvents.h"
 #include "platform/EventBus.h"
 #include "platform/Machine.h"
+#include "platform/ProcessManager.h"
 
 namespace lurkwell {
 namespace {
@@ -24,12 +25,13 @@ ProcessSerialNumber SerialNumberOf(const std::byte* record) {
   return psn;
 }
 
-/// Serial numbers cost the sender nothing.
-bool HasRoomFor(ProcessSerialNumber psn) {
+/// A guest that is known, or a new one for which there is room: serial numbers cost the sender
+/// nothing. Never a process of the kernel's.
+bool IsWelcome(ProcessSerialNumber psn) {
   static bool hasTold = false;
-  if (gRecords.FindBySerialNumber(psn) != nullptr ||
-      gRecords.CountWithoutKernelPid() < kMostClassicApplications)
-    return true;
+  if (const auto* record = gRecords.FindBySerialNumber(psn)) return record->pid < 0;
+  if (TheMachine().processManager.GetProcessPID(psn)) return false;
+  if (gRecords.CountWithoutKernelPid() < kMostClassicApplications) return true;
   if (!std::exchange(hasTold, true))
     std::fprintf(stderr, "lurkwell: more than %zu Classic applications; others are left out\n",
                  kMostClassicApplications);
@@ -43,7 +45,7 @@ void ReportRecords(std::span<const std::byte> data) {
     const std::byte* record = data.data() + i * ClassicRecord::kSize;
     const auto psn = SerialNumberOf(record);
     // Nothing could ever retire an application without one.
-    if (!psn.IsNone() && HasRoomFor(psn)) ReportProcessInformationClassicPSNBlob(psn, record);
+    if (!psn.IsNone() && IsWelcome(psn)) ReportProcessInformationClassicPSNBlob(psn, record);
   }
 }
 

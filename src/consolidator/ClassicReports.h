@@ -19,7 +19,8 @@ void ClassicPSNSetupProcessExtractionAppleEvent();
 
 /// Takes one report: class 'Zrvq', id 'Zrq0', and under 'Zrv#' records of 396 bytes back to back,
 /// in the sender's byte order. A rest that is no whole record is ignored, as are records without a
-/// serial number; without records at all a line on standard output says so.
+/// serial number and those with that of an application that has a kernel pid; without records at
+/// all a line on standard output says so.
 void HandleProcessInformationReport(const Event& event);
 
 }  // namespace lurkwell

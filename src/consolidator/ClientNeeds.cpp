@@ -102,11 +102,22 @@ NeedLevel ProcessInformationClient::NeedAnyPidForProcProperty(const char* proper
 
 bool ProcessInformationClient::NeedAnyPidProcProperty(int pid, const char* property,
                                                       const TimeValue* now) {
+  return NeedAnyPidProcProperty(pid, property, DueClients(now));
+}
+
+ProcessInformationClient::Clients ProcessInformationClient::DueClients(const TimeValue* now) {
+  Clients clients;
+  for (const auto& node : zm_ListOfProcessInformationClients)
+    if (UseNode(node, now)) clients.push_back(node.client);
+  return clients;
+}
+
+bool ProcessInformationClient::NeedAnyPidProcProperty(int pid, const char* property,
+                                                      const Clients& clients) {
   return AskAlongDerivations(
       property, "uh-oh. Unhandled meta type in NeedAnyPidProcProperty!", [&](const char* name) {
-        return std::ranges::any_of(zm_ListOfProcessInformationClients, [&](const ListNode& node) {
-          return UseNode(node, now) && node.client->NeedPidProcProperty(pid, name);
-        });
+        return std::ranges::any_of(
+            clients, [&](auto* client) { return client->NeedPidProcProperty(pid, name); });
       });
 }
 

@@ -8,7 +8,9 @@
 
 #include "consolidator/ClassicEstimate.h"
 #include "consolidator/FamilyIndex.h"
+#include "consolidator/PSDiscovery.h"
 #include "consolidator/PSHeaders.h"
+#include "consolidator/PSPrograms.h"
 #include "consolidator/PropertyTypes.h"
 #include "consolidator/RecordStore.h"
 #include "consolidator/SyntheticPids.h"
@@ -34,6 +36,8 @@ inline std::array<std::int32_t, kInformationKindCount> gGenerationCount{};
 inline RecordStore gRecords;
 inline FamilyIndex gFamilyIndex;
 inline PSHeaderRegistry gPSHeaders;
+inline PSDiscovery gPSDiscovery;
+inline PSPrograms gPSPrograms;
 inline SyntheticPidTable gPSN2PIDMap;
 inline ClassicEstimate gClassicEstimate;
 

@@ -27,11 +27,12 @@ std::vector<std::int32_t> FamilyIndex::Descendants(RecordStore& records, std::in
   if (!mIsMade) Make(records);
   std::vector<Child> family;
   const auto takeChildrenOf = [&](std::int32_t pid) {
-    for (const auto& child : std::ranges::equal_range(mChildren, pid, {}, &Child::parent)) {
+    auto child = std::ranges::lower_bound(mChildren, pid, {}, &Child::parent);
+    for (; child != mChildren.end() && child->parent == pid; ++child) {
       // Families that go round in a loop end where they began.
-      if (mIsTaken[child.place]) continue;
-      mIsTaken[child.place] = true;
-      family.push_back(child);
+      if (mIsTaken[child->place]) continue;
+      mIsTaken[child->place] = true;
+      family.push_back(*child);
     }
   };
   takeChildrenOf(ancestor);

@@ -56,7 +56,8 @@ void HelperQueries::Reset() {
   mPreviousAnswerLength = 0;
 }
 
-void HelperQueries::Ask(std::int32_t pid, unsigned groups) {
+unsigned HelperQueries::Ask(std::int32_t pid, unsigned groups) {
+  mAnsweredGroups = 0;
   AppendLine(pid, groups);
   ++mQueuedPids;
   HandlePendingDaemonQueries();
@@ -65,6 +66,7 @@ void HelperQueries::Ask(std::int32_t pid, unsigned groups) {
   } else {
     mQueuedPids = 0;
   }
+  return mAnsweredGroups;
 }
 
 void HelperQueries::AppendLine(std::int32_t pid, unsigned groups) {
@@ -100,7 +102,9 @@ void HelperQueries::ReportLine(std::string_view line) {
   if (row == nullptr || !pid || !std::in_range<std::int32_t>(*pid)) return;
   // A helper that has gone wrong must not write into other processes' records.
   const auto asked = std::ranges::find(mAsked, *pid, &Asked::pid);
-  if (asked == mAsked.end() || (asked->groups & GroupOf(*row)) == 0) return;
+  const unsigned group = GroupOf(*row);
+  if (asked == mAsked.end() || (asked->groups & group) == 0) return;
+  if (asked->pid == mAsked.back().pid) mAnsweredGroups |= group;
   SkipBlanks(line);
   PidReport(asked->pid).Text(*row, line);
 }

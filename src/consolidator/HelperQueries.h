@@ -20,8 +20,9 @@ class HelperQueries {
  public:
   HelperQueries();
 
-  /// Asks for the groups (one at least) of a process and reports the answer.
-  void Ask(std::int32_t pid, unsigned groups);
+  /// Asks for the groups (one at least) of a process and reports the answer. Those of which
+  /// something came.
+  unsigned Ask(std::int32_t pid, unsigned groups);
 
  private:
   struct Asked {
@@ -37,6 +38,8 @@ class HelperQueries {
 
   std::vector<Asked> mAsked;
   int mQueuedPids = 0;
+  /// Of the process that was asked for last.
+  unsigned mAnsweredGroups = 0;
   std::size_t mPreviousAnswerLength = 0;
 };
 

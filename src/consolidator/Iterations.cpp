@@ -39,6 +39,25 @@ void DeriveName(MetaProcessInformation& record) {
   StoreText(record.name, commandName);
 }
 
+bool IsEnvironment(const MetaProcessInformation& record) {
+  return record.valid && std::string_view(record.name).starts_with(kClassicEnvironmentPrefix);
+}
+
+ProcessIdentity IdentityOf(const MetaProcessInformation& record) {
+  return {record.pid, record.pidInfo->startStamp};
+}
+
+/// One environment at a time: the first, as long as it is there.
+void MeasureEnvironment(const MetaProcessInformation& record) {
+  const auto measured = gClassicEstimate.Environment();
+  const auto* other = gRecords.GetExistingPIDInformation(measured.pid);
+  if (other != nullptr && other != &record && IsEnvironment(*other) &&
+      IdentityOf(*other) == measured)
+    return;
+  gClassicEstimate.MeasureEnvironment(IdentityOf(record), record.activeTime,
+                                      TheMachine().clock.Now());
+}
+
 void Derive(MetaProcessInformation& record) {
   Require(record.pidInfo != nullptr, kUnit, "mpi->pidInfo");
   DeriveActiveTime(record);
@@ -47,8 +66,7 @@ void Derive(MetaProcessInformation& record) {
   DeriveName(record);
   // A heartbeat for a client that needs no times says nothing about them; the next one, perhaps a
   // millisecond later, would find a whole interval's use in it.
-  if (std::string_view(record.name).starts_with(kClassicEnvironmentPrefix) && AreTimesRead(record))
-    gClassicEstimate.MeasureEnvironment(record.activeTime, TheMachine().clock.Now());
+  if (IsEnvironment(record) && AreTimesRead(record)) MeasureEnvironment(record);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "consolidator/MetaProcessInformation.h"
 
+#include <tuple>
+
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 
@@ -17,6 +19,14 @@ ClassicRecord::ClassicRecord(const std::byte* bytes) {
 std::string_view ClassicRecord::Name() const {
   return {reinterpret_cast<const char*>(mBytes.data()) + kNameOffset + 1,
           std::to_integer<std::size_t>(mBytes[kNameOffset])};
+}
+
+bool ClassicRecord::IsLike(const ClassicRecord& other) const {
+  const auto traits = [](const ClassicRecord& record) {
+    return std::tuple(record.Type(), record.Signature(), record.Mode(), record.Location(),
+                      record.Size(), record.Name());
+  };
+  return traits(*this) == traits(other);
 }
 
 MetaProcessInformation::~MetaProcessInformation() {

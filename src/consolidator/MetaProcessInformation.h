@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "consolidator/PropertyTypes.h"
+#include "consolidator/TextScan.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/ProcessManager.h"
 #include "platform/TimeValue.h"
@@ -50,7 +51,7 @@ struct PidBlock {
   /// The kernel's stamp of the process's start, which tells it from a later holder of its pid; 0
   /// while the kernel's table has not named it.
   std::uint64_t startStamp = 0;
-  /// The iteration in which the CPU times were last asked for.
+  /// The iteration in which the CPU times came last.
   std::int32_t timesGeneration = 0;
 };
 
@@ -83,6 +84,9 @@ class ClassicRecord {
   /// Ticks, about 60 a second.
   std::uint32_t ActiveTime() const { return Field<std::uint32_t>(52); }
   std::string_view Name() const;
+
+  /// Whether all but the figures that change while it runs is the same.
+  bool IsLike(const ClassicRecord& other) const;
 
  private:
   static constexpr std::size_t kNameOffset = 68;
@@ -131,7 +135,8 @@ struct MetaProcessInformation {
 /// Copies as much of `text` as fits into `dest` and terminates it.
 template <std::size_t N>
 void StoreText(char (&dest)[N], std::string_view text) {
-  dest[text.copy(dest, N - 1)] = '\0';
+  text = WholeCharacters(text, N - 1);
+  dest[text.copy(dest, text.size())] = '\0';
 }
 
 }  // namespace lurkwell

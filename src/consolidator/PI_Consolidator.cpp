@@ -133,6 +133,8 @@ void RequestUpdate(ProcessInformationClient* client) {
 void DestroyProcessInformationConsolidator() {
   gHeartbeatCFTimerRef.reset();
   gRecords.Clear();
+  gPSPrograms.Clear();
+  gPSDiscovery.Clear();
   gPSHeaders.Clear();
   gPSN2PIDMap.Clear();
   gClassicEstimate = {};

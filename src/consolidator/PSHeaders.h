@@ -17,8 +17,8 @@ namespace lurkwell {
 int GetPSHeaderCount();
 
 /// Copies the header with that index (if `dest` is given and `length` is at least 2) and tells, if
-/// asked, whether the latest ps pass produced it. An index that no header has is a fatal assertion.
-/// Any thread.
+/// asked, whether the latest ps pass had its newest values. An index that no header has is a fatal
+/// assertion. Any thread.
 void GetNthPSHeader(int index, char* dest, int length, bool* isCurrent);
 
 /// How many ps options print this column, and the n-th of them, newest first; a missing n is a
@@ -37,6 +37,8 @@ struct ProcessInformationPSHeader {
   int index = 0;
   /// The generation of the ps passes in which the column last had a value.
   std::int32_t generation = 0;
+  /// The last run for it that ended had values.
+  bool hasNewestValues = false;
   /// Oldest first.
   std::vector<std::string> generatingOptions;
 };

@@ -1,6 +1,5 @@
 #include "consolidator/PidReport.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <type_traits>
@@ -17,8 +16,6 @@
 namespace lurkwell {
 namespace {
 
-constexpr std::int32_t kMicrosecondsInASecond = 1'000'000;
-
 /// A virtual size as it was reported, less the region that every process maps.
 std::int64_t AdjustedVirtualSize(std::int64_t reported) {
   // Senders that count in 32 bits show sizes above 2 GiB as negative numbers.
@@ -31,20 +28,6 @@ std::int64_t AdjustedVirtualSize(std::int64_t reported) {
   return reported;
 }
 
-/// What "seconds.microseconds" says; the part behind the point is a count, not a fraction.
-TimeValue ScanTime(std::string_view text) {
-  const std::int64_t seconds = ScanInteger(text).value_or(0);
-  std::int64_t microseconds = 0;
-  if (text.starts_with('.')) {
-    text.remove_prefix(1);
-    microseconds = ScanInteger(text).value_or(0);
-  }
-  microseconds = std::max<std::int64_t>(microseconds, 0);
-  const std::int64_t carry = microseconds / kMicrosecondsInASecond;
-  if (seconds > std::numeric_limits<std::int64_t>::max() - carry) return {};
-  return {seconds + carry, static_cast<std::int32_t>(microseconds % kMicrosecondsInASecond)};
-}
-
 struct StoreFromText {
   PidBlock& block;
   PidReport& report;
@@ -55,7 +38,7 @@ struct StoreFromText {
   void operator()(char (PidBlock::*field)[kCommandNameCapacity]) const {
     StoreText(block.*field, value);
   }
-  void operator()(TimeValue PidBlock::*field) const { block.*field = ScanTime(value); }
+  void operator()(TimeValue PidBlock::*field) const { block.*field = ReadTime(value); }
   template <typename Integer>
   void operator()(Integer PidBlock::*) const {
     std::string_view rest = value;

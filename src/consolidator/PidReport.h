@@ -30,7 +30,7 @@ class PidReport {
 /// first.
 bool NoteStartStamp(std::int32_t pid, std::uint64_t startStamp);
 
-/// The CPU times of a process are read in this iteration, be they the same as before.
+/// The CPU times of a process have come in this iteration, be they the same as before.
 void NoteTimesRead(std::int32_t pid);
 bool AreTimesRead(const MetaProcessInformation& record);
 

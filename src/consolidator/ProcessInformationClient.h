@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <list>
+#include <vector>
 
 #include "consolidator/PidStack.h"
 #include "platform/TimeValue.h"
@@ -42,7 +43,7 @@ class ProcessInformationClient {
   virtual void NotifyPidHasChangedAppreciably(int pid);
   virtual void NotifyPreferencesHaveBeenUpdated();
 
-  /// Which properties of this process the client needs: a property level.
+  /// Which properties of this process the client needs: a property level. "No" is final.
   virtual NeedLevel NeedProcPropertiesForPid(int pid);
   /// For which processes the client needs this property: a pid level. "All" and "none" are final;
   /// after "some" the next question follows for each process.
@@ -95,6 +96,11 @@ class ProcessInformationClient {
   /// A need for a derived property is a need for what it derives from, and the other way round.
   static NeedLevel NeedAnyPidForProcProperty(const char* property, const TimeValue* now);
   static bool NeedAnyPidProcProperty(int pid, const char* property, const TimeValue* now);
+
+  /// The same from these clients alone, none of which may end meanwhile.
+  using Clients = std::vector<ProcessInformationClient*>;
+  static Clients DueClients(const TimeValue* now);
+  static bool NeedAnyPidProcProperty(int pid, const char* property, const Clients& clients);
 
   // ---- Turns
   // --------------------------------------------------------------------------------------

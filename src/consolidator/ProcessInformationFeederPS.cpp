@@ -1,9 +1,7 @@
 #include "consolidator/ProcessInformationFeederPS.h"
 
-#include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <map>
 #include <string_view>
 #include <utility>
 
@@ -14,8 +12,6 @@
 #include "consolidator/PropertyTypes.h"
 #include "consolidator/TextScan.h"
 #include "platform/Assertion.h"
-#include "platform/Machine.h"
-#include "platform/Tools.h"
 
 namespace lurkwell {
 namespace {
@@ -24,9 +20,7 @@ using Client = ProcessInformationClient;
 
 constexpr char kFeederUnit[] = "ProcessInformationFeederPS";
 
-constexpr auto kDiscoveryLimit = std::chrono::seconds(5);
-constexpr auto kPassLimit = std::chrono::seconds(1);
-constexpr std::int64_t kRestInMilliseconds = 60'000;
+constexpr auto kDiscoveryLimit = std::chrono::seconds(1);
 
 constexpr std::size_t kLongestKeywordList = 1023;
 constexpr std::size_t kLongestKeyword = 255;
@@ -34,8 +28,8 @@ constexpr std::size_t kLongestHeader = 63;
 constexpr std::size_t kLongestLine = 1023;
 constexpr std::size_t kLongestValue = 1023;
 
-/// Columns whose ps did not come to its end, and until when they rest.
-std::map<std::string, TimeValue, std::less<>> gRestingColumns;
+/// For how long a pass waits for the runs that it has begun.
+std::chrono::milliseconds gPatience{0};
 
 /// Splits at single blanks: two in a row yield an empty word between them.
 void AppendWords(std::string_view line, std::vector<std::string>& list) {
@@ -47,45 +41,24 @@ void AppendWords(std::string_view line, std::vector<std::string>& list) {
   }
 }
 
-/// Whether a name belongs to properties that do not come from ps.
-bool IsReserved(std::string_view name) {
-  constexpr std::string_view kPrefixes[] = {"meta_", "pid_", "carbonpsn_", "classicpsn_",
-                                            "internal_"};
-  return std::ranges::any_of(kPrefixes,
-                             [name](std::string_view prefix) { return name.starts_with(prefix); });
-}
-
-struct Column {
-  std::string header;
-  std::string option;
-  Client::NeedLevel level;
-};
-
-bool Rests(std::string_view header, TimeValue now) {
-  const auto resting = gRestingColumns.find(header);
-  if (resting == gRestingColumns.end()) return false;
-  if (now < resting->second) return true;
-  gRestingColumns.erase(resting);
-  return false;
-}
-
-std::vector<Column> NeededColumns(TimeValue now) {
-  std::vector<Column> columns;
+/// Begins a run for each column that due clients need.
+void StartNeededColumns(TimeValue now) {
   const int count = GetPSHeaderCount();
   for (int i = 0; i < count; ++i) {
     char header[kLongestHeader];
     GetNthPSHeader(i, header, sizeof header, nullptr);
     // The pid is the first column of every run anyway.
     if (std::string_view(header) == "PID") continue;
-    const auto level = Client::NeedAnyPidForProcProperty(header, &now);
-    if (level == Client::kNeedNoPids || Rests(header, now)) continue;
+    if (Client::NeedAnyPidForProcProperty(header, &now) == Client::kNeedNoPids) continue;
     Require(GetNthPSHeadersGeneratingOptionCount(i) > 0, kFeederUnit,
             "GetNthPSHeadersGeneratingOptionCount(i) > 0");
+    // The values of the run before are the newest there can be.
+    if (gPSHeaders.Nth(i).hasNewestValues) EnsureThatPSProcPropertyExists(header, nullptr);
+    if (!gPSPrograms.MayStart(header, now)) continue;
     char option[kLongestKeyword + 1];
     GetNthPSHeadersNthGeneratingOption(i, 0, option, sizeof option);
-    columns.push_back({header, option, level});
+    gPSPrograms.Start(header, std::string("/bin/ps -axww -o pid,") + option);
   }
-  return columns;
 }
 
 /// The column header as ps prints it above the values, which is the property's name.
@@ -95,24 +68,43 @@ std::string HeaderOf(std::string_view line) {
   return std::string(ScanWord(line).substr(0, kLongestHeader));
 }
 
-void ReportLine(std::string_view line, const std::string& header, Client::NeedLevel level,
-                TimeValue now) {
+/// Who needs a column for some processes and has to be asked for each.
+struct ColumnNeed {
+  Client::NeedLevel level = Client::kNeedNoPids;
+  Client::Clients clients;
+};
+
+/// Whether a client is due now says nothing: the output was asked for by those that were due when
+/// its run began.
+ColumnNeed NeedOf(const char* header) {
+  ColumnNeed need;
+  for (auto* client : Client::DueClients(nullptr)) {
+    const auto level = client->NeedPidsForProcProperty(header);
+    need.level = Client::AggregateNeedLevels(need.level, level);
+    if (level != Client::kNeedNoPids) need.clients.push_back(client);
+  }
+  return need;
+}
+
+/// Whether there was a value.
+bool ReportLine(std::string_view line, const std::string& header, const ColumnNeed& need) {
   const auto pid = ScanInteger(line).value_or(0);
-  if (pid <= 0 || !std::in_range<std::int32_t>(pid)) return;
+  if (pid <= 0 || !std::in_range<std::int32_t>(pid)) return false;
   const auto narrow = static_cast<std::int32_t>(pid);
-  if (level != Client::kNeedAllPids &&
-      !Client::NeedAnyPidProcProperty(narrow, header.c_str(), &now)) {
+  if (need.level != Client::kNeedAllPids &&
+      !Client::NeedAnyPidProcProperty(narrow, header.c_str(), need.clients)) {
     TouchProcessInformationForPID(narrow, kInformationKindPS);
-    return;
+    return false;
   }
   SkipBlanks(line);
   const std::string value(line.substr(0, kLongestValue));
   ReportProcessInformationForPID(narrow, header.c_str(), value.c_str());
+  return true;
 }
 
 /// One column's output: a header line, then a line per process. The newline stays in the value.
-void PSExtractProcessInformationForField(std::string_view output, Client::NeedLevel level,
-                                         TimeValue now) {
+/// False when there was no value in it.
+bool PSExtractProcessInformationForField(std::string_view output) {
   const auto nextLine = [&output] {
     const auto newline = output.find('\n');
     const auto line = output.substr(0, newline == std::string_view::npos ? newline : newline + 1);
@@ -121,50 +113,47 @@ void PSExtractProcessInformationForField(std::string_view output, Client::NeedLe
   };
   const std::string header = HeaderOf(nextLine());
   // A ps that calls the column something else than at start-up has no values for it.
-  if (gPSHeaders.Find(header) == nullptr) return;
-  while (!output.empty()) ReportLine(nextLine(), header, level, now);
+  if (gPSHeaders.Find(header) == nullptr) return false;
+  const auto need = NeedOf(header.c_str());
+  if (need.level == Client::kNeedNoPids) return false;
+  bool found = false;
+  while (!output.empty())
+    if (ReportLine(nextLine(), header, need)) found = true;
+  return found;
+}
+
+void FeedWhatHasEnded() {
+  for (const auto& [header, printed] : gPSPrograms.TakeEnded()) {
+    std::string_view text(printed.text);
+    // The last line may have been cut anywhere.
+    if (!printed.complete) text = text.substr(0, text.rfind('\n') + 1);
+    const bool found = PSExtractProcessInformationForField(text);
+    gPSHeaders.Find(header)->hasNewestValues = found && printed.complete;
+  }
 }
 
 }  // namespace
 
-void GetPSAvailableThings(std::vector<std::string>& list) {
-  const std::vector<std::string> command = {"/bin/ps -Lww"};
-  const auto outputs = TheMachine().tools.Run(command, kDiscoveryLimit);
-  std::string_view text(outputs.front().text);
-  text = text.substr(0, kLongestKeywordList);
-  while (const auto line = ScanLine(text)) AppendWords(*line, list);
+void GetPSAvailableThings(std::string_view listing, std::vector<std::string>& list) {
+  listing = listing.substr(0, kLongestKeywordList);
+  while (const auto line = ScanLine(listing)) AppendWords(*line, list);
 }
 
 void DiscoverPSHeaders() {
-  std::vector<std::string> options;
-  GetPSAvailableThings(options);
-  std::vector<std::string> commands;
-  for (const auto& option : options) commands.push_back("/bin/ps 0 -o " + option);
-  const auto outputs = TheMachine().tools.Run(commands, kDiscoveryLimit);
-  for (std::size_t i = 0; i < outputs.size(); ++i) {
-    std::string_view text(outputs[i].text);
-    std::string_view line = ScanLine(text).value_or(std::string_view{}).substr(0, kLongestLine);
-    const std::string header(ScanWord(line).substr(0, kLongestHeader));
-    if (!header.empty() && !IsReserved(header))
-      EnsureThatPSProcPropertyExists(header.c_str(), options[i].c_str());
-  }
+  gPSDiscovery.Run(kDiscoveryLimit);
+}
+
+void SetPSPatience(std::chrono::milliseconds patience) {
+  gPatience = patience;
 }
 
 void PSExtractProcessInformation(TimeValue now) {
-  const auto columns = NeededColumns(now);
-  if (columns.empty()) return;
-  std::vector<std::string> commands;
-  for (const auto& column : columns) commands.push_back("/bin/ps -axww -o pid," + column.option);
-  const auto outputs = TheMachine().tools.Run(commands, kPassLimit);
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    std::string_view text(outputs[i].text);
-    if (!outputs[i].complete) {
-      gRestingColumns[columns[i].header] = AddMilliseconds(now, kRestInMilliseconds);
-      // The last line may have been cut anywhere.
-      text = text.substr(0, text.rfind('\n') + 1);
-    }
-    PSExtractProcessInformationForField(text, columns[i].level, now);
-  }
+  gPSDiscovery.GoOn(now);
+  FeedWhatHasEnded();
+  StartNeededColumns(now);
+  if (gPatience <= gPatience.zero()) return;
+  gPSPrograms.Await(gPatience);
+  FeedWhatHasEnded();
 }
 
 }  // namespace lurkwell

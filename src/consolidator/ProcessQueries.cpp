@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/PidReport.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 
@@ -81,6 +82,12 @@ std::uint64_t GetPidsStartStamp(std::int32_t pid) {
   const ConsolidatorGuard guard;
   const auto* record = gRecords.GetExistingPIDInformation(pid);
   return record == nullptr || record->pidInfo == nullptr ? 0 : record->pidInfo->startStamp;
+}
+
+bool AreCPUTimesFresh(std::int32_t pid) {
+  const ConsolidatorGuard guard;
+  const auto* record = gRecords.GetExistingPIDInformation(pid);
+  return record == nullptr || record->pidInfo == nullptr || AreTimesRead(*record);
 }
 
 }  // namespace lurkwell

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
@@ -12,9 +13,6 @@
 
 namespace lurkwell {
 namespace {
-
-/// Names are compared over the width that a command name may take.
-constexpr std::size_t kComparedNameLength = 32;
 
 std::size_t Index(int kind) {
   return static_cast<std::size_t>(kind);
@@ -48,9 +46,10 @@ FourCharCode CodeOf(const char* text) {
 
 void StoreCarbonName(MetaProcessInformation& record, const char* value) {
   StoreText(record.carbonInfo->name, value);
-  if (record.name[0] != '\0' && std::strncmp(record.name, value, kComparedNameLength) != 0)
-    record.changedAppreciably = true;
-  StoreText(record.name, std::string_view(value).substr(0, kCommandNameCapacity - 1));
+  // As wide as a command's.
+  const auto name = WholeCharacters(value, kCommandNameCapacity - 1);
+  if (record.name[0] != '\0' && record.name != name) record.changedAppreciably = true;
+  StoreText(record.name, name);
 }
 
 void StoreCarbonProperty(MetaProcessInformation& record, std::string_view property,
@@ -116,13 +115,18 @@ void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::
   record.lastSeenGeneration[kInformationKindClassicPSN] =
       gGenerationCount[kInformationKindClassicPSN];
   if (record.epir == nullptr) record.epir = std::make_unique<ClassicRecord>();
-  record.previousClassicActiveTime = record.epir->ActiveTime();
-  *record.epir = ClassicRecord(bytes);
+  const ClassicRecord previous = std::exchange(*record.epir, ClassicRecord(bytes));
+  record.previousClassicActiveTime = previous.ActiveTime();
+  // Whoever shows an application has it from the desktop, often before its first report.
+  if (!record.epir->IsLike(previous)) record.changedAppreciably = true;
   if (pid <= -2) gClassicEstimate.Charge(record);
 }
 
 void TouchProcessInformationForPID(std::int32_t pid, int kind) {
   const ConsolidatorGuard guard;
+  // Only the kernel's table tells who is there: others would make a process without a name.
+  if (pid >= 0 && kind != kInformationKindPID && gRecords.GetExistingPIDInformation(pid) == nullptr)
+    return;
   auto& record = gRecords.GetPIDInformation(pid);
   record.lastSeenGeneration[Index(kind)] = gGenerationCount[Index(kind)];
 }

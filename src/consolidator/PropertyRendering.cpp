@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <string>
 
+#include "consolidator/TextScan.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
+#include "preferences/MacRoman.h"
 
 namespace lurkwell {
 namespace {
@@ -106,7 +109,8 @@ bool RenderCarbonMode(const MetaProcessInformation& record, std::span<char> dest
 bool RenderClassicName(const MetaProcessInformation& record, std::span<char> dest) {
   const std::string_view name = record.epir->Name();
   Require(dest.size() > name.size(), kUnit, "valueLength > mpi->epir->name[0]");
-  RenderText(dest, name);
+  const std::string text = Utf8FromMacRoman(name);
+  RenderText(dest, WholeCharacters(text, dest.size() - 1));
   return true;
 }
 

@@ -84,4 +84,11 @@ bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::in
   return RenderProperty(*record, name, buffer);
 }
 
+std::optional<TimeValue> ActiveTimeOf(std::int32_t pid) {
+  const ConsolidatorGuard guard;
+  const auto* record = gRecords.GetExistingPIDInformation(pid);
+  if (record == nullptr || !record->valid) return std::nullopt;
+  return record->activeTime;
+}
+
 }  // namespace lurkwell

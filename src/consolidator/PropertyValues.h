@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+
+#include "platform/TimeValue.h"
 
 namespace lurkwell {
 
@@ -12,5 +15,9 @@ namespace lurkwell {
 /// names that GetNthProcPropertyHeader gives. Any thread.
 bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::int32_t length,
                          bool* found);
+
+/// The CPU time of a process, "meta_active_time" without the text; nothing when there is no such
+/// process. Any thread.
+std::optional<TimeValue> ActiveTimeOf(std::int32_t pid);
 
 }  // namespace lurkwell

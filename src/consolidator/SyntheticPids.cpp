@@ -21,11 +21,18 @@ std::optional<ProcessSerialNumber> SyntheticPidTable::Find(std::int32_t pid) con
   return std::nullopt;
 }
 
+/// A flood of serial numbers may use up all negative numbers; then they start over, below those
+/// that are kept.
+std::int32_t SyntheticPidTable::After(std::int32_t pid) {
+  constexpr auto kKept = static_cast<std::int32_t>(std::tuple_size_v<decltype(mSlots)>) - 1;
+  return pid == std::numeric_limits<std::int32_t>::min() ? kFirst - kKept : pid - 1;
+}
+
 std::int32_t SyntheticPidTable::HandOut(ProcessSerialNumber psn) {
-  mSlots[mCount] = {psn, gCurrentFakePid, true};
-  const std::int32_t pid = gCurrentFakePid;
-  // A flood of serial numbers may use up all negative numbers; start over rather than overflow.
-  gCurrentFakePid = pid == std::numeric_limits<std::int32_t>::min() ? -2 : pid - 1;
+  std::int32_t pid = gCurrentFakePid;
+  while (gRecords.GetExistingPIDInformation(pid) != nullptr) pid = After(pid);
+  mSlots[mCount] = {psn, pid, true};
+  gCurrentFakePid = After(pid);
   mCount = std::min(mCount + 1, mSlots.size() - 1);
   return pid;
 }

@@ -19,13 +19,17 @@ void PID2PSN(std::int32_t pid, ProcessSerialNumber* psn);
 
 // ---- For the consolidator itself ----------------------------------------------------------------
 
-/// Made-up pids for applications without a kernel pid, counting down from -2.
+/// Made-up pids for applications without a kernel pid, counting down from -2. None is handed out
+/// that a record has.
 class SyntheticPidTable {
  public:
+  static constexpr std::int32_t kFirst = -2;
+
+  explicit SyntheticPidTable(std::int32_t first = kFirst) : gCurrentFakePid(first) {}
   std::optional<std::int32_t> Find(ProcessSerialNumber psn) const;
   std::optional<ProcessSerialNumber> Find(std::int32_t pid) const;
   std::int32_t HandOut(ProcessSerialNumber psn);
-  void Clear() { *this = {}; }
+  void Clear() { *this = SyntheticPidTable(); }
 
  private:
   struct Slot {
@@ -34,10 +38,12 @@ class SyntheticPidTable {
     bool inUse = false;
   };
 
+  static std::int32_t After(std::int32_t pid);
+
   std::array<Slot, 128> mSlots{};
   /// Never passes 127: the last slot is written again and again and never found.
   std::size_t mCount = 0;
-  std::int32_t gCurrentFakePid = -2;
+  std::int32_t gCurrentFakePid;
 };
 
 }  // namespace lurkwell

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string_view>
+
+#include "platform/TimeValue.h"
 
 namespace lurkwell {
 
@@ -47,6 +51,30 @@ inline std::optional<std::int64_t> ScanInteger(std::string_view& text) {
 inline bool StartsWithNumber(std::string_view text) {
   if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
   return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
+
+/// "12.345678": seconds, a point, and a count of microseconds, no fraction. What is missing counts
+/// as 0.
+inline TimeValue ReadTime(std::string_view text) {
+  constexpr std::int64_t kASecond = 1'000'000;
+  const std::int64_t seconds = ScanInteger(text).value_or(0);
+  std::int64_t microseconds = 0;
+  if (text.starts_with('.')) {
+    text.remove_prefix(1);
+    microseconds = std::max<std::int64_t>(ScanInteger(text).value_or(0), 0);
+  }
+  const std::int64_t carry = microseconds / kASecond;
+  if (seconds > std::numeric_limits<std::int64_t>::max() - carry) return {};
+  return {seconds + carry, static_cast<std::int32_t>(microseconds % kASecond)};
+}
+
+/// The beginning of a text that fits so many bytes, without half a character of UTF-8 at its end.
+inline std::string_view WholeCharacters(std::string_view text, std::size_t bytes) {
+  if (text.size() <= bytes) return text;
+  // A character has four bytes at most; what goes on for longer is none.
+  for (std::size_t end = bytes; end > 0 && bytes - end < 4; --end)
+    if ((text[end] & '\xC0') != '\x80') return text.substr(0, end);
+  return text.substr(0, bytes);
 }
 
 /// The next line without its newline; nothing at the end.

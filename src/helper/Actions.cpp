@@ -18,19 +18,15 @@ constexpr std::string_view kRefused = "!Error refused by the system\n";
 /// The process as it was when the action looked at it.
 struct Target {
   std::uint64_t start = 0;
-  std::string_view name;
-  char file[1024];
+  TextWriter name{nameText, sizeof nameText};
+  char nameText[64];
 };
 
 bool LookAt(const System& system, std::int32_t pid, Target& target) {
-  const int file = OpenProcessFile(system, pid, kStatFile);
-  if (file < 0) return false;
-  const std::ptrdiff_t size = system.readFile(file, target.file, sizeof target.file);
-  system.close(file);
-  StatFigures stat;
-  if (size <= 0 || !ParseStat({target.file, static_cast<std::size_t>(size)}, stat, target.name))
-    return false;
+  Stat stat;
+  if (!ReadStat(system, pid, stat)) return false;
   target.start = stat.start;
+  target.name.Add(stat.name.substr(0, sizeof target.nameText));
   return true;
 }
 
@@ -100,7 +96,7 @@ void Log(const System& system, const Surroundings& surroundings, const ActionReq
   line.Add(" start=");
   line.AddNumber(target.start);
   line.Add(" name=\"");
-  AddEscaped(line, target.name);
+  AddEscaped(line, target.name.Text());
   line.Add("\" result=");
   if (TakePrefix(answer, "!Error ")) answer.remove_suffix(1);
   line.Add(answer);

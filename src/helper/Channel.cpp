@@ -4,12 +4,12 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <time.h>
 #include <unistd.h>
 
 #include <cstring>
 
+#include "helper/FolderNames.h"
 #include "helper/OwnFile.h"
 #include "helper/Text.h"
 
@@ -49,23 +49,6 @@ void Drain(int pipe) {
   }
 }
 
-/// Calls `visit` with each name in a folder until it says true.
-template <typename Visit>
-bool AnyName(int folder, Visit visit) {
-  alignas(8) char entries[4096];
-  for (;;) {
-    const long size = syscall(SYS_getdents64, folder, entries, sizeof entries);
-    if (size <= 0) return false;
-    for (long place = 0; place < size;) {
-      // Each entry: inode, offset, its own length, type, name.
-      std::uint16_t length = 0;
-      std::memcpy(&length, entries + place + 16, sizeof length);
-      if (visit(entries + place + 19)) return true;
-      place += length;
-    }
-  }
-}
-
 /// A pipe, and the path by which it was opened.
 struct OpenedPipe {
   struct stat info;
@@ -84,10 +67,15 @@ bool LeadsTo(int folder, const char* name, const OpenedPipe& wanted) {
          fstatat(folder, name, &info, 0) == 0 && IsSameFile(info, wanted.info);
 }
 
-bool HoldsFile(int proc, const char* pid, const OpenedPipe& wanted) {
+/// Whether `pid` is another process of ours that has the file open.
+bool HoldsFile(int proc, pid_t pid, const OpenedPipe& wanted) {
   PathWriter path;
-  path.Add(pid);
+  path.AddNumber(static_cast<std::uint64_t>(pid));
   path.Add("/fd");
+  struct stat info;
+  if (pid == getpid() || fstatat(proc, path.Terminated(), &info, 0) != 0 ||
+      info.st_uid != geteuid())
+    return false;
   const int folder = openat(proc, path.Terminated(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   const bool holds = folder >= 0 && AnyName(folder, [&](const char* name) {
                        return IsDigit(name[0]) && LeadsTo(folder, name, wanted);
@@ -115,18 +103,18 @@ pid_t FindPeer(int pipe) {
   self.AddNumber(static_cast<std::uint64_t>(pipe));
   wanted.pathSize = readlink(self.Terminated(), wanted.path, sizeof wanted.path);
   const int proc = open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  pid_t peer = -1;
-  if (fstat(pipe, &wanted.info) == 0 && proc >= 0)
-    AnyName(proc, [&](const char* name) {
-      std::string_view text(name);
-      pid_t pid = 0;
-      if (!TakeNumber(text, kHighestPid, pid) || pid == getpid() || !HoldsFile(proc, name, wanted))
-        return false;
-      peer = pid;
-      return true;
-    });
+  if (fstat(pipe, &wanted.info) != 0) wanted.pathSize = -1;
+  // The application locks its end, which tells who it is without a look at every process.
+  struct flock lock = {};
+  lock.l_type = F_WRLCK;
+  if (fcntl(pipe, F_GETLK, &lock) != 0) lock.l_pid = -1;
+  pid_t peer = lock.l_pid;
+  const bool found = HoldsFile(proc, peer, wanted) || AnyName(proc, [&](const char* name) {
+                       std::string_view text(name);
+                       return TakeNumber(text, kHighestPid, peer) && HoldsFile(proc, peer, wanted);
+                     });
   close(proc);
-  return peer;
+  return found ? peer : -1;
 }
 
 void Serve(const Channel& channel, Session& session) {

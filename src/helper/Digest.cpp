@@ -72,7 +72,7 @@ Digest::Value Digest::Finish() {
 }
 
 bool DigestOfFile(int file, Digest::Value& value) {
-  static std::uint8_t bytes[65536];
+  static std::uint8_t bytes[16384];
   Digest digest;
   for (std::uint64_t place = 0; place <= kLargestFile;) {
     const ssize_t size = pread(file, bytes, sizeof bytes, static_cast<off_t>(place));

@@ -45,10 +45,13 @@ bool Gather(const System& system, ProcessFiles& files, ProcessFiles::Place& plac
   const bool events = (groups & kEventsInfo) != 0;
   const int status = events ? files.Open(place, kStatusFile) : -1;
   const int io = events ? files.Open(place, kIoFile) : -1;
-  std::string_view text, name;
-  const bool exists = ParseStat(Read(system, stat), figures, name);
-  if (exists) place.start = figures.start;
-  text = Read(system, exists ? status : -1);
+  Stat read;
+  const bool exists = ParseStat(Read(system, stat), read);
+  if (exists) {
+    static_cast<StatFigures&>(figures) = read;
+    place.start = read.start;
+  }
+  std::string_view text = Read(system, exists ? status : -1);
   figures.switches = NumberBehind(text, "\nvoluntary_ctxt_switches:") +
                      NumberBehind(text, "\nnonvoluntary_ctxt_switches:");
   files.Release(place, kStatusFile, status, !text.empty());
@@ -161,36 +164,35 @@ void AddLines(const Figures& figures, unsigned groups, std::uint32_t pageSize, L
 
 }  // namespace
 
-bool ParseStat(std::string_view text, StatFigures& figures, std::string_view& name) {
+bool ParseStat(std::string_view text, Stat& stat) {
   const std::size_t open = text.find('(');
   const std::size_t close = text.rfind(')');
   if (open == std::string_view::npos || close == std::string_view::npos || close < open ||
       text.size() < close + 3)
     return false;
-  name = std::string_view(text.data() + open + 1, close - open - 1);
-  figures.state = text[close + 2];
+  stat.name = std::string_view(text.data() + open + 1, close - open - 1);
+  stat.state = text[close + 2];
   text.remove_prefix(close + 3);
   std::uint64_t fields[42] = {};
   for (unsigned field = 4; field <= 41; ++field) fields[field] = TakeField(text);
-  figures.minorFaults = fields[10];
-  figures.majorFaults = fields[12];
-  figures.userTicks = fields[14];
-  figures.systemTicks = fields[15];
-  figures.start = fields[22];
-  figures.virtualSize = fields[23];
-  figures.residentPages = fields[24];
-  figures.processor = static_cast<std::uint32_t>(fields[39]);
-  figures.policy = static_cast<std::uint32_t>(fields[41]);
+  stat.minorFaults = fields[10];
+  stat.majorFaults = fields[12];
+  stat.userTicks = fields[14];
+  stat.systemTicks = fields[15];
+  stat.start = fields[22];
+  stat.virtualSize = fields[23];
+  stat.residentPages = fields[24];
+  stat.processor = static_cast<std::uint32_t>(fields[39]);
+  stat.policy = static_cast<std::uint32_t>(fields[41]);
   return true;
 }
 
-bool ReadStat(const System& system, std::int32_t pid, StatFigures& figures) {
+bool ReadStat(const System& system, std::int32_t pid, Stat& stat) {
   const int file = OpenProcessFile(system, pid, kStatFile);
   if (file < 0) return false;
-  std::string_view name;
-  const bool read = ParseStat(Read(system, file), figures, name);
+  const bool isRead = ParseStat(Read(system, file), stat);
   system.close(file);
-  return read;
+  return isRead;
 }
 
 bool AddFigures(const System& system, const Surroundings& surroundings, ProcessFiles& files,

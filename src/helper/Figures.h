@@ -9,12 +9,20 @@
 
 namespace lurkwell::helper {
 
-/// Reads one line of a stat file; false, and nothing written, when it is not one. The name may hold
-/// any byte; it points into `text`.
-bool ParseStat(std::string_view text, StatFigures& figures, std::string_view& name);
+/// A stat file's figures and what else it says: the start in ticks since boot, the processor that
+/// the first thread was on last, and the name, which may hold any byte and points into the text.
+struct Stat : StatFigures {
+  std::uint64_t start;
+  std::uint32_t processor;
+  std::string_view name;
+};
+
+/// Reads one line of a stat file; false, and nothing written, when it is not one.
+bool ParseStat(std::string_view text, Stat& stat);
 
 /// Opens, reads and closes the stat file of a process; false, and nothing written, when it cannot.
-bool ReadStat(const System& system, std::int32_t pid, StatFigures& figures);
+/// The name is valid until other files are read.
+bool ReadStat(const System& system, std::int32_t pid, Stat& stat);
 
 /// Adds one line a figure of the groups that `line` asks for, in a fixed order: property, pid and
 /// value, with a blank between. Figures that may not be read are 0; a process that does not exist

@@ -70,17 +70,18 @@ bool MayServe(uid_t user) {
              LiesInFolderOf(user, info);
 #ifdef LURKWELL_PACKAGED
   Digest::Value digest;
-  may = may && DigestOfFile(file, digest) && IsListed(digest);
+  may = may && DigestOfFile(file, digest) && FindVersion(digest) == Version::kServing;
 #endif
   close(file);
   return may;
 }
 
 #ifdef LURKWELL_PACKAGED
-bool IsListed(const Digest::Value& digest) {
+/// A line is a digest, or a digest behind "- ", which withdraws it whatever else is listed.
+Version FindVersion(const Digest::Value& digest) {
   static char list[65536];
   const int file = OpenChecked(AT_FDCWD, LURKWELL_DIGEST_LIST, O_RDONLY, 0, OwnedByRootAlone);
-  if (file < 0) return false;
+  if (file < 0) return Version::kUnknown;
   const ssize_t size = read(file, list, sizeof list);
   close(file);
   char wanted[65];
@@ -91,16 +92,21 @@ bool IsListed(const Digest::Value& digest) {
   }
   writer.Add('\n');
   std::string_view rest(list, size > 0 ? static_cast<std::size_t>(size) : 0);
+  Version version = Version::kUnknown;
   while (!rest.empty()) {
-    if (TakePrefix(rest, writer.Text())) return true;
+    const bool withdrawn = TakePrefix(rest, "- ");
+    if (rest.starts_with(writer.Text())) {
+      if (withdrawn) return Version::kWithdrawn;
+      version = Version::kServing;
+    }
     const std::size_t end = rest.find('\n');
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
   }
-  return false;
+  return version;
 }
 #else
-bool IsListed(const Digest::Value&) {
-  return false;
+Version FindVersion(const Digest::Value&) {
+  return Version::kUnknown;
 }
 #endif
 

@@ -27,8 +27,9 @@ int OpenOwnFile();
 /// by root, one link, in a folder of that user, and in a package still on the list of versions.
 bool MayServe(uid_t user);
 
-/// Whether a version with this digest is on the list that the package keeps; never in a build tree,
-/// which has no list.
-bool IsListed(const Digest::Value& digest);
+/// What the list that the package keeps says of a version: nothing, that it is withdrawn and may
+/// only be replaced, or that it may serve. A build tree has no list and knows none.
+enum class Version { kUnknown, kWithdrawn, kServing };
+Version FindVersion(const Digest::Value& digest);
 
 }  // namespace lurkwell::helper

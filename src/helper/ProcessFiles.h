@@ -10,12 +10,11 @@ namespace lurkwell::helper {
 /// The files of a process that figures come from.
 enum ProcessFile : unsigned { kStatFile, kStatusFile, kIoFile, kProcessFileCount };
 
-/// What /proc/PID/stat says of a process: the start in ticks since boot, sizes in bytes and pages,
-/// the processor that its first thread was on last.
+/// What /proc/PID/stat says of a process, with sizes in bytes and pages.
 struct StatFigures {
   char state;
-  std::uint32_t policy, processor;
-  std::uint64_t minorFaults, majorFaults, userTicks, systemTicks, start, virtualSize, residentPages;
+  std::uint32_t policy;
+  std::uint64_t minorFaults, majorFaults, userTicks, systemTicks, virtualSize, residentPages;
 };
 
 /// What the helper remembers of the processes it reported: when each started, its figures, and
@@ -72,7 +71,7 @@ class ProcessFiles {
  private:
   static constexpr std::int32_t kClosedToUs = -1;
   static constexpr std::size_t kWays = 4;
-  static constexpr std::size_t kPlaces = 32768;
+  static constexpr std::size_t kPlaces = 16384;
   static constexpr std::int32_t kMemories = 8192;
   static constexpr std::size_t kSwept = 16;
   static constexpr std::uint32_t kAgeUnit = 1024;

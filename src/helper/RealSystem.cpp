@@ -9,7 +9,10 @@
 #include <time.h>
 #include <unistd.h>
 
+#include "helper/FolderNames.h"
+#include "helper/Protocol.h"
 #include "helper/System.h"
+#include "helper/Text.h"
 
 namespace lurkwell::helper {
 
@@ -30,8 +33,29 @@ int SignalProcess(int process, int signal) {
   return OrError(static_cast<int>(syscall(SYS_pidfd_send_signal, process, signal, nullptr, 0)));
 }
 
+int SetNiceOfThread(std::int32_t thread, int nice) {
+  return OrError(setpriority(PRIO_PROCESS, static_cast<id_t>(thread), nice));
+}
+
+/// Each thread has a nice value of its own, the first one's being that of the process. A thread
+/// that begins meanwhile has its creator's, and one that ends meanwhile needs none.
 int SetNice(std::int32_t pid, int nice) {
-  return OrError(setpriority(PRIO_PROCESS, static_cast<id_t>(pid), nice));
+  const int result = SetNiceOfThread(pid, nice);
+  if (result < 0) return result;
+  PathWriter path;
+  path.Add("/proc/");
+  path.AddNumber(static_cast<std::uint64_t>(pid));
+  path.Add("/task");
+  const int threads = open(path.Terminated(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (threads < 0) return OrError(threads);
+  AnyName(threads, [nice](const char* name) {
+    std::string_view text(name);
+    std::int32_t thread = 0;
+    if (TakeNumber(text, kHighestPid, thread)) SetNiceOfThread(thread, nice);
+    return false;
+  });
+  close(threads);
+  return result;
 }
 
 int OpenFile(const char* path) {

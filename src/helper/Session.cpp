@@ -52,7 +52,7 @@ void Session::JoinPeer() {
   const std::uint32_t now = mSystem->milliseconds();
   const bool begins = now - mLastAsked > kPause;
   mLastAsked = now;
-  StatFigures peer;
+  Stat peer;
   if (!begins || !ReadStat(*mSystem, mSurroundings.peerPid, peer) || mProcessor == peer.processor)
     return;
   mProcessor = mSystem->stayOn(peer.processor) < 0 ? -1 : std::int64_t{peer.processor};

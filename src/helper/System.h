@@ -12,6 +12,7 @@ struct System {
   /// A descriptor that stands for the process itself, whoever has its pid later.
   int (*openProcess)(std::int32_t pid);
   int (*signalProcess)(int process, int signal);
+  /// Of all threads of the process.
   int (*setNice)(std::int32_t pid, int nice);
   /// Opens a file below /proc for reading.
   int (*openFile)(const char* path);

@@ -16,6 +16,10 @@
 #include "helper/PermissionStep.h"
 #include "helper/Session.h"
 
+#if __USE_FORTIFY_LEVEL < 2 || !defined(__SSP_STRONG__) || !defined(__PIE__)
+#error "The helper is built with flags of its own, see CMakeLists.txt."
+#endif
+
 namespace lurkwell::helper {
 
 namespace {

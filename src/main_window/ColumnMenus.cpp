@@ -34,29 +34,38 @@ QAction* ColumnMenus::AddItem(QMenu& menu, const char* key) {
 }
 
 void ColumnMenus::Build() {
-  const auto prepare = [this](QAction& item, KeyId key, void (ColumnMenus::*handler)()) {
-    item.setText(TitleOf(KeyText(key).data()));
+  const auto prepare = [this](QAction& item, const char* id, KeyId key,
+                              void (ColumnMenus::*handler)()) {
+    item.setText(LocalizedString(id));
     item.setCheckable(true);
     item.setChecked(mController.isTracked(KeyText(key)));
     connect(&item, &QAction::triggered, this, handler);
   };
-  prepare(fTopLevelIconMenuItem, kInternalIcon, &ColumnMenus::processIconMenuItem);
-  prepare(fTopLevelIndicatorMenuItem, kInternalIndicator, &ColumnMenus::processIndicatorMenuItem);
-  prepare(fTopLevelNameMenuItem, kMetaName, &ColumnMenus::processNameMenuItem);
-  prepare(fTopLevelCPUPercentMenuItem, kInternalCPUPercent,
+  prepare(fTopLevelIconMenuItem, "menu_columns_icon", kInternalIcon,
+          &ColumnMenus::processIconMenuItem);
+  prepare(fTopLevelIndicatorMenuItem, "menu_columns_indicator", kInternalIndicator,
+          &ColumnMenus::processIndicatorMenuItem);
+  prepare(fTopLevelNameMenuItem, "menu_columns_name", kMetaName, &ColumnMenus::processNameMenuItem);
+  prepare(fTopLevelCPUPercentMenuItem, "menu_columns_cpu_usage", kInternalCPUPercent,
           &ColumnMenus::processCPUPercentMenuItem);
-  prepare(fTopLevelMemGraphMenuItem, kInternalMemGraph, &ColumnMenus::processMemGraphMenuItem);
+  prepare(fTopLevelMemGraphMenuItem, "menu_columns_memory", kInternalMemGraph,
+          &ColumnMenus::processMemGraphMenuItem);
 
   mBuiltInMenu.setTitle(LocalizedString("menu_columns_built_in"));
   mPSAvailableMenu.setTitle(LocalizedString("menu_columns_ps"));
   for (auto* menu : {&mBuiltInMenu, &mPSAvailableMenu}) menu->setToolTipsVisible(true);
   // As many columns as ps has do not fit a screen side by side.
   mPSAvailableMenu.setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
+  AddItems();
+}
+
+void ColumnMenus::AddItems() {
   char header[64];
-  for (int n = 0; n < CountProcPropertyHeaders(); ++n) {
-    if (!GetNthProcPropertyHeader(n, header, sizeof header)) continue;
-    const bool builtIn = n < CountBuiltInProcPropertyHeaders();
-    if (builtIn && KeyText(kMetaPid) == header) continue;
+  while (mHeadersSeen < CountProcPropertyHeaders()) {
+    const bool builtIn = mHeadersSeen < CountBuiltInProcPropertyHeaders();
+    if (!GetNthProcPropertyHeader(mHeadersSeen++, header, sizeof header)) continue;
+    // Pids have a column of their own, which ps's would only repeat.
+    if (KeyText(kMetaPid) == header || std::string_view(header) == "PID") continue;
     auto* item = AddItem(builtIn ? mBuiltInMenu : mPSAvailableMenu, header);
     connect(item, &QAction::triggered, this, [this, item, builtIn] {
       builtIn ? processBuiltInMenuItem(item) : processPSAvailableMenuItem(item);
@@ -136,6 +145,7 @@ void ColumnMenus::processPSAvailableMenuItem(QAction* item) {
 }
 
 void ColumnMenus::Validate() {
+  AddItems();
   // Columns do not depend on what is selected.
   const bool builtIn = mController.validateMenuItem(MenuCommand::kBuiltInColumn, {});
   const bool ps = mController.validateMenuItem(MenuCommand::kPSAvailableColumn, {});

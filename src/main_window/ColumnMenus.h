@@ -36,7 +36,7 @@ class ColumnMenus : public QObject {
   /// Ticks the item and shows the column, or the other way round; `item` was off or on before.
   void processGeneralMenuItem(QAction* item, KeyId key, KeyId afterKey = kNoKey);
 
-  /// Enables the items of the submenus or not.
+  /// Enables the items of the submenus or not, and adds those that there were not before.
   void Validate();
 
   QMenu& BuiltInMenu() { return mBuiltInMenu; }
@@ -45,9 +45,12 @@ class ColumnMenus : public QObject {
 
  private:
   QAction* AddItem(QMenu& menu, const char* key);
+  /// For the properties that have become known: a slow ps may tell its columns later.
+  void AddItems();
   QAction* BuiltInItem(KeyId key) const;
 
   vqMainTableController& mController;
+  int mHeadersSeen = 0;
   QMenu mBuiltInMenu;
   QMenu mPSAvailableMenu;
   QAction fTopLevelIconMenuItem;

@@ -55,8 +55,10 @@ void TextCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const auto rect = option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
   const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
   painter->setFont(option.font);
-  painter->setPen(option.palette.color(
-      GroupOf(option), IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
+  const bool isStale = index.data(vqMainTableController::kIsStaleRole).toBool();
+  painter->setPen(
+      option.palette.color(isStale ? QPalette::Disabled : GroupOf(option),
+                           IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
   const auto& metrics = option.fontMetrics;
   const bool fits = metrics.horizontalAdvance(text) <= rect.width();
   painter->drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine,
@@ -91,15 +93,13 @@ void CPUCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
 }
 
 void MemGraphCell::DrawText(QPainter& painter, const QRect& frame, const QPalette& palette) const {
-  char text[31];
-  FormatMemoryString(mVSZ, text, sizeof text, false);
+  const auto text = QString::fromStdString(MemoryString(mVSZ));
   auto rect = frame.adjusted(3, 1, -3, -1);
   // A narrow column keeps the end of the text.
   if (rect.width() < 40 && frame.width() >= 40) rect.setLeft(rect.right() - 39);
   const auto draw = [&](const QRect& place, const QColor& colour) {
     painter.setPen(colour);
-    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
-                     QString::fromLatin1(text));
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text);
   };
   // Bars of any darkness may lie below: a rim of the ground's colour keeps the text readable.
   const auto rim = palette.color(QPalette::Base);

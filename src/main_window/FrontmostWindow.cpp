@@ -46,6 +46,13 @@ void WatchWindowOrder(QWidget& window) {
   WindowOrder::Instance().Watch(window);
 }
 
+void BringToFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
 QList<QWidget*> orderedWindows() {
   return WindowOrder::Instance().Windows();
 }

@@ -11,6 +11,9 @@ namespace lurkwell {
 /// From now on the window takes part in the order, until it is destroyed.
 void WatchWindowOrder(QWidget& window);
 
+/// Shows a window that is hidden or minimised, above the program's others and with the keyboard.
+void BringToFront(QWidget& window);
+
 /// Front to back, invisible ones among them.
 QList<QWidget*> orderedWindows();
 

@@ -1,11 +1,14 @@
 // The columns of the main table: which there are, how wide, and how they are remembered.
 #include <QHeaderView>
 #include <algorithm>
+#include <span>
+#include <utility>
 
 #include "consolidator/PropertyCatalogue.h"
 #include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
 #include "main_window/vqMainTableController.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "resources/Resources.h"
 
@@ -28,14 +31,6 @@ bool IsPicture(KeyId key) {
   return key == kInternalIcon || key == kInternalIndicator;
 }
 
-/// Writes a number into the preferences unless it is there: every write goes to the disk.
-void RememberInt(std::int32_t index, const char* dictKey, std::int32_t value) {
-  if (IsPrefArrayValuePresent(kMainWindowColumnsKey, index, dictKey) &&
-      GetPrefArrayInt(kMainWindowColumnsKey, index, dictKey, false, 0) == value)
-    return;
-  SetPrefArrayInt(kMainWindowColumnsKey, index, dictKey, value);
-}
-
 /// The key of a remembered column, at most 63 characters; empty when there is none to be read.
 std::string RememberedKey(std::int32_t index) {
   char key[64] = "";
@@ -44,20 +39,30 @@ std::string RememberedKey(std::int32_t index) {
   return key;
 }
 
-void RememberColumn(std::int32_t index, const std::string& key, int width, std::int32_t direction) {
-  if (index >= GetPrefArrayCount(kMainWindowColumnsKey) || RememberedKey(index) != key)
-    SetPrefArrayString(kMainWindowColumnsKey, index, kColumnKeyKey, key.c_str());
-  if (width > 0) RememberInt(index, kColumnWidthKey, width);
-  RememberInt(index, kColumnSortDirectionKey, direction);
+/// A number of a remembered column; `usual` when there is none.
+std::int32_t RememberedInt(std::int32_t index, const char* dictKey, std::int32_t usual) {
+  return IsPrefArrayValuePresent(kMainWindowColumnsKey, index, dictKey)
+             ? GetPrefArrayInt(kMainWindowColumnsKey, index, dictKey, false, 0)
+             : usual;
 }
 
-/// A key that a table can show: its own columns, or a property that is known at present.
+/// Appends a column to the remembered ones; one that was never measured has no width.
+void RememberColumn(std::int32_t index, const char* key, int width, std::int32_t direction) {
+  const PrefArrayField fields[] = {{kColumnKeyKey, key},
+                                   {kColumnSortDirectionKey, direction},
+                                   {kColumnWidthKey, std::int32_t{width}}};
+  SetPrefArrayFields(kMainWindowColumnsKey, index,
+                     std::span(fields).first(width > 0 ? std::size(fields) : 2));
+}
+
+/// A key that a table can show: its own columns, or a property that is known at present. What ps
+/// has for PID stands in meta_pid.
 bool CanBeShown(const std::string& key) {
   if (IsInternalKey(key)) {
     const KeyId id = InternKey(key);
     return IsPicture(id) || id == kInternalCPUPercent || id == kInternalMemGraph;
   }
-  return !key.empty() && IsKnownProcProperty(key.c_str());
+  return key != "PID" && IsKnownProcProperty(key.c_str());
 }
 
 bool IsRightAligned(KeyId key, PropertyType type) {
@@ -76,35 +81,33 @@ void vqMainTableController::track(KeyId key, char direction) {
 }
 
 void vqMainTableController::readColumnPrefs() {
-  const auto write = [](const char* key) {
-    SetPrefArrayString(kMainWindowColumnsKey, GetPrefArrayCount(kMainWindowColumnsKey),
-                       kColumnKeyKey, key);
-  };
-  if (GetPrefArrayCount(kMainWindowColumnsKey) == 0)
-    for (const char* key :
-         {"meta_pid", "internal_Icon", "meta_name", "meta_active_time", "internal_CPUPercent"})
-      write(key);
-  for (std::int32_t i = 0; i < GetPrefArrayCount(kMainWindowColumnsKey); ++i) {
+  // What is added here is on disk whole or not at all.
+  const PreferenceBatch batch;
+  const auto count = GetPrefArrayCount(kMainWindowColumnsKey);
+  const auto sortIndex = GetPrefInt(kSortColumnIndexKey, nullptr, true, 1);
+  for (std::int32_t i = 0; i < count; ++i) {
     const auto text = RememberedKey(i);
-    const bool hasWidth = IsPrefArrayValuePresent(kMainWindowColumnsKey, i, kColumnWidthKey);
-    const int width =
-        hasWidth ? GetPrefArrayInt(kMainWindowColumnsKey, i, kColumnWidthKey, false, 0) : 0;
-    const auto direction = GetPrefArrayInt(kMainWindowColumnsKey, i, kColumnSortDirectionKey, true,
-                                           DefaultDirection(text)) != 0
-                               ? 1
-                               : 0;
-    if (!CanBeShown(text)) {
-      if (!text.empty() && !IsInternalKey(text)) fAbsentColumns.push_back({text, width, direction});
+    const int width = RememberedInt(i, kColumnWidthKey, 0);
+    const char direction =
+        RememberedInt(i, kColumnSortDirectionKey, DefaultDirection(text)) != 0 ? 1 : 0;
+    if (CanBeShown(text)) {
+      if (!isTracked(text) && width > 0) fColumnWidths[InternKey(text)] = width;
+      track(InternKey(text), direction);
+    } else if (!text.empty() && !IsInternalKey(text)) {
+      fAbsentColumns.push_back({text, width, direction});
+    } else {
       continue;
     }
-    const KeyId key = InternKey(text);
-    if (!isTracked(text) && width > 0) fColumnWidths[key] = width;
-    track(key, direction != 0 ? 1 : 0);
+    if (i == sortIndex) fRememberedSortKey = text;
   }
-  if (!isTracked(KeyText(kMetaPid))) {
-    write("meta_pid");
-    track(kMetaPid, 1);
-  }
+  const auto known = fKeysWeTrackForUI.size();
+  if (count == 0)
+    for (const KeyId key :
+         {kMetaPid, kInternalIcon, kMetaName, kMetaActiveTime, kInternalCPUPercent})
+      track(key, DefaultDirection(KeyText(key)));
+  track(kMetaPid, 1);
+  addMissingColumns();
+  if (fKeysWeTrackForUI.size() != known) saveColumnPrefs();
 }
 
 void vqMainTableController::addMissingColumns() {
@@ -117,6 +120,26 @@ void vqMainTableController::addMissingColumns() {
   };
   once("HAS_RUN_TWO_POINT_THREE", kInternalIndicator, kInternalIcon);
   once("HAS_RUN_TWO_POINT_FOUR", kInternalMemGraph, kInternalCPUPercent);
+}
+
+void vqMainTableController::showColumnsThatCame() {
+  for (std::size_t i = 0; i < fAbsentColumns.size();) {
+    if (!CanBeShown(fAbsentColumns[i].key)) {
+      ++i;
+      continue;
+    }
+    const auto column = std::move(fAbsentColumns[i]);
+    fAbsentColumns.erase(fAbsentColumns.begin() + static_cast<std::ptrdiff_t>(i));
+    const KeyId key = InternKey(column.key);
+    fColumnWidths[key] = column.width;
+    fColumnSortDirection[key] = column.direction != 0 ? 1 : 0;
+    if (fRememberedSortKey == column.key) {
+      fRememberedSortKey.clear();
+      setSortColumn(key, fColumnSortDirection[key]);
+      setNeedsResort();
+    }
+    addToKeysWeTrackForUI(key);
+  }
 }
 
 void vqMainTableController::addToKeysWeTrackForUI(KeyId key, KeyId afterKey) {
@@ -167,6 +190,9 @@ void vqMainTableController::clearColumns() {
 
 void vqMainTableController::rebuildColumns() {
   rememberSelection();
+  const auto focused = fTable->currentIndex();
+  const auto pid = focused.isValid() ? fRows.Shown()[static_cast<std::size_t>(focused.row())]->Pid()
+                                     : kInvalidPID;
   beginResetModel();
   clearColumns();
   for (const KeyId key : fKeysWeTrackForUI) addColumnToMainTable(key);
@@ -185,6 +211,7 @@ void vqMainTableController::rebuildColumns() {
   stripedTable()->setSearchColumn(columnIndexOf(kMetaName));
   showSortIndicator();
   restoreSelection();
+  if (pid != kInvalidPID) moveFocusTo(fRows.Find(pid));
 }
 
 void vqMainTableController::addColumnToMainTable(KeyId key) {
@@ -208,28 +235,36 @@ int vqMainTableController::widthForColumn(KeyId key, const QString& title) const
 
 void vqMainTableController::chooseInitialSortColumn() {
   if (fKeysWeTrackForUI.empty()) return;
-  auto index = GetPrefInt(kSortColumnIndexKey, nullptr, true, 1);
-  const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size());
-  // One behind the last is let through here, and is no column either.
-  if (index > count || index < 0) index = 0;
-  if (index == count) index = count - 1;
-  const KeyId key = fKeysWeTrackForUI[static_cast<std::size_t>(index)];
+  KeyId key = kNoKey;
+  if (isTracked(fRememberedSortKey)) {
+    key = InternKey(std::exchange(fRememberedSortKey, {}));
+  } else {
+    auto index = GetPrefInt(kSortColumnIndexKey, nullptr, true, 1);
+    const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size());
+    // One behind the last is let through here, and is no column either.
+    if (index > count || index < 0 || !fRememberedSortKey.empty()) index = 0;
+    if (index == count) index = count - 1;
+    key = fKeysWeTrackForUI[static_cast<std::size_t>(index)];
+  }
   setSortColumn(key, fColumnSortDirection[key]);
 }
 
 void vqMainTableController::saveColumnPrefs() {
   adoptScreenLayout();
-  const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size() + fAbsentColumns.size());
-  while (GetPrefArrayCount(kMainWindowColumnsKey) > count)
-    RemovePrefArrayElement(kMainWindowColumnsKey, count);
-  std::int32_t i = 0;
+  // Another instance's columns must not come in between.
+  const PreferenceBatch batch;
+  RemovePref(kMainWindowColumnsKey);
+  std::int32_t count = 0;
+  const auto remember = [&](const char* key, int width, std::int32_t direction) {
+    if (fRememberedSortKey == key) SetPrefInt(kSortColumnIndexKey, count);
+    RememberColumn(count++, key, width, direction);
+  };
   for (const KeyId key : fKeysWeTrackForUI) {
-    if (key == fSortColumn && GetPrefInt(kSortColumnIndexKey, nullptr, false, 0) != i)
-      SetPrefInt(kSortColumnIndexKey, i);
-    RememberColumn(i++, std::string(KeyText(key)), fColumnWidths[key], fColumnSortDirection[key]);
+    if (key == fSortColumn) SetPrefInt(kSortColumnIndexKey, count);
+    remember(KeyText(key).data(), fColumnWidths[key], fColumnSortDirection[key]);
   }
   for (const auto& column : fAbsentColumns)
-    RememberColumn(i++, column.key, column.width, column.direction);
+    remember(column.key.c_str(), column.width, column.direction);
 }
 
 }  // namespace lurkwell

@@ -50,7 +50,10 @@ void vqMainTableController::forSelectedPSNs(Action action) {
 }
 
 void vqMainTableController::processKillMenuItem() {
-  forSelectedPids(KillProcess);
+  // A guest may have ended, and its number gone, before the table is due again.
+  forSelectedPids([](std::int32_t pid) {
+    if (IsKernelPid(pid) || IsApplication(pid)) KillProcess(pid);
+  });
 }
 
 void vqMainTableController::processHighPriorityMenuItem() {

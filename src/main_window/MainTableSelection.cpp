@@ -36,6 +36,7 @@ void vqMainTableController::changeSortColumn(int places, int points) {
 bool vqMainTableController::shouldSelectTableColumn(int column) {
   if (column < 0 || column >= columnCount()) return false;
   const KeyId key = fColumns[static_cast<std::size_t>(column)].key;
+  fRememberedSortKey.clear();
   if (key == fSortColumn) toggleSortDirection(key);
   setSortColumn(key, fColumnSortDirection[key]);
   fNeedsResort = true;
@@ -99,11 +100,36 @@ QString vqMainTableController::nameOf(std::int32_t pid) {
 bool vqMainTableController::selectPid(std::int32_t pid) {
   const auto* row = fRows.Find(pid);
   if (fTable == nullptr || row == nullptr || row->shownIndex < 0) return false;
-  const auto place = index(row->shownIndex, 0);
-  fTable->selectionModel()->setCurrentIndex(
-      place, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  fTable->scrollTo(place);
+  stripedTable()->SelectAlone(row->shownIndex);
   return true;
+}
+
+void vqMainTableController::moveFocusTo(const RowDictionary* row) {
+  if (row == nullptr || row->shownIndex < 0) return;
+  const int column = std::max(fTable->currentIndex().column(), 0);
+  fTable->setAutoScroll(false);
+  fTable->selectionModel()->setCurrentIndex(index(row->shownIndex, column),
+                                            QItemSelectionModel::NoUpdate);
+  fTable->setAutoScroll(true);
+}
+
+void vqMainTableController::keepFocus(const std::function<bool(const RowDictionary&)>& isShown) {
+  const int focused = fTable != nullptr ? fTable->currentIndex().row() : -1;
+  if (focused < 0) return;
+  const auto& shown = fRows.Shown();
+  const auto count = static_cast<int>(shown.size());
+  const auto stays = [&](int place) {
+    if (place < 0 || place >= count) return false;
+    const auto& row = *shown[static_cast<std::size_t>(place)];
+    return !row.isDeparted && (!isShown || isShown(row));
+  };
+  for (int distance = 0; distance < count; ++distance) {
+    for (const int place : {focused + distance, focused - distance}) {
+      if (!stays(place)) continue;
+      if (distance > 0) moveFocusTo(shown[static_cast<std::size_t>(place)]);
+      return;
+    }
+  }
 }
 
 QString vqMainTableController::selectionAsText() const {

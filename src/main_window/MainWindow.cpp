@@ -26,8 +26,6 @@ namespace {
 
 constexpr char kFrameKey[] = "MAIN_WINDOW_FRAME";
 constexpr QSize kFirstSize(860, 560);
-/// So much of the window has to lie on a screen.
-constexpr int kGraspable = 40;
 constexpr int kTurnsBetweenQuestions = 30;
 
 QLabel* AddLabel(QStatusBar& bar, int stretch) {
@@ -61,8 +59,9 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   connect(mController.get(), &vqMainTableController::customisingRequested, this,
           &MainWindow::CustomiseToolbar);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
-  connect(mMenus.get(), &MainMenus::helpIsMissing, this,
-          [this](const QString& page) { statusBar()->showMessage(page, 20'000); });
+  connect(mMenus.get(), &MainMenus::helpIsMissing, this, [this](const QString& page) {
+    statusBar()->showMessage(LocalizedString("main_window_help_missing").arg(page), 20'000);
+  });
   connect(mMenus.get(), &MainMenus::pidRequested, this, &MainWindow::FindByPid);
   connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);
   connect(mMenus.get(), &MainMenus::closeRequested, this, &QWidget::close);
@@ -134,9 +133,7 @@ void MainWindow::CustomiseToolbar() {
     const int lowest = screen()->availableGeometry().bottom() - mCustomising->height() - kGraspable;
     mCustomising->move(below.x() - mCustomising->width() / 2, std::min(below.y(), lowest));
   }
-  mCustomising->show();
-  mCustomising->raise();
-  mCustomising->activateWindow();
+  BringToFront(*mCustomising);
 }
 
 QMenu* MainWindow::createPopupMenu() {

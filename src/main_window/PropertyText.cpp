@@ -1,6 +1,7 @@
 #include "main_window/PropertyText.h"
 
-#include <cstdlib>
+#include <charconv>
+#include <cmath>
 
 #include "consolidator/TextScan.h"
 #include "platform/PrintableText.h"
@@ -9,28 +10,15 @@
 namespace lurkwell {
 namespace {
 
-QString MemoryText(std::int64_t bytes) {
-  char text[64];
-  FormatMemoryString(bytes, text, sizeof text, false);
-  return QString::fromLatin1(text);
-}
-
-QString DateText(TimeValue time, int width) {
-  char text[64];
-  FormatDateString(text, sizeof text, time.seconds, time.microseconds, width);
-  return QString::fromUtf8(text).trimmed();
+/// With a point, whatever the user's language; what is no finite number counts as 0.
+double ReadReal(std::string_view text) {
+  SkipBlanks(text);
+  double value = 0.0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return std::isfinite(value) ? value : 0.0;
 }
 
 }  // namespace
-
-TimeValue ReadTime(std::string_view text) {
-  TimeValue time;
-  time.seconds = ScanInteger(text).value_or(0);
-  if (!text.starts_with('.')) return time;
-  text.remove_prefix(1);
-  time.microseconds = static_cast<std::int32_t>(ScanInteger(text).value_or(0));
-  return time;
-}
 
 RowValue ReadValue(PropertyType type, std::string_view text) {
   switch (type) {
@@ -40,8 +28,7 @@ RowValue ReadValue(PropertyType type, std::string_view text) {
     case kPropertyTypeMemory:
       return ScanInteger(text).value_or(0);
     case kPropertyTypeReal:
-      SkipBlanks(text);
-      return std::strtod(std::string(text).c_str(), nullptr);
+      return ReadReal(text);
     case kPropertyTypeTime:
     case kPropertyTypeDate:
       return ReadTime(text);
@@ -51,15 +38,22 @@ RowValue ReadValue(PropertyType type, std::string_view text) {
   return {};
 }
 
+RowValue ReadPSValue(PropertyType type, std::string_view text) {
+  const auto raw = WithoutNewline(text);
+  std::string_view digits = raw.substr(raw.starts_with('-') ? 1 : 0);
+  if (type == kPropertyTypeReal) digits = digits.substr(0, digits.find('.'));
+  const bool isDecimal = !digits.empty() &&
+                         digits.find_first_not_of("0123456789") == std::string_view::npos &&
+                         (digits.size() == 1 || digits.front() != '0');
+  return isDecimal ? ReadValue(type, raw) : ReadValue(kPropertyTypeString, raw);
+}
+
 QString TimeText(TimeValue time) {
-  char digits[32];
-  std::snprintf(digits, sizeof digits, "%lld.%06d", static_cast<long long>(time.seconds),
-                time.microseconds);
-  std::string text = digits;
+  std::string text = TimeString(time);
   while (!text.empty() && text.back() == '0') text.pop_back();
   if (text.back() == '.') text += '0';
   if (text[text.size() - 2] == '.') text += '0';
-  return QString::fromLatin1(text.c_str());
+  return QString::fromStdString(text);
 }
 
 QString PlainText(std::string_view text) {
@@ -68,23 +62,22 @@ QString PlainText(std::string_view text) {
 
 QString DisplayText(PropertyType type, const RowValue& value, int width, std::int32_t pid) {
   if (std::holds_alternative<std::monostate>(value)) return {};
+  if (const auto* text = std::get_if<std::string>(&value)) return PlainText(*text);
   switch (type) {
-    case kPropertyTypeString:
-      if (const auto* text = std::get_if<std::string>(&value)) return PlainText(*text);
-      break;
     case kPropertyTypeInteger:
       return QString::number(IntegerOf(value));
     case kPropertyTypeReal:
       return QString::number(NumberOf(value), 'g', 6);
     case kPropertyTypeMemory:
-      return MemoryText(IntegerOf(value));
+      return QString::fromStdString(MemoryString(IntegerOf(value)));
     case kPropertyTypeTime:
       if (const auto* time = std::get_if<TimeValue>(&value)) return TimeText(*time);
       break;
     case kPropertyTypeDate:
       if (const auto* time = std::get_if<TimeValue>(&value); time != nullptr && pid >= 0)
-        return DateText(*time, width);
+        return QString::fromStdString(DateString(*time, width)).trimmed();
       break;
+    case kPropertyTypeString:
     case kPropertyTypeHex:
       break;
   }

@@ -12,12 +12,13 @@ namespace lurkwell {
 
 /// From the consolidator's texts to values, and from values to what the user reads.
 
-/// "12.345678": seconds, a point, microseconds as a number. What is missing counts as 0.
-TimeValue ReadTime(std::string_view text);
-
 /// The value of a property of that type; nothing for hexadecimal ones, which no table shows.
 /// Numbers that do not parse count as 0.
 RowValue ReadValue(PropertyType type, std::string_view text);
+
+/// The same for a column of ps. Where its type says number and ps prints none, or one that is not
+/// decimal ("-", a mask of signals), the value is the text.
+RowValue ReadPSValue(PropertyType type, std::string_view text);
 
 /// A span of time without its trailing zeros, but with two digits behind the point at least:
 /// 12.34, 12.50, 12.00, 3.1415.

@@ -20,11 +20,13 @@ int Order(const T& a, const T& b, const compareContextStructure& context) {
   return context.ascending ? order : -order;
 }
 
-/// A missing value is smaller than any.
+/// A missing value is smaller than any, and a text in the place of a number than any number.
 template <typename T>
 int OrderOfValues(const SortedRow& a, const SortedRow& b, T SortedRow::*value,
                   const compareContextStructure& context) {
   if (a.isMissing || b.isMissing) return Order(!a.isMissing, !b.isMissing, context);
+  if (a.isText != b.isText) return Order(!a.isText, !b.isText, context);
+  if (a.isText) return Order(a.text, b.text, context);
   return Order(a.*value, b.*value, context);
 }
 
@@ -48,18 +50,22 @@ void PrepareText(SortedRow& row, const compareContextStructure& context) {
   if (text != nullptr) row.text = Folded(*text);
 }
 
-void PrepareNumber(SortedRow& row, const compareContextStructure& context) {
-  const auto& value = row.row->Get(context.sortKey);
+void SetNumber(SortedRow& row, const RowValue& value) {
   row.isMissing = std::holds_alternative<std::monostate>(value);
   row.integer = IntegerOf(value);
   row.number = NumberOf(value);
+  if (const auto* text = std::get_if<std::string>(&value)) {
+    row.isText = true;
+    row.text = Folded(*text);
+  }
+}
+
+void PrepareNumber(SortedRow& row, const compareContextStructure& context) {
+  SetNumber(row, row.row->Get(context.sortKey));
 }
 
 void PrepareSortable(SortedRow& row, const compareContextStructure& context) {
-  const auto& value = row.row->Sortable().Get(context.sortKey);
-  row.isMissing = std::holds_alternative<std::monostate>(value);
-  row.integer = IntegerOf(value);
-  row.number = NumberOf(value);
+  SetNumber(row, row.row->Sortable().Get(context.sortKey));
 }
 
 void PrepareCPUPercent(SortedRow& row, const compareContextStructure&) {

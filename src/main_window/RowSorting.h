@@ -26,6 +26,8 @@ struct SortedRow {
   RowDictionary* row = nullptr;
   std::int64_t pid = 0;
   bool isMissing = false;
+  /// A text where a number was to be expected.
+  bool isText = false;
   double number = 0.0;
   std::int64_t integer = 0;
   /// With the case folded.

@@ -6,7 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <cmath>
+#include <algorithm>
 
 #include "main_window/CustomCells.h"
 
@@ -64,8 +64,12 @@ StripedTableView::~StripedTableView() {
 // ---- The context menu ---------------------------------------------------------------------------
 
 void StripedTableView::SelectAlone(int row) {
+  const int left = horizontalScrollBar()->value();
+  const auto place = model()->index(row, std::max(currentIndex().column(), 0));
   selectionModel()->setCurrentIndex(
-      model()->index(row, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+      place, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  scrollTo(place);
+  horizontalScrollBar()->setValue(left);
 }
 
 void StripedTableView::showTheSpecialContextMenu(const QPoint& position,
@@ -94,8 +98,10 @@ void StripedTableView::contextMenuEvent(QContextMenuEvent* event) {
   // The mouse has been served by the press.
   if (event->reason() != QContextMenuEvent::Keyboard) return;
   if (fMenu == nullptr || !selectionModel()->hasSelection()) return;
-  const auto place = visualRect(currentIndex().isValid() ? currentIndex() : QModelIndex());
-  fMenu->popup(viewport()->mapToGlobal(place.bottomLeft()));
+  const auto rows = selectionModel()->selectedRows();
+  const auto place =
+      currentIndex().isValid() ? currentIndex() : *std::min_element(rows.begin(), rows.end());
+  fMenu->popup(viewport()->mapToGlobal(visualRect(place).bottomLeft()));
 }
 
 void StripedTableView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -132,9 +138,7 @@ void StripedTableView::keyboardSearch(const QString& search) {
   for (int i = 0; i < count; ++i) {
     const int row = (first + i) % count;
     if (!RowMatches(row, mSearched)) continue;
-    SelectAlone(row);
-    scrollTo(model()->index(row, mSearchColumn));
-    return;
+    return SelectAlone(row);
   }
 }
 

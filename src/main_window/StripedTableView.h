@@ -39,6 +39,9 @@ class StripedTableView : public QTableView {
 
   void keyboardSearch(const QString& search) override;
 
+  /// Selects that row and no other, whatever keys are held, and scrolls up or down to it.
+  void SelectAlone(int row);
+
  Q_SIGNALS:
   /// A double click on a row, or Return.
   void doubleAction();
@@ -54,8 +57,6 @@ class StripedTableView : public QTableView {
   void highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const;
   void drawGridInClipRect(QPainter& painter, const QRect& clip) const;
   bool RowMatches(int row, const QString& text) const;
-  /// That row and no other, whatever keys are held.
-  void SelectAlone(int row);
 
   QPointer<QMenu> fMenu;
   int mSearchColumn = -1;

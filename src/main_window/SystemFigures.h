@@ -29,12 +29,14 @@ class MachineUsage {
 
   /// From 1 for a busy machine downwards; not bounded, since idle time is not measured at the same
   /// instant. 1 at the first reading, which has nothing to compare with; 0, with a printed line,
-  /// when there is no process 0. Readings closer than 10 ms count as 10 ms apart.
+  /// when there is no process 0. Where its times were not read, the usage before, until a reading
+  /// tells that of all the time between. Readings closer than 10 ms count as 10 ms apart.
   double Take();
 
  private:
   TimeValue mLastUpdate;
   TimeValue mLastIdleTime;
+  double mUsage = 0.0;
 };
 
 }  // namespace lurkwell

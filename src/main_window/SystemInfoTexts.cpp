@@ -10,9 +10,7 @@ namespace lurkwell {
 namespace {
 
 QString Size(std::int64_t bytes) {
-  char text[64];
-  FormatMemoryString(bytes, text, sizeof text, false);
-  return QString::fromLatin1(text).trimmed();
+  return QString::fromStdString(MemoryString(bytes)).trimmed();
 }
 
 }  // namespace

@@ -27,17 +27,6 @@ namespace {
 
 constexpr char kSynchUnit[] = "VQTarvMainWindowInfoSynch";
 
-/// From `from` to `to`, with a borrow where the microseconds go below zero.
-double SecondsBetween(TimeValue from, TimeValue to) {
-  std::int64_t seconds = to.seconds - from.seconds;
-  std::int32_t microseconds = to.microseconds - from.microseconds;
-  if (microseconds < 0) {
-    --seconds;
-    microseconds += 1'000'000;
-  }
-  return static_cast<double>(seconds) + microseconds / 1e6;
-}
-
 /// A property's text in a buffer that is used over and over; nothing for a process that is gone.
 class PropertyReader {
  public:
@@ -73,8 +62,13 @@ VQTarvMainWindowInfoSynch::~VQTarvMainWindowInfoSynch() {
 void VQTarvMainWindowInfoSynch::HookIntoConsolidator() {
   if (mHooked) return;
   mHooked = true;
-  // While nobody was served, not even what never changes was read.
+  // While nobody was served, not even what never changes was read, no change of preferences was
+  // told, and what happened is no figure of one turn.
   gNewColumnWasAddedRecently = true;
+  SetInterval(MainWindowInterval());
+  mMachineUsage = {};
+  mPreviousPageouts.reset();
+  mFilteredPageouts = 0.0;
   AddProcessInformationClient(this);
   mOwner.internalRepresentations().KeepOnly(
       [this](std::int32_t pid) { return mOwner.rows().Find(pid) != nullptr; });
@@ -128,14 +122,15 @@ void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyI
   PropertyReader reader;
   const char* text = reader.Read(pid, name);
   // ps has no line for every process, and not every column has come yet.
-  if (text == nullptr || (!reader.HasValue() && FindBuiltInProperty(name) == nullptr)) return;
+  const bool isPSColumn = FindBuiltInProperty(name) == nullptr;
+  if (text == nullptr || (!reader.HasValue() && isPSColumn)) return;
   const auto type = GetProcPropertyType(name, nullptr);
   if (type == kPropertyTypeHex) {
     mHexadecimalWasMet = true;
     return;
   }
   if (type == kPropertyTypeDate && pid < 0) return;
-  auto value = ReadValue(type, text);
+  auto value = isPSColumn ? ReadPSValue(type, text) : ReadValue(type, text);
   if (type == kPropertyTypeMemory || type == kPropertyTypeTime || type == kPropertyTypeDate)
     row.Sortable().Set(key, value);
   row.Set(key, std::move(value));
@@ -181,14 +176,15 @@ void VQTarvMainWindowInfoSynch::RefreshBars() {
 
 void VQTarvMainWindowInfoSynch::UpdateCPUShares() {
   const auto now = TheMachine().clock.Now();
-  PropertyReader reader;
   for (auto* row : mOwner.rows().All()) {
-    const char* text = reader.Read(row->Pid(), "meta_active_time");
-    if (text == nullptr) continue;
-    const auto activeTime = ReadTime(text);
-    setCPUDelta(*row, activeTime, now);
-    row->Set(kMetaActiveTime, activeTime);
-    row->Sortable().Set(kMetaActiveTime, activeTime);
+    const auto activeTime = ActiveTimeOf(row->Pid());
+    if (!activeTime) continue;
+    // Without a reading the share stays, and the next one is of all the time since the last.
+    const auto& reading = row->cpuReading;
+    if (!reading.internal_current_active_time.IsZero() && !AreCPUTimesFresh(row->Pid())) continue;
+    setCPUDelta(*row, *activeTime, now);
+    row->Set(kMetaActiveTime, *activeTime);
+    row->Sortable().Set(kMetaActiveTime, *activeTime);
   }
 }
 
@@ -213,6 +209,8 @@ void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
   UpdateCPUShares();
   UpdateChangingFields();
   gNewColumnWasAddedRecently = false;
+  mOwner.noteStaleColumns();
+  mOwner.showColumnsThatCame();
   BeepForHexadecimals();
   if (mOwner.sortColumn() != kNoKey) {
     int changes = 0;

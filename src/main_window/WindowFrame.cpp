@@ -3,18 +3,13 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <string_view>
 
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
-namespace {
-
-/// So much of a window has to lie on a screen.
-constexpr int kGraspable = 40;
-
-}  // namespace
 
 WindowFrame ReadWindowFrame(const char* key) {
   char text[64] = "";
@@ -37,10 +32,13 @@ void WriteWindowFrame(const char* key, const QRect& frame, bool isMaximised) {
 }
 
 bool IsGraspable(const QRect& frame) {
-  const QRect title(frame.x(), frame.y(), frame.width(), kGraspable);
   return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen* screen) {
-    const auto seen = screen->availableGeometry() & title;
-    return seen.width() >= kGraspable && seen.height() >= kGraspable / 2;
+    const auto free = screen->availableGeometry();
+    const auto left = std::max(frame.left(), free.left());
+    const auto right = std::min(frame.right(), free.right());
+    const bool titleIsSeen =
+        frame.top() >= free.top() - kGraspable / 2 && frame.top() <= free.bottom() - kGraspable / 2;
+    return titleIsSeen && std::int64_t{right} - left >= kGraspable - 1;
   });
 }
 

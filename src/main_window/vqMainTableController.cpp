@@ -8,6 +8,7 @@
 
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PI_Consolidator.h"
+#include "consolidator/PSHeaders.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/Preferences.h"
 #include "main_window/PropertyText.h"
@@ -95,6 +96,19 @@ void vqMainTableController::memoryBarsHaveChanged() {
   for (auto* row : fRows.All()) row->SetChanged(true);
 }
 
+void vqMainTableController::noteStaleColumns() {
+  char header[64];
+  for (int n = 0; n < GetPSHeaderCount(); ++n) {
+    bool isCurrent = false;
+    GetNthPSHeader(n, header, sizeof header, &isCurrent);
+    if (!isTracked(header)) continue;
+    const auto column = std::ranges::find(fColumns, InternKey(header), &Column::key);
+    if (column == fColumns.end() || std::exchange(column->isStale, !isCurrent) == !isCurrent)
+      continue;
+    for (auto* row : fRows.All()) row->SetChanged(true);
+  }
+}
+
 void vqMainTableController::commitChanges() {
   fCommitIsQueued = false;
   if (!fHolders.empty()) {
@@ -104,11 +118,10 @@ void vqMainTableController::commitChanges() {
   fRows.TidyUp();
   rememberSelection();
   if (fNeedsResort) resortTable();
-  if (fFilter.isEmpty()) {
-    fRows.Commit({});
-  } else {
-    fRows.Commit([this](const RowDictionary& row) { return passesFilter(row); });
-  }
+  std::function<bool(const RowDictionary&)> isShown;
+  if (!fFilter.isEmpty()) isShown = [this](const RowDictionary& row) { return passesFilter(row); };
+  keepFocus(isShown);
+  fRows.Commit(isShown);
   restoreSelection();
   Q_EMIT contentsChanged();
 }
@@ -267,6 +280,10 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
           Qt::Alignment(Qt::AlignVCenter | (column.rightAligned ? Qt::AlignRight : Qt::AlignLeft)));
     case Qt::AccessibleTextRole:
       return spokenText(row, column);
+    case Qt::ToolTipRole:
+      return column.isStale ? LocalizedString("main_window_stale_tip") : QVariant();
+    case kIsStaleRole:
+      return column.isStale;
     case kCpuShareRole:
       return NumberOf(row.Get(kInternalCpuUsage));
     case kResidentSizeRole:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -45,8 +46,9 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   Q_OBJECT
 
  public:
-  /// What cells draw from, besides the usual roles: the CPU share, resident and virtual size.
-  enum Role { kCpuShareRole = Qt::UserRole, kResidentSizeRole, kVirtualSizeRole };
+  /// What cells draw from, besides the usual roles: the CPU share, resident and virtual size, and
+  /// whether a figure is an old one.
+  enum Role { kCpuShareRole = Qt::UserRole, kResidentSizeRole, kVirtualSizeRole, kIsStaleRole };
 
   /// Reads the columns from the preferences, adding what must be there, and makes the synchroniser.
   vqMainTableController();
@@ -74,6 +76,10 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void setNeedsResort() { fNeedsResort = true, setNeedsReload(); }
   void setNeedsReload();
   void memoryBarsHaveChanged();
+  /// Marks the ps columns that the turn brought no figures for; what they had stays, greyed.
+  void noteStaleColumns();
+  /// Shows the remembered columns that ps did not offer before and does now.
+  void showColumnsThatCame();
   void forgetSortableValues(std::int32_t pid) { fInternalRepresentations.Remove(pid); }
   void synchronizerIsGone() { fInfoSynchronizer = nullptr; }
 
@@ -205,6 +211,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
     PropertyType type;
     bool isInternal;
     bool rightAligned;
+    /// A ps column that the last turn brought no figures for.
+    bool isStale = false;
   };
 
   void BeginInsert(int first, int last) override;
@@ -223,6 +231,10 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   int widthForColumn(KeyId key, const QString& title) const;
 
   bool passesFilter(const RowDictionary& row) const;
+  /// Gives a row the focus where it stands, if it is shown; the table does not scroll to it.
+  void moveFocusTo(const RowDictionary* row);
+  /// A focus that goes with its row passes to the nearest row that stays.
+  void keepFocus(const std::function<bool(const RowDictionary&)>& isShown);
   QVariant iconOf(RowDictionary& row) const;
   QVariant indicatorOf(const RowDictionary& row) const;
   QString textOf(const RowDictionary& row, const Column& column) const;
@@ -252,6 +264,9 @@ class vqMainTableController final : public vqTableController, private ProcessRow
     std::int32_t direction;
   };
   std::vector<AbsentColumn> fAbsentColumns;
+  /// The remembered sort column, while it is not the sort column: before the columns are there, and
+  /// as long as it is absent and the user has chosen no other.
+  std::string fRememberedSortKey;
   std::vector<std::int32_t> fRememberedSelectionPIDs;
   QString fFilter;
   bool fNeedsResort = false;

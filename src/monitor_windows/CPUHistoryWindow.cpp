@@ -25,18 +25,6 @@ constexpr QSize kSmallestSize(60, 30);
 /// Those whose windows are there or still to come.
 std::set<CPUHistoryWindowInformationClient*> gClients;
 
-double SecondsBetween(TimeValue from, TimeValue to) {
-  return static_cast<double>(to.seconds - from.seconds) +
-         (to.microseconds - from.microseconds) / 1e6;
-}
-
-TimeValue ActiveTimeOf(std::int32_t pid) {
-  char text[64];
-  bool found = false;
-  const bool has = GetPIDPropertyValue(pid, "meta_active_time", text, sizeof text, &found);
-  return has && found ? ReadTime(text) : TimeValue{};
-}
-
 /// The record's place, made to fit: a size that a window can have, on a screen that exists.
 WindowRect Sound(WindowRect rect) {
   const std::int64_t width = std::int64_t{rect.right} - rect.left;
@@ -143,7 +131,7 @@ void CPUHistoryWindowInformationClient::NotifyProcessesHaveBeenUpdated() {
   const auto now = TheMachine().clock.Now();
   const double elapsed =
       std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdateTime, now)) / 1000.0);
-  const auto active = ActiveTimeOf(mPid);
+  const auto active = ActiveTimeOf(mPid).value_or(TimeValue{});
   const double total = SecondsBetween(mLastActiveTime, active) + descendants;
   const double share = total > 0.0 ? (total - descendants) / total : (0.01 - descendants) / 0.01;
   mGraph.SetFilter(CPUHistoryFilter());
@@ -160,7 +148,7 @@ double CPUHistoryWindowInformationClient::TakeDescendantsSeconds() {
   std::map<std::int32_t, Descendant> descendants;
   double seconds = 0.0;
   for (const auto pid : PidBlob(kPidBlobDescendantsOf, &mPid)) {
-    const auto active = ActiveTimeOf(pid);
+    const auto active = ActiveTimeOf(pid).value_or(TimeValue{});
     const auto before = mDescendants.find(pid);
     // What a process had used before anybody looked is no part of this turn; what one has used that
     // was born since then is. A figure that came before it was asked for may be an old one.

@@ -1,5 +1,6 @@
 #include "monitor_windows/ClassicWatchdog.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -68,38 +69,67 @@ ClassicWatchdog::Sight ClassicWatchdog::LookAtProcesses() const {
   for (const std::int32_t pid : PidBlob()) {
     if (!IsClassic(pid)) continue;
     sight.classic = true;
+    // Several may say that they are the nub; the one that has been told is the one.
+    if (sight.nub != kInvalidPID && sight.nub == gClassicNubPid) continue;
     char signature[8];
-    if (!GetPIDPropertyValue(pid, "carbonpsn_signature", signature, sizeof signature, nullptr) ||
-        std::string_view(signature) != std::string_view(kNubSignature.data(), kNubSignature.size()))
-      continue;
-    sight.nub = true;
-    if (gClassicWatchdogState == kClassicInitial || gClassicWatchdogState == kClassicNubMissing ||
-        gClassicWatchdogState == kClassicNubLaunched) {
-      gClassicWatchdogState = kClassicNubFound;
-      gClassicNubPid = pid;
-    }
+    if (GetPIDPropertyValue(pid, "carbonpsn_signature", signature, sizeof signature, nullptr) &&
+        std::string_view(signature) == std::string_view(kNubSignature.data(), kNubSignature.size()))
+      sight.nub = pid;
   }
   return sight;
 }
 
-void ClassicWatchdog::NotifyProcessesHaveBeenUpdated() {
-  const Sight sight = LookAtProcesses();
-  if (!sight.nub && gClassicWatchdogState == kClassicNubTold)
-    gClassicWatchdogState = kClassicNubMissing;
+/// A nub that is another than the one that was told has not been told.
+void ClassicWatchdog::TakeNote(const Sight& sight) {
+  const bool isThere = sight.nub != kInvalidPID;
+  switch (gClassicWatchdogState) {
+    case kClassicNubTold:
+      if (sight.nub == gClassicNubPid) break;
+      gClassicWatchdogState = isThere ? kClassicNubFound : kClassicNubMissing;
+      break;
+    case kClassicInitial:
+    case kClassicNubMissing:
+    case kClassicNubLaunched:
+      if (isThere) gClassicWatchdogState = kClassicNubFound;
+      break;
+    default:
+      break;
+  }
+  if (gClassicWatchdogState == kClassicNubFound && isThere) gClassicNubPid = sight.nub;
   if (!sight.classic) gClassicWatchdogState = kClassicNotSeen;
+}
+
+void ClassicWatchdog::NotifyProcessesHaveBeenUpdated() {
+  TakeNote(LookAtProcesses());
   switch (gClassicWatchdogState) {
     case kClassicInitial:
       gClassicWatchdogState = kClassicNotSeen;
       break;
+    case kClassicNotSeen:
+      mPatience = kFirstPatience;
+      break;
     case kClassicNubMissing:
       LaunchNub();
+      break;
+    case kClassicNubLaunched:
+      WaitForNub();
       break;
     case kClassicNubFound:
       AdjustClassicNub(true);
       break;
     default:
+      mPatience = kFirstPatience;
       break;
   }
+}
+
+/// One that has ended before it was seen is launched again, each time after twice the wait. Where
+/// it is only slow a second one ends by itself.
+void ClassicWatchdog::WaitForNub() {
+  if (mIsLaunching || ++mWaits < mPatience) return;
+  mPatience = std::min(2 * mPatience, kMostPatience);
+  gClassicWatchdogState = kClassicNubMissing;
+  LaunchNub();
 }
 
 /// A program may take its time to start, so a thread of its own waits for that.
@@ -118,6 +148,7 @@ void ClassicWatchdog::LaunchNub() {
       LaunchClassicNubEntryPoint(mLaunchBlock);
       mIsLaunching = false;
     });
+    mWaits = 0;
     gClassicWatchdogState = kClassicNubLaunched;
   } catch (const std::system_error& error) {
     mIsLaunching = false;

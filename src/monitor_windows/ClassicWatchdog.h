@@ -7,17 +7,18 @@
 #include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "platform/ProcessIdentity.h"
 
 namespace lurkwell {
 
 /// How far the nub has come.
 enum ClassicWatchdogState : std::int32_t {
   kClassicInitial = 0,
-  kClassicNotSeen = 1,     ///< no Classic process
-  kClassicNubMissing = 2,  ///< Classic runs, the nub does not: to be launched
-  kClassicNubLaunched = 3,
-  kClassicNubFound = 4,  ///< to be told whom to serve
-  kClassicNubTold = 5,   ///< steady
+  kClassicNotSeen = 1,      ///< no Classic process
+  kClassicNubMissing = 2,   ///< Classic runs, the nub does not: to be launched
+  kClassicNubLaunched = 3,  ///< to be seen, else launched again after a while
+  kClassicNubFound = 4,     ///< to be told whom to serve
+  kClassicNubTold = 5,      ///< steady
 };
 
 /// Sees to it that the nub, a small program among the applications of the Classic environment, runs
@@ -40,13 +41,22 @@ class ClassicWatchdog final : public ProcessInformationClient {
  private:
   struct Sight {
     bool classic = false;
-    bool nub = false;
+    /// kInvalidPID for none.
+    std::int32_t nub = kInvalidPID;
   };
   Sight LookAtProcesses() const;
+  static void TakeNote(const Sight& sight);
+  void WaitForNub();
   void LaunchNub();
   /// The body of the launch's own thread. Prints a line when the launch fails.
   static void LaunchClassicNubEntryPoint(const std::vector<std::string>& block);
 
+  /// In updates.
+  static constexpr int kFirstPatience = 2;
+  static constexpr int kMostPatience = 64;
+
+  int mPatience = kFirstPatience;
+  int mWaits = 0;
   std::vector<std::string> mLaunchBlock;
   std::thread mLaunch;
   std::atomic<bool> mIsLaunching{false};

@@ -1,7 +1,5 @@
 #include "monitor_windows/LoggingRecord.h"
 
-#include <cstdio>
-
 #include "process_control/DisplayFormats.h"
 
 namespace lurkwell {
@@ -9,41 +7,16 @@ namespace {
 
 constexpr std::int32_t kDateCharacters = 16;
 
-std::string SecondsText(TimeValue time) {
-  char text[48];
-  std::snprintf(text, sizeof text, "%lld.%06d", static_cast<long long>(time.seconds),
-                time.microseconds);
-  return text;
-}
-
-std::string DateText(TimeValue time) {
-  char text[64];
-  FormatDateString(text, sizeof text, time.seconds, time.microseconds, kDateCharacters);
-  return text;
-}
-
-std::string MemoryText(std::int64_t bytes, bool withSign) {
-  char text[64];
-  FormatMemoryString(bytes, text, sizeof text - 1, withSign);
-  return text;
-}
-
 /// The change since the last row; none at the first one.
 TimeValue ActiveTimeSince(TimeValue last, TimeValue now) {
-  if (last.IsZero()) return {};
-  TimeValue change{now.seconds - last.seconds, now.microseconds - last.microseconds};
-  if (change.microseconds < 0) {
-    --change.seconds;
-    change.microseconds += 1'000'000;
-  }
-  return change;
+  return last.IsZero() ? TimeValue{} : now - last;
 }
 
 class RowWriter {
  public:
   void WriteTime(TimeValue now) {
-    mRow.cells[kTimeStampColumn] = DateText(now);
-    mRow.line = SecondsText(now);
+    mRow.cells[kTimeStampColumn] = DateString(now, kDateCharacters);
+    mRow.line = TimeString(now);
   }
 
   void Write(LoggingColumn column, std::string cell, const std::string& number) {
@@ -51,10 +24,10 @@ class RowWriter {
     mRow.line += '\t' + number;
   }
   void WriteSpan(LoggingColumn column, TimeValue span) {
-    Write(column, SecondsText(span), SecondsText(span));
+    Write(column, TimeString(span), TimeString(span));
   }
   void WriteMemory(LoggingColumn column, std::int64_t bytes, bool withSign) {
-    Write(column, MemoryText(bytes, withSign), std::to_string(bytes));
+    Write(column, MemoryString(bytes, withSign), std::to_string(bytes));
   }
 
   LoggedRow Take() { return std::move(mRow); }

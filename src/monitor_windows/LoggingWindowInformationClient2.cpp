@@ -2,10 +2,10 @@
 
 #include <cstring>
 #include <optional>
+#include <string_view>
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/TextScan.h"
-#include "main_window/PropertyText.h"
 #include "monitor_windows/LoggingWindowUI.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -17,15 +17,11 @@ constexpr char kActiveTime[] = "meta_active_time";
 constexpr char kRealSize[] = "pid_rsz";
 constexpr char kVirtualSize[] = "pid_vsz";
 
-template <typename Value>
-std::optional<Value> ReadFigure(int pid, const char* property, Value (*read)(std::string_view)) {
+std::optional<std::int64_t> ReadSize(int pid, const char* property) {
   char text[64];
   if (!GetPIDPropertyValue(pid, property, text, sizeof text, nullptr)) return std::nullopt;
-  return read(text);
-}
-
-std::int64_t ReadSize(std::string_view text) {
-  return ScanInteger(text).value_or(0);
+  std::string_view rest(text);
+  return ScanInteger(rest).value_or(0);
 }
 
 }  // namespace
@@ -62,9 +58,9 @@ void LoggingWindowInformationClient2::NotifyProcessesHaveBeenUpdated() {
   if (state.pidWentAway) return;
   LoggingFigures figures;
   figures.now = TheMachine().clock.CalendarNow();
-  if (state.ActiveTime()) figures.activetime = ReadFigure(state.pid, kActiveTime, ReadTime);
-  if (state.RealMem()) figures.realMemUsed = ReadFigure(state.pid, kRealSize, ReadSize);
-  if (state.VirtualMem()) figures.virtualMemUsed = ReadFigure(state.pid, kVirtualSize, ReadSize);
+  if (state.ActiveTime()) figures.activetime = ActiveTimeOf(state.pid);
+  if (state.RealMem()) figures.realMemUsed = ReadSize(state.pid, kRealSize);
+  if (state.VirtualMem()) figures.virtualMemUsed = ReadSize(state.pid, kVirtualSize);
   mController.processesHaveBeenUpdated(figures);
 }
 

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QCloseEvent>
 #include <QFile>
 #include <QHeaderView>
 #include <QShortcut>
@@ -13,6 +12,7 @@
 #include <utility>
 
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/ControlledWindow.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
 #include "monitor_windows/LoggingPreferences.h"
@@ -33,22 +33,9 @@ constexpr QSize kSmallest(40, 40);
 constexpr int kBesideColumns = 16;
 constexpr int kCellMargin = 16;
 
-/// Tells its controller, which belongs to it, that it is being closed.
-class LoggingWindow final : public QWidget {
- public:
-  LoggingWindow() {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_QuitOnClose, false);
-  }
-
-  LoggingWindowUI* controller = nullptr;
-
- protected:
-  void closeEvent(QCloseEvent* event) override {
-    event->accept();
-    if (controller != nullptr) controller->windowWillClose();
-  }
-};
+Qt::Alignment AlignmentOf(LoggingColumn column) {
+  return (column == kTimeStampColumn ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
+}
 
 /// A line in the table's words at its widest, for the columns' first widths.
 const char* WidestText(LoggingColumn column) {
@@ -78,7 +65,7 @@ const char* TitleId(LoggingColumn column) {
 LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
     LogFiles& logFiles, std::int32_t interval, std::int32_t thePid, const Uuid* theUuid,
     const WindowRect* windowSize, std::int32_t somePrefIndex) {
-  auto window = std::make_unique<LoggingWindow>();
+  auto window = std::make_unique<ControlledWindow>();
   auto* controller = new LoggingWindowUI(*window);
   controller->initWithPrefIndex(somePrefIndex);
   auto& state = controller->mStateInfo;
@@ -104,7 +91,7 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   controller->mRememberedPlace = controller->frame();
   if (theUuid == nullptr) controller->rememberAsNew(controller->mPIC->Identifier());
   AddProcessInformationClient(controller->mPIC);
-  window->controller = controller;
+  window->willClose = [controller] { controller->windowWillClose(); };
   // It deletes itself when it is closed.
   static_cast<void>(window.release());
   return controller;
@@ -165,8 +152,6 @@ void LoggingWindowUI::awakeFromNib() {
   });
   auto* copy = new QShortcut(QKeySequence::Copy, fWindow);
   connect(copy, &QShortcut::activated, this, &LoggingWindowUI::copySelection);
-  auto* close = new QShortcut(Qt::CTRL | Qt::Key_W, fWindow);
-  connect(close, &QShortcut::activated, fWindow, &QWidget::close);
 }
 
 int LoggingWindowUI::widthForColumn(LoggingColumn column) const {
@@ -363,9 +348,7 @@ QVariant LoggingWindowUI::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto column = fColumns[static_cast<std::size_t>(index.column())];
   if (role == Qt::DisplayRole) return objectValueForTableColumn(column, index.row());
-  if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue((column == kTimeStampColumn ? Qt::AlignLeft : Qt::AlignRight) |
-                               Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(column));
   return {};
 }
 
@@ -376,9 +359,7 @@ QVariant LoggingWindowUI::headerData(int section, Qt::Orientation orientation, i
   if (role == Qt::DisplayRole) return LocalizedString(TitleId(column));
   if (role == Qt::ToolTipRole)
     return LocalizedString((std::string(TitleId(column)) + "_tip").c_str());
-  if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue((column == kTimeStampColumn ? Qt::AlignLeft : Qt::AlignRight) |
-                               Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(column));
   return {};
 }
 

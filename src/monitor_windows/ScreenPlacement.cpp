@@ -5,27 +5,16 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "main_window/WindowFrame.h"
+
 namespace lurkwell {
 namespace {
 
 constexpr int kCascadeStep = 24;
-/// So much of a window has to be seen, so that it can be taken hold of.
-constexpr int kGraspable = 40;
 
 int SpanWithin(std::int64_t span, int smallest, int largest) {
   return static_cast<int>(
       std::clamp(span, std::int64_t{smallest}, std::int64_t{std::max(smallest, largest)}));
-}
-
-bool CanBeGrasped(const WindowRect& place) {
-  for (const auto* screen : QGuiApplication::screens()) {
-    const QRect free = screen->availableGeometry();
-    const auto left = std::max(place.left, free.left());
-    const auto right = std::min(place.right, free.right() + 1);
-    const bool titleIsSeen = place.top >= free.top() && place.top <= free.bottom() - kGraspable / 2;
-    if (titleIsSeen && std::int64_t{right} - left >= kGraspable) return true;
-  }
-  return false;
 }
 
 }  // namespace
@@ -51,7 +40,8 @@ QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
       SpanWithin(std::int64_t{remembered.right} - remembered.left, smallest.width(), free.width());
   const int height = SpanWithin(std::int64_t{remembered.bottom} - remembered.top, smallest.height(),
                                 free.height());
-  if (CanBeGrasped(remembered)) return {remembered.left, remembered.top, width, height};
+  const QRect place({remembered.left, remembered.top}, QPoint(remembered.right, remembered.bottom));
+  if (IsGraspable(place)) return {remembered.left, remembered.top, width, height};
   const int left =
       std::clamp(remembered.left, free.left(), std::max(free.left(), free.right() + 1 - width));
   const int top =

@@ -19,10 +19,7 @@ class Clock {
   virtual TimeValue CalendarNow() = 0;
 
   /// Now() as seconds, the unit of the run loop's fire dates.
-  double AbsoluteTime() {
-    const TimeValue now = Now();
-    return static_cast<double>(now.seconds) + now.microseconds / 1e6;
-  }
+  double AbsoluteTime() { return InSeconds(Now()); }
 };
 
 }  // namespace lurkwell

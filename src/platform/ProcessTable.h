@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "platform/ProcessIdentity.h"
@@ -34,6 +35,19 @@ struct ProcessTableEntry {
   char commandName[17] = {};
 };
 
+/// What a process has used, as far as everybody may read it. Sizes are bytes.
+struct ProcessFigures {
+  TimeValue userTime;
+  TimeValue systemTime;
+  std::int64_t virtualSize = 0;
+  std::int64_t residentSize = 0;
+  std::int32_t suspendCount = 0;
+  std::int32_t policy = 0;
+  /// Page faults of both kinds, and those of them that waited for the disk.
+  std::int64_t faults = 0;
+  std::int64_t pageins = 0;
+};
+
 /// The kernel's list of processes. Main thread only.
 class ProcessTable {
  public:
@@ -43,6 +57,14 @@ class ProcessTable {
   /// task with pid 0. What vanishes during the pass is left out. The entries belong to the table
   /// and stay as they are until the next call. Empty when the table cannot be read at all.
   virtual std::span<const ProcessTableEntry> Read() = 0;
+
+  /// The process that has `pid` now, read afresh; nothing when there is none.
+  virtual std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) = 0;
+
+  /// What the process of an entry of the last Read has used up to now, for whoever has no helper to
+  /// ask. The idle task's times are those of the idle machine and of its waiting for input and
+  /// output. Nothing when the process has ended or the machine does not tell.
+  virtual std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) = 0;
 
   /// The highest pid that the machine can hand out.
   virtual std::int32_t MaximumPid() const = 0;

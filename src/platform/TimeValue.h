@@ -24,16 +24,29 @@ constexpr TimeValue operator+(TimeValue a, TimeValue b) {
   return sum;
 }
 
+/// Normalised too: what lies before zero has negative seconds.
+constexpr TimeValue operator-(TimeValue a, TimeValue b) {
+  TimeValue difference{a.seconds - b.seconds, a.microseconds - b.microseconds};
+  if (difference.microseconds < 0) {
+    difference.microseconds += 1'000'000;
+    --difference.seconds;
+  }
+  return difference;
+}
+
+constexpr double InSeconds(TimeValue time) {
+  return static_cast<double>(time.seconds) + time.microseconds / 1e6;
+}
+
+constexpr double SecondsBetween(TimeValue from, TimeValue to) {
+  return InSeconds(to - from);
+}
+
 /// Whole milliseconds from `from` to `to`; negative when `to` lies before `from`. The microsecond
 /// difference is made non-negative first, so the fraction is cut towards the past.
 constexpr std::int64_t MillisecondsBetween(TimeValue from, TimeValue to) {
-  std::int64_t seconds = to.seconds - from.seconds;
-  std::int32_t microseconds = to.microseconds - from.microseconds;
-  if (microseconds < 0) {
-    microseconds += 1'000'000;
-    --seconds;
-  }
-  return seconds * 1000 + microseconds / 1000;
+  const TimeValue difference = to - from;
+  return difference.seconds * 1000 + difference.microseconds / 1000;
 }
 
 constexpr TimeValue AddMilliseconds(TimeValue time, std::int64_t milliseconds) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -14,6 +15,18 @@ struct ToolOutput {
   bool complete = false;
 };
 
+/// A program that was started for what it prints. Destroying it kills it. Main thread only.
+class RunningTool {
+ public:
+  virtual ~RunningTool() = default;
+
+  /// Takes in what it has printed, without waiting; true once it has ended.
+  virtual bool HasEnded() = 0;
+
+  /// What it has printed so far; once.
+  virtual ToolOutput TakeOutput() = 0;
+};
+
 /// Programs of the system that run beside ours. Main thread only, but for starting one in the
 /// background. Nothing passes through a shell, and every program gets the same fixed environment
 /// and language.
@@ -21,13 +34,14 @@ class Tools {
  public:
   virtual ~Tools() = default;
 
-  /// Runs all command lines at the same time and collects what they print; an answer each, in
-  /// order. Returns when the last has ended, after `limit` at the latest; what still runs then is
-  /// killed. A command that cannot be started answers with an empty, incomplete text. Only the ps
-  /// command lines of the ps feeder are understood ("/bin/ps -Lww", "/bin/ps 0 -o KEYWORD",
-  /// "/bin/ps -axww -o pid,KEYWORD").
-  virtual std::vector<ToolOutput> Run(std::span<const std::string> commandLines,
-                                      std::chrono::milliseconds limit) = 0;
+  /// Starts a command line and does not wait for it; null when the system has no process or
+  /// descriptor to spare at present. Only the ps command lines of the ps feeder are understood
+  /// ("/bin/ps -Lww", "/bin/ps 0 -o KEYWORD", "/bin/ps -axww -o pid,KEYWORD"); any other ends with
+  /// an incomplete answer. What is started here is destroyed before this.
+  virtual std::unique_ptr<RunningTool> Start(const std::string& commandLine) = 0;
+
+  /// Serves them until all have ended, for `limit` at most.
+  virtual void Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) = 0;
 
   /// Starts a program that runs on by itself: it is nobody's waited-for child, keeps no descriptor
   /// of ours but the standard three, and ends when it likes. `arguments` starts with the program's

@@ -32,19 +32,14 @@ AllSettings* AllSettings::ShowOver(QWidget& parent) {
     window->setUpTable();
     WatchWindowOrder(*window);
   }
-  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-  window->show();
-  window->raise();
-  window->activateWindow();
+  BringToFront(*window);
   return window;
 }
 
 AllSettings::AllSettings(QWidget& parent)
-    : QWidget(&parent, Qt::Window),
+    : ControlledWindow(&parent),
       fModel(new SettingsModel(this)),
       fProxy(new QSortFilterProxyModel(this)) {
-  setAttribute(Qt::WA_DeleteOnClose);
-  setAttribute(Qt::WA_QuitOnClose, false);
   setWindowTitle(LocalizedString("settings_title"));
   setWindowIcon(NamedImage("show_preferences"));
   fRefreshTimer.start(kRefreshMilliseconds);
@@ -70,8 +65,8 @@ bool AllSettings::loadInterface() {
   layout->addWidget(contents);
   connect(close, &QPushButton::clicked, this, &QWidget::close);
   connect(fReset, &QPushButton::clicked, this, &AllSettings::resetSelection);
-  for (const auto& key : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
-    connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  connect(escape, &QShortcut::activated, this, &QWidget::close);
   auto* find = new QShortcut(QKeySequence::Find, this);
   connect(find, &QShortcut::activated, fFilter, [this] { fFilter->setFocus(); });
   return true;

@@ -6,15 +6,15 @@
 #include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QTimer>
-#include <QWidget>
 
+#include "main_window/ControlledWindow.h"
 #include "preferences_window/SettingsModel.h"
 
 namespace lurkwell {
 
 /// A window with every setting there is, for those that have no control of their own. There is one
 /// at most per preferences window, which it closes with. Main thread only.
-class AllSettings final : public QWidget {
+class AllSettings final : public ControlledWindow {
   Q_OBJECT
 
  public:

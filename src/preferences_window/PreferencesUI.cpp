@@ -1,9 +1,9 @@
 #include "preferences_window/PreferencesUI.h"
 
-#include <QCloseEvent>
 #include <QFile>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
 #include <QUiLoader>
@@ -14,6 +14,7 @@
 #include <memory>
 #include <utility>
 
+#include "main_window/ControlledWindow.h"
 #include "main_window/ControllerAssertion.h"
 #include "main_window/FrontmostWindow.h"
 #include "platform/Alerts.h"
@@ -37,30 +38,6 @@ constexpr int kTabs = static_cast<int>(std::size(kHeights));
 /// A change under the mouse or a held key counts when it has stood for so long: each goes to disk.
 constexpr int kDragMilliseconds = 100;
 
-/// Tells its controller, which belongs to it, that it is being closed.
-class PreferencesWindow final : public QWidget {
- public:
-  PreferencesWindow() {
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_QuitOnClose, false);
-  }
-
-  vqPreferencesUI* controller = nullptr;
-
- protected:
-  void closeEvent(QCloseEvent* event) override {
-    event->accept();
-    if (auto* closing = std::exchange(controller, nullptr)) closing->windowWillClose();
-  }
-};
-
-void BringToFront(QWidget& window) {
-  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-  window.show();
-  window.raise();
-  window.activateWindow();
-}
-
 /// Names that only the eye would find are told to those who listen.
 void NameSliders(const QWidget& contents) {
   for (const auto* label : contents.findChildren<QLabel*>())
@@ -74,7 +51,7 @@ void NameSliders(const QWidget& contents) {
 
 void vqPreferencesUI::runWithTab(int tab, const QString& form) {
   if (gThePreferencesUI != nullptr) return BringToFront(*gThePreferencesUI->fWindow);
-  auto window = std::make_unique<PreferencesWindow>();
+  auto window = std::make_unique<ControlledWindow>();
   auto* controller = new vqPreferencesUI(*window);
   controller->initWithTabShowing(tab);
   if (!controller->loadInterface(form)) {
@@ -87,7 +64,7 @@ void vqPreferencesUI::runWithTab(int tab, const QString& form) {
   }
   gThePreferencesUI = controller;
   controller->awakeFromNib();
-  window->controller = controller;
+  window->willClose = [controller] { controller->windowWillClose(); };
   WatchWindowOrder(*window);
   // It deletes itself when it is closed.
   BringToFront(*window.release());
@@ -120,7 +97,7 @@ void vqPreferencesUI::initWithTabShowing(int tab) {
 bool vqPreferencesUI::loadInterface(const QString& form) {
   QFile file(form);
   auto* contents = file.open(QIODevice::ReadOnly) ? QUiLoader().load(&file, fWindow) : nullptr;
-  if (contents == nullptr) return false;
+  if (contents == nullptr || contents->layout() == nullptr) return false;
   fTabView = contents->findChild<QTabWidget*>(QStringLiteral("tabView"));
   fNotice = contents->findChild<QLabel*>(QStringLiteral("changeNotice"));
   if (fTabView == nullptr || fTabView->count() != kTabs || fNotice == nullptr) return false;
@@ -131,7 +108,13 @@ bool vqPreferencesUI::loadInterface(const QString& form) {
   auto* layout = new QVBoxLayout(fWindow);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSizeConstraint(QLayout::SetNoConstraint);
-  layout->addWidget(contents);
+  // For fonts that a page needs more room with than the screen has.
+  auto* area = new QScrollArea(fWindow);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setWidget(contents);
+  layout->addWidget(area);
+  fContents = contents;
   return true;
 }
 
@@ -150,8 +133,8 @@ void vqPreferencesUI::awakeFromNib() {
   loadControls();
   connect(fTabView, &QTabWidget::currentChanged, this, &vqPreferencesUI::didSelectTabViewItem);
   for (const auto& control : PreferenceControls()) connectControl(control);
-  for (const auto& key : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
-    connect(new QShortcut(key, fWindow), &QShortcut::activated, fWindow, &QWidget::close);
+  auto* escape = new QShortcut(Qt::Key_Escape, fWindow);
+  connect(escape, &QShortcut::activated, fWindow, &QWidget::close);
   if (auto* button = fWindow->findChild<QPushButton*>(QStringLiteral("closeButton")))
     connect(button, &QPushButton::clicked, fWindow, &QWidget::close);
   if (auto* button = fWindow->findChild<QPushButton*>(QStringLiteral("allSettingsButton")))
@@ -276,26 +259,33 @@ void vqPreferencesUI::internalTabViewItem(int index) {
 
 int vqPreferencesUI::heightForTab(int index) const {
   // Larger fonts and other themes need more.
-  auto* layout = fWindow->layout();
+  auto* layout = fContents->layout();
   // From the page outwards; what they needed before is kept on every level.
-  for (auto* widget = static_cast<QWidget*>(fTabView); widget != fWindow;
+  for (auto* widget = static_cast<QWidget*>(fTabView); widget != fContents;
        widget = widget->parentWidget())
     widget->updateGeometry();
   const int width = std::max(fWindow->width(), layout->minimumSize().width());
   int needed = layout->minimumSize().height();
   if (layout->hasHeightForWidth()) needed = std::max(needed, layout->heightForWidth(width));
-  return std::max(kHeights[index], needed);
+  return std::min(std::max(kHeights[index], needed), roomOnScreen().height());
+}
+
+QSize vqPreferencesUI::roomOnScreen() const {
+  constexpr QSize kFrame(16, 48);
+  return fWindow->screen()->availableSize() - kFrame;
 }
 
 void vqPreferencesUI::setHeight(int height, bool animated) {
   fGrowth.stop();
-  const auto* layout = fWindow->layout();
-  fWindow->setMinimumWidth(layout->minimumSize().width());
+  const auto* layout = fContents->layout();
+  const int most = roomOnScreen().width();
+  fWindow->setMinimumWidth(std::min(layout->minimumSize().width(), most));
   const int duration =
       animated ? fWindow->style()->styleHint(QStyle::SH_Widget_Animation_Duration) : 0;
   if (duration <= 0) {
     fWindow->setFixedHeight(height);
-    if (!animated) fWindow->resize(std::max(fWindow->width(), layout->sizeHint().width()), height);
+    const int width = std::max(fWindow->width(), layout->sizeHint().width());
+    if (!animated) fWindow->resize(std::min(width, most), height);
     return;
   }
   // A window is measured from its top: that edge stays.

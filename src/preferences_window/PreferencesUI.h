@@ -60,9 +60,11 @@ class vqPreferencesUI final : public QObject {
   void takePendingValue();
   void chooseColour(QPushButton& well, const PreferenceControl& control);
   int heightForTab(int index) const;
+  QSize roomOnScreen() const;
   void setHeight(int height, bool animated);
 
   QWidget* fWindow;
+  QWidget* fContents = nullptr;
   QTabWidget* fTabView = nullptr;
   QLabel* fNotice = nullptr;
   std::int32_t fTabToShow = 0;

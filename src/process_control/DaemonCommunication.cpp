@@ -68,12 +68,12 @@ void SetHelperUnprivileged(bool unprivileged) {
 
 void LaunchHelperDaemon() {
   const bool always = AlwaysAuthenticates();
-  const std::string obstacle = ObstacleToInstallation();
+  std::string obstacle = ObstacleToInstallation();
   if (obstacle.empty()) {
     LaunchInstalledDaemon(always);
     const auto folder = TheMachine().bundle.ApplicationSupportFolder();
-    WatchDaemonChannel(folder.value_or("") + kHelperInApplicationSupport);
-    return;
+    if (gFd_a2d >= 0) return WatchDaemonChannel(folder.value_or("") + kHelperInApplicationSupport);
+    obstacle = "the installed one does not start";
   }
   std::fprintf(stderr, "lurkwell: the helper runs with your own rights: %s\n", obstacle.c_str());
   NormalInternalLaunchDaemon(HelperInBundle().c_str(), nullptr);

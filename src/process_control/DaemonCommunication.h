@@ -21,8 +21,8 @@ extern int gDaemonPID;
 
 /// Starts the helper, asking for an administrator's consent when the installed one has no rights or
 /// the preference GENERAL_ALWAYS_AUTHENTICATE_DAEMON (0) says so, and leaves the channel open.
-/// Once, at start-up. Where the helper cannot be installed, the application's own copy runs with
-/// the user's rights, and standard error says why.
+/// Once, at start-up. Where the helper cannot be installed, or the installed one does not start,
+/// the application's own copy runs with the user's rights, and standard error says why.
 ///
 /// From then on the channel looks after itself: a helper that has died, or has not opened its pipes
 /// or answered in time, is given up for good and another one started, 1, 2, 4 ... 60 seconds later

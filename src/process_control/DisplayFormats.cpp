@@ -86,23 +86,10 @@ std::string CutCalendarText(const std::string& text, std::int32_t width) {
   return text.substr(size <= kEnd ? kEnd - size : 0, std::min(size, kEnd));
 }
 
-/// One turn of what would not end: the last character stays where it is, so nothing gets shorter.
-void ShiftIfLonger(std::string& text, std::int32_t width) {
-  if (width > 0 && text.size() > static_cast<std::size_t>(width))
-    text = text.substr(1) + text.back();
-}
-
-std::string SecondsText(std::int64_t seconds, std::int32_t width) {
-  std::string text = std::to_string(seconds);
-  ShiftIfLonger(text, width);
-  return text;
-}
-
-std::string PreciseText(std::int64_t seconds, std::int32_t microseconds, std::int32_t width) {
-  char text[64];
-  const int length =
-      std::snprintf(text, sizeof text, "%lld.%06d", static_cast<long long>(seconds), microseconds);
-  return width > 0 && width < length ? SecondsText(seconds, width) : text;
+std::string PreciseText(TimeValue time, std::int32_t width) {
+  const auto text = TimeString(time);
+  const bool fits = width <= 0 || text.size() <= static_cast<std::size_t>(width);
+  return fits ? text : std::to_string(time.seconds);
 }
 
 }  // namespace
@@ -125,9 +112,9 @@ void FormatDateString(char* out, std::int32_t maxlen, std::int64_t seconds,
   const std::int32_t format = GetPrefInt("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", nullptr, true, 0);
   std::string text;
   if (format == 1) {
-    text = SecondsText(seconds, width);
+    text = std::to_string(seconds);
   } else if (format == 2) {
-    text = PreciseText(seconds, microseconds, width);
+    text = PreciseText({seconds, microseconds}, width);
   } else {
     if (format != 0) std::printf("BAD preferred date format preference! %d\n", format);
     text = CutCalendarText(CalendarText(seconds), width);
@@ -135,6 +122,25 @@ void FormatDateString(char* out, std::int32_t maxlen, std::int64_t seconds,
   const std::size_t length = std::min(text.size(), static_cast<std::size_t>(maxlen) - 1);
   std::memcpy(out, text.data(), length);
   out[length] = '\0';
+}
+
+std::string MemoryString(std::int64_t bytes, bool withSign) {
+  char text[64];
+  FormatMemoryString(bytes, text, sizeof text, withSign);
+  return text;
+}
+
+std::string DateString(TimeValue time, std::int32_t width) {
+  char text[64];
+  FormatDateString(text, sizeof text, time.seconds, time.microseconds, width);
+  return text;
+}
+
+std::string TimeString(TimeValue time) {
+  char text[48];
+  std::snprintf(text, sizeof text, "%lld.%06d", static_cast<long long>(time.seconds),
+                time.microseconds);
+  return text;
 }
 
 void EscapePathQuotes(char* path) {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+
+#include "platform/TimeValue.h"
 
 /// Texts for figures, in the user's preferred formats, which are read at every call. Main thread.
 /// Assertions are of the unit ProcessActions.
@@ -23,11 +26,18 @@ std::int32_t FormatMemoryString(std::int64_t value, char* out, std::int32_t maxl
 ///
 /// `width`, in characters, picks the part of the calendar text that fits: up to 15 the end of the
 /// date and time without the year, up to 20 the same from the month on, up to 24 the end with the
-/// year; 25 or more all of it, 0 or less all of it and a newline. Seconds longer than the width are
-/// shown without microseconds, but are not cut: no caller passes a width below their ten digits.
-/// (One that did would get them shifted by one character, the last one doubled.)
+/// year; 25 or more all of it, 0 or less all of it and a newline. Where microseconds do not fit
+/// they are left out; digits of the seconds never are, since what is left would look like another
+/// time.
 void FormatDateString(char* out, std::int32_t maxlen, std::int64_t seconds,
                       std::int32_t microseconds, std::int32_t width);
+
+/// The same two as texts of their own.
+std::string MemoryString(std::int64_t bytes, bool withSign = false);
+std::string DateString(TimeValue time, std::int32_t width);
+
+/// Seconds, a point, and six digits of microseconds.
+std::string TimeString(TimeValue time);
 
 /// Puts a backslash before every double quote, in place: the buffer has a byte more for each.
 void EscapePathQuotes(char* path);

@@ -10,6 +10,7 @@
 #include "platform/Machine.h"
 #include "platform/PrintableText.h"
 #include "platform/ProcessManager.h"
+#include "platform/ProcessTable.h"
 #include "platform/Signals.h"
 #include "process_control/DaemonCommunication.h"
 #include "process_control/Unit.h"
@@ -23,11 +24,18 @@ constexpr std::int32_t kNormalPriority = 0;
 constexpr std::int32_t kLowPriority = 20;
 constexpr FourCharCode kFinder = {'M', 'A', 'C', 'S'};
 
+/// Whether the pid still is the process that was shown under it.
+bool IsAsShown(std::int32_t pid) {
+  const auto identity = TheMachine().processTable.CurrentIdentity(pid);
+  return identity && identity->startStamp == GetPidsStartStamp(pid);
+}
+
 /// The helper's answer to one verb line.
 std::string AskForAction(std::int32_t pid, const std::string& line) {
   constexpr std::int32_t kCapacity = 255;
   char answer[kCapacity + 1] = "";
-  if (pid >= kLowestPid) QueryDaemon(("Lkw Action Request:\n" + line).c_str(), answer, kCapacity);
+  if (pid >= kLowestPid && IsAsShown(pid))
+    QueryDaemon(("Lkw Action Request:\n" + line).c_str(), answer, kCapacity);
   return answer;
 }
 
@@ -120,7 +128,8 @@ void KillProcess(std::int32_t pid) {
   if (count == 0) {
     KillProcessPSN(psn);
   } else if (count == 1) {
-    if (pid >= kLowestPid) TheMachine().signals.Send({pid, GetPidsStartStamp(pid)}, SIGTERM);
+    if (pid >= kLowestPid && IsAsShown(pid))
+      TheMachine().signals.Send({pid, GetPidsStartStamp(pid)}, SIGTERM);
   } else if (count == 2) {
     KillProcessPID(pid);
   } else {

@@ -7,7 +7,8 @@
 
 /// What the user can do to a process, and the memory of what was done. Main thread only. Nobody is
 /// told whether an action succeeded; a renice prints the helper's answer. A pid below 2 is refused
-/// by every action before anything is sent.
+/// by every action before anything is sent, and so is one that has passed to another process than
+/// the consolidator's record means.
 namespace lurkwell {
 
 // ---- The action list

@@ -156,6 +156,16 @@ TEST_F(ShellTest, AWindowClosedByHandStaysClosedUnlessNothingElseWouldBeSeen) {
   SplashScreen::destroy();
   Launch();
   EXPECT_TRUE(MainWindowIsVisible()) << "a program without any window could not be reached";
+  machine.processTable.Birth(300, "p");
+  Pass(2000);
+  delegate->monitorWindows().CreateCPUHistoryWindow(250, 300, nullptr, nullptr);
+  Pass(500);
+  delegate->mainWindow().close();
+  Pass(10);
+  EXPECT_FALSE(MainWindowIsVisible());
+  machine.processTable.Death(300);
+  Pass(2000);
+  EXPECT_TRUE(MainWindowIsVisible()) << "nor one whose last window went with its process";
   delegate->applicationWillTerminate();
 }
 

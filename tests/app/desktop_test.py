@@ -23,8 +23,7 @@ class Shell(Desktop):
                 env=self.environment, capture_output=True, text=True, timeout=60, check=False)
             self.assertEqual(done.returncode, 0, done.stderr)
             self.assertEqual(png_size(picture), size)
-        for key, value in left.items():
-            self.assertEqual(self.preferences()[key], value)
+        self.assertEqual(self.preferences(), left)
         done = subprocess.run([BINARY, "--screenshot", picture, "--window", "about"], timeout=60,
                               env=self.environment, capture_output=True, check=False)
         self.assertEqual(done.returncode, 0, done.stderr)

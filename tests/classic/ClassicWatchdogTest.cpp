@@ -1,6 +1,9 @@
 #include <atomic>
+#include <chrono>
 #include <mutex>
+#include <thread>
 
+#include "classic/ClassicRecords.h"
 #include "monitor_windows/ClassicWatchdog.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "support/ChildProgram.h"
@@ -87,9 +90,15 @@ TEST_F(ClassicWatchdogTest, LaunchesTheNubTellsItAndLaunchesItAgain) {
   EXPECT_EQ(Look(), kClassicNubTold);
   EXPECT_EQ(Sent(), kControl);
   EXPECT_EQ(gClassicNubPid, -3);
+  // Somebody else says that he is the nub, too; then the nub is another one.
+  Nub({2, 4});
   EXPECT_EQ(Look(), kClassicNubTold);
   EXPECT_EQ(Sent(), "");
   machine.processManager.Remove(kNub);
+  EXPECT_EQ(Look(), kClassicNubTold);
+  EXPECT_EQ(Sent(), kControl);
+  EXPECT_EQ(gClassicNubPid, -4);
+  machine.processManager.Remove({2, 4});
   EXPECT_EQ(Look(), kClassicNubLaunched);
   EXPECT_EQ(Launches(), 2U);
   // Listed, and gone when it is told: the next look starts another.
@@ -143,11 +152,37 @@ TEST_F(ClassicWatchdogTest, AStartThatFailsOrHangsHoldsNobodyUp) {
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "error -10810 when launching!\n");
 }
 
-TEST_F(ClassicWatchdogTest, AGuestWithoutASignatureIsNoNubAndNoError) {
-  machine.processManager.Launch(kGuest, std::nullopt, "Silent").cannotBeDescribed = true;
+TEST_F(ClassicWatchdogTest, ANubThatDiesUnseenIsLaunchedAgainEverMoreRarely) {
   TurnOn();
+  Guest();
+  const auto launchesAfter = [&](int looks) {
+    for (int i = 0; i < looks; ++i) {
+      Look();
+      std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return Launches();
+  };
+  EXPECT_EQ(launchesAfter(5), 2U);
+  EXPECT_EQ(launchesAfter(70), 6U);
+  Nub();
+  EXPECT_EQ(Look(), kClassicNubTold);
+  Look();
+  machine.processManager.Remove(kNub);
+  EXPECT_EQ(launchesAfter(5), 8U) << "a new chance";
+  TurnOffClassicNub();
+}
+
+TEST_F(ClassicWatchdogTest, AGuestWithoutASignatureIsNoNubAndNoError) {
+  TurnOn();
+  ClassicPSNSetupProcessExtractionAppleEvent();
   machine.eventBus.status = EventBus::kNoError;
   EXPECT_EQ(Look(), kClassicNotSeen);
+  // A report tells of it before the desktop does.
+  machine.eventBus.Deliver(ReportOf(ClassicBytes(kGuest, "Silent", 1)));
+  ASSERT_EQ(Value(-2, "carbonpsn_signature"), "(-)");
+  gClassicWatchdog->NotifyPidHasBeenAdded(-2);
+  gClassicWatchdog->NotifyProcessesHaveBeenUpdated();
+  EXPECT_EQ(gClassicWatchdogState, kClassicNubLaunched);
   // A nub that was never listed is told to rest at the end all the same.
   TurnOffClassicNub();
   EXPECT_NE(Sent().find("aevt/quit"), std::string::npos);

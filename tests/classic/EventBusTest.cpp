@@ -1,17 +1,22 @@
 // The bus between real programs.
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
 #include <chrono>
 #include <fstream>
 #include <functional>
+#include <thread>
 
 #include "classic/ClassicRecords.h"
 #include "desktop/TestBus.h"
+#include "platform/desktop/BusProbe.h"
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/DBusEventBus.h"
 #include "platform/desktop/EventMessage.h"
+#include "platform/linux/FileDescriptor.h"
 #include "support/ChildProgram.h"
 
 namespace lurkwell {
@@ -19,6 +24,7 @@ namespace {
 
 constexpr FourCharCode kClass = {'T', 'e', 's', 't'};
 constexpr FourCharCode kId = {'\x80', ' ', '"', '0'};
+constexpr FourCharCode kPlainId = {'a', 'b', 'c', 'd'};
 
 bool SoonTrue(const std::function<bool()>& condition, double seconds = 10) {
   return ComesTrue(
@@ -34,7 +40,9 @@ struct Ends {
   explicit Ends(const std::string& address)
       : receiver({address, QStringLiteral("receiver"), classic::kNubService}),
         sender({address, QStringLiteral("sender"), QString()}) {
-    receiver.InstallEventHandler(kClass, kId, [this](const Event& event) { got.push_back(event); });
+    for (const auto& id : {kId, kPlainId})
+      receiver.InstallEventHandler(kClass, id,
+                                   [this](const Event& event) { got.push_back(event); });
   }
   EventBus::Status Send(std::vector<EventParameter> parameters) {
     return sender.Send(FourCharCode{'z', 'r', 'N', 'v'}, {kClass, kId, std::move(parameters), {}});
@@ -47,6 +55,27 @@ struct Ends {
   DBusEventBus sender;
   std::vector<Event> got;
 };
+
+using Words = std::vector<std::string>;
+
+/// Another program's call of Deliver.
+void Deliver(const std::string& address, const Words& arguments, Words words = {}) {
+  const Words call = {"gdbus",         "call",
+                      "--address",     address,
+                      "--dest",        "com.velquarin.ClassicProcessInfoNub",
+                      "--object-path", "/com/velquarin/Events",
+                      "--method",      "com.velquarin.Events.Deliver"};
+  words.insert(words.end(), call.begin(), call.end());
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  ChildProgram caller(words);
+  EXPECT_TRUE(SoonTrue([&] { return caller.Ends(0); }));
+}
+
+std::string ManyParameters(int count) {
+  std::string list;
+  for (int i = 0; i < count; ++i) list += (i == 0 ? "[" : ",") + std::string("('data','long',<5>)");
+  return list + "]";
+}
 
 TEST(EventBus, CarriesTypedParametersAndTheWayBack) {
   const TestBus bus;
@@ -79,17 +108,26 @@ TEST(EventBus, DropsWhatIsTooLargeMalformedOrTooMuch) {
   ends.Send({{{'d', 'a', 't', 'a'}, std::vector<std::byte>(DBusEventBus::kLargestEvent + 1)}});
   ASSERT_TRUE(SoonTrue([&] { return ends.receiver.Dropped() == 1; }));
   std::uint64_t dropped = 1;
-  for (const std::string arguments :
-       {"string:Tes string:abcd", "string:Test", "int32:5 int32:6", "string:Test string:abcdef"}) {
-    ChildProgram caller({"sh", "-c",
-                         "exec dbus-send --bus=" + bus.Address() +
-                             " --type=method_call --dest=com.velquarin.ClassicProcessInfoNub "
-                             "/com/velquarin/Events com.velquarin.Events.Deliver " +
-                             arguments});
-    EXPECT_TRUE(caller.Ends());
-    EXPECT_TRUE(SoonTrue([&] { return ends.receiver.Dropped() == dropped + 1; })) << arguments;
+  for (const Words& arguments : {Words{"'Tes'", "'abcd'", "@a(ssv) []"},
+                                 {"'Test'", "'abcde'", "@a(ssv) []"},
+                                 {"'Test'", "'ab\u20ACd'", "@a(ssv) []"},
+                                 {"'Test'", "'abcd'"},
+                                 {"'Test'", "'abcd'", "[('dat','long',<5>)]"},
+                                 {"'Test'", "'abcd'", "[('data','long',<uint32 5>)]"},
+                                 {"'Test'", "'abcd'", "[('data','psn ',<5>)]"},
+                                 {"'Test'", "'abcd'", "[('data','****',<'text'>)]"},
+                                 {"'Test'", "'abcd'", "[('data','shor',<5>)]"},
+                                 {"'Test'", "'abcd'", ManyParameters(17)}}) {
+    Deliver(bus.Address(), arguments);
+    EXPECT_TRUE(SoonTrue([&] { return ends.receiver.Dropped() == dropped + 1; }))
+        << testing::PrintToString(arguments);
     dropped = ends.receiver.Dropped();
   }
+  EXPECT_EQ(ends.got.size(), 1U);
+  Deliver(bus.Address(), {"'Test'", "'abcd'", ManyParameters(16)});
+  ASSERT_TRUE(SoonTrue([&] { return ends.got.size() == 2; }));
+  EXPECT_EQ(ends.got[1].parameters.size(), 16U);
+  ends.got.pop_back();
   // A flood: what is heard is what time allows.
   const auto start = std::chrono::steady_clock::now();
   for (int i = 0; i < 2000; ++i) ends.Send({});
@@ -103,6 +141,41 @@ TEST(EventBus, DropsWhatIsTooLargeMalformedOrTooMuch) {
     ends.Send({});
     return ends.got.size() > before;
   }));
+}
+
+TEST(BusProbe, WaitsForOneThatIsBusyAndTriesEachAddress) {
+  const TestBus bus;
+  const std::string none = "unix:path=/nonexistent;";
+  EXPECT_FALSE(DoesBusAnswer(none));
+  EXPECT_TRUE(DoesBusAnswer(none + bus.Address()));
+
+  // As many callers as it has room for, and nobody who serves them yet.
+  const std::string name = "lurkwell-busy-bus-" + std::to_string(::getpid());
+  sockaddr_un place{};
+  place.sun_family = AF_UNIX;
+  name.copy(place.sun_path + 1, name.size());
+  const auto* address = reinterpret_cast<const sockaddr*>(&place);
+  const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
+  const auto open = [] {
+    return FileDescriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+  };
+  const auto listener = open();
+  ASSERT_EQ(::bind(listener.Get(), address, length), 0);
+  ASSERT_EQ(::listen(listener.Get(), 0), 0);
+  std::vector<FileDescriptor> callers;
+  do {
+    callers.push_back(open());
+  } while (::connect(callers.back().Get(), address, length) == 0);
+  const std::jthread server([&](const std::stop_token& stop) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    std::vector<FileDescriptor> served;
+    while (!stop.stop_requested()) {
+      served.emplace_back(::accept4(listener.Get(), nullptr, nullptr, SOCK_CLOEXEC));
+      if (served.back().IsOpen()) ::send(served.back().Get(), "R", 1, MSG_NOSIGNAL);
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+  });
+  EXPECT_TRUE(DoesBusAnswer("unix:abstract=" + name));
 }
 
 TEST(EventBus, WithoutABusThereIsALineAndNothingElse) {
@@ -130,13 +203,29 @@ TEST(EventBus, HearsNobodyElsesPrograms) {
   Ends ends(address);
   ASSERT_TRUE(ends.Connected());
   ASSERT_TRUE(SoonTrue([&] { return ends.got.size() == 1; }));
-  ChildProgram stranger({"setpriv", "--reuid=65534", "--clear-groups", "dbus-send",
-                         "--bus=" + address, "--type=method_call",
-                         "--dest=com.velquarin.ClassicProcessInfoNub", "/com/velquarin/Events",
-                         "com.velquarin.Events.Deliver", "string:Test", "string:abcd"});
-  EXPECT_TRUE(stranger.Ends());
+  const Words asStranger = {"setpriv", "--reuid=65534", "--clear-groups"};
+  const Words wellFormed = {"'Test'", "'abcd'", "[('data','long',<5>)]"};
+  Deliver(address, wellFormed, asStranger);
   EXPECT_TRUE(SoonTrue([&] { return ends.receiver.Dropped() == 1; }));
   EXPECT_EQ(ends.got.size(), 1U);
+  Deliver(address, wellFormed);
+  EXPECT_TRUE(SoonTrue([&] { return ends.got.size() == 2; }));
+
+  // Nor is anything sent to them, whatever they call themselves.
+  const auto reachesGuest = [&] {
+    return ends.sender.Send(ProcessSerialNumber{2, 1}, {kClass, kId, {}, {}}) == EventBus::kNoError;
+  };
+  const auto environmentOf = [&](Words words) {
+    words.emplace_back(LURKWELL_ENVIRONMENT);
+    return ChildProgram(words, {{"DBUS_SESSION_BUS_ADDRESS", address}});
+  };
+  auto theirs = environmentOf(asStranger);
+  ASSERT_EQ(theirs.ReadLine(), "ready");
+  EXPECT_FALSE(SoonTrue(reachesGuest, 0.5));
+  theirs.End();
+  auto ours = environmentOf({});
+  ASSERT_EQ(ours.ReadLine(), "ready");
+  EXPECT_TRUE(SoonTrue(reachesGuest));
   ::unlink(path.c_str());
   ::unlink((folder + ".socket").c_str());
 }

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <functional>
+#include <limits>
 #include <sstream>
 
 #include "consolidator/ClassicReports.h"
@@ -173,7 +174,7 @@ TEST_F(ClassicPrograms, GuestsComeRunAndEndWhateverDiesMeanwhile) {
   EXPECT_EQ(gClassicNubPid, -3);
   environment.Say("guest 2 2 APPL ttxt 3000000000 7 15 SimpleText \xC3\xA9");
   const std::string text =
-      "-4 Classic SimpleText \xC3\xA9 SimpleText \xE9 APPL ttxt -1294967296 7\n";
+      "-4 Classic SimpleText \xC3\xA9 SimpleText \xC3\xA9 APPL ttxt -1294967296 7\n";
   EXPECT_TRUE(Shows(finder + nub(-3) + text));
   EXPECT_EQ(Value(-4, "meta_psn"), "00000002 00000002");
 
@@ -218,10 +219,18 @@ TEST_F(ClassicPrograms, GuestsComeRunAndEndWhateverDiesMeanwhile) {
   EXPECT_TRUE(
       SoonTrue([&] { return gClassicWatchdogState == kClassicNotSeen && NubPids(bus).empty(); }));
 
-  // A new environment, and at the end of the watch its nub goes by itself.
+  // A new environment, which does not answer at first; and at the end of the watch its nub goes by
+  // itself.
   EnvironmentProgram second(bus);
+  second.Say("refuse 2");
+  // Who claims to be a process of the kernel's is not believed.
+  const auto self = SerialNumberOf(*ProcFolder("/proc").Identify(::getpid()));
+  second.Say("guest " + std::to_string(self.high) + " " + std::to_string(self.low) +
+             " APPL LIAR 1 1 0 Impostor");
   second.Say("guest 3 1 APPL ABCD 1 2 0 Guest");
   EXPECT_TRUE(SoonTrue([] { return gClassicWatchdogState == kClassicNubTold; }));
+  EXPECT_TRUE(processManager.GetProcessInformation({3, 1}));
+  EXPECT_FALSE(processManager.GetProcessInformation(self));
   TurnOffClassicNub();
   EXPECT_TRUE(SoonTrue([] { return PidOf("ClassicProcessInfoNub") == kInvalidPID; }));
   EXPECT_TRUE(SoonTrue([&] { return NubPids(bus).empty(); }));
@@ -238,11 +247,10 @@ TEST_F(ClassicPrograms, TheNubEndsWithTheProgramThatItServes) {
   int reports = 0;
   eventBus.InstallEventHandler({'Z', 'r', 'v', 'q'}, {'Z', 'r', 'q', '0'},
                                [&](const Event&) { ++reports; });
-  const Event control{
-      {'Z', 'r', 'v', 'q'},
-      {'Z', 'r', 'v', '_'},
-      {{{'Z', 'r', 'v', '1'}, SerialNumberOf(*process)}, {{'Z', 'r', 'v', '2'}, 30}},
-      {}};
+  Event control{{'Z', 'r', 'v', 'q'},
+                {'Z', 'r', 'v', '_'},
+                {{{'Z', 'r', 'v', '1'}, SerialNumberOf(*process)}, {{'Z', 'r', 'v', '2'}, 30}},
+                {}};
   ASSERT_TRUE(SoonTrue([&] {
     return eventBus.Send(FourCharCode{'z', 'r', 'N', 'v'}, control) == EventBus::kNoError;
   }));
@@ -252,7 +260,11 @@ TEST_F(ClassicPrograms, TheNubEndsWithTheProgramThatItServes) {
   ASSERT_TRUE(SoonTrue([&] { return reports == 4; }));
   const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
   EXPECT_NEAR(passed.count(), 1.5, 0.4);
-  EXPECT_FALSE(nub.Ends(0));
+  // However long it is told to sleep.
+  control.parameters[1].value = std::numeric_limits<std::int32_t>::max();
+  eventBus.Send(FourCharCode{'z', 'r', 'N', 'v'}, control);
+  ASSERT_TRUE(SoonTrue([&] { return reports == 5; }));
+  EXPECT_FALSE(nub.Ends(0.2));
   served.End();
   EXPECT_TRUE(nub.Ends(3));
 }

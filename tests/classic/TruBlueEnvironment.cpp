@@ -1,7 +1,17 @@
 // A Classic environment whose guests are told to it on standard input, a line each:
-//   burn PERCENT                                 uses so much of one CPU from now on
-//   guest HIGH LOW TYPE SIGNATURE SIZE FREE RATE NAME   RATE: ticks a second; the name ends the
-//   line end HIGH LOW
+//
+//   burn PERCENT       uses so much of one CPU from now on
+//
+//   guest HIGH LOW TYPE SIGNATURE SIZE FREE RATE NAME
+//                      RATE: ticks a second; the name ends the line
+//
+//   end HIGH LOW
+//
+//   refuse COUNT       answers so many questions for its guests with an error
+//
+//   flood COUNT EACH   tells the nub, when it asks, of so many guests that nobody lists, in so
+//                      large pieces, each time others
+//
 // It answers each with "ok", and ends with its input.
 #include <unistd.h>
 
@@ -14,6 +24,7 @@
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
+#include <cstring>
 #include <ctime>
 #include <iostream>
 #include <sstream>
@@ -21,6 +32,7 @@
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/DBusEventBus.h"
 #include "platform/desktop/EventMessage.h"
+#include "preferences/MacRoman.h"
 
 struct ListedApplication {
   quint32 high = 0;
@@ -70,7 +82,8 @@ QByteArray Guest::Record() const {
     std::copy_n(static_cast<const char*>(bytes), count, record.data() + offset);
   };
   const auto number = [&](qsizetype offset, quint32 value) { put(offset, &value, sizeof value); };
-  const QByteArray name = listed.name.toLatin1().left(255);
+  char name[256] = {};
+  MacRomanFromUtf8(listed.name.toStdString(), name, sizeof name);
   number(0, 60);
   number(8, listed.high);
   number(12, listed.low);
@@ -81,9 +94,17 @@ QByteArray Guest::Record() const {
   number(32, size);
   number(36, freeMemory);
   number(52, static_cast<quint32>(since.elapsed() * ticksPerSecond / 1000));
-  record[68] = static_cast<char>(name.size());
-  put(69, name.constData(), name.size());
+  record[68] = static_cast<char>(std::strlen(name));
+  put(69, name, static_cast<qsizetype>(std::strlen(name)));
   return record;
+}
+
+QByteArray FloodRecord(quint32 number) {
+  Guest guest;
+  guest.listed = {
+      77, number, QStringLiteral("Flood"), QStringLiteral("APPL"), 0, QStringLiteral("FLOD")};
+  guest.since.start();
+  return guest.Record();
 }
 
 class Environment final : public QDBusVirtualObject {
@@ -105,6 +126,9 @@ class Environment final : public QDBusVirtualObject {
   QDBusConnection mBus;
   QDBusServiceWatcher mPrograms;
   QTimer mBurning;
+  int mRefusals = 0;
+  quint32 mFlood = 0;
+  quint32 mFloodEach = 0;
   int mPercent = 0;
   quint32 mNextNumber = 1;
   QList<Guest> mGuests;
@@ -145,6 +169,10 @@ void Environment::Obey(const std::string& line) {
     guest.listed.type = QString::fromStdString(type);
     guest.listed.signature = QString::fromStdString(signature);
     Add(std::move(guest));
+  } else if (verb == "refuse") {
+    words >> mRefusals;
+  } else if (verb == "flood") {
+    words >> mFlood >> mFloodEach;
   } else if (verb == "end") {
     ProcessSerialNumber psn;
     words >> psn.high >> psn.low;
@@ -179,6 +207,10 @@ void Environment::Quit(const Event& event) {
 }
 
 bool Environment::handleMessage(const QDBusMessage& message, const QDBusConnection&) {
+  if (message.member() == QLatin1String("Applications") && mRefusals > 0) {
+    --mRefusals;
+    return mBus.send(message.createErrorReply(QDBusError::Failed, QStringLiteral("refused")));
+  }
   if (message.member() == QLatin1String("Applications")) {
     QList<ListedApplication> list;
     for (const auto& guest : mGuests) list << guest.listed;
@@ -187,6 +219,7 @@ bool Environment::handleMessage(const QDBusMessage& message, const QDBusConnecti
   if (message.member() == QLatin1String("Records")) {
     QByteArray records;
     for (const auto& guest : mGuests) records += guest.Record();
+    for (quint32 i = std::min(mFlood, mFloodEach); i > 0; --i) records += FloodRecord(mFlood--);
     return mBus.send(message.createReply(records));
   }
   if (message.member() != QLatin1String("Register") || message.arguments().size() != 2)

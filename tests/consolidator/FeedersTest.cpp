@@ -1,4 +1,6 @@
 // What the feeders ask of the machine and of the helper, and what they make of the answers.
+#include <numeric>
+
 #include "consolidator/PrintfOutputClient.h"
 #include "process_control/ProcessActions.h"
 #include "support/ConsolidatorTest.h"
@@ -92,6 +94,37 @@ TEST_F(FeedersTest, AnswersThatWereNotAskedForChangeNothing) {
   EXPECT_EQ(Value(40, "pid_vsz"), "1");
 }
 
+TEST_F(FeedersTest, WhatTheHelperDoesNotTellIsWhatEverybodyMayRead) {
+  auto& process = machine.processTable.Birth(45, "busy");
+  process.virtualSize = 0x20000005;
+  process.residentSize = 4096;
+  process.policy = 3;
+  std::iota(std::begin(process.events), std::end(process.events), 10);
+  Start();
+  Add("client", 1000).NeedsEverything();
+  const auto figures = [&] {
+    machine.runLoop.RunFor(1000);
+    std::string text = AreCPUTimesFresh(45) && AreCPUTimesFresh(0) ? "" : "old: ";
+    for (const char* property : {"meta_active_time", "pid_vsz", "pid_rsz", "pid_suspend_count",
+                                 "pid_policy", "pid_faults", "pid_pageins", "pid_csw"})
+      text += Value(45, property) + ' ';
+    return text;
+  };
+  process.UseCPU(1500);
+  EXPECT_EQ(figures(), "1.500000 5 4096 0 3 10 11 17 ");
+  process.UseCPU(1000);
+  helper->SetAnswer([](std::string_view) { return "pid_rsz 45 17\npid_user_time 0 1.0\n"; });
+  EXPECT_EQ(figures(), "old: 1.500000 5 17 0 3 10 11 17 ");
+  machine.processTable.TellFigures(true);
+  ++process.events[1];
+  ++process.events[7];
+  EXPECT_EQ(figures(), "2.500000 5 17 0 3 10 12 17 ") << "the helper's where it has them";
+  QuitHelperDaemon();
+  EXPECT_EQ(figures(), "2.500000 5 4096 0 3 10 12 17 ");
+  machine.processTable.TellFigures(false);
+  EXPECT_EQ(figures(), "old: 2.500000 5 4096 0 3 10 12 17 ");
+}
+
 TEST_F(FeedersTest, FiguresThatStayTheSameForABeatAreFreshInTheNext) {
   auto& process = machine.processTable.Birth(45, "busy");
   Start();
@@ -148,9 +181,10 @@ TEST_F(PSFeederTest, ColumnsAreFoundOnceAndKnownByTheirHeaders) {
   helper.emplace(machine);
   InitializeProcessInformationConsolidator();
   EXPECT_EQ(machine.log.Take(),
-            "Tools.Run /bin/ps -Lww\nTools.Run /bin/ps 0 -o pid\nTools.Run /bin/ps 0 -o %cpu\n"
-            "Tools.Run /bin/ps 0 -o rss\nTools.Run /bin/ps 0 -o rsz\nTools.Run /bin/ps 0 -o tt\n"
-            "Tools.Run /bin/ps 0 -o command\n");
+            "Tools.Start /bin/ps -Lww\nTools.Start /bin/ps 0 -o pid\n"
+            "Tools.Start /bin/ps 0 -o %cpu\nTools.Start /bin/ps 0 -o rss\n"
+            "Tools.Start /bin/ps 0 -o rsz\nTools.Start /bin/ps 0 -o tt\n"
+            "Tools.Start /bin/ps 0 -o command\n");
   std::string headers;
   for (int i = 0; i < GetPSHeaderCount(); ++i) {
     char name[64];
@@ -166,7 +200,9 @@ TEST_F(PSFeederTest, ANeededColumnIsOneRunAndItsValuesKeepTheirNewline) {
   Start();
   Add("client", 1000).Needs({"RSZ", "PID"});
   EXPECT_EQ(Accesses(1000),
-            "ProcessTable.Read\nProcessTable.Read\nTools.Run /bin/ps -axww -o pid,rsz\n");
+            "ProcessTable.Read\nProcessTable.Read\nTools.Start /bin/ps -axww -o pid,rsz\n");
+  EXPECT_EQ(Value(1, "RSZ"), "()") << "nobody waits for ps";
+  EXPECT_EQ(Accesses(1000), "ProcessTable.Read\nTools.Start /bin/ps -axww -o pid,rsz\n");
   EXPECT_EQ(Value(1, "RSZ"), "123\n");
   EXPECT_EQ(Value(60, "RSZ"), "45 6 \n");
   EXPECT_EQ(Value(61, "RSZ"), "");
@@ -180,29 +216,78 @@ TEST_F(PSFeederTest, ANeededColumnIsOneRunAndItsValuesKeepTheirNewline) {
 }
 
 TEST_F(PSFeederTest, ForSomeProcessesOnlyTheirValuesAreKept) {
-  Start();
-  Add("client", 1000).Needs({"TT"}).OfPids({61});
-  Told(1000);
   machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n60 s0\n61 s1\n99 s9\n");
-  EXPECT_EQ(Told(1000), "client added 99\nclient updated\n") << "a touch makes a record";
+  Start();
+  bool isCurrent = false;
+  auto& client = Add("client", 1000).Needs({"TT"}).OfPids({61});
+  client.onUpdated = [&] { GetNthPSHeader(3, nullptr, 0, &isCurrent); };
+  // A client whose turn comes in between takes nothing from the one that asked.
+  Add("other", 300);
+  Told(1000);
+  EXPECT_EQ(Value(61, "TT"), "()");
+  EXPECT_EQ(Told(1000).find("added"), std::string::npos) << "99 had ended before its line came";
   EXPECT_EQ(Value(60, "TT"), "()");
   EXPECT_EQ(Value(61, "TT"), "s1\n");
-  machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n61 s2\n");
-  EXPECT_EQ(Told(1000), "client removed 99\nclient updated\n")
-      << "and the kernel's pass retires it";
+  EXPECT_TRUE(isCurrent);
+  machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n");
+  Told(2000);
+  EXPECT_FALSE(isCurrent);
 }
 
-TEST_F(PSFeederTest, AColumnThatHangsKeepsWhatItHadAndRestsForAMinute) {
+TEST_F(PSFeederTest, AColumnThatHangsKeepsWhatItHadAndRestsForLongerEachTime) {
   const std::string command = "/bin/ps -axww -o pid,tt";
   machine.tools.SetOutput(command, "PID TT\n60 whole\n61 cut");
   machine.tools.SetStuck(command);
   Start();
-  Add("client", 1000).Needs({"TT"});
-  EXPECT_NE(Accesses(1000).find(command), std::string::npos);
+  Add("client", 500).Needs({"TT"});
+  // In half seconds: one for the first turn, two in which it may run, and the rest in between.
+  const auto runs = [&] {
+    std::string text;
+    for (int turn = 1; turn <= 200; ++turn)
+      if (Accesses(500).find(command) != std::string::npos) text += std::to_string(turn) + ' ';
+    return text;
+  };
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(runs(), "1 7 17 35 69 135 ") << "2, 4, 8, 16, 32 seconds";
   EXPECT_EQ(Value(60, "TT"), "whole\n");
   EXPECT_EQ(Value(61, "TT"), "()");
-  EXPECT_EQ(Accesses(59'000).find(command), std::string::npos);
-  EXPECT_NE(Accesses(2'000).find(command), std::string::npos);
+  const auto said = testing::internal::GetCapturedStderr();
+  EXPECT_TRUE(
+      said.starts_with("lurkwell: ps did not finish the column TT; asking again in 2 s\n"
+                       "lurkwell: ps did not finish the column TT; asking again in 4 s\n"))
+      << said;
+  EXPECT_EQ(std::ranges::count(said, '\n'), 6);
+  machine.tools.SetStuck(command, false);
+  machine.runLoop.RunFor(120'000);
+  EXPECT_NE(Accesses(500).find(command), std::string::npos) << "all is forgiven";
+}
+
+TEST_F(PSFeederTest, WhatCannotBeStartedIsTriedAgainAtOnce) {
+  Start();
+  Add("client", 1000).Needs({"TT"});
+  machine.tools.SetShort(true);
+  testing::internal::CaptureStderr();
+  for (int turn = 0; turn < 3; ++turn)
+    EXPECT_NE(Accesses(1000).find("-o pid,tt"), std::string::npos) << turn;
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "lurkwell: ps cannot be started; trying again with each update\n");
+  machine.tools.SetShort(false);
+  machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n60 s0\n");
+  Accesses(2000);
+  EXPECT_EQ(Value(60, "TT"), "s0\n");
+}
+
+TEST_F(PSFeederTest, ColumnsThatCannotBeFoundOutAtTheStartAreFoundOutLater) {
+  machine.tools.SetStuck("/bin/ps -Lww");
+  testing::internal::CaptureStderr();
+  Start();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "lurkwell: ps does not tell its columns; asking again in 2 s\n");
+  EXPECT_EQ(GetPSHeaderCount(), 0);
+  machine.tools.SetStuck("/bin/ps -Lww", false);
+  Add("client", 1000).Needs({"TT"});
+  machine.runLoop.RunFor(5000);
+  EXPECT_EQ(GetPSHeaderCount(), 4);
 }
 
 TEST_F(PSFeederTest, ColumnsUnderNamesThatNobodyKnowsOrThatAreTakenAreLeftOut) {
@@ -212,7 +297,7 @@ TEST_F(PSFeederTest, ColumnsUnderNamesThatNobodyKnowsOrThatAreTakenAreLeftOut) {
   Add("client", 1000).Needs({"TT", "RSZ"});
   machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TTY\n60 s0\n");
   machine.tools.SetOutput("/bin/ps -axww -o pid,rsz", "PID pid_p_nice\n60 5\n");
-  machine.runLoop.RunFor(1000);
+  machine.runLoop.RunFor(2000);
   EXPECT_EQ(Value(60, "TT"), "()");
   EXPECT_EQ(Value(60, "pid_p_nice"), "0");
 }
@@ -230,8 +315,8 @@ TEST_F(PSFeederTest, TheKeywordListIsCutAtItsLimit) {
   machine.tools.SetOutput("/bin/ps -Lww", list + "\nabcdef\n");
   helper.emplace(machine);
   InitializeProcessInformationConsolidator();
-  EXPECT_EQ(machine.log.Take(), "Tools.Run /bin/ps -Lww\nTools.Run /bin/ps 0 -o " +
-                                    std::string(255, 'x') + "\nTools.Run /bin/ps 0 -o ab\n");
+  EXPECT_EQ(machine.log.Take(), "Tools.Start /bin/ps -Lww\nTools.Start /bin/ps 0 -o " +
+                                    std::string(255, 'x') + "\nTools.Start /bin/ps 0 -o ab\n");
 }
 
 TEST_F(PSFeederTest, ThePrintfClientPrintsALinePerProcess) {
@@ -249,7 +334,7 @@ TEST_F(PSFeederTest, ThePrintfClientPrintsALinePerProcess) {
             "    0:            kernel_task    0.000000     0                      \n");
   EXPECT_EQ(machine.log.Take().find("-axww"), std::string::npos) << "it fetches no ps column";
   Add("other", 1000).Needs({"RSZ"});
-  machine.runLoop.RunFor(1000);
+  machine.runLoop.RunFor(2000);
   testing::internal::CaptureStdout();
   machine.runLoop.RunFor(1000);
   EXPECT_NE(testing::internal::GetCapturedStdout().find("\n   60:                      a    "

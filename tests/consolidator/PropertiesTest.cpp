@@ -1,4 +1,5 @@
 // The catalogue, the texts of values, and what reports do to them.
+#include "consolidator/ConsolidatorState.h"
 #include "consolidator/ProcessReports.h"
 #include "support/ConsolidatorTest.h"
 
@@ -37,30 +38,8 @@ class PropertiesTest : public ConsolidatorTest {
   }
 };
 
-TEST_F(PropertiesTest, TheCatalogueNamesTypesAndWhatChanges) {
+TEST_F(PropertiesTest, TheCatalogueHasAnEnd) {
   Start();
-  std::string table;
-  char name[64];
-  for (int i = 0; GetNthProcPropertyHeader(i, name, sizeof name); ++i) {
-    int changes = -1;
-    table += std::string(name) + " " + std::to_string(GetProcPropertyType(name, &changes));
-    table += changes ? " changes\n" : " stays\n";
-  }
-  EXPECT_EQ(table,
-            "meta_pid 1 stays\nmeta_name 0 changes\nmeta_active_time 5 changes\n"
-            "meta_kind 0 changes\nmeta_psn 0 stays\ncarbonpsn_name 0 stays\n"
-            "carbonpsn_type 0 stays\ncarbonpsn_signature 0 stays\ncarbonpsn_mode 1 stays\n"
-            "classicpsn_name 0 stays\nclassicpsn_type 0 stays\nclassicpsn_signature 0 stays\n"
-            "classicpsn_mode 1 stays\nclassicpsn_location 1 stays\nclassicpsn_size 1 stays\n"
-            "classicpsn_active_time 1 changes\nclassicpsn_free_mem 1 changes\n"
-            "pid_p_comm 0 changes\npid_p_priority 1 changes\npid_parent_pid 1 stays\n"
-            "pid_p_nice 1 changes\npid_p_starttime 6 changes\npid_user_time 5 changes\n"
-            "pid_system_time 5 changes\npid_vsz 4 changes\npid_rsz 4 changes\n"
-            "pid_suspend_count 1 changes\npid_terminated_user_time 5 changes\n"
-            "pid_terminated_system_time 5 changes\npid_policy 1 changes\npid_faults 1 changes\n"
-            "pid_pageins 1 changes\npid_cow_faults 1 changes\npid_messages_sent 1 changes\n"
-            "pid_messages_received 1 changes\npid_syscalls_mach 1 changes\n"
-            "pid_syscalls_unix 1 changes\npid_csw 1 changes\n");
   EXPECT_EQ(CountBuiltInProcPropertyHeaders(), 38);
   char untouched[] = "untouched";
   EXPECT_FALSE(GetNthProcPropertyHeader(38, untouched, sizeof untouched));
@@ -158,6 +137,12 @@ TEST_F(PropertiesTest, ApplicationsCarryWhatTheDesktopAndTheClassicEnvironmentSa
   // 255 bytes takes it.
   ReportProcessInformationClassicPSNBlob({2, 0xBEEF}, ClassicBlob(std::string(255, 'n'), 1).data());
   EXPECT_EQ(Value(-2, "classicpsn_name", 255), std::string(254, 'n'));
+  // Names are Mac Roman in the record; no character is cut in two.
+  ReportProcessInformationClassicPSNBlob({2, 0xBEEF},
+                                         ClassicBlob("n" + std::string(200, '\x8E'), 1).data());
+  std::string accented = "n";
+  for (int i = 0; i < 126; ++i) accented += "é";
+  EXPECT_EQ(Value(-2, "classicpsn_name", 255), accented);
 }
 
 TEST_F(PropertiesTest, AnApplicationsNewNameIsAChangeAndItsFirstIsNot) {
@@ -173,6 +158,10 @@ TEST_F(PropertiesTest, AnApplicationsNewNameIsAChangeAndItsFirstIsNot) {
   EXPECT_EQ(Told(1000), "client changed 331\nclient updated\n");
   EXPECT_EQ(Value(331, "carbonpsn_name"), std::string(127, 'x'));
   EXPECT_EQ(Value(331, "meta_name"), std::string(31, 'x'));
+  EXPECT_EQ(Told(1000), "client updated\n") << "what is not shown of it does not differ";
+  application.information.name = std::string(30, 'x') + "\xC3\xA9nd";
+  EXPECT_EQ(Told(1000), "client changed 331\nclient updated\n");
+  EXPECT_EQ(Value(331, "meta_name"), std::string(30, 'x')) << "no half characters";
   client.Needs({});
 }
 
@@ -259,6 +248,12 @@ TEST_F(PropertiesTest, SyntheticPidsAreKeptForTheFirst127) {
   EXPECT_EQ(PSN2PID({5, 5}), 44);
   PID2PSN(44, &psn);
   EXPECT_EQ(psn, (ProcessSerialNumber{5, 5}));
+  // Used up, they start over below those that are kept; what a record has is left out.
+  gPSN2PIDMap = SyntheticPidTable(std::numeric_limits<std::int32_t>::min());
+  TouchProcessInformationForPID(-130, kInformationKindCarbonPSN);
+  EXPECT_EQ(PSN2PID({9, 1}), std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(PSN2PID({9, 2}), -129);
+  EXPECT_EQ(PSN2PID({9, 3}), -131);
 }
 
 TEST_F(PropertiesTest, FamiliesAreFollowedUpwards) {

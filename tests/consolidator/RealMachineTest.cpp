@@ -6,6 +6,7 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <map>
 #include <memory>
@@ -13,6 +14,7 @@
 #include <thread>
 #include <vector>
 
+#include "consolidator/ProcessInformationFeederPS.h"
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxTools.h"
@@ -90,7 +92,9 @@ TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
     return Trimmed(OutputOf("LC_ALL=C /bin/ps -ww -p " + std::to_string(sleeper.Pid()) + " -o " +
                             option + "="));
   };
-  // A beat a minute: as long as a column rests whose ps did not end in time.
+  // In simulated time every ps would be late.
+  SetPSPatience(std::chrono::seconds(20));
+  // A beat a minute: as long as a column rests at most whose ps crashed.
   constexpr std::int32_t kBeat = 61'000;
   auto& client = Add("client", kBeat);
   std::vector<std::string> headers;
@@ -124,6 +128,36 @@ TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
                     << direct(optionOf[header]) << "'";
     }
   }
+}
+
+TEST_F(RealMachineTest, WithoutAHelperTheKernelsFiguresAreShown) {
+  const Child sleeper({"sleep", "1000"});
+  const Child busy({"sh", "-c", "while :; do :; done"});
+  Start();
+  QuitHelperDaemon();
+  Add("client", 1000).NeedsEverything();
+  const auto seconds = [](std::int32_t pid, const char* property = "meta_active_time") {
+    return std::stod(Value(pid, property));
+  };
+  machine.runLoop.RunFor(1000);
+  const double idle = seconds(0, "pid_user_time"), before = seconds(busy.Pid());
+  std::this_thread::sleep_for(std::chrono::seconds(1));
+  machine.runLoop.RunFor(1000);
+  EXPECT_GE(seconds(busy.Pid()), before + 0.05);
+  EXPECT_LE(seconds(busy.Pid()), 60);
+  EXPECT_LE(seconds(sleeper.Pid()), 0.5);
+  EXPECT_GE(seconds(0, "pid_user_time"), idle);
+  EXPECT_NEAR(seconds(0, "pid_user_time"),
+              std::stod(OutputOf("awk '/^cpu /{print $5/100}' /proc/stat")), 30);
+  const auto stat = [&](int field) {
+    return Trimmed(OutputOf("cut -d' ' -f" + std::to_string(field) + " /proc/" +
+                            std::to_string(sleeper.Pid()) + "/stat"));
+  };
+  EXPECT_EQ(Value(sleeper.Pid(), "pid_vsz"), stat(23));
+  EXPECT_EQ(Value(sleeper.Pid(), "pid_rsz"),
+            std::to_string(std::stoll(stat(24)) * sysconf(_SC_PAGESIZE)));
+  EXPECT_EQ(Value(sleeper.Pid(), "pid_faults"),
+            std::to_string(std::stoll(stat(10)) + std::stoll(stat(12))));
 }
 
 TEST_F(RealMachineTest, ShortLivedChildrenAreAnnouncedOnceOrNotAtAll) {

@@ -12,7 +12,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // A copy of just that size, so that a look beyond its end is found out.
   const std::string text(reinterpret_cast<const char*>(data), size);
   const auto stat = ParseProcStat(text);
+  static_cast<void>(ParseIdleTicks(text));
   if (!stat) return 0;
+  static_cast<void>(ParseProcUsage(*stat));
   if (stat->pid < 1 || stat->parentPid < 0) std::abort();
   if (text.find('(' + std::string(stat->name) + ')') == std::string::npos) std::abort();
   const std::string anew = StatText{stat->pid,      stat->name, stat->state,     stat->parentPid,

@@ -9,13 +9,17 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <cstdio>
 #include <memory>
 #include <random>
+#include <set>
 #include <thread>
 
+#include "consolidator/PidReport.h"
 #include "helper/HelperProcess.h"
 #include "helper/ReferenceReader.h"
+#include "process_control/DaemonCommunication.h"
+#include "process_control/ProcessActions.h"
+#include "process_control/RealMachine.h"
 
 namespace lurkwell::helper::testing {
 namespace {
@@ -35,105 +39,15 @@ int InPidNamespace(const std::function<int()>& body) {
   return InChild(inNamespace, 90);
 }
 
-/// What a canary looks like from outside: its run state, nice value and how it ended.
-struct Look {
-  bool stopped = false;
-  int nice = 0;
-  int endedBy = 0;
-  /// A SIGTERM waits until the process goes on.
-  bool doomed = false;
-  bool operator==(const Look&) const = default;
-};
-
-class Flock {
- public:
-  Flock() {
-    for (int count = 0; count < 60; ++count) {
-      mCanaries.push_back(std::make_unique<Canary>(count % 2 == 0 ? kUser : kStranger));
-      mExpected.emplace_back();
-      mCanaries.back()->Becomes("S");
-    }
-  }
-
-  long PidOf(std::size_t index) const { return mCanaries[index % mCanaries.size()]->Pid(); }
-
-  void Expect(const std::string& effect) {
-    std::istringstream stream(effect);
-    std::string kind;
-    long pid = 0;
-    int value = 0;
-    stream >> kind >> pid >> value;
-    for (std::size_t i = 0; i < mCanaries.size(); ++i) {
-      if (mCanaries[i]->Pid() != pid || mExpected[i].endedBy != 0) continue;
-      Look& look = mExpected[i];
-      if (kind == "nice") {
-        look.nice = value == 20 ? 19 : value;
-        continue;
-      }
-      if (value == SIGTERM && look.stopped) look.doomed = true;
-      if (value == SIGSTOP || value == SIGCONT) look.stopped = value == SIGSTOP;
-      if (value == SIGKILL || (!look.stopped && (value == SIGTERM || look.doomed)))
-        look = {.endedBy = value == SIGKILL ? SIGKILL : SIGTERM};
-      // Signals that wait at the same time are taken in the order of their numbers, so each is
-      // given the time to arrive by itself.
-      Settle(i);
-    }
-  }
-
-  /// The number of canaries that are not as they should be. Those that ended are replaced.
-  int CountWrong() {
-    int wrong = 0;
-    for (std::size_t i = 0; i < mCanaries.size(); ++i) {
-      const Look look = Settle(i);
-      if (look != mExpected[i]) {
-        ++wrong;
-        std::fprintf(stderr, "canary %zu: stopped %d nice %d ended by %d, expected %d %d %d\n", i,
-                     look.stopped, look.nice, look.endedBy, mExpected[i].stopped, mExpected[i].nice,
-                     mExpected[i].endedBy);
-      }
-      if (mExpected[i].endedBy == 0) continue;
-      mCanaries[i] = std::make_unique<Canary>(i % 2 == 0 ? kUser : kStranger);
-      mExpected[i] = {};
-      mCanaries[i]->Becomes("S");
-    }
-    return wrong;
-  }
-
- private:
-  /// How the canary looks once it is as it should be, or after a second.
-  Look Settle(std::size_t index) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(1);
-    for (;;) {
-      Look look = LookAt(*mCanaries[index]);
-      look.doomed = mExpected[index].doomed;
-      if (look == mExpected[index] || std::chrono::steady_clock::now() > end) return look;
-      std::this_thread::yield();
-    }
-  }
-
-  static Look LookAt(Canary& canary) {
-    const int ended = canary.EndedBy();
-    if (ended != 0) return {.endedBy = ended};
-    return {.stopped = canary.State() == 'T',
-            .nice = getpriority(PRIO_PROCESS, static_cast<id_t>(canary.Pid()))};
-  }
-
-  std::vector<std::unique_ptr<Canary>> mCanaries;
-  std::vector<Look> mExpected;
-};
-
-std::string HostileRequest(std::mt19937& random, const Flock& flock) {
-  static const char* const kVerbs[] = {"kill_normal ", "kill_harsh ", "kill_halt ",  "kill_cont ",
-                                       "renice ",      "kill ",       "KILL_HARSH ", ""};
-  static const char* const kPids[] = {"1", "0", "-1", "-2", "4294967298", "+2", " 2", "02", "2 "};
-  static const char* const kTails[] = {" 5", " -20", " 21", "\n", " 2", "\nkill_harsh 2", "x"};
+std::string HostileRequest(std::mt19937& random, const std::string& canary) {
+  static const auto kVerbs =
+      Pieces("kill_normal |kill_harsh |kill_halt |kill_cont |renice |kill |KILL_HARSH |", '|');
+  static const auto kPids = Pieces("1|0|-1|-2|4294967298|+2| 2|02|2 ", '|');
+  static const auto kTails = Pieces(" 5| -20| 21|\n| 2|\nkill_harsh 2|x", '|');
   const unsigned kind = random() % 8;
   std::string request = kind == 0 ? "Lkw Info Extraction:\n" : "Lkw Action Request:\n";
-  // Most of what is well formed leaves the canary alive, because each dead one is replaced.
-  const unsigned verbs = kind >= 5 ? 8 : random() % 4 == 0 ? 5 : 3;
-  const std::string verb = kVerbs[verbs == 3 ? 2 + random() % 3 : random() % verbs];
-  request += verb;
-  request += kind == 7 ? std::string(kPids[random() % 9]) : std::to_string(flock.PidOf(random()));
+  const std::string& verb = kVerbs[random() % (kind >= 5 ? 8 : 5)];
+  request += verb + (kind == 7 ? kPids[random() % 9] : canary);
   if (verb == "renice ") request += ' ' + std::to_string(static_cast<int>(random() % 44) - 22);
   if (kind == 5) request += kTails[random() % 7];
   if (kind == 6) request[random() % request.size()] = static_cast<char>(random());
@@ -142,26 +56,50 @@ std::string HostileRequest(std::mt19937& random, const Flock& flock) {
 
 TEST(CanaryTest, FiveThousandHostileRequestsTouchOnlyWhomTheyName) {
   EXPECT_EQ(InPidNamespace([] {
-              Flock flock;
-              HelperProcess helper(0);
-              if (helper.Ask("geteuid") != "0") return 3;
-              std::mt19937 random(61001);
-              int done = 0, wrong = 0;
-              for (int round = 0; round < 5000; ++round) {
-                const std::string request = HostileRequest(random, flock);
-                const Expectation expected = ReadRequest(request, helper.Pid(), getpid());
-                const std::string answer = helper.Ask(request);
-                if (expected.kind == Expectation::kEffect && answer == "ok") {
-                  ++done;
-                  flock.Expect(expected.effect);
-                } else if (answer.substr(0, 7) != "!Error ") {
-                  return 4;
-                }
-                if (round % 100 == 99) wrong += flock.CountWrong();
+              std::vector<std::unique_ptr<Canary>> canaries;
+              std::set<long> spared;
+              for (unsigned count = 0; count < 60; ++count) {
+                canaries.push_back(std::make_unique<Canary>(count % 4 < 2 ? kUser : kStranger));
+                if (count % 2 == 0) spared.insert(canaries.back()->Pid());
+                if (!canaries.back()->Becomes("S")) return 3;
               }
-              return wrong != 0 ? 5 : done > 500 ? 0 : 6;
+              HelperProcess helper(0);
+              std::mt19937 random(61001);
+              int done = 0;
+              for (int round = 0; round < 5000; ++round) {
+                const std::string request =
+                    HostileRequest(random, std::to_string(canaries[random() % 60]->Pid()));
+                const auto [kind, effect] = ReadRequest(request, helper.Pid(), getpid());
+                const bool acts = kind == Expectation::kEffect;
+                // Half of them are named only in what is refused.
+                if (acts && spared.contains(std::stol(effect.substr(effect.find(' '))))) continue;
+                const std::string answer = helper.Ask(request);
+                if (acts && answer == "ok")
+                  ++done;
+                else if (!answer.starts_with("!Error "))
+                  return 4;
+              }
+              helper.Close();
+              for (const auto& canary : canaries)
+                if (spared.contains(canary->Pid()) &&
+                    (canary->State() != 'S' ||
+                     getpriority(PRIO_PROCESS, static_cast<id_t>(canary->Pid())) != 0))
+                  return 5;
+              return done > 500 ? 0 : 6;
             }),
             0);
+}
+
+/// Another process under the pid of one that goes.
+std::unique_ptr<Canary> NextHolder(std::unique_ptr<Canary> holder) {
+  const pid_t pid = holder->Pid();
+  holder.reset();
+  // Starts are told apart by the clock tick.
+  std::this_thread::sleep_for(std::chrono::milliseconds(25));
+  WriteAll("/proc/sys/kernel/ns_last_pid", std::to_string(pid - 1));
+  auto next = std::make_unique<Canary>(kStranger);
+  if (next->Pid() != pid) throw std::runtime_error("another pid");
+  return next;
 }
 
 TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneReported) {
@@ -174,20 +112,42 @@ TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneReported) {
                 const std::string kill = (round % 2 ? "kill_harsh " : "renice ") +
                                          std::to_string(pid) + (round % 2 ? "" : " 7");
                 if (helper.Figures(line).empty()) return 3;
-                reported.reset();
-                // Starts are told apart by the clock tick.
-                std::this_thread::sleep_for(std::chrono::milliseconds(25));
-                WriteAll("/proc/sys/kernel/ns_last_pid", std::to_string(pid - 1));
-                Canary stranger(kStranger);
-                if (stranger.Pid() != pid) return 4;
+                const auto stranger = NextHolder(std::move(reported));
                 if (helper.Act(kill) != "!Error another process has this pid\n") return 5;
-                if (stranger.EndedBy() != 0) return 6;
+                if (stranger->EndedBy() != 0) return 6;
                 if (getpriority(PRIO_PROCESS, static_cast<id_t>(pid)) != 0) return 7;
                 // Asked anew, the figures are the stranger's, and so is the next action.
                 if (!helper.Figures(line).starts_with("pid_user_time ")) return 8;
                 if (helper.Act(kill) != "ok") return 9;
               }
               return 0;
+            }),
+            0);
+}
+
+TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneShown) {
+  EXPECT_EQ(InPidNamespace([] {
+              // The helper has reported nobody, so it takes whoever is there for the one meant.
+              RealMachine machine("/");
+              NormalInternalLaunchDaemon(HelperPath().c_str(), nullptr);
+              if (gFd_a2d < 0) return 3;
+              const auto show = [&](const Canary& canary) {
+                const auto identity = machine.processTable.CurrentIdentity(canary.Pid());
+                return NoteStartStamp(canary.Pid(), identity->startStamp);
+              };
+              auto shown = std::make_unique<Canary>(kUser);
+              show(*shown);
+              const auto stranger = NextHolder(std::move(shown));
+              const pid_t pid = stranger->Pid();
+              KillProcessDeadPID(pid);
+              ReniceProcessPID(pid, 5);
+              // What comes behind that on the channel arrives.
+              const Canary known(kStranger);
+              if (!show(known)) return 4;
+              KillProcessDeadPID(known.Pid());
+              if (!known.Becomes("Z")) return 5;
+              if (getpriority(PRIO_PROCESS, static_cast<id_t>(pid)) != 0) return 6;
+              return stranger->EndedBy() == 0 ? 0 : 7;
             }),
             0);
 }

@@ -112,6 +112,10 @@ int RunPermissionStep(const std::string& program, const std::string& folder, uid
   });
 }
 
+void Shell(const std::string& command) {
+  Check(std::system(command.c_str()) == 0, command.c_str());
+}
+
 std::string ReadAll(const std::string& path) {
   std::ifstream stream(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};

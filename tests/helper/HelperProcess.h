@@ -51,6 +51,9 @@ void Install(const std::string& program, const std::string& path, uid_t owner, g
 /// Runs the step that gives `folder`'s copy its rights, for `user`; its exit status.
 int RunPermissionStep(const std::string& program, const std::string& folder, uid_t user);
 
+/// Runs a command that has to succeed.
+void Shell(const std::string& command);
+
 std::string ReadAll(const std::string& path);
 void WriteAll(const std::string& path, std::string_view text);
 

@@ -4,7 +4,6 @@
 #include <sched.h>
 #include <signal.h>
 #include <sys/mman.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,7 +12,6 @@
 #include <filesystem>
 #include <thread>
 
-#include "helper/Digest.h"
 #include "helper/HelperProcess.h"
 
 namespace lurkwell::helper::testing {
@@ -81,34 +79,25 @@ TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
 }
 
 TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
-  using Spoil = std::function<void(Home&)>;
-  const auto shell = [](const std::string& command) {
-    ASSERT_EQ(std::system(command.c_str()), 0) << command;
-  };
-  const std::vector<std::pair<const char*, Spoil>> cases = {
-      {"other bytes", [](Home& home) { WriteAll(home.copy, "#!/bin/sh\n"); }},
-      {"one byte more", [&](Home& home) { shell("printf x >> " + home.copy); }},
-      {"no copy", [&](Home& home) { shell("rm " + home.copy); }},
-      {"link",
-       [&](Home& home) {
-         shell("cd " + home.path + " && mv L* real && ln -s real Lurkwell_helper");
-       }},
-      {"second name", [&](Home& home) { shell("ln " + home.copy + " " + home.path + "/second"); }},
-      {"pipe", [&](Home& home) { shell("rm " + home.copy + " && mkfifo " + home.copy); }},
-      {"folder", [&](Home& home) { shell("rm " + home.copy + " && mkdir " + home.copy); }},
-      {"stranger's copy", [&](Home& home) { shell("chown 61002 " + home.copy); }},
-      {"stranger's folder", [&](Home& home) { shell("chown 61002 " + home.path); }},
-      {"stranger above", [&](Home& home) { shell("chown 61002 " + home.data.Path()); }},
-      {"group may write", [&](Home& home) { shell("chmod 0770 " + home.path); }},
-      {"all may write", [&](Home& home) { shell("chmod 0777 " + home.path); }},
-      {"group may write above",
-       [&](Home& home) {
-         shell("chmod 0770 " + home.data.Path() + " && chgrp 61002 " + home.data.Path());
-       }},
+  // Each spoils a copy L in its folder D below the data folder A.
+  const std::pair<const char*, const char*> cases[] = {
+      {"other bytes", "echo '#!/bin/sh' > $L"},
+      {"one byte more", "printf x >> $L"},
+      {"no copy", "rm $L"},
+      {"link", "mv $L $D/real; ln -s real $L"},
+      {"second name", "ln $L $D/second"},
+      {"pipe", "rm $L; mkfifo $L"},
+      {"folder", "rm $L; mkdir $L"},
+      {"stranger's copy", "chown 61002 $L"},
+      {"stranger's folder", "chown 61002 $D"},
+      {"stranger above", "chown 61002 $A"},
+      {"group may write", "chmod 0770 $D"},
+      {"all may write", "chmod 0777 $D"},
+      {"group may write above", "chmod 0770 $A; chgrp 61002 $A"},
   };
   for (const auto& [name, spoil] : cases) {
-    Home home(kUser);
-    spoil(home);
+    const Home home(kUser);
+    Shell("A=" + home.data.Path() + " D=" + home.path + " L=" + home.copy + "; " + spoil);
     const struct stat before = home.Info();
     EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), kRefused) << name;
     const struct stat after = home.Info();
@@ -126,15 +115,13 @@ TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
 
 TEST(InstallTest, AFileSystemThatIgnoresTheRightsIsRefused) {
   ASSERT_EQ(unshare(CLONE_NEWNS), 0);
-  ASSERT_EQ(mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
-  for (const unsigned long flag : {MS_NOSUID, MS_NOEXEC}) {
+  Shell("mount --make-rprivate /");
+  for (const std::string flag : {"nosuid", "noexec", "ro"}) {
     const Home home(kUser);
-    const char* const path = home.path.c_str();
-    ASSERT_EQ(mount(path, path, nullptr, MS_BIND, nullptr), 0);
-    ASSERT_EQ(mount(nullptr, path, nullptr, MS_REMOUNT | MS_BIND | flag, nullptr), 0);
+    Shell("D=" + home.path + "; mount --bind $D $D && mount -o remount,bind," + flag + " $D");
     EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), kRefused) << flag;
     EXPECT_EQ(home.Info().st_uid, kUser);
-    ASSERT_EQ(umount2(path, 0), 0);
+    Shell("umount " + home.path);
     EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0) << flag;
   }
 }
@@ -247,17 +234,11 @@ TEST(InstallTest, OnlyTheUserWhoseFolderItIsIsServedWithPrivilege) {
   EXPECT_EQ(cases, 36);
 }
 
+/// From another hand than the helper's.
 std::string HexDigest(const std::string& path) {
-  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  Digest::Value value{};
-  EXPECT_TRUE(DigestOfFile(file, value));
-  close(file);
-  std::string hex;
-  for (const std::uint8_t byte : value) {
-    hex += "0123456789abcdef"[byte >> 4];
-    hex += "0123456789abcdef"[byte & 15];
-  }
-  return hex;
+  const Folder folder(0);
+  Shell("sha256sum < " + path + " > " + (folder / "digest"));
+  return ReadAll(folder / "digest").substr(0, 64);
 }
 
 /// A helper built for a package, whose list lies in a folder that this test has to itself.
@@ -270,8 +251,7 @@ class PackagedTest : public ::testing::Test {
 
   void SetUp() override {
     ASSERT_EQ(unshare(CLONE_NEWNS), 0);
-    ASSERT_EQ(mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr), 0);
-    ASSERT_EQ(mount("none", kFolder, "tmpfs", 0, "mode=755"), 0);
+    Shell(std::string("mount --make-rprivate / && mount -t tmpfs -o mode=755 none ") + kFolder);
     WriteList(mOther + HexDigest(mProgram) + '\n');
   }
 
@@ -293,25 +273,18 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
     WriteList(list);
     EXPECT_FALSE(keepsRights()) << list;
   }
-  unlink(mList.c_str());
-  EXPECT_FALSE(keepsRights()) << "no list";
-  WriteList(own);
-  ASSERT_EQ(chown(mList.c_str(), kUser, 0), 0);
-  EXPECT_FALSE(keepsRights()) << "the user's list";
-  WriteList(own);
-  chmod(mList.c_str(), 0664);
-  EXPECT_FALSE(keepsRights()) << "a list that a group may write";
-  ASSERT_EQ(rename(mList.c_str(), (mList + ".real").c_str()), 0);
-  ASSERT_EQ(symlink((mList + ".real").c_str(), mList.c_str()), 0);
-  EXPECT_FALSE(keepsRights()) << "a link";
+  for (const char* spoil :
+       {"rm $L", "chown 61001 $L", "chmod 664 $L", "mv $L $L.real; ln -s $L.real $L"}) {
+    WriteList(own);
+    Shell("L=" + mList + "; " + spoil);
+    EXPECT_FALSE(keepsRights()) << spoil;
+  }
   WriteList(own);
   ASSERT_TRUE(keepsRights());
-  const std::string second = home.path + "/second";
-  ASSERT_EQ(link(home.copy.c_str(), second.c_str()), 0);
+  Shell("ln " + home.copy + ' ' + home.path + "/second");
   EXPECT_FALSE(keepsRights()) << "two names";
-  ASSERT_EQ(unlink(second.c_str()), 0);
   const Folder elsewhere(0, 0755);
-  ASSERT_EQ(rename(home.copy.c_str(), (elsewhere / "h").c_str()), 0);
+  Shell("rm " + home.path + "/second; mv " + home.copy + ' ' + (elsewhere / "h"));
   EXPECT_EQ(EffectiveUser(kUser, elsewhere / "h"), std::to_string(kUser)) << "moved";
 }
 

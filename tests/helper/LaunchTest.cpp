@@ -20,6 +20,7 @@
 #include <thread>
 
 #include "helper/HelperProcess.h"
+#include "helper/ReferenceReader.h"
 
 namespace lurkwell::helper::testing {
 namespace {
@@ -121,71 +122,17 @@ TEST(LaunchTest, TheEnvironmentChangesNothing) {
   const Trace plain = Start(arguments, {});
   ASSERT_EQ(plain.status, 76);
   ASSERT_GT(OwnCalls(plain).size(), 100u);
-  const Words names = {"LD_PRELOAD",
-                       "LD_LIBRARY_PATH",
-                       "LD_AUDIT",
-                       "LD_DEBUG",
-                       "LD_DEBUG_OUTPUT",
-                       "LD_PROFILE",
-                       "LD_BIND_NOW",
-                       "LD_ORIGIN_PATH",
-                       "LD_SHOW_AUXV",
-                       "LD_USE_LOAD_BIAS",
-                       "LD_DYNAMIC_WEAK",
-                       "LD_HWCAP_MASK",
-                       "LD_VERBOSE",
-                       "LD_WARN",
-                       "LD_TRACE_LOADED_OBJECTS",
-                       "GLIBC_TUNABLES",
-                       "MALLOC_CHECK_",
-                       "MALLOC_TRACE",
-                       "MALLOC_ARENA_MAX",
-                       "MALLOC_PERTURB_",
-                       "GCONV_PATH",
-                       "GETCONF_DIR",
-                       "HOSTALIASES",
-                       "LOCALDOMAIN",
-                       "LOCPATH",
-                       "NIS_PATH",
-                       "NLSPATH",
-                       "RESOLV_HOST_CONF",
-                       "RES_OPTIONS",
-                       "TMPDIR",
-                       "TZDIR",
-                       "TZ",
-                       "LANG",
-                       "LC_ALL",
-                       "LC_MESSAGES",
-                       "LANGUAGE",
-                       "CHARSET",
-                       "PATH",
-                       "HOME",
-                       "SHELL",
-                       "IFS",
-                       "ENV",
-                       "BASH_ENV",
-                       "CDPATH",
-                       "PWD",
-                       "USER",
-                       "LOGNAME",
-                       "POSIXLY_CORRECT",
-                       "TERM",
-                       "TERMCAP",
-                       "TERMINFO",
-                       "TERMPATH",
-                       "XDG_RUNTIME_DIR",
-                       "DISPLAY",
-                       "DBUS_SESSION_BUS_ADDRESS",
-                       "NOTIFY_SOCKET",
-                       "LISTEN_FDS",
-                       "LISTEN_PID",
-                       "SUDO_UID",
-                       "PKEXEC_UID",
-                       "ASAN_OPTIONS",
-                       "UBSAN_OPTIONS",
-                       "LLVM_PROFILE_FILE",
-                       "PYTHONPATH",
-                       "PERL5LIB"};
+  const Words names = Pieces(
+      "LD_PRELOAD LD_LIBRARY_PATH LD_AUDIT LD_DEBUG LD_DEBUG_OUTPUT LD_PROFILE LD_BIND_NOW "
+      "LD_ORIGIN_PATH LD_SHOW_AUXV LD_USE_LOAD_BIAS LD_DYNAMIC_WEAK LD_HWCAP_MASK LD_VERBOSE "
+      "LD_WARN LD_TRACE_LOADED_OBJECTS GLIBC_TUNABLES MALLOC_CHECK_ MALLOC_TRACE "
+      "MALLOC_ARENA_MAX MALLOC_PERTURB_ GCONV_PATH GETCONF_DIR HOSTALIASES LOCALDOMAIN LOCPATH "
+      "NIS_PATH NLSPATH RESOLV_HOST_CONF RES_OPTIONS TMPDIR TZDIR TZ LANG LC_ALL LC_MESSAGES "
+      "LANGUAGE CHARSET PATH HOME SHELL IFS ENV BASH_ENV CDPATH PWD USER LOGNAME "
+      "POSIXLY_CORRECT TERM TERMCAP TERMINFO TERMPATH XDG_RUNTIME_DIR DISPLAY "
+      "DBUS_SESSION_BUS_ADDRESS NOTIFY_SOCKET LISTEN_FDS LISTEN_PID SUDO_UID PKEXEC_UID "
+      "ASAN_OPTIONS UBSAN_OPTIONS LLVM_PROFILE_FILE PYTHONPATH PERL5LIB",
+      ' ');
   const Words values = {"", "0", "/tmp/x:.:", std::string(5000, '%') + "n$(touch /tmp/x)"};
   Words all;
   for (const std::string& name : names)

@@ -20,44 +20,7 @@ class Generator {
     return request;
   }
 
- private:
-  unsigned Below(unsigned limit) { return static_cast<unsigned>(mRandom() % limit); }
-
-  std::string OneOf(std::initializer_list<const char*> texts) {
-    return *(texts.begin() + Below(static_cast<unsigned>(texts.size())));
-  }
-
-  std::string Number() {
-    if (Below(3) == 0)
-      return OneOf({"0",
-                    "1",
-                    "-1",
-                    "-2",
-                    "2",
-                    "50",
-                    "60",
-                    "4194304",
-                    "4194305",
-                    "4294967297",
-                    "9223372036854775808",
-                    "18446744073709551618",
-                    "+5",
-                    " 5",
-                    "0x5",
-                    "5 6",
-                    "05",
-                    "5.",
-                    "\u0665",
-                    "",
-                    "-0",
-                    "-20",
-                    "-21",
-                    "20",
-                    "21",
-                    "4294967276"});
-    return std::to_string(Below(80));
-  }
-
+  /// A request that is well formed but for its numbers.
   std::string Form() {
     const std::string verb = OneOf({"kill_normal", "kill_harsh", "kill_halt", "kill_cont"});
     switch (Below(8)) {
@@ -72,6 +35,21 @@ class Generator {
       default:
         return "Lkw Action Request:\n" + verb + ' ' + Number();
     }
+  }
+
+ private:
+  unsigned Below(unsigned limit) { return static_cast<unsigned>(mRandom() % limit); }
+
+  std::string OneOf(const std::vector<std::string>& texts) {
+    return texts[Below(static_cast<unsigned>(texts.size()))];
+  }
+
+  std::string Number() {
+    static const std::vector<std::string> kOdd = Pieces(
+        "0|1|-1|-2|2|50|60|4194304|4194305|4294967297|9223372036854775808|18446744073709551618|+5|"
+        " 5|0x5|5 6|05|5.|\u0665||-0|-20|-21|20|21|4294967276",
+        '|');
+    return Below(3) == 0 ? OneOf(kOdd) : std::to_string(Below(80));
   }
 
   std::string Figures() {
@@ -108,79 +86,61 @@ class Generator {
   std::mt19937 mRandom{20261121};
 };
 
-TEST(OracleTest, AMillionRequestsAreReadAlikeAndTouchOnlyWhomTheyName) {
-  RecordingSystem machine;
-  for (int pid = 1; pid < 80; ++pid) machine.processes[pid] = {};
-  machine.processes[4194304] = {};
-  const auto session = std::make_unique<Session>();
-  session->Begin(machine.Calls(), {.ownPid = 50, .peerPid = 60, .keptFiles = 1000});
-  Generator generator;
-  std::array<int, 4> seen{};
-  for (int count = 0; count < 1000000; ++count) {
-    const std::string request = generator.Next();
-    machine.effects.clear();
-    machine.opened.clear();
-    machine.log.clear();
-    const std::string answer(session->Answer(request));
-    const Expectation expected = ReadRequest(request, 50, 60);
-    ++seen[expected.kind];
-    if (expected.kind == Expectation::kEffect && answer == "!Error no such process\n") {
-      ASSERT_FALSE(
-          machine.processes.contains(std::stoi(expected.effect.substr(expected.effect.find(' ')))))
-          << request;
-      ASSERT_TRUE(machine.effects.empty()) << request;
-    } else if (expected.kind == Expectation::kEffect) {
-      ASSERT_EQ(machine.effects, std::vector<std::string>{expected.effect}) << request;
-      ASSERT_EQ(answer, "ok") << request;
-    } else {
-      ASSERT_TRUE(machine.effects.empty()) << request;
-      const bool refused = answer.starts_with("!Error");
-      const bool isEmpty = answer == "!Error no such process\n";
-      ASSERT_EQ(expected.kind == Expectation::kUser, answer == "0") << request;
-      ASSERT_EQ(expected.kind == Expectation::kRefused, refused && !isEmpty) << request << answer;
-    }
+class OracleTest : public ::testing::Test {
+ protected:
+  OracleTest() {
+    for (int pid = 1; pid < 80; ++pid) mMachine.processes[pid] = {};
+    mMachine.processes[4194304] = {};
+    mSession->Begin(mMachine.Calls(), {.ownPid = 50, .peerPid = 60, .keptFiles = 1000});
   }
+
+  /// What the second reader makes of a request, which is what the helper has to make of it.
+  Expectation::Kind Check(const std::string& request) {
+    mMachine.effects.clear();
+    mMachine.opened.clear();
+    mMachine.log.clear();
+    const std::string answer(mSession->Answer(request));
+    const auto [kind, effect] = ReadRequest(request, 50, 60);
+    const bool isNobody = answer == "!Error no such process\n";
+    if (kind == Expectation::kEffect && isNobody) {
+      EXPECT_FALSE(mMachine.processes.contains(std::stoi(effect.substr(effect.find(' ')))))
+          << request;
+    } else if (kind == Expectation::kEffect) {
+      EXPECT_EQ(mMachine.effects, std::vector<std::string>{effect}) << request;
+      EXPECT_EQ(answer, "ok") << request;
+      return kind;
+    }
+    EXPECT_TRUE(mMachine.effects.empty()) << request;
+    EXPECT_TRUE(kind != Expectation::kRefused || mMachine.opened.empty()) << request;
+    EXPECT_EQ(kind == Expectation::kUser, answer == "0") << request;
+    EXPECT_EQ(kind == Expectation::kRefused, answer.starts_with("!Error") && !isNobody)
+        << request << answer;
+    return kind;
+  }
+
+  RecordingSystem mMachine;
+  std::unique_ptr<Session> mSession = std::make_unique<Session>();
+  Generator mGenerator;
+};
+
+TEST_F(OracleTest, AMillionRequestsAreReadAlikeAndTouchOnlyWhomTheyName) {
+  std::array<int, 4> seen{};
+  for (int count = 0; count < 1000000 && !HasFailure(); ++count) ++seen[Check(mGenerator.Next())];
   for (const int kind : seen) EXPECT_GT(kind, 20000);
 }
 
 /// Requests that ran together in the pipe, or came in pieces: nothing happens but what a piece that
 /// is a whole request by itself asks for.
-TEST(OracleTest, SplitAndJoinedRequestsDoNothingOfTheirOwn) {
-  RecordingSystem machine;
-  for (int pid = 1; pid < 2000; ++pid) machine.processes[pid] = {};
-  const auto session = std::make_unique<Session>();
-  session->Begin(machine.Calls(), {.ownPid = 50, .peerPid = 60});
-  std::vector<std::string> seeds = {"geteuid"};
-  for (const char* pid : {"7", "12", "345", "1999"}) {
-    for (const char* verb : {"kill_normal ", "kill_harsh ", "kill_halt ", "kill_cont "})
-      seeds.push_back(std::string("Lkw Action Request:\n") + verb + pid);
-    for (const char* nice : {" -19", " 0", " 20", " 7"})
-      seeds.push_back(std::string("Lkw Action Request:\nrenice ") + pid + nice);
-    for (const char* word : {"pid_internal ", "pid_internal_thread_time_basic_info_events_info "})
-      seeds.push_back(std::string("Lkw Info Extraction:\n") + word + pid + "\n");
-  }
-  const auto check = [&](const std::string& request) {
-    machine.effects.clear();
-    session->Answer(request);
-    const Expectation expected = ReadRequest(request, 50, 60);
-    std::vector<std::string> effects;
-    if (expected.kind == Expectation::kEffect) effects.push_back(expected.effect);
-    ASSERT_EQ(machine.effects, effects) << request;
-  };
+TEST_F(OracleTest, SplitAndJoinedRequestsDoNothingOfTheirOwn) {
+  std::vector<std::string> seeds(60);
+  for (std::string& seed : seeds) seed = mGenerator.Form();
   for (const std::string& first : seeds) {
-    for (std::size_t place = 1; place < first.size(); ++place) {
-      check(first.substr(0, place));
-      check(first.substr(place));
-    }
+    for (std::size_t place = 1; place < first.size(); ++place)
+      for (const std::string& piece : {first.substr(0, place), first.substr(place)}) Check(piece);
     for (const std::string& second : seeds)
-      for (std::size_t place = 1; place <= second.size(); ++place) {
-        const std::string joined = first + second.substr(0, place);
-        check(joined);
-        // A verb line that more text follows is never carried out.
-        if (first.starts_with("Lkw Action") && second[0] != '0' && place > 3) {
-          ASSERT_TRUE(machine.effects.empty()) << joined;
-        }
-      }
+      for (std::size_t place = 1; place <= second.size(); ++place)
+        Check(first + second.substr(0, place));
+    ASSERT_FALSE(HasFailure());
   }
 }
 

@@ -37,7 +37,8 @@ std::string TextOf(const std::string& path) {
   const std::int32_t pid = std::atoi(path.c_str() + 6);
   const auto found = gSystem->processes.find(pid);
   if (found == gSystem->processes.end()) return {};
-  if (path.ends_with("/stat")) return StatLine(pid, found->second);
+  if (path.ends_with("/stat"))
+    return found->second.stat.empty() ? StatLine(pid, found->second) : found->second.stat;
   return path.ends_with("/status") ? found->second.status : found->second.io;
 }
 

@@ -20,6 +20,8 @@ class RecordingSystem {
     std::string status = {};
     std::string io = {};
     std::uint64_t runTime = 0;
+    /// The stat file as it stands, in place of a line of the above.
+    std::string stat = {};
   };
 
   RecordingSystem();

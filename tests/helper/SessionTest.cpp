@@ -4,9 +4,9 @@
 #include <memory>
 #include <sstream>
 
-#include "helper/Digest.h"
 #include "helper/Figures.h"
 #include "helper/RecordingSystem.h"
+#include "helper/ReferenceReader.h"
 #include "helper/Session.h"
 
 namespace lurkwell::helper::testing {
@@ -35,68 +35,24 @@ class SessionTest : public ::testing::Test {
 
 using Effects = std::vector<std::string>;
 
-TEST_F(SessionTest, EachVerbHasItsEffectOnTheNamedProcessAlone) {
-  EXPECT_EQ(Ask("geteuid"), "0");
-  for (const char* line : {"kill_normal 70", "kill_harsh 4194304", "kill_halt 70", "kill_cont 70",
-                           "renice 70 -19", "renice 2 20", "renice 50 0", "kill_harsh 60"})
-    EXPECT_EQ(Act(line), "ok") << line;
-  EXPECT_EQ(mMachine.effects,
-            (Effects{"signal 70 15", "signal 4194304 9", "signal 70 19", "signal 70 18",
-                     "nice 70 -19", "nice 2 20", "nice 50 0", "signal 60 9"}));
-  EXPECT_EQ(mMachine.log.size(), 8u);
-  EXPECT_TRUE(mMachine.open.empty());
-}
-
 TEST_F(SessionTest, WhatIsNotInTheTableIsRefusedBeforeAnyCall) {
-  const std::string nul("kill_normal 7\0", 14);
-  for (const std::string& line : std::vector<std::string>{"kill_normal 0",
-                                                          "kill_normal 1",
-                                                          "renice 1 5",
-                                                          "kill_normal -1",
-                                                          "kill_normal -2",
-                                                          "kill_normal 50",
-                                                          "kill_halt 50",
-                                                          "kill_halt 60",
-                                                          "kill_normal 4294967297",
-                                                          "kill_normal 9223372036854775808",
-                                                          "kill_normal 4194305",
-                                                          "kill_normal +70",
-                                                          "kill_normal  70",
-                                                          "kill_normal 070",
-                                                          "kill_normal 0x46",
-                                                          "kill_normal 70 ",
-                                                          "kill_normal 70\n",
-                                                          "kill_normal 70 71",
-                                                          "kill_normal 70kill_normal 2",
-                                                          "kill_normal ",
-                                                          "kill_normal",
-                                                          "Kill_normal 70",
-                                                          "kill_hard 70",
-                                                          "kill_normal \u0667",
-                                                          nul,
-                                                          "",
-                                                          "renice 70 -21",
-                                                          "renice 70 21",
-                                                          "renice 70 +1",
-                                                          "renice 70 -0",
-                                                          "renice 70 --1",
-                                                          "renice 70",
-                                                          "renice 70 ",
-                                                          "renice 70 1 ",
-                                                          "renice 70 01",
-                                                          "renice 70 99999999999",
-                                                          "kill_normal 70\nkill_normal 2",
-                                                          "\nkill_normal 70"})
+  EXPECT_EQ(Ask("geteuid"), "0");
+  const std::string figures = "Lkw Info Extraction:\n";
+  for (const std::string& line :
+       Pieces("kill_normal 50|kill_halt 50|kill_halt 60|kill_normal 070|kill_normal 70\n|"
+              "kill_normal 70kill_normal 2|kill_normal|Kill_normal 70|kill_hard 70||renice 70 +1|"
+              "renice 70 -0|renice 70 --1|renice 70|renice 70 1 |renice 70 99999999999|"
+              "kill_normal 70\nkill_normal 2|\nkill_normal 70",
+              '|'))
     EXPECT_EQ(Act(line).substr(0, 7), "!Error ") << line;
-  for (const char* request :
-       {"", "geteuid\n", "geteuidgeteuid", "Geteuid", "kill_normal 70",
-        "Lkw Action Request:", "Lkw Action Request: kill_normal 70", "Lkw Info Extraction:\n",
-        "Lkw Info Extraction:\nkill_normal 70\n", "Lkw Info Extraction:\npid_internal 70",
-        "Lkw Info Extraction:\npid_internal_basic_info_thread_time 70\n",
-        "Lkw Info Extraction:\npid_internal 70\n\n",
-        "Lkw Info Extraction:\nLkw Action Request:\nkill_normal 70",
-        "Lkw Info Extraction:\npid_internal_thread_time_thread_time 70\n",
-        "Lkw Info Extraction:\npid_internal -1\n"})
+  EXPECT_EQ(Act(std::string("kill_normal 7\0", 14)), "!Error malformed request\n");
+  for (const std::string& request :
+       Pieces("|geteuid\n|geteuidgeteuid|kill_normal 70|Lkw Action Request:|" + figures + "|" +
+                  figures + "kill_normal 70\n|" + figures + "pid_internal 70|" + figures +
+                  "pid_internal_basic_info_thread_time 70\n|" + figures + "pid_internal 70\n\n|" +
+                  figures + "Lkw Action Request:\nkill_normal 70|" + figures +
+                  "pid_internal_thread_time_thread_time 70\n",
+              '|'))
     EXPECT_EQ(Ask(request), "!Error malformed request\n") << request;
   EXPECT_TRUE(mMachine.effects.empty());
   EXPECT_TRUE(mMachine.opened.empty());
@@ -329,26 +285,6 @@ TEST_F(SessionTest, NoAnswerIsLongerThanOneReadAndEachEndsWithAWholeProcess) {
     EXPECT_EQ(property, "pid_csw");
   }
   EXPECT_LE(largestBatch, 6500u);
-}
-
-TEST(DigestTest, KnownSums) {
-  const auto sum = [](std::string_view text, std::size_t piece) {
-    Digest digest;
-    for (std::size_t place = 0; place < text.size(); place += piece) {
-      const std::string_view part = text.substr(place, piece);
-      digest.Add({reinterpret_cast<const std::uint8_t*>(part.data()), part.size()});
-    }
-    std::string hex;
-    for (const std::uint8_t byte : digest.Finish()) {
-      hex += "0123456789abcdef"[byte >> 4];
-      hex += "0123456789abcdef"[byte & 15];
-    }
-    return hex;
-  };
-  EXPECT_EQ(sum("", 1), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
-  EXPECT_EQ(sum("abc", 2), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-  EXPECT_EQ(sum(std::string(1000000, 'a'), 999),
-            "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
 }
 
 }  // namespace

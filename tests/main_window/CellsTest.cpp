@@ -1,7 +1,13 @@
 // What is drawn, to the pixel.
+#include <unistd.h>
+
 #include <QPaintEvent>
 #include <QPainter>
+#include <clocale>
+#include <cstdlib>
+#include <filesystem>
 
+#include "consolidator/TextScan.h"
 #include "main_window/CustomCells.h"
 #include "main_window/MainWindowTest.h"
 #include "main_window/PropertyText.h"
@@ -74,6 +80,21 @@ TEST_F(CellsTest, TimesKeepTwoDigitsAtLeast) {
                                    std::pair("5.123456", "5.123456"), std::pair("0.000000", "0.00"),
                                    std::pair("100.000001", "100.000001"), std::pair("", "0.00")})
     EXPECT_EQ(TimeText(ReadTime(raw)).toStdString(), shown) << raw;
+}
+
+TEST_F(CellsTest, NumbersHaveAPointWhateverTheUsersLanguage) {
+  const auto folder = std::filesystem::path(testing::TempDir()) / std::to_string(::getpid());
+  std::filesystem::create_directory(folder);
+  const auto locale = folder / "comma.UTF-8";
+  if (std::system(("localedef -i de_DE -f UTF-8 " + locale.string() + " 2>/dev/null").c_str()) != 0)
+    GTEST_SKIP() << "no locale with a comma can be made here";
+  ::setenv("LOCPATH", folder.c_str(), 1);
+  ASSERT_NE(std::setlocale(LC_NUMERIC, "comma.UTF-8"), nullptr);
+  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+  std::filesystem::remove_all(folder);
+  for (const auto& [text, number] : {std::pair(" 12.5\n", 12.5), std::pair("-0.25", -0.25),
+                                     std::pair("nan", 0.0), std::pair("inf", 0.0)})
+    EXPECT_EQ(NumberOf(ReadValue(kPropertyTypeReal, text)), number) << text;
 }
 
 TEST_F(CellsTest, StripesAndGridCoverTheWholeView) {

@@ -1,5 +1,11 @@
 // Which columns there are, by menu and by preference.
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "consolidator/PSHeaders.h"
 #include "main_window/MainWindowTest.h"
+#include "platform/linux/PropertyListDomain.h"
 
 namespace lurkwell {
 namespace {
@@ -24,7 +30,8 @@ class ColumnsTest : public MainWindowTest {
 };
 
 TEST_F(ColumnsTest, WhatIsChosenComesBack) {
-  machine.tools.SetOutput("/bin/ps -Lww", "RSZ UID\n");
+  machine.tools.SetOutput("/bin/ps -Lww", "PID RSZ UID\n");
+  machine.tools.SetOutput("/bin/ps 0 -o PID", "PID\n");
   machine.tools.SetOutput("/bin/ps 0 -o RSZ", "RSZ\n");
   machine.tools.SetOutput("/bin/ps 0 -o UID", "UID\n");
   machine.tools.SetOutput("/bin/ps -axww -o pid,UID", "  PID UID\n    1   0\n  300  42\n");
@@ -33,12 +40,28 @@ TEST_F(ColumnsTest, WhatIsChosenComesBack) {
   Toggle(Menus().BuiltInMenu(), "pid_p_nice");
   Toggle(Menus().PSAvailableMenu(), "UID");
   Menus().TopLevelItem(kInternalIcon).trigger();
-  Turn();
+  Turn(4000);
   const std::string keys =
       "meta_pid internal_Indicator meta_name meta_active_time internal_CPUPercent "
       "internal_MemGraph pid_p_nice UID";
   EXPECT_EQ(Keys(), keys);
   EXPECT_EQ(Cell(2, ColumnOf("UID")), "42") << "filled for the rows that were there";
+  EXPECT_EQ(ColumnItem(Menus().PSAvailableMenu(), "PID"), nullptr) << "there already";
+  const auto isOld = [this] {
+    const auto cell = controller().index(2, ColumnOf("UID"));
+    const bool isGrey = cell.data(vqMainTableController::kIsStaleRole).toBool();
+    EXPECT_EQ(!cell.data(Qt::ToolTipRole).toString().isEmpty(), isGrey);
+    return isGrey;
+  };
+  EXPECT_FALSE(isOld());
+  const std::string command = "/bin/ps -axww -o pid,UID";
+  machine.tools.SetOutput(command, "");
+  Turn(4000);
+  EXPECT_TRUE(isOld());
+  EXPECT_EQ(Cell(2, ColumnOf("UID")), "42");
+  machine.tools.SetOutput(command, "  PID UID\n    1   0\n  300  42\n");
+  Turn(4000);
+  EXPECT_FALSE(isOld());
   EXPECT_TRUE(ColumnItem(Menus().BuiltInMenu(), "pid_p_nice")->isChecked());
   EXPECT_FALSE(Menus().TopLevelItem(kInternalIcon).isChecked());
   // Badges stand beside icons.
@@ -103,18 +126,55 @@ TEST_F(ColumnsTest, AColumnThatPsDoesNotOfferThisTimeIsKept) {
   const auto count = GetPrefArrayCount("MAIN_WINDOW_COLUMNS");
   SetPrefArrayString("MAIN_WINDOW_COLUMNS", count, "COLUMN_KEY", "UID");
   SetPrefArrayInt("MAIN_WINDOW_COLUMNS", count, "COLUMN_WIDTH", 99);
+  SetPrefInt("MAIN_WINDOW_SORT_COLUMN_INDEX", count);
   Open();
   EXPECT_FALSE(controller().isTracked("UID"));
+  EXPECT_EQ(controller().sortColumn(), kMetaPid);
   window.reset();
+  EXPECT_EQ(GetPrefInt("MAIN_WINDOW_SORT_COLUMN_INDEX", nullptr, false, 0), count);
   char key[64];
   GetPrefArrayString("MAIN_WINDOW_COLUMNS", count, "COLUMN_KEY", key, sizeof key, false, "");
   EXPECT_STREQ(key, "UID");
   EXPECT_EQ(GetPrefArrayInt("MAIN_WINDOW_COLUMNS", count, "COLUMN_WIDTH", false, 0), 99);
+  Open();
+  // A slow ps tells it later.
+  EnsureThatPSProcPropertyExists("UID", "UID");
+  Turn();
+  EXPECT_EQ(controller().sortColumn(), InternKey("UID"));
+  EXPECT_EQ(Width("UID"), 99);
+  EXPECT_TRUE(ColumnItem(Menus().PSAvailableMenu(), "UID")->isChecked());
+}
+
+TEST_F(ColumnsTest, AnotherInstanceMayHaveStoredFewerColumns) {
+  const auto folder = std::filesystem::path(testing::TempDir()) / std::to_string(::getpid());
+  PropertyListDomain mine(folder), theirs(folder);
+  Machine shared{machine.clock,          machine.runLoop,        mine,
+                 machine.processTable,   machine.processManager, machine.iconServices,
+                 machine.hostStatistics, machine.tools,          machine.signals,
+                 machine.namedPipes,     machine.authorization,  machine.bundle,
+                 machine.alerts,         machine.logFiles,       machine.hotKeys,
+                 machine.screen,         machine.eventBus};
+  const MachineInstallation sharedInstallation(shared);
+  const auto stored = [&folder] {
+    const auto* value = PropertyListDomain(folder).Value("MAIN_WINDOW_COLUMNS");
+    return value != nullptr ? std::get<PreferenceArray>(*value).size() : 0;
+  };
+  Open();
+  EXPECT_EQ(stored(), 7U) << "before anything can kill the program";
+  theirs.SetValue("MAIN_WINDOW_COLUMNS",
+                  PreferenceArray{{{"COLUMN_KEY", std::string("meta_pid")}}});
+  EXPECT_TRUE(theirs.Synchronize());
+  ClickHeader("meta_active_time");
+  window.reset();
+  EXPECT_EQ(stored(), 7U);
+  Open();
+  EXPECT_EQ(controller().sortColumn(), kMetaActiveTime);
+  window.reset();
+  std::filesystem::remove_all(folder);
 }
 
 TEST_F(ColumnsTest, WhenTheSortColumnGoesPidsTakeItsPlace) {
-  for (const int pid : {300, 302, 301}) machine.processTable.Birth(pid, "p");
-  Open();
+  OpenWith({300, 302, 301});
   Toggle(Menus().BuiltInMenu(), "pid_p_nice");
   ClickHeader("pid_p_nice");
   ClickHeader("pid_p_nice");
@@ -141,9 +201,7 @@ TEST_F(ColumnsTest, HeadersObeyTheKeyboard) {
 }
 
 TEST_F(ColumnsTest, SelectionAndRowsSurviveANewColumn) {
-  for (const int pid : {300, 301, 302}) machine.processTable.Birth(pid, "p");
-  Open();
-  ClickHeader("meta_pid");
+  OpenWith({300, 301, 302});
   Select({300, 302});
   Toggle(Menus().BuiltInMenu(), "pid_p_priority");
   EXPECT_EQ(Selected(), "300 302");

@@ -13,14 +13,6 @@ namespace {
 
 class CommandsTest : public MainWindowTest {
  protected:
-  void OpenWith(std::initializer_list<int> pids) {
-    machine.helper.SetRecordsFigures(false);
-    for (const int pid : pids) machine.processTable.Birth(pid, "p" + std::to_string(pid));
-    Open();
-    ClickHeader("meta_pid");
-    machine.log.Clear();
-  }
-
   /// What was done since the last call; asking for icons and time is not doing.
   std::string Done() {
     std::string text;
@@ -86,14 +78,19 @@ TEST_F(CommandsTest, EachKillIsHarsherThanTheOneBefore) {
 // The table is not due yet when another client hears of the end; numbers beyond 127 are forgotten.
 TEST_F(CommandsTest, AGuestThatHasEndedIsNotAskedToQuit) {
   for (std::uint32_t i = 1; i <= 130; ++i)
-    machine.processManager.Launch({9, i}, std::nullopt, "Guest");
+    machine.processManager.Launch({9, i}, std::nullopt, "Guest" + std::to_string(i));
   OpenWith({300});
-  Select({-131});
   Add("other", 100);
+  Turn();
+  const PidBlob pids;
+  const auto guest =
+      std::ranges::find(pids, "Guest130", [](std::int32_t pid) { return Value(pid, "meta_name"); });
+  ASSERT_NE(guest, pids.end());
+  Select({*guest});
   machine.processManager.Remove({9, 130});
   Turn(200);
-  ASSERT_EQ(Selected(), "-131");
-  ASSERT_EQ(Value(-131, "meta_pid"), "[]");
+  ASSERT_EQ(Selected(), std::to_string(*guest));
+  ASSERT_EQ(Value(*guest, "meta_pid"), "[]");
   machine.log.Clear();
   Choose("menu_process_quit_or_kill");
   EXPECT_EQ(Done(), "");

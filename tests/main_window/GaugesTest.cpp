@@ -210,6 +210,20 @@ TEST_F(GaugesTest, PreferencesMeasureNothing) {
   machine.processTable.Find(0)->UseCPU(1000);
   Turn();
   EXPECT_EQ(shown(), before) << "the whole interval counts; 3 pages are left of 15";
+  // Nor does a time without any figures.
+  QuitHelperDaemon();
+  busy.UseCPU(1500);
+  machine.processTable.Find(0)->UseCPU(2000);
+  const auto shares = [this] { return Cell(2, 5).toStdString() + Said(kToolbarCPU); };
+  for (int turn = 0; turn < 2; ++turn) {
+    Turn();
+    EXPECT_EQ(shares(), "25.0 %CPU: 50 % of 1 processor");
+  }
+  NormalInternalLaunchDaemon("/helper", nullptr);
+  busy.UseCPU(1500);
+  machine.processTable.Find(0)->UseCPU(1000);
+  Turn();
+  EXPECT_EQ(shares(), "50.0 %CPU: 50 % of 1 processor") << "of all three turns";
 }
 
 TEST_F(GaugesTest, ABurstOfPageoutsFlashesAndDecays) {

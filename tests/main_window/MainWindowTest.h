@@ -31,6 +31,15 @@ class MainWindowTest : public ConsolidatorTest, public ApplicationCommands {
     Turn(0);
   }
 
+  /// With processes that are called p300 and so on, by their pids.
+  void OpenWith(std::initializer_list<int> pids) {
+    machine.helper.SetRecordsFigures(false);
+    for (const int pid : pids) machine.processTable.Birth(pid, "p" + std::to_string(pid));
+    Open();
+    ClickHeader("meta_pid");
+    machine.log.Clear();
+  }
+
   vqMainTableController& controller() { return window->controller(); }
 
   /// Lets time pass and the window hear of it.

@@ -99,12 +99,17 @@ TEST_F(SortingTest, ApplicationsAndMarkedProcessesComeFirst) {
 TEST_F(SortingTest, MissingValuesComeFirstAndHexadecimalColumnsDoNotSort) {
   auto& table = machine.processTable;
   for (const int pid : {30, 31, 32, 33}) table.Birth(pid, "p" + std::to_string(pid));
-  machine.tools.SetOutput("/bin/ps -Lww", "RSZ SESS\n");
+  machine.tools.SetOutput("/bin/ps -Lww", "RSZ SESS WCHAN\n");
+  machine.tools.SetOutput("/bin/ps 0 -o WCHAN", "WCHAN\n");
+  machine.tools.SetOutput("/bin/ps -axww -o pid,WCHAN",
+                          "PID WCHAN\n30 pipe_r\n31 12\n32 -\n33 0000000000000004\n");
   machine.tools.SetOutput("/bin/ps 0 -o RSZ", "RSZ\n");
   machine.tools.SetOutput("/bin/ps 0 -o SESS", "SESS\n");
   machine.tools.SetOutput("/bin/ps -axww -o pid,RSZ", "  PID RSZ\n30 50\n32 7\n33 900\n");
   Open();
-  for (const char* key : {"RSZ", "SESS"}) Show(key);
+  for (const char* key : {"RSZ", "SESS", "WCHAN"}) Show(key);
+  // In the first ps is started.
+  Turn();
   Turn();
   ClickHeader("RSZ");
   const std::string order = "0 1 31 32 30 33";
@@ -112,6 +117,10 @@ TEST_F(SortingTest, MissingValuesComeFirstAndHexadecimalColumnsDoNotSort) {
   EXPECT_EQ(Cell(2, ColumnOf("RSZ")), "") << "not 0";
   ClickHeader("SESS");
   EXPECT_EQ(Pids(), order);
+  ClickHeader("WCHAN");
+  EXPECT_EQ(Pids(), "0 1 32 33 30 31") << "texts before numbers";
+  EXPECT_EQ(Cell(4, ColumnOf("WCHAN")) + Cell(3, ColumnOf("WCHAN")), "pipe_r0000000000000004");
+  ClickHeader("SESS");
   EXPECT_EQ(controller().sortColumn(), InternKey("SESS"));
 }
 
@@ -119,26 +128,6 @@ TEST_F(SortingTest, TheRememberedSortColumnIsMadeToFit) {
   SetPrefInt("MAIN_WINDOW_SORT_COLUMN_INDEX", 99);
   Open();
   EXPECT_EQ(controller().sortColumn(), kMetaPid) << "the first one";
-}
-
-TEST_F(SortingTest, TenThousandRowsInAnyOrderSortRight) {
-  InternalRepresentations sortable;
-  std::vector<std::unique_ptr<RowDictionary>> owners;
-  std::vector<RowDictionary*> rows;
-  std::srand(7);
-  for (int pid = 1; pid <= 10'000; ++pid) {
-    owners.push_back(std::make_unique<RowDictionary>(pid, sortable.Of(pid)));
-    rows.push_back(owners.back().get());
-    if (pid % 5 != 0) sortable.Of(pid).Set(kInternalCPUPercent, (std::rand() % 100) / 100.0);
-  }
-  std::vector<RowDictionary*> sorted = rows;
-  SortRows(sorted, cpuPercentCompare, {kInternalCPUPercent, false});
-  ASSERT_EQ(sorted.size(), rows.size());
-  for (std::size_t i = 1; i < sorted.size(); ++i) {
-    const double a = NumberOf(sorted[i - 1]->Sortable().Get(kInternalCPUPercent));
-    const double b = NumberOf(sorted[i]->Sortable().Get(kInternalCPUPercent));
-    ASSERT_TRUE(a > b || (a == b && sorted[i - 1]->Pid() > sorted[i]->Pid())) << i;
-  }
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 // Rows: what they show from turn to turn, and how little the view hears of it.
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 #include "main_window/MainWindowTest.h"
+#include "main_window/ToolbarGauge.h"
 
 namespace lurkwell {
 namespace {
@@ -107,6 +109,37 @@ TEST_F(TableTest, TheSelectionFollowsProcessesNotPlaces) {
   EXPECT_EQ(Selected(), "");
 }
 
+TEST_F(TableTest, TheTableStaysWhereItsUserLooks) {
+  auto& table = machine.processTable;
+  for (int pid = 100; pid < 400; ++pid) table.Birth(pid, "p");
+  Open();
+  window->resize(300, 300);
+  ClickHeader("meta_pid");
+  auto& view = window->table();
+  const auto focused = [&] { return PidAt(view.currentIndex().row()); };
+  view.horizontalScrollBar()->setValue(70);
+  EXPECT_TRUE(VQTarvMainWindowInfoSynch::SelectPID(330));
+  const int top = view.verticalScrollBar()->value();
+  EXPECT_GT(top, 1000);
+  EXPECT_EQ(view.horizontalScrollBar()->value(), 70) << "up and down only";
+  for (const int pid : {329, 330, 331}) table.Death(pid);
+  Turn();
+  EXPECT_EQ(focused(), 332) << "the nearest that is left";
+  EXPECT_EQ(view.verticalScrollBar()->value(), top);
+  EXPECT_EQ(Selected(), "");
+  controller().setFilter("3");
+  controller().setFilter("1");
+  EXPECT_EQ(focused(), 331 - 10);
+  controller().setFilter({});
+  view.verticalScrollBar()->setValue(top);
+  controller().addToKeysWeTrackForUI(InternKey("pid_p_nice"));
+  EXPECT_EQ(focused(), 321);
+  for (int pid = 100; pid < 400; ++pid)
+    if (table.Find(pid) != nullptr && pid != 150) table.Death(pid);
+  Turn();
+  EXPECT_EQ(focused(), 150);
+}
+
 TEST_F(TableTest, ARowThatChangesIsReadAgainWithItsIcon) {
   machine.processTable.Birth(300, "editor");
   Open();
@@ -136,9 +169,7 @@ TEST_F(TableTest, HostileNamesStayOnOneLineAndAreNoMarkup) {
 
 TEST_F(TableTest, WhileAMenuIsOpenRowsKeepTheirPlaces) {
   auto& table = machine.processTable;
-  for (int pid = 300; pid < 305; ++pid) table.Birth(pid, "p");
-  machine.helper.SetRecordsFigures(false);
-  Open();
+  OpenWith({300, 301, 302, 303, 304});
   ClickHeader("internal_CPUPercent");
   const auto before = Pids();
   Select({301, 302});
@@ -193,6 +224,8 @@ TEST_F(TableTest, AClosedWindowHasNoRowsAndStartsAfreshWhenShownAgain) {
   EXPECT_TRUE(gNSMainWindow.isNull());
   EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", nullptr, false, 0), 0);
   machine.processTable.Birth(301, "new");
+  SetPrefInt("MAIN_WINDOW_INTERVAL", 500);
+  machine.hostStatistics.virtualMemory->pageouts += 1000;
   Turn(20'000);
   EXPECT_EQ(controller().rowCount(), 0);
   window->show();
@@ -201,6 +234,11 @@ TEST_F(TableTest, AClosedWindowHasNoRowsAndStartsAfreshWhenShownAgain) {
   EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", nullptr, false, 0), 1);
   Turn(10);
   EXPECT_EQ(controller().rowCount(), 4) << "not only when the heart beats next";
+  EXPECT_EQ(controller().synchronizer()->Interval(), 500);
+  QString said;
+  for (const auto* gauge : window->findChildren<ToolbarGauge*>())
+    said += gauge->accessibleDescription() + "\n";
+  EXPECT_TRUE(said.contains("\n0 pages swapped out")) << said.toStdString() << "none of one update";
   // The last window is the program's end, and comes back with it.
   closingQuits = true;
   window->close();

@@ -79,9 +79,7 @@ TEST_F(ToolbarTest, ANewUserHasTheDefaultSet) {
 }
 
 TEST_F(ToolbarTest, HoldsAllThatIsAllowedAndButtonsReachTheSelection) {
-  machine.processTable.Birth(300, "p");
-  machine.helper.SetRecordsFigures(false);
-  Open();
+  OpenWith({300});
   Toolbar().SetItems(vqMainTableController::toolbarAllowedItemIdentifiers());
   window->table().clearSelection();
   EXPECT_EQ(Labels(),

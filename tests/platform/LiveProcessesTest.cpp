@@ -200,41 +200,6 @@ TEST(LiveProcesses, AreNotMixedUpWhenAPidComesRound) {
   EXPECT_EQ(complaint, "");
 }
 
-TEST(LiveProcesses, MayComeAndGoWhileTheyAreRead) {
-  // Each lives for an instant under a name that tells its pid.
-  Child breeder([] {
-    ::signal(SIGUSR1, [](int) {
-      for (int i = 0; i < 2000; ++i) {
-        const pid_t pid = ::fork();
-        if (pid == 0) {
-          ::prctl(PR_SET_NAME, ("c" + std::to_string(::getpid())).c_str());
-          ::_exit(0);
-        }
-        ::waitpid(pid, nullptr, 0);
-      }
-      ::_exit(0);
-    });
-  });
-  LinuxProcessTable table;
-  ::kill(breeder.Pid(), SIGUSR1);
-  int seen = 0;
-  std::map<std::pair<std::int32_t, std::uint64_t>, TimeValue> starts;
-  while (::waitpid(breeder.Pid(), nullptr, WNOHANG) == 0) {
-    const auto entries = table.Read();
-    ASSERT_EQ(Complaint(entries), "");
-    for (const auto& entry : entries) {
-      const auto known = starts.try_emplace({entry.pid, entry.startStamp}, entry.startTime).first;
-      ASSERT_EQ(known->second, entry.startTime);
-      if (entry.parentPid != breeder.Pid() || entry.commandName[0] != 'c') continue;
-      ASSERT_EQ(entry.commandName, "c" + std::to_string(entry.pid));
-      ++seen;
-    }
-  }
-  EXPECT_GT(seen, 0);
-  const auto entries = table.Read();
-  EXPECT_LE(table.KeptDescriptors(), entries.size());
-}
-
 TEST(LiveProcesses, AreAllShownWithFewDescriptors) {
   EXPECT_EQ(RunForked([]() -> std::string {
               const rlimit limit{40, 40};

@@ -35,6 +35,8 @@ class ScriptedProc final : public ProcFiles {
   /// Gives the error with which the access is to fail, or 0.
   std::function<int(std::int32_t pid)> beforeAccess = [](std::int32_t) { return 0; };
 
+  bool listingFails = false;
+
   ScriptedProc() : ProcFiles("/nowhere"), mSpare(::open("/dev/null", O_RDONLY | O_CLOEXEC)) {}
 
   void Start(std::int32_t pid) {
@@ -54,8 +56,13 @@ class ScriptedProc final : public ProcFiles {
   const std::map<std::int32_t, std::uint64_t>& Running() const { return mByPid; }
 
   bool FollowsProcesses() const override { return true; }
+  bool NeverBlocks() const override { return true; }
   bool List(std::vector<std::int32_t>& pids) override {
     pids.clear();
+    if (listingFails) {
+      errno = ENOMEM;
+      return false;
+    }
     for (const auto& [pid, stamp] : mByPid) pids.push_back(pid);
     return true;
   }

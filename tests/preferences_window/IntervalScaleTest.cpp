@@ -1,6 +1,7 @@
 // The interval scale against its tables, written down once more as cases.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -19,36 +20,23 @@ std::string Words(int milliseconds) {
   return givenMillisecondsCalcStringDescriptionForMainWindowFreq(milliseconds).toStdString();
 }
 
+/// From this position on, a hundred each: the first interval, and how much a position adds.
+constexpr int kStretches[][3] = {
+    {200, 1'000, 40},     {300, 5'000, 50},      {400, 10'000, 200},     {500, 30'000, 300},
+    {600, 60'000, 2'400}, {700, 300'000, 3'000}, {800, 600'000, 12'000}, {900, 1'800'000, 18'000}};
+
 int ExpectedMilliseconds(int p) {
-  if (p < 20) return 100;
-  if (p < 40) return 111;
-  if (p < 60) return 125;
-  if (p < 80) return 142;
-  if (p < 100) return 166;
-  if (p < 120) return 200;
-  if (p < 140) return 250;
-  if (p < 160) return 333;
-  if (p < 180) return 500;
-  if (p < 200) return 1000;
-  if (p < 300) return p * 40 - 7'000;
-  if (p < 400) return p * 50 - 10'000;
-  if (p < 500) return p * 200 - 70'000;
-  if (p < 600) return p * 300 - 120'000;
-  if (p < 700) return p * 2'400 - 1'380'000;
-  if (p < 800) return p * 3'000 - 1'800'000;
-  if (p < 900) return p * 12'000 - 9'000'000;
-  return p * 18'000 - 14'400'000;
+  constexpr int kShort[] = {100, 111, 125, 142, 166, 200, 250, 333, 500, 1000};
+  if (p < 200) return kShort[p / 20];
+  const auto& [first, milliseconds, step] = kStretches[std::min(p / 100, 9) - 2];
+  return milliseconds + (p - first) * step;
 }
 
 int ExpectedPosition(int m) {
-  if (m < 5'000) return 200 + (m - 1'000) / 40;
-  if (m < 10'000) return 300 + (m - 5'000) / 50;
-  if (m < 30'000) return 400 + (m - 10'000) / 200;
-  if (m < 60'000) return 500 + (m - 30'000) / 300;
-  if (m < 300'000) return 600 + (m - 60'000) / 2'400;
-  if (m < 600'000) return 700 + (m - 300'000) / 3'000;
-  if (m < 1'800'000) return 800 + (m - 600'000) / 12'000;
-  return 900 + (m - 1'800'000) / 18'000;
+  int position = 0;
+  for (const auto& [first, milliseconds, step] : kStretches)
+    if (m >= milliseconds) position = first + (m - milliseconds) / step;
+  return position;
 }
 
 const std::map<int, int> kShortPositions = {{100, 0},   {111, 20}, {125, 40},  {142, 60},

@@ -1,5 +1,7 @@
 #include "preferences_window/PanelTest.h"
 
+#include <QScreen>
+
 #include "main_window/FrontmostWindow.h"
 
 namespace lurkwell {
@@ -90,6 +92,17 @@ TEST_F(PanelTest, OnePanelThatRemembersItsPageAndCountsAsTheFrontmostWindow) {
   EXPECT_EQ(Stored("PREFERENCES_UI_DEFAULT_TAB"), 2);
   Open(vqPreferencesUI::kRememberedTab);
   EXPECT_EQ(Find<QTabWidget>("tabView").currentIndex(), 2);
+  struct Asked : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      return event->type() == QEvent::Quit && ++times;
+    }
+    int times = 0;
+  } asked;
+  qApp->installEventFilter(&asked);
+  QTest::keyClick(&Window(), Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_EQ(asked.times, 1);
+  QTest::keyClick(&Window(), Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(gThePreferencesUI, nullptr);
 }
 
 TEST_F(PanelTest, EachPageHasItsHeightUnderAnUnmovedTopEdge) {
@@ -111,6 +124,7 @@ TEST_F(PanelTest, EachPageHasItsHeightUnderAnUnmovedTopEdge) {
   for (int page = 0; page < 5; ++page) {
     Open(page);
     EXPECT_GT(Window().height(), kHeights[page]) << page;
+    EXPECT_LE(Window().height(), Window().screen()->availableSize().height()) << page;
     for (const auto* widget : Find<QTabWidget>("tabView").currentWidget()->findChildren<QWidget*>())
       EXPECT_TRUE(widget->isHidden() || widget->height() >= widget->minimumSizeHint().height())
           << page << qPrintable(widget->objectName());

@@ -18,67 +18,15 @@
 #include <string>
 #include <thread>
 
-#include "platform/Machine.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/LinuxClock.h"
-#include "platform/linux/LinuxNamedPipes.h"
-#include "platform/linux/LinuxSignals.h"
-#include "platform/linux/LinuxTools.h"
-#include "platform/linux/PolkitAuthorization.h"
-#include "platform/linux/PollRunLoop.h"
-#include "platform/linux/TerminalAlerts.h"
-#include "platform/simulated/SimulatedMachine.h"
 #include "process_control/DaemonChannel.h"
 #include "process_control/DaemonCommunication.h"
+#include "process_control/RealMachine.h"
 #include "process_control/TemporaryFolder.h"
 
 namespace lurkwell {
 
 /// A user that the tests make up.
 inline constexpr uid_t kUser = 61001;
-
-/// Process control with real programs over real pipes, for an application below `prefix`.
-class RealMachine {
- public:
-  explicit RealMachine(const std::string& prefix)
-      : bundle(prefix + "/bin/lurkwell"),
-        authorization(bundle, PolkitAuthorization::Consent::kMayAsk, prefix + "/bin/pkexec") {}
-
-  /// Puts the build's helper into the application's folder.
-  static void Install(const std::string& prefix) {
-    const std::string resources = prefix + "/lib/lurkwell/Contents/Resources";
-    std::filesystem::create_directories(resources);
-    std::filesystem::copy_file(LURKWELL_TEST_HELPER, resources + "/Lurkwell_helper");
-  }
-
-  SimulatedMachine simulated;
-  LinuxClock clock;
-  PollRunLoop runLoop{clock};
-  LinuxTools tools;
-  LinuxSignals signals;
-  LinuxNamedPipes namedPipes;
-  LinuxBundle bundle;
-  PolkitAuthorization authorization;
-  TerminalAlerts alerts;
-  Machine services{clock,
-                   runLoop,
-                   simulated.preferenceDomain,
-                   simulated.processTable,
-                   simulated.processManager,
-                   simulated.iconServices,
-                   simulated.hostStatistics,
-                   tools,
-                   signals,
-                   namedPipes,
-                   authorization,
-                   bundle,
-                   alerts,
-                   simulated.logFiles,
-                   simulated.hotKeys,
-                   simulated.screen,
-                   simulated.eventBus};
-  MachineInstallation installation{services};
-};
 
 /// A test whose helpers, orphans by design, become its children and can be found and counted.
 /// Pipes and data stand in folders of the test.

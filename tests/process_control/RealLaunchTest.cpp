@@ -19,6 +19,7 @@ class RealLaunchTest : public RealControl {
     std::filesystem::copy_file(LURKWELL_TEST_STAND_IN, Pkexec());
     EXPECT_EQ(::chmod(Pkexec().c_str(), 04755), 0);
     folder.Make("data", 0755, kUser);
+    folder.Make("said", 0755, kUser);
   }
 
   std::string Pkexec() const { return folder / "bin/pkexec"; }
@@ -35,7 +36,7 @@ class RealLaunchTest : public RealControl {
   /// Starts the helper as the user; what it says about its rights, "none" without a helper, and
   /// what was said on standard error.
   std::string Launched(bool always = false) {
-    const std::string report = folder / "data/report", errors = folder / "data/errors";
+    const std::string report = folder / "said/report", errors = folder / "said/errors";
     const int status = AsUser(kUser, [&] {
       const int file = ::open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
       if (::dup2(file, STDERR_FILENO) < 0) return 98;
@@ -118,25 +119,30 @@ TEST_F(RealLaunchTest, WhoMayNotAskAsksNobody) {
 TEST_F(RealLaunchTest, AFileSystemWithoutRightsIsExplainedAndNobodyAsked) {
   AdministratorSays("yes");
   const std::string data = folder / "data";
-  for (const bool executes : {true, false}) {
-    const int status = AsUser(0, [&] {
-      const unsigned long flags = executes ? MS_NOSUID : MS_NOSUID | MS_NOEXEC;
+  for (const auto& [flag, name] : std::initializer_list<std::pair<unsigned long, const char*>>{
+           {MS_NOSUID, "nosuid"}, {MS_NOEXEC, "noexec"}, {MS_RDONLY, "read-only"}}) {
+    const int status = AsUser(0, [&, flag = flag, name = name] {
       if (::unshare(CLONE_NEWNS) != 0 ||
           ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-          ::mount("tmpfs", data.c_str(), "tmpfs", flags, "mode=0755,uid=61001,gid=61001") != 0) {
+          ::mount("tmpfs", data.c_str(), "tmpfs", 0, "mode=0755,uid=61001,gid=61001") != 0)
         return 97;
-      }
-      std::string expected = executes ? std::to_string(kUser) : "none";
-      expected +=
-          "\nlurkwell: the helper gets no rights: the file system of $/data/Lurkwell gives "
-          "programs no rights (nosuid)\n" +
-          std::string(kAlert);
-      if (!executes) expected += "lurkwell: the helper does not answer; starting another\n";
+      folder.Make("data/Lurkwell", 0700, kUser);
+      std::filesystem::copy_file(LURKWELL_TEST_HELPER, Installed());
+      if (::chown(Installed().c_str(), kUser, kUser) != 0 ||
+          ::mount(nullptr, data.c_str(), nullptr, MS_REMOUNT | flag, nullptr) != 0)
+        return 98;
+      std::string expected = std::to_string(kUser) +
+                             "\nlurkwell: the helper gets no rights: the file system of "
+                             "$/data/Lurkwell gives programs no rights (" +
+                             name + ")\n" + kAlert;
+      if (flag == MS_NOEXEC)
+        expected +=
+            "lurkwell: the helper runs with your own rights: the installed one does not start\n";
       const std::string launched = Launched();
       if (launched != expected) std::fprintf(stderr, "%s", launched.c_str());
       return launched == expected ? 0 : 1;
     });
-    EXPECT_EQ(status, 0) << executes;
+    EXPECT_EQ(status, 0) << name;
   }
   EXPECT_EQ(Asked(), "");
 }

@@ -60,31 +60,13 @@ TEST(PicturesTest, EachIsSeenOnLightAndDarkAndDrawnAnewForEachScale) {
 }
 
 TEST(PicturesTest, WhatTheWindowsShowByNameIsThere) {
-  for (const char* name : {"lurkwell",
-                           "generic_process",
-                           "process_halted",
-                           "process_niced_high",
-                           "process_niced_low",
-                           "headercpu",
-                           "headermemory",
-                           "vm_green",
-                           "vm_yellow",
-                           "vm_red1",
-                           "vm_red2",
-                           "cpu_hist",
-                           "logging",
-                           "bring_to_front",
-                           "kill",
-                           "hide_process",
-                           "reveal_in_finder",
-                           "high_priority",
-                           "medium_priority",
-                           "low_priority",
-                           "processhalt",
-                           "processcont",
-                           "show_preferences",
-                           "customise"})
-    EXPECT_FALSE(NamedImage(name).isNull()) << name;
+  const QString names =
+      "lurkwell generic_process process_halted process_niced_high process_niced_low headercpu "
+      "headermemory vm_green vm_yellow vm_red1 vm_red2 cpu_hist logging bring_to_front kill "
+      "hide_process reveal_in_finder high_priority medium_priority low_priority processhalt "
+      "processcont show_preferences customise";
+  for (const QString& name : names.split(' '))
+    EXPECT_FALSE(NamedImage(name.toUtf8()).isNull()) << qPrintable(name);
   EXPECT_TRUE(NamedImage("no_such_picture").isNull());
   // The two flash in turn: they must be told apart at a glance.
   const auto middle = [](const char* name) {

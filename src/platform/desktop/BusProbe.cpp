@@ -6,10 +6,14 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <optional>
+#include <string_view>
+#include <thread>
 
 namespace lurkwell {
 namespace {
@@ -54,35 +58,70 @@ std::optional<std::string> ValueOf(const std::string& address, const std::string
   return {};
 }
 
-bool Connect(int descriptor, const std::string& name, bool isAbstract) {
+using Clock = std::chrono::steady_clock;
+
+/// Waits for what `events` say, over interruptions; false when it is too late.
+bool WaitFor(int descriptor, short events, Clock::time_point end) {
+  pollfd wait{descriptor, events, 0};
+  for (;;) {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+    const int ready = ::poll(&wait, 1, static_cast<int>(std::max<std::int64_t>(left, 0)));
+    if (ready >= 0 || errno != EINTR) return ready > 0;
+  }
+}
+
+/// A bus with a full queue of callers is asked again until it is too late.
+bool Connect(int descriptor, const std::string& name, bool isAbstract, Clock::time_point end) {
+  constexpr std::chrono::milliseconds kPause{20};
   sockaddr_un place{};
   place.sun_family = AF_UNIX;
   const std::size_t begin = isAbstract ? 1 : 0;
   if (name.size() + begin >= sizeof place.sun_path) return false;
   std::memcpy(place.sun_path + begin, name.data(), name.size());
-  const auto length = offsetof(sockaddr_un, sun_path) + begin + name.size();
-  return ::connect(descriptor, reinterpret_cast<const sockaddr*>(&place),
-                   static_cast<socklen_t>(length)) == 0;
+  const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + begin + name.size());
+  while (::connect(descriptor, reinterpret_cast<const sockaddr*>(&place), length) != 0) {
+    if ((errno != EAGAIN && errno != EINTR) || Clock::now() >= end) return false;
+    std::this_thread::sleep_for(kPause);
+  }
+  return true;
+}
+
+/// The beginning of every conversation with a bus; whichever answer comes is one.
+bool Converse(int descriptor, Clock::time_point end) {
+  constexpr std::string_view kHello("\0AUTH\r\n", 7);
+  // The first bytes on a connection never have to wait for room.
+  if (::send(descriptor, kHello.data(), kHello.size(), MSG_NOSIGNAL) < 0) return false;
+  char answer = 0;
+  return WaitFor(descriptor, POLLIN, end) && ::recv(descriptor, &answer, 1, 0) == 1;
+}
+
+enum class Answer { kYes, kRefused, kSilent };
+
+Answer Ask(const std::string& address, Clock::time_point end) {
+  if (!address.starts_with("unix:")) return Answer::kYes;
+  const auto path = ValueOf(address, "path");
+  const auto abstractName = ValueOf(address, "abstract");
+  if (!path && !abstractName) return Answer::kYes;
+  const Socket socket;
+  if (!Connect(socket.Get(), path.value_or(abstractName.value_or("")), !path, end))
+    return Clock::now() < end ? Answer::kRefused : Answer::kSilent;
+  return Converse(socket.Get(), end) ? Answer::kYes : Answer::kSilent;
 }
 
 }  // namespace
 
-bool DoesBusAnswer(const std::string& address, std::chrono::milliseconds longest) {
-  const std::string first = address.substr(0, address.find(';'));
-  if (first.empty()) return false;
-  if (!first.starts_with("unix:")) return true;
-  const auto path = ValueOf(first, "path");
-  const auto abstractName = ValueOf(first, "abstract");
-  if (!path && !abstractName) return true;
-  const Socket socket;
-  if (!Connect(socket.Get(), path.value_or(abstractName.value_or("")), !path)) return false;
-  // The beginning of every conversation with a bus; whichever answer comes is one.
-  constexpr char kHello[] = "\0AUTH\r\n";
-  if (::send(socket.Get(), kHello, sizeof kHello - 1, MSG_NOSIGNAL) < 0) return false;
-  pollfd wait{socket.Get(), POLLIN, 0};
-  char answer = 0;
-  return ::poll(&wait, 1, static_cast<int>(longest.count())) > 0 &&
-         ::recv(socket.Get(), &answer, 1, 0) == 1;
+bool DoesBusAnswer(const std::string& addresses, std::chrono::milliseconds longest) {
+  const auto end = Clock::now() + longest;
+  for (std::size_t at = 0; at < addresses.size();) {
+    const auto next = std::min(addresses.find(';', at), addresses.size());
+    const auto address = addresses.substr(at, next - at);
+    // The library would wait for one that is silent, whoever stands behind it.
+    if (const auto answer = address.empty() ? Answer::kRefused : Ask(address, end);
+        answer != Answer::kRefused)
+      return answer == Answer::kYes;
+    at = next + 1;
+  }
+  return false;
 }
 
 }  // namespace lurkwell

@@ -2,8 +2,6 @@
 
 #include <unistd.h>
 
-#include <QDBusArgument>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
@@ -16,8 +14,20 @@ namespace {
 
 constexpr int kAnswerTimeout = 5000;
 constexpr int kShortestPause = 100;
+constexpr int kPauseAfterFailure = 2000;
 constexpr qsizetype kLongestName = 255;
 constexpr char kListSignature[] = "a(uussus)";
+
+/// What starts in a boot's first second, in clock ticks: the kernel's threads and init, which have
+/// numbers as small as guests have.
+constexpr std::uint32_t kFirstSecond = 100;
+
+/// Whoever has such a number may become an application of the desktop yet.
+bool IsOfLiveProcess(ProcessSerialNumber psn) {
+  if (psn.high < kFirstSecond) return false;
+  const auto process = ProcFolder("/proc").Identify(static_cast<std::int32_t>(psn.low));
+  return process && SerialNumberOf(*process) == psn;
+}
 
 }  // namespace
 
@@ -26,10 +36,8 @@ ClassicProcessManager::ClassicProcessManager(ProcessManager& desktop, EventBus& 
     : mDesktop(desktop),
       mEvents(events),
       mBus(bus),
-      mUsers(bus),
       mEnvironment(bus, classic::kEnvironmentService, [this] { EnvironmentHasChanged(); }) {
   mNextQuestion.setSingleShot(true);
-  mNextQuestion.setInterval(kShortestPause);
   connect(&mNextQuestion, &QTimer::timeout, this, &ClassicProcessManager::AskForGuests);
   if (!mBus.isConnected()) return;
   mBus.connect(classic::kEnvironmentService, classic::kEnvironmentPath,
@@ -43,54 +51,58 @@ void ClassicProcessManager::EnvironmentHasChanged() {
 }
 
 void ClassicProcessManager::GuestsHaveChanged() {
-  if (!mNextQuestion.isActive()) mNextQuestion.start();
+  if (!mNextQuestion.isActive() || mNextQuestion.interval() != kShortestPause)
+    mNextQuestion.start(kShortestPause);
 }
 
 void ClassicProcessManager::AskForGuests() {
   const QString owner = mEnvironment.Name();
   if (owner.isEmpty()) return;
   // One question at a time; what has changed meanwhile is asked for behind it.
-  if (mIsAsking) return mNextQuestion.start();
-  mUsers.Ask(owner, [this, owner](bool isOurs) {
-    if (!isOurs || mIsAsking) return;
-    mIsAsking = true;
-    const auto question = QDBusMessage::createMethodCall(owner, classic::kEnvironmentPath,
-                                                         classic::kEnvironmentInterface,
-                                                         QStringLiteral("Applications"));
-    auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(question, kAnswerTimeout), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, owner] {
-      watcher->deleteLater();
-      mIsAsking = false;
-      const QDBusMessage answer = watcher->reply();
-      // Another environment's guests are none of this one's.
-      if (owner != mEnvironment.Name() || answer.signature() != QLatin1String(kListSignature))
-        return;
-      Take(answer.arguments().constFirst());
-    });
+  if (mIsAsking) return mNextQuestion.start(kShortestPause);
+  mIsAsking = true;
+  const auto question = QDBusMessage::createMethodCall(owner, classic::kEnvironmentPath,
+                                                       classic::kEnvironmentInterface,
+                                                       QStringLiteral("Applications"));
+  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(question, kAnswerTimeout), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, owner] {
+    watcher->deleteLater();
+    mIsAsking = false;
+    // Another environment's guests are none of this one's.
+    if (owner == mEnvironment.Name()) HaveAnswer(watcher->reply());
   });
+}
+
+void ClassicProcessManager::HaveAnswer(const QDBusMessage& answer) {
+  if (answer.signature() == QLatin1String(kListSignature))
+    Take(answer.arguments().constFirst());
+  else if (!mNextQuestion.isActive())
+    mNextQuestion.start(kPauseAfterFailure);
 }
 
 void ClassicProcessManager::Take(const QVariant& list) {
   Clear();
   const auto argument = list.value<QDBusArgument>();
   argument.beginArray();
-  while (!argument.atEnd() && mGuests.size() < kMostGuests) {
-    quint32 mode = 0;
-    QString name;
-    QString type;
-    QString signature;
-    Guest guest;
-    argument.beginStructure();
-    argument >> guest.psn.high >> guest.psn.low >> name >> type >> mode >> signature;
-    argument.endStructure();
-    const auto typeCode = CodeFromText(type);
-    const auto signatureCode = CodeFromText(signature);
-    if (guest.psn.IsNone() || !typeCode || !signatureCode) continue;
-    guest.information = {name.left(kLongestName).toStdString(), *typeCode, *signatureCode, mode};
-    if (mPlaces.emplace(guest.psn, mGuests.size()).second) mGuests.push_back(std::move(guest));
-  }
+  for (std::size_t i = 0; i < kMostGuests && !argument.atEnd(); ++i) TakeGuest(argument);
   // Without it the list's reader is never given back.
   argument.endArray();
+}
+
+void ClassicProcessManager::TakeGuest(const QDBusArgument& list) {
+  quint32 mode = 0;
+  QString name;
+  QString type;
+  QString signature;
+  Guest guest;
+  list.beginStructure();
+  list >> guest.psn.high >> guest.psn.low >> name >> type >> mode >> signature;
+  list.endStructure();
+  const auto typeCode = CodeFromText(type);
+  const auto signatureCode = CodeFromText(signature);
+  if (guest.psn.IsNone() || !typeCode || !signatureCode || IsOfLiveProcess(guest.psn)) return;
+  guest.information = {name.left(kLongestName).toStdString(), *typeCode, *signatureCode, mode};
+  if (mPlaces.emplace(guest.psn, mGuests.size()).second) mGuests.push_back(std::move(guest));
 }
 
 void ClassicProcessManager::Clear() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDBusArgument>
+#include <QDBusMessage>
 #include <QObject>
 #include <QTimer>
 #include <memory>
@@ -16,8 +18,9 @@ namespace lurkwell {
 
 /// A desktop and, behind its applications, the guests of the Classic environment, which have serial
 /// numbers and no processes. The guests are what the environment said last; it is asked whenever it
-/// says that they have changed, at most ten times a second, and never waited for. At most 4,096 are
-/// listed. Nothing happens while there is no environment. Main thread only.
+/// says that they have changed, at most ten times a second, again when it has not answered, and
+/// never waited for. Of the first 4,096 those with well-formed codes and with numbers of their own
+/// are listed. Nothing happens while there is no environment. Main thread only.
 class ClassicProcessManager final : public QObject, public ProcessManager {
   Q_OBJECT
 
@@ -54,7 +57,9 @@ class ClassicProcessManager final : public QObject, public ProcessManager {
 
   void EnvironmentHasChanged();
   void AskForGuests();
+  void HaveAnswer(const QDBusMessage& answer);
   void Take(const QVariant& list);
+  void TakeGuest(const QDBusArgument& list);
   void Clear();
   const Guest* Find(ProcessSerialNumber psn) const;
   std::optional<ProcessSerialNumber> GuestFrom(std::size_t place) const;
@@ -62,7 +67,6 @@ class ClassicProcessManager final : public QObject, public ProcessManager {
   ProcessManager& mDesktop;
   EventBus& mEvents;
   QDBusConnection mBus;
-  BusUsers mUsers;
   ServiceOwner mEnvironment;
   QTimer mNextQuestion;
   bool mIsAsking = false;

@@ -74,9 +74,17 @@ bool DBusEventBus::handleMessage(const QDBusMessage& message, const QDBusConnect
   if (message.type() != QDBusMessage::MethodCallMessage ||
       message.member() != QLatin1String("Deliver"))
     return false;
-  if (message.isReplyRequired()) mBus.send(message.createReply());
-  if (!mUsers.Ask(message.service(), [this, message](bool isOurs) { HandleFrom(message, isOurs); }))
-    Drop("too many unknown senders");
+  // Whoever waits for an answer is there still when the bus is asked whose it is.
+  const auto answer = [this, message] {
+    if (message.isReplyRequired()) mBus.send(message.createReply());
+  };
+  const bool isAsking = mUsers.Ask(message.service(), [this, message, answer](bool isOurs) {
+    answer();
+    HandleFrom(message, isOurs);
+  });
+  if (isAsking) return true;
+  answer();
+  Drop("too many unknown senders");
   return true;
 }
 

@@ -56,7 +56,7 @@ Q_DECLARE_METATYPE(lurkwell::WireSerialNumber)
 namespace lurkwell {
 namespace {
 
-constexpr qsizetype kMostParameters = 16;
+constexpr std::size_t kMostParameters = 16;
 const QString kLong = QStringLiteral("long");
 const QString kSerialNumber = QStringLiteral("psn ");
 const QString kBytes = QStringLiteral("****");
@@ -87,11 +87,12 @@ struct ToWire {
   static QDBusVariant Box(const QVariant& value) { return QDBusVariant(value); }
 };
 
-std::optional<EventValue> FromWire(const QString& type, const QVariant& value) {
+std::optional<EventValue> FromWire(const QString& type, const QVariant& value, std::size_t most) {
   if (type == kLong && value.metaType() == QMetaType::fromType<int>())
     return EventValue(std::int32_t{value.toInt()});
   if (type == kBytes && value.metaType() == QMetaType::fromType<QByteArray>()) {
     const auto bytes = value.toByteArray();
+    if (static_cast<std::size_t>(bytes.size()) > most) return {};
     const auto* start = reinterpret_cast<const std::byte*>(bytes.constData());
     return EventValue(std::vector<std::byte>(start, start + bytes.size()));
   }
@@ -109,12 +110,36 @@ std::size_t SizeOf(const EventValue& value) {
   return bytes == nullptr ? sizeof(ProcessSerialNumber) : bytes->size();
 }
 
+std::optional<EventParameter> NextParameter(const QDBusArgument& list, std::size_t most) {
+  WireParameter parameter;
+  list >> parameter;
+  const auto keyword = CodeFromText(parameter.keyword);
+  auto value = FromWire(parameter.type, parameter.value.variant(), most);
+  if (!keyword || !value || SizeOf(*value) > most) return {};
+  return EventParameter{*keyword, std::move(*value)};
+}
+
+/// A message may hold millions of parameters, so what is too much is not read at all.
+std::optional<std::vector<EventParameter>> ReadParameters(const QDBusArgument& list,
+                                                          std::size_t most) {
+  std::vector<EventParameter> parameters;
+  while (!list.atEnd()) {
+    auto parameter = parameters.size() < kMostParameters ? NextParameter(list, most) : std::nullopt;
+    if (!parameter) return {};
+    most -= SizeOf(parameter->value);
+    parameters.push_back(std::move(*parameter));
+  }
+  return parameters;
+}
+
 }  // namespace
 
 std::optional<FourCharCode> CodeFromText(const QString& text) {
   FourCharCode code{};
   if (text.size() != static_cast<qsizetype>(code.size())) return {};
   const auto latin = text.toLatin1();
+  // Letters beyond Latin-1 become question marks.
+  if (QString::fromLatin1(latin) != text) return {};
   std::copy(latin.begin(), latin.end(), code.begin());
   return code;
 }
@@ -137,19 +162,14 @@ std::optional<Event> ReadEvent(const QDBusMessage& message, std::size_t mostByte
   const auto arguments = message.arguments();
   const auto eventClass = CodeFromText(arguments[0].toString());
   const auto id = CodeFromText(arguments[1].toString());
-  const auto parameters = qdbus_cast<QList<WireParameter>>(arguments[2]);
-  if (!eventClass || !id || parameters.size() > kMostParameters) return {};
-  Event event{*eventClass, *id, {}, message.service().toStdString()};
-  std::size_t bytes = 0;
-  for (const auto& parameter : parameters) {
-    const auto keyword = CodeFromText(parameter.keyword);
-    auto value = FromWire(parameter.type, parameter.value.variant());
-    if (!keyword || !value) return {};
-    bytes += SizeOf(*value);
-    if (bytes > mostBytes) return {};
-    event.parameters.push_back({*keyword, std::move(*value)});
-  }
-  return event;
+  if (!eventClass || !id) return {};
+  const auto list = arguments[2].value<QDBusArgument>();
+  list.beginArray();
+  auto parameters = ReadParameters(list, mostBytes);
+  // Without it the list's reader is never given back.
+  list.endArray();
+  if (!parameters) return {};
+  return Event{*eventClass, *id, std::move(*parameters), message.service().toStdString()};
 }
 
 }  // namespace lurkwell

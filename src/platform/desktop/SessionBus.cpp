@@ -12,7 +12,8 @@
 namespace lurkwell {
 namespace {
 
-constexpr int kAnswerTimeout = 2000;
+/// Nobody waits for it, and who is not answered for stays a stranger.
+constexpr int kAnswerTimeout = 20'000;
 /// Unique names are never given twice, so what is known stays true; only memory is bounded.
 constexpr int kMostKnown = 256;
 constexpr int kMostAsking = 8;
@@ -35,11 +36,12 @@ QDBusConnection ConnectToBus(const std::string& address, const QString& name) {
 ServiceOwner::ServiceOwner(const QDBusConnection& bus, const QString& service,
                            std::function<void()> changed)
     : mWatcher(service, bus, QDBusServiceWatcher::WatchForOwnerChange),
+      mUsers(bus),
       mChanged(std::move(changed)) {
   connect(&mWatcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString&, const QString&, const QString& owner) {
             mHasHeard = true;
-            SetName(owner);
+            SetOwner(owner);
           });
   if (bus.isConnected()) AskForOwner(bus, service);
 }
@@ -51,7 +53,26 @@ void ServiceOwner::AskForOwner(const QDBusConnection& bus, const QString& servic
     watcher->deleteLater();
     const QDBusPendingReply<QString> reply = *watcher;
     // What was heard meanwhile is newer.
-    if (!mHasHeard && reply.isValid()) SetName(reply.value());
+    if (!mHasHeard && reply.isValid()) SetOwner(reply.value());
+  });
+}
+
+void ServiceOwner::SetOwner(const QString& owner) {
+  mOwner = owner;
+  SetName({});
+  if (!mOwner.isEmpty() && !mIsAsking) AskForUser();
+}
+
+/// One question at a time, however often the owner changes meanwhile.
+void ServiceOwner::AskForUser() {
+  mIsAsking = true;
+  mUsers.Ask(mOwner, [this, asked = mOwner](bool isOurs) {
+    mIsAsking = false;
+    if (asked != mOwner) {
+      if (!mOwner.isEmpty()) AskForUser();
+    } else if (isOurs) {
+      SetName(mOwner);
+    }
   });
 }
 

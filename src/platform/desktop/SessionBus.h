@@ -13,25 +13,6 @@ namespace lurkwell {
 /// within two seconds. Main thread.
 QDBusConnection ConnectToBus(const std::string& address, const QString& name);
 
-/// Follows who owns a name on a bus, without waiting. Main thread only.
-class ServiceOwner final : public QObject {
- public:
-  ServiceOwner(const QDBusConnection& bus, const QString& service,
-               std::function<void()> changed = {});
-
-  /// The owner's unique name; "" while there is none, or none is known yet.
-  const QString& Name() const { return mName; }
-
- private:
-  void AskForOwner(const QDBusConnection& bus, const QString& service);
-  void SetName(const QString& name);
-
-  QDBusServiceWatcher mWatcher;
-  std::function<void()> mChanged;
-  QString mName;
-  bool mHasHeard = false;
-};
-
 /// Tells the programs of this program's user from those of others, by what the bus says of their
 /// connections. Main thread only.
 class BusUsers final : public QObject {
@@ -47,6 +28,31 @@ class BusUsers final : public QObject {
   QDBusConnection mBus;
   QHash<QString, bool> mKnown;
   int mAsking = 0;
+};
+
+/// Follows which program of this user's owns a name on a bus, without waiting. Main thread only.
+class ServiceOwner final : public QObject {
+ public:
+  ServiceOwner(const QDBusConnection& bus, const QString& service,
+               std::function<void()> changed = {});
+
+  /// The owner's unique name; "" while there is none, none is known yet, or it is a stranger's.
+  const QString& Name() const { return mName; }
+
+ private:
+  void AskForOwner(const QDBusConnection& bus, const QString& service);
+  void SetOwner(const QString& owner);
+  void AskForUser();
+  void SetName(const QString& name);
+
+  QDBusServiceWatcher mWatcher;
+  BusUsers mUsers;
+  std::function<void()> mChanged;
+  /// Whoever owns it.
+  QString mOwner;
+  QString mName;
+  bool mHasHeard = false;
+  bool mIsAsking = false;
 };
 
 }  // namespace lurkwell

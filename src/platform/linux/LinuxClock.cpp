@@ -5,31 +5,29 @@
 namespace lurkwell {
 namespace {
 
-TimeValue Read(clockid_t clock) {
+template <clockid_t kClock>
+TimeValue Read() {
   timespec time{};
-  clock_gettime(clock, &time);
+  clock_gettime(kClock, &time);
   return {time.tv_sec, static_cast<std::int32_t>(time.tv_nsec / 1000)};
-}
-
-TimeValue Difference(TimeValue later, TimeValue earlier) {
-  TimeValue difference{later.seconds - earlier.seconds, later.microseconds - earlier.microseconds};
-  if (difference.microseconds < 0) {
-    difference.microseconds += 1'000'000;
-    --difference.seconds;
-  }
-  return difference;
 }
 
 }  // namespace
 
-LinuxClock::LinuxClock() : mStart(Read(CLOCK_REALTIME)), mBootTimeAtStart(Read(CLOCK_BOOTTIME)) {}
+LinuxClock::LinuxClock() : LinuxClock(Read<CLOCK_REALTIME>, Read<CLOCK_BOOTTIME>) {}
+
+LinuxClock::LinuxClock(Reader calendar, Reader sinceBoot)
+    : mCalendar(calendar),
+      mSinceBoot(sinceBoot),
+      mStart(mCalendar()),
+      mBootTimeAtStart(mSinceBoot()) {}
 
 TimeValue LinuxClock::Now() {
-  return mStart + Difference(Read(CLOCK_BOOTTIME), mBootTimeAtStart);
+  return mStart + (mSinceBoot() - mBootTimeAtStart);
 }
 
 TimeValue LinuxClock::CalendarNow() {
-  return Read(CLOCK_REALTIME);
+  return mCalendar();
 }
 
 }  // namespace lurkwell

@@ -6,19 +6,18 @@
 #include <string>
 
 #include "platform/NamedPipes.h"
+#include "platform/linux/PipeFolder.h"
 
 namespace lurkwell {
 
-/// FIFOs in a fresh folder of mode 0700, below $XDG_RUNTIME_DIR or else the temporary folder. The
-/// folder must stand where nobody but the user and root can exchange it, and goes with its last
-/// pipe. A pipe that cannot hold an answer in one piece (8 KiB) is refused when it is opened.
+/// FIFOs in a fresh folder of the program's own, which goes with its last pipe. A pipe that cannot
+/// hold an answer in one piece (8 KiB) is refused when it is opened.
 ///
 /// Making one turns the signal of a broken pipe off for the whole program, unless something handles
 /// it already; programs started by the program get it back.
 class LinuxNamedPipes final : public NamedPipes {
  public:
   LinuxNamedPipes();
-  ~LinuxNamedPipes() override;
   LinuxNamedPipes(const LinuxNamedPipes&) = delete;
   LinuxNamedPipes& operator=(const LinuxNamedPipes&) = delete;
 
@@ -34,9 +33,7 @@ class LinuxNamedPipes final : public NamedPipes {
   void Unlink(const std::string& path) override;
 
  private:
-  bool HaveFolder();
-
-  std::string mFolder;
+  PipeFolder mFolder;
   /// Where the thread may run when it does not stay on one processor; empty when it need not go
   /// back.
   std::optional<cpu_set_t> mProcessors;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <cstdio>
 #include <cstring>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,7 @@ constexpr std::size_t kMostKeptAtAll = 16'384;
 constexpr std::size_t kGivenBackAtOnce = 32;
 // A name is looked up in two passes, as the first may fall into the middle of an exec.
 constexpr std::uint8_t kNamings = 2;
+constexpr int kMostFailures = 3;
 constexpr std::int64_t kFarFuture = 1'000'000'000'000;
 constexpr std::string_view kIdleTaskName = "swapper";
 
@@ -67,25 +69,25 @@ bool IsShortage(int error) {
 }  // namespace
 
 LinuxProcessTable::LinuxProcessTable(const std::string& root)
-    : LinuxProcessTable(std::make_unique<ProcFiles>(root)) {}
+    : LinuxProcessTable(std::make_shared<ProcFiles>(root)) {}
 
-LinuxProcessTable::LinuxProcessTable(std::unique_ptr<ProcFiles> files)
+LinuxProcessTable::LinuxProcessTable(std::shared_ptr<ProcFiles> files)
     : mFiles(std::move(files)),
-      mTicksPerSecond(static_cast<std::uint64_t>(std::max(1L, ::sysconf(_SC_CLK_TCK)))) {
+      mNames(mFiles),
+      mTicksPerSecond(static_cast<std::uint64_t>(std::max(1L, ::sysconf(_SC_CLK_TCK)))),
+      mPageSize(static_cast<std::uint64_t>(std::max(1L, ::sysconf(_SC_PAGESIZE)))) {
   SetBootTime();
   SetMaximumPid();
 }
 
 std::span<const ProcessTableEntry> LinuxProcessTable::Read() {
+  if (!mFiles->List(mPids)) return LastPassAgain();
+  mFailures = 0;
   std::swap(mPass, mPassBefore);
   mPass.entries.clear();
   mPass.known.clear();
   mLostParents.clear();
-  if (!mFiles->List(mPids)) {
-    for (auto& known : mPassBefore.known) Forget(known);
-    mPassBefore = {};
-    return {};
-  }
+  mUnnamed.clear();
   SetMaximumPid();
   mMostKept = mFiles->FollowsProcesses() ? std::min(DescriptorLimit() / 2, kMostKeptAtAll) : 0;
   if (!std::is_sorted(mPids.begin(), mPids.end())) std::sort(mPids.begin(), mPids.end());
@@ -104,16 +106,55 @@ std::span<const ProcessTableEntry> LinuxProcessTable::Read() {
   }
   for (; before < countBefore; ++before) Drop(before);
   ReadOrphansAgain();
+  CompleteNames();
   if (!mPids.empty()) mMaximumPid = std::max(mMaximumPid, mPids.back());
   mPass.entries.push_back(IdleTask(mBootTime));
   CloseParents(mPass.entries);
   return mPass.entries;
 }
 
+/// A shortage of memory that passes must not look like the end of all processes.
+std::span<const ProcessTableEntry> LinuxProcessTable::LastPassAgain() {
+  const int error = errno;
+  if (mPass.entries.empty() || ++mFailures <= kMostFailures) return mPass.entries;
+  std::fprintf(stderr, "lurkwell: the processes cannot be listed: %s\n", std::strerror(error));
+  for (auto& known : mPass.known) Forget(known);
+  mPass = {};
+  return {};
+}
+
 std::optional<ProcessIdentity> LinuxProcessTable::CurrentIdentity(std::int32_t pid) {
-  const std::uint64_t stamp = CurrentStartStamp(*mFiles, pid);
-  if (stamp == 0) return std::nullopt;
-  return ProcessIdentity{pid, stamp};
+  const FileDescriptor file = OpenStat(pid);
+  const auto bytes = file.IsOpen() ? mFiles->Read(file.Get(), mBuffer) : 0;
+  const auto stat = ParseProcStat(BufferText(bytes));
+  if (!stat || stat->pid != pid) return std::nullopt;
+  return ProcessIdentity{pid, stat->startStamp};
+}
+
+std::optional<ProcessFigures> LinuxProcessTable::FiguresOf(const ProcessTableEntry& entry) {
+  ProcessFigures figures;
+  if (entry.pid == 0) {
+    const auto ticks = ParseIdleTicks(mFiles->ReadText("stat"));
+    if (!ticks) return std::nullopt;
+    figures.userTime = TimeOf(ticks->idle);
+    figures.systemTime = TimeOf(ticks->waiting);
+    return figures;
+  }
+  const auto place = static_cast<std::size_t>(&entry - mPass.entries.data());
+  const auto bytes = ReadStat(entry.pid, mPass.known.at(place));
+  const auto stat = ParseProcStat(BufferText(bytes));
+  if (!stat || stat->startStamp != entry.startStamp) return std::nullopt;
+  const auto usage = ParseProcUsage(*stat);
+  if (!usage) return std::nullopt;
+  figures.userTime = TimeOf(usage->userTicks);
+  figures.systemTime = TimeOf(usage->systemTicks);
+  figures.virtualSize = static_cast<std::int64_t>(usage->virtualSize);
+  figures.residentSize = static_cast<std::int64_t>(usage->residentPages * mPageSize);
+  figures.suspendCount = stat->state == 'T' || stat->state == 't';
+  figures.policy = static_cast<std::int32_t>(usage->policy);
+  figures.faults = static_cast<std::int64_t>(usage->minorFaults + usage->majorFaults);
+  figures.pageins = static_cast<std::int64_t>(usage->majorFaults);
+  return figures;
 }
 
 /// A process of the last pass that is not listed any more.
@@ -158,8 +199,7 @@ std::optional<ProcessTableEntry> LinuxProcessTable::ReadEntry(std::int32_t pid,
   known.mark.reset();
   const std::ptrdiff_t bytes = ReadStat(pid, known);
   if (bytes < 0 && before != nullptr && IsShortage(errno)) return *before;
-  const auto stat =
-      bytes <= 0 ? std::nullopt : ParseProcStat({mBuffer.data(), static_cast<std::size_t>(bytes)});
+  const auto stat = ParseProcStat(BufferText(bytes));
   if (!stat || stat->pid != pid) {
     Forget(known);
     return std::nullopt;
@@ -183,6 +223,11 @@ void LinuxProcessTable::ReadOrphansAgain() {
     const auto mark = mFiles->Mark(entry.pid);
     if (const auto again = ReadEntry(entry.pid, mark, mPass.known[i], &entry)) entry = *again;
   }
+}
+
+/// What was read, empty after a failure.
+std::string_view LinuxProcessTable::BufferText(std::ptrdiff_t bytes) const {
+  return {mBuffer.data(), bytes > 0 ? static_cast<std::size_t>(bytes) : 0};
 }
 
 /// Reads the kept file, else a newly opened one, which is then kept if there is room. Negative with
@@ -240,7 +285,7 @@ ProcessTableEntry LinuxProcessTable::MakeEntry(const ProcStat& stat, Known& know
   entry.pid = stat.pid;
   entry.parentPid = stat.parentPid;
   entry.startStamp = stat.startStamp;
-  entry.startTime = CalendarTime(stat.startStamp);
+  entry.startTime = mBootTime + TimeOf(stat.startStamp);
   entry.priority = stat.priority;
   entry.nice = stat.nice;
   entry.state = StateOf(stat.state);
@@ -264,18 +309,36 @@ void LinuxProcessTable::Name(const ProcStat& stat, Known& known, const ProcessTa
     known.following = '\0';
     known.namings = 0;
   }
-  if (known.following == '\0' && known.namings < kNamings) {
-    ++known.namings;
-    known.following = ReadFollowingCharacter(*mFiles, stat.pid, stat.startStamp,
-                                             {known.kernelName.data(), known.kernelName.size()});
-  }
+  if (known.following == '\0' && known.namings < kNamings &&
+      mNames.Ask(stat.pid, stat.startStamp, {known.kernelName.data(), known.kernelName.size()}))
+    mUnnamed.push_back(stat.pid);
   entry.commandName[kKernelNameLength] = known.following;
 }
 
-TimeValue LinuxProcessTable::CalendarTime(std::uint64_t startStamp) const {
-  const auto ticks = startStamp % mTicksPerSecond;
-  return mBootTime + TimeValue{static_cast<std::int64_t>(startStamp / mTicksPerSecond),
-                               static_cast<std::int32_t>(ticks * 1'000'000 / mTicksPerSecond)};
+void LinuxProcessTable::CompleteNames() {
+  if (mUnnamed.empty()) return;
+  std::sort(mUnnamed.begin(), mUnnamed.end());
+  mUnnamed.erase(std::unique(mUnnamed.begin(), mUnnamed.end()), mUnnamed.end());
+  mNames.WaitBriefly();
+  for (const std::int32_t pid : mUnnamed) {
+    const auto entry = std::ranges::lower_bound(mPass.entries, pid, {}, &ProcessTableEntry::pid);
+    if (entry == mPass.entries.end() || entry->pid != pid) continue;
+    Known& known = mPass.known[static_cast<std::size_t>(entry - mPass.entries.begin())];
+    if (const auto following = mNames.Take(pid, entry->startStamp)) {
+      ++known.namings;
+      entry->commandName[kKernelNameLength] = known.following = *following;
+    } else {
+      // Read in full in the next pass, which may have it.
+      known.mark.reset();
+    }
+  }
+  mNames.DropAnswers();
+}
+
+TimeValue LinuxProcessTable::TimeOf(std::uint64_t ticks) const {
+  const auto rest = ticks % mTicksPerSecond;
+  return {static_cast<std::int64_t>(ticks / mTicksPerSecond),
+          static_cast<std::int32_t>(rest * 1'000'000 / mTicksPerSecond)};
 }
 
 void LinuxProcessTable::SetMaximumPid() {

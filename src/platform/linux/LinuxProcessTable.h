@@ -5,11 +5,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/ProcessTable.h"
 #include "platform/linux/CommandName.h"
 #include "platform/linux/FileDescriptor.h"
+#include "platform/linux/NameReader.h"
 #include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
@@ -24,6 +26,11 @@ struct ProcStat;
 /// back whenever an open fails for want of descriptors. A process that cannot be opened even then
 /// keeps its last entry, so that a shortage does not look like the end of processes.
 ///
+/// A listing that fails gives the entries of the last pass again, three times at most.
+///
+/// A name of full length appears short until its last character has been read, which takes place on
+/// a thread of its own and is mostly over within the same pass.
+///
 /// A process that has not run since its file was read, as its RunMark tells, keeps its last entry,
 /// too: most of them in most passes, at a third of the price. What changes without running is seen
 /// all the same: the scheduling class and the nice value are part of the mark, and the children of
@@ -34,7 +41,7 @@ class LinuxProcessTable final : public ProcessTable {
  public:
   /// `root` as in ProcFiles.
   explicit LinuxProcessTable(const std::string& root = "/proc");
-  explicit LinuxProcessTable(std::unique_ptr<ProcFiles> files);
+  explicit LinuxProcessTable(std::shared_ptr<ProcFiles> files);
 
   /// No entry is older than this many passes.
   static constexpr std::uint8_t kReadEvery = 8;
@@ -44,8 +51,8 @@ class LinuxProcessTable final : public ProcessTable {
   /// As of the last Read.
   std::int32_t MaximumPid() const override { return mMaximumPid; }
 
-  /// The process that has `pid` now, read afresh; nothing when there is none.
-  std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid);
+  std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
+  std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) override;
 
   /// How many stat files are open at present.
   std::size_t KeptDescriptors() const { return mKept; }
@@ -77,6 +84,7 @@ class LinuxProcessTable final : public ProcessTable {
   std::optional<ProcessTableEntry> ReadEntry(std::int32_t pid, const std::optional<RunMark>& mark,
                                              Known& known, const ProcessTableEntry* before);
   void ReadOrphansAgain();
+  std::string_view BufferText(std::ptrdiff_t bytes) const;
   std::ptrdiff_t ReadStat(std::int32_t pid, Known& known);
   FileDescriptor OpenStat(std::int32_t pid);
   bool GiveBackDescriptors();
@@ -85,15 +93,23 @@ class LinuxProcessTable final : public ProcessTable {
   ProcessTableEntry MakeEntry(const ProcStat& stat, Known& known, const ProcessTableEntry* before);
   void Name(const ProcStat& stat, Known& known, const ProcessTableEntry* before,
             ProcessTableEntry& entry);
-  TimeValue CalendarTime(std::uint64_t startStamp) const;
+  void CompleteNames();
+  std::span<const ProcessTableEntry> LastPassAgain();
+  TimeValue TimeOf(std::uint64_t ticks) const;
 
-  std::unique_ptr<ProcFiles> mFiles;
+  const std::shared_ptr<ProcFiles> mFiles;
+  NameReader mNames;
   TimeValue mBootTime;
   std::uint64_t mTicksPerSecond;
+  std::uint64_t mPageSize;
   std::int32_t mMaximumPid = 0;
   std::size_t mMostKept = 0;
   std::size_t mKept = 0;
   std::vector<std::int32_t> mPids;
+  /// How many listings have failed in a row.
+  int mFailures = 0;
+  /// Whose names have been asked for in this pass.
+  std::vector<std::int32_t> mUnnamed;
   /// Pids whose children may have another parent by now.
   std::vector<std::int32_t> mLostParents;
   Pass mPass;

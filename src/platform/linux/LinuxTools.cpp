@@ -7,32 +7,72 @@
 
 namespace lurkwell {
 
+/// A ps that runs, or an answer that was there already.
+class LinuxTools::Program final : public RunningTool {
+ public:
+  Program(LinuxTools& tools, ToolProcess process, bool isListing)
+      : mTools(tools), mProcess(std::move(process)), mIsListing(isListing) {}
+  Program(LinuxTools& tools, ToolOutput answer) : mTools(tools), mAnswer(std::move(answer)) {}
+  ~Program() override {
+    if (!mProcess || mProcess->Reap()) return;
+    mProcess->Kill();
+    if (!mProcess->Reap()) mTools.mLingering.push_back(mProcess->Abandon());
+  }
+
+  bool HasEnded() override {
+    if (mProcess && mProcess->IsRunning()) mProcess->Serve();
+    return !mProcess || !mProcess->IsRunning();
+  }
+
+  ToolOutput TakeOutput() override {
+    if (!mProcess) return std::move(mAnswer);
+    const auto output = mProcess->TakeOutput();
+    return mIsListing ? mTools.Keywords(output) : output;
+  }
+
+  ToolProcess* Process() { return mProcess ? &*mProcess : nullptr; }
+
+ private:
+  LinuxTools& mTools;
+  std::optional<ToolProcess> mProcess;
+  bool mIsListing = false;
+  ToolOutput mAnswer;
+};
+
 LinuxTools::~LinuxTools() {
   ReapLingering();
 }
 
-std::vector<ToolOutput> LinuxTools::Run(std::span<const std::string> commandLines,
-                                        std::chrono::milliseconds limit) {
-  const auto deadline = std::chrono::steady_clock::now() + limit;
+std::unique_ptr<RunningTool> LinuxTools::Start(const std::string& commandLine) {
   ReapLingering();
-  mTriedListing = false;
-
-  std::vector<ToolOutput> answers(commandLines.size());
-  std::vector<ToolProcess> processes;
-  std::vector<std::size_t> places;
-  for (std::size_t i = 0; i < commandLines.size(); ++i) {
-    const auto command = ParsePsCommand(commandLines[i]);
-    if (!command) continue;
-    if (command->kind == PsCommand::Kind::kColumn) {
-      processes.emplace_back(PsColumnArguments(command->keyword));
-      places.push_back(i);
-    } else {
-      answers[i] = AnswerFromListing(*command, deadline);
-    }
+  const auto command = ParsePsCommand(commandLine);
+  if (!command) return std::make_unique<Program>(*this, ToolOutput{});
+  switch (command->kind) {
+    case PsCommand::Kind::kColumn:
+      return StartProgram(PsColumnArguments(command->keyword), false);
+    case PsCommand::Kind::kKeywords:
+      if (mColumns.empty()) return StartProgram(PsListingArguments(), true);
+      return std::make_unique<Program>(*this, ToolOutput{KeywordLine(mColumns), true});
+    case PsCommand::Kind::kHeader:
+      break;
   }
-  Serve(processes, deadline);
-  for (std::size_t i = 0; i < places.size(); ++i) answers[places[i]] = processes[i].TakeOutput();
-  return answers;
+  return std::make_unique<Program>(
+      *this, ToolOutput{HeaderLine(mColumns, command->keyword), !mColumns.empty()});
+}
+
+std::unique_ptr<RunningTool> LinuxTools::StartProgram(const std::vector<std::string>& arguments,
+                                                      bool isListing) {
+  ToolProcess process(arguments);
+  if (!process.IsRunning()) return nullptr;
+  return std::make_unique<Program>(*this, std::move(process), isListing);
+}
+
+void LinuxTools::Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) {
+  const auto deadline = std::chrono::steady_clock::now() + limit;
+  std::vector<ToolProcess*> processes;
+  for (auto* tool : tools)
+    if (auto* process = static_cast<Program*>(tool)->Process()) processes.push_back(process);
+  ServeUntil(processes, deadline);
 }
 
 bool LinuxTools::StartInBackground(const std::vector<std::string>& arguments) {
@@ -44,24 +84,11 @@ int LinuxTools::Stat(const std::string& path) {
   return ::stat(path.c_str(), &status);
 }
 
-/// An incomplete listing is not kept; the next call tries again.
-ToolOutput LinuxTools::AnswerFromListing(const PsCommand& command, ToolProcess::Deadline deadline) {
-  if (mColumns.empty() && !mTriedListing) {
-    mTriedListing = true;
-    std::vector<ToolProcess> listing;
-    listing.emplace_back(PsListingArguments());
-    Serve(listing, deadline);
-    const auto output = listing.front().TakeOutput();
-    if (output.complete) mColumns = ParsePsListing(output.text);
-  }
+/// An incomplete listing is not kept; the next question for the keywords makes another.
+ToolOutput LinuxTools::Keywords(const ToolOutput& listing) {
+  if (listing.complete) mColumns = ParsePsListing(listing.text);
   if (mColumns.empty()) return {};
-  if (command.kind == PsCommand::Kind::kKeywords) return {KeywordLine(mColumns), true};
-  return {HeaderLine(mColumns, command.keyword), true};
-}
-
-void LinuxTools::Serve(std::span<ToolProcess> processes, ToolProcess::Deadline deadline) {
-  const auto left = ServeUntil(processes, deadline);
-  mLingering.insert(mLingering.end(), left.begin(), left.end());
+  return {KeywordLine(mColumns), true};
 }
 
 void LinuxTools::ReapLingering() {

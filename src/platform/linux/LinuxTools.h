@@ -7,26 +7,27 @@
 namespace lurkwell {
 
 /// The tools of a Linux system with procps. Of the ps command lines only those for a column run ps,
-/// as often as they are asked; the other two are answered from one listing of the columns, which is
-/// made when it is first needed and kept.
+/// as often as they are asked; the other two are answered from one listing of the columns, which
+/// the keywords' line asks ps for and which is kept once it was complete.
 class LinuxTools final : public Tools {
  public:
   LinuxTools() = default;
   ~LinuxTools() override;
 
-  std::vector<ToolOutput> Run(std::span<const std::string> commandLines,
-                              std::chrono::milliseconds limit) override;
+  std::unique_ptr<RunningTool> Start(const std::string& commandLine) override;
+  void Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) override;
   bool StartInBackground(const std::vector<std::string>& arguments) override;
   int Stat(const std::string& path) override;
 
  private:
+  class Program;
+
+  std::unique_ptr<RunningTool> StartProgram(const std::vector<std::string>& arguments,
+                                            bool isListing);
+  ToolOutput Keywords(const ToolOutput& listing);
   void ReapLingering();
-  ToolOutput AnswerFromListing(const PsCommand& command, ToolProcess::Deadline deadline);
-  void Serve(std::span<ToolProcess> processes, ToolProcess::Deadline deadline);
 
   std::vector<PsColumn> mColumns;
-  /// In this Run.
-  bool mTriedListing = false;
   /// Killed, but held by the kernel for the time being.
   std::vector<pid_t> mLingering;
 };

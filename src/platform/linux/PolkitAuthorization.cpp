@@ -33,9 +33,17 @@ bool IsRoot() {
   return ::geteuid() == 0;
 }
 
-bool IgnoresSetUserId(const std::string& folder) {
+/// What keeps programs in the folder from getting rights; empty when nothing does. The step looks
+/// at the same.
+std::string WhatForbidsRights(const std::string& folder) {
+  constexpr std::pair<unsigned long, const char*> kFlags[] = {
+      {ST_NOSUID, "nosuid"}, {ST_NOEXEC, "noexec"}, {ST_RDONLY, "read-only"}};
   struct statvfs system {};
-  return ::statvfs(folder.c_str(), &system) == 0 && (system.f_flag & ST_NOSUID) != 0;
+  std::string names;
+  if (::statvfs(folder.c_str(), &system) != 0) return names;
+  for (const auto& [flag, name] : kFlags)
+    if ((system.f_flag & flag) != 0) names += (names.empty() ? "" : ", ") + std::string(name);
+  return names;
 }
 
 /// Whether the child ended before the deadline; it is not collected. Without a handle, which costs
@@ -119,8 +127,9 @@ bool PolkitAuthorization::ExecuteWithPrivileges(AuthorizationReference&, const s
 
 /// Nobody is asked for a password that would be of no use.
 bool PolkitAuthorization::MayStart(const std::string& folder, bool isStep) {
-  if (isStep && IgnoresSetUserId(folder))
-    return Fail("the file system of " + folder + " gives programs no rights (nosuid)");
+  const std::string forbidden = isStep ? WhatForbidsRights(folder) : std::string();
+  if (!forbidden.empty())
+    return Fail("the file system of " + folder + " gives programs no rights (" + forbidden + ")");
   if (IsRoot()) return true;
   if (mConsent == Consent::kOnlyIfGiven) return Fail("it does not ask for a password here");
   if (::access(mPkexec.c_str(), X_OK) != 0) return Fail("there is no " + mPkexec);

@@ -13,8 +13,9 @@
 namespace lurkwell {
 
 /// The few ways in which the process table touches the proc file system; virtual, so that a test
-/// can make processes vanish between any two of them. Main thread only. A failed open gives no
-/// descriptor and leaves errno; a failed read gives -1 and leaves errno.
+/// can make processes vanish between any two of them. Main thread only, but for OpenFolder, ReadIn
+/// and ReadLinkIn. A failed open gives no descriptor and leaves errno; a failed read gives -1 and
+/// leaves errno.
 class ProcFiles {
  public:
   /// `root` is "/proc" or a made-up tree of the same shape. A root that cannot be opened makes
@@ -27,6 +28,9 @@ class ProcFiles {
   /// An open file or folder of a process goes on meaning that very process, and fails once it has
   /// ended, whatever becomes of its pid. True of the kernel's tree, not of a made-up one.
   virtual bool FollowsProcesses() const { return mIsKernelTree; }
+
+  /// Whether no access can ever hang. What a process has mapped into its arguments can.
+  virtual bool NeverBlocks() const { return false; }
 
   /// Replaces `pids` by all that are listed, in the order of the listing. False when the root
   /// cannot be read.

@@ -51,7 +51,8 @@ std::optional<ProcStat> ParseProcStat(std::string_view text) {
   // priority (18), the nice value (19) and the start (22).
   const auto behind = text.substr(close + 1);
   if (behind.empty() || behind.front() != ' ') return std::nullopt;
-  Fields fields(behind.substr(1));
+  stat.fields = behind.substr(1);
+  Fields fields(stat.fields);
   const auto state = fields.Next();
   if (state.size() != 1) return std::nullopt;
   stat.state = state.front();
@@ -61,6 +62,34 @@ std::optional<ProcStat> ParseProcStat(std::string_view text) {
   fields.Skip(2);
   if (!fields.Read(stat.startStamp)) return std::nullopt;
   return stat;
+}
+
+std::optional<ProcUsage> ParseProcUsage(const ProcStat& stat) {
+  // The faults (10 and 12) with those of children between them, the times (14, 15), the sizes (23,
+  // 24) and the policy (41).
+  ProcUsage usage;
+  Fields fields(stat.fields);
+  fields.Skip(7);
+  bool isWhole = fields.Read(usage.minorFaults);
+  fields.Skip(1);
+  isWhole = isWhole && fields.Read(usage.majorFaults);
+  fields.Skip(1);
+  isWhole = isWhole && fields.Read(usage.userTicks) && fields.Read(usage.systemTicks);
+  fields.Skip(7);
+  isWhole = isWhole && fields.Read(usage.virtualSize) && fields.Read(usage.residentPages);
+  fields.Skip(16);
+  if (!isWhole || !fields.Read(usage.policy)) return std::nullopt;
+  return usage;
+}
+
+std::optional<IdleTicks> ParseIdleTicks(std::string_view text) {
+  // Two blanks behind the name, then the times of users, nice ones, the system, and idle.
+  Fields fields(text);
+  if (fields.Next() != "cpu") return std::nullopt;
+  fields.Skip(4);
+  IdleTicks ticks;
+  if (!fields.Read(ticks.idle) || !fields.Read(ticks.waiting)) return std::nullopt;
+  return ticks;
 }
 
 std::optional<std::int32_t> ParsePid(std::string_view text) {

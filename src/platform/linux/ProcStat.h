@@ -17,12 +17,39 @@ struct ProcStat {
   std::int32_t nice = 0;
   /// The start in clock ticks since boot.
   std::uint64_t startStamp = 0;
+  /// Everything behind the name, in the parsed text, for ParseProcUsage.
+  std::string_view fields;
+};
+
+/// What the process has used, as the same file says it: times in clock ticks, the virtual size in
+/// bytes.
+struct ProcUsage {
+  std::uint64_t minorFaults = 0;
+  std::uint64_t majorFaults = 0;
+  std::uint64_t userTicks = 0;
+  std::uint64_t systemTicks = 0;
+  std::uint64_t virtualSize = 0;
+  std::uint64_t residentPages = 0;
+  std::uint32_t policy = 0;
+};
+
+/// How long all processors together had nothing to do, and how much of the rest they waited for
+/// input and output; in clock ticks.
+struct IdleTicks {
+  std::uint64_t idle = 0;
+  std::uint64_t waiting = 0;
 };
 
 /// Reads the text of a stat file. The name may hold blanks, brackets and newlines, so everything
 /// after it is counted from the last closing bracket. Nothing when a field that is asked for is
 /// missing or is no number of its width. Pure; any thread; looks at nothing beyond `text`.
 std::optional<ProcStat> ParseProcStat(std::string_view text);
+
+/// Nothing under the same conditions. As long as the text that `stat` was read from is there.
+std::optional<ProcUsage> ParseProcUsage(const ProcStat& stat);
+
+/// Reads the first line of the machine's own stat file.
+std::optional<IdleTicks> ParseIdleTicks(std::string_view text);
 
 /// A whole text as a decimal number without sign, blanks or leading zeros; nothing when it is none
 /// or does not fit. This is how the kernel writes the folder names of processes.

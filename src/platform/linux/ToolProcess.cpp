@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::size_t kMostOutput = 67'108'864;
 constexpr std::size_t kPiece = 65536;
-constexpr auto kPatienceAfterKill = std::chrono::milliseconds(100);
+// As much as a busy program may have us read at a time.
+constexpr int kMostPieces = 16;
 constexpr const char* kNullDevice = "/dev/null";
 
 /// What becomes of a program's descriptors and signals.
@@ -64,25 +65,6 @@ bool WaitForNews(std::vector<pollfd>& waits, ToolProcess::Deadline deadline) {
   const auto milliseconds = std::chrono::ceil<std::chrono::milliseconds>(left).count();
   const int limit = static_cast<int>(std::min<std::int64_t>(milliseconds, 60'000));
   return ::poll(waits.data(), waits.size(), limit) >= 0 || errno == EINTR;
-}
-
-/// Serves those that still have something to say until none is left or the deadline has come.
-void Serve(std::span<ToolProcess> processes, ToolProcess::Deadline deadline) {
-  std::vector<pollfd> waits;
-  std::vector<ToolProcess*> waiting;
-  for (;;) {
-    waits.clear();
-    waiting.clear();
-    for (auto& process : processes) {
-      if (!process.IsRunning() || process.WaitDescriptor() < 0) continue;
-      waits.push_back({process.WaitDescriptor(), POLLIN, 0});
-      waiting.push_back(&process);
-    }
-    if (waits.empty() || !WaitForNews(waits, deadline)) return;
-    for (std::size_t i = 0; i < waits.size(); ++i) {
-      if (waits[i].revents != 0) waiting[i]->Serve();
-    }
-  }
 }
 
 }  // namespace
@@ -133,12 +115,17 @@ void ToolProcess::Serve() {
 }
 
 void ToolProcess::ReadOutput() {
+  for (int pieces = 0; pieces < kMostPieces && mPipe.IsOpen() && ReadPiece(); ++pieces) continue;
+}
+
+/// False when there is nothing to be read at present.
+bool ToolProcess::ReadPiece() {
   std::string& text = mOutput.text;
   const std::size_t had = text.size();
   text.resize(had + kPiece);
   const auto bytes = ::read(mPipe.Get(), text.data() + had, kPiece);
   text.resize(had + static_cast<std::size_t>(std::max<ssize_t>(bytes, 0)));
-  if (bytes < 0 && (errno == EAGAIN || errno == EINTR)) return;
+  if (bytes < 0 && (errno == EAGAIN || errno == EINTR)) return false;
   mReachedEnd = bytes == 0;
   if (bytes <= 0) {
     mPipe.Close();
@@ -147,6 +134,7 @@ void ToolProcess::ReadOutput() {
     mPipe.Close();
     Kill();
   }
+  return true;
 }
 
 void ToolProcess::Kill() {
@@ -169,18 +157,22 @@ ToolOutput ToolProcess::TakeOutput() {
   return std::move(mOutput);
 }
 
-std::vector<pid_t> ServeUntil(std::span<ToolProcess> processes, ToolProcess::Deadline deadline) {
-  Serve(processes, deadline);
-  for (auto& process : processes) {
-    if (!process.Reap()) process.Kill();
+void ServeUntil(std::span<ToolProcess* const> processes, ToolProcess::Deadline deadline) {
+  std::vector<pollfd> waits;
+  std::vector<ToolProcess*> waiting;
+  for (;;) {
+    waits.clear();
+    waiting.clear();
+    for (auto* process : processes) {
+      if (!process->IsRunning() || process->WaitDescriptor() < 0) continue;
+      waits.push_back({process->WaitDescriptor(), POLLIN, 0});
+      waiting.push_back(process);
+    }
+    if (waits.empty() || !WaitForNews(waits, deadline)) return;
+    for (std::size_t i = 0; i < waits.size(); ++i) {
+      if (waits[i].revents != 0) waiting[i]->Serve();
+    }
   }
-  std::vector<pid_t> left;
-  const auto patience = std::chrono::steady_clock::now() + kPatienceAfterKill;
-  for (auto& process : processes) {
-    while (!process.Reap() && std::chrono::steady_clock::now() < patience) ::poll(nullptr, 0, 1);
-    if (process.IsRunning()) left.push_back(process.Abandon());
-  }
-  return left;
 }
 
 }  // namespace lurkwell

@@ -37,7 +37,7 @@ class ToolProcess {
   /// What is to be waited for next: the output, then the end. -1 when neither can be.
   int WaitDescriptor() const;
 
-  /// Takes in what has happened at WaitDescriptor; does not wait.
+  /// Takes in what has happened at WaitDescriptor, if anything has; does not wait.
   void Serve();
 
   /// Kills it if it still runs. The answer is then incomplete.
@@ -54,6 +54,7 @@ class ToolProcess {
 
  private:
   void ReadOutput();
+  bool ReadPiece();
 
   pid_t mPid = -1;
   FileDescriptor mPipe;
@@ -62,9 +63,7 @@ class ToolProcess {
   bool mReachedEnd = false;
 };
 
-/// Serves all of them until they have ended or the deadline has come, and kills those that have
-/// not. Gives the pids of children that the kernel has not let go of within a short while after
-/// that; they are to be collected later.
-std::vector<pid_t> ServeUntil(std::span<ToolProcess> processes, ToolProcess::Deadline deadline);
+/// Serves all of them until they have ended or the deadline has come.
+void ServeUntil(std::span<ToolProcess* const> processes, ToolProcess::Deadline deadline);
 
 }  // namespace lurkwell

@@ -62,6 +62,25 @@ void SimulatedProcessTable::Churn(std::size_t count) {
   }
 }
 
+std::optional<ProcessIdentity> SimulatedProcessTable::CurrentIdentity(std::int32_t pid) {
+  const auto* process = Find(pid);
+  if (process == nullptr) return std::nullopt;
+  return ProcessIdentity{pid, process->entry.startStamp};
+}
+
+std::optional<ProcessFigures> SimulatedProcessTable::FiguresOf(const ProcessTableEntry& entry) {
+  const auto* process = mTellsFigures ? Find(entry.pid) : nullptr;
+  if (process == nullptr) return std::nullopt;
+  return ProcessFigures{process->userTime,
+                        process->systemTime,
+                        process->virtualSize,
+                        process->residentSize,
+                        process->entry.state == RunState::kStopped ? 1 : 0,
+                        process->policy,
+                        process->events[0],
+                        process->events[1]};
+}
+
 std::span<const ProcessTableEntry> SimulatedProcessTable::Read() {
   mLog.Add("ProcessTable.Read");
   mSnapshot.clear();

@@ -32,12 +32,15 @@ struct SimulatedProcess {
 };
 
 /// The process table of a simulated machine: newest process first, the kernel's own entry last,
-/// pids up to 65535. It begins with pid 0, "kernel_task", and pid 1, "launchd", its child.
+/// pids up to 65535. Unless a test says otherwise, only the helper tells figures. It begins with
+/// pid 0, "kernel_task", and pid 1, "launchd", its child.
 class SimulatedProcessTable final : public ProcessTable {
  public:
   SimulatedProcessTable(Clock& clock, AccessLog& log);
 
   std::span<const ProcessTableEntry> Read() override;
+  std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
+  std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) override;
   std::int32_t MaximumPid() const override { return 65535; }
 
   SimulatedProcess& Birth(std::int32_t pid, std::string_view name, std::int32_t parent = 1);
@@ -53,6 +56,9 @@ class SimulatedProcessTable final : public ProcessTable {
   /// come round at the end of the range.
   void Churn(std::size_t count);
 
+  /// Whether everybody may read what processes have used.
+  void TellFigures(bool tells) { mTellsFigures = tells; }
+
   /// The next readings find nothing at all.
   void FailReadings(int count) { mFailures = count; }
 
@@ -66,6 +72,7 @@ class SimulatedProcessTable final : public ProcessTable {
   std::uint64_t mNextStamp = 1;
   std::int32_t mNextChurnPid = 100;
   int mFailures = 0;
+  bool mTellsFigures = false;
 };
 
 }  // namespace lurkwell

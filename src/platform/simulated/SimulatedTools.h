@@ -10,22 +10,20 @@
 
 namespace lurkwell {
 
-/// Tools with canned output: what is not scripted prints nothing.
+/// Tools with canned output, which end at once: what is not scripted prints nothing.
 class SimulatedTools final : public Tools {
  public:
   explicit SimulatedTools(AccessLog& log) : mLog(log) {}
 
-  std::vector<ToolOutput> Run(std::span<const std::string> commandLines,
-                              std::chrono::milliseconds) override {
-    std::vector<ToolOutput> outputs;
-    for (const auto& command : commandLines) {
-      mLog.Add("Tools.Run " + command);
-      const auto found = mOutputs.find(command);
-      outputs.push_back(
-          {found == mOutputs.end() ? "" : found->second, !mStuckCommands.contains(command)});
-    }
-    return outputs;
+  std::unique_ptr<RunningTool> Start(const std::string& command) override {
+    mLog.Add("Tools.Start " + command);
+    if (mIsShort) return nullptr;
+    const auto found = mOutputs.find(command);
+    return std::make_unique<Program>(ToolOutput{found == mOutputs.end() ? "" : found->second,
+                                                !mStuckCommands.contains(command)});
   }
+
+  void Await(std::span<RunningTool* const>, std::chrono::milliseconds) override {}
 
   bool StartInBackground(const std::vector<std::string>& arguments) override {
     std::string line = "Tools.StartInBackground";
@@ -43,7 +41,15 @@ class SimulatedTools final : public Tools {
     mOutputs[command] = std::move(text);
   }
   /// The command prints what it is said to print, but never comes to its end.
-  void SetStuck(const std::string& command) { mStuckCommands.insert(command); }
+  void SetStuck(const std::string& command, bool stuck = true) {
+    if (stuck) {
+      mStuckCommands.insert(command);
+    } else {
+      mStuckCommands.erase(command);
+    }
+  }
+  /// Whether nothing can be started.
+  void SetShort(bool isShort) { mIsShort = isShort; }
   void SetMissing(const std::string& path) { mMissingFiles.insert(path); }
   /// What happens when a program is started in the background; it succeeds unless told otherwise.
   void OnStart(std::function<bool(const std::vector<std::string>&)> starting) {
@@ -51,10 +57,21 @@ class SimulatedTools final : public Tools {
   }
 
  private:
+  class Program final : public RunningTool {
+   public:
+    explicit Program(ToolOutput output) : mOutput(std::move(output)) {}
+    bool HasEnded() override { return mOutput.complete; }
+    ToolOutput TakeOutput() override { return mOutput; }
+
+   private:
+    ToolOutput mOutput;
+  };
+
   AccessLog& mLog;
   std::map<std::string, std::string> mOutputs;
   std::set<std::string> mStuckCommands;
   std::set<std::string> mMissingFiles;
+  bool mIsShort = false;
   std::function<bool(const std::vector<std::string>&)> mStarting = [](const auto&) { return true; };
 };
 

@@ -1,0 +1,113 @@
+#include "consolidator/PSPrograms.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+#include "platform/PrintableText.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr int kLongestRest = 60;
+constexpr std::int64_t kMostMilliseconds = 1000;
+/// Each start takes the main thread about a millisecond.
+constexpr std::ptrdiff_t kMostAtATime = 8;
+constexpr double kSecondsBetweenLooks = 0.02;
+
+}  // namespace
+
+int GrowingRest::Begin(TimeValue now) {
+  mSeconds = std::min(mSeconds * 2, kLongestRest);
+  mEnd = now + TimeValue{mSeconds, 0};
+  return mSeconds;
+}
+
+bool PSPrograms::MayStart(std::string_view header, TimeValue now) const {
+  const auto rest = mRests.find(header);
+  if (rest != mRests.end() && !rest->second.IsOver(now)) return false;
+  return std::ranges::find(mRuns, header, &Run::header) == mRuns.end();
+}
+
+void PSPrograms::Start(std::string header, std::string commandLine) {
+  mRuns.push_back({std::move(header), std::move(commandLine), nullptr, {}});
+  StartWaiting(TheMachine().clock.Now());
+  if (mTimer != nullptr || mRuns.empty()) return;
+  mTimer = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kSecondsBetweenLooks,
+                                         kSecondsBetweenLooks, [this] { Serve(); });
+}
+
+void PSPrograms::StartWaiting(TimeValue now) {
+  auto running = std::ranges::count_if(mRuns, [](const Run& run) { return run.tool != nullptr; });
+  for (auto& run : mRuns) {
+    if (running >= kMostAtATime) return;
+    if (run.tool != nullptr) continue;
+    run.tool = TheMachine().tools.Start(run.commandLine);
+    if (run.tool == nullptr) {
+      // Others would fare no better. The next heartbeat tries again.
+      if (!std::exchange(mSaidNothingStarts, true))
+        std::fputs("lurkwell: ps cannot be started; trying again with each update\n", stderr);
+      std::erase_if(mRuns, [this](Run& waiting) {
+        if (waiting.tool == nullptr) mEnded.push_back({waiting.header, {}});
+        return waiting.tool == nullptr;
+      });
+      return;
+    }
+    mSaidNothingStarts = false;
+    run.deadline = AddMilliseconds(now, kMostMilliseconds);
+    ++running;
+  }
+}
+
+void PSPrograms::Serve() {
+  const TimeValue now = TheMachine().clock.Now();
+  std::erase_if(mRuns, [&](Run& run) {
+    if (run.tool == nullptr || (!run.tool->HasEnded() && now < run.deadline)) return false;
+    NoteEnd(run, now);
+    return true;
+  });
+  StartWaiting(now);
+  if (mRuns.empty()) mTimer.reset();
+}
+
+void PSPrograms::NoteEnd(Run& run, TimeValue now) {
+  mEnded.push_back({run.header, run.tool->TakeOutput()});
+  if (mEnded.back().printed.complete) {
+    mRests.erase(run.header);
+    return;
+  }
+  const int seconds = mRests[run.header].Begin(now);
+  std::fprintf(stderr, "lurkwell: ps did not finish the column %s; asking again in %d s\n",
+               PrintableText(run.header).c_str(), seconds);
+}
+
+void PSPrograms::Await(std::chrono::milliseconds limit) {
+  const TimeValue end = AddMilliseconds(TheMachine().clock.Now(), limit.count());
+  for (std::size_t before = mRuns.size() + 1; mRuns.size() < before;) {
+    before = mRuns.size();
+    std::vector<RunningTool*> tools;
+    for (const auto& run : mRuns)
+      if (run.tool != nullptr) tools.push_back(run.tool.get());
+    const auto left = MillisecondsBetween(TheMachine().clock.Now(), end);
+    if (tools.empty() || left <= 0) return;
+    TheMachine().tools.Await(tools, std::chrono::milliseconds(left));
+    Serve();
+  }
+}
+
+std::vector<PSPrograms::Output> PSPrograms::TakeEnded() {
+  if (!mRuns.empty()) Serve();
+  return std::exchange(mEnded, {});
+}
+
+void PSPrograms::Clear() {
+  mTimer.reset();
+  mRuns.clear();
+  mEnded.clear();
+  mRests.clear();
+  mSaidNothingStarts = false;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/RunLoop.h"
+#include "platform/TimeValue.h"
+#include "platform/Tools.h"
+
+namespace lurkwell {
+
+/// How long something that failed is left alone: 2 seconds, then twice as long each time, up to a
+/// minute.
+class GrowingRest {
+ public:
+  bool IsOver(TimeValue now) const { return now >= mEnd; }
+  /// The seconds of the rest that begins.
+  int Begin(TimeValue now);
+
+ private:
+  int mSeconds = 1;
+  TimeValue mEnd;
+};
+
+/// The runs of ps, one a column, that are under way between the heartbeats; a timer of the run loop
+/// reads what they print. A run may take a second. A column whose run took longer rests, and so
+/// standard error says. Main thread.
+class PSPrograms {
+ public:
+  struct Output {
+    std::string header;
+    ToolOutput printed;
+  };
+
+  /// Whether a run for the column may begin: none is under way, and it does not rest.
+  bool MayStart(std::string_view header, TimeValue now) const;
+
+  /// Starts it as soon as few enough run.
+  void Start(std::string header, std::string commandLine);
+
+  /// Serves them until all have ended, for `limit` at most.
+  void Await(std::chrono::milliseconds limit);
+
+  /// What has ended, has been given up or could not be started since the last call.
+  std::vector<Output> TakeEnded();
+
+  void Clear();
+
+ private:
+  struct Run {
+    std::string header;
+    std::string commandLine;
+    /// Null before its start and after its end.
+    std::unique_ptr<RunningTool> tool;
+    TimeValue deadline;
+  };
+
+  void Serve();
+  void StartWaiting(TimeValue now);
+  void NoteEnd(Run& run, TimeValue now);
+
+  /// In the order of their start; those without a tool wait for theirs.
+  std::vector<Run> mRuns;
+  std::vector<Output> mEnded;
+  std::map<std::string, GrowingRest, std::less<>> mRests;
+  bool mSaidNothingStarts = false;
+  std::unique_ptr<RunLoopTimer> mTimer;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,195 @@
+#include "platform/linux/NameReader.h"
+
+#include <signal.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <map>
+#include <mutex>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "platform/linux/CommandName.h"
+
+namespace lurkwell {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+/// Pid and start.
+using Key = std::pair<std::int32_t, std::uint64_t>;
+
+constexpr auto kMoment = 20ms;
+constexpr auto kLongestReading = 1s;
+constexpr auto kRest = 60s;
+constexpr std::size_t kMostQuestions = 1024;
+constexpr std::size_t kMostHangingReaders = 4;
+
+struct Question {
+  Key key;
+  std::array<char, kKernelNameLength> name{};
+  std::size_t length = 0;
+};
+
+struct Shelved {
+  Clock::time_point until;
+  bool hangs = true;
+};
+
+std::thread StartWithoutSignals(auto body) {
+  sigset_t all;
+  sigset_t before;
+  ::sigfillset(&all);
+  ::pthread_sigmask(SIG_SETMASK, &all, &before);
+  std::thread thread;
+  try {
+    thread = std::thread(std::move(body));
+  } catch (const std::system_error&) {
+    // Names stay short while the system has no thread to spare.
+  }
+  ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+  return thread;
+}
+
+}  // namespace
+
+/// What the main thread and the readers share; the last of them frees it.
+struct NameReader::Mailbox {
+  explicit Mailbox(std::shared_ptr<ProcFiles> itsFiles) : files(std::move(itsFiles)) {}
+
+  bool IsIdle() const { return questions.empty() && !reading; }
+
+  /// A reader of another generation than this one ends as soon as it can.
+  void GiveUpReader() {
+    ++generation;
+    reader.detach();
+    reading.reset();
+    news.notify_all();
+  }
+
+  const std::shared_ptr<ProcFiles> files;
+  std::mutex mutex;
+  std::condition_variable news;
+  std::deque<Question> questions;
+  std::map<Key, char> answers;
+  std::map<Key, Shelved> shelf;
+  /// What the reader reads, and since when.
+  std::optional<Key> reading;
+  Clock::time_point since;
+  unsigned generation = 0;
+  /// Main thread's.
+  std::thread reader;
+};
+
+NameReader::NameReader(std::shared_ptr<ProcFiles> files)
+    : mMailbox(std::make_shared<Mailbox>(std::move(files))) {}
+
+NameReader::~NameReader() {
+  auto& box = *mMailbox;
+  if (!box.reader.joinable()) return;
+  std::unique_lock lock(box.mutex);
+  box.questions.clear();
+  if (box.news.wait_for(lock, kMoment, [&] { return !box.reading; })) {
+    ++box.generation;
+    box.news.notify_all();
+    lock.unlock();
+    box.reader.join();
+  } else {
+    box.GiveUpReader();
+  }
+}
+
+bool NameReader::Ask(std::int32_t pid, std::uint64_t startStamp, std::string_view name) {
+  auto& box = *mMailbox;
+  const Key key{pid, startStamp};
+  if (box.files->NeverBlocks()) {
+    box.answers[key] = ReadFollowingCharacter(*box.files, pid, startStamp, name);
+    return true;
+  }
+  const std::lock_guard lock(box.mutex);
+  if (!EnsureReader()) return false;
+  if (const auto shelved = box.shelf.find(key); shelved != box.shelf.end()) {
+    if (shelved->second.hangs || Clock::now() < shelved->second.until) return false;
+    box.shelf.erase(shelved);
+  }
+  if (box.answers.contains(key) || box.reading == key ||
+      std::ranges::find(box.questions, key, &Question::key) != box.questions.end())
+    return true;
+  if (box.questions.size() >= kMostQuestions) return false;
+  Question question{key};
+  question.length = name.copy(question.name.data(), question.name.size());
+  box.questions.push_back(question);
+  box.news.notify_all();
+  return true;
+}
+
+/// Inside the mailbox. False when there is no reader to be had.
+bool NameReader::EnsureReader() {
+  auto& box = *mMailbox;
+  const auto now = Clock::now();
+  if (box.reading && now - box.since > kLongestReading) {
+    std::erase_if(box.shelf, [now](const auto& shelved) {
+      return !shelved.second.hangs && shelved.second.until <= now;
+    });
+    box.shelf[*box.reading] = {now + kRest};
+    box.GiveUpReader();
+  }
+  if (box.reader.joinable()) return true;
+  const auto hanging =
+      std::ranges::count_if(box.shelf, [](const auto& shelved) { return shelved.second.hangs; });
+  if (static_cast<std::size_t>(hanging) >= kMostHangingReaders) return false;
+  box.reader = StartWithoutSignals(
+      [mailbox = mMailbox, generation = box.generation] { Serve(mailbox, generation); });
+  return box.reader.joinable();
+}
+
+void NameReader::Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generation) {
+  auto& box = *mailbox;
+  std::unique_lock lock(box.mutex);
+  for (;;) {
+    box.news.wait(lock, [&] { return generation != box.generation || !box.questions.empty(); });
+    if (generation != box.generation) return;
+    const Question question = box.questions.front();
+    box.questions.pop_front();
+    box.reading = question.key;
+    box.since = Clock::now();
+    lock.unlock();
+    const char following =
+        ReadFollowingCharacter(*box.files, question.key.first, question.key.second,
+                               {question.name.data(), question.length});
+    lock.lock();
+    if (generation != box.generation) {
+      // Given up meanwhile.
+      if (const auto shelved = box.shelf.find(question.key); shelved != box.shelf.end())
+        shelved->second.hangs = false;
+      return;
+    }
+    box.reading.reset();
+    box.answers[question.key] = following;
+    if (box.questions.empty()) box.news.notify_all();
+  }
+}
+
+void NameReader::WaitBriefly() {
+  auto& box = *mMailbox;
+  std::unique_lock lock(box.mutex);
+  if (box.reading && Clock::now() - box.since > kMoment) return;
+  box.news.wait_for(lock, kMoment, [&] { return box.IsIdle(); });
+}
+
+std::optional<char> NameReader::Take(std::int32_t pid, std::uint64_t startStamp) {
+  const std::lock_guard lock(mMailbox->mutex);
+  const auto answer = mMailbox->answers.extract({pid, startStamp});
+  return answer ? std::optional(answer.mapped()) : std::nullopt;
+}
+
+void NameReader::DropAnswers() {
+  const std::lock_guard lock(mMailbox->mutex);
+  mMailbox->answers.clear();
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "platform/linux/ProcFiles.h"
+
+namespace lurkwell {
+
+/// Completes command names (see CommandName.h) on a thread of its own, because reading a command
+/// line reads the process's memory, which a hostile process can have mapped from a file that never
+/// answers. A process whose answer takes longer than a second is left alone for a minute, and for
+/// as long as its reader hangs; the reader is given up and another one started, a few times at
+/// most. Main thread.
+class NameReader {
+ public:
+  explicit NameReader(std::shared_ptr<ProcFiles> files);
+  /// Waits for no reader that hangs.
+  ~NameReader();
+  NameReader(const NameReader&) = delete;
+  NameReader& operator=(const NameReader&) = delete;
+
+  /// Asks for the character behind the kernel's name of a process, unless it has been asked for.
+  /// False when there will be no answer for now.
+  bool Ask(std::int32_t pid, std::uint64_t startStamp, std::string_view name);
+
+  /// Gives the answers a moment to come: 20 ms, and nothing while a reader hangs.
+  void WaitBriefly();
+
+  /// The answer, as ReadFollowingCharacter gives it, if it has come.
+  std::optional<char> Take(std::int32_t pid, std::uint64_t startStamp);
+
+  /// Forgets answers that nobody has taken.
+  void DropAnswers();
+
+ private:
+  struct Mailbox;
+
+  static void Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generation);
+  bool EnsureReader();
+
+  std::shared_ptr<Mailbox> mMailbox;
+};
+
+}  // namespace lurkwell
