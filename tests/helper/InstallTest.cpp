@@ -181,6 +181,10 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
     if (round % 20 == 0) {
       kill(swapper, SIGSTOP);
       ASSERT_TRUE(OnlyHelpersAreBlessed(home.path, bytes)) << round;
+      // Undisturbed it succeeds, whatever lies about.
+      unlink(home.copy.c_str());
+      Install(HelperPath(), home.copy, kUser, kUser, 0755);
+      EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0) << round;
       kill(swapper, SIGCONT);
     }
   }
@@ -188,7 +192,6 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
   WaitFor(swapper);
   EXPECT_TRUE(OnlyHelpersAreBlessed(home.path, bytes));
   EXPECT_EQ(done + refused, 500);
-  EXPECT_GT(done, 0);
   EXPECT_GT(refused, 0);
 }
 

@@ -156,7 +156,8 @@ TEST_F(ColumnsTest, AnotherInstanceMayHaveStoredFewerColumns) {
                  machine.screen,         machine.eventBus};
   const MachineInstallation sharedInstallation(shared);
   const auto stored = [&folder] {
-    const auto* value = PropertyListDomain(folder).Value("MAIN_WINDOW_COLUMNS");
+    PropertyListDomain domain(folder);
+    const auto* value = domain.Value("MAIN_WINDOW_COLUMNS");
     return value != nullptr ? std::get<PreferenceArray>(*value).size() : 0;
   };
   Open();
