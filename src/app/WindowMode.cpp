@@ -144,7 +144,8 @@ void ApplyTheme(CommandLine::Theme theme) {
   if (theme != CommandLine::Theme::kDark) return;
   // The style draws an empty box by its ground alone.
   auto boxes = DarkPalette();
-  boxes.setColor(QPalette::Base, QColor(124, 128, 136));
+  boxes.setColor(QPalette::Base, QColor(88, 92, 100));
+  boxes.setColor(QPalette::Text, Qt::white);
   for (const char* kind : {"QCheckBox", "QRadioButton"}) QApplication::setPalette(boxes, kind);
 }
 
