@@ -14,10 +14,6 @@ constexpr double kMostProcessors = 8192;
 /// Longer than any process runs; sums of such times stay numbers.
 constexpr std::int64_t kMostSeconds = std::int64_t{1} << 53;
 
-double Seconds(TimeValue time) {
-  return static_cast<double>(time.seconds) + time.microseconds / 1e6;
-}
-
 /// A share between 0 and 1, whatever the file says.
 double PreferredShare(const char* key, double usual) {
   const double share = GetPrefDouble(key, nullptr, true, usual);
@@ -35,7 +31,7 @@ void ClassicEstimate::MeasureEnvironment(ProcessIdentity process, TimeValue acti
     const auto elapsed = MillisecondsBetween(mPreviousMeasurement, now);
     // Two measurements within one millisecond say nothing.
     if (elapsed == 0) return;
-    const double consumed = Seconds(activeTime) - Seconds(mPreviousActiveTime);
+    const double consumed = SecondsBetween(mPreviousActiveTime, activeTime);
     // Clocks are set back, and times that were misread come right again.
     if (elapsed > 0 && consumed >= 0) {
       const double usage = consumed / (static_cast<double>(elapsed) / 1000.0);

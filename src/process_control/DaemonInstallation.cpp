@@ -20,11 +20,12 @@ constexpr auto kFolderMode = fs::perms::owner_all;
 constexpr auto kHelperMode = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec |
                              fs::perms::others_read | fs::perms::others_exec;
 
-/// Gives the copy its name, but never another's: a second instance may have been faster.
+/// Gives the copy its name, but never another's: a second instance may have been faster. A link
+/// that leads nowhere is nobody's.
 void TakeName(const fs::path& copy, const fs::path& name, std::error_code& error) {
   fs::create_hard_link(copy, name, error);
-  if (error == std::errc::file_exists) error.clear();
-  // Some file systems have no links.
+  if (error == std::errc::file_exists && fs::exists(name)) error.clear();
+  // Some file systems have no hard links.
   if (error && !fs::exists(name)) fs::rename(copy, name, error);
   std::error_code ignored;
   fs::remove(copy, ignored);

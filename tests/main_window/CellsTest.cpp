@@ -86,8 +86,7 @@ TEST_F(CellsTest, NumbersHaveAPointWhateverTheUsersLanguage) {
   const auto folder = std::filesystem::path(testing::TempDir()) / std::to_string(::getpid());
   std::filesystem::create_directory(folder);
   const auto locale = folder / "comma.UTF-8";
-  if (std::system(("localedef -i de_DE -f UTF-8 " + locale.string() + " 2>/dev/null").c_str()) != 0)
-    GTEST_SKIP() << "no locale with a comma can be made here";
+  ASSERT_EQ(std::system(("localedef -i de_DE -f UTF-8 " + locale.string()).c_str()), 0);
   ::setenv("LOCPATH", folder.c_str(), 1);
   ASSERT_NE(std::setlocale(LC_NUMERIC, "comma.UTF-8"), nullptr);
   ASSERT_STREQ(std::localeconv()->decimal_point, ",");

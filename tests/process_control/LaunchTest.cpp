@@ -157,6 +157,11 @@ TEST_F(LaunchTest, TheHelperIsInstalledOnceAndNeverReplaced) {
   std::filesystem::directory_iterator left(folder / "Support/Lurkwell");
   EXPECT_EQ(std::distance(begin(left), end(left)), 1) << "no temporary copies";
 
+  std::filesystem::remove(Helper());
+  std::filesystem::create_symlink("nowhere", Helper());
+  ASSERT_TRUE(EnsureThatDaemonIsInApplicationSupport(bundle.c_str(), path, sizeof path));
+  EXPECT_EQ(ReadFile(Helper()), "from the bundle") << "a link to nothing is no helper";
+
   EXPECT_DEATH(EnsureThatDaemonIsInApplicationSupport(bundle.c_str(), path,
                                                       static_cast<std::int32_t>(Helper().size())),
                "DaemonCommunication:[0-9]+: failed assertion `strlen.*capacity'");
