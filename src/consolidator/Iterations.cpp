@@ -1,6 +1,7 @@
 // The beginning and the end of a feeder's pass.
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
@@ -28,8 +29,9 @@ bool OwnedByKind(const MetaProcessInformation& record, int kind) {
 
 void DeriveActiveTime(MetaProcessInformation& record) {
   const PidBlock& block = *record.pidInfo;
-  record.activeTime =
+  const TimeValue time =
       (block.userTime + block.systemTime) + (block.terminatedUserTime + block.terminatedSystemTime);
+  if (std::exchange(record.activeTime, time) != time) record.NoteValueChange();
 }
 
 void DeriveName(MetaProcessInformation& record) {
@@ -37,6 +39,7 @@ void DeriveName(MetaProcessInformation& record) {
   if (std::strncmp(record.name, commandName, kCommandNameCapacity) == 0) return;
   if (record.name[0] != '\0' && record.carbonInfo == nullptr) record.changedAppreciably = true;
   StoreText(record.name, commandName);
+  record.NoteValueChange();
 }
 
 bool IsEnvironment(const MetaProcessInformation& record) {

@@ -47,6 +47,7 @@ class KernelPass {
   void ReportTableFigures(const ProcessTableEntry& entry, bool all) {
     const auto wanted = [&](const PropertyNeed& need) { return all || need.By(mNeeds); };
     PidReport report(entry.pid);
+    report.State(entry.state);
     if (wanted(mCommandName)) report.Text(mCommandName.Row(), entry.commandName);
     if (wanted(mPriority)) report.Integer(mPriority.Row(), entry.priority);
     report.Integer(mParentRow, entry.parentPid);

@@ -29,6 +29,11 @@ bool ClassicRecord::IsLike(const ClassicRecord& other) const {
   return traits(*this) == traits(other);
 }
 
+std::uint64_t MetaProcessInformation::NextChangeStamp() {
+  static std::uint64_t stamp = 0;
+  return ++stamp;
+}
+
 MetaProcessInformation::~MetaProcessInformation() {
   Require(icon == nullptr, kUnit, "!\"we don't (yet) delete icon information when we otter!\"");
 }

@@ -11,8 +11,10 @@
 
 #include "consolidator/PropertyTypes.h"
 #include "consolidator/TextScan.h"
+#include "consolidator/TypedValue.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/ProcessManager.h"
+#include "platform/ProcessTable.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
@@ -51,8 +53,11 @@ struct PidBlock {
   /// The kernel's stamp of the process's start, which tells it from a later holder of its pid; 0
   /// while the kernel's table has not named it.
   std::uint64_t startStamp = 0;
+  RunState runState = RunState::kSleeping;
   /// The iteration in which the CPU times came last.
   std::int32_t timesGeneration = 0;
+  /// Which of the figures above are figures.
+  ValueStates states;
 };
 
 /// What the desktop says of an application.
@@ -61,6 +66,8 @@ struct CarbonBlock {
   FourCharCode type{};
   FourCharCode signature{};
   std::uint32_t mode = 0;
+
+  bool operator==(const CarbonBlock&) const = default;
 };
 
 /// One application of the Classic environment as its event carries it, 396 bytes in the sender's
@@ -130,6 +137,16 @@ struct MetaProcessInformation {
   std::unique_ptr<CarbonBlock> carbonInfo;
   std::unique_ptr<PidBlock> pidInfo;
   std::unique_ptr<std::vector<PSValue>> psValues;
+
+  /// When any value became another one; see NoteValueChange. Never 0.
+  std::uint64_t changeStamp = NextChangeStamp();
+
+  /// To be called whenever a value of the record has become another one, so that whoever shows it
+  /// reads it again.
+  void NoteValueChange() { changeStamp = NextChangeStamp(); }
+
+ private:
+  static std::uint64_t NextChangeStamp();
 };
 
 /// Copies as much of `text` as fits into `dest` and terminates it.

@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <limits>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -28,62 +29,110 @@ std::int64_t AdjustedVirtualSize(std::int64_t reported) {
   return reported;
 }
 
-struct StoreFromText {
-  PidBlock& block;
-  PidReport& report;
-  const CatalogueRow& row;
-  std::string_view value;
+/// Puts a value into a field; whether it was another one.
+template <typename T>
+bool Put(T& field, T value) {
+  return std::exchange(field, value) != value;
+}
 
-  void operator()(std::monostate) const {}
-  void operator()(char (PidBlock::*field)[kCommandNameCapacity]) const {
-    StoreText(block.*field, value);
-  }
-  void operator()(TimeValue PidBlock::*field) const { block.*field = ReadTime(value); }
-  template <typename Integer>
-  void operator()(Integer PidBlock::*) const {
-    std::string_view rest = value;
-    const auto number = ScanInteger(rest);
-    // What does not fit is left out; what is no number at all counts as none.
-    if (!number && StartsWithNumber(rest)) return;
-    const bool isParent = row.field == PidField{&PidBlock::parentPid};
-    report.Integer(row, number.value_or(isParent ? kInvalidPID : 0));
-  }
-};
+bool PutText(char (&field)[kCommandNameCapacity], std::string_view value) {
+  if (WholeCharacters(value, kCommandNameCapacity - 1) == field) return false;
+  StoreText(field, value);
+  return true;
+}
 
+/// Whether the value was another one; nothing when it does not fit the field.
 struct StoreInteger {
   PidBlock& block;
   std::int64_t value;
 
   template <typename Field>
-  void operator()(Field field) const {
+  std::optional<bool> operator()(Field field) const {
     if constexpr (std::is_same_v<Field, std::int32_t PidBlock::*>) {
-      if (std::in_range<std::int32_t>(value)) block.*field = static_cast<std::int32_t>(value);
+      if (std::in_range<std::int32_t>(value))
+        return Put(block.*field, static_cast<std::int32_t>(value));
     } else if constexpr (std::is_same_v<Field, std::int64_t PidBlock::*>) {
       const bool isVirtualSize = field == &PidBlock::virtualSize;
-      block.*field = isVirtualSize ? AdjustedVirtualSize(value) : value;
+      return Put(block.*field, isVirtualSize ? AdjustedVirtualSize(value) : value);
     }
+    return std::nullopt;
   }
 };
 
-}  // namespace
+/// The same from a text.
+struct StoreFromText {
+  PidBlock& block;
+  const CatalogueRow& row;
+  std::string_view value;
 
-PidReport::PidReport(std::int32_t pid) {
+  std::optional<bool> operator()(std::monostate) const { return std::nullopt; }
+  std::optional<bool> operator()(char (PidBlock::*field)[kCommandNameCapacity]) const {
+    return PutText(block.*field, value);
+  }
+  std::optional<bool> operator()(TimeValue PidBlock::*field) const {
+    return Put(block.*field, ReadTime(value));
+  }
+  template <typename Integer>
+  std::optional<bool> operator()(Integer PidBlock::*) const {
+    std::string_view rest = value;
+    const auto number = ScanInteger(rest);
+    // What does not fit is left out; what is no number at all counts as none.
+    if (!number && StartsWithNumber(rest)) return std::nullopt;
+    const bool isParent = row.field == PidField{&PidBlock::parentPid};
+    return std::visit(StoreInteger{block, number.value_or(isParent ? kInvalidPID : 0)}, row.field);
+  }
+};
+
+struct Forget {
+  PidBlock& block;
+
+  bool operator()(std::monostate) const { return false; }
+  bool operator()(char (PidBlock::*field)[kCommandNameCapacity]) const {
+    return PutText(block.*field, {});
+  }
+  template <typename T>
+  bool operator()(T PidBlock::*field) const {
+    return Put(block.*field, T{});
+  }
+};
+
+MetaProcessInformation& Seen(std::int32_t pid) {
   auto& record = gRecords.GetPIDInformation(pid);
   Require(record.pidInfo != nullptr, kUnit, "mpi->pidInfo");
   record.lastSeenGeneration[kInformationKindPID] = gGenerationCount[kInformationKindPID];
-  mBlock = record.pidInfo.get();
+  return record;
+}
+
+}  // namespace
+
+PidReport::PidReport(std::int32_t pid) : mRecord(Seen(pid)), mBlock(*mRecord.pidInfo) {}
+
+void PidReport::NoteKnown(const CatalogueRow& row, bool changed) {
+  if (mBlock.states.SetKnown(PlaceOf(row)) || changed) mRecord.NoteValueChange();
 }
 
 void PidReport::Text(const CatalogueRow& row, std::string_view value) {
-  std::visit(StoreFromText{*mBlock, *this, row, value}, row.field);
+  if (const auto changed = std::visit(StoreFromText{mBlock, row, value}, row.field))
+    NoteKnown(row, *changed);
 }
 
 void PidReport::Integer(const CatalogueRow& row, std::int64_t value) {
-  std::visit(StoreInteger{*mBlock, value}, row.field);
+  if (const auto changed = std::visit(StoreInteger{mBlock, value}, row.field))
+    NoteKnown(row, *changed);
 }
 
 void PidReport::Time(const CatalogueRow& row, TimeValue value) {
-  if (const auto* field = std::get_if<TimeValue PidBlock::*>(&row.field)) mBlock->** field = value;
+  if (const auto* field = std::get_if<TimeValue PidBlock::*>(&row.field))
+    NoteKnown(row, Put(mBlock.**field, value));
+}
+
+void PidReport::State(RunState state) {
+  if (Put(mBlock.runState, state)) mRecord.NoteValueChange();
+}
+
+void PidReport::NoValue(const CatalogueRow& row, Missing why) {
+  const bool isOther = std::visit(Forget{mBlock}, row.field);
+  if (mBlock.states.SetMissing(PlaceOf(row), why) || isOther) mRecord.NoteValueChange();
 }
 
 bool NoteStartStamp(std::int32_t pid, std::uint64_t startStamp) {

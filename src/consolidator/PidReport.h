@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "consolidator/MetaProcessInformation.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "platform/TimeValue.h"
 
@@ -20,9 +21,16 @@ class PidReport {
   /// A number too large for the field is left out.
   void Integer(const CatalogueRow& row, std::int64_t value);
   void Time(const CatalogueRow& row, TimeValue value);
+  void State(RunState state);
+  /// There is no value, and why. What was known before is forgotten: its text is that of 0.
+  void NoValue(const CatalogueRow& row, Missing why);
 
  private:
-  PidBlock* mBlock;
+  /// The row has a value now, which `changed` from the one before or did not.
+  void NoteKnown(const CatalogueRow& row, bool changed);
+
+  MetaProcessInformation& mRecord;
+  PidBlock& mBlock;
 };
 
 /// Notes which process holds a pid by its start stamp. False when the record there belongs to an

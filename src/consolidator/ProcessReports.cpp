@@ -22,10 +22,13 @@ void StorePSValue(MetaProcessInformation& record, int headerIndex, const char* v
   if (record.psValues == nullptr) record.psValues = std::make_unique<std::vector<PSValue>>();
   for (auto& known : *record.psValues) {
     if (known.headerIndex != headerIndex) continue;
+    if (*known.text == value) return;
     *known.text = value;
+    record.NoteValueChange();
     return;
   }
   record.psValues->push_back({headerIndex, std::make_unique<std::string>(value)});
+  record.NoteValueChange();
 }
 
 void ReportPSColumn(std::int32_t pid, const char* keyword, const char* value) {
@@ -103,7 +106,9 @@ void ReportProcessInformationForCarbonPSN(ProcessSerialNumber psn, const char* p
   record->lastSeenGeneration[kInformationKindCarbonPSN] =
       gGenerationCount[kInformationKindCarbonPSN];
   Require(std::string_view(property).starts_with("carbonpsn_"), kUnit, "false");
+  const CarbonBlock before = *record->carbonInfo;
   StoreCarbonProperty(*record, property, value);
+  if (before != *record->carbonInfo) record->NoteValueChange();
 }
 
 void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::byte* bytes) {
@@ -120,6 +125,7 @@ void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::
   // Whoever shows an application has it from the desktop, often before its first report.
   if (!record.epir->IsLike(previous)) record.changedAppreciably = true;
   if (pid <= -2) gClassicEstimate.Charge(record);
+  record.NoteValueChange();
 }
 
 void TouchProcessInformationForPID(std::int32_t pid, int kind) {

@@ -14,8 +14,8 @@ constexpr bool kChanges = true;
 constexpr bool kStays = false;
 
 constexpr CatalogueRow Other(std::string_view name, PropertyType type, bool changes,
-                             PropertyRenderer render) {
-  return {name, type, changes, std::monostate{}, 0, render};
+                             PropertyRenderer render, TypedPropertyReader read = nullptr) {
+  return {name, type, changes, std::monostate{}, 0, render, read};
 }
 
 // Buffers hold the sign and ten digits of a 32-bit number and its terminator; a few rows differ.
@@ -23,14 +23,15 @@ constexpr std::size_t kUsualLength = 11;
 
 constexpr CatalogueRow Pid(std::string_view name, PropertyType type, bool changes, PidField field,
                            std::size_t minimumLength = kUsualLength) {
-  return {name, type, changes, field, minimumLength, nullptr};
+  return {name, type, changes, field, minimumLength, nullptr, nullptr};
 }
 
 constexpr std::array kRows = {
-    Other("meta_pid", kPropertyTypeInteger, kStays, RenderMetaPid),
+    Other("meta_pid", kPropertyTypeInteger, kStays, RenderMetaPid, ReadMetaPid),
     Other("meta_name", kPropertyTypeString, kChanges, RenderMetaName),
-    Other("meta_active_time", kPropertyTypeTime, kChanges, RenderMetaActiveTime),
-    Other("meta_kind", kPropertyTypeString, kChanges, RenderMetaKind),
+    Other("meta_active_time", kPropertyTypeTime, kChanges, RenderMetaActiveTime,
+          ReadMetaActiveTime),
+    Other("meta_kind", kPropertyTypeString, kChanges, RenderMetaKind, ReadMetaKind),
     Other("meta_psn", kPropertyTypeString, kStays, RenderMetaPsn),
     Other("carbonpsn_name", kPropertyTypeString, kStays, RenderCarbonName),
     Other("carbonpsn_type", kPropertyTypeString, kStays, RenderCarbonType),
@@ -41,9 +42,11 @@ constexpr std::array kRows = {
     Other("classicpsn_signature", kPropertyTypeString, kStays, RenderClassicSignature),
     Other("classicpsn_mode", kPropertyTypeInteger, kStays, RenderClassicMode),
     Other("classicpsn_location", kPropertyTypeInteger, kStays, RenderClassicLocation),
-    Other("classicpsn_size", kPropertyTypeInteger, kStays, RenderClassicSize),
-    Other("classicpsn_active_time", kPropertyTypeInteger, kChanges, RenderClassicActiveTime),
-    Other("classicpsn_free_mem", kPropertyTypeInteger, kChanges, RenderClassicFreeMemory),
+    Other("classicpsn_size", kPropertyTypeInteger, kStays, RenderClassicSize, ReadClassicSize),
+    Other("classicpsn_active_time", kPropertyTypeInteger, kChanges, RenderClassicActiveTime,
+          ReadClassicActiveTime),
+    Other("classicpsn_free_mem", kPropertyTypeInteger, kChanges, RenderClassicFreeMemory,
+          ReadClassicFreeMemory),
     Pid("pid_p_comm", kPropertyTypeString, kChanges, &PidBlock::commandName),
     Pid("pid_p_priority", kPropertyTypeInteger, kChanges, &PidBlock::priority, 6),
     Pid("pid_parent_pid", kPropertyTypeInteger, kStays, &PidBlock::parentPid, 6),
@@ -67,7 +70,7 @@ constexpr std::array kRows = {
     Pid("pid_syscalls_unix", kPropertyTypeInteger, kChanges, &PidBlock::unixSystemCalls),
     Pid("pid_csw", kPropertyTypeInteger, kChanges, &PidBlock::contextSwitches),
 };
-static_assert(kRows.size() == 38);
+static_assert(kRows.size() == 38 && kRows.size() <= ValueStates::kCapacity);
 
 /// FNV-1a; the key set is fixed, so that a table of 128 places built by the compiler does.
 constexpr std::size_t kPlaces = 128;
@@ -124,6 +127,10 @@ constexpr std::string_view kPSColumnsThatStay[] = {"PADDR", "PID", "PPID"};
 
 std::span<const CatalogueRow> BuiltInProperties() {
   return kRows;
+}
+
+std::size_t PlaceOf(const CatalogueRow& row) {
+  return static_cast<std::size_t>(&row - kRows.data());
 }
 
 const CatalogueRow* FindBuiltInProperty(std::string_view name) {

@@ -7,6 +7,7 @@
 
 #include "consolidator/MetaProcessInformation.h"
 #include "consolidator/PropertyTypes.h"
+#include "consolidator/TypedValue.h"
 
 namespace lurkwell {
 
@@ -44,6 +45,9 @@ using PidField =
 /// Writes a value that does not lie in the per-pid block; false leaves `dest` an empty text.
 using PropertyRenderer = bool (*)(const MetaProcessInformation& record, std::span<char> dest);
 
+/// The same as a value, of a record that has the part in which the property lies.
+using TypedPropertyReader = TypedValue (*)(const MetaProcessInformation& record);
+
 /// One built-in property: everything the program knows of it.
 struct CatalogueRow {
   std::string_view name;
@@ -52,9 +56,13 @@ struct CatalogueRow {
   PidField field;             ///< where a "pid_" value lies
   std::size_t minimumLength;  ///< the smallest buffer a "pid_" value is written to, in bytes
   PropertyRenderer render;    ///< all others
+  TypedPropertyReader read;   ///< of those, all that are no plain texts
 };
 
 std::span<const CatalogueRow> BuiltInProperties();
+
+/// The row's place among the built-in properties, from 0.
+std::size_t PlaceOf(const CatalogueRow& row);
 
 /// The row of a built-in property, or null. Constant time.
 const CatalogueRow* FindBuiltInProperty(std::string_view name);

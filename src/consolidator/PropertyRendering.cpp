@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "consolidator/PropertyCatalogue.h"
 #include "consolidator/TextScan.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
@@ -149,6 +150,41 @@ bool RenderClassicActiveTime(const MetaProcessInformation& record, std::span<cha
 bool RenderClassicFreeMemory(const MetaProcessInformation& record, std::span<char> dest) {
   Require(dest.size() > 10, kUnit, "valueLength > 10");
   return RenderInteger(dest, record.epir->FreeMemory());
+}
+
+TypedValue ReadMetaPid(const MetaProcessInformation& record) {
+  return std::int64_t{record.pid};
+}
+
+TypedValue ReadMetaActiveTime(const MetaProcessInformation& record) {
+  static const std::size_t kUserTime = PlaceOf(*FindBuiltInProperty("pid_user_time"));
+  const auto* block = record.pidInfo.get();
+  if (block != nullptr && !block->states.IsKnown(kUserTime)) return block->states.Why(kUserTime);
+  return record.activeTime;
+}
+
+TypedValue ReadMetaKind(const MetaProcessInformation& record) {
+  // Every kernel thread is a child of this one.
+  constexpr std::int32_t kKernelThreads = 2;
+  const auto* block = record.pidInfo.get();
+  if (block == nullptr) return record.pid <= -2 ? "Classic" : "Application";
+  if (block->runState == RunState::kZombie) return "Zombie";
+  if (!record.psn.IsNone()) return "Application";
+  const bool isKernels =
+      record.pid == 0 || record.pid == kKernelThreads || block->parentPid == kKernelThreads;
+  return isKernels ? "Kernel thread" : "Process";
+}
+
+TypedValue ReadClassicSize(const MetaProcessInformation& record) {
+  return std::int64_t{record.epir->Size()};
+}
+
+TypedValue ReadClassicActiveTime(const MetaProcessInformation& record) {
+  return std::int64_t{static_cast<std::int32_t>(record.epir->ActiveTime())};
+}
+
+TypedValue ReadClassicFreeMemory(const MetaProcessInformation& record) {
+  return std::int64_t{record.epir->FreeMemory()};
 }
 
 }  // namespace lurkwell

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "consolidator/MetaProcessInformation.h"
+#include "consolidator/TypedValue.h"
 
 namespace lurkwell {
 
@@ -33,5 +34,14 @@ bool RenderClassicLocation(const MetaProcessInformation& record, std::span<char>
 bool RenderClassicSize(const MetaProcessInformation& record, std::span<char> dest);
 bool RenderClassicActiveTime(const MetaProcessInformation& record, std::span<char> dest);
 bool RenderClassicFreeMemory(const MetaProcessInformation& record, std::span<char> dest);
+
+// The same as values, where they are no plain texts; see CatalogueRow::read.
+TypedValue ReadMetaPid(const MetaProcessInformation& record);
+TypedValue ReadMetaActiveTime(const MetaProcessInformation& record);
+/// In this desktop's words: Application, Process, Kernel thread, Zombie, Classic.
+TypedValue ReadMetaKind(const MetaProcessInformation& record);
+TypedValue ReadClassicSize(const MetaProcessInformation& record);
+TypedValue ReadClassicActiveTime(const MetaProcessInformation& record);
+TypedValue ReadClassicFreeMemory(const MetaProcessInformation& record);
 
 }  // namespace lurkwell

@@ -1,12 +1,19 @@
 #include "consolidator/PropertyValues.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyRendering.h"
+#include "consolidator/TextScan.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 
@@ -70,6 +77,80 @@ bool RenderProperty(const MetaProcessInformation& record, std::string_view name,
   return RenderPSColumn(record, name, dest);
 }
 
+struct ReadField {
+  const PidBlock& block;
+
+  TypedValue operator()(std::monostate) const { return Missing::kNone; }
+  TypedValue operator()(char (PidBlock::*field)[kCommandNameCapacity]) const {
+    return std::string(block.*field);
+  }
+  TypedValue operator()(TimeValue PidBlock::*field) const { return block.*field; }
+  template <typename Integer>
+  TypedValue operator()(Integer PidBlock::*field) const {
+    return std::int64_t{block.*field};
+  }
+};
+
+TypedValue ReadPidProperty(const PidBlock* block, const CatalogueRow& row) {
+  if (block == nullptr) return Missing::kNone;
+  const auto place = PlaceOf(row);
+  return block->states.IsKnown(place) ? std::visit(ReadField{*block}, row.field)
+                                      : TypedValue(block->states.Why(place));
+}
+
+/// With a point, whatever the user's language.
+TypedValue ReadReal(std::string_view text) {
+  double value = 0.0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return std::isfinite(value) ? value : 0.0;
+}
+
+TypedValue ReadPSText(PropertyType type, std::string_view text) {
+  if (text.ends_with('\n')) text.remove_suffix(1);
+  std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
+  if (type == kPropertyTypeReal) digits = digits.substr(0, digits.find('.'));
+  const bool isDecimal = !digits.empty() &&
+                         digits.find_first_not_of("0123456789") == std::string_view::npos &&
+                         (digits.size() == 1 || digits.front() != '0');
+  if (isDecimal && type == kPropertyTypeReal) return ReadReal(text);
+  if (isDecimal && (type == kPropertyTypeInteger || type == kPropertyTypeMemory)) {
+    if (const auto number = ScanInteger(text)) return *number;
+  }
+  return std::string(text);
+}
+
+TypedValue ReadPSColumn(const MetaProcessInformation& record, const char* name) {
+  // ps knows neither the idle task nor what is no process of the kernel's.
+  if (record.pid <= 0) return Missing::kNone;
+  const auto* header = gPSHeaders.Find(name);
+  if (header == nullptr || record.psValues == nullptr) return Missing::kNotYetKnown;
+  const auto value = std::ranges::find(*record.psValues, header->index, &PSValue::headerIndex);
+  if (value == record.psValues->end() || value->text == nullptr) return Missing::kNotYetKnown;
+  return ReadPSText(GetProcPropertyType(name, nullptr), *value->text);
+}
+
+bool HasPartOf(const MetaProcessInformation& record, std::string_view name) {
+  if (name.starts_with("carbonpsn_")) return record.carbonInfo != nullptr;
+  if (name.starts_with("classicpsn_")) return record.epir != nullptr;
+  return true;
+}
+
+TypedValue ReadProperty(const MetaProcessInformation& record, const char* name) {
+  const CatalogueRow* row = FindBuiltInProperty(name);
+  if (row == nullptr) return ReadPSColumn(record, name);
+  if (row->render == nullptr) return ReadPidProperty(record.pidInfo.get(), *row);
+  if (!HasPartOf(record, row->name)) return Missing::kNone;
+  if (row->read != nullptr) return row->read(record);
+  std::array<char, kNameCapacity> text{};
+  return row->render(record, text) ? TypedValue(std::string(text.data())) : Missing::kNone;
+}
+
+/// Null when there is none that clients see.
+const MetaProcessInformation* ValidRecord(std::int32_t pid) {
+  const auto* record = gRecords.GetExistingPIDInformation(pid);
+  return record != nullptr && record->valid ? record : nullptr;
+}
+
 }  // namespace
 
 bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::int32_t length,
@@ -78,17 +159,32 @@ bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::in
   RenderText(buffer, {});
   if (found != nullptr) *found = false;
   const ConsolidatorGuard guard;
-  const auto* record = gRecords.GetExistingPIDInformation(pid);
-  if (record == nullptr || !record->valid) return false;
+  const auto* record = ValidRecord(pid);
+  if (record == nullptr) return false;
   if (found != nullptr) *found = true;
   return RenderProperty(*record, name, buffer);
 }
 
+TypedValue GetPIDPropertyTypedValue(std::int32_t pid, const char* name) {
+  const ConsolidatorGuard guard;
+  const auto* record = ValidRecord(pid);
+  return record != nullptr ? ReadProperty(*record, name) : Missing::kNone;
+}
+
 std::optional<TimeValue> ActiveTimeOf(std::int32_t pid) {
   const ConsolidatorGuard guard;
-  const auto* record = gRecords.GetExistingPIDInformation(pid);
-  if (record == nullptr || !record->valid) return std::nullopt;
+  const auto* record = ValidRecord(pid);
+  if (record == nullptr) return std::nullopt;
   return record->activeTime;
+}
+
+ProcessGlance GlanceAt(std::int32_t pid) {
+  const ConsolidatorGuard guard;
+  const auto* record = ValidRecord(pid);
+  if (record == nullptr) return {};
+  const auto* block = record->pidInfo.get();
+  return {record->changeStamp, record->activeTime, block == nullptr || AreTimesRead(*record),
+          block != nullptr ? block->runState : RunState::kSleeping};
 }
 
 }  // namespace lurkwell

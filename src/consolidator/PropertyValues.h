@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "consolidator/TypedValue.h"
+#include "platform/ProcessTable.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
@@ -16,8 +18,27 @@ namespace lurkwell {
 bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::int32_t length,
                          bool* found);
 
-/// The CPU time of a process, "meta_active_time" without the text; nothing when there is no such
-/// process. Any thread.
+/// The same as a value, or why there is none; for a process that is not known, Missing::kNone. What
+/// GetPIDPropertyValue renders as a hexadecimal number is a text here too. A number of ps that is
+/// none ("-", a mask of signals) is ps's own text. Any thread.
+TypedValue GetPIDPropertyTypedValue(std::int32_t pid, const char* name);
+
+/// The CPU time of a process, "meta_active_time"; nothing when there is no such process. Any
+/// thread.
 std::optional<TimeValue> ActiveTimeOf(std::int32_t pid);
+
+/// What whoever shows many processes wants to know of each in every turn.
+struct ProcessGlance {
+  /// Another number than before when any value of the process is another one than before; 0 when
+  /// there is no such process.
+  std::uint64_t changeStamp = 0;
+  TimeValue activeTime;
+  /// See AreCPUTimesFresh.
+  bool timesAreFresh = false;
+  RunState runState = RunState::kSleeping;
+};
+
+/// Any thread; one look-up.
+ProcessGlance GlanceAt(std::int32_t pid);
 
 }  // namespace lurkwell

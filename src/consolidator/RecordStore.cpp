@@ -41,6 +41,7 @@ void RecordStore::SetSerialNumber(MetaProcessInformation& record, ProcessSerialN
   if (record.psn == psn) return;
   if (FindBySerialNumber(record.psn) == &record) mBySerialNumber.erase(record.psn);
   record.psn = psn;
+  record.NoteValueChange();
   if (!psn.IsNone()) mBySerialNumber[psn] = &record;
 }
 

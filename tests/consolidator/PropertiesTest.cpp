@@ -1,5 +1,6 @@
 // The catalogue, the texts of values, and what reports do to them.
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
 #include "support/ConsolidatorTest.h"
 
@@ -96,6 +97,40 @@ TEST_F(PropertiesTest, EveryFigureOfAKernelProcessIsShown) {
             "pid_terminated_system_time=0.600000\npid_policy=2\npid_faults=3000000000\n"
             "pid_pageins=11\npid_cow_faults=12\npid_messages_sent=13\npid_messages_received=14\n"
             "pid_syscalls_mach=15\npid_syscalls_unix=16\npid_csw=17\n");
+}
+
+TEST_F(PropertiesTest, ValuesComeAsValuesOrSayWhyThereAreNone) {
+  machine.processTable.Birth(321, "worker", 1).residentSize = 5'000'000'000;
+  machine.processTable.Birth(322, "ended", 1).entry.state = RunState::kZombie;
+  Start();
+  const auto value = [](const char* name) { return GetPIDPropertyTypedValue(321, name); };
+  Add("names", 1000).Needs({"pid_p_comm"});
+  machine.runLoop.RunFor(1'500);
+  EXPECT_EQ(value("pid_p_comm"), TypedValue("worker"));
+  EXPECT_EQ(value("pid_rsz"), TypedValue(Missing::kNotYetKnown));
+  EXPECT_EQ(value("meta_active_time"), TypedValue(Missing::kNotYetKnown));
+  EXPECT_EQ(Value(321, "pid_rsz"), "0");
+
+  Add("sizes", 1000).Needs({"pid_rsz", "meta_active_time"});
+  machine.runLoop.RunFor(1'500);
+  EXPECT_EQ(value("pid_rsz"), TypedValue(5'000'000'000));
+  EXPECT_EQ(value("meta_active_time"), TypedValue(TimeValue{}));
+  EXPECT_EQ(value("carbonpsn_name"), TypedValue(Missing::kNone));
+  EXPECT_EQ(value("meta_kind"), TypedValue("Process"));
+  EXPECT_EQ(GetPIDPropertyTypedValue(322, "meta_kind"), TypedValue("Zombie"));
+  EXPECT_EQ(GetPIDPropertyTypedValue(9, "pid_rsz"), TypedValue(Missing::kNone));
+
+  const auto stamp = [] { return GlanceAt(321).changeStamp; };
+  auto before = stamp();
+  machine.runLoop.RunFor(3'000);
+  EXPECT_EQ(stamp(), before) << "nothing has become another value";
+  PidReport(321).NoValue(*FindBuiltInProperty("pid_rsz"), Missing::kNotAllowed);
+  EXPECT_EQ(value("pid_rsz"), TypedValue(Missing::kNotAllowed));
+  EXPECT_EQ(Value(321, "pid_rsz"), "0");
+  EXPECT_NE(std::exchange(before, stamp()), stamp());
+  PidReport(321).Integer(*FindBuiltInProperty("pid_rsz"), 0);
+  EXPECT_EQ(value("pid_rsz"), TypedValue(std::int64_t{0}));
+  EXPECT_NE(stamp(), before);
 }
 
 TEST_F(PropertiesTest, ApplicationsCarryWhatTheDesktopAndTheClassicEnvironmentSay) {
