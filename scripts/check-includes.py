@@ -19,12 +19,12 @@ FLOORS = [
 # Know the interfaces of platform and nobody else; only main.cpp and the tests name them.
 MACHINES = {"platform/linux", "platform/desktop", "platform/simulated"}
 # Programs of their own.
-PROGRAMS = {"helper", "classic_nub"}
+PROGRAMS = {"helper", "permission_step", "classic_nub"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
 # The engine links without the toolkit.
 TOOLKIT = re.compile(r'^\s*#\s*include\s*<(Q[A-Za-z]+|Qt[A-Za-z]*/.*)>')
 WITHOUT_TOOLKIT = {"platform", "platform/linux", "platform/simulated", "preferences", "consolidator",
-                   "process_control", "helper"}
+                   "process_control", "helper", "permission_step"}
 
 
 def folder_of(path):
@@ -48,6 +48,8 @@ def may_include(file, folder, included):
     if folder == "classic_nub":
         # Speaks on the desktop's bus; of the kernel's it has handles, which are headers.
         return included in {"platform", "platform/desktop", "platform/linux"}
+    if folder == "permission_step":
+        return included == "helper"
     if folder in PROGRAMS or included in PROGRAMS:
         return False
     if included in MACHINES:

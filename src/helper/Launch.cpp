@@ -38,11 +38,11 @@ bool FindUser(std::string_view variable, uid_t& user) {
   return false;
 }
 
-bool ResetDescriptors(bool silent) {
+bool ResetDescriptors(Output output) {
   const int null = open("/dev/null", O_RDWR);
   if (null < 0) return false;
   for (int descriptor = 0; descriptor <= 2; ++descriptor)
-    if (descriptor != null && (silent || fcntl(descriptor, F_GETFD) < 0) &&
+    if (descriptor != null && (output == Output::kNone || fcntl(descriptor, F_GETFD) < 0) &&
         dup2(null, descriptor) < 0)
       return false;
   return syscall(SYS_close_range, 3, ~0u, 0) == 0;
@@ -77,8 +77,6 @@ void ResetLimits() {
 }  // namespace
 
 bool TakeArguments(int argc, char** argv, Arguments& arguments) {
-  arguments.setPermissions = argc == 2;
-  if (argc == 2) return std::strcmp(argv[1], "--set_permissions_appropriately") == 0;
   return argc == 3 && TakePath(argv[1], arguments.requests) && TakePath(argv[2], arguments.answers);
 }
 
@@ -89,12 +87,12 @@ uid_t TakeAskingUser() {
   return user;
 }
 
-bool ResetProcess(bool silent) {
+bool ResetProcess(Output output) {
   prctl(PR_SET_DUMPABLE, 0);
   ResetSignals();
   ResetLimits();
   umask(077);
-  return ResetDescriptors(silent);
+  return ResetDescriptors(output);
 }
 
 /// The arguments lie one behind the other, and their memory is what process lists show.

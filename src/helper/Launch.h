@@ -6,23 +6,25 @@
 
 namespace lurkwell::helper {
 
-/// The two forms in which the program is started.
+/// The paths of the two pipes.
 struct Arguments {
-  bool setPermissions = false;
   char requests[kLongestPath + 1];
   char answers[kLongestPath + 1];
 };
 
-/// Reads the arguments; false when they are of neither form. Touches nothing.
+/// Reads the arguments; false when they are not two such paths. Touches nothing.
 bool TakeArguments(int argc, char** argv, Arguments& arguments);
 
 /// The user for whom an administrator's tool started us, as the tool says in the environment;
 /// the real user where there is none or he is not root. Forgets the environment.
 uid_t TakeAskingUser();
 
-/// Leaves nothing as the caller had it: signals, timers, limits, umask, descriptors; no core, no
-/// tracing. Descriptors 0 to 2 lead to the null device when `silent` or when they were closed.
-bool ResetProcess(bool silent);
+/// Where descriptors 0 to 2 lead: all to the null device, or only those that were closed.
+enum class Output { kNone, kCallers };
+
+/// Leaves nothing else as the caller had it: signals, timers, limits, umask, descriptors; no core,
+/// no tracing.
+bool ResetProcess(Output output);
 
 /// Shows kCommandName in process lists; `argv` cannot be read afterwards.
 void NameProcess(int argc, char** argv);

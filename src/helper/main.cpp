@@ -13,7 +13,6 @@
 #include "helper/Confinement.h"
 #include "helper/Launch.h"
 #include "helper/OwnFile.h"
-#include "helper/PermissionStep.h"
 #include "helper/Session.h"
 
 #if __USE_FORTIFY_LEVEL < 2 || !defined(__SSP_STRONG__) || !defined(__PIE__)
@@ -87,8 +86,7 @@ int main(int argc, char** argv) {
   static Arguments arguments;
   if (!TakeArguments(argc, argv, arguments)) return kExitUsage;
   const uid_t asking = TakeAskingUser();
-  if (!ResetProcess(!arguments.setPermissions)) return kExitSystem;
-  if (arguments.setPermissions) return SetPermissions(asking);
+  if (!ResetProcess(Output::kNone)) return kExitSystem;
   NameProcess(argc, argv);
   return Run(arguments, asking);
 }

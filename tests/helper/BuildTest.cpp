@@ -15,13 +15,15 @@ std::string OutputOf(const std::string& command) {
 
 TEST(BuildTest, IsStaticPositionIndependentBoundAndHardened) {
   // What the compiler has to check besides is asked for in main.cpp, of the compiler.
-  const std::string file = OutputOf("readelf -hldsW " + HelperPath());
-  for (const char* part :
-       {"Type: +DYN ", "GNU_RELRO", "GNU_STACK [^\n]* RW ", "FLAGS_1[^\n]* NOW PIE"})
-    EXPECT_THAT(file, ::testing::ContainsRegex(part));
-  for (const char* part :
-       {"INTERP", "NEEDED", "RPATH", "RUNPATH", "TEXTREL", " RWE ", "__asan_init", "__cxa_throw"})
-    EXPECT_EQ(file.find(part), std::string::npos) << part;
+  for (const std::string& program : {HelperPath(), StepPath()}) {
+    const std::string file = OutputOf("readelf -hldsW " + program);
+    for (const char* part :
+         {"Type: +DYN ", "GNU_RELRO", "GNU_STACK [^\n]* RW ", "FLAGS_1[^\n]* NOW PIE"})
+      EXPECT_THAT(file, ::testing::ContainsRegex(part));
+    for (const char* part :
+         {"INTERP", "NEEDED", "RPATH", "RUNPATH", "TEXTREL", " RWE ", "__asan_init", "__cxa_throw"})
+      EXPECT_EQ(file.find(part), std::string::npos) << part;
+  }
 }
 
 /// Lines of sources and headers that hold more than a bracket, without comments and includes.

@@ -93,6 +93,10 @@ std::string HelperPath() {
   return LURKWELL_TEST_HELPER;
 }
 
+std::string StepPath() {
+  return LURKWELL_TEST_PERMISSIONS;
+}
+
 void Install(const std::string& program, const std::string& path, uid_t owner, gid_t group,
              mode_t mode) {
   std::filesystem::copy_file(program, path, std::filesystem::copy_options::overwrite_existing);

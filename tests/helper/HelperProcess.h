@@ -41,14 +41,15 @@ void BecomeUser(uid_t user);
 /// The wait status of `pid` as InChild gives it; kills it after `seconds`.
 int WaitFor(pid_t pid, int seconds = 30);
 
-/// The helper as the build made it.
+/// The helper and its permission step as the build made them, in one folder.
 std::string HelperPath();
+std::string StepPath();
 
 /// Makes a copy of `program` at `path` that belongs to `owner` and `group`.
 void Install(const std::string& program, const std::string& path, uid_t owner, gid_t group,
              mode_t mode);
 
-/// Runs the step that gives `folder`'s copy its rights, for `user`; its exit status.
+/// Runs the step `program` that gives `folder`'s copy its rights, for `user`; its exit status.
 int RunPermissionStep(const std::string& program, const std::string& folder, uid_t user);
 
 /// Runs a command that has to succeed.

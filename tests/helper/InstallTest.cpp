@@ -47,7 +47,7 @@ std::string EffectiveUser(uid_t user, const std::string& program) {
 TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
   const Home home(kUser);
   const struct stat before = home.Info();
-  ASSERT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0);
+  ASSERT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0);
   const struct stat after = home.Info();
   EXPECT_NE(after.st_ino, before.st_ino);
   EXPECT_EQ(after.st_uid, 0u);
@@ -61,21 +61,17 @@ TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
   EXPECT_EQ(helper.Act("renice " + std::to_string(foreign.Pid()) + " -19"), "ok");
   EXPECT_EQ(helper.Act("kill_harsh " + std::to_string(foreign.Pid())), "ok");
   // Once more over the file that it has made itself, and not by somebody who is no administrator.
-  EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0);
-  for (const uid_t user : {kUser, kStranger}) {
-    const Home other(user);
-    EXPECT_EQ(
-        InChild([&] {
-          if (chmod(home.data.Path().c_str(), 0755) != 0 || chmod(home.path.c_str(), 0755) != 0)
-            return 98;
-          if (setresgid(kUser, kUser, kUser) != 0 || setresuid(user, user, user) != 0) return 98;
-          if (chdir(other.path.c_str()) != 0) return 98;
-          execl(home.copy.c_str(), "h", "--set_permissions_appropriately", nullptr);
-          return 97;
-        }),
-        kRefused);
-    EXPECT_EQ(other.Info().st_uid, user);
-  }
+  EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0);
+  const Home other(kStranger);
+  EXPECT_EQ(InChild([&] {
+              BecomeUser(kStranger);
+              if (chdir(other.path.c_str()) != 0) return 98;
+              execl(StepPath().c_str(), "p", "--set_permissions_appropriately", nullptr);
+              return 97;
+            }),
+            kRefused);
+  EXPECT_EQ(other.Info().st_uid, kStranger);
+  EXPECT_EQ(InChild([] { return execl(StepPath().c_str(), "p", nullptr); }), 64);
 }
 
 TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
@@ -99,7 +95,7 @@ TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
     const Home home(kUser);
     Shell("A=" + home.data.Path() + " D=" + home.path + " L=" + home.copy + "; " + spoil);
     const struct stat before = home.Info();
-    EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), kRefused) << name;
+    EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), kRefused) << name;
     const struct stat after = home.Info();
     EXPECT_EQ(before.st_ino, after.st_ino) << name;
     EXPECT_EQ(before.st_mode, after.st_mode) << name;
@@ -107,9 +103,14 @@ TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
     EXPECT_FALSE(std::filesystem::exists(home.path + "/.Lurkwell_helper.new")) << name;
   }
   const Home home(kUser);
-  EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kStranger), kRefused) << "another's folder";
+  EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kStranger), kRefused) << "another's folder";
   // The user's copy cannot give rights to itself.
-  EXPECT_EQ(RunPermissionStep(home.copy, home.path, kUser), kRefused) << "itself";
+  Install(StepPath(), home.path + "/Lurkwell_permissions", 0, 0, 0755);
+  EXPECT_EQ(RunPermissionStep(home.path + "/Lurkwell_permissions", home.path, kUser), kRefused);
+  // A step without a helper beside it.
+  const Folder alone(0, 0755);
+  Install(StepPath(), alone / "Lurkwell_permissions", 0, 0, 0755);
+  EXPECT_EQ(RunPermissionStep(alone / "Lurkwell_permissions", home.path, kUser), kRefused);
   EXPECT_EQ(home.Info().st_uid, kUser);
 }
 
@@ -119,10 +120,10 @@ TEST(InstallTest, AFileSystemThatIgnoresTheRightsIsRefused) {
   for (const std::string flag : {"nosuid", "noexec", "ro"}) {
     const Home home(kUser);
     Shell("D=" + home.path + "; mount --bind $D $D && mount -o remount,bind," + flag + " $D");
-    EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), kRefused) << flag;
+    EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), kRefused) << flag;
     EXPECT_EQ(home.Info().st_uid, kUser);
     Shell("umount " + home.path);
-    EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0) << flag;
+    EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0) << flag;
   }
 }
 
@@ -175,7 +176,7 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
   if (swapper == 0) SwapForEver(home.path);
   int done = 0, refused = 0;
   for (int round = 0; round < 500; ++round) {
-    const int status = RunPermissionStep(HelperPath(), home.path, kUser);
+    const int status = RunPermissionStep(StepPath(), home.path, kUser);
     done += status == 0;
     refused += status == kRefused;
     if (round % 20 == 0) {
@@ -184,7 +185,7 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
       // Undisturbed it succeeds, whatever lies about.
       unlink(home.copy.c_str());
       Install(HelperPath(), home.copy, kUser, kUser, 0755);
-      EXPECT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0) << round;
+      EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0) << round;
       kill(swapper, SIGCONT);
     }
   }
@@ -202,7 +203,7 @@ TEST(InstallTest, AFileHeldOpenBeforeTheStepNeverBecomesTheHelper) {
     const int file = open(home.copy.c_str(), O_RDWR | O_CLOEXEC);
     void* const mapping = mmap(nullptr, 4096, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
     ASSERT_NE(mapping, MAP_FAILED);
-    ASSERT_EQ(RunPermissionStep(HelperPath(), home.path, kUser), 0);
+    ASSERT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0);
     std::memset(mapping, 'x', 4096);
     ASSERT_EQ(pwrite(file, "evil", 4, 5000), 4);
     munmap(mapping, 4096);
@@ -249,6 +250,7 @@ class PackagedTest : public ::testing::Test {
  protected:
   static constexpr char kFolder[] = LURKWELL_TEST_PACKAGE;
   const std::string mProgram = LURKWELL_TEST_PACKAGED_HELPER;
+  const std::string mStep = LURKWELL_TEST_PACKAGED_STEP;
   const std::string mList = std::string(kFolder) + "/helper-digests";
   const std::string mOther = std::string(64, 'a') + '\n';
 
@@ -268,7 +270,7 @@ class PackagedTest : public ::testing::Test {
 TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
   const std::string own = HexDigest(mProgram) + '\n';
   Home home(kUser, mProgram);
-  ASSERT_EQ(RunPermissionStep(mProgram, home.path, kUser), 0);
+  ASSERT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
   const auto keepsRights = [&] { return EffectiveUser(kUser, home.copy) == "0"; };
   ASSERT_TRUE(keepsRights());
   for (const std::string& list :
@@ -294,11 +296,11 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
 TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
   Home home(kUser, mProgram);
   WriteAll(home.copy, "an older version");
-  EXPECT_EQ(RunPermissionStep(mProgram, home.path, kUser), kRefused);
+  EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), kRefused);
   for (const char* mark : {"", "- "}) {
     WriteAll(home.copy, "an older version");
     WriteList(HexDigest(mProgram) + '\n' + mark + HexDigest(home.copy) + '\n');
-    EXPECT_EQ(RunPermissionStep(mProgram, home.path, kUser), 0);
+    EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
     EXPECT_EQ(ReadAll(home.copy), ReadAll(mProgram));
   }
   // A version that served is withdrawn: it serves no more, but a new one takes its place.
@@ -309,12 +311,16 @@ TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
   EXPECT_EQ(EffectiveUser(kUser, home.copy), "0");
   WriteList(own + "- " + older + older);
   EXPECT_EQ(EffectiveUser(kUser, home.copy), std::to_string(kUser));
-  EXPECT_EQ(RunPermissionStep(mProgram, home.path, kUser), 0);
+  EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
   EXPECT_EQ(EffectiveUser(kUser, home.copy), "0");
-  // The program that runs has to be root's.
-  const Folder folder(kUser, 0755);
-  Install(mProgram, folder / "twin", kUser, kUser, 0755);
-  EXPECT_EQ(RunPermissionStep(folder / "twin", home.path, kUser), kRefused);
+  // The helper that is copied has to be root's.
+  const Folder folder(0, 0755);
+  Install(mStep, folder / "Lurkwell_permissions", 0, 0, 0755);
+  for (const uid_t owner : {kUser, uid_t{0}}) {
+    Install(mProgram, folder / "Lurkwell_helper", owner, 0, 0755);
+    EXPECT_EQ(RunPermissionStep(folder / "Lurkwell_permissions", home.path, kUser),
+              owner == 0 ? 0 : kRefused);
+  }
 }
 
 }  // namespace

@@ -89,8 +89,7 @@ TEST(LaunchTest, ArgumentsOfNoKnownFormEndItBeforeItTouchesAnything) {
                                                    {"h", tooLong, "/b"},
                                                    {"h", "/a", tooLong},
                                                    {"h", "/a", '/' + std::string(131000, 'x')},
-                                                   {"h", "--set_permissions_appropriatel"},
-                                                   {"h", "--set_permissions_appropriately "}}) {
+                                                   {"h", "--set_permissions_appropriately"}}) {
     const Trace trace = Start(arguments, {});
     EXPECT_EQ(trace.status, 64);
     EXPECT_EQ(trace.calls, plain.calls) << (arguments.size() > 1 ? arguments[1].substr(0, 40) : "");

@@ -60,7 +60,7 @@ constexpr char kAlert[] =
     "administrator password. (Continue Without)\n";
 constexpr char kStep[] =
     "$/data/Lurkwell|--disable-internal-agent|--keep-cwd|"
-    "$/lib/lurkwell/Contents/Resources/Lurkwell_helper|--set_permissions_appropriately\n";
+    "$/lib/lurkwell/Contents/Resources/Lurkwell_permissions|--set_permissions_appropriately\n";
 
 TEST_F(RealLaunchTest, TheAdministratorGivesTheCopyItsRightsOnce) {
   AdministratorSays("yes");
@@ -100,6 +100,28 @@ TEST_F(RealLaunchTest, WithoutConsentTheHelperHasTheUsersRights) {
   std::filesystem::remove(Pkexec());
   EXPECT_EQ(Launched(), refused("there is no $/bin/pkexec"));
   EXPECT_EQ(ModeOf(Installed()), 0755u);
+}
+
+TEST_F(RealLaunchTest, NobodyIsAskedForAProgramThatOthersThanRootCanChange) {
+  AdministratorSays("yes");
+  const std::string resources = folder / "lib/lurkwell/Contents/Resources";
+  const std::string step = resources + "/Lurkwell_permissions";
+  const auto spoilt = [&](const std::function<void()>& spoil) {
+    spoil();
+    const std::string launched = Launched();
+    EXPECT_NE(launched.find("can be changed by others than root"), std::string::npos) << launched;
+    EXPECT_EQ(::chown(resources.c_str(), 0, 0), 0);
+    EXPECT_EQ(::chmod(resources.c_str(), 0755), 0);
+    EXPECT_EQ(::chown(step.c_str(), 0, 0), 0);
+  };
+  spoilt([&] { EXPECT_EQ(::chown(step.c_str(), kUser, kUser), 0); });
+  spoilt([&] { EXPECT_EQ(::chown(resources.c_str(), kUser, kUser), 0); });
+  spoilt([&] { EXPECT_EQ(::chmod(resources.c_str(), 0775), 0); });
+  // Root's folders lead to one that is not.
+  std::filesystem::rename(resources, folder / "real");
+  std::filesystem::create_directory_symlink(folder / "real", resources);
+  spoilt([&] { EXPECT_EQ(::chmod((folder / "real").c_str(), 0777), 0); });
+  EXPECT_EQ(Asked(), "");
 }
 
 TEST_F(RealLaunchTest, WhoMayNotAskAsksNobody) {

@@ -24,11 +24,12 @@ class RealMachine {
       : bundle(prefix + "/bin/lurkwell"),
         authorization(bundle, PolkitAuthorization::Consent::kMayAsk, prefix + "/bin/pkexec") {}
 
-  /// Puts the build's helper into the application's folder.
+  /// Puts the build's helper and its permission step into the application's folder.
   static void Install(const std::string& prefix) {
     const std::string resources = prefix + "/lib/lurkwell/Contents/Resources";
     std::filesystem::create_directories(resources);
     std::filesystem::copy_file(LURKWELL_TEST_HELPER, resources + "/Lurkwell_helper");
+    std::filesystem::copy_file(LURKWELL_TEST_PERMISSIONS, resources + "/Lurkwell_permissions");
   }
 
   SimulatedMachine simulated;

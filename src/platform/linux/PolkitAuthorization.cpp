@@ -3,6 +3,7 @@
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,6 +12,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <utility>
 
@@ -25,12 +27,34 @@ using std::chrono::steady_clock;
 constexpr auto kLongestStep = std::chrono::minutes(5);
 constexpr auto kLongestWaitForChild = std::chrono::seconds(2);
 constexpr char kHelper[] = "/Contents/Resources/Lurkwell_helper";
+constexpr char kPermissionStep[] = "/Contents/Resources/Lurkwell_permissions";
 // What pkexec itself ends with.
 constexpr int kDismissed = 126;
 constexpr int kNotAuthorized = 127;
 
 bool IsRoot() {
   return ::geteuid() == 0;
+}
+
+bool IsRootsAlone(const std::filesystem::path& path) {
+  struct stat info {};
+  if (::lstat(path.c_str(), &info) != 0 || info.st_uid != 0) return false;
+  // Names in a sticky folder can be exchanged by their owners alone; a link's mode says nothing.
+  const bool isSticky = S_ISDIR(info.st_mode) && (info.st_mode & S_ISVTX) != 0;
+  return S_ISLNK(info.st_mode) || isSticky || (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+/// Whether nobody but root can exchange the program or a folder on the way to it.
+bool BelongsToRoot(const std::string& program) {
+  std::error_code error;
+  const auto real = std::filesystem::canonical(program, error);
+  if (error) return false;
+  for (const auto& path : {std::filesystem::path(program), real}) {
+    std::filesystem::path reached;
+    for (const auto& part : path)
+      if (reached /= part; !IsRootsAlone(reached)) return false;
+  }
+  return true;
 }
 
 /// What keeps programs in the folder from getting rights; empty when nothing does. The step looks
@@ -116,22 +140,26 @@ bool PolkitAuthorization::ExecuteWithPrivileges(AuthorizationReference&, const s
   ReapEnded();
   const std::string folder = path.substr(0, path.rfind('/'));
   const bool isStep = arguments.size() == 1;
-  if (!MayStart(folder, isStep)) return false;
+  const std::string program = mBundle.Path() + (isStep ? kPermissionStep : kHelper);
+  if (!MayStart(program, folder, isStep)) return false;
   std::vector<std::string> all;
   // Without the question in the terminal: who started the program there may not even look at it.
   if (!IsRoot()) all = {mPkexec, "--disable-internal-agent", "--keep-cwd"};
-  all.push_back(mBundle.Path() + kHelper);
+  all.push_back(program);
   all.insert(all.end(), arguments.begin(), arguments.end());
   return Start(folder, all) && (!isStep || FinishStep());
 }
 
 /// Nobody is asked for a password that would be of no use.
-bool PolkitAuthorization::MayStart(const std::string& folder, bool isStep) {
+bool PolkitAuthorization::MayStart(const std::string& program, const std::string& folder,
+                                   bool isStep) {
   const std::string forbidden = isStep ? WhatForbidsRights(folder) : std::string();
   if (!forbidden.empty())
     return Fail("the file system of " + folder + " gives programs no rights (" + forbidden + ")");
   if (IsRoot()) return true;
   if (mConsent == Consent::kOnlyIfGiven) return Fail("it does not ask for a password here");
+  if (!BelongsToRoot(program))
+    return Fail(program + " can be changed by others than root; an installed package has one");
   if (::access(mPkexec.c_str(), X_OK) != 0) return Fail("there is no " + mPkexec);
   return true;
 }

@@ -11,9 +11,10 @@ namespace lurkwell {
 
 /// Programs run as root through pkexec, or directly when the user is root already.
 ///
-/// What the user owns is never run as root: whichever copy of the helper is asked for, the
-/// application's own one in Contents/Resources runs in its place, in the folder of the copy, with
-/// the same arguments.
+/// What the user owns is never run as root: whichever copy of the helper is asked for, a program of
+/// the application's own in Contents/Resources runs in its place, in the folder of the copy, with
+/// the same arguments: the helper, or for a step Lurkwell_permissions. Nobody is asked where that
+/// one could be changed by others than root.
 class PolkitAuthorization final : public Authorization {
  public:
   enum class Consent {
@@ -44,7 +45,7 @@ class PolkitAuthorization final : public Authorization {
   };
 
   bool Fail(std::string reason);
-  bool MayStart(const std::string& folder, bool isStep);
+  bool MayStart(const std::string& program, const std::string& folder, bool isStep);
   bool Start(const std::string& folder, const std::vector<std::string>& arguments);
   bool FinishStep();
   void ReapEnded();

@@ -1,4 +1,4 @@
-#include "helper/PermissionStep.h"
+#include "permission_step/PermissionStep.h"
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -16,7 +16,7 @@ namespace lurkwell::helper {
 namespace {
 
 constexpr int kExitNotPermitted = 77;
-constexpr char kCopyName[] = "Lurkwell_helper";
+constexpr char kHelperName[] = "Lurkwell_helper";
 constexpr char kFreshName[] = ".Lurkwell_helper.new";
 
 /// A descriptor that closes itself.
@@ -67,12 +67,31 @@ bool IsPlainCopy(const struct stat& info, uid_t user) {
   return S_ISREG(info.st_mode) && info.st_nlink == 1 && (info.st_uid == user || info.st_uid == 0);
 }
 
-/// Copies the program into a new file, whose bytes have to come out as `digest`, and only then
+/// The helper in this program's own folder, open for reading; negative when there is none, or, in a
+/// package, when somebody else than root may change it.
+int OpenTwin() {
+  char path[4096];
+  const ssize_t size = readlink("/proc/self/exe", path, sizeof path - 1);
+  if (size <= 0) return -1;
+  path[size] = '\0';
+  char* const slash = std::strrchr(path, '/');
+  if (slash == nullptr) return -1;
+  slash[1] = '\0';
+  const Descriptor folder(open(path, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  return OpenChecked(folder, kHelperName, O_RDONLY, 0, [](const struct stat& info, uid_t) {
+#ifdef LURKWELL_PACKAGED
+    if (info.st_uid != 0 || !IsOwnersAlone(info)) return false;
+#endif
+    return S_ISREG(info.st_mode);
+  });
+}
+
+/// Copies the helper into a new file, whose bytes have to come out as `digest`, and only then
 /// gives it to root with the right to run as root.
-bool WriteFresh(int program, int fresh, gid_t group, const Digest::Value& digest) {
+bool WriteFresh(int twin, int fresh, gid_t group, const Digest::Value& digest) {
   static std::uint8_t bytes[65536];
   for (off_t place = 0;;) {
-    const ssize_t size = pread(program, bytes, sizeof bytes, place);
+    const ssize_t size = pread(twin, bytes, sizeof bytes, place);
     if (size == 0) break;
     if (size < 0 || write(fresh, bytes, static_cast<std::size_t>(size)) != size) return false;
     place += size;
@@ -82,20 +101,20 @@ bool WriteFresh(int program, int fresh, gid_t group, const Digest::Value& digest
          fchmod(fresh, 04750) == 0 && fsync(fresh) == 0;
 }
 
-const char* Replace(int folder, int program, gid_t group, const Digest::Value& digest) {
+const char* Replace(int folder, int twin, gid_t group, const Digest::Value& digest) {
   unlinkat(folder, kFreshName, 0);
   const Descriptor fresh(
       openat(folder, kFreshName, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
   if (fresh < 0) return "cannot write into the folder";
   struct stat mine, there;
-  if (!WriteFresh(program, fresh, group, digest) || fstat(fresh, &mine) != 0 ||
-      mine.st_nlink != 1 || renameat(folder, kFreshName, folder, kCopyName) != 0) {
+  if (!WriteFresh(twin, fresh, group, digest) || fstat(fresh, &mine) != 0 || mine.st_nlink != 1 ||
+      renameat(folder, kFreshName, folder, kHelperName) != 0) {
     fchmod(fresh, 0);
     unlinkat(folder, kFreshName, 0);
     return "cannot write the new file";
   }
   fsync(folder);
-  if (fstatat(folder, kCopyName, &there, AT_SYMLINK_NOFOLLOW) == 0 && IsSameFile(mine, there))
+  if (fstatat(folder, kHelperName, &there, AT_SYMLINK_NOFOLLOW) == 0 && IsSameFile(mine, there))
     return nullptr;
   fchmod(fresh, 0);
   return "the new file was exchanged on the way";
@@ -105,12 +124,9 @@ const char* Replace(int folder, int program, gid_t group, const Digest::Value& d
 const char* Bless(uid_t user) {
   // Whoever runs a copy that has rights already is not an administrator for that.
   if (getuid() != 0 || geteuid() != 0) return "this needs an administrator's rights";
-  const Descriptor program(OpenOwnFile());
+  const Descriptor twin(OpenTwin());
   struct stat own, info, copyInfo;
-  if (fstat(program, &own) != 0) return "cannot read the program's own file";
-#ifdef LURKWELL_PACKAGED
-  if (own.st_uid != 0 || !IsOwnersAlone(own)) return "the program's own file is not root's alone";
-#endif
+  if (fstat(twin, &own) != 0) return "there is no helper of root's alone beside this program";
   const Descriptor folder(open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   // Who could move the copy into a folder of his own would be served there.
   if (fstat(folder, &info) != 0 || info.st_uid != user || !IsOwnersAlone(info) ||
@@ -119,14 +135,14 @@ const char* Bless(uid_t user) {
   struct statvfs system;
   if (fstatvfs(folder, &system) != 0 || (system.f_flag & (ST_NOSUID | ST_RDONLY | ST_NOEXEC)) != 0)
     return "the folder's file system does not allow programs with other rights";
-  const Descriptor copy(OpenChecked(folder, kCopyName, O_RDONLY, user, IsPlainCopy));
+  const Descriptor copy(OpenChecked(folder, kHelperName, O_RDONLY, user, IsPlainCopy));
   if (fstat(copy, &copyInfo) != 0) return "the copy is not a plain file of the user's or root's";
   if (IsSameFile(copyInfo, own)) return "the copy cannot give rights to itself";
   Digest::Value digest, copyDigest;
-  if (!DigestOfFile(program, digest) || !DigestOfFile(copy, copyDigest) ||
+  if (!DigestOfFile(twin, digest) || !DigestOfFile(copy, copyDigest) ||
       (copyDigest != digest && FindVersion(copyDigest) == Version::kUnknown))
-    return "the copy is no known version of this program";
-  return Replace(folder, program, info.st_gid, digest);
+    return "the copy is no known version of the helper";
+  return Replace(folder, twin, info.st_gid, digest);
 }
 
 }  // namespace
@@ -136,7 +152,7 @@ int SetPermissions(uid_t user) {
   if (reason == nullptr) return 0;
   char buffer[160];
   TextWriter line(buffer, sizeof buffer);
-  line.Add("Lurkwell_helper: ");
+  line.Add("Lurkwell_permissions: ");
   line.Add(reason);
   line.Add('\n');
   return write(STDERR_FILENO, line.Text().data(), line.Size()) < 0 ? kExitNotPermitted + 1
