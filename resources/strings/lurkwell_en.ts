@@ -2583,6 +2583,14 @@ Free: %5</translation>
         <source></source>
         <translation>Page of the preferences window that was shown last, counted from 0.</translation>
     </message>
+    <message id="setting_ABOUT_PANEL_AT_EVERY_START">
+        <source></source>
+        <translation>Show the about panel for three seconds at every start, not only at the first one of a version.</translation>
+    </message>
+    <message id="setting_ABOUT_PANEL_SEEN_VERSION">
+        <source></source>
+        <translation>Version whose about panel has been shown at the start.</translation>
+    </message>
     <message id="setting_MAIN_WINDOW_INTERVAL">
         <source></source>
         <translation>Time between two updates of the main window's table.</translation>
@@ -2797,7 +2805,7 @@ Free: %5</translation>
     </message>
     <message id="setting_HEARTQUIVA_ICON_SCALE_FACTOR">
         <source></source>
-        <translation>Size of the busiest process's icon in the animated view, in points.</translation>
+        <translation>Scale of the icons in the animated view: an icon's side, in points, is its process's weight (0.5 at rest, 2.9 at one whole processor) times half of this.</translation>
     </message>
     <message id="setting_QUIVA_FULLSCREEN_EXTRA_SCALE_FACTOR">
         <source></source>
@@ -2809,7 +2817,7 @@ Free: %5</translation>
     </message>
     <message id="setting_QUINT_TARVIK_FACTOR">
         <source></source>
-        <translation>Addition to every process's weight in the animated view; none without a value.</translation>
+        <translation>How many times its real activity Lurkwell itself and its helper count with in the animated view; as it is without a value.</translation>
     </message>
     <message id="setting_FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE">
         <source></source>

@@ -14,7 +14,7 @@ Watches the processes of this machine.
   --theme THEME        light, dark, or system: what the desktop has
   --screenshot FILE    write a picture of a window (PNG) after two updates and end;
                        works without a display, too
-  --window NAME        which window (with --screenshot): main, history, logging,
+  --window NAME        which window (with --screenshot only): main, history, logging,
                        preferences, settings, animated or about; history and
                        logging follow lurkwell itself; animated needs a display
   --new-instance       start another instance; without it, one that is running comes
@@ -56,6 +56,7 @@ class Reader {
       if (equals != std::string_view::npos) mValue = argument.substr(equals + 1);
       if (!ReadOption()) return std::nullopt;
     }
+    if (!FitsTogether()) return std::nullopt;
     return mLine;
   }
 
@@ -69,6 +70,18 @@ class Reader {
   bool Complain(std::string_view what) {
     mErrors << "lurkwell: " << what << "\nTry 'lurkwell --help'.\n";
     return false;
+  }
+
+  bool FitsTogether() {
+    using enum CommandLine::Action;
+    if (mLine.action == kHelp || mLine.action == kVersion) return true;
+    std::vector<const char*> alone;
+    if (mLine.action == kPrint) alone.push_back("--print");
+    if (mLine.toggleOverlay) alone.push_back("--toggle-overlay");
+    if (mLine.screenshot) alone.push_back("--screenshot");
+    if (alone.size() > 1)
+      return Complain(std::string(alone[0]) + " and " + alone[1] + " exclude each other");
+    return !mWindowIsNamed || mLine.screenshot || Complain("--window needs --screenshot");
   }
 
   bool ReadOption() {
@@ -135,6 +148,7 @@ class Reader {
   bool ReadWindow() {
     if (!TakeValue()) return false;
     mLine.window = *mValue;
+    mWindowIsNamed = true;
     for (const auto* name : kWindows)
       if (mLine.window == name) return true;
     std::string names;
@@ -155,6 +169,7 @@ class Reader {
   CommandLine mLine;
   std::string_view mOption;
   std::optional<std::string_view> mValue;
+  bool mWindowIsNamed = false;
 };
 
 }  // namespace

@@ -8,9 +8,11 @@
 #include <QScreen>
 #include <QUiLoader>
 #include <QVBoxLayout>
+#include <string_view>
 
 #include "platform/Clock.h"
 #include "platform/Machine.h"
+#include "preferences/PreferencesRetrieval.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -111,6 +113,16 @@ void SplashScreen::mouseDown() {
 
 void ShowSplashScreen() {
   SplashScreen::doit();
+}
+
+void ShowSplashScreenAtStart() {
+  char seen[64] = "";
+  GetPrefString("ABOUT_PANEL_SEEN_VERSION", seen, sizeof seen, nullptr, false, "");
+  const bool isNew = std::string_view(seen) != LURKWELL_VERSION;
+  if (isNew) SetPrefString("ABOUT_PANEL_SEEN_VERSION", LURKWELL_VERSION);
+  const bool isWanted = GetPrefInt("ABOUT_PANEL_AT_EVERY_START", nullptr, true, 0) != 0;
+  gHaveShownSplashScreen = !isNew && !isWanted;
+  if (!gHaveShownSplashScreen) ShowSplashScreen();
 }
 
 }  // namespace lurkwell

@@ -25,8 +25,8 @@ class MySplashScreenWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// The about panel. At its first showing in a run it closes by itself after three seconds, clicks
-/// or not; later ones stay until they are clicked. Main thread only.
+/// The about panel. The one of the start closes by itself after three seconds, clicks or not; later
+/// ones stay until they are clicked. Main thread only.
 class SplashScreen : public QObject {
   Q_OBJECT
 
@@ -50,9 +50,13 @@ class SplashScreen : public QObject {
   static std::unique_ptr<SplashScreen> gSplashScreen;
 };
 
-/// Whether the panel has been shown to its end in this run.
+/// Whether the panel's time at the start is over: it has been shown to its end, or not at all.
 extern bool gHaveShownSplashScreen;
 
 void ShowSplashScreen();
+
+/// Shows the panel at the first start of a version, which the preferences note, and at every start
+/// where they want that.
+void ShowSplashScreenAtStart();
 
 }  // namespace lurkwell

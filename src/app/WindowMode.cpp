@@ -9,6 +9,7 @@
 #include <QThread>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "app/SplashScreen.h"
 #include "app/appDelegate.h"
@@ -81,6 +82,7 @@ class Photographer : public QObject {
     // With an identifier of its own a window is not remembered.
     const auto uuid = Uuid::Fresh();
     auto& windows = mDelegate.monitorWindows();
+    mBefore = QApplication::topLevelWidgets();
     if (mCommandLine.window == "about") ShowSplashScreen();
     if (mCommandLine.window == "animated") mDelegate.quintessentialWindows().ShowForPicture();
     // With a page's number the remembered one is not asked for.
@@ -102,28 +104,35 @@ class Photographer : public QObject {
     if (mCommandLine.window == "preferences") return panel;
     if (mCommandLine.window == "settings" && panel != nullptr)
       return panel->findChild<AllSettings*>();
+    if (mCommandLine.window == "about") return SplashScreen::window();
+    // A question of somebody else's may have come up meanwhile.
     for (auto* window : QApplication::topLevelWidgets())
-      if (window != main && window->isVisible()) return window;
+      if (!mBefore.contains(window) && window->isVisible() && !window->isModal()) return window;
     return nullptr;
   }
+
+  static bool Fail(const std::string& why) {
+    std::fprintf(stderr, "lurkwell: %s\n", why.c_str());
+    return false;
+  }
+
+  bool FailToWrite() const { return Fail("cannot write '" + *mCommandLine.screenshot + "'"); }
 
   bool Save(const QString& file) {
     if (mCommandLine.window == "animated") {
       const auto picture =
           mDelegate.quintessentialWindows().TakePicture(kAnimatedSize, qApp->devicePixelRatio());
-      if (picture.isNull()) std::fputs("lurkwell: there is no OpenGL to draw with\n", stderr);
-      return !picture.isNull() && picture.save(file, "PNG");
+      if (picture.isNull()) return Fail("there is no OpenGL to draw with");
+      return picture.save(file, "PNG") || FailToWrite();
     }
     auto* window = Window();
-    return window != nullptr && window->grab().save(file, "PNG");
+    if (window == nullptr) return Fail("there is no window " + mCommandLine.window);
+    return window->grab().save(file, "PNG") || FailToWrite();
   }
 
   void Take() {
     const auto file = QString::fromStdString(*mCommandLine.screenshot);
-    if (!Save(file)) {
-      std::fprintf(stderr, "lurkwell: cannot write '%s'\n", mCommandLine.screenshot->c_str());
-      mStatus = kExitFailure;
-    }
+    if (!Save(file)) mStatus = kExitFailure;
     // Closed, it would remember its page.
     if (gThePreferencesUI != nullptr) delete &gThePreferencesUI->window();
     TheMachine().runLoop.Stop();
@@ -131,6 +140,8 @@ class Photographer : public QObject {
 
   vqAppDelegate& mDelegate;
   const CommandLine& mCommandLine;
+  /// What was there before the window was opened.
+  QWidgetList mBefore;
   int mUpdates = 0;
   int mStatus = kExitSuccess;
 };

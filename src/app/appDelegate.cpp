@@ -91,9 +91,13 @@ void vqAppDelegate::applicationDidFinishLaunching() {
     TurnOnClassicNub();
   }
   if (mLaunch == Launch::kUsual) OpenFirstWindows();
-  QubsDebugging();
-  if (mLaunch == Launch::kUsual) ShowSplashScreen();
-  if (mLaunch == Launch::kUsual) SetUpHotKey();
+  if (mLaunch == Launch::kUsual) {
+    QubsDebugging();
+    ShowSplashScreenAtStart();
+    SetUpHotKey();
+  } else {
+    gHaveShownSplashScreen = true;
+  }
   mHasLaunched = true;
 }
 

@@ -19,7 +19,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   /// How far to start.
   enum class Launch {
     kUsual,
-    /// Without the about panel and without what the user left open: for taking a picture.
+    /// Without the about panel, what the user left open, and figures for debugging: for taking a
+    /// picture.
     kForPicture,
   };
 

@@ -1,11 +1,14 @@
 #include <QApplication>
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <iostream>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "app/CommandLine.h"
 #include "app/PrintMode.h"
@@ -20,6 +23,7 @@
 #include "platform/desktop/DesktopIconServices.h"
 #include "platform/desktop/DesktopProcessManager.h"
 #include "platform/desktop/DesktopScreen.h"
+#include "platform/desktop/DisplayAccess.h"
 #include "platform/desktop/EndingSignals.h"
 #include "platform/desktop/QtRunLoop.h"
 #include "platform/desktop/RunningInstance.h"
@@ -152,11 +156,15 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
                  commandLine.count ? "--count" : "--columns");
     return kExitUsage;
   }
+  // Qt takes away what it knows of the others.
+  std::vector<char*> arguments(argv, argv + argc + 1);
   EndingSignals signals;
   HaveNoBusStarted();
   QApplication::setApplicationName(QStringLiteral("lurkwell"));
   QApplication::setDesktopFileName(QStringLiteral("com.velquarin.lurkwell"));
+  auto withoutDisplay = std::make_unique<WithoutDisplayInstead>(arguments.data());
   QApplication application(argc, argv);
+  withoutDisplay.reset();
   // Qt takes the user's language for texts; numbers are read and written with a point.
   std::setlocale(LC_NUMERIC, "C");
   const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot;
@@ -175,10 +183,19 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   return RunWindowMode(commandLine);
 }
 
+/// Texts that are asked for have to arrive.
+int Say(const char* text) {
+  errno = 0;
+  if (std::fputs(text, stdout) >= 0 && std::fflush(stdout) == 0) return kExitSuccess;
+  std::fprintf(stderr, "lurkwell: cannot write: %s\n", std::strerror(errno));
+  return kExitFailure;
+}
+
 int Run(const CommandLine& commandLine, int& argc, char** argv) {
   if (commandLine.action == CommandLine::Action::kPrint) return RunInTerminal(commandLine);
   if (commandLine.toggleOverlay) return ToggleOverlay(argc, argv);
-  const bool platformIsChosen = std::getenv("QT_QPA_PLATFORM") != nullptr;
+  const char* platform = std::getenv("QT_QPA_PLATFORM");
+  const bool platformIsChosen = platform != nullptr && *platform != '\0';
   if (!platformIsChosen && !IsDisplayReachable()) {
     if (!commandLine.screenshot) {
       std::fputs(
@@ -200,14 +217,9 @@ int main(int argc, char** argv) {
   const auto commandLine = ReadCommandLine(
       {const_cast<const char* const*>(argv), static_cast<std::size_t>(argc)}, std::cerr);
   if (!commandLine) return kExitUsage;
-  if (commandLine->action == CommandLine::Action::kHelp) {
-    std::fputs(HelpText(), stdout);
-    return kExitSuccess;
-  }
-  if (commandLine->action == CommandLine::Action::kVersion) {
-    std::puts("lurkwell " LURKWELL_VERSION);
-    return kExitSuccess;
-  }
+  if (commandLine->action == CommandLine::Action::kHelp) return Say(HelpText());
+  if (commandLine->action == CommandLine::Action::kVersion)
+    return Say("lurkwell " LURKWELL_VERSION "\n");
   // The helper's end of a pipe may go at any time; writing to it then is an error, not the end.
   std::signal(SIGPIPE, SIG_IGN);
   // A file that must not grow is a failed write.

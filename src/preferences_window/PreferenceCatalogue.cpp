@@ -60,6 +60,8 @@ constexpr PreferenceEntry kCatalogue[] = {
     Number("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", 0, 0, 2, kAtOnce, kAll),
     Switch("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", false, kNextStart),
     Record("PREFERENCES_UI_DEFAULT_TAB", 0, kNewWindows),
+    Switch("ABOUT_PANEL_AT_EVERY_START", false, kNextStart),
+    Record("ABOUT_PANEL_SEEN_VERSION", kNone),
 
     Interval("MAIN_WINDOW_INTERVAL", 2000, kAtOnce, kTable),
     Switch("MEM_GRAPH_DRAW_VSZ", false, kAtOnce, kTable),

@@ -72,7 +72,7 @@ class ShellTest : public testing::Test {
   std::unique_ptr<vqAppDelegate> delegate;
 };
 
-TEST_F(ShellTest, ChecksToolsThenStartsTheHelperThenShowsTheWindowAndThePanel) {
+TEST_F(ShellTest, ChecksToolsThenStartsTheHelperThenShowsTheWindow) {
   machine.processTable.Birth(300, "p");
   Launch();
   const auto& lines = machine.log.Lines();
@@ -88,23 +88,43 @@ TEST_F(ShellTest, ChecksToolsThenStartsTheHelperThenShowsTheWindowAndThePanel) {
   EXPECT_TRUE(MainWindowIsVisible());
   EXPECT_EQ(delegate->mainWindow().controller().rowCount(), 3) << "filled at once";
 
-  // The panel's first showing lasts three seconds, whatever is clicked.
+  delegate->applicationWillTerminate();
+}
+
+TEST_F(ShellTest, ThePanelComesByItselfOnceForAVersionOrWhereItIsWanted) {
+  const auto restart = [this] {
+    delegate->applicationWillTerminate();
+    gApplicationQuitting = false;
+    Launch();
+  };
+  Launch();
   ASSERT_TRUE(SplashIsVisible());
   QString said;
   for (const auto* label : SplashScreen::window()->findChildren<QLabel*>()) said += label->text();
   EXPECT_TRUE(said.contains(QLatin1String("Lurkwell"))) << said.toStdString();
   EXPECT_TRUE(said.contains(QLatin1String(LURKWELL_VERSION))) << said.toStdString();
+  // Three seconds, whatever is clicked.
   QTest::mouseClick(SplashScreen::window(), Qt::LeftButton);
   Pass(2900);
   EXPECT_TRUE(SplashIsVisible());
   Pass(200);
   EXPECT_FALSE(SplashIsVisible());
-  // Later ones stay until they are clicked.
+  restart();
+  EXPECT_FALSE(SplashIsVisible());
+  // Asked for, it stays until it is clicked.
   delegate->doAboutPanel();
   Pass(20'000);
   EXPECT_TRUE(SplashIsVisible());
   QTest::mouseClick(SplashScreen::window(), Qt::LeftButton);
   EXPECT_FALSE(SplashIsVisible());
+  machine.preferenceDomain.SetValue("ABOUT_PANEL_SEEN_VERSION", std::string("0.0.1"));
+  restart();
+  EXPECT_TRUE(SplashIsVisible()) << "a new version";
+  SetPrefInt("ABOUT_PANEL_AT_EVERY_START", 1);
+  for (int start = 0; start < 2; ++start) {
+    restart();
+    EXPECT_TRUE(SplashIsVisible()) << "wanted";
+  }
   delegate->applicationWillTerminate();
 }
 

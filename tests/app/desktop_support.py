@@ -100,7 +100,7 @@ class Desktop(unittest.TestCase):
         return self.output("xdotool", "getactivewindow", "getwindowname").strip()
 
     def type_keys(self, *words):
-        """Keys into the main window, once it has the keyboard: the about panel had it first."""
+        """Keys into the main window, once it has the keyboard: the about panel may have had it first."""
         def activate():
             self.output("xdotool", "search", "--name", "^Processes$", "windowactivate")
             time.sleep(0.2)

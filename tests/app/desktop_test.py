@@ -27,7 +27,13 @@ class Shell(Desktop):
         done = subprocess.run([BINARY, "--screenshot", picture, "--window", "about"], timeout=60,
                               env=self.environment, capture_output=True, check=False)
         self.assertEqual(done.returncode, 0, done.stderr)
-        self.assertLess(png_size(picture)[0], 1600)
+        about = png_size(picture)
+        self.assertLess(about[0], 1600)
+        # What else the user has open is no part of it.
+        self.write_preferences({"QUBS_DEBUGGING_AND_TESTING": 1})
+        done = subprocess.run([BINARY, "--screenshot", picture, "--window", "about"], timeout=60,
+                              env=self.environment, capture_output=True, check=False)
+        self.assertEqual((done.returncode, png_size(picture)), (0, about))
         done = subprocess.run([BINARY, "--screenshot", "/nonexistent/x.png"], text=True,
                               env=self.environment, capture_output=True, timeout=60, check=False)
         self.assertEqual(done.returncode, 1)
@@ -45,7 +51,8 @@ class Shell(Desktop):
             self.assertIn("    1:", done.stdout)
 
     def test_senseless_options_are_told(self):
-        for words in (["--window", "moon"], ["--theme", "pink"], ["--screenshot"]):
+        for words in (["--screenshot", "x", "--window", "moon"], ["--theme", "pink"],
+                      ["--screenshot"]):
             done = subprocess.run([BINARY, *words], env=self.environment, capture_output=True,
                                   text=True, timeout=60, check=False)
             self.assertEqual(done.returncode, 2, words)

@@ -72,6 +72,26 @@ class CommandLine(Program):
         self.assertEqual(status, 0)
         self.assertRegex(out, r"^lurkwell \d+\.\d+\.\d+\n$")
 
+    def test_what_cannot_be_written_is_a_failure(self):
+        for arguments in ["--help"], ["--version"], ["--print"]:
+            with self.subTest(arguments), open("/dev/full", "w") as full:
+                status, _, errors = self.run_to_end(*arguments, stdout=full)
+                self.assertEqual(status, 1)
+                self.assertIn("cannot write: No space left on device", errors)
+
+    def test_a_display_that_lets_nobody_in_leads_to_the_terminal(self):
+        for variables in ({"QT_QPA_PLATFORM": "xcb"}, {"WAYLAND_DISPLAY": "wayland-77"},
+                          {"QT_QPA_PLATFORM": "nonsense", "DISPLAY": ":4242"},
+                          {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": "wayland-77"}):
+            with self.subTest(variables):
+                process = self.start(env={**self.environment, **variables})
+                self.assertRegex(process.stdout.readline(), LINE)
+                process.terminate()
+                _, errors = process.communicate(timeout=10)
+                self.assertEqual(process.returncode, 0)
+                self.assertIn("lurkwell: no display; printing", errors)
+                self.assertNotIn("Reinstalling", errors)
+
     def test_nonsense_is_refused_with_a_reason(self):
         for arguments, reason in (
                 (["--nonsense"], "unknown option '--nonsense'"),
@@ -81,6 +101,9 @@ class CommandLine(Program):
                 (["--count=2x"], "not '2x'"),
                 (["--print=yes"], "--print takes no value"),
                 (["--columns", ","], "at least one key"),
+                (["--print", "--screenshot", "x.png"], "--print and --screenshot exclude"),
+                (["--toggle-overlay", "--print"], "--print and --toggle-overlay exclude"),
+                (["--window", "main"], "--window needs --screenshot"),
                 (["--print", "--columns", "pid_rzs"], "there is pid_rsz"),
                 (["--print", "--columns", "RSZ,%CPUU"], "there is %CPU"),
                 (["--print", "--columns", "zzzzzzzzzzzz"],
@@ -128,12 +151,6 @@ class Printing(Program):
         process.stdout.close()
         self.assertEqual(process.wait(timeout=10), 0)
         process.stderr.close()
-
-    def test_a_full_disk_is(self):
-        with open("/dev/full", "w") as full:
-            status, _, errors = self.run_to_end("--print", stdout=full)
-        self.assertEqual(status, 1)
-        self.assertIn("cannot write: No space left on device", errors)
 
     def test_columns_stand_below_one_another_whatever_the_names(self):
         program = self.home + "/schl\u00e4fer"

@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <unistd.h>
-#include <xcb/xcb.h>
 
 #include <QSocketNotifier>
 #include <cerrno>
@@ -58,15 +57,6 @@ void EndingSignals::Watch(std::function<void()> end) {
     }
     end();
   });
-}
-
-bool IsDisplayReachable() {
-  if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) return true;
-  if (qEnvironmentVariableIsEmpty("DISPLAY")) return false;
-  auto* connection = ::xcb_connect(nullptr, nullptr);
-  const bool reachable = ::xcb_connection_has_error(connection) == 0;
-  ::xcb_disconnect(connection);
-  return reachable;
 }
 
 }  // namespace lurkwell

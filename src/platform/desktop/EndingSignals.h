@@ -26,7 +26,4 @@ class EndingSignals {
   std::unique_ptr<QSocketNotifier> mNotifier;
 };
 
-/// Whether a window could be shown: $WAYLAND_DISPLAY is set or the X server of $DISPLAY answers.
-bool IsDisplayReachable();
-
 }  // namespace lurkwell

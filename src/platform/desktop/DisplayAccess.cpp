@@ -1,0 +1,100 @@
+#include "platform/desktop/DisplayAccess.h"
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+#include <xcb/xcb.h>
+
+#include <QMessageLogContext>
+#include <QString>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace lurkwell {
+namespace {
+
+/// What the toolkit chooses a display by.
+constexpr const char* kDisplayVariables[] = {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"};
+
+char** gArguments = nullptr;
+QtMessageHandler gOtherHandler = nullptr;
+/// Said before it is known whether they matter.
+std::vector<std::pair<QtMsgType, QString>> gHeldBack;
+
+std::string Variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+bool AnswersAt(const std::string& path) {
+  sockaddr_un address{};
+  if (path.size() >= sizeof address.sun_path) return false;
+  address.sun_family = AF_UNIX;
+  std::memcpy(address.sun_path, path.c_str(), path.size() + 1);
+  // A compositor that is busy has a queue; one whose queue is full is no use either.
+  const int file = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+  if (file < 0) return false;
+  const bool answers =
+      ::connect(file, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+  ::close(file);
+  return answers;
+}
+
+bool IsCompositorReachable() {
+  // One that was handed over already has no address.
+  if (!Variable("WAYLAND_SOCKET").empty()) return true;
+  const auto name = Variable("WAYLAND_DISPLAY");
+  if (name.empty()) return false;
+  return AnswersAt(name.front() == '/' ? name : Variable("XDG_RUNTIME_DIR") + '/' + name);
+}
+
+bool IsXServerReachable() {
+  if (Variable("DISPLAY").empty()) return false;
+  auto* connection = ::xcb_connect(nullptr, nullptr);
+  const bool reachable = ::xcb_connection_has_error(connection) == 0;
+  ::xcb_disconnect(connection);
+  return reachable;
+}
+
+void SayHeldBack(const QMessageLogContext& context) {
+  for (const auto& [type, text] : std::exchange(gHeldBack, {}))
+    if (gOtherHandler != nullptr) gOtherHandler(type, context, text);
+}
+
+void StartAgainOnFailure(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtFatalMsg) {
+    gHeldBack.emplace_back(type, text);
+    return;
+  }
+  // Pictures are drawn by this one where there is no display; there is nothing below it.
+  bool hadAny = false;
+  const bool isLast = Variable("QT_QPA_PLATFORM") == "offscreen";
+  for (const char* name : kDisplayVariables) {
+    hadAny = hadAny || !Variable(name).empty();
+    ::unsetenv(name);
+  }
+  if (hadAny && !isLast) ::execv("/proc/self/exe", gArguments);
+  SayHeldBack(context);
+  if (gOtherHandler != nullptr) gOtherHandler(type, context, text);
+}
+
+}  // namespace
+
+bool IsDisplayReachable() {
+  return IsCompositorReachable() || IsXServerReachable();
+}
+
+WithoutDisplayInstead::WithoutDisplayInstead(char** argv) {
+  gArguments = argv;
+  gOtherHandler = qInstallMessageHandler(&StartAgainOnFailure);
+}
+
+WithoutDisplayInstead::~WithoutDisplayInstead() {
+  qInstallMessageHandler(gOtherHandler);
+  SayHeldBack({});
+}
+
+}  // namespace lurkwell
