@@ -19,6 +19,7 @@ namespace lurkwell {
 namespace {
 
 constexpr std::int32_t kIntervalInMilliseconds = 1000;
+constexpr auto kPatienceForColumns = std::chrono::seconds(5);
 
 /// A client that prints, and what is to happen after each update.
 template <typename Printer>
@@ -72,6 +73,7 @@ void ShutDown() {
 
 int RunPrintMode(const CommandLine& commandLine) {
   InitializeProcessInformationConsolidator();
+  AwaitPSColumns(kPatienceForColumns);
   if (const auto complaint = ComplaintAboutColumns(commandLine.columns)) {
     std::fprintf(stderr, "lurkwell: %s\n", complaint->c_str());
     DestroyProcessInformationConsolidator();

@@ -38,6 +38,10 @@ inline FamilyIndex gFamilyIndex;
 inline PSHeaderRegistry gPSHeaders;
 inline PSDiscovery gPSDiscovery;
 inline PSPrograms gPSPrograms;
+/// Looks after what ps has been asked, between the heartbeats; null when that is nothing.
+inline std::unique_ptr<RunLoopTimer> gPSTimer;
+/// A heartbeat has had news of ps columns, of which only due clients know so far.
+inline bool gPSHasNews = false;
 inline SyntheticPidTable gPSN2PIDMap;
 inline ClassicEstimate gClassicEstimate;
 

@@ -93,6 +93,11 @@ void RunFeeders(TimeValue now) {
   EndProcessInformationIteration(kInformationKindCarbonPSN);
 }
 
+void SetNextHeartbeat(RunLoopTimer& timer, TimeValue now) {
+  const auto milliseconds = static_cast<double>(Client::GetMillisecondsToNextHeartbeat(&now));
+  timer.SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
+}
+
 }  // namespace
 
 void InitializeProcessInformationConsolidator() {
@@ -121,8 +126,12 @@ void HeartbeatCFTimerFunc(RunLoopTimer* timer) {
   gFamilyIndex.Share(true);
   Client::NotifyAllProcessesHaveBeenUpdated(&now);
   gFamilyIndex.Share(false);
-  const auto milliseconds = static_cast<double>(Client::GetMillisecondsToNextHeartbeat(&now));
-  timer->SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
+  SetNextHeartbeat(*timer, now);
+}
+
+void RescheduleHeartbeat() {
+  if (gHeartbeatCFTimerRef != nullptr)
+    SetNextHeartbeat(*gHeartbeatCFTimerRef, TheMachine().clock.Now());
 }
 
 void RequestUpdate(ProcessInformationClient* client) {
@@ -133,6 +142,8 @@ void RequestUpdate(ProcessInformationClient* client) {
 void DestroyProcessInformationConsolidator() {
   gHeartbeatCFTimerRef.reset();
   gRecords.Clear();
+  gPSTimer.reset();
+  gPSHasNews = false;
   gPSPrograms.Clear();
   gPSDiscovery.Clear();
   gPSHeaders.Clear();

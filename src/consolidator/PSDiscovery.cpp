@@ -16,17 +16,10 @@ namespace {
 
 constexpr char kKeywordsCommand[] = "/bin/ps -Lww";
 constexpr char kHeaderCommand[] = "/bin/ps 0 -o ";
-constexpr std::int64_t kMostMilliseconds = 1000;
+// Nobody waits for it, and a machine that starts up is a busy one.
+constexpr std::int64_t kMostMilliseconds = 5000;
 constexpr std::size_t kLongestLine = 1023;
 constexpr std::size_t kLongestHeader = 63;
-
-/// Whether a name belongs to properties that do not come from ps.
-bool IsReserved(std::string_view name) {
-  constexpr std::string_view kPrefixes[] = {"meta_", "pid_", "carbonpsn_", "classicpsn_",
-                                            "internal_"};
-  return std::ranges::any_of(kPrefixes,
-                             [name](std::string_view prefix) { return name.starts_with(prefix); });
-}
 
 std::string HeaderIn(std::string_view output) {
   auto line = ScanLine(output).value_or(std::string_view{}).substr(0, kLongestLine);
@@ -35,30 +28,39 @@ std::string HeaderIn(std::string_view output) {
 
 }  // namespace
 
-void PSDiscovery::Run(std::chrono::milliseconds limit) {
+void PSDiscovery::Await(std::chrono::milliseconds limit) {
   auto& clock = TheMachine().clock;
   const TimeValue end = AddMilliseconds(clock.Now(), limit.count());
   GoOn(clock.Now());
-  while (mStage != Stage::kDone && !mTools.empty()) {
+  while (IsUnderWay()) {
     const auto stage = mStage;
     std::vector<RunningTool*> tools;
     for (const auto& tool : mTools) tools.push_back(tool.get());
     const auto left = std::max<std::int64_t>(MillisecondsBetween(clock.Now(), end), 0);
     TheMachine().tools.Await(tools, std::chrono::milliseconds(left));
     GoOn(clock.Now());
-    if (mStage == stage && !mTools.empty()) Fail(clock.Now());
+    if (mStage == stage && IsUnderWay()) Fail(clock.Now());
   }
 }
 
-void PSDiscovery::GoOn(TimeValue now) {
-  if (mStage == Stage::kDone) return;
-  if (mTools.empty()) {
-    if (mRest.IsOver(now)) Begin({""}, kKeywordsCommand, now);
+bool PSDiscovery::GoOn(TimeValue now) {
+  if (IsDone()) return false;
+  while (Step(now)) continue;
+  return IsDone();
+}
+
+bool PSDiscovery::Step(TimeValue now) {
+  if (IsDone()) return false;
+  if (!IsUnderWay()) {
+    if (!mRest.IsOver(now)) return false;
+    Begin({""}, kKeywordsCommand, now);
   } else if (HaveAllEnded() || (mStage == Stage::kHeaders && now >= mDeadline)) {
     mStage == Stage::kKeywords ? TakeKeywords(now) : TakeHeaders();
-  } else if (now >= mDeadline) {
-    Fail(now);
+  } else {
+    if (now >= mDeadline) Fail(now);
+    return false;
   }
+  return true;
 }
 
 void PSDiscovery::Begin(std::vector<std::string> options, const char* command, TimeValue now) {
@@ -89,7 +91,7 @@ void PSDiscovery::TakeKeywords(TimeValue now) {
 void PSDiscovery::TakeHeaders() {
   for (std::size_t i = 0; i < mTools.size(); ++i) {
     const std::string header = HeaderIn(mTools[i]->TakeOutput().text);
-    if (!header.empty() && !IsReserved(header))
+    if (!header.empty() && IsPSColumnName(header))
       EnsureThatPSProcPropertyExists(header.c_str(), mOptions[i].c_str());
   }
   mTools.clear();

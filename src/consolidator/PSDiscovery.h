@@ -16,12 +16,18 @@ namespace lurkwell {
 /// later. Main thread.
 class PSDiscovery {
  public:
-  /// At start-up, when the windows want to know the columns: all steps, waiting for `limit` at
-  /// most.
-  void Run(std::chrono::milliseconds limit);
+  /// The next steps, as far as they have come, without waiting. True when the columns have just
+  /// become known.
+  bool GoOn(TimeValue now);
 
-  /// The next step, as far as it has come, without waiting.
-  void GoOn(TimeValue now);
+  /// All steps, waiting for `limit` at most.
+  void Await(std::chrono::milliseconds limit);
+
+  /// ps has been asked and has not answered yet.
+  bool IsUnderWay() const { return !mTools.empty(); }
+
+  /// ps has told its columns, or that there are none.
+  bool IsDone() const { return mStage == Stage::kDone; }
 
   void Clear() { *this = {}; }
 
@@ -32,6 +38,8 @@ class PSDiscovery {
   void TakeKeywords(TimeValue now);
   void TakeHeaders();
   bool HaveAllEnded() const;
+  /// False when the next step has to wait.
+  bool Step(TimeValue now);
   void Fail(TimeValue now);
 
   Stage mStage = Stage::kKeywords;

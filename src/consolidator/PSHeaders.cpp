@@ -1,5 +1,7 @@
 #include "consolidator/PSHeaders.h"
 
+#include <algorithm>
+
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PropertyRendering.h"
 #include "consolidator/Unit.h"
@@ -35,6 +37,17 @@ ProcessInformationPSHeader& PSHeaderRegistry::Add(std::string_view keyword) {
 void PSHeaderRegistry::Clear() {
   mByKeyword.clear();
   mHeaders.clear();
+}
+
+bool ArePSColumnsKnown() {
+  return gPSDiscovery.IsDone();
+}
+
+bool IsPSColumnName(std::string_view name) {
+  constexpr std::string_view kOthers[] = {"meta_", "pid_", "carbonpsn_", "classicpsn_",
+                                          "internal_"};
+  return std::ranges::none_of(kOthers,
+                              [name](std::string_view prefix) { return name.starts_with(prefix); });
 }
 
 int GetPSHeaderCount() {

@@ -10,8 +10,16 @@
 namespace lurkwell {
 
 /// The columns that ps can print, each known by the header that ps prints above it. Columns are
-/// found once, at start-up, and numbered from 0 in the order in which they were found; none is ever
-/// forgotten.
+/// found once, soon after start-up, and numbered from 0 in the order in which they were found; none
+/// is ever forgotten.
+
+/// Whether ps has told its columns by now (or that it has none): what is unknown then, there is
+/// not. Main thread.
+bool ArePSColumnsKnown();
+
+/// Whether a name can be a ps column's: those of all other properties begin with their source. Any
+/// thread.
+bool IsPSColumnName(std::string_view name);
 
 /// Main thread, or inside the consolidator's region.
 int GetPSHeaderCount();

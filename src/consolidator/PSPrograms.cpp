@@ -15,7 +15,6 @@ constexpr int kLongestRest = 60;
 constexpr std::int64_t kMostMilliseconds = 1000;
 /// Each start takes the main thread about a millisecond.
 constexpr std::ptrdiff_t kMostAtATime = 8;
-constexpr double kSecondsBetweenLooks = 0.02;
 
 }  // namespace
 
@@ -34,9 +33,6 @@ bool PSPrograms::MayStart(std::string_view header, TimeValue now) const {
 void PSPrograms::Start(std::string header, std::string commandLine) {
   mRuns.push_back({std::move(header), std::move(commandLine), nullptr, {}});
   StartWaiting(TheMachine().clock.Now());
-  if (mTimer != nullptr || mRuns.empty()) return;
-  mTimer = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kSecondsBetweenLooks,
-                                         kSecondsBetweenLooks, [this] { Serve(); });
 }
 
 void PSPrograms::StartWaiting(TimeValue now) {
@@ -69,7 +65,6 @@ void PSPrograms::Serve() {
     return true;
   });
   StartWaiting(now);
-  if (mRuns.empty()) mTimer.reset();
 }
 
 void PSPrograms::NoteEnd(Run& run, TimeValue now) {
@@ -103,7 +98,6 @@ std::vector<PSPrograms::Output> PSPrograms::TakeEnded() {
 }
 
 void PSPrograms::Clear() {
-  mTimer.reset();
   mRuns.clear();
   mEnded.clear();
   mRests.clear();

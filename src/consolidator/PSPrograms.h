@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/RunLoop.h"
 #include "platform/TimeValue.h"
 #include "platform/Tools.h"
 
@@ -26,9 +25,8 @@ class GrowingRest {
   TimeValue mEnd;
 };
 
-/// The runs of ps, one a column, that are under way between the heartbeats; a timer of the run loop
-/// reads what they print. A run may take a second. A column whose run took longer rests, and so
-/// standard error says. Main thread.
+/// The runs of ps, one a column, that are under way between the heartbeats. A run may take a
+/// second. A column whose run took longer rests, and so standard error says. Main thread.
 class PSPrograms {
  public:
   struct Output {
@@ -44,6 +42,9 @@ class PSPrograms {
 
   /// Serves them until all have ended, for `limit` at most.
   void Await(std::chrono::milliseconds limit);
+
+  /// Some run, or wait for their turn; whoever started them looks for their ends with TakeEnded.
+  bool AreUnderWay() const { return !mRuns.empty(); }
 
   /// What has ended, has been given up or could not be started since the last call.
   std::vector<Output> TakeEnded();
@@ -68,7 +69,6 @@ class PSPrograms {
   std::vector<Output> mEnded;
   std::map<std::string, GrowingRest, std::less<>> mRests;
   bool mSaidNothingStarts = false;
-  std::unique_ptr<RunLoopTimer> mTimer;
 };
 
 }  // namespace lurkwell

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "consolidator/ClientRegistryWalk.h"
+#include "consolidator/PI_Consolidator.h"
 #include "consolidator/ProcessQueries.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
@@ -36,6 +37,7 @@ void ProcessInformationClient::NotifyPidHasBeenAdded(int) {}
 void ProcessInformationClient::NotifyPidHasBeenRemoved(int) {}
 void ProcessInformationClient::NotifyPidHasChangedAppreciably(int) {}
 void ProcessInformationClient::NotifyPreferencesHaveBeenUpdated() {}
+void ProcessInformationClient::NotifyPSColumnsHaveChanged() {}
 
 ProcessInformationClient::NeedLevel ProcessInformationClient::NeedProcPropertiesForPid(int) {
   return kNeedSomeProcProperties;
@@ -77,6 +79,14 @@ void ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(const cha
     if (wanted.starts_with('*') || std::string_view(node.client->TypeName()).starts_with(wanted))
       node.client->NotifyPreferencesHaveBeenUpdated();
   }
+  // An interval that was an hour until now must not be waited for.
+  RescheduleHeartbeat();
+}
+
+void ProcessInformationClient::NotifyAllPSColumnsHaveChanged() {
+  Walk walk;
+  for (auto& node : walk)
+    if (node.active) node.client->NotifyPSColumnsHaveChanged();
 }
 
 void ProcessInformationClient::NotifyAllPidHasBeenAdded(int pid) {

@@ -43,6 +43,10 @@ class ProcessInformationClient {
   virtual void NotifyPidHasChangedAppreciably(int pid);
   virtual void NotifyPreferencesHaveBeenUpdated();
 
+  /// Between turns: ps has told which columns it has, or columns that somebody needs have new
+  /// values. Everything else is as it was at the last turn.
+  virtual void NotifyPSColumnsHaveChanged();
+
   /// Which properties of this process the client needs: a property level. "No" is final.
   virtual NeedLevel NeedProcPropertiesForPid(int pid);
   /// For which processes the client needs this property: a pid level. "All" and "none" are final;
@@ -72,6 +76,8 @@ class ProcessInformationClient {
   /// Tells every active client whose type name begins with `typeName`, or all for "*", that
   /// preferences have changed.
   static void NotifyPreferencesHaveBeenUpdatedForType(const char* typeName);
+
+  static void NotifyAllPSColumnsHaveChanged();
 
   // ---- What the consolidator records during a heartbeat, inside its region
   // ------------------------

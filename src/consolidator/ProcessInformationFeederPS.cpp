@@ -12,6 +12,9 @@
 #include "consolidator/PropertyTypes.h"
 #include "consolidator/TextScan.h"
 #include "platform/Assertion.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+#include "platform/RunLoop.h"
 
 namespace lurkwell {
 namespace {
@@ -20,7 +23,7 @@ using Client = ProcessInformationClient;
 
 constexpr char kFeederUnit[] = "ProcessInformationFeederPS";
 
-constexpr auto kDiscoveryLimit = std::chrono::seconds(1);
+constexpr double kSecondsBetweenLooks = 0.02;
 
 constexpr std::size_t kLongestKeywordList = 1023;
 constexpr std::size_t kLongestKeyword = 255;
@@ -41,15 +44,15 @@ void AppendWords(std::string_view line, std::vector<std::string>& list) {
   }
 }
 
-/// Begins a run for each column that due clients need.
-void StartNeededColumns(TimeValue now) {
+/// Begins a run for each column that clients need: those that are due at `dueAt`, or all for null.
+void StartNeededColumns(TimeValue now, const TimeValue* dueAt) {
   const int count = GetPSHeaderCount();
   for (int i = 0; i < count; ++i) {
     char header[kLongestHeader];
     GetNthPSHeader(i, header, sizeof header, nullptr);
     // The pid is the first column of every run anyway.
     if (std::string_view(header) == "PID") continue;
-    if (Client::NeedAnyPidForProcProperty(header, &now) == Client::kNeedNoPids) continue;
+    if (Client::NeedAnyPidForProcProperty(header, dueAt) == Client::kNeedNoPids) continue;
     Require(GetNthPSHeadersGeneratingOptionCount(i) > 0, kFeederUnit,
             "GetNthPSHeadersGeneratingOptionCount(i) > 0");
     // The values of the run before are the newest there can be.
@@ -122,14 +125,43 @@ bool PSExtractProcessInformationForField(std::string_view output) {
   return found;
 }
 
-void FeedWhatHasEnded() {
-  for (const auto& [header, printed] : gPSPrograms.TakeEnded()) {
+/// True when something had ended.
+bool FeedWhatHasEnded() {
+  const auto ended = gPSPrograms.TakeEnded();
+  for (const auto& [header, printed] : ended) {
     std::string_view text(printed.text);
     // The last line may have been cut anywhere.
     if (!printed.complete) text = text.substr(0, text.rfind('\n') + 1);
     const bool found = PSExtractProcessInformationForField(text);
     gPSHeaders.Find(header)->hasNewestValues = found && printed.complete;
   }
+  return !ended.empty();
+}
+
+void Serve();
+
+bool IsAnythingUnderWay() {
+  return gPSDiscovery.IsUnderWay() || gPSPrograms.AreUnderWay() || gPSHasNews;
+}
+
+void KeepServing() {
+  if (gPSTimer != nullptr || !IsAnythingUnderWay()) return;
+  gPSTimer = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kSecondsBetweenLooks,
+                                           kSecondsBetweenLooks, Serve);
+}
+
+/// Whoever waits for a column gets it when it comes, however far away the next turn is.
+void Serve() {
+  const ConsolidatorGuard guard;
+  const TimeValue now = TheMachine().clock.Now();
+  bool hasNews = std::exchange(gPSHasNews, false);
+  if (gPSDiscovery.GoOn(now)) {
+    StartNeededColumns(now, nullptr);
+    hasNews = true;
+  }
+  if (FeedWhatHasEnded()) hasNews = true;
+  if (!IsAnythingUnderWay()) gPSTimer.reset();
+  if (hasNews) Client::NotifyAllPSColumnsHaveChanged();
 }
 
 }  // namespace
@@ -140,7 +172,12 @@ void GetPSAvailableThings(std::string_view listing, std::vector<std::string>& li
 }
 
 void DiscoverPSHeaders() {
-  gPSDiscovery.Run(kDiscoveryLimit);
+  gPSDiscovery.GoOn(TheMachine().clock.Now());
+  KeepServing();
+}
+
+void AwaitPSColumns(std::chrono::milliseconds limit) {
+  gPSDiscovery.Await(limit);
 }
 
 void SetPSPatience(std::chrono::milliseconds patience) {
@@ -148,12 +185,14 @@ void SetPSPatience(std::chrono::milliseconds patience) {
 }
 
 void PSExtractProcessInformation(TimeValue now) {
-  gPSDiscovery.GoOn(now);
-  FeedWhatHasEnded();
-  StartNeededColumns(now);
-  if (gPatience <= gPatience.zero()) return;
-  gPSPrograms.Await(gPatience);
-  FeedWhatHasEnded();
+  if (gPSDiscovery.GoOn(now)) gPSHasNews = true;
+  if (FeedWhatHasEnded()) gPSHasNews = true;
+  StartNeededColumns(now, &now);
+  if (gPatience > gPatience.zero()) {
+    gPSPrograms.Await(gPatience);
+    if (FeedWhatHasEnded()) gPSHasNews = true;
+  }
+  KeepServing();
 }
 
 }  // namespace lurkwell

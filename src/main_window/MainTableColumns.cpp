@@ -4,6 +4,7 @@
 #include <span>
 #include <utility>
 
+#include "consolidator/PSHeaders.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
@@ -55,14 +56,15 @@ void RememberColumn(std::int32_t index, const char* key, int width, std::int32_t
                      std::span(fields).first(width > 0 ? std::size(fields) : 2));
 }
 
-/// A key that a table can show: its own columns, or a property that is known at present. What ps
-/// has for PID stands in meta_pid.
+/// A key that a table can show: its own columns, or a property that is known at present or may be
+/// a column of a ps that has not told them yet. What ps has for PID stands in meta_pid.
 bool CanBeShown(const std::string& key) {
   if (IsInternalKey(key)) {
     const KeyId id = InternKey(key);
     return IsPicture(id) || id == kInternalCPUPercent || id == kInternalMemGraph;
   }
-  return key != "PID" && IsKnownProcProperty(key.c_str());
+  if (key.empty() || key == "PID") return false;
+  return IsKnownProcProperty(key.c_str()) || (!ArePSColumnsKnown() && IsPSColumnName(key));
 }
 
 bool IsRightAligned(KeyId key, PropertyType type) {
@@ -122,7 +124,24 @@ void vqMainTableController::addMissingColumns() {
   once("HAS_RUN_TWO_POINT_FOUR", kInternalMemGraph, kInternalCPUPercent);
 }
 
+void vqMainTableController::putAwayColumnsThatDidNotCome() {
+  if (!ArePSColumnsKnown()) return;
+  const auto isMissing = [](KeyId key) {
+    return !IsInternalKey(KeyText(key)) && !IsKnownProcProperty(KeyText(key).data());
+  };
+  if (std::ranges::none_of(fKeysWeTrackForUI, isMissing)) return;
+  adoptScreenLayout();
+  for (const KeyId key : std::vector<KeyId>(fKeysWeTrackForUI)) {
+    if (!isMissing(key)) continue;
+    fAbsentColumns.push_back(
+        {std::string(KeyText(key)), fColumnWidths[key], fColumnSortDirection[key]});
+    if (key == fSortColumn) fRememberedSortKey = KeyText(key);
+    removeFromKeysWeTrackForUI(key);
+  }
+}
+
 void vqMainTableController::showColumnsThatCame() {
+  putAwayColumnsThatDidNotCome();
   for (std::size_t i = 0; i < fAbsentColumns.size();) {
     if (!CanBeShown(fAbsentColumns[i].key)) {
       ++i;

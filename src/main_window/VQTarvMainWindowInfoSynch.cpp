@@ -119,10 +119,12 @@ void VQTarvMainWindowInfoSynch::setCPUDelta(RowDictionary& row, TimeValue active
 void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyId key, int pid) {
   const char* name = KeyText(key).data();
   if (IsInternalKey(name)) return;
+  const bool isPSColumn = FindBuiltInProperty(name) == nullptr;
+  // A remembered column that ps has not told of so far.
+  if (isPSColumn && !IsKnownProcProperty(name)) return;
   PropertyReader reader;
   const char* text = reader.Read(pid, name);
   // ps has no line for every process, and not every column has come yet.
-  const bool isPSColumn = FindBuiltInProperty(name) == nullptr;
   if (text == nullptr || (!reader.HasValue() && isPSColumn)) return;
   const auto type = GetProcPropertyType(name, nullptr);
   if (type == kPropertyTypeHex) {
@@ -199,9 +201,27 @@ void VQTarvMainWindowInfoSynch::UpdateChangingFields() {
     if (IsInternalKey(name) || key == kMetaActiveTime) continue;
     int changes = 0;
     GetProcPropertyType(name, &changes);
-    if (changes == 0 && !gNewColumnWasAddedRecently) continue;
-    for (auto* row : mOwner.rows().All()) UpdateSingleFieldForPid(*row, key, row->Pid());
+    const bool all = changes != 0 || gNewColumnWasAddedRecently;
+    // What stays may come late all the same: a column of ps after its row.
+    if (!all && FindBuiltInProperty(name) != nullptr) continue;
+    for (auto* row : mOwner.rows().All())
+      if (all || std::holds_alternative<std::monostate>(row->Get(key)))
+        UpdateSingleFieldForPid(*row, key, row->Pid());
   }
+}
+
+void VQTarvMainWindowInfoSynch::NotifyPSColumnsHaveChanged() {
+  mOwner.showColumnsThatCame();
+  bool isSorted = false;
+  for (const KeyId key : mOwner.keysWeTrackForUI()) {
+    const char* name = KeyText(key).data();
+    if (IsInternalKey(name) || FindBuiltInProperty(name) != nullptr) continue;
+    for (auto* row : mOwner.rows().All()) UpdateSingleFieldForPid(*row, key, row->Pid());
+    if (key == mOwner.sortColumn()) isSorted = true;
+  }
+  mOwner.noteFreshColumns();
+  if (isSorted) mOwner.setNeedsResort();
+  mOwner.triggerReload();
 }
 
 void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {

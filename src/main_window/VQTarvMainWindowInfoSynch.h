@@ -43,6 +43,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   /// Shows what was read last in the formats that hold now. Shares, gauges and the light stay as
   /// they are until the next update: nothing was measured.
   void NotifyPreferencesHaveBeenUpdated() override;
+  void NotifyPSColumnsHaveChanged() override;
   NeedLevel NeedPidsForProcProperty(const char* key) override;
   bool NeedPidProcProperty(int pid, const char* key) override;
   void NotifyProcessesHaveBeenUpdated() override;

@@ -8,7 +8,6 @@
 
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PI_Consolidator.h"
-#include "consolidator/PSHeaders.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/Preferences.h"
 #include "main_window/PropertyText.h"
@@ -96,12 +95,12 @@ void vqMainTableController::memoryBarsHaveChanged() {
   for (auto* row : fRows.All()) row->SetChanged(true);
 }
 
-void vqMainTableController::noteStaleColumns() {
+void vqMainTableController::noteAgeOfColumns(bool mayAge) {
   char header[64];
   for (int n = 0; n < GetPSHeaderCount(); ++n) {
     bool isCurrent = false;
     GetNthPSHeader(n, header, sizeof header, &isCurrent);
-    if (!isTracked(header)) continue;
+    if (!isTracked(header) || (!isCurrent && !mayAge)) continue;
     const auto column = std::ranges::find(fColumns, InternKey(header), &Column::key);
     if (column == fColumns.end() || std::exchange(column->isStale, !isCurrent) == !isCurrent)
       continue;

@@ -77,8 +77,11 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void setNeedsReload();
   void memoryBarsHaveChanged();
   /// Marks the ps columns that the turn brought no figures for; what they had stays, greyed.
-  void noteStaleColumns();
-  /// Shows the remembered columns that ps did not offer before and does now.
+  void noteStaleColumns() { noteAgeOfColumns(true); }
+  /// Between turns: takes the mark from the ps columns that have come meanwhile.
+  void noteFreshColumns() { noteAgeOfColumns(false); }
+  /// Shows the remembered columns that ps did not offer before and does now; those that it turns
+  /// out not to have go, but stay remembered.
   void showColumnsThatCame();
   void forgetSortableValues(std::int32_t pid) { fInternalRepresentations.Remove(pid); }
   void synchronizerIsGone() { fInfoSynchronizer = nullptr; }
@@ -222,6 +225,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void Reorder(const std::function<void()>& change) override;
   void CellsChanged(int firstRow, int lastRow) override;
 
+  void noteAgeOfColumns(bool mayAge);
+  void putAwayColumnsThatDidNotCome();
   void readColumnPrefs();
   void addMissingColumns();
   void track(KeyId key, char direction);

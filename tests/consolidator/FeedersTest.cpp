@@ -215,6 +215,23 @@ TEST_F(PSFeederTest, ANeededColumnIsOneRunAndItsValuesKeepTheirNewline) {
   EXPECT_FALSE(current);
 }
 
+TEST_F(PSFeederTest, WhoeverAskedIsServedWhenPsHasAnswered) {
+  machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n60 s0\n");
+  machine.tools.SetStuck("/bin/ps -Lww");
+  Start();
+  Told(0);
+  auto& client = Add("client", 3'600'000).Needs({"TT"});
+  told.Clear();
+  RequestUpdate(&client);
+  std::string seen;
+  client.onPSColumns = [&] { seen += ArePSColumnsKnown() ? Value(60, "TT") : "too early"; };
+  EXPECT_EQ(Told(500), "client updated\n") << "ps is waited for by nobody";
+  EXPECT_EQ(seen + std::to_string(GetPSHeaderCount()), "0");
+  machine.tools.SetStuck("/bin/ps -Lww", false);
+  EXPECT_EQ(Told(100), "") << "no turn is made for it";
+  EXPECT_EQ(seen, "s0\n");
+}
+
 TEST_F(PSFeederTest, ForSomeProcessesOnlyTheirValuesAreKept) {
   machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n60 s0\n61 s1\n99 s9\n");
   Start();
@@ -281,12 +298,13 @@ TEST_F(PSFeederTest, ColumnsThatCannotBeFoundOutAtTheStartAreFoundOutLater) {
   machine.tools.SetStuck("/bin/ps -Lww");
   testing::internal::CaptureStderr();
   Start();
+  machine.runLoop.RunFor(6000);
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "lurkwell: ps does not tell its columns; asking again in 2 s\n");
   EXPECT_EQ(GetPSHeaderCount(), 0);
   machine.tools.SetStuck("/bin/ps -Lww", false);
   Add("client", 1000).Needs({"TT"});
-  machine.runLoop.RunFor(5000);
+  machine.runLoop.RunFor(10'000);
   EXPECT_EQ(GetPSHeaderCount(), 4);
 }
 

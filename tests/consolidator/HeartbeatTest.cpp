@@ -56,6 +56,18 @@ TEST_F(HeartbeatTest, ClientsOfDifferentIntervalsEachHearEverythingOnce) {
       << "203 came and went between two turns of the slow client";
 }
 
+TEST_F(HeartbeatTest, AShorterIntervalIsNotWaitedForAsLongAsTheOneBefore) {
+  Start();
+  Told(0);
+  auto& client = Add("client", 3'600'000);
+  told.Clear();
+  RequestUpdate(&client);
+  EXPECT_EQ(Told(100), "client updated\n");
+  client.SetInterval(1000);
+  ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType("*");
+  EXPECT_EQ(Told(1000), "client preferences\nclient updated\n");
+}
+
 TEST_F(HeartbeatTest, TheNextBeatComesWhenTheMostUrgentClientIsDue) {
   Start();
   Told(0);

@@ -79,6 +79,8 @@ class RealMachineTest : public ConsolidatorTest {
 TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
   const Child sleeper({"sleep", "1000"});
   Start();
+  EXPECT_EQ(GetPSHeaderCount(), 0) << "nobody waits for ps";
+  AwaitPSColumns(std::chrono::seconds(20));
   ASSERT_GT(GetPSHeaderCount(), 80);
   std::map<std::string, std::string> optionOf;
   for (int i = 0; i < GetPSHeaderCount(); ++i) {

@@ -145,6 +145,46 @@ TEST_F(ColumnsTest, AColumnThatPsDoesNotOfferThisTimeIsKept) {
   EXPECT_TRUE(ColumnItem(Menus().PSAvailableMenu(), "UID")->isChecked());
 }
 
+TEST_F(ColumnsTest, AColumnOfPsIsFilledWhenPsHasAnswered) {
+  auto& tools = machine.tools;
+  tools.SetOutput("/bin/ps -Lww", "ppid uid\n");
+  tools.SetOutput("/bin/ps 0 -o ppid", "PPID\n");
+  tools.SetOutput("/bin/ps 0 -o uid", "UID\n");
+  tools.SetOutput("/bin/ps -axww -o pid,ppid", "PID PPID\n1 0\n300 1\n");
+  tools.SetOutput("/bin/ps -axww -o pid,uid", "PID UID\n1 0\n300 42\n");
+  tools.SetStuck("/bin/ps -Lww");
+  machine.processTable.Birth(300, "p");
+  SetPrefInt("MAIN_WINDOW_INTERVAL", 3'600'000);
+  int count = 0;
+  for (const char* key : {"meta_pid", "UID", "GONE", "meta_name"})
+    SetPrefArrayString("MAIN_WINDOW_COLUMNS", count++, "COLUMN_KEY", key);
+  SetPrefInt("MAIN_WINDOW_SORT_COLUMN_INDEX", 1);
+  Open();
+  Turn(100);
+  EXPECT_TRUE(Keys().starts_with("meta_pid UID GONE meta_name")) << Keys();
+  EXPECT_EQ(controller().sortColumn(), InternKey("UID"));
+  tools.SetStuck("/bin/ps -Lww", false);
+  Turn(100);
+  EXPECT_TRUE(Keys().starts_with("meta_pid UID meta_name")) << "each in its place: " << Keys();
+  EXPECT_EQ(controller().sortColumn(), InternKey("UID"));
+  EXPECT_EQ(Pids(), "0 1 300");
+  EXPECT_EQ(Cell(2, ColumnOf("UID")), "42");
+  // A parent stays, as far as that column goes; it comes after its row all the same.
+  Toggle(Menus().PSAvailableMenu(), "PPID");
+  Turn(100);
+  EXPECT_EQ(Cell(2, ColumnOf("PPID")), "1");
+  machine.processTable.Birth(301, "q");
+  tools.SetOutput("/bin/ps -axww -o pid,ppid", "PID PPID\n1 0\n300 1\n301 300\n");
+  controller().updateNow();
+  Turn(100);
+  EXPECT_EQ(Cell(1, ColumnOf("PPID")) + Cell(1, ColumnOf("meta_pid")), "300301");
+  window.reset();
+  char key[64];
+  GetPrefArrayString("MAIN_WINDOW_COLUMNS", GetPrefArrayCount("MAIN_WINDOW_COLUMNS") - 1,
+                     "COLUMN_KEY", key, sizeof key, false, "");
+  EXPECT_STREQ(key, "GONE") << "kept for another ps";
+}
+
 TEST_F(ColumnsTest, AnotherInstanceMayHaveStoredFewerColumns) {
   const auto folder = std::filesystem::path(testing::TempDir()) / std::to_string(::getpid());
   PropertyListDomain mine(folder), theirs(folder);

@@ -4,9 +4,11 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QXmlStreamReader>
+#include <chrono>
 #include <filesystem>
 #include <string>
 
+#include "consolidator/ProcessInformationFeederPS.h"
 #include "platform/linux/LinuxTools.h"
 #include "resources/Resources.h"
 #include "support/ConsolidatorTest.h"
@@ -58,6 +60,7 @@ class RealColumnsTest : public ConsolidatorTest {
 
 TEST_F(RealColumnsTest, EveryColumnHasATitleOfItsOwnAndATip) {
   Start();
+  AwaitPSColumns(std::chrono::seconds(20));
   ASSERT_GT(GetPSHeaderCount(), 80);
   QStringList keys{"internal_Icon", "internal_Indicator", "internal_CPUPercent",
                    "internal_MemGraph"};

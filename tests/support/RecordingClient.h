@@ -45,6 +45,10 @@ class RecordingClient : public ProcessInformationClient {
     if (onUpdated) onUpdated();
   }
 
+  void NotifyPSColumnsHaveChanged() override {
+    if (onPSColumns) onPSColumns();
+  }
+
   NeedLevel NeedProcPropertiesForPid(int pid) override {
     if (mEverything) return kNeedAllProcProperties;
     return !mProperties.empty() && Wants(pid) ? kNeedSomeProcProperties : kNeedNoProcProperties;
@@ -60,6 +64,7 @@ class RecordingClient : public ProcessInformationClient {
 
   std::function<void(int)> onRemoved;
   std::function<void()> onUpdated;
+  std::function<void()> onPSColumns;
 
  private:
   bool Wants(int pid) const { return mAllPids || mPids.contains(pid); }

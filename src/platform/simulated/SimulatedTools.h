@@ -19,8 +19,7 @@ class SimulatedTools final : public Tools {
     mLog.Add("Tools.Start " + command);
     if (mIsShort) return nullptr;
     const auto found = mOutputs.find(command);
-    return std::make_unique<Program>(ToolOutput{found == mOutputs.end() ? "" : found->second,
-                                                !mStuckCommands.contains(command)});
+    return std::make_unique<Program>(*this, command, found == mOutputs.end() ? "" : found->second);
   }
 
   void Await(std::span<RunningTool* const>, std::chrono::milliseconds) override {}
@@ -40,7 +39,8 @@ class SimulatedTools final : public Tools {
   void SetOutput(const std::string& command, std::string text) {
     mOutputs[command] = std::move(text);
   }
-  /// The command prints what it is said to print, but never comes to its end.
+  /// The command prints what it is said to print, but does not come to its end before it is stuck
+  /// no more.
   void SetStuck(const std::string& command, bool stuck = true) {
     if (stuck) {
       mStuckCommands.insert(command);
@@ -59,12 +59,15 @@ class SimulatedTools final : public Tools {
  private:
   class Program final : public RunningTool {
    public:
-    explicit Program(ToolOutput output) : mOutput(std::move(output)) {}
-    bool HasEnded() override { return mOutput.complete; }
-    ToolOutput TakeOutput() override { return mOutput; }
+    Program(const SimulatedTools& tools, std::string command, std::string text)
+        : mTools(tools), mCommand(std::move(command)), mText(std::move(text)) {}
+    bool HasEnded() override { return !mTools.mStuckCommands.contains(mCommand); }
+    ToolOutput TakeOutput() override { return {mText, HasEnded()}; }
 
    private:
-    ToolOutput mOutput;
+    const SimulatedTools& mTools;
+    std::string mCommand;
+    std::string mText;
   };
 
   AccessLog& mLog;
