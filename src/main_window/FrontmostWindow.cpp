@@ -62,7 +62,8 @@ bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change) {
     const auto title = window->windowTitle();
     const bool matches = title.startsWith(QLatin1String("Process")) ||
                          title.startsWith(QLatin1String("Lurkwell Pref"));
-    if (!window->isVisible() || !matches) continue;
+    // A minimised one counts as visible with the toolkit; its user has put it away.
+    if (!window->isVisible() || window->isMinimized() || !matches) continue;
     // Whoever works with another program keeps the keyboard, and what is in front.
     if (change == OrderChange::kByUser ||
         QGuiApplication::applicationState() == Qt::ApplicationActive) {

@@ -23,10 +23,10 @@ enum class OrderChange {
   kByItself  ///< a window opened without being asked for
 };
 
-/// Gives the keyboard to the frontmost visible window whose title begins with "Process" or
-/// "Lurkwell Pref", after others have changed the order behind its back. A change that came by
-/// itself takes the keyboard from no other program. False, and nothing changed, when there is no
-/// such window.
+/// Gives the keyboard to the frontmost visible window, minimised ones left out, whose title begins
+/// with "Process" or "Lurkwell Pref", after others have changed the order behind its back. A change
+/// that came by itself takes the keyboard from no other program. False, and nothing changed, when
+/// there is no such window.
 bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change = OrderChange::kByUser);
 
 }  // namespace lurkwell

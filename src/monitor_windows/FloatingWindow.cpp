@@ -7,6 +7,9 @@
 #include <QWindowStateChangeEvent>
 #include <utility>
 
+#include "platform/Machine.h"
+#include "platform/Screen.h"
+
 namespace lurkwell {
 namespace {
 
@@ -42,7 +45,9 @@ class FloatingWindow::Content : public QWidget {
 };
 
 FloatingWindow::FloatingWindow(const QRect& contentBounds, std::uint32_t attributes)
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+    // No tool and no dialog of the toolkit's: it makes those transient, and KWin hides the utility
+    // windows of programs that are not in use.
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                            Qt::WindowDoesNotAcceptFocus),
       mContent(new Content(this)),
       mAttributes(attributes) {
@@ -83,6 +88,7 @@ void FloatingWindow::Tell(WindowEventKind kind) {
 bool FloatingWindow::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::Show:
+      MakeFloating();
       Tell(kEventWindowShowing);
       Tell(kEventWindowDrawContent);
       Tell(kEventWindowShown);
@@ -129,6 +135,11 @@ bool FloatingWindow::event(QEvent* event) {
       break;
   }
   return QWidget::event(event);
+}
+
+void FloatingWindow::MakeFloating() {
+  if (std::exchange(mIsFloating, true)) return;
+  TheMachine().screen.MakeFloating(winId());
 }
 
 void FloatingWindow::HandleStateChange(Qt::WindowStates before) {

@@ -72,6 +72,8 @@ class FloatingWindow final : public QWidget {
 
  private:
   QRect CloseBox() const;
+  /// Asks the desktop to treat it as what it is; before it is shown.
+  void MakeFloating();
   void Tell(WindowEventKind kind);
   void HandleMouse(QEvent& event);
   void HandleStateChange(Qt::WindowStates before);
@@ -81,6 +83,7 @@ class FloatingWindow final : public QWidget {
   Content* mContent = nullptr;
   std::uint32_t mAttributes;
   bool mHovered = false;
+  bool mIsFloating = false;
   bool mPressedCloseBox = false;
   bool mMayDrag = false;
   bool mDragging = false;

@@ -1,7 +1,5 @@
 #include "monitor_windows/ProcessInformationWindow.h"
 
-#include <unistd.h>
-
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -10,7 +8,6 @@
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
-#include "platform/ProcessManager.h"
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
@@ -118,12 +115,9 @@ bool ProcessInformationWindow::AdjustMinimumAndMaximumWindowSizes(Point&, Point&
 // clang-format on
 
 OSStatus ProcessInformationWindow::NotifyGetClickActivation() {
-  auto& machine = TheMachine();
-  if (const auto self = machine.processManager.GetProcessForPID(getpid()))
-    machine.processManager.SetFrontProcess(*self);
   if (mWindow != nullptr) mWindow->raise();
   mBringToFrontTimer = CreateBringToFrontTimerFuncIfNecessary();
-  mBringToFrontTimer->SetNextFireDate(machine.clock.AbsoluteTime());
+  mBringToFrontTimer->SetNextFireDate(TheMachine().clock.AbsoluteTime());
   return eventNotHandledErr;
 }
 
@@ -200,7 +194,8 @@ std::shared_ptr<RunLoopTimer> ProcessInformationWindow::CreateBringToFrontTimerF
 }
 
 void ProcessInformationWindow::BringToFrontTimerFunc() {
-  EnsureThatCocoaWindowIsFrontmostIfPossible();
+  // A graph is looked at, and moved, while one works with another program.
+  EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange::kByItself);
 }
 
 void LocateRectangleForNewWindow(WindowRect* r) {

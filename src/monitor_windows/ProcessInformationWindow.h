@@ -42,8 +42,8 @@ class ProcessInformationWindow {
   virtual OSStatus NotifyDrawContent();
   virtual OSStatus NotifyActivated();
   virtual OSStatus NotifyDeactivated();
-  /// Brings the application and this window forward; on the next turn of the run loop the main
-  /// window or the preferences get the keyboard back.
+  /// Brings this window forward. On the next turn of the run loop the main window or the
+  /// preferences get the keyboard, if it is with this application; another program keeps it.
   virtual OSStatus NotifyGetClickActivation();
   virtual OSStatus NotifyShowing();
   virtual OSStatus NotifyHiding();

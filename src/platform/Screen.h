@@ -16,8 +16,15 @@ class Screen {
   /// Whether windows can be translucent and let the ones behind shine through.
   virtual bool BlendsWindows() = 0;
 
-  /// The window stays above others and is seen whichever desktop is; call it when the window has
-  /// just been shown. Does nothing where the desktop does not know of such windows.
+  /// Makes one of this application's windows, before it is shown for the first time, one that
+  /// floats: no window manager hides it while another program is in use, none gives it the
+  /// keyboard, and it is in no task bar. Does nothing where the desktop does not know of such
+  /// windows.
+  virtual void MakeFloating(std::uint64_t window) = 0;
+
+  /// The window, one of this application's, stays above others and is seen whichever desktop is;
+  /// call it when the window has just been shown. Does nothing where the desktop does not know of
+  /// such windows.
   virtual void KeepInSight(std::uint64_t window) = 0;
 
   /// Whether some other, opaque window hides all of it.

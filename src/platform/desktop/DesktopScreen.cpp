@@ -1,5 +1,7 @@
 #include "platform/desktop/DesktopScreen.h"
 
+#include <xcb/xcb_icccm.h>
+
 #include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -7,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -98,6 +101,42 @@ bool DesktopScreen::BlendsWindows() {
       xcb_get_selection_owner_unchecked(server->Raw(), selection), XConnection::BatchDeadline());
   if (reply) mBlends = reply->owner != XCB_NONE;
   return mBlends;
+}
+
+void DesktopScreen::MakeFloating(std::uint64_t number) {
+  auto* server = Server();
+  if (server == nullptr) return;
+  // The server may not know the window yet: on the toolkit's own connection this comes behind what
+  // made it.
+  const auto* toolkit = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (toolkit == nullptr) return;
+  auto* link = toolkit->connection();
+  const auto window = static_cast<xcb_window_t>(number);
+  const auto write = [&](int mode, const std::string& property, xcb_atom_t type,
+                         std::span<const std::uint32_t> words) {
+    xcb_change_property(link, static_cast<std::uint8_t>(mode), window, AtomNamed(property), type,
+                        32, static_cast<std::uint32_t>(words.size()), words.data());
+  };
+  // Dialogs are the only small windows that no manager hides when another program is in use, as
+  // long as they belong to no other window. What the toolkit writes for a frameless window means
+  // "not managed" to some.
+  write(XCB_PROP_MODE_REPLACE, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM,
+        std::array{AtomNamed("_NET_WM_WINDOW_TYPE_DIALOG")});
+  // The toolkit's windows offer to take the focus, even those that do not accept it; some managers
+  // then look for another window of the application.
+  write(XCB_PROP_MODE_REPLACE, "WM_PROTOCOLS", XCB_ATOM_ATOM,
+        std::array{AtomNamed("WM_DELETE_WINDOW"), AtomNamed("_NET_WM_PING"),
+                   AtomNamed("_NET_WM_SYNC_REQUEST")});
+  write(XCB_PROP_MODE_APPEND, "_NET_WM_STATE", XCB_ATOM_ATOM,
+        std::array{AtomNamed("_NET_WM_STATE_STICKY"), AtomNamed("_NET_WM_STATE_SKIP_TASKBAR"),
+                   AtomNamed("_NET_WM_STATE_SKIP_PAGER")});
+  write(XCB_PROP_MODE_REPLACE, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, std::array{kEveryDesktop});
+  // With the other windows in a group, xfwm4 puts it back among them whenever one of them is
+  // opened.
+  xcb_icccm_wm_hints_t hints{};
+  xcb_icccm_wm_hints_set_input(&hints, 0);
+  xcb_icccm_set_wm_hints(link, window, &hints);
+  xcb_flush(link);
 }
 
 void DesktopScreen::KeepInSight(std::uint64_t window) {

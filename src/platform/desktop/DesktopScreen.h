@@ -26,6 +26,7 @@ class DesktopScreen final : public Screen {
   /// Needs a QGuiApplication; looks once.
   bool UsesOpenGLAcceleration() override;
   bool BlendsWindows() override;
+  void MakeFloating(std::uint64_t window) override;
   void KeepInSight(std::uint64_t window) override;
   bool IsCovered(std::uint64_t window) override;
 

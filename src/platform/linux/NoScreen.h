@@ -9,6 +9,7 @@ class NoScreen final : public Screen {
  public:
   bool UsesOpenGLAcceleration() override { return false; }
   bool BlendsWindows() override { return false; }
+  void MakeFloating(std::uint64_t) override {}
   void KeepInSight(std::uint64_t) override {}
   bool IsCovered(std::uint64_t) override { return false; }
 };

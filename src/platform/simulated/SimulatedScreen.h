@@ -15,6 +15,7 @@ class SimulatedScreen final : public Screen {
     return isAccelerated;
   }
   bool BlendsWindows() override { return blends; }
+  void MakeFloating(std::uint64_t) override { mLog.Add("Screen.MakeFloating"); }
   void KeepInSight(std::uint64_t) override { mLog.Add("Screen.KeepInSight"); }
   bool IsCovered(std::uint64_t) override { return isCovered; }
 
