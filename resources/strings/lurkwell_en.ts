@@ -1683,6 +1683,26 @@
         <source></source>
         <translation>Nothing could be started that shows the help page, %1.</translation>
     </message>
+    <message id="value_not_yet_known">
+        <source></source>
+        <translation>not known yet</translation>
+    </message>
+    <message id="value_not_allowed">
+        <source></source>
+        <translation>not allowed</translation>
+    </message>
+    <message id="value_not_counted">
+        <source></source>
+        <translation>not counted on this system</translation>
+    </message>
+    <message id="main_window_idle_task_tip">
+        <source></source>
+        <translation>The idle task: what it has is the time that the processors had nothing to do.</translation>
+    </message>
+    <message id="main_window_zombie_tip">
+        <source></source>
+        <translation>A zombie: the process has ended, and its parent has not asked for its exit status yet.</translation>
+    </message>
     <message id="main_window_stale_tip">
         <source></source>
         <translation>The last update brought no figures for this column; these are older ones.</translation>

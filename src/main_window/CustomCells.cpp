@@ -14,7 +14,7 @@
 namespace lurkwell {
 namespace {
 
-constexpr int kTextMargin = 4;
+constexpr int kTextMargin = TextCell::kWidthBesideText / 2;
 
 QColor Colour(double red, double green, double blue) {
   return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
@@ -55,9 +55,9 @@ void TextCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const auto rect = option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
   const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
   painter->setFont(option.font);
-  const bool isStale = index.data(vqMainTableController::kIsStaleRole).toBool();
+  const bool isFaint = index.data(vqMainTableController::kIsFaintRole).toBool();
   painter->setPen(
-      option.palette.color(isStale ? QPalette::Disabled : GroupOf(option),
+      option.palette.color(isFaint ? QPalette::Disabled : GroupOf(option),
                            IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
   const auto& metrics = option.fontMetrics;
   const bool fits = metrics.horizontalAdvance(text) <= rect.width();
@@ -78,18 +78,24 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
   }
 }
 
-void CPUCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark) const {
+void CPUCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark,
+                                    bool isIdleTask) const {
   const auto inside = frame.adjusted(3, 3, -3, -3);
   painter.fillRect(inside, isDark ? QColor(72, 76, 84) : QColor(Qt::lightGray));
-  painter.fillRect(BarIn(inside, mCpuPercentage, 1),
-                   isDark ? QColor(94, 158, 255) : QColor(Qt::blue));
+  const auto bar = BarIn(inside, mCpuPercentage, 1);
+  if (isIdleTask)
+    painter.fillRect(bar,
+                     QBrush(isDark ? QColor(120, 124, 132) : QColor(Qt::gray), Qt::BDiagPattern));
+  else
+    painter.fillRect(bar, isDark ? QColor(94, 158, 255) : QColor(Qt::blue));
 }
 
 void CPUCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                     const QModelIndex& index) const {
   DrawBackground(*painter, option);
   mCpuPercentage = index.data(vqMainTableController::kCpuShareRole).toDouble();
-  drawInteriorWithFrame(*painter, option.rect, IsDark(option.palette));
+  drawInteriorWithFrame(*painter, option.rect, IsDark(option.palette),
+                        index.data(vqMainTableController::kIsIdleTaskRole).toBool());
 }
 
 void MemGraphCell::DrawText(QPainter& painter, const QRect& frame, const QPalette& palette) const {

@@ -8,9 +8,15 @@ namespace lurkwell {
 /// The drawing of the table's cells; one of each kind serves all rows. Values are set right before
 /// drawing. Colours follow the palette where it is dark. Main thread only.
 
-/// One line of text, cut at the end, with the selection behind it.
+/// One line of text, cut at the end, with the selection behind it; what is old, ended or missing
+/// stands in a fainter colour.
 class TextCell final : public QStyledItemDelegate {
+  Q_OBJECT
+
  public:
+  /// The margins at both sides, and the grid line, in points.
+  static constexpr int kWidthBesideText = 9;
+
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
 };
@@ -25,14 +31,16 @@ class ImageCell final : public QStyledItemDelegate {
              const QModelIndex& index) const override;
 };
 
-/// A share of one CPU as a bar from the left; an idle process has a sliver of one point.
+/// A share of one CPU as a bar from the left; an idle process has a sliver of one point. What the
+/// idle task has is the share that nobody wanted: faint stripes.
 class CPUCell final : public QStyledItemDelegate {
  public:
   double cpuPercent() const { return mCpuPercentage; }
   /// From 0 to 1.
   void setCpuPercent(double share) { mCpuPercentage = share; }
 
-  void drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark) const;
+  void drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark,
+                             bool isIdleTask = false) const;
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
 

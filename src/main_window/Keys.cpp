@@ -42,13 +42,14 @@ bool IsInternalKey(std::string_view key) {
 
 const KeyId kMetaPid = InternKey("meta_pid");
 const KeyId kMetaName = InternKey("meta_name");
+const KeyId kPidCommandName = InternKey("pid_p_comm");
 const KeyId kMetaActiveTime = InternKey("meta_active_time");
 const KeyId kInternalIcon = InternKey("internal_Icon");
 const KeyId kInternalIndicator = InternKey("internal_Indicator");
 const KeyId kInternalCPUPercent = InternKey("internal_CPUPercent");
 const KeyId kInternalMemGraph = InternKey("internal_MemGraph");
 const KeyId kInternalCpuUsage = InternKey("internal_cpu_usage");
-const KeyId kInternalRsz = InternKey("internal_rsz");
-const KeyId kInternalVsz = InternKey("internal_vsz");
+const KeyId kPidRsz = InternKey("pid_rsz");
+const KeyId kPidVsz = InternKey("pid_vsz");
 
 }  // namespace lurkwell

@@ -26,12 +26,13 @@ bool IsInternalKey(std::string_view key);
 extern const KeyId kMetaPid;
 extern const KeyId kMetaName;
 extern const KeyId kMetaActiveTime;
+extern const KeyId kPidCommandName;
 extern const KeyId kInternalIcon;
 extern const KeyId kInternalIndicator;
 extern const KeyId kInternalCPUPercent;
 extern const KeyId kInternalMemGraph;
 extern const KeyId kInternalCpuUsage;
-extern const KeyId kInternalRsz;
-extern const KeyId kInternalVsz;
+extern const KeyId kPidRsz;
+extern const KeyId kPidVsz;
 
 }  // namespace lurkwell

@@ -24,8 +24,13 @@ constexpr int kSmallestPidWidth = 45;
 constexpr int kSmallestNameWidth = 220;
 constexpr int kSmallestBarWidth = 110;
 
+/// Of sizes, times and shares one wants to see the largest.
 char DefaultDirection(std::string_view key) {
-  return key == KeyText(kInternalCPUPercent) ? 0 : 1;
+  if (key == KeyText(kInternalCPUPercent) || key == KeyText(kInternalMemGraph)) return 0;
+  const auto type = GetProcPropertyType(std::string(key).c_str(), nullptr);
+  const bool isDescending =
+      type == kPropertyTypeMemory || type == kPropertyTypeTime || type == kPropertyTypeReal;
+  return isDescending ? 0 : 1;
 }
 
 bool IsPicture(KeyId key) {
@@ -245,7 +250,8 @@ void vqMainTableController::addColumnToMainTable(KeyId key) {
 int vqMainTableController::widthForColumn(KeyId key, const QString& title) const {
   if (IsPicture(key)) return kPictureWidth;
   const auto metrics = fTable->horizontalHeader()->fontMetrics();
-  const int width = metrics.horizontalAdvance(title) + kWidthBesideTitle;
+  const int width = std::max(metrics.horizontalAdvance(title) + kWidthBesideTitle,
+                             stripedTable()->header().widthForTitle(title));
   if (key == kMetaPid) return std::max(width, kSmallestPidWidth);
   if (key == kMetaName) return std::max(width, kSmallestNameWidth);
   const bool isBar = key == kInternalCPUPercent || key == kInternalMemGraph;

@@ -9,9 +9,10 @@ RowDictionary* ProcessRows::Find(std::int32_t pid) const {
   return found == mByPid.end() ? nullptr : found->second.get();
 }
 
-RowDictionary& ProcessRows::Add(std::int32_t pid, RowValues& sortable) {
+RowDictionary& ProcessRows::Add(std::int32_t pid) {
   auto& row = mByPid[pid];
-  row = std::make_unique<RowDictionary>(pid, sortable);
+  row = std::make_unique<RowDictionary>(pid);
+  mHaveComeOrGone = true;
   mAll.push_back(row.get());
   return *row;
 }
@@ -20,6 +21,7 @@ void ProcessRows::Remove(std::int32_t pid) {
   const auto found = mByPid.find(pid);
   if (found == mByPid.end()) return;
   found->second->isDeparted = true;
+  mHaveComeOrGone = true;
   mDeparted.push_back(std::move(found->second));
   mByPid.erase(found);
 }
@@ -89,6 +91,7 @@ void ProcessRows::Commit(const std::function<bool(const RowDictionary&)>& isShow
   Place(order);
   DropTail(mShown.size() - wanted);
   mDeparted.clear();
+  mHaveComeOrGone = false;
   CommitCells();
 }
 
@@ -100,7 +103,8 @@ void ProcessRows::CommitCells() {
     if (first < 0) first = static_cast<int>(i);
     last = static_cast<int>(i);
   }
-  if (first >= 0) mAnnouncer.CellsChanged(first, last);
+  if (first < 0) return;
+  mAnnouncer.CellsChanged(first, last);
   for (auto* row : mShown) row->SetChanged(false);
 }
 

@@ -36,13 +36,15 @@ class ProcessRows {
   /// The process's row, or null; constant time.
   RowDictionary* Find(std::int32_t pid) const;
   /// Appends a row for a process that has none.
-  RowDictionary& Add(std::int32_t pid, RowValues& sortable);
+  RowDictionary& Add(std::int32_t pid);
   void Remove(std::int32_t pid);
   void RemoveAll();
   void TidyUp();
   const std::vector<RowDictionary*>& All() const { return mAll; }
   /// To put them into another order. Ended ones are among them until TidyUp or Commit.
   std::vector<RowDictionary*>& All() { return mAll; }
+  /// Whether a row came or went since the last commit.
+  bool HaveComeOrGone() const { return mHaveComeOrGone; }
 
   // ---- What the view has ------------------------------------------------------------------------
 
@@ -67,6 +69,7 @@ class ProcessRows {
   std::vector<RowDictionary*> mShown;
   /// Ended, but the view may still have them.
   std::vector<std::unique_ptr<RowDictionary>> mDeparted;
+  bool mHaveComeOrGone = false;
 };
 
 }  // namespace lurkwell

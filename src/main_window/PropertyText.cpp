@@ -1,51 +1,43 @@
 #include "main_window/PropertyText.h"
 
-#include <charconv>
-#include <cmath>
-
-#include "consolidator/TextScan.h"
+#include "main_window/RowDictionary.h"
 #include "platform/PrintableText.h"
 #include "process_control/DisplayFormats.h"
+#include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {
 
-/// With a point, whatever the user's language; what is no finite number counts as 0.
-double ReadReal(std::string_view text) {
-  SkipBlanks(text);
-  double value = 0.0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return std::isfinite(value) ? value : 0.0;
-}
-
-}  // namespace
-
-RowValue ReadValue(PropertyType type, std::string_view text) {
-  switch (type) {
-    case kPropertyTypeString:
-      return std::string(WithoutNewline(text));
-    case kPropertyTypeInteger:
-    case kPropertyTypeMemory:
-      return ScanInteger(text).value_or(0);
-    case kPropertyTypeReal:
-      return ReadReal(text);
-    case kPropertyTypeTime:
-    case kPropertyTypeDate:
-      return ReadTime(text);
-    case kPropertyTypeHex:
+QString MarkOf(Missing why) {
+  switch (why) {
+    case Missing::kNotYetKnown:
+      return QStringLiteral("…");
+    case Missing::kNotAllowed:
+      return QStringLiteral("×");
+    case Missing::kNotCounted:
+      return QStringLiteral("–");
+    case Missing::kNone:
       break;
   }
   return {};
 }
 
-RowValue ReadPSValue(PropertyType type, std::string_view text) {
-  const auto raw = WithoutNewline(text);
-  std::string_view digits = raw.substr(raw.starts_with('-') ? 1 : 0);
-  if (type == kPropertyTypeReal) digits = digits.substr(0, digits.find('.'));
-  const bool isDecimal = !digits.empty() &&
-                         digits.find_first_not_of("0123456789") == std::string_view::npos &&
-                         (digits.size() == 1 || digits.front() != '0');
-  return isDecimal ? ReadValue(type, raw) : ReadValue(kPropertyTypeString, raw);
+}  // namespace
+
+QString MissingText(const TypedValue& value) {
+  const auto* why = std::get_if<Missing>(&value);
+  if (why == nullptr) return {};
+  switch (*why) {
+    case Missing::kNotYetKnown:
+      return LocalizedString("value_not_yet_known");
+    case Missing::kNotAllowed:
+      return LocalizedString("value_not_allowed");
+    case Missing::kNotCounted:
+      return LocalizedString("value_not_counted");
+    case Missing::kNone:
+      break;
+  }
+  return {};
 }
 
 QString TimeText(TimeValue time) {
@@ -60,8 +52,8 @@ QString PlainText(std::string_view text) {
   return QString::fromStdString(PrintableText(text));
 }
 
-QString DisplayText(PropertyType type, const RowValue& value, int width, std::int32_t pid) {
-  if (std::holds_alternative<std::monostate>(value)) return {};
+QString DisplayText(PropertyType type, const TypedValue& value, int width, std::int32_t pid) {
+  if (const auto* why = std::get_if<Missing>(&value)) return MarkOf(*why);
   if (const auto* text = std::get_if<std::string>(&value)) return PlainText(*text);
   switch (type) {
     case kPropertyTypeInteger:

@@ -5,20 +5,12 @@
 #include <string_view>
 
 #include "consolidator/PropertyTypes.h"
-#include "main_window/RowDictionary.h"
+#include "consolidator/TypedValue.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
 
-/// From the consolidator's texts to values, and from values to what the user reads.
-
-/// The value of a property of that type; nothing for hexadecimal ones, which no table shows.
-/// Numbers that do not parse count as 0.
-RowValue ReadValue(PropertyType type, std::string_view text);
-
-/// The same for a column of ps. Where its type says number and ps prints none, or one that is not
-/// decimal ("-", a mask of signals), the value is the text.
-RowValue ReadPSValue(PropertyType type, std::string_view text);
+/// From values to what the user reads. Main thread.
 
 /// A span of time without its trailing zeros, but with two digits behind the point at least:
 /// 12.34, 12.50, 12.00, 3.1415.
@@ -28,7 +20,12 @@ QString TimeText(TimeValue time);
 QString PlainText(std::string_view text);
 
 /// What a cell shows. `width` is the column's, in characters, which dates are fitted to. Dates of
-/// made-up processes (`pid` below 0) are not shown.
-QString DisplayText(PropertyType type, const RowValue& value, int width, std::int32_t pid);
+/// made-up processes (`pid` below 0) are not shown. What is missing has a mark that no value has:
+/// three dots when it is not known yet, a cross when it is not allowed, a dash when it is not
+/// counted; where there is nothing of the kind, nothing.
+QString DisplayText(PropertyType type, const TypedValue& value, int width, std::int32_t pid);
+
+/// The same mark in words, for tooltips, speech and copies; empty for a value.
+QString MissingText(const TypedValue& value);
 
 }  // namespace lurkwell

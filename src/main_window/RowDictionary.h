@@ -4,18 +4,17 @@
 #include <cstdint>
 #include <string>
 #include <utility>
-#include <variant>
 #include <vector>
 
+#include "consolidator/TypedValue.h"
 #include "main_window/Keys.h"
-#include "platform/ProcessIdentity.h"
+#include "platform/ProcessTable.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
 
-/// One value of a row as it was read; nothing where there is none. Texts are the process's own
-/// bytes: whoever shows one makes it printable first.
-using RowValue = std::variant<std::monostate, std::int64_t, double, TimeValue, std::string>;
+/// One value of a row as it was read, or why there is none: shown, sorted and drawn alike.
+using RowValue = TypedValue;
 
 /// Values by key. Reading costs an array access.
 class RowValues {
@@ -57,31 +56,37 @@ struct RowIcon {
 /// One process in the table. Belongs to the table's controller; main thread only.
 class RowDictionary {
  public:
-  /// `sortable` receives what sorting compares where the shown value will not do, and outlives
-  /// this.
-  RowDictionary(std::int32_t pid, RowValues& sortable) : mPid(pid), mSortable(sortable) {
-    Set(kMetaPid, std::int64_t{pid});
-  }
+  explicit RowDictionary(std::int32_t pid) : mPid(pid) { Set(kMetaPid, std::int64_t{pid}); }
 
   /// The process that the row was made for; meta_pid says the same.
   std::int32_t Pid() const { return mPid; }
 
   const RowValue& Get(KeyId key) const { return mValues.Get(key); }
-  void Set(KeyId key, RowValue value) {
-    if (mValues.Set(key, std::move(value))) mChanged = true;
+  /// True when the value is another one than before.
+  bool Set(KeyId key, RowValue value) {
+    if (!mValues.Set(key, std::move(value))) return false;
+    return mChanged = true;
   }
 
-  RowValues& Sortable() { return mSortable; }
-  const RowValues& Sortable() const { return mSortable; }
-
+  /// The record's stamp when the row was read last; see ProcessGlance.
+  std::uint64_t changeStamp = 0;
   CPUReading cpuReading;
   RowIcon icon;
 
   /// The name of the badge that marks the process, null for none; one of a few literals.
-  void SetIndicator(const char* name) {
-    if (std::exchange(mIndicator, name) != name) mChanged = true;
+  /// True when it is another one than before.
+  bool SetIndicator(const char* name) {
+    if (std::exchange(mIndicator, name) == name) return false;
+    return mChanged = true;
   }
   const char* Indicator() const { return mIndicator; }
+
+  /// An ended process that its parent has not asked after looks different.
+  void SetRunState(RunState state) {
+    if ((std::exchange(mRunState, state) == RunState::kZombie) != (state == RunState::kZombie))
+      mChanged = true;
+  }
+  bool IsZombie() const { return mRunState == RunState::kZombie; }
 
   /// Whether it looks different from when it was last drawn or announced.
   bool HasChanged() const { return mChanged; }
@@ -95,8 +100,8 @@ class RowDictionary {
  private:
   std::int32_t mPid;
   RowValues mValues;
-  RowValues& mSortable;
   const char* mIndicator = nullptr;
+  RunState mRunState = RunState::kSleeping;
   bool mChanged = true;
 };
 

@@ -20,25 +20,18 @@ int Order(const T& a, const T& b, const compareContextStructure& context) {
   return context.ascending ? order : -order;
 }
 
-/// A missing value is smaller than any, and a text in the place of a number than any number.
 template <typename T>
 int OrderOfValues(const SortedRow& a, const SortedRow& b, T SortedRow::*value,
                   const compareContextStructure& context) {
-  if (a.isMissing || b.isMissing) return Order(!a.isMissing, !b.isMissing, context);
-  if (a.isText != b.isText) return Order(!a.isText, !b.isText, context);
+  if (a.isMissing != b.isMissing) return a.isMissing ? 1 : -1;
+  if (a.isMissing) return 0;
+  if (a.isText != b.isText) return a.isText ? 1 : -1;
   if (a.isText) return Order(a.text, b.text, context);
   return Order(a.*value, b.*value, context);
 }
 
 /// Reads what one comparison needs of every row.
 using Preparation = void (*)(SortedRow& row, const compareContextStructure& context);
-
-std::string PropertyOf(std::int32_t pid, const char* property) {
-  char text[255];
-  bool found = false;
-  GetPIDPropertyValue(pid, property, text, sizeof text, &found);
-  return found ? text : std::string();
-}
 
 QString Folded(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toCaseFolded();
@@ -51,7 +44,7 @@ void PrepareText(SortedRow& row, const compareContextStructure& context) {
 }
 
 void SetNumber(SortedRow& row, const RowValue& value) {
-  row.isMissing = std::holds_alternative<std::monostate>(value);
+  row.isMissing = !IsKnown(value);
   row.integer = IntegerOf(value);
   row.number = NumberOf(value);
   if (const auto* text = std::get_if<std::string>(&value)) {
@@ -64,26 +57,23 @@ void PrepareNumber(SortedRow& row, const compareContextStructure& context) {
   SetNumber(row, row.row->Get(context.sortKey));
 }
 
-void PrepareSortable(SortedRow& row, const compareContextStructure& context) {
-  SetNumber(row, row.row->Sortable().Get(context.sortKey));
-}
-
 void PrepareCPUPercent(SortedRow& row, const compareContextStructure&) {
-  row.number = NumberOf(row.row->Sortable().Get(kInternalCPUPercent));
+  row.number = NumberOf(row.row->Get(kInternalCpuUsage));
   if (row.pid == 0 && IgnoresPidZero()) row.number = 0.0;
 }
 
 void PrepareVirtualSize(SortedRow& row, const compareContextStructure&) {
-  const auto text = PropertyOf(row.row->Pid(), "pid_vsz");
-  row.integer = std::strtoll(text.c_str(), nullptr, 10);
+  row.integer = IntegerOf(row.row->Get(kPidVsz));
   if (row.pid == 0 && IgnoresPidZero()) row.integer = 0;
 }
 
 void PrepareApplication(SortedRow& row, const compareContextStructure&) {
-  const auto psn = PropertyOf(row.row->Pid(), "meta_psn");
-  row.hasApplication = !psn.empty() && psn != "00000000 00000000";
+  ProcessSerialNumber psn;
+  PID2PSN(row.row->Pid(), &psn);
+  row.hasApplication = !psn.IsNone();
   row.hasAction = GetProcessAction(row.row->Pid(), kProcessActionAny, nullptr);
-  row.text = Folded(PropertyOf(row.row->Pid(), "meta_name"));
+  if (const auto* name = std::get_if<std::string>(&row.row->Get(kMetaName)))
+    row.text = Folded(*name);
 }
 
 struct Comparison {
@@ -96,8 +86,8 @@ constexpr Comparison kComparisons[] = {
     {stringCompare, PrepareText},
     {integerCompare, PrepareNumber},
     {realCompare, PrepareNumber},
-    {memoryCompare, PrepareSortable},
-    {timeCompare, PrepareSortable},
+    {memoryCompare, PrepareNumber},
+    {timeCompare, PrepareNumber},
     {cpuPercentCompare, PrepareCPUPercent},
     {memGraphCompare, PrepareVirtualSize},
     {iconCompare, PrepareApplication},
@@ -170,7 +160,7 @@ int memoryCompare(const SortedRow& a, const SortedRow& b, const compareContextSt
 }
 
 int timeCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {
-  const int order = Order(a.number, b.number, context);
+  const int order = OrderOfValues(a, b, &SortedRow::number, context);
   return order != 0 ? order : pidCompare(a, b, context);
 }
 

@@ -6,13 +6,13 @@
 #include <string_view>
 #include <vector>
 
-#include "main_window/InternalRepresentations.h"
 #include "main_window/RowDictionary.h"
 
 namespace lurkwell {
 
 /// Orders rows by one column. Rows that compare the same are ordered by pid, in the direction of
-/// the sort, so every order is complete; missing values are smaller than any. Main thread only.
+/// the sort, so every order is complete. What is missing comes last in both directions, and before
+/// it texts where numbers are to be expected. Main thread only.
 
 /// What a comparison may know besides the two rows.
 struct compareContextStructure {
@@ -45,7 +45,7 @@ int stringCompare(const SortedRow& a, const SortedRow& b, const compareContextSt
 int integerCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
 int realCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
 int memoryCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
-/// Spans and dates; a missing one counts as 0.
+/// Spans and dates.
 int timeCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
 /// The idle task counts as 0, unless MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE is 0; so for the
 /// next one. Two of them cannot be ("pid1 || pid2").

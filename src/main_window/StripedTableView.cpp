@@ -16,6 +16,9 @@ StripedTableView* gTheStripedTableView = nullptr;
 
 namespace {
 
+/// A column that is fitted to its texts may become so wide in a narrow window, too.
+constexpr int kMostFittedCharacters = 40;
+
 QColor EvenStripe(const QPalette& palette) {
   if (!IsDark(palette)) return QColor::fromRgbF(0.929F, 0.953F, 0.996F);
   const auto base = palette.color(QPalette::Base);
@@ -49,12 +52,7 @@ StripedTableView::StripedTableView(QWidget* parent) : QTableView(parent) {
   rows.setSectionResizeMode(QHeaderView::Fixed);
   rows.setMinimumSectionSize(1);
   rows.setDefaultSectionSize(std::max(fontMetrics().height() + 4, ImageCell::kSize + 4));
-  auto& columns = *horizontalHeader();
-  columns.setSectionsMovable(true);
-  columns.setSectionsClickable(true);
-  columns.setHighlightSections(false);
-  columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  columns.setMinimumSectionSize(20);
+  setHorizontalHeader(new TableHeader(this));
 }
 
 StripedTableView::~StripedTableView() {
@@ -140,6 +138,24 @@ void StripedTableView::keyboardSearch(const QString& search) {
     if (!RowMatches(row, mSearched)) continue;
     return SelectAlone(row);
   }
+}
+
+TableHeader& StripedTableView::header() const {
+  return *static_cast<TableHeader*>(horizontalHeader());
+}
+
+int StripedTableView::sizeHintForColumn(int column) const {
+  const auto* cell = qobject_cast<const TextCell*>(itemDelegateForIndex(model()->index(0, column)));
+  if (cell == nullptr || model()->rowCount() == 0) return QTableView::sizeHintForColumn(column);
+  int longest = 0;
+  for (int row = 0; row < model()->rowCount(); ++row) {
+    const auto text = model()->index(row, column).data(Qt::DisplayRole).toString();
+    longest = std::max(longest, fontMetrics().horizontalAdvance(text));
+  }
+  // Command lines are longer than any screen.
+  const int most =
+      std::max(viewport()->width() / 2, kMostFittedCharacters * fontMetrics().averageCharWidth());
+  return std::min(longest + TextCell::kWidthBesideText, most);
 }
 
 // ---- Drawing ------------------------------------------------------------------------------------

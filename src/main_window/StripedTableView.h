@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QHeaderView>
 #include <QMenu>
 #include <QPointer>
 #include <QTableView>
+
+#include "main_window/TableHeader.h"
 
 namespace lurkwell {
 
@@ -21,6 +22,8 @@ class StripedTableView : public QTableView {
   explicit StripedTableView(QWidget* parent = nullptr);
   ~StripedTableView() override;
 
+  TableHeader& header() const;
+
   /// The context menu; belongs to whoever made it.
   void setContextMenu(QMenu* menu) { fMenu = menu; }
 
@@ -36,6 +39,9 @@ class StripedTableView : public QTableView {
   /// Repaints what the rows between show differently, as far as it can be seen.
   void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                    const QList<int>& roles = {}) override;
+
+  /// The longest of all texts, up to half of the table.
+  int sizeHintForColumn(int column) const override;
 
   void keyboardSearch(const QString& search) override;
 

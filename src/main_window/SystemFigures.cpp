@@ -4,7 +4,6 @@
 #include <cstdio>
 
 #include "consolidator/PI_Consolidator.h"
-#include "consolidator/TextScan.h"
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"
@@ -41,19 +40,16 @@ double MachineUsage::Take() {
   const auto now = TheMachine().clock.Now();
   const double elapsed =
       std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdate, now)) / 1000.0);
-  char text[64];
-  bool found = false;
-  if (!GetPIDPropertyValue(0, "meta_active_time", text, sizeof text, &found) || !found) {
+  const auto idle = ActiveTimeOf(0);
+  if (!idle) {
     std::puts("perhaps the permissions aren't set 'cuz I'm not seeing pid zero.");
     return 0.0;
   }
   if (!AreCPUTimesFresh(0)) return mUsage;
   mLastUpdate = now;
-  const auto idle = ReadTime(text);
-  if (mLastIdleTime.IsZero()) mLastIdleTime = idle;
-  const double delta = static_cast<double>(idle.seconds - mLastIdleTime.seconds) +
-                       (idle.microseconds - mLastIdleTime.microseconds) / 1e6;
-  mLastIdleTime = idle;
+  if (mLastIdleTime.IsZero()) mLastIdleTime = *idle;
+  const double delta = SecondsBetween(mLastIdleTime, *idle);
+  mLastIdleTime = *idle;
   mUsage = 1.0 - delta / (elapsed * TheMachine().hostStatistics.Processors());
   return mUsage;
 }

@@ -2,13 +2,13 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
-#include "main_window/PropertyText.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -27,22 +27,20 @@ namespace {
 
 constexpr char kSynchUnit[] = "VQTarvMainWindowInfoSynch";
 
-/// A property's text in a buffer that is used over and over; nothing for a process that is gone.
-class PropertyReader {
- public:
-  /// Null when there is no such process.
-  const char* Read(std::int32_t pid, const char* key) {
-    bool found = false;
-    mHasValue = GetPIDPropertyValue(pid, key, mText, sizeof mText, &found);
-    return found ? mText : nullptr;
-  }
-  /// Whether what was read last is a value rather than a note that there is none.
-  bool HasValue() const { return mHasValue; }
+/// Read of every process, shown or not: for the bars, the filter, questions and two sorts.
+const std::array<KeyId, 3>& AlwaysRead() {
+  static const std::array<KeyId, 3> keys{kMetaName, kPidRsz, kPidVsz};
+  return keys;
+}
 
- private:
-  char mText[255];
-  bool mHasValue = false;
-};
+/// What the order of the rows depends on when they are sorted by a column; kNoKey for the badges,
+/// which are no values.
+KeyId SortedBy(KeyId column) {
+  if (column == kInternalCPUPercent) return kInternalCpuUsage;
+  if (column == kInternalMemGraph) return kPidVsz;
+  if (column == kInternalIcon) return kMetaName;
+  return column == kInternalIndicator ? kNoKey : column;
+}
 
 }  // namespace
 
@@ -70,8 +68,6 @@ void VQTarvMainWindowInfoSynch::HookIntoConsolidator() {
   mPreviousPageouts.reset();
   mFilteredPageouts = 0.0;
   AddProcessInformationClient(this);
-  mOwner.internalRepresentations().KeepOnly(
-      [this](std::int32_t pid) { return mOwner.rows().Find(pid) != nullptr; });
   gNSMainWindow = mOwner.window();
   mOwner.commitChanges();
   RequestUpdate(this);
@@ -112,150 +108,110 @@ void VQTarvMainWindowInfoSynch::setCPUDelta(RowDictionary& row, TimeValue active
   if (!reading.internal_last_wall_time.IsZero())
     wall = std::max(SecondsBetween(reading.internal_last_wall_time, now), 0.01);
   const double share = std::clamp(active / wall, 0.0, 1.0);
-  row.Set(kInternalCpuUsage, share);
-  row.Sortable().Set(kInternalCPUPercent, share);
+  Set(row, kInternalCpuUsage, share);
+}
+
+void VQTarvMainWindowInfoSynch::Set(RowDictionary& row, KeyId key, RowValue value) {
+  if (row.Set(key, std::move(value)) && key == mSortedBy) mOwner.setNeedsResort();
 }
 
 void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyId key, int pid) {
   const char* name = KeyText(key).data();
   if (IsInternalKey(name)) return;
-  const bool isPSColumn = FindBuiltInProperty(name) == nullptr;
-  // A remembered column that ps has not told of so far.
-  if (isPSColumn && !IsKnownProcProperty(name)) return;
-  PropertyReader reader;
-  const char* text = reader.Read(pid, name);
-  // ps has no line for every process, and not every column has come yet.
-  if (text == nullptr || (!reader.HasValue() && isPSColumn)) return;
   const auto type = GetProcPropertyType(name, nullptr);
   if (type == kPropertyTypeHex) {
     mHexadecimalWasMet = true;
     return;
   }
   if (type == kPropertyTypeDate && pid < 0) return;
-  auto value = isPSColumn ? ReadPSValue(type, text) : ReadValue(type, text);
-  if (type == kPropertyTypeMemory || type == kPropertyTypeTime || type == kPropertyTypeDate)
-    row.Sortable().Set(key, value);
-  row.Set(key, std::move(value));
+  Set(row, key, GetPIDPropertyTypedValue(pid, name));
 }
 
 void VQTarvMainWindowInfoSynch::UpdateAllFields(RowDictionary& row, int pid) {
-  for (const KeyId key : mOwner.keysWeTrackForUI()) UpdateSingleFieldForPid(row, key, pid);
-}
-
-void VQTarvMainWindowInfoSynch::FindBiggestVSZ() {
-  const bool ignoresPidZero = IgnoresPidZero();
-  gBiggestVSZ = 0;
-  PropertyReader reader;
-  for (const std::int32_t pid : PidBlob()) {
-    const char* text = reader.Read(pid, "pid_vsz");
-    if (text == nullptr) {
-      std::printf("ACK! %d DOES NOT EXIST OR SOMETHING!!!\n", pid);
-      continue;
-    }
-    const auto size = IntegerOf(ReadValue(kPropertyTypeInteger, text));
-    // The row's own figure is the same one; it is not read twice.
-    if (auto* row = mOwner.rows().Find(pid)) row->Set(kInternalVsz, size);
-    if (pid == 0 && ignoresPidZero) continue;
-    gBiggestVSZ = std::max(gBiggestVSZ, size);
-  }
+  row.changeStamp = GlanceAt(pid).changeStamp;
+  for (const KeyId key : AlwaysRead()) UpdateSingleFieldForPid(row, key, pid);
+  for (const KeyId key : mOwner.keysWeTrackForUI())
+    if (std::ranges::find(AlwaysRead(), key) == AlwaysRead().end())
+      UpdateSingleFieldForPid(row, key, pid);
 }
 
 void VQTarvMainWindowInfoSynch::RefreshBars() {
-  const bool drewText = gDrawVSZText;
-  const auto biggest = gBiggestVSZ;
-  gDrawVSZText = DrawsVSZText();
-  mOwner.rows().TidyUp();
-  FindBiggestVSZ();
-  PropertyReader reader;
+  const bool drewText = std::exchange(gDrawVSZText, DrawsVSZText());
+  const auto biggest = std::exchange(gBiggestVSZ, 0);
+  const bool ignoresPidZero = IgnoresPidZero();
   for (auto* row : mOwner.rows().All()) {
-    if (const char* text = reader.Read(row->Pid(), "pid_rsz"))
-      row->Set(kInternalRsz, ReadValue(kPropertyTypeInteger, text));
-    row->SetIndicator(ProcessIndicatorImageName(row->Pid()));
+    if (row->SetIndicator(ProcessIndicatorImageName(row->Pid()))) {
+      mOwner.noteFactsHaveChanged();
+      if (mSortedBy == kNoKey) mOwner.setNeedsResort();
+    }
+    if (row->Pid() != 0 || !ignoresPidZero)
+      gBiggestVSZ = std::max(gBiggestVSZ, IntegerOf(row->Get(kPidVsz)));
   }
   // Every bar is measured by the biggest.
   if (drewText != gDrawVSZText || biggest != gBiggestVSZ) mOwner.memoryBarsHaveChanged();
 }
 
-void VQTarvMainWindowInfoSynch::UpdateCPUShares() {
-  const auto now = TheMachine().clock.Now();
-  for (auto* row : mOwner.rows().All()) {
-    const auto activeTime = ActiveTimeOf(row->Pid());
-    if (!activeTime) continue;
-    // Without a reading the share stays, and the next one is of all the time since the last.
-    const auto& reading = row->cpuReading;
-    if (!reading.internal_current_active_time.IsZero() && !AreCPUTimesFresh(row->Pid())) continue;
-    setCPUDelta(*row, *activeTime, now);
-    row->Set(kMetaActiveTime, *activeTime);
-    row->Sortable().Set(kMetaActiveTime, *activeTime);
+void VQTarvMainWindowInfoSynch::RefreshRow(RowDictionary& row, TimeValue now) {
+  const auto glance = GlanceAt(row.Pid());
+  if (glance.changeStamp == 0) {
+    std::printf("ACK! %d DOES NOT EXIST OR SOMETHING!!!\n", row.Pid());
+    return;
   }
+  // Without a reading the share stays, and the next one is of all the time since the last.
+  if (glance.timesAreFresh) setCPUDelta(row, glance.activeTime, now);
+  if (row.changeStamp == glance.changeStamp && !gNewColumnWasAddedRecently) return;
+  row.SetRunState(glance.runState);
+  UpdateAllFields(row, row.Pid());
+}
+
+void VQTarvMainWindowInfoSynch::RefreshRows() {
+  const auto now = TheMachine().clock.Now();
+  mSortedBy = SortedBy(mOwner.sortColumn());
+  mOwner.rows().TidyUp();
+  for (auto* row : mOwner.rows().All()) RefreshRow(*row, now);
+  RefreshBars();
 }
 
 void VQTarvMainWindowInfoSynch::BeepForHexadecimals() {
   if (std::exchange(mHexadecimalWasMet, false)) QApplication::beep();
 }
 
-void VQTarvMainWindowInfoSynch::UpdateChangingFields() {
-  for (const KeyId key : mOwner.keysWeTrackForUI()) {
-    const char* name = KeyText(key).data();
-    // The active time has just been read.
-    if (IsInternalKey(name) || key == kMetaActiveTime) continue;
-    int changes = 0;
-    GetProcPropertyType(name, &changes);
-    const bool all = changes != 0 || gNewColumnWasAddedRecently;
-    // What stays may come late all the same: a column of ps after its row.
-    if (!all && FindBuiltInProperty(name) != nullptr) continue;
-    for (auto* row : mOwner.rows().All())
-      if (all || std::holds_alternative<std::monostate>(row->Get(key)))
-        UpdateSingleFieldForPid(*row, key, row->Pid());
-  }
-}
-
 void VQTarvMainWindowInfoSynch::NotifyPSColumnsHaveChanged() {
   mOwner.showColumnsThatCame();
-  bool isSorted = false;
+  mSortedBy = SortedBy(mOwner.sortColumn());
   for (const KeyId key : mOwner.keysWeTrackForUI()) {
     const char* name = KeyText(key).data();
     if (IsInternalKey(name) || FindBuiltInProperty(name) != nullptr) continue;
     for (auto* row : mOwner.rows().All()) UpdateSingleFieldForPid(*row, key, row->Pid());
-    if (key == mOwner.sortColumn()) isSorted = true;
   }
   mOwner.noteFreshColumns();
-  if (isSorted) mOwner.setNeedsResort();
-  mOwner.triggerReload();
+  mOwner.commitChanges();
 }
 
 void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
-  RefreshBars();
-  UpdateCPUShares();
-  UpdateChangingFields();
+  RefreshRows();
   gNewColumnWasAddedRecently = false;
   mOwner.noteStaleColumns();
   mOwner.showColumnsThatCame();
   BeepForHexadecimals();
-  if (mOwner.sortColumn() != kNoKey) {
-    int changes = 0;
-    const char* name = KeyText(mOwner.sortColumn()).data();
-    GetProcPropertyType(name, &changes);
-    if (changes != 0) mOwner.setNeedsResort();
-  }
   mFigures = ReadSystemFigures();
   UpdateSystemInfoToolbarItemCPU();
   UpdateSystemInfoToolbarItemMemory();
   UpdateSystemInfoToolbarItemPageouts();
-  mOwner.triggerReload();
+  mOwner.commitChanges();
   mOwner.turnHasEnded();
 }
 
 void VQTarvMainWindowInfoSynch::NotifyPidHasBeenAdded(int pid) {
   if (!Expect(mOwner.rows().Find(pid) == nullptr, kSynchUnit, "0")) return;
-  auto& row = mOwner.rows().Add(pid, mOwner.internalRepresentations().Of(pid));
+  auto& row = mOwner.rows().Add(pid);
+  row.SetRunState(GlanceAt(pid).runState);
   UpdateAllFields(row, pid);
   mOwner.setNeedsResort();
 }
 
 void VQTarvMainWindowInfoSynch::NotifyPidHasBeenRemoved(int pid) {
   mOwner.rows().Remove(pid);
-  mOwner.forgetSortableValues(pid);
   mOwner.setNeedsReload();
 }
 
@@ -272,12 +228,13 @@ void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
   std::uint8_t found = 0;
   const auto interval = GetPrefInt(kMainWindowIntervalKey, &found, false, 0);
   if (found != 0) SetInterval(interval);
-  RefreshBars();
+  mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) {
     UpdateAllFields(*row, row->Pid());
     // Formats may be others, too.
     row->SetChanged(true);
   }
+  RefreshBars();
   BeepForHexadecimals();
   mOwner.setNeedsResort();
   // The gauges' texts have formats, too.

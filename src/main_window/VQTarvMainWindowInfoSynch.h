@@ -58,8 +58,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   /// before, from 0 to 1: 0 at the first reading; readings closer than 10 ms count as 10 ms apart.
   void setCPUDelta(RowDictionary& row, TimeValue activeTime, TimeValue now);
 
-  /// Reads one property into a row, or all that the table shows. A property that the process does
-  /// not have leaves the row as it was.
+  /// Reads one property into a row, or all that the table needs.
   void UpdateSingleFieldForPid(RowDictionary& row, KeyId key, int pid);
   void UpdateAllFields(RowDictionary& row, int pid);
 
@@ -90,16 +89,21 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void StopFlashing();
   void ShowCPU();
   void ShowMemory();
-  void FindBiggestVSZ();
+  /// Puts a value into a row; has the rows sorted again when their order depends on it.
+  void Set(RowDictionary& row, KeyId key, RowValue value);
+  /// Takes a row's share, and its figures where they are others than before.
+  void RefreshRow(RowDictionary& row, TimeValue now);
+  void RefreshRows();
+  /// By the figures that the rows have: badges, and what the memory bars are measured by.
   void RefreshBars();
-  void UpdateCPUShares();
   void BeepForHexadecimals();
-  void UpdateChangingFields();
 
   vqMainTableController& mOwner;
   bool mHooked = false;
   /// A hexadecimal property was asked for; they are not shown, and the user hears it once a turn.
   bool mHexadecimalWasMet = false;
+  /// The value that the rows are sorted by; see Set.
+  KeyId mSortedBy = kNoKey;
 
   MachineUsage mMachineUsage;
   /// Of the last update; no figures before the first.

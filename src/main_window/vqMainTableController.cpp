@@ -110,10 +110,21 @@ void vqMainTableController::noteAgeOfColumns(bool mayAge) {
 
 void vqMainTableController::commitChanges() {
   fCommitIsQueued = false;
-  if (!fHolders.empty()) {
+  // A filter's rows may be others after any change of a text.
+  const bool isArranged =
+      !fNeedsResort && !fRows.HaveComeOrGone() && !fFilterHasChanged && fFilter.isEmpty();
+  if (!fHolders.empty() || isArranged) {
     fRows.CommitCells();
+    if (std::exchange(fFactsHaveChanged, false)) Q_EMIT contentsChanged();
     return;
   }
+  arrangeRows();
+  fFactsHaveChanged = false;
+  Q_EMIT contentsChanged();
+}
+
+void vqMainTableController::arrangeRows() {
+  fFilterHasChanged = false;
   fRows.TidyUp();
   rememberSelection();
   if (fNeedsResort) resortTable();
@@ -122,7 +133,11 @@ void vqMainTableController::commitChanges() {
   keepFocus(isShown);
   fRows.Commit(isShown);
   restoreSelection();
-  Q_EMIT contentsChanged();
+}
+
+void vqMainTableController::triggerReload() {
+  fFactsHaveChanged = true;
+  commitChanges();
 }
 
 void vqMainTableController::resortTable() {
@@ -145,6 +160,7 @@ void vqMainTableController::holdOrder(const QObject* holder, bool hold) {
 
 void vqMainTableController::setFilter(const QString& text) {
   fFilter = text;
+  fFilterHasChanged = true;
   commitChanges();
 }
 
@@ -254,13 +270,27 @@ QString vqMainTableController::spokenText(const RowDictionary& row, const Column
     const auto size = [&](KeyId key) {
       return DisplayText(kPropertyTypeMemory, row.Get(key), 0, row.Pid());
     };
-    return size(kInternalRsz) + QLatin1String(" / ") + size(kInternalVsz);
+    return size(kPidRsz) + QLatin1String(" / ") + size(kPidVsz);
   }
   if (column.key == kInternalIndicator) {
     const char* name = ProcessIndicatorImageName(row.Pid());
     return name != nullptr ? LocalizedString(name) : QString();
   }
-  return column.isInternal ? QString() : textOf(row, column);
+  if (column.isInternal) return {};
+  const auto missing = MissingText(row.Get(column.key));
+  return missing.isEmpty() ? textOf(row, column) : missing;
+}
+
+QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column& column) const {
+  QStringList lines;
+  const bool isMissing = !column.isInternal && !IsKnown(row.Get(column.key));
+  if (column.isStale) lines.append(LocalizedString("main_window_stale_tip"));
+  if (isMissing) lines.append(MissingText(row.Get(column.key)));
+  const bool isName = column.key == kMetaName || column.key == kPidCommandName;
+  if (row.Pid() == 0 && (isName || column.key == kInternalCPUPercent))
+    lines.append(LocalizedString("main_window_idle_task_tip"));
+  if (isName && row.IsZombie()) lines.append(LocalizedString("main_window_zombie_tip"));
+  return lines.join(QLatin1Char('\n'));
 }
 
 QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
@@ -280,15 +310,18 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
       return spokenText(row, column);
     case Qt::ToolTipRole:
-      return column.isStale ? LocalizedString("main_window_stale_tip") : QVariant();
-    case kIsStaleRole:
-      return column.isStale;
+      return tooltipOf(row, column);
+    case kIsFaintRole:
+      return column.isStale || row.IsZombie() ||
+             (!column.isInternal && !IsKnown(row.Get(column.key)));
+    case kIsIdleTaskRole:
+      return row.Pid() == 0;
     case kCpuShareRole:
       return NumberOf(row.Get(kInternalCpuUsage));
     case kResidentSizeRole:
-      return static_cast<qlonglong>(IntegerOf(row.Get(kInternalRsz)));
+      return static_cast<qlonglong>(IntegerOf(row.Get(kPidRsz)));
     case kVirtualSizeRole:
-      return static_cast<qlonglong>(IntegerOf(row.Get(kInternalVsz)));
+      return static_cast<qlonglong>(IntegerOf(row.Get(kPidVsz)));
     case StripedTableView::kRowHasChangedRole:
       return row.HasChanged();
     default:

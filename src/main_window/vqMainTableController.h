@@ -46,9 +46,16 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   Q_OBJECT
 
  public:
-  /// What cells draw from, besides the usual roles: the CPU share, resident and virtual size, and
-  /// whether a figure is an old one.
-  enum Role { kCpuShareRole = Qt::UserRole, kResidentSizeRole, kVirtualSizeRole, kIsStaleRole };
+  /// What cells draw from, besides the usual roles: the CPU share, resident and virtual size,
+  /// whether a figure is an old one, an ended process's or missing, and whether the row is the idle
+  /// task's.
+  enum Role {
+    kCpuShareRole = Qt::UserRole,
+    kResidentSizeRole,
+    kVirtualSizeRole,
+    kIsFaintRole,
+    kIsIdleTaskRole
+  };
 
   /// Reads the columns from the preferences, adding what must be there, and makes the synchroniser.
   vqMainTableController();
@@ -83,12 +90,13 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   /// Shows the remembered columns that ps did not offer before and does now; those that it turns
   /// out not to have go, but stay remembered.
   void showColumnsThatCame();
-  void forgetSortableValues(std::int32_t pid) { fInternalRepresentations.Remove(pid); }
   void synchronizerIsGone() { fInfoSynchronizer = nullptr; }
 
   /// Lets the view have everything that has changed. While the order is held, only what cells show.
   void commitChanges();
-  void triggerReload() override { commitChanges(); }
+  void triggerReload() override;
+  /// What commands depend on may be something else: a badge came or went.
+  void noteFactsHaveChanged() { fFactsHaveChanged = true; }
   void turnHasEnded() { Q_EMIT updated(); }
   /// Sorts the rows by the sort column; the view hears of it at the next commit.
   void resortTable();
@@ -227,6 +235,7 @@ class vqMainTableController final : public vqTableController, private ProcessRow
 
   void noteAgeOfColumns(bool mayAge);
   void putAwayColumnsThatDidNotCome();
+  void arrangeRows();
   void readColumnPrefs();
   void addMissingColumns();
   void track(KeyId key, char direction);
@@ -244,6 +253,7 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   QVariant indicatorOf(const RowDictionary& row) const;
   QString textOf(const RowDictionary& row, const Column& column) const;
   QString spokenText(const RowDictionary& row, const Column& column) const;
+  QString tooltipOf(const RowDictionary& row, const Column& column) const;
   template <typename Action>
   void forSelectedPids(Action action);
   template <typename Action>
@@ -274,6 +284,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   std::string fRememberedSortKey;
   std::vector<std::int32_t> fRememberedSelectionPIDs;
   QString fFilter;
+  bool fFilterHasChanged = false;
+  bool fFactsHaveChanged = false;
   bool fNeedsResort = false;
   bool fCommitIsQueued = false;
   std::unordered_set<const QObject*> fHolders;

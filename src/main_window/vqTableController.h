@@ -6,7 +6,6 @@
 #include <QWidget>
 #include <string_view>
 
-#include "main_window/InternalRepresentations.h"
 #include "main_window/Keys.h"
 #include "main_window/RowSorting.h"
 
@@ -21,8 +20,6 @@ class vqTableController : public QAbstractTableModel {
 
  public:
   explicit vqTableController(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
-
-  InternalRepresentations& internalRepresentations() { return fInternalRepresentations; }
 
   /// Null before the view exists and after it has gone.
   QTableView* table() const { return fTable; }
@@ -59,7 +56,6 @@ class vqTableController : public QAbstractTableModel {
   QPointer<QWidget> fWindow;
   KeyId fSortColumn = kNoKey;
   char fSortAscending = 1;
-  InternalRepresentations fInternalRepresentations;
 };
 
 }  // namespace lurkwell

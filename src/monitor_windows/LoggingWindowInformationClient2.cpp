@@ -2,10 +2,9 @@
 
 #include <cstring>
 #include <optional>
-#include <string_view>
+#include <variant>
 
 #include "consolidator/PI_Consolidator.h"
-#include "consolidator/TextScan.h"
 #include "monitor_windows/LoggingWindowUI.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -18,10 +17,9 @@ constexpr char kRealSize[] = "pid_rsz";
 constexpr char kVirtualSize[] = "pid_vsz";
 
 std::optional<std::int64_t> ReadSize(int pid, const char* property) {
-  char text[64];
-  if (!GetPIDPropertyValue(pid, property, text, sizeof text, nullptr)) return std::nullopt;
-  std::string_view rest(text);
-  return ScanInteger(rest).value_or(0);
+  const auto value = GetPIDPropertyTypedValue(pid, property);
+  const auto* size = std::get_if<std::int64_t>(&value);
+  return size != nullptr ? std::optional(*size) : std::nullopt;
 }
 
 }  // namespace

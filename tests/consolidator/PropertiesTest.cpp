@@ -1,4 +1,10 @@
 // The catalogue, the texts of values, and what reports do to them.
+#include <unistd.h>
+
+#include <clocale>
+#include <cstdlib>
+#include <filesystem>
+
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
@@ -375,6 +381,34 @@ TEST_F(PropertiesTest, ClassicApplicationsAreChargedFromTheirEnvironmentsFiltere
   // 241 * 0.125 / 60.25 = 0.5 exactly
   EXPECT_EQ(report(6844), "1.500830");
   EXPECT_EQ(report(10), "1.500830") << "a guest that began anew is not charged backwards";
+}
+
+TEST_F(PropertiesTest, NumbersOfPsAreReadAsNumbersWhateverTheUsersLanguage) {
+  const auto folder = std::filesystem::path(testing::TempDir()) / std::to_string(::getpid());
+  std::filesystem::create_directory(folder);
+  const auto locale = folder / "comma.UTF-8";
+  ASSERT_EQ(std::system(("localedef -i de_DE -f UTF-8 " + locale.string()).c_str()), 0);
+  ::setenv("LOCPATH", folder.c_str(), 1);
+  ASSERT_NE(std::setlocale(LC_NUMERIC, "comma.UTF-8"), nullptr);
+  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+  std::filesystem::remove_all(folder);
+  Start();
+  Report(300, "pid_p_comm", "p");
+  const auto read = [](const char* header, const char* text) {
+    EnsureThatPSProcPropertyExists(header, "option");
+    ReportProcessInformationForPID(300, header, text);
+    return GetPIDPropertyTypedValue(300, header);
+  };
+  EXPECT_EQ(GetPIDPropertyTypedValue(300, "%CPU"), TypedValue(Missing::kNotYetKnown));
+  EXPECT_EQ(read("%CPU", "12.5\n"), TypedValue(12.5));
+  EXPECT_EQ(read("%CPU", "-0.25\n"), TypedValue(-0.25));
+  EXPECT_EQ(read("%CPU", "inf"), TypedValue("inf"));
+  EXPECT_EQ(read("NI", "-5\n"), TypedValue(std::int64_t{-5}));
+  EXPECT_EQ(read("NI", "-\n"), TypedValue("-"));
+  EXPECT_EQ(read("PENDING", "0000000000000017\n"), TypedValue("0000000000000017"));
+  EXPECT_EQ(read("WCHAN", "99999999999999999999"), TypedValue("99999999999999999999"));
+  EXPECT_EQ(GetPIDPropertyTypedValue(0, "NI"), TypedValue(Missing::kNone));
+  std::setlocale(LC_NUMERIC, "C");
 }
 
 TEST_F(PropertiesTest, ThePsColumnsOfAProcessKeepTheirNewestText) {

@@ -1,16 +1,13 @@
 // What is drawn, to the pixel.
-#include <unistd.h>
-
 #include <QPaintEvent>
 #include <QPainter>
-#include <clocale>
-#include <cstdlib>
-#include <filesystem>
 
+#include "consolidator/PidReport.h"
 #include "consolidator/TextScan.h"
 #include "main_window/CustomCells.h"
 #include "main_window/MainWindowTest.h"
 #include "main_window/PropertyText.h"
+#include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {
@@ -82,18 +79,86 @@ TEST_F(CellsTest, TimesKeepTwoDigitsAtLeast) {
     EXPECT_EQ(TimeText(ReadTime(raw)).toStdString(), shown) << raw;
 }
 
-TEST_F(CellsTest, NumbersHaveAPointWhateverTheUsersLanguage) {
-  const auto folder = std::filesystem::path(testing::TempDir()) / std::to_string(::getpid());
-  std::filesystem::create_directory(folder);
-  const auto locale = folder / "comma.UTF-8";
-  ASSERT_EQ(std::system(("localedef -i de_DE -f UTF-8 " + locale.string()).c_str()), 0);
-  ::setenv("LOCPATH", folder.c_str(), 1);
-  ASSERT_NE(std::setlocale(LC_NUMERIC, "comma.UTF-8"), nullptr);
-  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
-  std::filesystem::remove_all(folder);
-  for (const auto& [text, number] : {std::pair(" 12.5\n", 12.5), std::pair("-0.25", -0.25),
-                                     std::pair("nan", 0.0), std::pair("inf", 0.0)})
-    EXPECT_EQ(NumberOf(ReadValue(kPropertyTypeReal, text)), number) << text;
+TEST_F(CellsTest, WhyThereIsNoFigureIsToldApartFromNothing) {
+  OpenWith({300, 301, 302, 303});
+  controller().addToKeysWeTrackForUI(InternKey("pid_faults"));
+  Turn();
+  const auto& faults = *FindBuiltInProperty("pid_faults");
+  PidReport(300).NoValue(faults, Missing::kNotYetKnown);
+  PidReport(301).NoValue(faults, Missing::kNotAllowed);
+  PidReport(302).NoValue(faults, Missing::kNotCounted);
+  controller().synchronizer()->NotifyProcessesHaveBeenUpdated();
+  const auto cells = [this](int role) {
+    QStringList texts;
+    for (const int pid : {300, 301, 302, 303}) {
+      const int row = controller().rows().Find(pid)->shownIndex;
+      texts.append(controller().index(row, ColumnOf("pid_faults")).data(role).toString());
+    }
+    return texts.join(QLatin1Char('|'));
+  };
+  EXPECT_EQ(cells(Qt::DisplayRole), "…|×|–|0");
+  EXPECT_EQ(cells(Qt::AccessibleTextRole),
+            "not known yet|not allowed|not counted on this system|0");
+  EXPECT_EQ(cells(Qt::ToolTipRole), "not known yet|not allowed|not counted on this system|");
+  EXPECT_EQ(cells(vqMainTableController::kIsFaintRole), "true|true|true|false");
+  ClickHeader("pid_faults");
+  EXPECT_EQ(Pids().substr(8), "300 301 302");
+  ClickHeader("pid_faults");
+  EXPECT_EQ(Pids().substr(8), "302 301 300");
+}
+
+TEST_F(CellsTest, TheIdleTaskAndZombiesAreNoWorkingProcesses) {
+  machine.processTable.Birth(300, "ended").entry.state = RunState::kZombie;
+  Open();
+  controller().addToKeysWeTrackForUI(InternKey("meta_kind"));
+  machine.processTable.Find(0)->UseCPU(1'900);
+  Turn();
+  Turn();
+  const auto cell = [this](int pid, const char* key) {
+    return controller().index(controller().rows().Find(pid)->shownIndex, ColumnOf(key));
+  };
+  EXPECT_EQ(cell(300, "meta_kind").data().toString(), "Zombie");
+  EXPECT_EQ(cell(1, "meta_kind").data().toString(), "Process");
+  EXPECT_TRUE(cell(300, "meta_name").data(vqMainTableController::kIsFaintRole).toBool());
+  EXPECT_FALSE(cell(1, "meta_name").data(vqMainTableController::kIsFaintRole).toBool());
+  EXPECT_TRUE(cell(300, "meta_name")
+                  .data(Qt::ToolTipRole)
+                  .toString()
+                  .contains("zombie", Qt::CaseInsensitive));
+  EXPECT_TRUE(cell(0, "meta_name").data(Qt::ToolTipRole).toString().contains("idle task"));
+  const auto bar = window->table().visualRect(cell(0, "internal_CPUPercent"));
+  const auto image = window->table().viewport()->grab().toImage();
+  for (int x = bar.left(); x <= bar.right(); ++x)
+    EXPECT_NE(image.pixelColor(x, bar.center().y()), kBlue) << "a full blue bar alarms";
+}
+
+TEST_F(CellsTest, TitlesStayReadableAndColumnsFitTheirTexts) {
+  const std::string longName = "sixteen letters!";
+  machine.processTable.Birth(300, longName.c_str());
+  machine.processTable.Birth(301, "p");
+  Open();
+  auto& header = window->table().header();
+  controller().addToKeysWeTrackForUI(InternKey("pid_p_nice"));
+  const int nice = ColumnOf("pid_p_nice");
+  EXPECT_GE(header.sectionSize(nice), header.widthForTitle(LocalizedString("pid_p_nice")));
+  const int name = ColumnOf("meta_name");
+  window->table().resizeColumnToContents(name);
+  const auto& metrics = window->table().fontMetrics();
+  EXPECT_EQ(
+      window->table().columnWidth(name),
+      metrics.horizontalAdvance(QString::fromStdString(longName)) + TextCell::kWidthBesideText);
+  // Too narrow for both, the title keeps what room there is.
+  const auto title = [&] {
+    const auto image = header.viewport()->grab().toImage();
+    const int x = header.sectionViewportPosition(nice);
+    return image.copy(x, header.height() / 3, header.sectionSize(nice) - 3, header.height() / 3);
+  };
+  header.resizeSection(nice, metrics.horizontalAdvance(LocalizedString("pid_p_nice")) + 10);
+  const auto before = title();
+  ClickHeader("pid_p_nice");
+  QTest::mouseMove(window->table().viewport());
+  QApplication::processEvents();
+  EXPECT_EQ(title(), before);
 }
 
 TEST_F(CellsTest, StripesAndGridCoverTheWholeView) {

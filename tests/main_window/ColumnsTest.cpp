@@ -49,7 +49,7 @@ TEST_F(ColumnsTest, WhatIsChosenComesBack) {
   EXPECT_EQ(ColumnItem(Menus().PSAvailableMenu(), "PID"), nullptr) << "there already";
   const auto isOld = [this] {
     const auto cell = controller().index(2, ColumnOf("UID"));
-    const bool isGrey = cell.data(vqMainTableController::kIsStaleRole).toBool();
+    const bool isGrey = cell.data(vqMainTableController::kIsFaintRole).toBool();
     EXPECT_EQ(!cell.data(Qt::ToolTipRole).toString().isEmpty(), isGrey);
     return isGrey;
   };
@@ -167,17 +167,17 @@ TEST_F(ColumnsTest, AColumnOfPsIsFilledWhenPsHasAnswered) {
   Turn(100);
   EXPECT_TRUE(Keys().starts_with("meta_pid UID meta_name")) << "each in its place: " << Keys();
   EXPECT_EQ(controller().sortColumn(), InternKey("UID"));
-  EXPECT_EQ(Pids(), "0 1 300");
-  EXPECT_EQ(Cell(2, ColumnOf("UID")), "42");
+  EXPECT_EQ(Pids(), "1 300 0") << "ps knows no idle task";
+  EXPECT_EQ(Cell(1, ColumnOf("UID")), "42");
   // A parent stays, as far as that column goes; it comes after its row all the same.
   Toggle(Menus().PSAvailableMenu(), "PPID");
   Turn(100);
-  EXPECT_EQ(Cell(2, ColumnOf("PPID")), "1");
+  EXPECT_EQ(Cell(1, ColumnOf("PPID")), "1");
   machine.processTable.Birth(301, "q");
   tools.SetOutput("/bin/ps -axww -o pid,ppid", "PID PPID\n1 0\n300 1\n301 300\n");
   controller().updateNow();
   Turn(100);
-  EXPECT_EQ(Cell(1, ColumnOf("PPID")) + Cell(1, ColumnOf("meta_pid")), "300301");
+  EXPECT_EQ(Cell(3, ColumnOf("PPID")) + Cell(3, ColumnOf("meta_pid")), "300301");
   window.reset();
   char key[64];
   GetPrefArrayString("MAIN_WINDOW_COLUMNS", GetPrefArrayCount("MAIN_WINDOW_COLUMNS") - 1,

@@ -47,9 +47,11 @@ TEST_F(SortingTest, TheIdleTaskCountsAsNothingUnlessTheUserWantsIt) {
   EXPECT_EQ(Cell(3, 5), "95.0 %") << "it is shown as it is";
   EXPECT_EQ(gBiggestVSZ, 5000);
   ClickHeader("internal_MemGraph");
-  EXPECT_EQ(Pids(), "0 1 31 30");
+  EXPECT_EQ(Pids(), "30 31 1 0");
   SetPrefInt("MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE", 0);
   work();
+  EXPECT_EQ(Pids(), "30 31 1 0");
+  ClickHeader("internal_MemGraph");
   EXPECT_EQ(Pids(), "1 31 30 0");
   ClickHeader("internal_CPUPercent");
   EXPECT_EQ(Pids(), "0 31 30 1");
@@ -70,7 +72,9 @@ TEST_F(SortingTest, NumbersTimesAndSizesSortAsWhatTheyAre) {
   for (const char* key : {"pid_rsz", "pid_p_nice"}) Show(key);
   Turn();
   ClickHeader("meta_active_time");
-  EXPECT_EQ(Pids(), "0 1 31 32 30");
+  EXPECT_EQ(Pids(), "30 32 31 1 0") << "of times and sizes the largest come first";
+  ClickHeader("pid_rsz");
+  EXPECT_EQ(Pids(), "32 31 30 1 0");
   ClickHeader("pid_rsz");
   EXPECT_EQ(Pids(), "0 1 30 31 32");
   ClickHeader("pid_p_nice");
@@ -96,7 +100,7 @@ TEST_F(SortingTest, ApplicationsAndMarkedProcessesComeFirst) {
   EXPECT_EQ(Pids(), "32 31 30 0 1");
 }
 
-TEST_F(SortingTest, MissingValuesComeFirstAndHexadecimalColumnsDoNotSort) {
+TEST_F(SortingTest, MissingValuesComeLastAndHexadecimalColumnsDoNotSort) {
   auto& table = machine.processTable;
   for (const int pid : {30, 31, 32, 33}) table.Birth(pid, "p" + std::to_string(pid));
   machine.tools.SetOutput("/bin/ps -Lww", "RSZ SESS WCHAN\n");
@@ -112,14 +116,18 @@ TEST_F(SortingTest, MissingValuesComeFirstAndHexadecimalColumnsDoNotSort) {
   Turn();
   Turn();
   ClickHeader("RSZ");
-  const std::string order = "0 1 31 32 30 33";
+  const std::string order = "33 30 32 31 1 0";
   EXPECT_EQ(Pids(), order);
-  EXPECT_EQ(Cell(2, ColumnOf("RSZ")), "") << "not 0";
+  EXPECT_EQ(Cell(3, ColumnOf("RSZ")), "…") << "not 0";
+  EXPECT_EQ(Cell(5, ColumnOf("RSZ")), "") << "ps knows no idle task";
+  ClickHeader("RSZ");
+  EXPECT_EQ(Pids(), "32 30 33 0 1 31") << "last in this direction, too";
+  ClickHeader("RSZ");
   ClickHeader("SESS");
   EXPECT_EQ(Pids(), order);
   ClickHeader("WCHAN");
-  EXPECT_EQ(Pids(), "0 1 32 33 30 31") << "texts before numbers";
-  EXPECT_EQ(Cell(4, ColumnOf("WCHAN")) + Cell(3, ColumnOf("WCHAN")), "pipe_r0000000000000004");
+  EXPECT_EQ(Pids(), "31 32 33 30 0 1") << "texts behind numbers";
+  EXPECT_EQ(Cell(3, ColumnOf("WCHAN")) + Cell(2, ColumnOf("WCHAN")), "pipe_r0000000000000004");
   ClickHeader("SESS");
   EXPECT_EQ(controller().sortColumn(), InternKey("SESS"));
 }
