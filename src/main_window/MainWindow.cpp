@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 
 #include "main_window/AskForPid.h"
@@ -222,11 +223,25 @@ bool MainWindow::event(QEvent* event) {
   const bool isPlaced = event->type() == QEvent::Move || event->type() == QEvent::Resize;
   if (isPlaced && isVisible() && !isMaximized() && !isFullScreen()) mNormalFrame = {pos(), size()};
   if (event->type() == QEvent::Show) mController->windowDidUpdate();
+  // The system tells its own window, and not this one, what of it can be seen.
+  if (event->type() == QEvent::Show && windowHandle() != nullptr)
+    windowHandle()->installEventFilter(this);
+  if (event->type() == QEvent::WindowStateChange) LookWhetherSeen();
   if (event->type() == QEvent::WindowActivate) {
     mController->windowDidBecomeKey();
     mMenus->ValidateAll();
   }
   return handled;
+}
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event) {
+  if (object == windowHandle() && event->type() == QEvent::Expose) LookWhetherSeen();
+  return QMainWindow::eventFilter(object, event);
+}
+
+void MainWindow::LookWhetherSeen() {
+  mController->windowIsSeen(!isMinimized() && windowHandle() != nullptr &&
+                            windowHandle()->isExposed());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

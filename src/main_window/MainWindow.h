@@ -36,6 +36,7 @@ class MainWindow : public QMainWindow {
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -47,6 +48,7 @@ class MainWindow : public QMainWindow {
   void FindByPid();
   void CustomiseToolbar();
   void LookAtHelper();
+  void LookWhetherSeen();
   void UpdateStatus();
 
   ApplicationCommands& mCommands;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/ControllerAssertion.h"
@@ -26,6 +27,7 @@ VQTarvMainWindowInfoSynch* VQTarvMainWindowInfoSynch::zm_MainWindow = nullptr;
 namespace {
 
 constexpr char kSynchUnit[] = "VQTarvMainWindowInfoSynch";
+constexpr std::int32_t kUnseenFactor = 10;
 
 /// Read of every process, shown or not: for the bars, the filter, questions and two sorts.
 const std::array<KeyId, 3>& AlwaysRead() {
@@ -63,7 +65,7 @@ void VQTarvMainWindowInfoSynch::HookIntoConsolidator() {
   // While nobody was served, not even what never changes was read, no change of preferences was
   // told, and what happened is no figure of one turn.
   gNewColumnWasAddedRecently = true;
-  SetInterval(MainWindowInterval());
+  SetSeenInterval(MainWindowInterval());
   mMachineUsage = {};
   mPreviousPageouts.reset();
   mFilteredPageouts = 0.0;
@@ -79,6 +81,17 @@ void VQTarvMainWindowInfoSynch::UnhookFromConsolidator() {
   RemoveProcessInformationClient(this);
   mHooked = false;
   StopFlashing();
+}
+
+void VQTarvMainWindowInfoSynch::SetSeenInterval(std::int32_t milliseconds) {
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max() / kUnseenFactor;
+  SetInterval(mIsSeen ? milliseconds : std::min(milliseconds, kMost) * kUnseenFactor);
+}
+
+void VQTarvMainWindowInfoSynch::SetSeen(bool isSeen) {
+  if (std::exchange(mIsSeen, isSeen) == isSeen) return;
+  SetSeenInterval(MainWindowInterval());
+  if (isSeen && mHooked) RequestUpdate(this);
 }
 
 ProcessInformationClient::NeedLevel VQTarvMainWindowInfoSynch::NeedPidsForProcProperty(
@@ -227,7 +240,7 @@ void VQTarvMainWindowInfoSynch::NotifyPidHasChangedAppreciably(int pid) {
 void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
   std::uint8_t found = 0;
   const auto interval = GetPrefInt(kMainWindowIntervalKey, &found, false, 0);
-  if (found != 0) SetInterval(interval);
+  if (found != 0) SetSeenInterval(interval);
   mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) {
     UpdateAllFields(*row, row->Pid());

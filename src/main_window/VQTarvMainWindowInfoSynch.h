@@ -54,6 +54,9 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void UnhookFromConsolidator();
   bool IsHooked() const { return mHooked; }
 
+  /// While nobody can see the window it is served a tenth as often; once somebody can, at once.
+  void SetSeen(bool isSeen);
+
   /// Takes a new reading of a process's CPU time and works out its share of one CPU since the one
   /// before, from 0 to 1: 0 at the first reading; readings closer than 10 ms count as 10 ms apart.
   void setCPUDelta(RowDictionary& row, TimeValue activeTime, TimeValue now);
@@ -85,6 +88,8 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   static VQTarvMainWindowInfoSynch* zm_MainWindow;
 
  private:
+  /// Serves the window every so many milliseconds while it is seen.
+  void SetSeenInterval(std::int32_t milliseconds);
   void ReadSystemInfoPreferences();
   void StopFlashing();
   void ShowCPU();
@@ -100,6 +105,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
 
   vqMainTableController& mOwner;
   bool mHooked = false;
+  bool mIsSeen = true;
   /// A hexadecimal property was asked for; they are not shown, and the user hears it once a turn.
   bool mHexadecimalWasMet = false;
   /// The value that the rows are sorted by; see Set.

@@ -67,6 +67,10 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   // ---- The window's life ------------------------------------------------------------------------
 
   void windowDidUpdate();
+  /// Minimised, on another desktop or otherwise out of sight, or seen again.
+  void windowIsSeen(bool isSeen) {
+    if (fInfoSynchronizer != nullptr) fInfoSynchronizer->SetSeen(isSeen);
+  }
   void windowDidBecomeKey();
   /// Unless the application is quitting, the window does not come back at the next start.
   void windowWillClose();

@@ -49,6 +49,28 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   EXPECT_NE(aboutHelper().find("not running"), std::string::npos);
 }
 
+TEST_F(WindowTest, OutOfSightItIsServedATenthAsOften) {
+  OpenWith({300});
+  int turns = 0;
+  QObject::connect(&controller(), &vqMainTableController::updated, [&turns] { ++turns; });
+  const auto turnsIn = [&](int seconds) {
+    turns = 0;
+    Turn(seconds * 1000);
+    return turns;
+  };
+  EXPECT_EQ(turnsIn(40), 20);
+  window->showMinimized();
+  QApplication::processEvents();
+  EXPECT_LE(turnsIn(40), 2);
+  SetPrefInt("MAIN_WINDOW_INTERVAL", 1000);
+  ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType("*");
+  EXPECT_LE(turnsIn(40), 4);
+  window->showNormal();
+  QApplication::processEvents();
+  EXPECT_EQ(turnsIn(0), 1) << "at once";
+  EXPECT_EQ(turnsIn(40), 40);
+}
+
 TEST_F(WindowTest, TheKeyboardGoesToTheFrontmostWindowOfAKnownTitle) {
   QWidget other, process, preferences;
   other.setWindowTitle("Other Process");
