@@ -7,14 +7,13 @@
 
 #include "consolidator/ClientRegistryWalk.h"
 #include "consolidator/ProcessInformationClient.h"
+#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 
 namespace lurkwell {
 namespace {
 
 using NeedLevel = ProcessInformationClient::NeedLevel;
-
-constexpr char kClientUnit[] = "ProcessInformationClient";
 
 /// A property that is computed from others.
 struct Derivation {

@@ -3,12 +3,11 @@
 
 #include "consolidator/ClientRegistryWalk.h"
 #include "consolidator/ProcessInformationClient.h"
+#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 
 namespace lurkwell {
 namespace {
-
-constexpr char kClientUnit[] = "ProcessInformationClient";
 
 /// With nobody to serve the heart still beats.
 constexpr std::int64_t kLongestRest = 15000;

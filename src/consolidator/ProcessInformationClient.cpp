@@ -6,17 +6,12 @@
 #include "consolidator/ClientRegistryWalk.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/ProcessQueries.h"
+#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 
 namespace lurkwell {
-namespace {
-
-constexpr char kClientUnit[] = "ProcessInformationClient";
-
-}  // namespace
-
 std::list<ProcessInformationClient::ListNode>
     ProcessInformationClient::zm_ListOfProcessInformationClients;
 int ProcessInformationClient::zm_WalksInProgress = 0;

@@ -6,14 +6,11 @@
 #include "consolidator/PropertyValues.h"
 #include "main_window/PropertyText.h"
 #include "monitor_windows/CPUHistoryWindow.h"
+#include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
 
 namespace lurkwell {
-namespace {
-
-constexpr char kHistoryUnit[] = "CPUHistoryWindow";
-
-}  // namespace
+namespace {}  // namespace
 
 void CPUHistoryWindowInformationClient::RedrawEntireWindow() {
   mGraph.RedrawEntireWindow();

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
 
 namespace lurkwell {
 namespace {
 
-constexpr char kHistoryUnit[] = "CPUHistoryWindow";
 constexpr double kNoData = -1.0;
 /// Where lines come from after a gap: from below, unless the window is very tall.
 constexpr int kBelowTheGraph = 140;

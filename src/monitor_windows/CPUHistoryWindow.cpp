@@ -9,6 +9,7 @@
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
 #include "monitor_windows/ScreenPlacement.h"
+#include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"
@@ -17,10 +18,9 @@
 namespace lurkwell {
 namespace {
 
-constexpr char kHistoryUnit[] = "CPUHistoryWindow";
 constexpr WindowRect kUsualBounds{300, 300, 450, 370};
 constexpr int kLargestSide = 10'000;
-constexpr QSize kSmallestSize(60, 30);
+constexpr QSize kSmallestHistory(60, 30);
 
 /// Those whose windows are there or still to come.
 std::set<CPUHistoryWindowInformationClient*> gClients;
@@ -36,7 +36,7 @@ WindowRect Sound(WindowRect rect) {
     rect.right = rect.left + kUsualBounds.right - kUsualBounds.left;
     rect.bottom = rect.top + kUsualBounds.bottom - kUsualBounds.top;
   }
-  const auto place = PlaceOnScreen(rect, kSmallestSize);
+  const auto place = PlaceOnScreen(rect, kSmallestHistory);
   return {place.left(), place.top(), place.left() + place.width(), place.top() + place.height()};
 }
 

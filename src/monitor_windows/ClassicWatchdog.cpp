@@ -24,7 +24,7 @@ std::int32_t gClassicWatchdogState = kClassicInitial;
 
 namespace {
 
-constexpr char kUnit[] = "ClassicWatchdog";
+constexpr char kClassicUnit[] = "ClassicWatchdog";
 constexpr FourCharCode kNubSignature = {'z', 'r', 'N', 'v'};
 constexpr int kFileNotFound = -43;
 constexpr int kLaunchFailed = -10810;
@@ -33,7 +33,7 @@ bool IsClassic(int pid) {
   return pid < kInvalidPID;
 }
 
-bool IsSignature(const char* property) {
+bool IsClassicSignature(const char* property) {
   return std::strcmp(property, "carbonpsn_signature") == 0;
 }
 
@@ -56,11 +56,11 @@ ProcessInformationClient::NeedLevel ClassicWatchdog::NeedProcPropertiesForPid(in
 }
 
 ProcessInformationClient::NeedLevel ClassicWatchdog::NeedPidsForProcProperty(const char* property) {
-  return IsSignature(property) ? kNeedSomePids : kNeedNoPids;
+  return IsClassicSignature(property) ? kNeedSomePids : kNeedNoPids;
 }
 
 bool ClassicWatchdog::NeedPidProcProperty(int pid, const char* property) {
-  return IsClassic(pid) && IsSignature(property);
+  return IsClassic(pid) && IsClassicSignature(property);
 }
 
 /// The signature comes from the environment, so one that has none yet is no nub, and no error.
@@ -162,7 +162,7 @@ void ClassicWatchdog::LaunchClassicNubEntryPoint(const std::vector<std::string>&
 }
 
 void TurnOnClassicNub() {
-  Require(gClassicWatchdog == nullptr, kUnit, "gClassicWatchdog == NULL");
+  Require(gClassicWatchdog == nullptr, kClassicUnit, "gClassicWatchdog == NULL");
   gClassicWatchdogState = kClassicInitial;
   gClassicNubPid = kInvalidPID;
   gClassicWatchdog =
@@ -173,7 +173,7 @@ void TurnOnClassicNub() {
 void TurnOffClassicNub() {
   AdjustClassicNub(false);
   KillClassicNub();
-  Require(gClassicWatchdog != nullptr, kUnit, "gClassicWatchdog != NULL");
+  Require(gClassicWatchdog != nullptr, kClassicUnit, "gClassicWatchdog != NULL");
   RemoveProcessInformationClient(gClassicWatchdog);
   delete gClassicWatchdog;
   gClassicWatchdog = nullptr;
@@ -194,7 +194,7 @@ void AdjustClassicNub(bool on) {
     gClassicNubPid = kInvalidPID;
   } else if (status == EventBus::kNoError) {
     // At the end a nub may be there that has not been listed yet.
-    Require(gClassicNubPid != kInvalidPID || !on, kUnit, "gClassicNubPid != -1");
+    Require(gClassicNubPid != kInvalidPID || !on, kClassicUnit, "gClassicNubPid != -1");
     gClassicWatchdogState = kClassicNubTold;
   }
 }

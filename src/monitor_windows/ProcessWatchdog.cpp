@@ -16,7 +16,7 @@ bool IsNameOrKind(const char* property) {
   return std::strcmp(property, "meta_name") == 0 || std::strcmp(property, "meta_kind") == 0;
 }
 
-bool IsSignature(const char* property) {
+bool IsApplicationSignature(const char* property) {
   return std::strcmp(property, "carbonpsn_signature") == 0;
 }
 
@@ -35,12 +35,12 @@ ProcessWatchdog::ProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kind
 
 ProcessInformationClient::NeedLevel ProcessWatchdog::NeedPidsForProcProperty(const char* property) {
   if (IsNameOrKind(property)) return kNeedAllPids;
-  return IsSignature(property) ? kNeedSomePids : kNeedNoPids;
+  return IsApplicationSignature(property) ? kNeedSomePids : kNeedNoPids;
 }
 
 bool ProcessWatchdog::NeedPidProcProperty(int pid, const char* property) {
   if (IsNameOrKind(property)) return true;
-  if (!IsSignature(property)) return false;
+  if (!IsApplicationSignature(property)) return false;
   char kind[kRememberedTextSize];
   return pid < kInvalidPID ||
          (ReadText(pid, "meta_kind", kind) && std::string_view(kind) == "OS X");

@@ -8,7 +8,7 @@
 namespace lurkwell {
 namespace {
 
-constexpr char kUnit[] = "ProcessWatchdog";
+constexpr char kWatchdogUnit[] = "ProcessWatchdog";
 constexpr char kUuidKey[] = "WINDOW_UUID";
 
 struct RectField {
@@ -29,8 +29,8 @@ bool HasUuid(const char* arrayName, std::int32_t index, std::string_view uuid) {
 }  // namespace
 
 std::int32_t GetAppropriateIndexForUUID(const char* arrayName, const Uuid* uuid) {
-  Require(arrayName != nullptr, kUnit, "arrayName != NULL");
-  Require(uuid != nullptr, kUnit, "uuid != NULL");
+  Require(arrayName != nullptr, kWatchdogUnit, "arrayName != NULL");
+  Require(uuid != nullptr, kWatchdogUnit, "uuid != NULL");
   const auto text = uuid->Text();
   const auto count = GetPrefArrayCount(arrayName);
   for (std::int32_t index = 0; index < count; ++index)
@@ -41,7 +41,7 @@ std::int32_t GetAppropriateIndexForUUID(const char* arrayName, const Uuid* uuid)
 std::int32_t SetPersistentClientInfo(const char* clientKind, const char* processName,
                                      const char* processKind, const WindowRect* rect,
                                      const Uuid* uuid) {
-  Require(clientKind != nullptr, kUnit, "clientKind");
+  Require(clientKind != nullptr, kWatchdogUnit, "clientKind");
   const auto index = GetAppropriateIndexForUUID(clientKind, uuid);
   const bool complete = processName != nullptr && processKind != nullptr && rect != nullptr;
   if (!complete && index >= GetPrefArrayCount(clientKind)) return -1;
@@ -56,8 +56,8 @@ std::int32_t SetPersistentClientInfo(const char* clientKind, const char* process
 }
 
 void RemovePersistentClientInfo(const char* arrayName, const Uuid* uuid) {
-  Require(arrayName != nullptr, kUnit, "arrayName != NULL");
-  Require(uuid != nullptr, kUnit, "uuid != NULL");
+  Require(arrayName != nullptr, kWatchdogUnit, "arrayName != NULL");
+  Require(uuid != nullptr, kWatchdogUnit, "uuid != NULL");
   const auto text = uuid->Text();
   const PreferenceBatch batch;
   for (std::int32_t index = GetPrefArrayCount(arrayName) - 1; index >= 0; --index)

@@ -15,14 +15,14 @@ constexpr char kLeftKey[] = "QUBS_DEBUGGING_WINDOW_LEFT";
 constexpr char kTopKey[] = "QUBS_DEBUGGING_WINDOW_TOP";
 constexpr char kRightKey[] = "QUBS_DEBUGGING_WINDOW_RIGHT";
 constexpr char kBottomKey[] = "QUBS_DEBUGGING_WINDOW_BOTTOM";
-constexpr QSize kSmallestSize(60, 50);
+constexpr QSize kSmallestInformation(60, 50);
 
 WindowRect RememberedPlace() {
   const WindowRect stored{
       GetPrefInt(kLeftKey, nullptr, true, 100), GetPrefInt(kTopKey, nullptr, true, 300),
       GetPrefInt(kRightKey, nullptr, true, 290), GetPrefInt(kBottomKey, nullptr, true, 350)};
   // Preferences may hold any number.
-  const auto place = PlaceOnScreen(stored, kSmallestSize);
+  const auto place = PlaceOnScreen(stored, kSmallestInformation);
   return {place.left(), place.top(), place.left() + place.width(), place.top() + place.height()};
 }
 

@@ -19,7 +19,7 @@ const PreferenceArray* StoredArray(const char* arrayKey) {
   return value != nullptr ? std::get_if<PreferenceArray>(value) : nullptr;
 }
 
-void Store(const char* arrayKey, PreferenceValue array) {
+void StoreArray(const char* arrayKey, PreferenceValue array) {
   Domain().SetValue(PreferenceKey(arrayKey).Text(), std::move(array));
   PreferenceBatch::Synchronize();
 }
@@ -58,7 +58,7 @@ void StoreField(const char* arrayKey, std::int32_t index, const char* dictKey,
   Require(dict != nullptr, kPreferencesUnit, "dict != NULL");
   Require(dictKey != nullptr, kPreferencesUnit, "dictPrefKey != NULL");
   dict->insert_or_assign(std::string(PreferenceKey(dictKey).Text()), std::move(value));
-  Store(arrayKey, copy.Take());
+  StoreArray(arrayKey, copy.Take());
 }
 
 PreferenceScalar Scalar(const PrefArrayField& field) {
@@ -86,7 +86,7 @@ const PreferenceScalar* Field(const char* arrayKey, std::int32_t index, const ch
 
 void EnsureArrayExists(const char* arrayKey) {
   Require(arrayKey != nullptr, kPreferencesUnit, "arrayKeyRef");
-  if (StoredArray(arrayKey) == nullptr) Store(arrayKey, PreferenceArray{});
+  if (StoredArray(arrayKey) == nullptr) StoreArray(arrayKey, PreferenceArray{});
 }
 
 std::int32_t GetPrefArrayCount(const char* arrayKey) {
@@ -105,7 +105,7 @@ void RemovePrefArrayElement(const char* arrayKey, std::int32_t index) {
   PreferenceArray* array = copy.Array();
   Require(array != nullptr, kPreferencesUnit, "array != NULL");
   array->erase(array->begin() + index);
-  Store(arrayKey, copy.Take());
+  StoreArray(arrayKey, copy.Take());
 }
 
 void EnsureArrayItemExists(const char* arrayKey, std::int32_t index) {
@@ -115,7 +115,7 @@ void EnsureArrayItemExists(const char* arrayKey, std::int32_t index) {
   const PreferenceArray* stored = StoredArray(arrayKey);
   PreferenceArray array = stored != nullptr ? *stored : PreferenceArray{};
   array.emplace_back();
-  Store(arrayKey, std::move(array));
+  StoreArray(arrayKey, std::move(array));
 }
 
 void SetPrefArrayInt(const char* arrayKey, std::int32_t index, const char* dictKey,
@@ -146,7 +146,7 @@ void SetPrefArrayFields(const char* arrayKey, std::int32_t index,
     Require(field.dictKey != nullptr, kPreferencesUnit, "dictPrefKey != NULL");
     dict.insert_or_assign(std::string(PreferenceKey(field.dictKey).Text()), Scalar(field));
   }
-  Store(arrayKey, std::move(array));
+  StoreArray(arrayKey, std::move(array));
 }
 
 bool IsPrefArrayValuePresent(const char* arrayKey, std::int32_t index, const char* dictKey) {

@@ -18,6 +18,7 @@
 #include "platform/desktop/EventMessage.h"
 #include "platform/linux/FileDescriptor.h"
 #include "support/ChildProgram.h"
+#include "support/EventLoop.h"
 
 namespace lurkwell {
 namespace {
@@ -25,15 +26,6 @@ namespace {
 constexpr FourCharCode kClass = {'T', 'e', 's', 't'};
 constexpr FourCharCode kId = {'\x80', ' ', '"', '0'};
 constexpr FourCharCode kPlainId = {'a', 'b', 'c', 'd'};
-
-bool SoonTrue(const std::function<bool()>& condition, double seconds = 10) {
-  return ComesTrue(
-      [&] {
-        QCoreApplication::processEvents();
-        return condition();
-      },
-      seconds);
-}
 
 /// Two ends on one bus; the receiver is found as the nub.
 struct Ends {

@@ -29,19 +29,11 @@
 #include "process_control/DaemonCommunication.h"
 #include "process_control/ProcessActions.h"
 #include "support/ChildProgram.h"
+#include "support/EventLoop.h"
 #include "support/RecordingClient.h"
 
 namespace lurkwell {
 namespace {
-
-bool SoonTrue(const std::function<bool()>& condition, double seconds = 20) {
-  return ComesTrue(
-      [&] {
-        QCoreApplication::processEvents();
-        return condition();
-      },
-      seconds);
-}
 
 std::string Value(std::int32_t pid, const char* property) {
   char text[256];

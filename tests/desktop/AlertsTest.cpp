@@ -14,8 +14,8 @@ namespace lurkwell {
 namespace {
 
 /// Shows an alert and does something to it.
-AlertButton Answer(const std::array<const char*, 3>& buttons,
-                   const std::function<void(QMessageBox&)>& act) {
+AlertButton AnswerOf(const std::array<const char*, 3>& buttons,
+                     const std::function<void(QMessageBox&)>& act) {
   // Once a loop has been told to end, the next one does not begin, and nothing is done to it.
   const QObject context;
   QTimer::singleShot(0, &context, [&] {
@@ -45,11 +45,11 @@ std::function<void(QMessageBox&)> Click(const QString& text) {
 }
 
 TEST(DesktopAlerts, GiveTheButtonThatWasChosen) {
-  EXPECT_EQ(Answer({"Yes", "No", "May&be"}, Click("Yes")), AlertButton::kDefault);
-  EXPECT_EQ(Answer({"Yes", "No", "May&be"}, Click("No")), AlertButton::kAlternate);
-  EXPECT_EQ(Answer({"Yes", "No", "May&be"}, Click("May&&be")), AlertButton::kOther);
-  EXPECT_EQ(Answer({"Yes", "", "Other"}, Click("Other")), AlertButton::kOther);
-  EXPECT_EQ(Answer({"Yes", "No", "Other"}, Press(Qt::Key_Return)), AlertButton::kDefault);
+  EXPECT_EQ(AnswerOf({"Yes", "No", "May&be"}, Click("Yes")), AlertButton::kDefault);
+  EXPECT_EQ(AnswerOf({"Yes", "No", "May&be"}, Click("No")), AlertButton::kAlternate);
+  EXPECT_EQ(AnswerOf({"Yes", "No", "May&be"}, Click("May&&be")), AlertButton::kOther);
+  EXPECT_EQ(AnswerOf({"Yes", "", "Other"}, Click("Other")), AlertButton::kOther);
+  EXPECT_EQ(AnswerOf({"Yes", "No", "Other"}, Press(Qt::Key_Return)), AlertButton::kDefault);
 }
 
 TEST(DesktopAlerts, EscapeIsTheLastButtonHoweverItComes) {
@@ -57,14 +57,14 @@ TEST(DesktopAlerts, EscapeIsTheLastButtonHoweverItComes) {
   const auto end = [](QMessageBox&) { QApplication::exit(); };
   for (const auto& act : {Press(Qt::Key_Escape), std::function<void(QMessageBox&)>(close),
                           std::function<void(QMessageBox&)>(end)}) {
-    EXPECT_EQ(Answer({"Yes", "No", "Other"}, act), AlertButton::kOther);
-    EXPECT_EQ(Answer({"Yes", "No", ""}, act), AlertButton::kAlternate);
-    EXPECT_EQ(Answer({"Yes", "", ""}, act), AlertButton::kDefault);
+    EXPECT_EQ(AnswerOf({"Yes", "No", "Other"}, act), AlertButton::kOther);
+    EXPECT_EQ(AnswerOf({"Yes", "No", ""}, act), AlertButton::kAlternate);
+    EXPECT_EQ(AnswerOf({"Yes", "", ""}, act), AlertButton::kDefault);
   }
 }
 
 TEST(DesktopAlerts, TextsAreNoMarkup) {
-  Answer({"OK", "", ""}, [](QMessageBox& box) {
+  AnswerOf({"OK", "", ""}, [](QMessageBox& box) {
     EXPECT_EQ(box.buttons().size(), 1);
     int texts = 0;
     for (const auto* label : box.findChildren<QLabel*>()) {

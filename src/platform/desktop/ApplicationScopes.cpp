@@ -13,7 +13,7 @@ constexpr std::chrono::seconds kTimeToSettle{3};
 constexpr int kLooksPerRefresh = 32;
 
 /// "\x2d" and the like as the bytes they stand for.
-std::string Unescaped(std::string_view text) {
+std::string UnescapedUnit(std::string_view text) {
   std::string plain;
   while (!text.empty()) {
     unsigned byte = 0;
@@ -46,7 +46,7 @@ std::optional<ApplicationScope> ScopeOfName(std::string_view name) {
   if (!id.starts_with(kPrefix)) return {};
   id.remove_prefix(std::max(id.rfind('-') + 1, kPrefix.size()));
   if (id.empty()) return {};
-  return ApplicationScope{std::string(name), Unescaped(id)};
+  return ApplicationScope{std::string(name), UnescapedUnit(id)};
 }
 
 /// The first such folder below the slice of applications.

@@ -32,7 +32,7 @@ class Socket {
   int mDescriptor;
 };
 
-std::string Unescaped(const std::string& text) {
+std::string UnescapedAddress(const std::string& text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     unsigned value = 0;
@@ -52,26 +52,28 @@ std::optional<std::string> ValueOf(const std::string& address, const std::string
   while (at < address.size()) {
     const auto end = std::min(address.find(',', at), address.size());
     if (address.compare(at, key.size() + 1, key + '=') == 0)
-      return Unescaped(address.substr(at + key.size() + 1, end - at - key.size() - 1));
+      return UnescapedAddress(address.substr(at + key.size() + 1, end - at - key.size() - 1));
     at = end + 1;
   }
   return {};
 }
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
 /// Waits for what `events` say, over interruptions; false when it is too late.
-bool WaitFor(int descriptor, short events, Clock::time_point end) {
+bool WaitFor(int descriptor, short events, SteadyClock::time_point end) {
   pollfd wait{descriptor, events, 0};
   for (;;) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(end - SteadyClock::now()).count();
     const int ready = ::poll(&wait, 1, static_cast<int>(std::max<std::int64_t>(left, 0)));
     if (ready >= 0 || errno != EINTR) return ready > 0;
   }
 }
 
 /// A bus with a full queue of callers is asked again until it is too late.
-bool Connect(int descriptor, const std::string& name, bool isAbstract, Clock::time_point end) {
+bool Connect(int descriptor, const std::string& name, bool isAbstract,
+             SteadyClock::time_point end) {
   constexpr std::chrono::milliseconds kPause{20};
   sockaddr_un place{};
   place.sun_family = AF_UNIX;
@@ -80,14 +82,14 @@ bool Connect(int descriptor, const std::string& name, bool isAbstract, Clock::ti
   std::memcpy(place.sun_path + begin, name.data(), name.size());
   const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + begin + name.size());
   while (::connect(descriptor, reinterpret_cast<const sockaddr*>(&place), length) != 0) {
-    if ((errno != EAGAIN && errno != EINTR) || Clock::now() >= end) return false;
+    if ((errno != EAGAIN && errno != EINTR) || SteadyClock::now() >= end) return false;
     std::this_thread::sleep_for(kPause);
   }
   return true;
 }
 
 /// The beginning of every conversation with a bus; whichever answer comes is one.
-bool Converse(int descriptor, Clock::time_point end) {
+bool Converse(int descriptor, SteadyClock::time_point end) {
   constexpr std::string_view kHello("\0AUTH\r\n", 7);
   // The first bytes on a connection never have to wait for room.
   if (::send(descriptor, kHello.data(), kHello.size(), MSG_NOSIGNAL) < 0) return false;
@@ -97,21 +99,21 @@ bool Converse(int descriptor, Clock::time_point end) {
 
 enum class Answer { kYes, kRefused, kSilent };
 
-Answer Ask(const std::string& address, Clock::time_point end) {
+Answer Ask(const std::string& address, SteadyClock::time_point end) {
   if (!address.starts_with("unix:")) return Answer::kYes;
   const auto path = ValueOf(address, "path");
   const auto abstractName = ValueOf(address, "abstract");
   if (!path && !abstractName) return Answer::kYes;
   const Socket socket;
   if (!Connect(socket.Get(), path.value_or(abstractName.value_or("")), !path, end))
-    return Clock::now() < end ? Answer::kRefused : Answer::kSilent;
+    return SteadyClock::now() < end ? Answer::kRefused : Answer::kSilent;
   return Converse(socket.Get(), end) ? Answer::kYes : Answer::kSilent;
 }
 
 }  // namespace
 
 bool DoesBusAnswer(const std::string& addresses, std::chrono::milliseconds longest) {
-  const auto end = Clock::now() + longest;
+  const auto end = SteadyClock::now() + longest;
   for (std::size_t at = 0; at < addresses.size();) {
     const auto next = std::min(addresses.find(';', at), addresses.size());
     const auto address = addresses.substr(at, next - at);

@@ -12,7 +12,7 @@
 namespace lurkwell {
 namespace {
 
-constexpr int kAnswerTimeout = 5000;
+constexpr int kNubAnswers = 5000;
 constexpr int kShortestPause = 100;
 constexpr int kPauseAfterFailure = 2000;
 constexpr qsizetype kLongestName = 255;
@@ -64,7 +64,7 @@ void ClassicProcessManager::AskForGuests() {
   const auto question = QDBusMessage::createMethodCall(owner, classic::kEnvironmentPath,
                                                        classic::kEnvironmentInterface,
                                                        QStringLiteral("Applications"));
-  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(question, kAnswerTimeout), this);
+  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(question, kNubAnswers), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, owner] {
     watcher->deleteLater();
     mIsAsking = false;

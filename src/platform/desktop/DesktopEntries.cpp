@@ -12,7 +12,7 @@ namespace lurkwell {
 namespace {
 
 constexpr std::string_view kSuffix = ".desktop";
-constexpr off_t kLargestFile = 512 * 1024;
+constexpr off_t kLargestEntry = 512 * 1024;
 constexpr int kDeepestFolder = 8;
 constexpr std::size_t kMostEntries = 10000;
 
@@ -36,7 +36,7 @@ std::optional<std::string> ReadOrdinaryFile(const std::string& path) {
   struct stat status {};
   std::optional<std::string> text;
   if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-      status.st_size <= kLargestFile) {
+      status.st_size <= kLargestEntry) {
     text.emplace(static_cast<std::size_t>(status.st_size), '\0');
     const ssize_t bytes = ::read(descriptor, text->data(), text->size());
     text->resize(static_cast<std::size_t>(std::max<ssize_t>(bytes, 0)));

@@ -39,7 +39,7 @@ Keys KeysOfMainGroup(std::string_view text) {
   return keys;
 }
 
-std::string Unescaped(std::string_view text) {
+std::string UnescapedValue(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] != '\\' || i + 1 == text.size()) {
@@ -58,7 +58,7 @@ std::string Unescaped(std::string_view text) {
 
 std::string TextOf(const Keys& keys, std::string_view key) {
   const auto found = keys.find(key);
-  return found == keys.end() ? std::string() : Unescaped(found->second);
+  return found == keys.end() ? std::string() : UnescapedValue(found->second);
 }
 
 bool IsTrue(const Keys& keys, std::string_view key) {

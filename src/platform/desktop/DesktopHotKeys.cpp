@@ -12,13 +12,13 @@
 namespace lurkwell {
 namespace {
 
-constexpr std::uint32_t kF1Symbol = 0xffbe;
-constexpr std::uint32_t kF20Symbol = 0xffd1;
+constexpr std::uint32_t kFirstFunctionKey = 0xffbe;
+constexpr std::uint32_t kLastFunctionKey = 0xffd1;
 constexpr char kRefusedReason[] = "another program has it, or the keyboard has no such key";
 
 /// Who gives keys away for windows such as this program's: an X server that is there for others
 /// would take them from its own programs.
-DesktopHotKeys::Source SourceOfPlatform() {
+DesktopHotKeys::Source KeysOfPlatform() {
   const QString platform = QGuiApplication::platformName();
   if (platform.startsWith(QLatin1String("wayland"))) return DesktopHotKeys::Source::kPortal;
   return platform == QLatin1String("xcb") ? DesktopHotKeys::Source::kXServer
@@ -27,8 +27,8 @@ DesktopHotKeys::Source SourceOfPlatform() {
 
 /// As people and portals write it: "F7", "a".
 std::string NameOf(std::uint32_t symbol) {
-  if (symbol >= kF1Symbol && symbol <= kF20Symbol)
-    return "F" + std::to_string(symbol - kF1Symbol + 1);
+  if (symbol >= kFirstFunctionKey && symbol <= kLastFunctionKey)
+    return "F" + std::to_string(symbol - kFirstFunctionKey + 1);
   switch (symbol) {
     case ' ':
       return "space";
@@ -54,7 +54,7 @@ void Complain(const std::string& key, const std::string& reason) {
 }  // namespace
 
 DesktopHotKeys::DesktopHotKeys(DesktopSettings settings)
-    : DesktopHotKeys(std::move(settings), SourceOfPlatform()) {}
+    : DesktopHotKeys(std::move(settings), KeysOfPlatform()) {}
 
 DesktopHotKeys::DesktopHotKeys(DesktopSettings settings, Source source)
     : mSettings(std::move(settings)), mSource(source) {}

@@ -18,13 +18,13 @@ constexpr int kSmallest = 8;
 constexpr int kLargest = 512;
 constexpr int kMostPixelsKept = 8 * 1024 * 1024;
 constexpr int kCostOfEntry = 64;
-constexpr qint64 kLargestFile = 8 * 1024 * 1024;
+constexpr qint64 kLargestPicture = 8 * 1024 * 1024;
 constexpr std::chrono::seconds kSteadyTime{1};
 
 /// An ordinary file of a sensible size, in the shape it has, as sharp as it can be.
 QImage ImageOfFile(const QString& path, int size) {
   const QFileInfo file(path);
-  if (!file.isFile() || file.size() > kLargestFile) return {};
+  if (!file.isFile() || file.size() > kLargestPicture) return {};
   QImageReader reader(path);
   const QSize own = reader.size();
   if (own.isValid() && !own.isEmpty()) {

@@ -30,7 +30,7 @@ bool IsSoftware(std::string_view renderer) {
          });
 }
 
-DesktopScreen::Source SourceOfPlatform() {
+DesktopScreen::Source ScreenOfPlatform() {
   const QString platform = QGuiApplication::platformName();
   if (platform.startsWith(QLatin1String("wayland"))) return DesktopScreen::Source::kWayland;
   return platform == QLatin1String("xcb") ? DesktopScreen::Source::kXServer
@@ -53,7 +53,7 @@ std::string RendererName() {
 }  // namespace
 
 DesktopScreen::DesktopScreen(DesktopSettings settings)
-    : DesktopScreen(std::move(settings), SourceOfPlatform()) {}
+    : DesktopScreen(std::move(settings), ScreenOfPlatform()) {}
 
 DesktopScreen::DesktopScreen(DesktopSettings settings, Source source)
     : mSettings(std::move(settings)),

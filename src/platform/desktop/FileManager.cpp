@@ -10,7 +10,7 @@
 namespace lurkwell {
 namespace {
 
-constexpr int kAnswerTimeout = 5000;
+constexpr int kFileManagerAnswers = 5000;
 
 /// Our own connection; made anew when the bus has been started again.
 QDBusConnection SessionBus(const std::string& address) {
@@ -33,7 +33,7 @@ bool FileManager::Show(const std::string& path) const {
                                                 QStringLiteral("ShowItems"));
   const QUrl file = QUrl::fromLocalFile(QFile::decodeName(path.c_str()));
   message << QStringList(QString::fromLatin1(file.toEncoded())) << QString();
-  bus.asyncCall(message, kAnswerTimeout);
+  bus.asyncCall(message, kFileManagerAnswers);
   return true;
 }
 

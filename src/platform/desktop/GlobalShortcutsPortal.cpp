@@ -20,7 +20,7 @@ const QString kInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcut
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 const QString kSessionInterface = QStringLiteral("org.freedesktop.portal.Session");
 const QString kSessionToken = QStringLiteral("lurkwell_session");
-constexpr int kAnswerTimeout = 5000;
+constexpr int kPortalAnswers = 5000;
 
 using ShortcutList = QList<std::pair<QString, QVariantMap>>;
 
@@ -60,7 +60,7 @@ void GlobalShortcutsPortal::ExpectAnswer(const QString& token, const char* slot)
 void GlobalShortcutsPortal::Call(const QString& method, const QVariantList& arguments) {
   auto message = QDBusMessage::createMethodCall(kService, kPath, kInterface, method);
   message.setArguments(arguments);
-  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(message, kAnswerTimeout), this);
+  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(message, kPortalAnswers), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
     if (watcher->isError()) mComplain(watcher->error().message());
     watcher->deleteLater();

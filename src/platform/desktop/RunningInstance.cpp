@@ -15,7 +15,7 @@ const QString kConnection = RunningInstance::ConnectionName();
 const QString kService = QStringLiteral("com.velquarin.lurkwell");
 const QString kPath = QStringLiteral("/com/velquarin/lurkwell/Instance");
 const QString kInterface = QStringLiteral("com.velquarin.lurkwell.Instance");
-constexpr int kAnswerTimeout = 3000;
+constexpr int kInstanceAnswers = 3000;
 constexpr int kBusTimeout = 1000;
 // The bus's own numbers.
 constexpr uint kNoFlags = 0;
@@ -59,7 +59,7 @@ RunningInstance::Answer RunningInstance::Ask(const QString& method) {
   if (owner.isEmpty() || !IsOurs(mBus, owner)) return Answer::kNobody;
   auto message = QDBusMessage::createMethodCall(owner, kPath, kInterface, method);
   message.setAutoStartService(false);
-  const QDBusMessage answer = mBus.call(message, QDBus::Block, kAnswerTimeout);
+  const QDBusMessage answer = mBus.call(message, QDBus::Block, kInstanceAnswers);
   if (answer.type() == QDBusMessage::ReplyMessage) return Answer::kDone;
   const QString error = answer.errorName();
   const bool isNobody = error.endsWith(QLatin1String(".NameHasNoOwner")) ||

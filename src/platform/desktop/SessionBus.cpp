@@ -13,7 +13,7 @@ namespace lurkwell {
 namespace {
 
 /// Nobody waits for it, and who is not answered for stays a stranger.
-constexpr int kAnswerTimeout = 20'000;
+constexpr int kBusAnswers = 20'000;
 /// Unique names are never given twice, so what is known stays true; only memory is bounded.
 constexpr int kMostKnown = 256;
 constexpr int kMostAsking = 8;
@@ -48,7 +48,7 @@ ServiceOwner::ServiceOwner(const QDBusConnection& bus, const QString& service,
 
 void ServiceOwner::AskForOwner(const QDBusConnection& bus, const QString& service) {
   auto* watcher = new QDBusPendingCallWatcher(
-      bus.asyncCall(BusMethod(QStringLiteral("GetNameOwner"), service), kAnswerTimeout), this);
+      bus.asyncCall(BusMethod(QStringLiteral("GetNameOwner"), service), kBusAnswers), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
     watcher->deleteLater();
     const QDBusPendingReply<QString> reply = *watcher;
@@ -88,7 +88,7 @@ bool BusUsers::Ask(const QString& connection, std::function<void(bool)> done) {
   if (mAsking >= kMostAsking) return false;
   ++mAsking;
   const auto call = BusMethod(QStringLiteral("GetConnectionUnixUser"), connection);
-  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(call, kAnswerTimeout), this);
+  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(call, kBusAnswers), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this,
           [this, watcher, connection, done = std::move(done)] {
             watcher->deleteLater();

@@ -46,8 +46,8 @@ bool IsOwnKind(const XConnection& connection, const std::vector<std::uint32_t>& 
 
 bool IsIconified(const XConnection& connection, const std::vector<std::uint32_t>& state,
                  const std::vector<std::uint32_t>& netState) {
-  constexpr std::uint32_t kIconicState = 3;
-  return (!state.empty() && state.front() == kIconicState) ||
+  constexpr std::uint32_t kMinimised = 3;
+  return (!state.empty() && state.front() == kMinimised) ||
          std::ranges::find(netState, connection.Atom(XAtom::kStateHidden)) != netState.end();
 }
 

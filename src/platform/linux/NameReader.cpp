@@ -19,7 +19,7 @@ namespace lurkwell {
 namespace {
 
 using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 /// Pid and start.
 using Key = std::pair<std::int32_t, std::uint64_t>;
 
@@ -36,7 +36,7 @@ struct Question {
 };
 
 struct Shelved {
-  Clock::time_point until;
+  SteadyClock::time_point until;
   bool hangs = true;
 };
 
@@ -79,7 +79,7 @@ struct NameReader::Mailbox {
   std::map<Key, Shelved> shelf;
   /// What the reader reads, and since when.
   std::optional<Key> reading;
-  Clock::time_point since;
+  SteadyClock::time_point since;
   unsigned generation = 0;
   /// Main thread's.
   std::thread reader;
@@ -113,7 +113,7 @@ bool NameReader::Ask(std::int32_t pid, std::uint64_t startStamp, std::string_vie
   const std::lock_guard lock(box.mutex);
   if (!EnsureReader()) return false;
   if (const auto shelved = box.shelf.find(key); shelved != box.shelf.end()) {
-    if (shelved->second.hangs || Clock::now() < shelved->second.until) return false;
+    if (shelved->second.hangs || SteadyClock::now() < shelved->second.until) return false;
     box.shelf.erase(shelved);
   }
   if (box.answers.contains(key) || box.reading == key ||
@@ -130,7 +130,7 @@ bool NameReader::Ask(std::int32_t pid, std::uint64_t startStamp, std::string_vie
 /// Inside the mailbox. False when there is no reader to be had.
 bool NameReader::EnsureReader() {
   auto& box = *mMailbox;
-  const auto now = Clock::now();
+  const auto now = SteadyClock::now();
   if (box.reading && now - box.since > kLongestReading) {
     std::erase_if(box.shelf, [now](const auto& shelved) {
       return !shelved.second.hangs && shelved.second.until <= now;
@@ -156,7 +156,7 @@ void NameReader::Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generat
     const Question question = box.questions.front();
     box.questions.pop_front();
     box.reading = question.key;
-    box.since = Clock::now();
+    box.since = SteadyClock::now();
     lock.unlock();
     const char following =
         ReadFollowingCharacter(*box.files, question.key.first, question.key.second,
@@ -177,7 +177,7 @@ void NameReader::Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generat
 void NameReader::WaitBriefly() {
   auto& box = *mMailbox;
   std::unique_lock lock(box.mutex);
-  if (box.reading && Clock::now() - box.since > kMoment) return;
+  if (box.reading && SteadyClock::now() - box.since > kMoment) return;
   box.news.wait_for(lock, kMoment, [&] { return box.IsIdle(); });
 }
 
