@@ -5,6 +5,7 @@
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PSHeaders.h"
+#include "consolidator/PSValues.h"
 #include "consolidator/PropertyRendering.h"
 
 namespace lurkwell {
@@ -94,35 +95,6 @@ constexpr std::array<std::int8_t, kPlaces> BuildPlaces() {
 
 constexpr auto kRowAtPlace = BuildPlaces();
 
-/// ps columns whose values are no plain texts.
-struct PSColumnType {
-  std::string_view header;
-  PropertyType type;
-};
-
-constexpr PSColumnType kPSColumnTypes[] = {
-    {"ACFLG", kPropertyTypeInteger},   {"BLOCKED", kPropertyTypeInteger},
-    {"CPU", kPropertyTypeInteger},     {"F", kPropertyTypeInteger},
-    {"JOBC", kPropertyTypeInteger},    {"KTRACE", kPropertyTypeInteger},
-    {"KTRACEP", kPropertyTypeInteger}, {"NI", kPropertyTypeInteger},
-    {"WCHAN", kPropertyTypeInteger},   {"P_RU", kPropertyTypeInteger},
-    {"PAGEIN", kPropertyTypeInteger},  {"PENDING", kPropertyTypeInteger},
-    {"PGID", kPropertyTypeInteger},    {"PID", kPropertyTypeInteger},
-    {"PPID", kPropertyTypeInteger},    {"PRI", kPropertyTypeInteger},
-    {"RE", kPropertyTypeInteger},      {"RGID", kPropertyTypeInteger},
-    {"RSS", kPropertyTypeInteger},     {"RUID", kPropertyTypeInteger},
-    {"SL", kPropertyTypeInteger},      {"SVGID", kPropertyTypeInteger},
-    {"SVUID", kPropertyTypeInteger},   {"TPGID", kPropertyTypeInteger},
-    {"TSIZ", kPropertyTypeInteger},    {"UID", kPropertyTypeInteger},
-    {"UPR", kPropertyTypeInteger},     {"XSTAT", kPropertyTypeInteger},
-    {"RSZ", kPropertyTypeMemory},      {"VSZ", kPropertyTypeMemory},
-    {"PADDR", kPropertyTypeHex},       {"SESS", kPropertyTypeHex},
-    {"TSESS", kPropertyTypeHex},       {"%CPU", kPropertyTypeReal},
-    {"%MEM", kPropertyTypeReal},
-};
-
-constexpr std::string_view kPSColumnsThatStay[] = {"PADDR", "PID", "PPID"};
-
 }  // namespace
 
 std::span<const CatalogueRow> BuiltInProperties() {
@@ -146,13 +118,9 @@ PropertyType GetProcPropertyType(const char* name, int* changes) {
     if (changes != nullptr) *changes = row->changes ? 1 : 0;
     return row->type;
   }
-  const std::string_view header(name);
-  if (changes != nullptr)
-    *changes = std::ranges::find(kPSColumnsThatStay, header) == std::ranges::end(kPSColumnsThatStay)
-                   ? 1
-                   : 0;
-  const auto* column = std::ranges::find(kPSColumnTypes, header, &PSColumnType::header);
-  return column == std::end(kPSColumnTypes) ? kPropertyTypeString : column->type;
+  const auto facts = FactsOfPSColumn(name);
+  if (changes != nullptr) *changes = facts.changes ? 1 : 0;
+  return facts.type;
 }
 
 bool IsKnownProcProperty(const char* name) {

@@ -8,9 +8,10 @@ enum PropertyType : int {
   kPropertyTypeInteger = 1,  ///< decimal integer
   kPropertyTypeReal = 2,     ///< decimal fraction, percentages
   kPropertyTypeHex = 3,      ///< hexadecimal address
-  kPropertyTypeMemory = 4,   ///< size in bytes (ps columns: kibibytes as ps prints them)
+  kPropertyTypeMemory = 4,   ///< size in bytes (ps columns: in units, as ps prints them)
   kPropertyTypeTime = 5,     ///< span of time, seconds.microseconds
   kPropertyTypeDate = 6,     ///< point in time, seconds.microseconds since the epoch
+  kPropertyTypeClock = 7,    ///< span of time as ps prints it: [[days-]hours:]minutes:seconds
 };
 
 /// The four sources that report into the records; each has its own generations.

@@ -2,18 +2,16 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <cstdio>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/PSValues.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyRendering.h"
-#include "consolidator/TextScan.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 
@@ -98,27 +96,6 @@ TypedValue ReadPidProperty(const PidBlock* block, const CatalogueRow& row) {
                                       : TypedValue(block->states.Why(place));
 }
 
-/// With a point, whatever the user's language.
-TypedValue ReadReal(std::string_view text) {
-  double value = 0.0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return std::isfinite(value) ? value : 0.0;
-}
-
-TypedValue ReadPSText(PropertyType type, std::string_view text) {
-  if (text.ends_with('\n')) text.remove_suffix(1);
-  std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
-  if (type == kPropertyTypeReal) digits = digits.substr(0, digits.find('.'));
-  const bool isDecimal = !digits.empty() &&
-                         digits.find_first_not_of("0123456789") == std::string_view::npos &&
-                         (digits.size() == 1 || digits.front() != '0');
-  if (isDecimal && type == kPropertyTypeReal) return ReadReal(text);
-  if (isDecimal && (type == kPropertyTypeInteger || type == kPropertyTypeMemory)) {
-    if (const auto number = ScanInteger(text)) return *number;
-  }
-  return std::string(text);
-}
-
 TypedValue ReadPSColumn(const MetaProcessInformation& record, const char* name) {
   // ps knows neither the idle task nor what is no process of the kernel's.
   if (record.pid <= 0) return Missing::kNone;
@@ -126,7 +103,7 @@ TypedValue ReadPSColumn(const MetaProcessInformation& record, const char* name) 
   if (header == nullptr || record.psValues == nullptr) return Missing::kNotYetKnown;
   const auto value = std::ranges::find(*record.psValues, header->index, &PSValue::headerIndex);
   if (value == record.psValues->end() || value->text == nullptr) return Missing::kNotYetKnown;
-  return ReadPSText(GetProcPropertyType(name, nullptr), *value->text);
+  return ReadPSValue(FactsOfPSColumn(name), *value->text);
 }
 
 bool HasPartOf(const MetaProcessInformation& record, std::string_view name) {

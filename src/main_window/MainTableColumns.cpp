@@ -28,8 +28,8 @@ constexpr int kSmallestBarWidth = 110;
 char DefaultDirection(std::string_view key) {
   if (key == KeyText(kInternalCPUPercent) || key == KeyText(kInternalMemGraph)) return 0;
   const auto type = GetProcPropertyType(std::string(key).c_str(), nullptr);
-  const bool isDescending =
-      type == kPropertyTypeMemory || type == kPropertyTypeTime || type == kPropertyTypeReal;
+  const bool isDescending = type == kPropertyTypeMemory || type == kPropertyTypeTime ||
+                            type == kPropertyTypeClock || type == kPropertyTypeReal;
   return isDescending ? 0 : 1;
 }
 
@@ -75,7 +75,7 @@ bool CanBeShown(const std::string& key) {
 bool IsRightAligned(KeyId key, PropertyType type) {
   if (IsInternalKey(KeyText(key))) return false;
   return key == kMetaActiveTime || type == kPropertyTypeInteger || type == kPropertyTypeMemory ||
-         type == kPropertyTypeTime || type == kPropertyTypeDate;
+         type == kPropertyTypeTime || type == kPropertyTypeDate || type == kPropertyTypeClock;
 }
 
 }  // namespace

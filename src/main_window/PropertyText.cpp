@@ -48,6 +48,16 @@ QString TimeText(TimeValue time) {
   return QString::fromStdString(text);
 }
 
+QString ClockText(TimeValue time) {
+  const auto part = [](std::int64_t number) {
+    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+  };
+  const auto days = time.seconds / 86'400;
+  const auto clock = part(time.seconds / 3600 % 24) + QLatin1Char(':') +
+                     part(time.seconds / 60 % 60) + QLatin1Char(':') + part(time.seconds % 60);
+  return days > 0 ? QString::number(days) + QLatin1Char('-') + clock : clock;
+}
+
 QString PlainText(std::string_view text) {
   return QString::fromStdString(PrintableText(text));
 }
@@ -68,6 +78,9 @@ QString DisplayText(PropertyType type, const TypedValue& value, int width, std::
     case kPropertyTypeDate:
       if (const auto* time = std::get_if<TimeValue>(&value); time != nullptr && pid >= 0)
         return QString::fromStdString(DateString(*time, width)).trimmed();
+      break;
+    case kPropertyTypeClock:
+      if (const auto* time = std::get_if<TimeValue>(&value)) return ClockText(*time);
       break;
     case kPropertyTypeString:
     case kPropertyTypeHex:

@@ -16,6 +16,9 @@ namespace lurkwell {
 /// 12.34, 12.50, 12.00, 3.1415.
 QString TimeText(TimeValue time);
 
+/// A span of time as [days-]hours:minutes:seconds, the way ps writes it.
+QString ClockText(TimeValue time);
+
 /// A process's own text on one line, as PrintableText has it.
 QString PlainText(std::string_view text);
 

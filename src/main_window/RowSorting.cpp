@@ -113,6 +113,7 @@ RowComparison ComparisonForType(PropertyType type) {
     case kPropertyTypeInteger:
       return integerCompare;
     case kPropertyTypeReal:
+    case kPropertyTypeClock:
       return realCompare;
     case kPropertyTypeHex:
       return hexCompare;

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lurkwell {
@@ -13,6 +16,21 @@ struct ToolOutput {
   std::string text;
   /// The tool ran to its end within its time; otherwise `text` is what came until then.
   bool complete = false;
+};
+
+/// What a column of the system's ps holds.
+struct ToolColumn {
+  enum class Kind {
+    kText,
+    kInteger,
+    kReal,
+    kSize,   ///< a number of units
+    kClock,  ///< a span of time: [[days-]hours:]minutes:seconds
+    kDate,   ///< a point in time, such as "Sun Nov  1 12:34:56 2026"
+  };
+  Kind kind = Kind::kText;
+  /// Of a size: bytes.
+  std::int64_t unit = 1;
 };
 
 /// A program that was started for what it prints. Destroying it kills it. Main thread only.
@@ -39,6 +57,10 @@ class Tools {
   /// ("/bin/ps -Lww", "/bin/ps 0 -o KEYWORD", "/bin/ps -axww -o pid,KEYWORD"); any other ends with
   /// an incomplete answer. What is started here is destroyed before this.
   virtual std::unique_ptr<RunningTool> Start(const std::string& commandLine) = 0;
+
+  /// What is known of a column of ps under this header, which the header's line gives; nothing when
+  /// it is nothing, or when ps prints what the properties' own table says. Any thread.
+  virtual std::optional<ToolColumn> ColumnNamed(std::string_view) const { return std::nullopt; }
 
   /// Serves them until all have ended, for `limit` at most.
   virtual void Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) = 0;

@@ -16,9 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto columns = ParsePsListing(text);
   std::set<std::string> keywords;
   for (const auto& column : columns) {
-    if (column.header.empty() || column.header.find_first_of(" \t\n") != std::string::npos)
+    if (column.name.empty() || column.name.find_first_of(" \t\n") != std::string::npos)
       std::abort();
-    if (HeaderLine(columns, column.keyword) != column.header + '\n') std::abort();
+    if (HeaderLine(columns, column.keyword) != column.name + '\n') std::abort();
     if (!ParsePsCommand("/bin/ps 0 -o " + column.keyword)) std::abort();
     if (!keywords.insert(column.keyword).second) std::abort();
   }

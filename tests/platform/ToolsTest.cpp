@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -16,6 +18,7 @@
 #include "platform/Children.h"
 #include "platform/MadeUpTree.h"
 #include "platform/linux/LinuxTools.h"
+#include "platform/linux/ProcpsColumns.h"
 
 namespace lurkwell {
 namespace {
@@ -76,32 +79,84 @@ std::vector<std::string> WordsOf(const std::string& text) {
   return {std::istream_iterator<std::string>(stream), {}};
 }
 
-TEST(PsDialect, OffersEveryRealColumnUnderTheHeaderThatPsPrints) {
+TEST(PsDialect, OffersEveryColumnUnderANameOfItsOwn) {
   LinuxTools tools;
   const auto answer = RunOne(tools, "/bin/ps -Lww");
   ASSERT_TRUE(answer.complete);
   EXPECT_LE(answer.text.size(), 1023u);
   EXPECT_EQ(answer.text.find("  "), std::string::npos);
   EXPECT_EQ(answer.text.find('\n'), answer.text.size() - 1);
-  const auto keywords = WordsOf(answer.text);
+  const auto columns = ParsePsListing(Printed("LC_ALL=C /bin/ps L"));
+  ASSERT_GT(columns.size(), 150u);
 
-  ASSERT_GT(keywords.size(), 100u);
   std::set<std::string> offered;
-  for (const auto& keyword : keywords) {
-    const auto header = RunOne(tools, "/bin/ps 0 -o " + keyword);
-    ASSERT_TRUE(header.complete) << keyword;
-    const auto printed = WordsOf(Printed("LC_ALL=C /bin/ps -p 1 -o " + keyword + " | head -n 1"));
-    EXPECT_EQ(WordsOf(header.text), printed) << keyword;
-    offered.insert(printed.front());
+  for (const auto& keyword : WordsOf(answer.text)) {
+    const auto name = RunOne(tools, "/bin/ps 0 -o " + keyword);
+    ASSERT_TRUE(name.complete) << keyword;
+    offered.insert(name.text);
   }
-  std::istringstream listing(Printed("LC_ALL=C /bin/ps L"));
-  for (std::string keyword, header; listing >> keyword >> header;) {
-    EXPECT_TRUE(keyword.starts_with('_') || offered.contains(header)) << keyword;
+  std::map<std::string, std::string> keywordOf;
+  for (const auto& column : columns) {
+    EXPECT_TRUE(offered.contains(column.name + "\n")) << column.keyword;
+    const auto first = keywordOf.emplace(column.name, column.keyword).first->second;
+    EXPECT_TRUE(first == column.keyword || !ProcpsKeywordFor(column.keyword).empty() ||
+                ProcpsKeywordFor(first) == column.keyword)
+        << first << " and " << column.keyword << " are both " << column.name;
   }
+  // ps itself prints the names.
+  for (const char* keyword : {"args", "comm", "etime", "etimes", "lstart", "rss", "m_size"}) {
+    const auto printed = RunOne(tools, "/bin/ps -axww -o pid," + std::string(keyword));
+    EXPECT_EQ(WordsOf(printed.text.substr(0, printed.text.find('\n'))).back() + "\n",
+              HeaderLine(columns, keyword));
+  }
+  EXPECT_EQ(HeaderLine(columns, "comm") + HeaderLine(columns, "ucomm"), "COMM\nCOMM\n");
+  EXPECT_EQ(HeaderLine(columns, "sess") + HeaderLine(columns, "pri_foo"), "");
   EXPECT_TRUE(HasNoChildren());
 }
 
-TEST(PsDialect, GivesEachHeaderAKeywordBeforeAnyHasTwo) {
+/// What is known of columns beforehand, against what ps prints for all processes.
+TEST(PsDialect, KnowsWhatTheColumnsHold) {
+  const std::regex number(R"(-?(0|[1-9][0-9]*)(\.[0-9]+)?)");
+  const std::set<std::string> noNumbers{"-", "?", "*", "xx"};
+  std::string unknown;
+  for (const auto& column : ParsePsListing(Printed("LC_ALL=C /bin/ps L"))) {
+    const auto kind = ProcpsColumnNamed(column.name);
+    if (!kind) unknown += column.keyword + ' ';
+    if (!kind || kind->kind >= ToolColumn::Kind::kClock) continue;
+    std::istringstream lines(Printed("LC_ALL=C.UTF-8 /bin/ps -axww -o " + column.keyword + "="));
+    std::size_t numbers = 0, texts = 0;
+    for (std::string line; std::getline(lines, line);) {
+      const auto words = WordsOf(line);
+      if (words.empty() || noNumbers.contains(words[0])) continue;
+      words.size() == 1 && std::regex_match(words[0], number) ? ++numbers : ++texts;
+    }
+    if (kind->kind == ToolColumn::Kind::kText) {
+      EXPECT_TRUE(texts > 0 || numbers == 0) << column.keyword << " is a number throughout";
+    } else {
+      EXPECT_EQ(texts, 0u) << column.keyword << " is no number throughout";
+    }
+  }
+  if (!unknown.empty()) std::printf("columns that are shown as texts: %s\n", unknown.c_str());
+}
+
+TEST(PsDialect, OtherKeywordsOfAColumnPrintTheSame) {
+  const Child sleeper;
+  const auto value = [&sleeper](const std::string& keyword) {
+    return WordsOf(Printed("LC_ALL=C.UTF-8 /bin/ps -ww -p " + std::to_string(sleeper.Pid()) +
+                           " -o " + keyword + "="));
+  };
+  const auto columns = ParsePsListing(Printed("LC_ALL=C /bin/ps L"));
+  int aliases = 0;
+  for (const auto& column : columns) {
+    const auto known = ProcpsKeywordFor(column.keyword);
+    if (known.empty()) continue;
+    ++aliases;
+    EXPECT_EQ(value(column.keyword), value(std::string(known))) << column.keyword;
+  }
+  EXPECT_GT(aliases, 20);
+}
+
+TEST(PsDialect, GivesEachColumnAKeywordBeforeAnyHasTwo) {
   std::string listing;
   for (int i = 0; i < 60; ++i) {
     const auto number = std::to_string(100 + i);
@@ -109,7 +164,9 @@ TEST(PsDialect, GivesEachHeaderAKeywordBeforeAnyHasTwo) {
       listing += kind + number + "  H" + number + "  \n";
     }
   }
-  const auto columns = ParsePsListing(listing);
+  auto columns = ParsePsListing(listing);
+  // As if all under one header were one column.
+  for (auto& column : columns) column.name = column.header;
   const auto line = KeywordLine(columns);
   EXPECT_GT(line.size(), 1010u);
   EXPECT_LE(line.size(), 1023u);
@@ -130,8 +187,16 @@ TEST(PsDialect, LeavesOutWhatCannotBeAProperty) {
       ParsePsListing("_left LLLL\nnone\nspaced  TWO WORDS\nsame A\nsame B\na,b C\nlong " +
                      std::string(63, 'X') + "\n%cpu\t%CPU \r\n\n \nlast LAST");
   std::string text;
-  for (const auto& column : columns) text += column.keyword + '=' + column.header + ' ';
+  for (const auto& column : columns) text += column.keyword + '=' + column.name + ' ';
   EXPECT_EQ(text, "spaced=TWO same=A %cpu=%CPU last=LAST ");
+  text.clear();
+  for (const auto& column :
+       ParsePsListing("comm COMMAND\ntty9 TTY\nnew TTY\ncommand COMMAND\ntty TTY\nTTY9 COMMAND\n"
+                      "new2 NEW2\nlstart STARTED\nucomm COMMAND\nsess SESS\npri_baz BAZ\n"))
+    text += column.keyword + '=' + column.name + ' ';
+  EXPECT_EQ(text,
+            "comm=COMM tty9=TTY9 new=NEW command=COMMAND tty=TTY TTY9=COMMAND(TTY9) "
+            "new2=NEW2 lstart=LSTART ucomm=COMM ");
   EXPECT_EQ(HeaderLine(columns, "spaced"), "TWO\n");
   EXPECT_EQ(HeaderLine(columns, "other"), "");
   EXPECT_EQ(KeywordLine({}), "");

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 
 #include "platform/linux/BackgroundStart.h"
+#include "platform/linux/ProcpsColumns.h"
 
 namespace lurkwell {
 
@@ -49,7 +50,7 @@ std::unique_ptr<RunningTool> LinuxTools::Start(const std::string& commandLine) {
   if (!command) return std::make_unique<Program>(*this, ToolOutput{});
   switch (command->kind) {
     case PsCommand::Kind::kColumn:
-      return StartProgram(PsColumnArguments(command->keyword), false);
+      return StartProgram(PsColumnArguments(mColumns, command->keyword), false);
     case PsCommand::Kind::kKeywords:
       if (mColumns.empty()) return StartProgram(PsListingArguments(), true);
       return std::make_unique<Program>(*this, ToolOutput{KeywordLine(mColumns), true});
@@ -65,6 +66,10 @@ std::unique_ptr<RunningTool> LinuxTools::StartProgram(const std::vector<std::str
   ToolProcess process(arguments);
   if (!process.IsRunning()) return nullptr;
   return std::make_unique<Program>(*this, std::move(process), isListing);
+}
+
+std::optional<ToolColumn> LinuxTools::ColumnNamed(std::string_view header) const {
+  return ProcpsColumnNamed(header);
 }
 
 void LinuxTools::Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) {

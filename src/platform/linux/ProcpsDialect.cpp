@@ -5,6 +5,8 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "platform/linux/ProcpsColumns.h"
+
 namespace lurkwell {
 namespace {
 
@@ -39,13 +41,63 @@ bool IsHeader(std::string_view text) {
          text.find('\0') == std::string_view::npos;
 }
 
-/// Which of its header's keywords each column is, from 0.
-std::vector<std::size_t> RanksUnderHeader(const std::vector<PsColumn>& columns) {
+/// Which of its name's keywords each column is, from 0.
+std::vector<std::size_t> RanksUnderName(const std::vector<PsColumn>& columns) {
   std::unordered_map<std::string_view, std::size_t> counts;
   std::vector<std::size_t> ranks;
   ranks.reserve(columns.size());
-  for (const auto& column : columns) ranks.push_back(counts[column.header]++);
+  for (const auto& column : columns) ranks.push_back(counts[column.name]++);
   return ranks;
+}
+
+const PsColumn* FindKeyword(const std::vector<PsColumn>& columns, std::string_view keyword) {
+  const auto found = std::ranges::find(columns, keyword, &PsColumn::keyword);
+  return found == columns.end() ? nullptr : &*found;
+}
+
+std::string InCapitals(std::string text) {
+  for (char& c : text)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return text;
+}
+
+/// The column of which this one is another keyword; itself when it is none.
+const PsColumn& ColumnBehind(const std::vector<PsColumn>& columns, const PsColumn& column) {
+  const auto* known = FindKeyword(columns, ProcpsKeywordFor(column.keyword));
+  return known != nullptr ? *known : column;
+}
+
+/// For each header the keyword of the column that has it for its name.
+std::unordered_map<std::string_view, std::string_view> HeaderOwners(
+    const std::vector<PsColumn>& columns) {
+  std::unordered_map<std::string_view, std::string_view> owners;
+  for (const auto& column : columns) {
+    if (&ColumnBehind(columns, column) != &column || HasProcpsNameOfItsOwn(column.keyword))
+      continue;
+    const bool isItsKeyword = InCapitals(column.keyword) == column.header;
+    if (!owners.emplace(column.header, column.keyword).second && isItsKeyword)
+      owners[column.header] = column.keyword;
+  }
+  return owners;
+}
+
+void NameColumns(std::vector<PsColumn>& columns) {
+  const auto owners = HeaderOwners(columns);
+  std::unordered_set<std::string> taken;
+  for (const auto& column : columns) taken.insert(column.header);
+  for (auto& column : columns) {
+    const auto owner = owners.find(column.header);
+    if (owner != owners.end() && owner->second == column.keyword) {
+      column.name = column.header;
+    } else if (&ColumnBehind(columns, column) == &column) {
+      column.name = InCapitals(column.keyword);
+      if (!taken.insert(column.name).second)
+        column.name = column.header + '(' + column.keyword + ')';
+    }
+  }
+  for (auto& column : columns)
+    if (column.name.empty()) column.name = ColumnBehind(columns, column).name;
+  std::erase_if(columns, [](const PsColumn& column) { return !IsHeader(column.name); });
 }
 
 }  // namespace
@@ -58,14 +110,16 @@ std::vector<PsColumn> ParsePsListing(std::string_view listing) {
     listing.remove_prefix(std::min(line.size() + 1, listing.size()));
     const auto keyword = TakeWord(line);
     const auto header = TakeWord(line);
-    if (!IsKeyword(keyword) || keyword.front() == '_' || !IsHeader(header)) continue;
-    if (seen.insert(keyword).second) columns.push_back({std::string(keyword), std::string(header)});
+    if (!IsKeyword(keyword) || IsProcpsOddity(keyword) || !IsHeader(header)) continue;
+    if (seen.insert(keyword).second)
+      columns.push_back({std::string(keyword), std::string(header), {}});
   }
+  NameColumns(columns);
   return columns;
 }
 
 std::string KeywordLine(const std::vector<PsColumn>& columns) {
-  const auto ranks = RanksUnderHeader(columns);
+  const auto ranks = RanksUnderName(columns);
   std::vector<std::size_t> order(columns.size());
   for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
   std::stable_sort(order.begin(), order.end(),
@@ -89,10 +143,8 @@ std::string KeywordLine(const std::vector<PsColumn>& columns) {
 }
 
 std::string HeaderLine(const std::vector<PsColumn>& columns, std::string_view keyword) {
-  const auto found =
-      std::find_if(columns.begin(), columns.end(),
-                   [keyword](const PsColumn& column) { return column.keyword == keyword; });
-  return found == columns.end() ? std::string() : found->header + '\n';
+  const auto* column = FindKeyword(columns, keyword);
+  return column == nullptr ? std::string() : column->name + '\n';
 }
 
 std::optional<PsCommand> ParsePsCommand(std::string_view commandLine) {
@@ -110,8 +162,12 @@ std::vector<std::string> PsListingArguments() {
   return {kPs, "L"};
 }
 
-std::vector<std::string> PsColumnArguments(const std::string& keyword) {
-  return {kPs, "-axww", "-o", "pid," + keyword};
+std::vector<std::string> PsColumnArguments(const std::vector<PsColumn>& columns,
+                                           const std::string& keyword) {
+  const auto* column = FindKeyword(columns, keyword);
+  if (column == nullptr || column->name == column->header)
+    return {kPs, "-axww", "-o", "pid," + keyword};
+  return {kPs, "-axww", "-o", "pid", "-o", keyword + '=' + column->name};
 }
 
 }  // namespace lurkwell

@@ -10,22 +10,29 @@ namespace lurkwell {
 /// What the ps of this system prints for a keyword.
 struct PsColumn {
   std::string keyword;
+  /// What ps prints above the column by itself.
   std::string header;
+  /// What we have it print. Two keywords have one name when they are one column.
+  std::string name;
 };
 
 /// The columns of one listing ("ps L": a keyword and a header on each line), in its order. Left out
-/// is what could not be used as a property: keywords that stand twice, that begin with an
-/// underscore (padding) or hold anything but letters, digits, '_' and '%'; headers that are empty
-/// or longer than 62 bytes. Of a header of several words the first counts, as the reader of a
-/// column's output takes just that. Pure.
+/// is what could not be used as a property: keywords that stand twice, that are no columns for
+/// people (padding, test scales), or hold anything but letters, digits, '_' and '%'; headers that
+/// are empty or longer than 62 bytes. Of a header of several words the first counts, as the reader
+/// of a column's output takes just that.
+///
+/// A header that several columns share names one of them: the one whose keyword it is, else the
+/// first. The others are named by their keywords in capitals (COMM is what the keyword comm
+/// prints), or, should there be such a header, by both: "TTY(tty9)". Pure.
 std::vector<PsColumn> ParsePsListing(std::string_view listing);
 
 /// The keywords for "/bin/ps -Lww": one line, a blank between two words, at most 1,023 characters
-/// with its newline. Each header gets its first keyword before any header gets a second one, and so
-/// on until no more fit; the listing's order is kept. Pure.
+/// with its newline. Each name gets its first keyword before any name gets a second one, and so on
+/// until no more fit; the listing's order is kept. Pure.
 std::string KeywordLine(const std::vector<PsColumn>& columns);
 
-/// The answer to "/bin/ps 0 -o KEYWORD": the header and a newline; empty for an unknown keyword.
+/// The answer to "/bin/ps 0 -o KEYWORD": the name and a newline; empty for an unknown keyword.
 /// Pure.
 std::string HeaderLine(const std::vector<PsColumn>& columns, std::string_view keyword);
 
@@ -42,6 +49,7 @@ std::optional<PsCommand> ParsePsCommand(std::string_view commandLine);
 
 /// The programs to run, as argument vectors: for the listing, and for one column of all processes.
 std::vector<std::string> PsListingArguments();
-std::vector<std::string> PsColumnArguments(const std::string& keyword);
+std::vector<std::string> PsColumnArguments(const std::vector<PsColumn>& columns,
+                                           const std::string& keyword);
 
 }  // namespace lurkwell

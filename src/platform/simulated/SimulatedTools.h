@@ -2,8 +2,10 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "platform/Tools.h"
 #include "platform/simulated/AccessLog.h"
@@ -31,6 +33,11 @@ class SimulatedTools final : public Tools {
     return mStarting(arguments);
   }
 
+  std::optional<ToolColumn> ColumnNamed(std::string_view header) const override {
+    const auto found = mColumns.find(header);
+    return found == mColumns.end() ? std::nullopt : std::optional(found->second);
+  }
+
   int Stat(const std::string& path) override {
     mLog.Add("Tools.Stat " + path);
     return mMissingFiles.contains(path) ? -1 : 0;
@@ -48,6 +55,8 @@ class SimulatedTools final : public Tools {
       mStuckCommands.erase(command);
     }
   }
+  /// What is known of a column of ps; nothing unless told.
+  void SetColumn(const std::string& header, ToolColumn column) { mColumns[header] = column; }
   /// Whether nothing can be started.
   void SetShort(bool isShort) { mIsShort = isShort; }
   void SetMissing(const std::string& path) { mMissingFiles.insert(path); }
@@ -72,6 +81,7 @@ class SimulatedTools final : public Tools {
 
   AccessLog& mLog;
   std::map<std::string, std::string> mOutputs;
+  std::map<std::string, ToolColumn, std::less<>> mColumns;
   std::set<std::string> mStuckCommands;
   std::set<std::string> mMissingFiles;
   bool mIsShort = false;
