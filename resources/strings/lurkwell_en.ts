@@ -395,22 +395,6 @@
         <source></source>
         <translation>The scheduling priority on one of the historical scales that ps offers: -1 less the kernel's priority.</translation>
     </message>
-    <message id="BAR">
-        <source></source>
-        <translation>Priority (BAR)</translation>
-    </message>
-    <message id="BAR_tip">
-        <source></source>
-        <translation>The scheduling priority on one of the historical scales that ps offers: the kernel's priority plus 1.</translation>
-    </message>
-    <message id="BAZ">
-        <source></source>
-        <translation>Priority (BAZ)</translation>
-    </message>
-    <message id="BAZ_tip">
-        <source></source>
-        <translation>The scheduling priority on one of the historical scales that ps offers: the kernel's priority plus 100, so that ordinary processes lie between 100 and 139.</translation>
-    </message>
     <message id="BLOCKED">
         <source></source>
         <translation>Blocked signals (BLOCKED)</translation>
@@ -419,13 +403,21 @@
         <source></source>
         <translation>The signals whose delivery the process has put off, as a hexadecimal mask.</translation>
     </message>
+    <message id="BSDTIME">
+        <source></source>
+        <translation>CPU time (BSDTIME)</translation>
+    </message>
+    <message id="BSDTIME_tip">
+        <source></source>
+        <translation>CPU time used since the process started, user and system together. The same as TIME.</translation>
+    </message>
     <message id="C">
         <source></source>
-        <translation>Last CPU (C)</translation>
+        <translation>CPU usage (C)</translation>
     </message>
     <message id="C_tip">
         <source></source>
-        <translation>The number of the processor that the process ran on last. A ps that does not know it prints the CPU usage in whole percent under this header.</translation>
+        <translation>CPU time used divided by the time the process has been running, in whole percent.</translation>
     </message>
     <message id="CATCHED">
         <source></source>
@@ -477,9 +469,17 @@
     </message>
     <message id="CMD">
         <source></source>
-        <translation>Command name (CMD)</translation>
+        <translation>Command line (CMD)</translation>
     </message>
     <message id="CMD_tip">
+        <source></source>
+        <translation>The command with all its arguments. The same as COMMAND.</translation>
+    </message>
+    <message id="COMM">
+        <source></source>
+        <translation>Command name (COMM)</translation>
+    </message>
+    <message id="COMM_tip">
         <source></source>
         <translation>The name of the command without its arguments.</translation>
     </message>
@@ -515,13 +515,21 @@
         <source></source>
         <translation>The number of the processor that the process ran on last.</translation>
     </message>
+    <message id="CPUTIMES">
+        <source></source>
+        <translation>CPU seconds (CPUTIMES)</translation>
+    </message>
+    <message id="CPUTIMES_tip">
+        <source></source>
+        <translation>CPU time used since the process started, user and system together, in seconds.</translation>
+    </message>
     <message id="DRS">
         <source></source>
         <translation>Data size (DRS)</translation>
     </message>
     <message id="DRS_tip">
         <source></source>
-        <translation>The size of all mapped memory except for the executable code, in kibibytes. Despite the name, not all of it needs to be in RAM.</translation>
+        <translation>The size of all mapped memory except for the executable code. Despite the name, not all of it needs to be in RAM.</translation>
     </message>
     <message id="DSIZ">
         <source></source>
@@ -529,7 +537,7 @@
     </message>
     <message id="DSIZ_tip">
         <source></source>
-        <translation>The size of all mapped memory except for the executable code, in kibibytes.</translation>
+        <translation>The size of all mapped memory except for the executable code.</translation>
     </message>
     <message id="EGID">
         <source></source>
@@ -561,7 +569,7 @@
     </message>
     <message id="ELAPSED_tip">
         <source></source>
-        <translation>Time since the process was started, in seconds. Some versions of ps print days, hours, minutes and seconds instead.</translation>
+        <translation>Time since the process was started, as days, hours, minutes and seconds.</translation>
     </message>
     <message id="ESP">
         <source></source>
@@ -570,6 +578,14 @@
     <message id="ESP_tip">
         <source></source>
         <translation>The address of the top of the stack. Kernels since 4.9 show it only while a process ends; otherwise it is zero.</translation>
+    </message>
+    <message id="ETIMES">
+        <source></source>
+        <translation>Elapsed seconds (ETIMES)</translation>
+    </message>
+    <message id="ETIMES_tip">
+        <source></source>
+        <translation>Time since the process was started, in seconds.</translation>
     </message>
     <message id="EUID">
         <source></source>
@@ -619,13 +635,13 @@
         <source></source>
         <translation>The name of the group that counts when the process opens files.</translation>
     </message>
-    <message id="FOO">
+    <message id="FNAME">
         <source></source>
-        <translation>Priority (FOO)</translation>
+        <translation>Command name, shortened (FNAME)</translation>
     </message>
-    <message id="FOO_tip">
+    <message id="FNAME_tip">
         <source></source>
-        <translation>The scheduling priority on one of the historical scales that ps offers: the kernel's priority less 20, which is the nice value of an ordinary process.</translation>
+        <translation>The first eight letters of the name of the command.</translation>
     </message>
     <message id="FSGID">
         <source></source>
@@ -715,6 +731,14 @@
         <source></source>
         <translation>The label that the kernel's access control gave the process; a dash when there is none. The same as CONTEXT.</translation>
     </message>
+    <message id="LASTCPU">
+        <source></source>
+        <translation>Last CPU (LASTCPU)</translation>
+    </message>
+    <message id="LASTCPU_tip">
+        <source></source>
+        <translation>The number of the processor that the process ran on last. The same as PSR.</translation>
+    </message>
     <message id="LIM">
         <source></source>
         <translation>Memory limit (LIM)</translation>
@@ -722,6 +746,14 @@
     <message id="LIM_tip">
         <source></source>
         <translation>The limit on the resident size, in kibibytes; xx stands for no limit.</translation>
+    </message>
+    <message id="LSTART">
+        <source></source>
+        <translation>Start date (LSTART)</translation>
+    </message>
+    <message id="LSTART_tip">
+        <source></source>
+        <translation>When the process was started, date and time.</translation>
     </message>
     <message id="LUID">
         <source></source>
@@ -746,6 +778,14 @@
     <message id="LXC_tip">
         <source></source>
         <translation>The name of the LXC container the process runs in; a dash outside of containers.</translation>
+    </message>
+    <message id="M_SIZE">
+        <source></source>
+        <translation>Virtual size in bytes (M_SIZE)</translation>
+    </message>
+    <message id="M_SIZE_tip">
+        <source></source>
+        <translation>The size of all memory the process has mapped, in bytes.</translation>
     </message>
     <message id="MACHINE">
         <source></source>
@@ -843,6 +883,14 @@
         <source></source>
         <translation>What is added to the out-of-memory score, from -1000 (never ended) to 1000 (ended first).</translation>
     </message>
+    <message id="OPRI">
+        <source></source>
+        <translation>Priority (OPRI)</translation>
+    </message>
+    <message id="OPRI_tip">
+        <source></source>
+        <translation>The scheduling priority on one of the historical scales that ps offers: the kernel's priority plus 60, so 80 for an ordinary process and less for one that runs first.</translation>
+    </message>
     <message id="OWNER">
         <source></source>
         <translation>Session owner (OWNER)</translation>
@@ -929,7 +977,15 @@
     </message>
     <message id="PRI_tip">
         <source></source>
-        <translation>The scheduling priority as ps prints it: the kernel's priority plus 60, so 80 for an ordinary process and less for one that runs first.</translation>
+        <translation>The scheduling priority, turned round: 19 for an ordinary process and more for one that runs first.</translation>
+    </message>
+    <message id="PRIORITY">
+        <source></source>
+        <translation>Priority (PRIORITY)</translation>
+    </message>
+    <message id="PRIORITY_tip">
+        <source></source>
+        <translation>The kernel's own scheduling priority: 20 for an ordinary process and less for one that runs first, below zero for real-time ones.</translation>
     </message>
     <message id="PSR">
         <source></source>
@@ -945,7 +1001,7 @@
     </message>
     <message id="PSS_tip">
         <source></source>
-        <translation>Memory in RAM with each shared page divided among those who share it, in kibibytes. Slow to find out; 0 where it may not be read.</translation>
+        <translation>Memory in RAM with each shared page divided among those who share it. Slow to find out; 0 where it may not be read.</translation>
     </message>
     <message id="RBYTES">
         <source></source>
@@ -993,7 +1049,7 @@
     </message>
     <message id="RSS_tip">
         <source></source>
-        <translation>How much of the process's memory lies in RAM, shared pages included, in kibibytes.</translation>
+        <translation>How much of the process's memory lies in RAM, shared pages included.</translation>
     </message>
     <message id="RSZ">
         <source></source>
@@ -1001,7 +1057,7 @@
     </message>
     <message id="RSZ_tip">
         <source></source>
-        <translation>How much of the process's memory lies in RAM, shared pages included. ps counts in kibibytes.</translation>
+        <translation>How much of the process's memory lies in RAM, shared pages included.</translation>
     </message>
     <message id="RTPRIO">
         <source></source>
@@ -1051,14 +1107,6 @@
         <source></source>
         <translation>The seat (a screen, keyboard and mouse that belong together) of the login session the process belongs to. From systemd; a dash when there is none.</translation>
     </message>
-    <message id="SESS">
-        <source></source>
-        <translation>Session ID (SESS)</translation>
-    </message>
-    <message id="SESS_tip">
-        <source></source>
-        <translation>The number of the session, which is the process ID of its leader.</translation>
-    </message>
     <message id="SESSION">
         <source></source>
         <translation>Login session (SESSION)</translation>
@@ -1089,7 +1137,7 @@
     </message>
     <message id="SID_tip">
         <source></source>
-        <translation>The number of the session, which is the process ID of its leader. The same as SESS.</translation>
+        <translation>The number of the session, which is the process ID of its leader.</translation>
     </message>
     <message id="SIGNAL">
         <source></source>
@@ -1105,7 +1153,7 @@
     </message>
     <message id="SIZE_tip">
         <source></source>
-        <translation>A rough estimate of the swap space the process would need if all its writable memory were swapped out, in kibibytes.</translation>
+        <translation>A rough estimate of the swap space the process would need if all its writable memory were swapped out.</translation>
     </message>
     <message id="SLICE">
         <source></source>
@@ -1137,7 +1185,7 @@
     </message>
     <message id="START_tip">
         <source></source>
-        <translation>When the process was started: the time of day for today, the date for earlier days, the year for earlier years.</translation>
+        <translation>When the process was started: the time of day within the last 24 hours, else the date.</translation>
     </message>
     <message id="STARTED">
         <source></source>
@@ -1145,7 +1193,7 @@
     </message>
     <message id="STARTED_tip">
         <source></source>
-        <translation>When the process was started: the time of day within the last 24 hours, else the date.</translation>
+        <translation>When the process was started: the time of day with seconds within the last 24 hours, else the date.</translation>
     </message>
     <message id="STAT">
         <source></source>
@@ -1161,7 +1209,7 @@
     </message>
     <message id="STIME_tip">
         <source></source>
-        <translation>When the process was started: the time of day for today, the date for earlier days, the year for earlier years. The same as START.</translation>
+        <translation>When the process was started: the time of day for today, the date for earlier days, the year for earlier years.</translation>
     </message>
     <message id="SUID">
         <source></source>
@@ -1229,11 +1277,11 @@
     </message>
     <message id="SZ">
         <source></source>
-        <translation>Size in pages (SZ)</translation>
+        <translation>Core size (SZ)</translation>
     </message>
     <message id="SZ_tip">
         <source></source>
-        <translation>The size of all memory the process has mapped, in pages of the machine (4 KiB on most).</translation>
+        <translation>The size of all memory the process has mapped, as ps counts it in pages of the machine. The same as VSZ but for parts of a page.</translation>
     </message>
     <message id="TGID">
         <source></source>
@@ -1289,7 +1337,7 @@
     </message>
     <message id="TRS_tip">
         <source></source>
-        <translation>The size of the executable code, in kibibytes. Despite the name, not all of it needs to be in RAM.</translation>
+        <translation>The size of the executable code. Despite the name, not all of it needs to be in RAM.</translation>
     </message>
     <message id="TRSS">
         <source></source>
@@ -1297,7 +1345,15 @@
     </message>
     <message id="TRSS_tip">
         <source></source>
-        <translation>The size of the executable code, in kibibytes. The same as TRS.</translation>
+        <translation>The size of the executable code. The same as TRS.</translation>
+    </message>
+    <message id="TSIG">
+        <source></source>
+        <translation>Pending signals of the thread (TSIG)</translation>
+    </message>
+    <message id="TSIG_tip">
+        <source></source>
+        <translation>The signals that wait to be delivered to the main thread of the process alone, as a hexadecimal mask.</translation>
     </message>
     <message id="TSIZ">
         <source></source>
@@ -1305,7 +1361,7 @@
     </message>
     <message id="TSIZ_tip">
         <source></source>
-        <translation>The size of the executable code, in kibibytes.</translation>
+        <translation>The size of the executable code.</translation>
     </message>
     <message id="TT">
         <source></source>
@@ -1323,13 +1379,29 @@
         <source></source>
         <translation>The terminal that the process belongs to; a question mark when there is none. The same as TT.</translation>
     </message>
+    <message id="TTY4">
+        <source></source>
+        <translation>Terminal, shortened (TTY4)</translation>
+    </message>
+    <message id="TTY4_tip">
+        <source></source>
+        <translation>The terminal that the process belongs to, by the last letters of its name; a question mark when there is none.</translation>
+    </message>
+    <message id="UCMD">
+        <source></source>
+        <translation>Command name (UCMD)</translation>
+    </message>
+    <message id="UCMD_tip">
+        <source></source>
+        <translation>The name of the command without its arguments. The same as COMM.</translation>
+    </message>
     <message id="UID">
         <source></source>
         <translation>User ID (UID)</translation>
     </message>
     <message id="UID_tip">
         <source></source>
-        <translation>The user whose rights the process has, by name or by number, as ps prints it.</translation>
+        <translation>The number of the user whose rights the process has.</translation>
     </message>
     <message id="UNIT">
         <source></source>
@@ -1361,7 +1433,7 @@
     </message>
     <message id="USS_tip">
         <source></source>
-        <translation>Memory in RAM that the process shares with no other, in kibibytes: what would be free if it ended. Slow to find out; 0 where it may not be read.</translation>
+        <translation>Memory in RAM that the process shares with no other: what would be free if it ended. Slow to find out; 0 where it may not be read.</translation>
     </message>
     <message id="UTSNS">
         <source></source>
@@ -1385,7 +1457,7 @@
     </message>
     <message id="VSZ_tip">
         <source></source>
-        <translation>The size of all memory the process has mapped, whether it is in use or not. ps counts in kibibytes.</translation>
+        <translation>The size of all memory the process has mapped, whether it is in use or not.</translation>
     </message>
     <message id="WBYTES">
         <source></source>
@@ -1562,6 +1634,86 @@
     <message id="menu_columns_ps">
         <source></source>
         <translation>&amp;ps Columns</translation>
+    </message>
+    <message id="column_group_process">
+        <source></source>
+        <translation>Process and Command</translation>
+    </message>
+    <message id="column_group_time">
+        <source></source>
+        <translation>CPU and Time</translation>
+    </message>
+    <message id="column_group_memory">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="column_group_scheduling">
+        <source></source>
+        <translation>State and Priority</translation>
+    </message>
+    <message id="column_group_io">
+        <source></source>
+        <translation>Input and Output</translation>
+    </message>
+    <message id="column_group_users">
+        <source></source>
+        <translation>Users and Groups</translation>
+    </message>
+    <message id="column_group_terminal">
+        <source></source>
+        <translation>Terminal and Session</translation>
+    </message>
+    <message id="column_group_signals">
+        <source></source>
+        <translation>Signals</translation>
+    </message>
+    <message id="column_group_containers">
+        <source></source>
+        <translation>Control Groups and Namespaces</translation>
+    </message>
+    <message id="column_group_other">
+        <source></source>
+        <translation>Other</translation>
+    </message>
+    <message id="column_group_desktop">
+        <source></source>
+        <translation>Desktop Application</translation>
+    </message>
+    <message id="column_group_repeated">
+        <source></source>
+        <translation>The Same under Other Names</translation>
+    </message>
+    <message id="column_group_classic">
+        <source></source>
+        <translation>Classic Environment</translation>
+    </message>
+    <message id="column_group_not_counted">
+        <source></source>
+        <translation>Not Counted on This System</translation>
+    </message>
+    <message id="column_filter">
+        <source></source>
+        <translation>Find a column</translation>
+    </message>
+    <message id="column_filter_more">
+        <source></source>
+        <translation>%1 more: type more letters</translation>
+    </message>
+    <message id="column_filter_nothing">
+        <source></source>
+        <translation>No column has this in its name or description</translation>
+    </message>
+    <message id="column_hide">
+        <source></source>
+        <translation>&amp;Hide “%1”</translation>
+    </message>
+    <message id="column_of_ps_tip">
+        <source></source>
+        <translation>A column of this system’s ps, printed by its keyword %1.</translation>
+    </message>
+    <message id="column_keywords_tip">
+        <source></source>
+        <translation>Keyword of ps: %1</translation>
     </message>
     <message id="menu_process_kill">
         <source></source>

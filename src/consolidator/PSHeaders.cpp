@@ -54,6 +54,11 @@ int GetPSHeaderCount() {
   return gPSHeaders.Count();
 }
 
+int FindPSHeader(std::string_view header) {
+  const auto* found = gPSHeaders.Find(header);
+  return found == nullptr ? -1 : found->index;
+}
+
 void GetNthPSHeader(int index, char* dest, int length, bool* isCurrent) {
   const ConsolidatorGuard guard;
   const auto& header = gPSHeaders.Nth(index);

@@ -24,6 +24,10 @@ bool IsPSColumnName(std::string_view name);
 /// Main thread, or inside the consolidator's region.
 int GetPSHeaderCount();
 
+/// The index of the column with that header, -1 when there is none. Main thread, or inside the
+/// consolidator's region.
+int FindPSHeader(std::string_view header);
+
 /// Copies the header with that index (if `dest` is given and `length` is at least 2) and tells, if
 /// asked, whether the latest ps pass had its newest values. An index that no header has is a fatal
 /// assertion. Any thread.

@@ -1,6 +1,7 @@
 #include "main_window/ColumnMenus.h"
 
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/ColumnGroups.h"
 #include "main_window/ControllerAssertion.h"
 #include "main_window/vqMainTableController.h"
 #include "resources/Resources.h"
@@ -10,9 +11,9 @@ namespace {
 
 constexpr char kMenusUnit[] = "vqMainTableController";
 
-QString TitleOf(const char* key) {
-  // An ampersand of a title is no mnemonic.
-  return LocalizedString(key).replace(QLatin1String("&"), QLatin1String("&&"));
+/// An ampersand of a title is no mnemonic.
+QString WithoutMnemonic(QString title) {
+  return title.replace(QLatin1String("&"), QLatin1String("&&"));
 }
 
 /// Items keep texts: a number is given to a key when it becomes a column, so that rows stay small.
@@ -24,12 +25,16 @@ KeyId KeyOf(const QAction& item) {
 
 ColumnMenus::ColumnMenus(vqMainTableController& controller) : mController(controller) {}
 
-QAction* ColumnMenus::AddItem(QMenu& menu, const char* key) {
-  auto* item = menu.addAction(TitleOf(key));
+QAction* ColumnMenus::AddItem(FilterMenu& menu, const char* key) {
+  const auto group = GroupOfColumn(key);
+  const auto words =
+      QString::fromUtf8(key) + QLatin1Char(' ') + KeywordsOfColumn(key).join(QLatin1Char(' '));
+  auto* item = menu.AddItem(group, LocalizedString(ColumnGroups()[group].id),
+                            WithoutMnemonic(ColumnTitle(key)), words);
   item->setData(QByteArray(key));
   item->setCheckable(true);
   item->setChecked(mController.isTracked(key));
-  item->setToolTip(LocalizedString((std::string(key) + "_tip").c_str()));
+  item->setToolTip(ColumnTip(key));
   return item;
 }
 
@@ -53,9 +58,6 @@ void ColumnMenus::Build() {
 
   mBuiltInMenu.setTitle(LocalizedString("menu_columns_built_in"));
   mPSAvailableMenu.setTitle(LocalizedString("menu_columns_ps"));
-  for (auto* menu : {&mBuiltInMenu, &mPSAvailableMenu}) menu->setToolTipsVisible(true);
-  // As many columns as ps has do not fit a screen side by side.
-  mPSAvailableMenu.setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
   AddItems();
 }
 
@@ -92,10 +94,18 @@ QAction& ColumnMenus::TopLevelItem(KeyId key) {
   return fTopLevelMemGraphMenuItem;
 }
 
-QAction* ColumnMenus::BuiltInItem(KeyId key) const {
-  for (auto* item : mBuiltInMenu.actions())
+QAction* ColumnMenus::ItemFor(KeyId key, const FilterMenu& menu) {
+  for (auto* item : menu.Items())
     if (KeyText(key) == item->data().toByteArray().constData()) return item;
   return nullptr;
+}
+
+void ColumnMenus::Hide(KeyId key) {
+  if (!mController.isTracked(KeyText(key))) return;
+  mController.removeFromKeysWeTrackForUI(key);
+  for (auto* item : {ItemFor(key, mBuiltInMenu), ItemFor(key, mPSAvailableMenu)})
+    if (item != nullptr) item->setChecked(false);
+  if (IsInternalKey(KeyText(key)) || key == kMetaName) TopLevelItem(key).setChecked(false);
 }
 
 void ColumnMenus::processGeneralMenuItem(QAction* item, KeyId key, KeyId afterKey) {
@@ -128,18 +138,19 @@ void ColumnMenus::processMemGraphMenuItem() {
 void ColumnMenus::processNameMenuItem() {
   processGeneralMenuItem(&fTopLevelNameMenuItem, kMetaName);
   // The same column has an item among the built-in ones.
-  if (auto* item = BuiltInItem(kMetaName)) item->setChecked(fTopLevelNameMenuItem.isChecked());
+  if (auto* item = ItemFor(kMetaName, mBuiltInMenu))
+    item->setChecked(fTopLevelNameMenuItem.isChecked());
 }
 
 void ColumnMenus::processBuiltInMenuItem(QAction* item) {
-  const bool isOurs = mBuiltInMenu.actions().contains(item);
+  const bool isOurs = mBuiltInMenu.Items().contains(item);
   if (!Expect(isOurs, kMenusUnit, "builtInMenuItemToDealWith")) return;
   processGeneralMenuItem(item, KeyOf(*item));
   if (KeyOf(*item) == kMetaName) fTopLevelNameMenuItem.setChecked(item->isChecked());
 }
 
 void ColumnMenus::processPSAvailableMenuItem(QAction* item) {
-  const bool isOurs = mPSAvailableMenu.actions().contains(item);
+  const bool isOurs = mPSAvailableMenu.Items().contains(item);
   if (!Expect(isOurs, kMenusUnit, "PSAvailableMenuItemToDealWith")) return;
   processGeneralMenuItem(item, KeyOf(*item));
 }
@@ -149,8 +160,8 @@ void ColumnMenus::Validate() {
   // Columns do not depend on what is selected.
   const bool builtIn = mController.validateMenuItem(MenuCommand::kBuiltInColumn, {});
   const bool ps = mController.validateMenuItem(MenuCommand::kPSAvailableColumn, {});
-  for (auto* item : mBuiltInMenu.actions()) item->setEnabled(builtIn);
-  for (auto* item : mPSAvailableMenu.actions()) item->setEnabled(ps);
+  for (auto* item : mBuiltInMenu.Items()) item->setEnabled(builtIn);
+  for (auto* item : mPSAvailableMenu.Items()) item->setEnabled(ps);
 }
 
 }  // namespace lurkwell

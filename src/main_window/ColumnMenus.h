@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QObject>
 
+#include "main_window/FilterMenu.h"
 #include "main_window/Keys.h"
 
 namespace lurkwell {
@@ -11,7 +12,8 @@ namespace lurkwell {
 class vqMainTableController;
 
 /// The menu items that say which columns are shown: five of their own, and one for every built-in
-/// property and every ps column in two submenus. Items are ticked while their column is shown.
+/// property and every ps column in two submenus, by groups. Items are ticked while their column is
+/// shown.
 /// Belongs to the table's controller; main thread only.
 class ColumnMenus : public QObject {
   Q_OBJECT
@@ -36,23 +38,26 @@ class ColumnMenus : public QObject {
   /// Ticks the item and shows the column, or the other way round; `item` was off or on before.
   void processGeneralMenuItem(QAction* item, KeyId key, KeyId afterKey = kNoKey);
 
+  /// Takes a column off the table, and the tick off its item.
+  void Hide(KeyId key);
+
   /// Enables the items of the submenus or not, and adds those that there were not before.
   void Validate();
 
-  QMenu& BuiltInMenu() { return mBuiltInMenu; }
-  QMenu& PSAvailableMenu() { return mPSAvailableMenu; }
+  FilterMenu& BuiltInMenu() { return mBuiltInMenu; }
+  FilterMenu& PSAvailableMenu() { return mPSAvailableMenu; }
   QAction& TopLevelItem(KeyId key);
 
  private:
-  QAction* AddItem(QMenu& menu, const char* key);
+  QAction* AddItem(FilterMenu& menu, const char* key);
   /// For the properties that have become known: a slow ps may tell its columns later.
   void AddItems();
-  QAction* BuiltInItem(KeyId key) const;
+  static QAction* ItemFor(KeyId key, const FilterMenu& menu);
 
   vqMainTableController& mController;
   int mHeadersSeen = 0;
-  QMenu mBuiltInMenu;
-  QMenu mPSAvailableMenu;
+  FilterMenu mBuiltInMenu;
+  FilterMenu mPSAvailableMenu;
   QAction fTopLevelIconMenuItem;
   QAction fTopLevelIndicatorMenuItem;
   QAction fTopLevelNameMenuItem;

@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "main_window/ColumnGroups.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Bundle.h"
@@ -23,10 +24,7 @@ MainMenus::MainMenus(QMainWindow& window, vqMainTableController& controller,
   MakeProcessActions();
   BuildMenuBar();
   BuildContextMenu();
-  controller.columnMenus().AppendTo(mHeaderMenu);
-  for (auto* menu : {&mHeaderMenu, &controller.columnMenus().BuiltInMenu(),
-                     &controller.columnMenus().PSAvailableMenu()})
-    WatchMenu(*menu);
+  BuildHeaderMenu();
   connect(&controller, &Controller::contentsChanged, this, &MainMenus::ValidateAll);
   ValidateAll();
 }
@@ -228,6 +226,32 @@ void MainMenus::BuildContextMenu() {
   mContextMenu.addSeparator();
   mContextMenu.addActions(mWindowActions);
   WatchMenu(mContextMenu);
+}
+
+void MainMenus::BuildHeaderMenu() {
+  auto& columns = mController.columnMenus();
+  mHideColumn = mHeaderMenu.addAction(QString());
+  mHeaderMenu.addSeparator();
+  columns.AppendTo(mHeaderMenu);
+  connect(mHideColumn, &QAction::triggered, this,
+          [this] { mController.columnMenus().Hide(mHideColumn->data().toInt()); });
+  for (auto* menu : std::initializer_list<QMenu*>{&mHeaderMenu, &columns.BuiltInMenu(),
+                                                  &columns.PSAvailableMenu()})
+    WatchMenu(*menu);
+}
+
+QMenu& MainMenus::HeaderMenu(int column) {
+  const auto& keys = mController.keysWeTrackForUI();
+  const bool isColumn = column >= 0 && column < static_cast<int>(keys.size());
+  const KeyId key = isColumn ? keys[static_cast<std::size_t>(column)] : kNoKey;
+  auto title = isColumn ? ColumnTitle(KeyText(key).data()) : QString();
+  mHideColumn->setVisible(isColumn);
+  mHideColumn->setText(
+      LocalizedString("column_hide").arg(title.replace(QLatin1Char('&'), QLatin1String("&&"))));
+  mHideColumn->setData(static_cast<int>(key));
+  // Pids stay for good.
+  mHideColumn->setEnabled(key != kMetaPid);
+  return mHeaderMenu;
 }
 
 void MainMenus::ValidateAll() {

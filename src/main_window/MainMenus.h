@@ -37,8 +37,8 @@ class MainMenus : public QObject {
 
   /// The process commands, for a click on a row.
   QMenu& ContextMenu() { return mContextMenu; }
-  /// The columns, for a click on a header.
-  QMenu& HeaderMenu() { return mHeaderMenu; }
+  /// The columns, for a click on a header. Its first item hides `column`.
+  QMenu& HeaderMenu(int column);
 
   /// The toolbar's own, for a click on it; whoever asked deletes it.
   QMenu* MakeToolbarMenu(QWidget* parent);
@@ -65,6 +65,7 @@ class MainMenus : public QObject {
   void MakeProcessActions();
   void BuildMenuBar();
   void BuildContextMenu();
+  void BuildHeaderMenu();
   void BuildToolbarItems(QMenu& view);
   /// For whoever has no mouse: what can be done to headers.
   void BuildSortMenu(QMenu& view);
@@ -83,6 +84,7 @@ class MainMenus : public QObject {
   QAction* mCustomiseToolbar = nullptr;
   QMenu mContextMenu;
   QMenu mHeaderMenu;
+  QAction* mHideColumn = nullptr;
   QMenu mSortMenu;
 };
 

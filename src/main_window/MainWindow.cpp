@@ -49,7 +49,7 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   auto* header = mTable->horizontalHeader();
   header->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& point) {
-    mMenus->HeaderMenu().popup(header->mapToGlobal(point));
+    mMenus->HeaderMenu(header->logicalIndexAt(point)).popup(header->mapToGlobal(point));
   });
   connect(mTable, &StripedTableView::doubleAction, mController.get(),
           &vqMainTableController::doubleClickAction);

@@ -8,6 +8,7 @@
 
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PI_Consolidator.h"
+#include "main_window/ColumnGroups.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/Preferences.h"
 #include "main_window/PropertyText.h"
@@ -339,8 +340,7 @@ QVariant vqMainTableController::headerData(int section, Qt::Orientation orientat
   if (role == Qt::AccessibleTextRole) return LocalizedString(key.c_str());
   if (role == Qt::DisplayRole) return isPicture ? QString() : LocalizedString(key.c_str());
   if (role == Qt::ToolTipRole)
-    return QString(LocalizedString(key.c_str()) + QLatin1Char('\n') +
-                   LocalizedString((key + "_tip").c_str()));
+    return QString(ColumnTitle(key.c_str()) + QLatin1Char('\n') + ColumnTip(key.c_str()));
   return {};
 }
 

@@ -17,7 +17,7 @@ class ColumnsTest : public MainWindowTest {
     Open();
   }
 
-  void Toggle(QMenu& menu, const char* key) {
+  void Toggle(FilterMenu& menu, const char* key) {
     window->menus().ValidateAll();
     auto* item = ColumnItem(menu, key);
     ASSERT_NE(item, nullptr) << key;
@@ -94,7 +94,7 @@ TEST_F(ColumnsTest, TheNameHasTwoItemsThatAgree) {
   Toggle(Menus().BuiltInMenu(), "meta_name");
   EXPECT_TRUE(top.isChecked() && item->isChecked() && controller().isTracked("meta_name"));
   EXPECT_EQ(ColumnItem(Menus().BuiltInMenu(), "meta_pid"), nullptr);
-  EXPECT_EQ(Menus().BuiltInMenu().actions().size(), 37);
+  EXPECT_EQ(Menus().BuiltInMenu().Items().size(), 37);
 }
 
 TEST_F(ColumnsTest, PreferencesThatAreOddAreMadeToFit) {
@@ -183,6 +183,105 @@ TEST_F(ColumnsTest, AColumnOfPsIsFilledWhenPsHasAnswered) {
   GetPrefArrayString("MAIN_WINDOW_COLUMNS", GetPrefArrayCount("MAIN_WINDOW_COLUMNS") - 1,
                      "COLUMN_KEY", key, sizeof key, false, "");
   EXPECT_STREQ(key, "GONE") << "kept for another ps";
+}
+
+TEST_F(ColumnsTest, NumbersSizesAndTimesOfPsSortAsSuch) {
+  auto& tools = machine.tools;
+  using Kind = ToolColumn::Kind;
+  tools.SetColumn("SZ", {Kind::kSize, 4096});
+  tools.SetColumn("ELAPSED", {Kind::kClock});
+  tools.SetColumn("LSTART", {Kind::kDate});
+  tools.SetColumn("PSR", {Kind::kInteger});
+  struct Column {
+    std::string name, one, other, shown;
+  };
+  const Column columns[] = {{"SZ", "9", "10", "36 K"},
+                            {"ELAPSED", "59:59", "1-00:00:00", "00:59:59"},
+                            {"LSTART", "Sun Nov  1 09:00:00 2026", "Mon Nov  2 08:00:00 2026", ""},
+                            {"PSR", "9", "10", "9"},
+                            {"NEW", "9", "10", "9"}};
+  std::string keywords;
+  for (const auto& [name, one, other, shown] : columns) {
+    keywords += name + ' ';
+    tools.SetOutput("/bin/ps 0 -o " + name, name + "\n");
+    tools.SetOutput("/bin/ps -axww -o pid," + name,
+                    "PID " + name + "\n300 " + one + "\n301 " + other + "\n");
+  }
+  tools.SetOutput("/bin/ps -Lww", keywords);
+  machine.processTable.Birth(300, "p");
+  machine.processTable.Birth(301, "p");
+  Open();
+  for (const auto& [name, one, other, shown] : columns) {
+    Toggle(Menus().PSAvailableMenu(), name.c_str());
+    Turn(100);
+    ClickHeader(name.c_str());
+    Turn(100);
+    const auto pids = Pids();
+    const auto order = window->table().horizontalHeader()->sortIndicatorOrder();
+    const bool isLess = (pids.find("300") < pids.find("301")) == (order == Qt::AscendingOrder);
+    EXPECT_EQ(isLess, name != "NEW") << name << ": " << Table();
+    const auto row =
+        pids.starts_with("300")
+            ? 0
+            : static_cast<int>(std::ranges::count(pids.substr(0, pids.find("300")), ' '));
+    if (!shown.empty()) {
+      EXPECT_EQ(Cell(row, ColumnOf(name.c_str())).toStdString(), shown) << name;
+    }
+  }
+}
+
+/// Every item that can be chosen now, in the menu itself.
+std::string Offered(QMenu& menu) {
+  QStringList titles;
+  for (const auto* item : menu.actions())
+    if (item->isVisible() && !item->text().isEmpty()) titles.append(item->text());
+  return titles.join(QLatin1Char('|')).toStdString();
+}
+
+TEST_F(ColumnsTest, ColumnsAreFoundByGroupAndByWhatIsTyped) {
+  auto& tools = machine.tools;
+  std::string keywords;
+  for (const char* name : {"RSS", "EXE", "QQ"}) {
+    tools.SetOutput("/bin/ps 0 -o " + std::string(name), std::string(name) + "\n");
+    keywords += std::string(name) + ' ';
+  }
+  tools.SetOutput("/bin/ps -Lww", keywords + "newest\n");
+  tools.SetOutput("/bin/ps 0 -o newest", "QQ\n");
+  Open();
+  window->menus().ValidateAll();
+  auto& ps = Menus().PSAvailableMenu();
+  EXPECT_EQ(Offered(ps), "Process and Command|Memory|Other");
+  const auto builtIn = Offered(Menus().BuiltInMenu());
+  EXPECT_TRUE(builtIn.starts_with("Process and Command|CPU and Time|Memory|")) << builtIn;
+  EXPECT_TRUE(builtIn.ends_with("Classic Environment|Not Counted on This System")) << builtIn;
+  // A column that nobody here has heard of still says what it is.
+  EXPECT_EQ(ColumnItem(ps, "QQ")->text(), "QQ");
+  EXPECT_TRUE(ColumnItem(ps, "QQ")->toolTip().contains("QQ, newest"));
+
+  ps.popup({0, 0});
+  QTest::keyClicks(&ps, "nEwE");
+  EXPECT_EQ(Offered(ps), "QQ");
+  QTest::keyClick(&ps, Qt::Key_Return);
+  EXPECT_FALSE(ps.isVisible());
+  EXPECT_TRUE(controller().isTracked("QQ"));
+  EXPECT_TRUE(ColumnItem(ps, "QQ")->isChecked());
+  const auto tip = controller().headerData(ColumnOf("QQ"), Qt::Horizontal, Qt::ToolTipRole);
+  EXPECT_FALSE(tip.toString().contains("_tip")) << tip.toString().toStdString();
+  ps.popup({0, 0});
+  EXPECT_EQ(Offered(ps), "Process and Command|Memory|Other") << "what was typed is gone";
+  QTest::keyClicks(&ps, "xyzzy");
+  EXPECT_TRUE(Offered(ps).starts_with("No column")) << Offered(ps);
+  QTest::keyClick(&ps, Qt::Key_Escape);
+  EXPECT_TRUE(ps.isVisible());
+  QTest::keyClick(&ps, Qt::Key_Escape);
+  EXPECT_FALSE(ps.isVisible());
+
+  auto* hide = window->menus().HeaderMenu(ColumnOf("QQ")).actions().constFirst();
+  EXPECT_EQ(hide->text(), "&Hide “QQ”");
+  hide->trigger();
+  EXPECT_FALSE(controller().isTracked("QQ") || ColumnItem(ps, "QQ")->isChecked());
+  EXPECT_FALSE(
+      window->menus().HeaderMenu(ColumnOf("meta_pid")).actions().constFirst()->isEnabled());
 }
 
 TEST_F(ColumnsTest, AnotherInstanceMayHaveStoredFewerColumns) {

@@ -131,8 +131,8 @@ class MainWindowTest : public ConsolidatorTest, public ApplicationCommands {
     action.trigger();
   }
 
-  QAction* ColumnItem(QMenu& menu, const char* key) {
-    for (auto* item : menu.actions())
+  QAction* ColumnItem(FilterMenu& menu, const char* key) {
+    for (auto* item : menu.Items())
       if (item->data().toByteArray() == key) return item;
     return nullptr;
   }

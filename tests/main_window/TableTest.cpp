@@ -198,7 +198,7 @@ TEST_F(TableTest, EveryMenuLetsTheRowsGoAgain) {
   auto& table = machine.processTable;
   table.Birth(300, "p");
   Open();
-  QList<QMenu*> menus{&window->menus().HeaderMenu(), &window->menus().ContextMenu(),
+  QList<QMenu*> menus{&window->menus().HeaderMenu(0), &window->menus().ContextMenu(),
                       &controller().columnMenus().BuiltInMenu()};
   for (const auto* action : window->menuBar()->actions()) menus.append(action->menu());
   ASSERT_GT(menus.size(), 8);

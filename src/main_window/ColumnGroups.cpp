@@ -1,0 +1,138 @@
+#include "main_window/ColumnGroups.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+
+#include "consolidator/PI_Consolidator.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+enum GroupIndex : std::size_t {
+  kProcess,
+  kTime,
+  kMemory,
+  kScheduling,
+  kInputOutput,
+  kUsers,
+  kTerminal,
+  kSignals,
+  kContainers,
+  kOther,
+  kDesktop,
+  kRepeated,
+  kClassic,
+  kNotCounted,
+};
+
+constexpr ColumnGroup kGroups[] = {
+    {"column_group_process"},    {"column_group_time"},        {"column_group_memory"},
+    {"column_group_scheduling"}, {"column_group_io"},          {"column_group_users"},
+    {"column_group_terminal"},   {"column_group_signals"},     {"column_group_containers"},
+    {"column_group_other"},      {"column_group_desktop"},     {"column_group_repeated"},
+    {"column_group_classic"},    {"column_group_not_counted"},
+};
+static_assert(std::size(kGroups) == kNotCounted + 1);
+
+/// Names at single blanks.
+struct Members {
+  GroupIndex group;
+  std::string_view names;
+};
+
+constexpr Members kMembers[] = {
+    {kProcess,
+     "meta_pid meta_name meta_kind pid_p_comm pid_parent_pid pid_p_starttime "
+     "PPID COMMAND COMM FNAME EXE START STARTED LSTART ELAPSED ETIMES F"},
+    {kTime, "%CPU %CUC %CUU C CP TIME CPUTIMES"},
+    {kMemory,
+     "pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS PSS USS LIM MAJFLT MINFLT PAGEIN "
+     "OOM OOMADJ HTPRV HTSHR STACKP"},
+    {kScheduling,
+     "pid_p_priority pid_p_nice pid_policy pid_suspend_count pid_csw "
+     "S STAT NI PRI PRIORITY OPRI API RTPRIO CLS SCH PSR NUMA NLWP LWP WCHAN AGID AGNI P"},
+    {kInputOutput, "pid_syscalls_unix RBYTES WBYTES WCBYTES RCHARS WCHARS ROPS WOPS"},
+    {kUsers,
+     "USER UID GROUP GID EUSER EUID EGROUP EGID RUSER RUID RGROUP RGID SUSER SUID SGROUP SGID "
+     "FUSER FUID FGROUP FGID SUPGRP SUPGID LUID"},
+    {kTerminal, "TTY TTY4 TPGID PGID SID SESSION SEAT OWNER"},
+    {kSignals, "BLOCKED CAUGHT IGNORED PENDING TSIG"},
+    {kContainers,
+     "CGROUP CGNAME SLICE UNIT UUNIT MACHINE LXC LABEL CONTEXT "
+     "CGROUPNS IPCNS MNTNS NETNS PIDNS TIMENS USERNS UTSNS"},
+    {kDesktop, "meta_psn"},
+    {kRepeated,
+     "BSDTIME CMD UCMD STIME RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL CPUID LASTCPU TGID "
+     "SPID TID "
+     "THCNT POL FSUSER FSUID FSGROUP FSGID SVUSER SVUID SVGROUP SVGID"},
+    {kNotCounted,
+     "pid_terminated_user_time pid_terminated_system_time pid_cow_faults pid_messages_sent "
+     "pid_messages_received pid_syscalls_mach EIP ESP ZONE"},
+};
+
+bool IsAmong(std::string_view names, std::string_view name) {
+  while (!names.empty()) {
+    const auto blank = std::min(names.find(' '), names.size());
+    if (names.substr(0, blank) == name) return true;
+    names.remove_prefix(std::min(blank + 1, names.size()));
+  }
+  return false;
+}
+
+std::size_t GroupOfOthers(std::string_view key) {
+  if (key.starts_with("carbonpsn_")) return kDesktop;
+  if (key.starts_with("classicpsn_")) return kClassic;
+  switch (GetProcPropertyType(std::string(key).c_str(), nullptr)) {
+    case kPropertyTypeMemory:
+      return kMemory;
+    case kPropertyTypeTime:
+    case kPropertyTypeClock:
+      return kTime;
+    default:
+      return kOther;
+  }
+}
+
+}  // namespace
+
+std::span<const ColumnGroup> ColumnGroups() {
+  return kGroups;
+}
+
+std::size_t GroupOfColumn(std::string_view key) {
+  const auto* found = std::ranges::find_if(
+      kMembers, [key](const Members& members) { return IsAmong(members.names, key); });
+  return found != std::end(kMembers) ? found->group : GroupOfOthers(key);
+}
+
+QStringList KeywordsOfColumn(const char* key) {
+  QStringList keywords;
+  const int header = FindPSHeader(key);
+  if (header < 0) return keywords;
+  // The newest, which is the one that is used, stands last.
+  for (int option = GetNthPSHeadersGeneratingOptionCount(header) - 1; option >= 0; --option) {
+    char text[256];
+    GetNthPSHeadersNthGeneratingOption(header, option, text, sizeof text);
+    keywords.append(QString::fromUtf8(text));
+  }
+  return keywords;
+}
+
+QString ColumnTitle(const char* key) {
+  return LocalizedString(key);
+}
+
+QString ColumnTip(const char* key) {
+  const std::string tip = std::string(key) + "_tip";
+  const auto keywords = KeywordsOfColumn(key).join(QLatin1String(", "));
+  if (!HasLocalizedString(tip.c_str()))
+    return keywords.isEmpty() ? QString() : LocalizedString("column_of_ps_tip").arg(keywords);
+  const auto text = LocalizedString(tip.c_str());
+  return keywords.isEmpty()
+             ? text
+             : text + QLatin1Char('\n') + LocalizedString("column_keywords_tip").arg(keywords);
+}
+
+}  // namespace lurkwell
