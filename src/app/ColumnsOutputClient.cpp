@@ -77,8 +77,9 @@ std::vector<Row> ReadRows(const std::vector<std::string>& columns) {
 
 }  // namespace
 
-ColumnsOutputClient::ColumnsOutputClient(std::vector<std::string> columns, std::int32_t interval)
-    : ProcessInformationClient(nullptr, interval), mColumns(std::move(columns)) {}
+ColumnsOutputClient::ColumnsOutputClient(std::vector<std::string> columns, std::int32_t interval,
+                                         std::FILE* out)
+    : ProcessInformationClient(nullptr, interval), mColumns(std::move(columns)), mOut(out) {}
 
 ProcessInformationClient::NeedLevel ColumnsOutputClient::NeedPidsForProcProperty(
     const char* property) {
@@ -106,17 +107,17 @@ void ColumnsOutputClient::NotifyProcessesHaveBeenUpdated() {
       const bool isLast = i + 1 == values.size();
       const std::string cell =
           areTexts[i] ? values[i] + (isLast ? "" : blanks) : blanks + values[i];
-      std::printf(" %s", cell.c_str());
+      std::fprintf(mOut, " %s", cell.c_str());
     }
-    std::putchar('\n');
+    std::fputc('\n', mOut);
   };
-  std::printf("%7s:", "pid");
+  std::fprintf(mOut, "%7s:", "pid");
   print(mColumns);
   for (const auto& row : rows) {
-    std::printf("%7d:", row.pid);
+    std::fprintf(mOut, "%7d:", row.pid);
     print(row.values);
   }
-  std::fflush(stdout);
+  std::fflush(mOut);
 }
 
 std::optional<std::string> ComplaintAboutColumns(const std::vector<std::string>& columns) {

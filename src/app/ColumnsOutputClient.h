@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,7 +13,8 @@ namespace lurkwell {
 /// in columns as wide as they need to be. Texts stand left, everything else right.
 class ColumnsOutputClient : public ProcessInformationClient {
  public:
-  ColumnsOutputClient(std::vector<std::string> columns, std::int32_t interval);
+  /// `interval` in milliseconds. `out` stays the caller's and outlives this.
+  ColumnsOutputClient(std::vector<std::string> columns, std::int32_t interval, std::FILE* out);
 
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
@@ -21,6 +23,7 @@ class ColumnsOutputClient : public ProcessInformationClient {
 
  private:
   std::vector<std::string> mColumns;
+  std::FILE* mOut;
 };
 
 /// A complaint about the first of `columns` that is neither a property nor a ps column, with the

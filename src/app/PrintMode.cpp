@@ -5,8 +5,10 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <string_view>
 
 #include "app/ColumnsOutputClient.h"
+#include "app/DataOutput.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/PrintfOutputClient.h"
 #include "consolidator/ProcessInformationFeederPS.h"
@@ -20,6 +22,29 @@ namespace {
 
 constexpr std::int32_t kIntervalInMilliseconds = 1000;
 constexpr auto kPatienceForColumns = std::chrono::seconds(5);
+
+/// The usual five columns, all of them filled, below a heading; sizes are in kibibytes, as ps
+/// prints them.
+class UsualColumnsClient : public PrintfOutputInformationClient {
+ public:
+  using PrintfOutputInformationClient::PrintfOutputInformationClient;
+
+  NeedLevel NeedPidsForProcProperty(const char* property) override {
+    return IsSize(property) ? kNeedAllPids
+                            : PrintfOutputInformationClient::NeedPidsForProcProperty(property);
+  }
+  bool NeedPidProcProperty(int pid, const char* property) override {
+    return IsSize(property) || PrintfOutputInformationClient::NeedPidProcProperty(pid, property);
+  }
+  void NotifyProcessesHaveBeenUpdated() override {
+    std::fprintf(Out(), "%5s: %22s %11s %5s %9s %11s\n", "PID", "NAME", "CPU-TIME", "PPID",
+                 "RSZ/KiB", "VSZ/KiB");
+    PrintfOutputInformationClient::NotifyProcessesHaveBeenUpdated();
+  }
+
+ private:
+  static bool IsSize(std::string_view property) { return property == "RSZ" || property == "VSZ"; }
+};
 
 /// A client that prints, and what is to happen after each update.
 template <typename Printer>
@@ -42,10 +67,10 @@ class Watched : public Printer {
 /// Stops the run loop when enough has been printed, or when nobody takes it any more.
 class EndOfPrinting {
  public:
-  explicit EndOfPrinting(std::optional<std::int32_t> count) : mCount(count) {}
+  EndOfPrinting(std::FILE* out, std::optional<std::int32_t> count) : mOut(out), mCount(count) {}
 
   void AfterUpdate() {
-    if (std::ferror(stdout) != 0) {
+    if (std::ferror(mOut) != 0) {
       // A reader that has seen enough is no failure.
       mStatus = errno == EPIPE ? kExitSuccess : kExitFailure;
       if (mStatus == kExitFailure)
@@ -58,6 +83,7 @@ class EndOfPrinting {
   int Status() const { return mStatus; }
 
  private:
+  std::FILE* mOut;
   std::optional<std::int32_t> mCount;
   int mStatus = kExitSuccess;
 };
@@ -72,6 +98,7 @@ void ShutDown() {
 }  // namespace
 
 int RunPrintMode(const CommandLine& commandLine) {
+  const DataOutput output;
   InitializeProcessInformationConsolidator();
   AwaitPSColumns(kPatienceForColumns);
   if (const auto complaint = ComplaintAboutColumns(commandLine.columns)) {
@@ -83,14 +110,14 @@ int RunPrintMode(const CommandLine& commandLine) {
   SetPSPatience(std::chrono::seconds(1));
   SetHelperUnprivileged(commandLine.unprivileged);
   LaunchHelperDaemon();
-  EndOfPrinting end(commandLine.count);
+  EndOfPrinting end(output.Stream(), commandLine.count);
   const auto afterUpdate = [&end] { end.AfterUpdate(); };
   ProcessInformationClient* client = nullptr;
   if (commandLine.columns.empty()) {
-    client = new Watched<PrintfOutputInformationClient>(afterUpdate);
+    client = new Watched<UsualColumnsClient>(afterUpdate, output.Stream());
   } else {
-    client =
-        new Watched<ColumnsOutputClient>(afterUpdate, commandLine.columns, kIntervalInMilliseconds);
+    client = new Watched<ColumnsOutputClient>(afterUpdate, commandLine.columns,
+                                              kIntervalInMilliseconds, output.Stream());
   }
   AddProcessInformationClient(client);
   TheMachine().runLoop.Run();

@@ -38,25 +38,25 @@ std::string Shown(const char* property, std::string_view value) {
   return PrintableText(isPSColumn ? WithoutNewline(value) : value);
 }
 
-void PrintLine(std::int32_t pid) {
-  std::printf("%5d:", pid);
+void PrintLine(std::FILE* out, std::int32_t pid) {
+  std::fprintf(out, "%5d:", pid);
   for (const auto& property : kPrintedProperties) {
     char value[63] = " ";
     bool found = false;
     // A ps that does not know a column has no values for it.
     if (IsKnownProcProperty(property.name))
       GetPIDPropertyValue(pid, property.name, value, sizeof value, &found);
-    std::printf(" %*s", property.width, found ? Shown(property.name, value).c_str() : " ");
+    std::fprintf(out, " %*s", property.width, found ? Shown(property.name, value).c_str() : " ");
   }
-  std::putchar('\n');
+  std::fputc('\n', out);
 }
 
 }  // namespace
 
 PrintfOutputInformationClient* gPrintfOutputInfoClient = nullptr;
 
-PrintfOutputInformationClient::PrintfOutputInformationClient()
-    : ProcessInformationClient(nullptr, kPrintIntervalInMilliseconds) {}
+PrintfOutputInformationClient::PrintfOutputInformationClient(std::FILE* out)
+    : ProcessInformationClient(nullptr, kPrintIntervalInMilliseconds), mOut(out) {}
 
 PrintfOutputInformationClient::~PrintfOutputInformationClient() {
   if (gPrintfOutputInfoClient == this) gPrintfOutputInfoClient = nullptr;
@@ -76,8 +76,8 @@ bool PrintfOutputInformationClient::NeedPidProcProperty(int, const char* propert
 }
 
 void PrintfOutputInformationClient::NotifyProcessesHaveBeenUpdated() {
-  for (const auto pid : PidBlob(kPidBlobAll)) PrintLine(pid);
-  std::fflush(stdout);
+  for (const auto pid : PidBlob(kPidBlobAll)) PrintLine(mOut, pid);
+  std::fflush(mOut);
 }
 
 void BeginPrintfOutput() {

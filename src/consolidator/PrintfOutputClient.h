@@ -1,15 +1,18 @@
 #pragma once
 
+#include <cstdio>
+
 #include "consolidator/ProcessInformationClient.h"
 
 namespace lurkwell {
 
-/// Prints a line per process on standard output every second: pid, name, CPU time, parent and the
-/// two sizes of ps. The smallest complete client, and the pattern for others. It does not cause the
-/// ps columns to be fetched: they stay empty unless another client needs them.
+/// Prints a line per process every second: pid, name, CPU time, parent and the two sizes of ps. The
+/// smallest complete client, and the pattern for others. It does not cause the ps columns to be
+/// fetched: they stay empty unless another client, or one that is made of it, needs them.
 class PrintfOutputInformationClient : public ProcessInformationClient {
  public:
-  PrintfOutputInformationClient();
+  /// On standard output, or on `out`, which stays the caller's and outlives this.
+  explicit PrintfOutputInformationClient(std::FILE* out = stdout);
   ~PrintfOutputInformationClient() override;
 
   NeedLevel NeedProcPropertiesForPid(int pid) override;
@@ -17,6 +20,12 @@ class PrintfOutputInformationClient : public ProcessInformationClient {
   bool NeedPidProcProperty(int pid, const char* property) override;
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "PrintfOutputInformationClient"; }
+
+ protected:
+  std::FILE* Out() const { return mOut; }
+
+ private:
+  std::FILE* mOut;
 };
 
 /// The one instance, from BeginPrintfOutput until the registry deletes it; else null.
