@@ -17,7 +17,7 @@
     </message>
     <message id="meta_name_tip">
         <source></source>
-        <translation>The application's name where the process is an application, else its command name.</translation>
+        <translation>The application's name where the process is an application, else its command name, whole where it can be known.</translation>
     </message>
     <message id="meta_active_time">
         <source></source>
@@ -33,7 +33,7 @@
     </message>
     <message id="meta_kind_tip">
         <source></source>
-        <translation>OS X for an application on the desktop, Classic for an application of the Classic environment, Darwin for every other process.</translation>
+        <translation>What it is: an application on the desktop, one of the Classic environment, a thread of the kernel, a zombie (ended, but its parent has not asked for its exit status), or any other process.</translation>
     </message>
     <message id="meta_psn">
         <source></source>

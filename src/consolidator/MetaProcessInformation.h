@@ -124,6 +124,9 @@ struct MetaProcessInformation {
   std::int32_t pid;
   ProcessSerialNumber psn;
   char name[kNameCapacity] = {};
+  /// The name that `wholeName` goes on from; another one has not been looked into.
+  std::string learntName;
+  std::string wholeName;
   TimeValue activeTime;
   /// Cached icon data; nothing fills it.
   const void* icon = nullptr;

@@ -9,6 +9,7 @@
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyValues.h"
 #include "consolidator/SyntheticPids.h"
+#include "consolidator/WholeNames.h"
 
 namespace lurkwell {
 

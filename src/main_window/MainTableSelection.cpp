@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "consolidator/PropertyValues.h"
+#include "consolidator/WholeNames.h"
 #include "main_window/PropertyText.h"
 #include "main_window/vqMainTableController.h"
 
@@ -92,9 +92,7 @@ void vqMainTableController::restoreSelection() {
 }
 
 QString vqMainTableController::nameOf(std::int32_t pid) {
-  char name[256];
-  GetPIDPropertyValue(pid, "meta_name", name, sizeof name, nullptr);
-  return PlainText(name);
+  return PlainText(WholeNameOf(pid));
 }
 
 bool vqMainTableController::selectPid(std::int32_t pid) {

@@ -137,6 +137,11 @@ void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyI
     return;
   }
   if (type == kPropertyTypeDate && pid < 0) return;
+  if (key == kMetaName) {
+    if (MayNameGoOn(pid)) mNamesToLearn.push_back(pid);
+    Set(row, key, WholeNameOf(pid));
+    return;
+  }
   Set(row, key, GetPIDPropertyTypedValue(pid, name));
 }
 
@@ -177,11 +182,25 @@ void VQTarvMainWindowInfoSynch::RefreshRow(RowDictionary& row, TimeValue now) {
   UpdateAllFields(row, row.Pid());
 }
 
+void VQTarvMainWindowInfoSynch::LearnNames() {
+  // However many are born at once, a turn has an end.
+  constexpr std::size_t kMostAtOnce = 200;
+  const auto first = mNamesToLearn.size() - std::min(mNamesToLearn.size(), kMostAtOnce);
+  const std::vector<std::int32_t> pids(mNamesToLearn.begin() + static_cast<std::ptrdiff_t>(first),
+                                       mNamesToLearn.end());
+  if (pids.empty()) return;
+  mNamesToLearn.resize(first);
+  LearnWholeNames(pids);
+  for (const auto pid : pids)
+    if (auto* row = mOwner.rows().Find(pid)) Set(*row, kMetaName, WholeNameOf(pid));
+}
+
 void VQTarvMainWindowInfoSynch::RefreshRows() {
   const auto now = TheMachine().clock.Now();
   mSortedBy = SortedBy(mOwner.sortColumn());
   mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) RefreshRow(*row, now);
+  LearnNames();
   RefreshBars();
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
 #include "main_window/RowDictionary.h"
@@ -99,6 +100,8 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   /// Takes a row's share, and its figures where they are others than before.
   void RefreshRow(RowDictionary& row, TimeValue now);
   void RefreshRows();
+  /// Has the names that may go on completed.
+  void LearnNames();
   /// By the figures that the rows have: badges, and what the memory bars are measured by.
   void RefreshBars();
   void BeepForHexadecimals();
@@ -108,6 +111,8 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   bool mIsSeen = true;
   /// A hexadecimal property was asked for; they are not shown, and the user hears it once a turn.
   bool mHexadecimalWasMet = false;
+  /// Whose names may go on; those that came last are the first.
+  std::vector<std::int32_t> mNamesToLearn;
   /// The value that the rows are sorted by; see Set.
   KeyId mSortedBy = kNoKey;
 

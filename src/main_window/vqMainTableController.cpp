@@ -14,6 +14,8 @@
 #include "main_window/PropertyText.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
+#include "platform/Machine.h"
+#include "platform/ProcessTable.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/ProcessActions.h"
 #include "resources/Resources.h"
@@ -291,7 +293,18 @@ QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column&
   if (row.Pid() == 0 && (isName || column.key == kInternalCPUPercent))
     lines.append(LocalizedString("main_window_idle_task_tip"));
   if (isName && row.IsZombie()) lines.append(LocalizedString("main_window_zombie_tip"));
+  if (isName && row.Pid() > 0) lines.append(commandLineOf(row.Pid()));
+  lines.removeAll(QString());
   return lines.join(QLatin1Char('\n'));
+}
+
+QString vqMainTableController::commandLineOf(std::int32_t pid) {
+  constexpr qsizetype kLongest = 500;
+  const std::int32_t pids[] = {pid};
+  const auto found = TheMachine().processTable.Describe(pids);
+  if (found.empty()) return {};
+  const auto text = PlainText(found.front().commandLine);
+  return text.size() > kLongest ? text.left(kLongest) + QStringLiteral("…") : text;
 }
 
 QVariant vqMainTableController::data(const QModelIndex& index, int role) const {

@@ -257,6 +257,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   QVariant indicatorOf(const RowDictionary& row) const;
   QString textOf(const RowDictionary& row, const Column& column) const;
   QString spokenText(const RowDictionary& row, const Column& column) const;
+  /// The process's arguments on one line, as they are now; empty when they are not known.
+  static QString commandLineOf(std::int32_t pid);
   QString tooltipOf(const RowDictionary& row, const Column& column) const;
   template <typename Action>
   void forSelectedPids(Action action);

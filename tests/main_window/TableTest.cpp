@@ -299,5 +299,41 @@ TEST_F(TableTest, TypingFindsNames) {
   EXPECT_EQ(Selected(), "301") << "again and again: from match to match";
 }
 
+TEST_F(TableTest, NamesAreShownWholeWhereTheyCanBeKnown) {
+  machine.processManager.Launch({1, 300}, 300, "An application whose name is long");
+  auto& table = machine.processTable;
+  const auto birth = [&](int pid, const char* name, const char* commandLine) {
+    table.Birth(pid, name).commandLine = commandLine;
+  };
+  birth(300, "app", "/usr/bin/app");
+  birth(301, "at-spi-bus-launc", "/usr/libexec/at-spi-bus-launcher --launch-immediately");
+  birth(302, "a-script-of-lengt",
+        "python3 -u /opt/a-script-of-length.d/a-script-of-lengthy.py x/y");
+  birth(303, "Isolated Web Co", "/usr/lib/firefox -contentproc");
+  birth(304, "fifteen-letters", "/bin/not-fifteen-letters-at-all");
+  birth(305, "short", "/bin/shorter");
+  Open();
+  const auto name = [this](int pid, int role = Qt::DisplayRole) {
+    const int row = controller().rows().Find(pid)->shownIndex;
+    return controller().index(row, ColumnOf("meta_name")).data(role).toString().toStdString();
+  };
+  EXPECT_EQ(name(300), "An application whose name is long");
+  EXPECT_EQ(name(301), "at-spi-bus-launcher");
+  EXPECT_EQ(name(302), "a-script-of-lengthy.py");
+  EXPECT_EQ(name(303), "Isolated Web Co");
+  EXPECT_EQ(name(304), "fifteen-letters");
+  EXPECT_EQ(name(305), "short");
+  EXPECT_EQ(name(301, Qt::ToolTipRole), "/usr/libexec/at-spi-bus-launcher --launch-immediately");
+  EXPECT_EQ(Value(301, "meta_name"), "at-spi-bus-launc") << "stays what it is";
+  // It runs another program by now.
+  birth(306, "fifteen-letters", "/bin/fifteen-letters-or-more");
+  Turn();
+  EXPECT_EQ(name(306), "fifteen-letters-or-more");
+  StoreText(table.Find(306)->entry.commandName, "another-program");
+  table.Find(306)->commandLine = "another-program-of-long-name";
+  Turn();
+  EXPECT_EQ(name(306), "another-program-of-long-name");
+}
+
 }  // namespace
 }  // namespace lurkwell
