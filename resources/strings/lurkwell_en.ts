@@ -1763,6 +1763,14 @@
         <source></source>
         <translation>&amp;Processes</translation>
     </message>
+    <message id="menu_window_remembered">
+        <source></source>
+        <translation>&amp;Remembered Windows…</translation>
+    </message>
+    <message id="menu_window_close_all">
+        <source></source>
+        <translation>&amp;Close All Histories and Logs</translation>
+    </message>
     <message id="menu_window_show_animated_view">
         <source></source>
         <translation>&amp;Animated View</translation>
@@ -2286,6 +2294,126 @@ Free: %5</translation>
     <message id="logging_note_not_written">
         <source></source>
         <translation>Rows are missing in the log file: %1.</translation>
+    </message>
+    <message id="logging_show_file">
+        <source></source>
+        <translation>Show &amp;File</translation>
+    </message>
+    <message id="logging_show_file_none">
+        <source></source>
+        <translation>Nothing is written to a file. The preferences can have new logs written to one.</translation>
+    </message>
+    <message id="logging_save_as">
+        <source></source>
+        <translation>&amp;Save As…</translation>
+    </message>
+    <message id="logging_save_title">
+        <source></source>
+        <translation>Save the log</translation>
+    </message>
+    <message id="logging_save_filter">
+        <source></source>
+        <translation>Tables (*.tsv);;All files (*)</translation>
+    </message>
+    <message id="logging_copy">
+        <source></source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message id="logging_select_all">
+        <source></source>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message id="logging_note_not_saved">
+        <source></source>
+        <translation>The log is not saved: %1.</translation>
+    </message>
+    <message id="logging_note_saved">
+        <source></source>
+        <translation>Saved as %1.</translation>
+    </message>
+    <message id="logging_note_not_shown">
+        <source></source>
+        <translation>There is no file manager to show the file. It is %1.</translation>
+    </message>
+    <message id="logging_note_follows">
+        <source></source>
+        <translation>Process %1 has ended. From “pid %2” on the rows are those of process %2.</translation>
+    </message>
+    <message id="logging_row_of">
+        <source></source>
+        <translation>pid %1</translation>
+    </message>
+    <message id="history_title">
+        <source></source>
+        <translation>CPU history of %1, pid %2</translation>
+    </message>
+    <message id="history_identity">
+        <source></source>
+        <translation>pid %1</translation>
+    </message>
+    <message id="history_accessible">
+        <source></source>
+        <translation>CPU history of %1, process %2</translation>
+    </message>
+    <message id="history_now">
+        <source></source>
+        <translation>%1 % now; the upper edge is %2 %</translation>
+    </message>
+    <message id="history_tip">
+        <source></source>
+        <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2</translation>
+    </message>
+    <message id="history_menu_relative">
+        <source></source>
+        <translation>&amp;Scale to the Recent Maximum</translation>
+    </message>
+    <message id="history_menu_descendants">
+        <source></source>
+        <translation>Count &amp;Descendants Too</translation>
+    </message>
+    <message id="history_menu_close">
+        <source></source>
+        <translation>&amp;Close and Forget</translation>
+    </message>
+    <message id="remembered_title">
+        <source></source>
+        <translation>Lurkwell: Remembered Windows</translation>
+    </message>
+    <message id="remembered_program">
+        <source></source>
+        <translation>Program</translation>
+    </message>
+    <message id="remembered_window">
+        <source></source>
+        <translation>Window</translation>
+    </message>
+    <message id="remembered_process">
+        <source></source>
+        <translation>Process</translation>
+    </message>
+    <message id="remembered_log">
+        <source></source>
+        <translation>Log</translation>
+    </message>
+    <message id="remembered_history">
+        <source></source>
+        <translation>CPU history</translation>
+    </message>
+    <message id="remembered_follows">
+        <source></source>
+        <translation>pid %1</translation>
+    </message>
+    <message id="remembered_waits">
+        <source></source>
+        <translation>waits for the program to start</translation>
+    </message>
+    <message id="remembered_explanation">
+        <source></source>
+        <translation>These windows come back when their program starts. One that is forgotten does not; if it is open it stays until it is closed.</translation>
+    </message>
+    <message id="remembered_forget">
+        <source></source>
+        <translation>&amp;Forget</translation>
     </message>
     <message id="preferences_title">
         <source></source>

@@ -54,8 +54,8 @@ bool SystemHasNecessaryTools() {
 vqAppDelegate::vqAppDelegate(Launch launch)
     : mLaunch(launch),
       mFollowingWindows(TheMachine().logFiles,
-                        {&CreateCPUHistoryWindow, &CountOpenCPUHistoryWindows,
-                         &IsCPUHistoryWindowOpen, &RememberCPUHistoryPlaces}) {}
+                        {&CreateCPUHistoryWindow, &ListCPUHistoryWindows, &IsCPUHistoryWindowOpen,
+                         &CPUHistoryProcessHasEnded, &RememberCPUHistoryPlaces}) {}
 
 vqAppDelegate::~vqAppDelegate() {
   fQuintessentialWindows.reset();

@@ -154,9 +154,36 @@ void MainMenus::BuildMenuBar() {
   window->addAction(Make("menu_window_show_main", other, [this] { mCommands.doShowMainWindow(); }));
   window->addAction(Make("menu_window_show_animated_view", other,
                          [this] { mCommands.doShowQuintessentialView(); }));
+  BuildOpenWindows(*window);
   auto* help = AddMenu("menu_help");
   help->addAction(Make(
       "menu_help_help", other, [this] { doLurkwellHelp(); }, Qt::Key_F1));
+}
+
+void MainMenus::BuildOpenWindows(QMenu& menu) {
+  menu.addSeparator();
+  menu.addAction(Make("menu_window_remembered", MenuCommand::kOther, [this] {
+    if (auto* windows = mController.monitorWindows()) windows->ShowRememberedWindows(&mWindow);
+  }));
+  auto* closeAll = Make("menu_window_close_all", MenuCommand::kOther, [this] {
+    if (auto* windows = mController.monitorWindows())
+      for (const auto& window : windows->OpenWindows()) window.close();
+  });
+  menu.addAction(closeAll);
+  auto* list = menu.addSeparator();
+  connect(&menu, &QMenu::aboutToShow, this, [this, &menu, closeAll, list] {
+    const auto actions = menu.actions();
+    for (auto at = actions.indexOf(list) + 1; at < actions.size(); ++at) delete actions[at];
+    const auto* windows = mController.monitorWindows();
+    auto open =
+        windows != nullptr ? windows->OpenWindows() : std::vector<MonitorWindows::OpenWindow>{};
+    closeAll->setEnabled(!open.empty());
+    std::ranges::sort(open, {}, &MonitorWindows::OpenWindow::title);
+    for (auto& window : open) {
+      auto* item = menu.addAction(window.title.replace(QLatin1Char('&'), QLatin1String("&&")));
+      connect(item, &QAction::triggered, this, window.show);
+    }
+  });
 }
 
 void MainMenus::BuildToolbarItems(QMenu& view) {

@@ -67,6 +67,8 @@ class MainMenus : public QObject {
   void BuildContextMenu();
   void BuildHeaderMenu();
   void BuildToolbarItems(QMenu& view);
+  /// The windows that follow processes, listed anew whenever the menu opens.
+  void BuildOpenWindows(QMenu& menu);
   /// For whoever has no mouse: what can be done to headers.
   void BuildSortMenu(QMenu& view);
   QMenu* AddMenu(const char* id);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRect>
+#include <QString>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -35,6 +37,18 @@ class MonitorWindows {
   virtual void CreateLoggingWindow(std::int32_t interval, std::int32_t pid) = 0;
   /// How many more may be opened.
   virtual int CountRoom() const = 0;
+
+  /// One that is open. The functions do nothing once it is closed.
+  struct OpenWindow {
+    QString title;
+    QRect place;
+    std::function<void()> show;
+    /// As its user would: it is not remembered any more if its process runs.
+    std::function<void()> close;
+  };
+  virtual std::vector<OpenWindow> OpenWindows() const { return {}; }
+  /// Shows what is remembered, to be forgotten or looked for, beside `parent`.
+  virtual void ShowRememberedWindows(QWidget* parent) { static_cast<void>(parent); }
 };
 
 /// The process table: its rows and columns as the view's model, the column menus, and what can be
@@ -159,6 +173,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void newCPUHistoryWindow();
   void newLoggingWindow();
   void setMonitorWindows(MonitorWindows* windows) { fMonitorWindows = windows; }
+  /// Null before.
+  MonitorWindows* monitorWindows() const { return fMonitorWindows; }
   /// The selected rows as lines of tab-separated cells, columns as on the screen.
   QString selectionAsText() const;
   /// Reads and shows everything now instead of at the next turn.

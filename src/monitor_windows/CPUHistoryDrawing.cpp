@@ -8,6 +8,7 @@
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
+#include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {}  // namespace
@@ -26,7 +27,8 @@ void CPUHistoryWindowInformationClient::DrawLabels() {
   mNameWindow->resize(std::min(mBounds.right - mBounds.left - 5, mNameWindow->TextWidth(text) + 10),
                       mNameWindow->height());
   mNameWindow->SetText(text, mPreferences.name);
-  mNameWindow->SetAlpha(mPreferences.nameAlpha);
+  mNameWindow->SetAlpha(AlphaWithin(mPreferences.nameAlpha));
+  DrawIdentity(text);
 
   const auto scale = QString::number(mGraph.ScalePercent()) + QLatin1Char('%');
   const auto colour = [this] {
@@ -40,8 +42,45 @@ void CPUHistoryWindowInformationClient::DrawLabels() {
     }
   }();
   mHighWaterMarkWindow->SetText(scale, colour);
-  mHighWaterMarkWindow->SetAlpha(mPreferences.highWaterMarkAlpha);
+  mHighWaterMarkWindow->SetAlpha(AlphaWithin(mPreferences.highWaterMarkAlpha));
   DrawIcon();
+}
+
+QString CPUHistoryWindowInformationClient::Title() const {
+  char name[256] = "";
+  GetPIDPropertyValue(mPid, "meta_name", name, sizeof name, nullptr);
+  return LocalizedString("history_title").arg(PlainText(name), QString::number(mPid));
+}
+
+void CPUHistoryWindowInformationClient::DrawIdentity(const QString& name) {
+  auto& label = *mIdentityWindow;
+  const auto text = LocalizedString("history_identity").arg(mPid);
+  label.resize(std::min(mBounds.right - mBounds.left - 5, label.TextWidth(text) + 10),
+               label.height());
+  label.SetText(text, mPreferences.name);
+  label.SetAlpha(AlphaWithin(mPreferences.nameAlpha));
+  Window()->setAccessibleName(
+      LocalizedString("history_accessible").arg(name, QString::number(mPid)));
+  Window()->setToolTip(
+      LocalizedString("history_tip").arg(name.toHtmlEscaped(), QString::number(mPid)));
+}
+
+void CPUHistoryWindowInformationClient::FillMenu(QMenu& menu) const {
+  menu.addAction(Title().replace(QLatin1Char('&'), QLatin1String("&&")))->setEnabled(false);
+  menu.addSeparator();
+  const auto addSwitch = [&menu](const char* id, CPUHistorySwitch which, bool isOn) {
+    auto* action = menu.addAction(LocalizedString(id));
+    action->setCheckable(true);
+    action->setChecked(isOn);
+    QObject::connect(action, &QAction::toggled, action,
+                     [which](bool on) { ChangeCPUHistorySetting(which, on); });
+  };
+  addSwitch("history_menu_relative", CPUHistorySwitch::kRelative, mGraph.IsRelative());
+  addSwitch("history_menu_descendants", CPUHistorySwitch::kTrackDescendants,
+            mGraph.TracksDescendants());
+  menu.addSeparator();
+  auto* close = menu.addAction(LocalizedString("history_menu_close"));
+  QObject::connect(close, &QAction::triggered, Window(), &QWidget::close, Qt::QueuedConnection);
 }
 
 void CPUHistoryWindowInformationClient::DrawIcon() {
@@ -56,7 +95,8 @@ void CPUHistoryWindowInformationClient::DrawIcon() {
     pixmap.setDevicePixelRatio(ratio);
   }
   mIconWindow->SetPicture(pixmap);
-  mIconWindow->SetAlpha(mIsApplication ? mPreferences.iconAlphaReally : mPreferences.iconAlpha);
+  mIconWindow->SetAlpha(
+      AlphaWithin(mIsApplication ? mPreferences.iconAlphaReally : mPreferences.iconAlpha));
 }
 
 void CPUHistoryWindowInformationClient::DrawPercentage(double value) {
@@ -64,7 +104,9 @@ void CPUHistoryWindowInformationClient::DrawPercentage(double value) {
   label.SetText(QString::fromStdString(PercentageText(value)), mPreferences.percentageForeground);
   const int travel = mBounds.bottom - mBounds.top - label.height();
   label.move(label.x(), mGraph.PercentageOffset(value, travel));
-  label.SetAlpha(mPreferences.percentageAlpha);
+  label.SetAlpha(AlphaWithin(mPreferences.percentageAlpha));
+  Window()->setAccessibleDescription(
+      LocalizedString("history_now").arg(qRound(value * 100)).arg(mGraph.ScalePercent()));
 }
 
 void CPUHistoryWindowInformationClient::PaintGraph(QPainter& painter) const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
@@ -36,6 +37,27 @@ void CPUHistoryGraph::SetRelative(bool relative) {
 void CPUHistoryGraph::SetTrackDescendants(bool track) {
   if (track && !mTrackDescendants) mCPUDescendantsArray.assign(mCPUValuesArray.size(), kNoData);
   mTrackDescendants = track;
+}
+
+std::vector<double> CPUHistoryGraph::Resized(const std::vector<double>& ring,
+                                             std::size_t places) const {
+  const auto values = InOrder(ring);
+  std::vector<double> resized(places, kNoData);
+  const auto kept = static_cast<std::ptrdiff_t>(std::min(values.size(), places));
+  std::copy(values.end() - kept, values.end(), resized.end() - kept);
+  return resized;
+}
+
+void CPUHistoryGraph::Resize(int columns, int height) {
+  const auto places = static_cast<std::size_t>(std::max(columns, 1));
+  auto values = Resized(mCPUValuesArray, places);
+  if (mTrackDescendants) mCPUDescendantsArray = Resized(mCPUDescendantsArray, places);
+  mCPUValuesArray = std::move(values);
+  mWriteIndex = places - 1;
+  mBitmap = GraphBitmap(columns, height);
+  mLabelsDirty = true;
+  Erase();
+  RedrawEntireWindow();
 }
 
 double CPUHistoryGraph::AddDataPointToValuesArray(double cpuSeconds, double share,

@@ -35,6 +35,9 @@ class CPUHistoryGraph {
   void SetTrackDescendants(bool track);
   bool TracksDescendants() const { return mTrackDescendants; }
 
+  /// The newest values stay, at the right edge; the picture is drawn anew. At least one column.
+  void Resize(int columns, int height);
+
   // ---- A point ----------------------------------------------------------------------------------
 
   /// A point for `cpuSeconds` used within `elapsedSeconds`, of which the process itself used the
@@ -82,6 +85,8 @@ class CPUHistoryGraph {
 
  private:
   std::vector<double> InOrder(const std::vector<double>& ring) const;
+  /// The ring with another number of places, its newest value at the last one.
+  std::vector<double> Resized(const std::vector<double>& ring, std::size_t places) const;
 
   GraphBitmap mBitmap;
   Colours mColours;

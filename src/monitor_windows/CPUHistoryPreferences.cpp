@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "consolidator/ProcessInformationClient.h"
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
@@ -21,7 +22,6 @@ struct ColourSetting {
   QColor CPUHistoryPreferences::*member;
   const char* key;
   std::array<std::int32_t, 3> defaults;
-  bool readAgain;
 };
 
 struct AlphaSetting {
@@ -33,15 +33,15 @@ struct AlphaSetting {
 using P = CPUHistoryPreferences;
 
 constexpr ColourSetting kColours[] = {
-    {&P::background, "BACKGROUND_RGB", {0, 1024, 0}, true},
-    {&P::foreground, "FOREGROUND_RGB", {16384, 65535, 16384}, true},
-    {&P::descendantsForeground, "DESCENDANTS_FOREGROUND_RGB", {0, 0, 65535}, false},
-    {&P::name, "NAME_RGB", {65535, 65535, 49152}, false},
-    {&P::highWaterMark, "HWM_RGB", {24576, 24576, 65535}, true},
-    {&P::highWaterMarkRelative, "HWM_RELATIVE_RGB", {65535, 32767, 32767}, true},
-    {&P::highWaterMarkFlash, "HWM_FLASH_RGB", {65535, 65535, 32767}, false},
-    {&P::percentageBackground, "CURRENT_PERCENTAGE_BG", {0, 20479, 0}, false},
-    {&P::percentageForeground, "CURRENT_PERCENTAGE_FG", {65535, 65535, 8191}, false},
+    {&P::background, "BACKGROUND_RGB", {0, 1024, 0}},
+    {&P::foreground, "FOREGROUND_RGB", {16384, 65535, 16384}},
+    {&P::descendantsForeground, "DESCENDANTS_FOREGROUND_RGB", {0, 0, 65535}},
+    {&P::name, "NAME_RGB", {65535, 65535, 49152}},
+    {&P::highWaterMark, "HWM_RGB", {24576, 24576, 65535}},
+    {&P::highWaterMarkRelative, "HWM_RELATIVE_RGB", {65535, 32767, 32767}},
+    {&P::highWaterMarkFlash, "HWM_FLASH_RGB", {65535, 65535, 32767}},
+    {&P::percentageBackground, "CURRENT_PERCENTAGE_BG", {0, 20479, 0}},
+    {&P::percentageForeground, "CURRENT_PERCENTAGE_FG", {65535, 65535, 8191}},
 };
 
 constexpr AlphaSetting kAlphas[] = {
@@ -88,9 +88,7 @@ void ReadAll(CPUHistoryPreferences& preferences, Reading reading) {
   std::int32_t track = preferences.trackDescendants ? 1 : 0;
   ReadInt(kTrackKey, reading, 0, track);
   preferences.trackDescendants = track != 0;
-  for (const auto& setting : kColours)
-    if (reading == Reading::kFirst || setting.readAgain)
-      ReadColour(setting, reading, preferences.*setting.member);
+  for (const auto& setting : kColours) ReadColour(setting, reading, preferences.*setting.member);
   for (const auto& setting : kAlphas) {
     std::uint8_t found = 0;
     const std::string key = std::string(kPrefix) + setting.key;
@@ -120,6 +118,12 @@ double CPUHistoryFilter() {
   const double filter = GetPrefDouble(kFilterKey, nullptr, true, 0.5);
   // Beyond these the values would swing up for ever.
   return filter >= 0.0 && filter <= 1.0 ? filter : 0.5;
+}
+
+void ChangeCPUHistorySetting(CPUHistorySwitch which, bool on) {
+  SetPrefInt(which == CPUHistorySwitch::kRelative ? kUseRelativeKey : kTrackKey, on ? 1 : 0);
+  ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(
+      "CPUHistoryWindowInformationClient");
 }
 
 std::optional<std::int32_t> StoredCPUHistoryInterval() {

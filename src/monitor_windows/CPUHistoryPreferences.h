@@ -11,7 +11,7 @@ struct CPUHistoryPreferences {
   /// Reads all of them; those that are missing are stored with their defaults.
   static CPUHistoryPreferences Read();
 
-  /// Reads those again that an open window follows; what is not stored stays as it is.
+  /// Reads all of them again; what is not stored stays as it is.
   void ReadAgain();
 
   bool useRelative = true;
@@ -40,6 +40,10 @@ bool CPUHistoryTracksDescendants();
 
 /// The weight of the value before, from 0 to 1; 0.5 when what is stored lies outside.
 double CPUHistoryFilter();
+
+/// Stores a switch, which all open windows follow at once.
+enum class CPUHistorySwitch { kRelative, kTrackDescendants };
+void ChangeCPUHistorySetting(CPUHistorySwitch which, bool on);
 
 /// Milliseconds; nothing when it is not stored.
 std::optional<std::int32_t> StoredCPUHistoryInterval();

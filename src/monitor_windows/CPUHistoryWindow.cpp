@@ -1,11 +1,13 @@
 #include "monitor_windows/CPUHistoryWindow.h"
 
+#include <QPointer>
 #include <algorithm>
 #include <cstring>
 #include <set>
 #include <utility>
 
 #include "consolidator/PI_Consolidator.h"
+#include "consolidator/ProcessQueries.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
 #include "monitor_windows/ScreenPlacement.h"
@@ -49,6 +51,7 @@ CPUHistoryWindowInformationClient::CPUHistoryWindowInformationClient(const Uuid*
                                                                      bool trackDescendants)
     : ProcessInformationClient(uuid, interval),
       mPid(pid),
+      mStartStamp(GetPidsStartStamp(pid)),
       mBounds(rect),
       mPreferences(CPUHistoryPreferences::Read()),
       mGraph(rect.right - rect.left, rect.bottom - rect.top,
@@ -126,8 +129,10 @@ void CPUHistoryWindowInformationClient::NotifyProcessesHaveBeenUpdated() {
     delete this;
     return;
   }
-  const double descendants = TakeDescendantsSeconds();
   if (mGraph.AreLabelsDirty()) DrawLabels();
+  // What nobody could tell now belongs to the next point, which is longer.
+  if (!AreCPUTimesFresh(mPid)) return;
+  const double descendants = TakeDescendantsSeconds();
   const auto now = TheMachine().clock.Now();
   const double elapsed =
       std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdateTime, now)) / 1000.0);
@@ -175,6 +180,7 @@ void CPUHistoryWindowInformationClient::CreateMacWindow() {
                kWindowHideOnSuspendAttribute);
   mRememberedPlace = ContentBounds();
   Window()->SetPainter([this](QPainter& painter) { PaintGraph(painter); });
+  Window()->SetMenu([this](QMenu& menu) { FillMenu(menu); });
   if (!EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange::kByItself)) Window()->raise();
   MarkKind();
 }
@@ -182,23 +188,38 @@ void CPUHistoryWindowInformationClient::CreateMacWindow() {
 void CPUHistoryWindowInformationClient::UglyHookCalledImmediatelyBeforeOverlayWindowIsCreated(
     QWidget& group) {
   Require(mNameWindow == nullptr, kHistoryUnit, "!mNameWindow");
-  const int r = group.width();
-  const int b = group.height();
   const auto fontOf = [&](int size, bool bold) {
     auto font = group.font();
     font.setPixelSize(size);
     font.setBold(bold);
     return font;
   };
-  mNameWindow = new Satellite(group, QRect(1, 1, r, 22), fontOf(12, false), {5, 18});
-  mHighWaterMarkWindow = new Satellite(group, QRect(r - 29, 1, 28, 9), fontOf(9, false), {1, 8});
-  mIconWindow = new Satellite(group, QRect(4, b - 44, 40, 40), group.font(), {});
-  mCurrentPercentageWindow =
-      new Satellite(group, QRect(r - 28, b - 23, 24, 11), fontOf(9, true), {2, 9});
+  mNameWindow = new Satellite(group, {}, fontOf(12, false), {5, 18});
+  mIdentityWindow = new Satellite(group, {}, fontOf(9, false), {5, 9});
+  mHighWaterMarkWindow = new Satellite(group, {}, fontOf(9, false), {1, 8});
+  mIconWindow = new Satellite(group, {}, group.font(), {});
+  mCurrentPercentageWindow = new Satellite(group, {}, fontOf(9, true), {2, 9});
+  PlaceLabels();
+  SetLabelColours();
+}
+
+void CPUHistoryWindowInformationClient::SetLabelColours() {
+  if (mNameWindow == nullptr) return;
   mNameWindow->SetColours(mPreferences.background, mPreferences.name);
-  mHighWaterMarkWindow->SetColours(mPreferences.background, mPreferences.highWaterMark);
+  mIdentityWindow->SetColours(mPreferences.background, mPreferences.name);
+  mHighWaterMarkWindow->SetColours(mPreferences.background, mHighWaterMarkWindow->TextColour());
   mCurrentPercentageWindow->SetColours(mPreferences.percentageBackground,
                                        mPreferences.percentageForeground);
+}
+
+void CPUHistoryWindowInformationClient::PlaceLabels() {
+  const int r = mBounds.right - mBounds.left;
+  const int b = mBounds.bottom - mBounds.top;
+  mNameWindow->setGeometry(1, 1, mNameWindow->width(), 22);
+  mIdentityWindow->setGeometry(1, 23, mIdentityWindow->width(), 12);
+  mHighWaterMarkWindow->setGeometry(r - 29, 1, 28, 9);
+  mIconWindow->setGeometry(4, b - 44, 40, 40);
+  mCurrentPercentageWindow->setGeometry(r - 28, b - 23, 24, 11);
 }
 
 void CPUHistoryWindowInformationClient::DisposeOfWindows() {
@@ -207,7 +228,8 @@ void CPUHistoryWindowInformationClient::DisposeOfWindows() {
   Require(mHighWaterMarkWindow != nullptr, kHistoryUnit, "mHighWaterMarkWindow != NULL");
   Require(mIconWindow != nullptr, kHistoryUnit, "mIconWindow != NULL");
   Require(mCurrentPercentageWindow != nullptr, kHistoryUnit, "mCurrentPercentageWindow != NULL");
-  mNameWindow = mHighWaterMarkWindow = mIconWindow = mCurrentPercentageWindow = nullptr;
+  mNameWindow = mIdentityWindow = mHighWaterMarkWindow = mIconWindow = mCurrentPercentageWindow =
+      nullptr;
   DisposeWindow();
 }
 
@@ -226,6 +248,26 @@ OSStatus CPUHistoryWindowInformationClient::NotifyUpdate() {
 OSStatus CPUHistoryWindowInformationClient::NotifyDrawContent() {
   mGraph.MarkLabelsDirty();
   RedrawEntireWindow();
+  return noErr;
+}
+
+bool CPUHistoryWindowInformationClient::AdjustMinimumAndMaximumWindowSizes(Point& min, Point& max) {
+  const auto side = [](int points) { return static_cast<std::int16_t>(points); };
+  min = {side(kSmallestSize.height()), side(kSmallestSize.width())};
+  max = {side(kLargestSide), side(kLargestSide)};
+  return true;
+}
+
+OSStatus CPUHistoryWindowInformationClient::NotifyBoundsChanged() {
+  const auto bounds = ContentBounds();
+  const int width = bounds.right - bounds.left;
+  const int height = bounds.bottom - bounds.top;
+  if (mNameWindow == nullptr || width <= 0 || height <= 0) return noErr;
+  if (width == mBounds.right - mBounds.left && height == mBounds.bottom - mBounds.top) return noErr;
+  mBounds = bounds;
+  mGraph.Resize(width, height);
+  PlaceLabels();
+  Window()->ContentWidget().update();
   return noErr;
 }
 
@@ -248,9 +290,8 @@ void CPUHistoryWindowInformationClient::NotifyPreferencesHaveBeenUpdated() {
   }
   mGraph.SetTrackDescendants(mPreferences.trackDescendants);
   ApplyColours();
-  if (mNameWindow != nullptr) mNameWindow->SetColours(mPreferences.background, mPreferences.name);
-  if (mHighWaterMarkWindow != nullptr)
-    mHighWaterMarkWindow->SetColours(mPreferences.background, mHighWaterMarkWindow->TextColour());
+  ApplyOpacity();
+  SetLabelColours();
   mGraph.MarkLabelsDirty();
   mGraph.Erase();
   RedrawEntireWindow();
@@ -281,17 +322,41 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
                                                        CPUHistoryTracksDescendants());
   if (uuid == nullptr)
     SetPersistentClientInfo(kCPUHistoryWindowKind, name, kind, &bounds, &client->Identifier());
+  RememberProcess(kCPUHistoryWindowKind, client->Identifier(), pid);
   AddProcessInformationClient(client);
 }
 
-int CountOpenCPUHistoryWindows() {
-  return static_cast<int>(gClients.size());
+std::vector<MonitorWindows::OpenWindow> ListCPUHistoryWindows() {
+  std::vector<MonitorWindows::OpenWindow> windows;
+  for (auto* client : gClients) {
+    const QPointer<FloatingWindow> window = client->Window();
+    const auto bounds = window != nullptr ? client->ContentBounds() : client->Bounds();
+    windows.push_back(
+        {client->Title(),
+         QRect(bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top),
+         [window] {
+           if (window == nullptr) return;
+           window->raise();
+           window->Flash();
+         },
+         [window] {
+           if (window != nullptr) window->close();
+         }});
+  }
+  return windows;
 }
 
-bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) {
-  return std::ranges::any_of(gClients, [&](const auto* client) {
-    return client->Pid() == pid && client->Identifier() == uuid;
-  });
+bool IsCPUHistoryWindowOpen(const Uuid& uuid) {
+  return std::ranges::any_of(gClients,
+                             [&](const auto* client) { return client->Identifier() == uuid; });
+}
+
+void CPUHistoryProcessHasEnded(std::int32_t pid) {
+  // They take themselves out of the set.
+  const auto clients = gClients;
+  for (auto* client : clients)
+    if (client->Pid() == pid && client->StartStamp() != GetPidsStartStamp(pid))
+      client->NotifyPidHasBeenRemoved(pid);
 }
 
 void RememberCPUHistoryPlaces() {

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <map>
+#include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "main_window/vqMainTableController.h"
 #include "monitor_windows/CPUHistoryGraph.h"
 #include "monitor_windows/CPUHistoryPreferences.h"
 #include "monitor_windows/ProcessInformationWindow.h"
@@ -36,18 +38,28 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   const char* TypeName() const override { return "CPUHistoryWindowInformationClient"; }
 
   std::int32_t Pid() const { return mPid; }
+  /// Tells the process from others that get its pid.
+  std::uint64_t StartStamp() const { return mStartStamp; }
+
+  /// Where it is to come up, or was when its size changed last.
+  const WindowRect& Bounds() const { return mBounds; }
+  /// The program's name and the pid, for people.
+  QString Title() const;
 
   /// Writes the window's place into its record when it has been moved since the last time.
   void RememberPlace();
 
   OSStatus NotifyUpdate() override;
   OSStatus NotifyDrawContent() override;
+  OSStatus NotifyBoundsChanged() override;
   OSStatus NotifyClosed() override;
+  bool AdjustMinimumAndMaximumWindowSizes(Point& min, Point& max) override;
   void UglyHookCalledImmediatelyBeforeOverlayWindowIsCreated(QWidget& group) override;
 
   const CPUHistoryGraph& Graph() const { return mGraph; }
-  /// The four labels; null without a window.
+  /// The labels; null without a window.
   const Satellite* NameWindow() const { return mNameWindow; }
+  const Satellite* IdentityWindow() const { return mIdentityWindow; }
   const Satellite* HighWaterMarkWindow() const { return mHighWaterMarkWindow; }
   const Satellite* IconWindow() const { return mIconWindow; }
   const Satellite* CurrentPercentageWindow() const { return mCurrentPercentageWindow; }
@@ -58,15 +70,20 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   void MarkKind();
   void RedrawEntireWindow();
   void ApplyColours();
+  void SetLabelColours();
   /// The time that the descendants have used since the last update. Those that have ended or
   /// belong to others now do not count any more.
   double TakeDescendantsSeconds();
   void DrawLabels();
+  void DrawIdentity(const QString& name);
+  void PlaceLabels();
+  void FillMenu(QMenu& menu) const;
   void DrawIcon();
   void DrawPercentage(double value);
   void PaintGraph(QPainter& painter) const;
 
   std::int32_t mPid;
+  std::uint64_t mStartStamp;
   WindowRect mBounds;
   WindowRect mRememberedPlace;
   bool mProcessGone = false;
@@ -85,6 +102,7 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
 
   /// Children of the window.
   Satellite* mNameWindow = nullptr;
+  Satellite* mIdentityWindow = nullptr;
   Satellite* mHighWaterMarkWindow = nullptr;
   Satellite* mIconWindow = nullptr;
   Satellite* mCurrentPercentageWindow = nullptr;
@@ -96,10 +114,12 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
 void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
                             const WindowRect* rect);
 
-/// How many of them are on the screen or about to be, for processes that have not ended.
-int CountOpenCPUHistoryWindows();
-/// Whether one of these is that process's window of that identifier.
-bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid);
+/// Those that are on the screen or about to be, for processes that have not ended.
+std::vector<MonitorWindows::OpenWindow> ListCPUHistoryWindows();
+/// Whether one of these has that identifier.
+bool IsCPUHistoryWindowOpen(const Uuid& uuid);
+/// Tells those of a process of that pid, unless it is still there, that it has ended.
+void CPUHistoryProcessHasEnded(std::int32_t pid);
 void RememberCPUHistoryPlaces();
 
 }  // namespace lurkwell

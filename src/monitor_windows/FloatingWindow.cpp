@@ -1,8 +1,11 @@
 #include "monitor_windows/FloatingWindow.h"
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QHoverEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QWindow>
 #include <QWindowStateChangeEvent>
 #include <utility>
@@ -15,6 +18,8 @@ namespace {
 
 constexpr int kCloseBoxSize = 9;
 constexpr int kCloseBoxInset = 2;
+constexpr int kEdge = 4;
+constexpr int kFlashMilliseconds = 1200;
 
 int TitlebarWidth(std::uint32_t attributes) {
   return (attributes & kWindowSideTitlebarAttribute) != 0 ? FloatingWindow::kSideTitlebarWidth : 0;
@@ -126,6 +131,12 @@ bool FloatingWindow::event(QEvent* event) {
       mHovered = event->type() == QEvent::HoverEnter;
       update(CloseBox());
       break;
+    case QEvent::HoverMove:
+      ShowEdge(static_cast<QHoverEvent*>(event)->position().toPoint());
+      break;
+    case QEvent::ContextMenu:
+      ShowMenu(static_cast<QContextMenuEvent*>(event)->globalPos());
+      return true;
     case QEvent::MouseButtonPress:
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
@@ -156,6 +167,8 @@ void FloatingWindow::HandleMouse(QEvent& event) {
   const auto place = mouse.position().toPoint();
   if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::LeftButton) {
     EndDrag();
+    const auto edges = EdgesAt(place);
+    if (edges && windowHandle() != nullptr && windowHandle()->startSystemResize(edges)) return;
     mPressedCloseBox = CloseBox().contains(place);
     mMayDrag = !mPressedCloseBox;
     mGrip = place;
@@ -181,6 +194,53 @@ void FloatingWindow::HandleMouse(QEvent& event) {
   if (mouse.buttons() == Qt::NoButton) EndDrag();
 }
 
+Qt::Edges FloatingWindow::EdgesAt(const QPoint& place) const {
+  Qt::Edges edges;
+  if (minimumSize() == maximumSize() || CloseBox().contains(place)) return edges;
+  edges.setFlag(Qt::LeftEdge, place.x() < kEdge);
+  edges.setFlag(Qt::RightEdge, place.x() >= width() - kEdge);
+  edges.setFlag(Qt::TopEdge, place.y() < kEdge);
+  edges.setFlag(Qt::BottomEdge, place.y() >= height() - kEdge);
+  return edges;
+}
+
+void FloatingWindow::ShowEdge(const QPoint& place) {
+  const auto edges = EdgesAt(place);
+  const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
+  const bool along = edges & (Qt::TopEdge | Qt::BottomEdge);
+  const bool falls =
+      edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
+  if (across && along)
+    setCursor(falls ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor);
+  else if (across || along)
+    setCursor(across ? Qt::SizeHorCursor : Qt::SizeVerCursor);
+  else
+    unsetCursor();
+}
+
+void FloatingWindow::SetMenu(std::function<void(QMenu&)> fill) {
+  mFillMenu = std::move(fill);
+  if (!mFillMenu && mMenu != nullptr) mMenu->close();
+}
+
+void FloatingWindow::ShowMenu(const QPoint& place) {
+  if (!mFillMenu) return;
+  if (mMenu != nullptr) mMenu->close();
+  mMenu = new QMenu(this);
+  mMenu->setAttribute(Qt::WA_DeleteOnClose);
+  mFillMenu(*mMenu);
+  mMenu->popup(place);
+}
+
+void FloatingWindow::Flash() {
+  mFlashes = true;
+  update();
+  QTimer::singleShot(kFlashMilliseconds, this, [this] {
+    mFlashes = false;
+    update();
+  });
+}
+
 void FloatingWindow::EndDrag() {
   mMayDrag = false;
   if (std::exchange(mDragging, false)) Tell(kEventWindowDragCompleted);
@@ -195,7 +255,7 @@ void FloatingWindow::paintEvent(QPaintEvent*) {
   const int bar = TitlebarWidth(mAttributes);
   if (bar == 0) return;
   QPainter painter(this);
-  const QColor ground(48, 50, 52);
+  const QColor ground = mFlashes ? palette().color(QPalette::Highlight) : QColor(48, 50, 52);
   painter.fillRect(0, 0, bar, height(), ground);
   painter.fillRect(bar - 1, 0, 1, height(), ground.darker(150));
   const auto box = CloseBox();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QMenu>
+#include <QPointer>
 #include <QWidget>
 #include <cstdint>
 #include <functional>
@@ -42,7 +44,8 @@ enum WindowAttributes : std::uint32_t {
 
 /// A small window above all others that never takes the keyboard. It is moved by dragging it
 /// anywhere; with a side title bar it has a narrow strip at the left, in which the close box lies.
-/// Its size is fixed as long as its owner sets no other bounds for it; the content follows.
+/// Its size is fixed as long as its owner sets no other bounds for it; then it is resized at its
+/// edges, and the content follows.
 /// Everything that the toolkit tells it leaves here as event kinds. Main thread only.
 class FloatingWindow final : public QWidget {
   Q_OBJECT
@@ -63,6 +66,11 @@ class FloatingWindow final : public QWidget {
   /// Where labels go and what they are laid over.
   QWidget& ContentWidget();
   QRect ContentBounds() const;
+  /// Who fills the context menu, which opens at the second button; an empty function for none,
+  /// which closes one that is open.
+  void SetMenu(std::function<void(QMenu&)> fill);
+  /// Shows where the window is, for a moment.
+  void Flash();
   /// Draws the content; without one it stays empty.
   void SetPainter(std::function<void(QPainter&)> painter);
 
@@ -76,10 +84,17 @@ class FloatingWindow final : public QWidget {
   void MakeFloating();
   void Tell(WindowEventKind kind);
   void HandleMouse(QEvent& event);
+  void ShowMenu(const QPoint& place);
+  /// The edges that a place is near enough to for a resize.
+  Qt::Edges EdgesAt(const QPoint& place) const;
+  void ShowEdge(const QPoint& place);
   void HandleStateChange(Qt::WindowStates before);
   void EndDrag();
 
   std::function<void(WindowEventKind)> mHandler;
+  std::function<void(QMenu&)> mFillMenu;
+  QPointer<QMenu> mMenu;
+  bool mFlashes = false;
   Content* mContent = nullptr;
   std::uint32_t mAttributes;
   bool mHovered = false;

@@ -1,9 +1,13 @@
 #include "monitor_windows/FollowingWindows.h"
 
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
+#include "main_window/FrontmostWindow.h"
 #include "monitor_windows/LoggingWindowUI.h"
+#include "monitor_windows/RememberedWindowsPanel.h"
+#include "monitor_windows/ScreenPlacement.h"
 #include "preferences/PreferenceBatch.h"
 
 namespace lurkwell {
@@ -22,31 +26,68 @@ void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t p
 void FollowingWindows::CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid,
                                               const Uuid* uuid, const WindowRect* rect) {
   const PreferenceBatch batch;
-  mHistories.create(interval, pid, uuid, rect);
+  const auto place = rect != nullptr ? Apart(*rect) : WindowRect{};
+  mHistories.create(interval, pid, uuid, rect != nullptr ? &place : nullptr);
 }
 
 void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t pid,
                                            const Uuid* uuid, const WindowRect* rect,
                                            std::int32_t prefsIndex) {
   const PreferenceBatch batch;
-  LoggingWindowUI::CreateLoggingWindowWithInterval(mLogFiles, interval, pid, uuid, rect,
-                                                   prefsIndex);
+  if (auto* log = uuid != nullptr ? LoggingWindowUI::Find(*uuid) : nullptr)
+    return log->follow(mLogFiles, pid);
+  const auto place = rect != nullptr ? Apart(*rect) : WindowRect{};
+  LoggingWindowUI::CreateLoggingWindowWithInterval(mLogFiles, interval, pid, uuid,
+                                                   rect != nullptr ? &place : nullptr, prefsIndex);
+}
+
+WindowRect FollowingWindows::Apart(const WindowRect& rect) const {
+  std::vector<QRect> others;
+  for (const auto& window : OpenWindows()) others.push_back(window.place);
+  return PlaceApart(rect, others);
+}
+
+std::vector<MonitorWindows::OpenWindow> FollowingWindows::OpenWindows() const {
+  auto windows = mHistories.list();
+  for (auto* log : LoggingWindowUI::OpenWindows()) {
+    const auto place = log->frame();
+    windows.push_back({log->window()->windowTitle(),
+                       QRect(QPoint(place.left, place.top), log->window()->size()),
+                       [window = QPointer<QWidget>(log->window())] {
+                         if (window != nullptr) BringToFront(*window);
+                       },
+                       [window = QPointer<QWidget>(log->window())] {
+                         if (window != nullptr) window->close();
+                       }});
+  }
+  return windows;
+}
+
+void FollowingWindows::ShowRememberedWindows(QWidget* parent) {
+  RememberedWindowsPanel::ShowFor(parent);
 }
 
 int FollowingWindows::CountOpenWindows() const {
-  return LoggingWindowUI::CountOpenWindows() + mHistories.countOpen();
+  return LoggingWindowUI::CountOpenWindows() + static_cast<int>(mHistories.list().size());
 }
 
 int FollowingWindows::CountRoom() const {
   return std::max(0, kMostOpenWindows - CountOpenWindows());
 }
 
-bool FollowingWindows::IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) const {
-  return mHistories.isOpen(uuid, pid);
+bool FollowingWindows::IsCPUHistoryWindowOpen(const Uuid& uuid) const {
+  return mHistories.isOpen(uuid);
 }
 
-bool FollowingWindows::IsLoggingWindowOpen(const Uuid& uuid, std::int32_t pid) const {
-  return LoggingWindowUI::IsOpen(uuid, pid);
+bool FollowingWindows::IsLoggingWindowOpen(const Uuid& uuid) const {
+  const auto* log = LoggingWindowUI::Find(uuid);
+  return log != nullptr && !log->stateInfo().pidWentAway;
+}
+
+void FollowingWindows::ProcessHasEnded(std::int32_t pid) {
+  const PreferenceBatch batch;
+  mHistories.processHasEnded(pid);
+  LoggingWindowUI::ProcessHasEnded(pid);
 }
 
 void FollowingWindows::RememberPlaces() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "main_window/vqMainTableController.h"
 #include "monitor_windows/MonitorWindowKinds.h"
@@ -18,8 +19,10 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
     std::function<void(std::int32_t interval, std::int32_t pid, const Uuid* uuid,
                        const WindowRect* rect)>
         create;
-    std::function<int()> countOpen;
-    std::function<bool(const Uuid& uuid, std::int32_t pid)> isOpen;
+    /// Those for processes that have not ended.
+    std::function<std::vector<OpenWindow>()> list;
+    std::function<bool(const Uuid& uuid)> isOpen;
+    std::function<void(std::int32_t pid)> processHasEnded;
     std::function<void()> rememberPlaces;
   };
 
@@ -35,11 +38,18 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
                            const WindowRect* rect, std::int32_t prefsIndex) override;
   int CountOpenWindows() const override;
   int CountRoom() const override;
-  bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) const override;
-  bool IsLoggingWindowOpen(const Uuid& uuid, std::int32_t pid) const override;
-  void RememberPlaces() override;
+  bool IsCPUHistoryWindowOpen(const Uuid& uuid) const override;
+  bool IsLoggingWindowOpen(const Uuid& uuid) const override;
+  void ProcessHasEnded(std::int32_t pid) override;
+  std::vector<OpenWindow> OpenWindows() const override;
+  void ShowRememberedWindows(QWidget* parent) override;
+  /// Writes the places of windows that were moved.
+  void RememberPlaces();
 
  private:
+  /// A remembered place, so that the window lies on none that is open.
+  WindowRect Apart(const WindowRect& rect) const;
+
   LogFiles& mLogFiles;
   Histories mHistories;
 };

@@ -7,10 +7,20 @@ namespace {
 
 constexpr std::int32_t kDateCharacters = 16;
 
-/// The change since the last row; none at the first one.
-TimeValue ActiveTimeSince(TimeValue last, TimeValue now) {
-  return last.IsZero() ? TimeValue{} : now - last;
-}
+struct LogField {
+  bool LoggingSwitches::*isShown;
+  const char* name;
+};
+/// By LoggingColumn.
+constexpr LogField kFields[kLoggingColumns] = {
+    {&LoggingSwitches::includeTimeStamp, "time_s"},
+    {&LoggingSwitches::logActiveTime, "cpu_time_s"},
+    {&LoggingSwitches::logDeltaActiveTime, "cpu_time_change_s"},
+    {&LoggingSwitches::logRealMemUsed, "resident_bytes"},
+    {&LoggingSwitches::logDeltaRealMemUsed, "resident_change_bytes"},
+    {&LoggingSwitches::logVirtualMemUsed, "virtual_bytes"},
+    {&LoggingSwitches::logDeltaVirtualMemUsed, "virtual_change_bytes"},
+};
 
 class RowWriter {
  public:
@@ -18,50 +28,84 @@ class RowWriter {
     mRow.cells[kTimeStampColumn] = DateString(now, kDateCharacters);
     mRow.line = TimeString(now);
   }
-
-  void Write(LoggingColumn column, std::string cell, const std::string& number) {
-    mRow.cells[column] = std::move(cell);
-    mRow.line += '\t' + number;
-  }
   void WriteSpan(LoggingColumn column, TimeValue span) {
     Write(column, TimeString(span), TimeString(span));
   }
-  void WriteMemory(LoggingColumn column, std::int64_t bytes, bool withSign) {
-    Write(column, MemoryString(bytes, withSign), std::to_string(bytes));
+  /// A CPU time never becomes less.
+  void WriteSpanChange(LoggingColumn column, TimeValue change) {
+    const auto text = TimeString(change);
+    if (change.IsZero()) return Write(column, text, text);
+    Write(column, "+ " + text, '+' + text);
+  }
+  void WriteMemory(LoggingColumn column, std::int64_t bytes) {
+    Write(column, MemoryString(bytes), std::to_string(bytes));
+  }
+  void WriteMemoryChange(LoggingColumn column, std::int64_t bytes) {
+    Write(column, MemoryString(bytes, true), (bytes > 0 ? "+" : "") + std::to_string(bytes));
   }
 
   LoggedRow Take() { return std::move(mRow); }
 
  private:
+  void Write(LoggingColumn column, std::string cell, const std::string& number) {
+    mRow.cells[column] = std::move(cell);
+    mRow.line += '\t' + number;
+  }
+
   LoggedRow mRow;
 };
 
+/// What is known now, else what was known.
+template <typename T>
+std::optional<T> Latest(bool isLogged, const std::optional<T>& now, const std::optional<T>& last) {
+  return isLogged && now ? now : last;
+}
+
+template <typename T>
+bool Differs(const std::optional<T>& now, const std::optional<T>& last) {
+  return now.value_or(T{}) != last.value_or(T{});
+}
+
+template <typename T>
+T Change(const std::optional<T>& now, const std::optional<T>& last) {
+  return now && last ? *now - *last : T{};
+}
+
 }  // namespace
+
+std::string LogHeader(const LoggingSwitches& switches) {
+  std::string header;
+  for (const auto& field : kFields) {
+    if (&field != kFields && switches.*field.isShown) header += '\t';
+    if (switches.*field.isShown) header += field.name;
+  }
+  return header;
+}
 
 std::optional<LoggedRow> LogFigures(const LoggingSwitches& switches, const LoggingFigures& figures,
                                     LoggedInfoStruct& last) {
-  LoggedInfoStruct present = last;
-  present.timestamp = figures.now;
-  if (switches.ActiveTime()) present.activetime = figures.activetime.value_or(last.activetime);
-  if (switches.RealMem()) present.realMemUsed = figures.realMemUsed.value_or(last.realMemUsed);
-  if (switches.VirtualMem())
-    present.virtualMemUsed = figures.virtualMemUsed.value_or(last.virtualMemUsed);
-  if (present.activetime == last.activetime && present.realMemUsed == last.realMemUsed &&
-      present.virtualMemUsed == last.virtualMemUsed)
+  const LoggedInfoStruct present{
+      figures.now, Latest(switches.ActiveTime(), figures.activetime, last.activetime),
+      Latest(switches.RealMem(), figures.realMemUsed, last.realMemUsed),
+      Latest(switches.VirtualMem(), figures.virtualMemUsed, last.virtualMemUsed)};
+  if (!Differs(present.activetime, last.activetime) &&
+      !Differs(present.realMemUsed, last.realMemUsed) &&
+      !Differs(present.virtualMemUsed, last.virtualMemUsed))
     return std::nullopt;
 
   RowWriter row;
   if (switches.includeTimeStamp) row.WriteTime(present.timestamp);
-  if (switches.logActiveTime) row.WriteSpan(kActiveColumn, present.activetime);
+  if (switches.logActiveTime)
+    row.WriteSpan(kActiveColumn, present.activetime.value_or(TimeValue{}));
   if (switches.logDeltaActiveTime)
-    row.WriteSpan(kDeltaActiveColumn, ActiveTimeSince(last.activetime, present.activetime));
-  if (switches.logRealMemUsed) row.WriteMemory(kRealColumn, present.realMemUsed, false);
+    row.WriteSpanChange(kDeltaActiveColumn, Change(present.activetime, last.activetime));
+  if (switches.logRealMemUsed) row.WriteMemory(kRealColumn, present.realMemUsed.value_or(0));
   if (switches.logDeltaRealMemUsed)
-    row.WriteMemory(kDeltaRealColumn, present.realMemUsed - last.realMemUsed, true);
-  if (switches.logVirtualMemUsed) row.WriteMemory(kVirtualColumn, present.virtualMemUsed, false);
-  // Unlike the resident change, without a sign in front: this column is read by its numbers.
+    row.WriteMemoryChange(kDeltaRealColumn, Change(present.realMemUsed, last.realMemUsed));
+  if (switches.logVirtualMemUsed)
+    row.WriteMemory(kVirtualColumn, present.virtualMemUsed.value_or(0));
   if (switches.logDeltaVirtualMemUsed)
-    row.WriteMemory(kDeltaVirtualColumn, present.virtualMemUsed - last.virtualMemUsed, false);
+    row.WriteMemoryChange(kDeltaVirtualColumn, Change(present.virtualMemUsed, last.virtualMemUsed));
   last = present;
   return row.Take();
 }

@@ -38,12 +38,12 @@ struct LoggingSwitches {
   bool VirtualMem() const { return logVirtualMemUsed || logDeltaVirtualMemUsed; }
 };
 
-/// The figures of the last row; sizes in bytes. All zero before the first.
+/// The figures of the last row; sizes in bytes. Nothing where there was none yet.
 struct LoggedInfoStruct {
   TimeValue timestamp;
-  TimeValue activetime;
-  std::int64_t realMemUsed = 0;
-  std::int64_t virtualMemUsed = 0;
+  std::optional<TimeValue> activetime;
+  std::optional<std::int64_t> realMemUsed;
+  std::optional<std::int64_t> virtualMemUsed;
 };
 
 /// The figures of an update; nothing where the process has none or no column asks for it.
@@ -57,12 +57,17 @@ struct LoggingFigures {
 struct LoggedRow {
   /// As the table shows them, by LoggingColumn; empty where the column is switched off.
   std::array<std::string, kLoggingColumns> cells;
-  /// As the file has it: plain numbers behind tabs; without a time it begins with a tab.
+  /// As the file has it: plain numbers behind tabs, changes with their signs; without a time it
+  /// begins with a tab.
   std::string line;
 };
 
+/// The first line of a file: the names of the fields, with their units, as its lines have them.
+std::string LogHeader(const LoggingSwitches& switches);
+
 /// The row for an update, and `last` brought up to it; nothing when no figure is another one than
-/// in the last row.
+/// in the last row, or other than 0 before the first. The change of a figure that is seen for the
+/// first time is 0.
 std::optional<LoggedRow> LogFigures(const LoggingSwitches& switches, const LoggingFigures& figures,
                                     LoggedInfoStruct& last);
 

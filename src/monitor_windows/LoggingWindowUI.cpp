@@ -1,24 +1,34 @@
 #include "monitor_windows/LoggingWindowUI.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
-#include <QShortcut>
 #include <QUiLoader>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstdio>
 #include <utility>
 
 #include "consolidator/PI_Consolidator.h"
+#include "consolidator/ProcessQueries.h"
 #include "main_window/ControlledWindow.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
+#include "monitor_windows/LogFileName.h"
+#include "monitor_windows/LogSaving.h"
 #include "monitor_windows/LoggingPreferences.h"
 #include "monitor_windows/LoggingWindowInformationClient2.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/ApplicationQuitting.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
 #include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
 
@@ -32,6 +42,7 @@ namespace {
 constexpr QSize kSmallest(40, 40);
 constexpr int kBesideColumns = 16;
 constexpr int kCellMargin = 16;
+constexpr qsizetype kMostNotes = 4;
 
 Qt::Alignment AlignmentOf(LoggingColumn column) {
   return (column == kTimeStampColumn ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
@@ -90,6 +101,8 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   controller->mPIC = new LoggingWindowInformationClient2(theUuid, interval, *controller);
   controller->mRememberedPlace = controller->frame();
   if (theUuid == nullptr) controller->rememberAsNew(controller->mPIC->Identifier());
+  RememberProcess(kLoggingWindowKind, controller->mPIC->Identifier(), thePid);
+  state.startStamp = GetPidsStartStamp(thePid);
   AddProcessInformationClient(controller->mPIC);
   window->willClose = [controller] { controller->windowWillClose(); };
   // It deletes itself when it is closed.
@@ -124,7 +137,10 @@ bool LoggingWindowUI::loadInterface() {
   if (contents == nullptr) return false;
   fTable = contents->findChild<QTableView*>(QStringLiteral("logTable"));
   fNote = contents->findChild<QLabel*>(QStringLiteral("noteLabel"));
-  if (fTable == nullptr || fNote == nullptr) return false;
+  fIdentity = contents->findChild<QLabel*>(QStringLiteral("identityLabel"));
+  fShowFile = contents->findChild<QPushButton*>(QStringLiteral("showFileButton"));
+  fSave = contents->findChild<QPushButton*>(QStringLiteral("saveButton"));
+  if (!fTable || !fNote || !fIdentity || !fShowFile || !fSave) return false;
   fWindow->resize(contents->size());
   auto* layout = new QVBoxLayout(fWindow);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -150,8 +166,21 @@ void LoggingWindowUI::awakeFromNib() {
   connect(mScrollView, &QScrollBar::rangeChanged, this, [this](int, int most) {
     if (fFollowsNewest) mScrollView->setValue(most);
   });
-  auto* copy = new QShortcut(QKeySequence::Copy, fWindow);
-  connect(copy, &QShortcut::activated, this, &LoggingWindowUI::copySelection);
+  addAction("logging_copy", QKeySequence::Copy, &LoggingWindowUI::copySelection);
+  addAction("logging_select_all", QKeySequence::SelectAll, &LoggingWindowUI::selectAll);
+  addAction("logging_save_as", QKeySequence::Save, &LoggingWindowUI::saveAs);
+  addAction("logging_show_file", {}, &LoggingWindowUI::showFile);
+  fTable->setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(fSave, &QPushButton::clicked, this, &LoggingWindowUI::saveAs);
+  connect(fShowFile, &QPushButton::clicked, this, &LoggingWindowUI::showFile);
+}
+
+void LoggingWindowUI::addAction(const char* id, const QKeySequence& key,
+                                void (LoggingWindowUI::*does)()) {
+  auto* action = new QAction(LocalizedString(id), fTable);
+  action->setShortcut(key);
+  connect(action, &QAction::triggered, this, does);
+  fTable->addAction(action);
 }
 
 int LoggingWindowUI::widthForColumn(LoggingColumn column) const {
@@ -171,14 +200,20 @@ void LoggingWindowUI::setColumnWidths() {
   }
 }
 
+QString LoggingWindowUI::fileName() const {
+  char name[256] = "";
+  GetPIDPropertyValue(mStateInfo.pid, "meta_name", name, sizeof name, nullptr);
+  return LogFileName(name, mStateInfo.pid, TheMachine().clock.CalendarNow());
+}
+
 void LoggingWindowUI::openLogFile(LogFiles& logFiles) {
-  auto creation = logFiles.Create("Lkw_log_" + std::to_string(mStateInfo.pid) + "_");
-  if (creation.file == nullptr) {
-    fHasSaidFileFailed = true;
-    return say(LocalizedString("logging_note_not_created").arg(PlainText(creation.problem)));
-  }
-  mStateInfo.logFileName = creation.file->Path();
+  auto creation = logFiles.Create(fileName().toStdString());
+  fHasSaidFileFailed = creation.file == nullptr;
   mStateInfo.logFile = std::move(creation.file);
+  if (mStateInfo.logFile == nullptr)
+    return say(LocalizedString("logging_note_not_created").arg(PlainText(creation.problem)));
+  mStateInfo.logFileName = mStateInfo.logFile->Path();
+  appendToFile(LogHeader(mStateInfo));
 }
 
 void LoggingWindowUI::setTitle() {
@@ -190,6 +225,10 @@ void LoggingWindowUI::setTitle() {
     title += QLatin1Char(' ') +
              LocalizedString("logging_title_file").arg(PlainText(mStateInfo.logFileName));
   fWindow->setWindowTitle(title);
+  const bool hasFile = mStateInfo.logFile != nullptr;
+  fShowFile->setEnabled(hasFile);
+  fShowFile->setToolTip(hasFile ? PlainText(mStateInfo.logFileName)
+                                : LocalizedString("logging_show_file_none"));
 }
 
 void LoggingWindowUI::placeWindow(const WindowRect* windowSize) {
@@ -210,10 +249,11 @@ WindowRect LoggingWindowUI::frame() const {
   return {place.x(), place.y(), place.x() + fWindow->width(), place.y() + fWindow->height()};
 }
 
-bool LoggingWindowUI::IsOpen(const Uuid& uuid, std::int32_t pid) {
-  return std::ranges::any_of(sOpenWindows, [&](const auto* log) {
-    return log->logs(pid) && log->mPIC != nullptr && log->mPIC->Identifier() == uuid;
+LoggingWindowUI* LoggingWindowUI::Find(const Uuid& uuid) {
+  const auto found = std::ranges::find_if(sOpenWindows, [&](const auto* log) {
+    return log->mPIC != nullptr && log->mPIC->Identifier() == uuid;
   });
+  return found != sOpenWindows.end() ? *found : nullptr;
 }
 
 void LoggingWindowUI::RememberPlaces() {
@@ -283,11 +323,22 @@ void LoggingWindowUI::scrollBarWasMoved(int value) {
 
 void LoggingWindowUI::say(const QString& text) {
   if (fNote == nullptr) return;
-  fNote->setText(fNote->text().isEmpty() ? text : fNote->text() + QLatin1Char('\n') + text);
+  auto lines = fNote->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  lines.removeAll(text);
+  lines.append(text);
+  fNote->setText(
+      lines.mid(std::max(qsizetype{0}, lines.size() - kMostNotes)).join(QLatin1Char('\n')));
   fNote->show();
 }
 
 // ---- The end ------------------------------------------------------------------------------------
+
+void LoggingWindowUI::ProcessHasEnded(std::int32_t pid) {
+  for (auto* log : sOpenWindows)
+    if (log->logs(pid) && log->mPIC != nullptr &&
+        log->mStateInfo.startStamp != GetPidsStartStamp(pid))
+      log->processHasEnded();
+}
 
 void LoggingWindowUI::processHasEnded() {
   const PreferenceBatch batch;
@@ -303,6 +354,29 @@ void LoggingWindowUI::processHasEnded() {
     widths.push_back({fColumns[column], fTable->columnWidth(static_cast<int>(column))});
   SaveLoggingSettings(index, mStateInfo, mStateInfo.logToFile,
                       static_cast<std::int32_t>(mStateInfo.millisecondsInterval), widths);
+}
+
+void LoggingWindowUI::follow(LogFiles& logFiles, std::int32_t pid) {
+  const auto before = std::exchange(mStateInfo.pid, pid);
+  mStateInfo.startStamp = GetPidsStartStamp(pid);
+  mStateInfo.pidWentAway = false;
+  mStateInfo.lastInfoSample = {};
+  // A client that is new hears nothing of what happened to the pid before it came.
+  const auto uuid = mPIC->Identifier();
+  const auto interval = static_cast<std::int32_t>(mStateInfo.millisecondsInterval);
+  delete std::exchange(mPIC, new LoggingWindowInformationClient2(&uuid, interval, *this));
+  AddProcessInformationClient(mPIC);
+  RememberProcess(kLoggingWindowKind, uuid, pid);
+  fNote->clear();
+  say(LocalizedString("logging_note_follows").arg(before).arg(pid));
+  LoggedRow mark;
+  if (!fColumns.empty())
+    mark.cells[fColumns.front()] = LocalizedString("logging_row_of").arg(pid).toStdString();
+  mark.line = "# pid " + std::to_string(pid);
+  appendRow(std::move(mark));
+  mStateInfo.logFile.reset();
+  if (mStateInfo.logToFile) openLogFile(logFiles);
+  setTitle();
 }
 
 void LoggingWindowUI::windowWillClose() {
@@ -377,9 +451,43 @@ QString LoggingWindowUI::selectionAsText() const {
   return text;
 }
 
-void LoggingWindowUI::copySelection() const {
+void LoggingWindowUI::copySelection() {
   const auto text = selectionAsText();
   if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+}
+
+void LoggingWindowUI::selectAll() {
+  fTable->selectAll();
+}
+
+// ---- The log elsewhere --------------------------------------------------------------------------
+
+void LoggingWindowUI::saveAs() {
+  auto* dialog = new QFileDialog(fWindow, LocalizedString("logging_save_title"), QDir::homePath(),
+                                 LocalizedString("logging_save_filter"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setDefaultSuffix(QStringLiteral("tsv"));
+  dialog->selectFile(fileName() + QStringLiteral(".tsv"));
+  connect(dialog, &QFileDialog::fileSelected, this, &LoggingWindowUI::saveTo);
+  dialog->open();
+}
+
+void LoggingWindowUI::saveTo(const QString& target) {
+  // A file has more than the table, unless lines are missing in it.
+  const bool hasAll = mStateInfo.logFile != nullptr && !fHasSaidFileFailed;
+  const auto problem = hasAll ? SaveLogFile(mStateInfo.logFileName, target)
+                              : SaveLogRows(LogHeader(mStateInfo), mStateInfo.logTableData, target);
+  say(problem.isEmpty()
+          ? LocalizedString("logging_note_saved").arg(QDir::toNativeSeparators(target))
+          : LocalizedString("logging_note_not_saved").arg(problem));
+}
+
+void LoggingWindowUI::showFile() {
+  if (mStateInfo.logFile == nullptr) return;
+  const auto file = QFile::decodeName(mStateInfo.logFileName.c_str());
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(file).path())))
+    say(LocalizedString("logging_note_not_shown").arg(PlainText(mStateInfo.logFileName)));
 }
 
 }  // namespace lurkwell

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPoint>
+#include <QPushButton>
 #include <QScrollBar>
 #include <deque>
 #include <memory>
@@ -22,6 +23,8 @@ class LoggingWindowInformationClient2;
 /// What a logging window knows about itself.
 struct stateInfoStruct : LoggingSwitches {
   std::int32_t pid = -1;
+  /// Tells the process from others that get its pid.
+  std::uint64_t startStamp = 0;
   bool pidWentAway = false;
   /// The window's element in the remembered ones, or -1.
   std::int32_t prefsIndex = -1;
@@ -56,8 +59,11 @@ class LoggingWindowUI final : public vqTableController {
                                                           std::int32_t somePrefIndex);
   /// How many there are.
   static int CountOpenWindows() { return static_cast<int>(sOpenWindows.size()); }
-  /// Whether one of them logs that process, which has not ended, under that identifier.
-  static bool IsOpen(const Uuid& uuid, std::int32_t pid);
+  /// The window of that identifier; null when there is none.
+  static LoggingWindowUI* Find(const Uuid& uuid);
+  static const std::set<LoggingWindowUI*>& OpenWindows() { return sOpenWindows; }
+  /// Tells those that follow a process of that pid, unless it is still there, that it has ended.
+  static void ProcessHasEnded(std::int32_t pid);
   /// Has all of them write their places into their records, as far as they were moved.
   static void RememberPlaces();
 
@@ -73,8 +79,19 @@ class LoggingWindowUI final : public vqTableController {
   void processesHaveBeenUpdated(const LoggingFigures& figures);
   /// The window stays, and its layout is remembered for the next process of that name.
   void processHasEnded();
+  /// Goes on with another process of that name; the one before has ended. A file is begun anew.
+  void follow(LogFiles& logFiles, std::int32_t pid);
   /// Closes the window, unless that is what the client ends by.
   void clientIsGone(const LoggingWindowInformationClient2& client);
+
+  // ---- The log elsewhere ------------------------------------------------------------------------
+
+  /// Asks for a file and writes everything to it; what fails is said below the table.
+  void saveAs();
+  /// Writes it without asking.
+  void saveTo(const QString& target);
+  /// Opens the folder of the log's own file, if there is one.
+  void showFile();
 
   // ---- The window's life ------------------------------------------------------------------------
 
@@ -91,6 +108,8 @@ class LoggingWindowUI final : public vqTableController {
   QString selectionAsText() const;
   /// What the window says below its table; empty when there is nothing to say.
   QString note() const { return fNote != nullptr ? fNote->text() : QString(); }
+  /// Where the window is.
+  WindowRect frame() const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -115,13 +134,16 @@ class LoggingWindowUI final : public vqTableController {
   void openLogFile(LogFiles& logFiles);
   void setTitle();
   void placeWindow(const WindowRect* windowSize);
-  WindowRect frame() const;
+  void addAction(const char* id, const QKeySequence& key, void (LoggingWindowUI::*does)());
+  void selectAll();
+  /// What the window's files are called, as far as it is not said by where they are.
+  QString fileName() const;
   void rememberAsNew(const Uuid& uuid) const;
   void appendToFile(const std::string& line);
   void appendRow(LoggedRow row);
   void scrollBarWasMoved(int value);
   void say(const QString& text);
-  void copySelection() const;
+  void copySelection();
 
   static std::set<LoggingWindowUI*> sOpenWindows;
 
@@ -131,6 +153,9 @@ class LoggingWindowUI final : public vqTableController {
   /// Those that are shown, in their order.
   std::vector<LoggingColumn> fColumns;
   QPointer<QLabel> fNote;
+  QPointer<QLabel> fIdentity;
+  QPointer<QPushButton> fShowFile;
+  QPointer<QPushButton> fSave;
   QScrollBar* mScrollView = nullptr;
   /// The newest row is in sight, and is to stay so.
   bool fFollowsNewest = true;

@@ -25,13 +25,13 @@ class MonitorWindowKinds {
                                    const WindowRect* rect, std::int32_t prefsIndex) = 0;
   /// How many there are of both kinds at present.
   virtual int CountOpenWindows() const = 0;
-  /// Whether the process, which has not ended as far as the window knows, has its window of that
-  /// identifier.
-  virtual bool IsCPUHistoryWindowOpen(const Uuid& uuid, std::int32_t pid) const = 0;
-  virtual bool IsLoggingWindowOpen(const Uuid& uuid, std::int32_t pid) const = 0;
-  /// Writes the places of windows that were moved. Their processes may have ended unheard: windows
-  /// hear of it at their own intervals, and a program may be back before that.
-  virtual void RememberPlaces() = 0;
+  /// Whether the window of that identifier is open for a process that has not ended. A log whose
+  /// process has ended stays on the screen, and goes on with the next one when it is created again.
+  virtual bool IsCPUHistoryWindowOpen(const Uuid& uuid) const = 0;
+  virtual bool IsLoggingWindowOpen(const Uuid& uuid) const = 0;
+  /// Tells the windows of a process that it has ended: they hear of it at their own intervals only,
+  /// and its program, or its pid, may be back before that.
+  virtual void ProcessHasEnded(std::int32_t pid) = 0;
 };
 
 /// Shows the windows that are there from the start.

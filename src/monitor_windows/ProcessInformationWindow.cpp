@@ -8,6 +8,7 @@
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
+#include "platform/Screen.h"
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
@@ -136,8 +137,7 @@ void ProcessInformationWindow::CreateWindow(const WindowRect* bounds, const QStr
 void ProcessInformationWindow::TakeOver(FloatingWindow* window) {
   mWindow = window;
   // Before the window is seen for the first time.
-  window->setWindowOpacity(
-      GetPrefDouble("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA", nullptr, true, 1.0));
+  ApplyOpacity();
   window->SetEventHandler(
       [this](WindowEventKind kind) { ProcessInformationWindowHandler(kind, this, nullptr); });
   Point size;
@@ -149,7 +149,20 @@ void ProcessInformationWindow::TakeOver(FloatingWindow* window) {
   UglyHookCalledImmediatelyBeforeOverlayWindowIsCreated(window->ContentWidget());
 }
 
+void ProcessInformationWindow::ApplyOpacity() {
+  if (mWindow != nullptr)
+    mWindow->setWindowOpacity(
+        GetPrefDouble("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA", nullptr, true, 1.0));
+}
+
+double ProcessInformationWindow::AlphaWithin(double alpha) const {
+  if (mWindow == nullptr || !TheMachine().screen.BlendsWindows()) return alpha;
+  const double opacity = mWindow->windowOpacity();
+  return opacity > alpha ? alpha / opacity : 1.0;
+}
+
 void ProcessInformationWindow::DisposeWindow() {
+  mWindow->SetMenu({});
   mWindow->SetEventHandler({});
   mWindow->SetPainter({});
   mWindow->hide();

@@ -90,6 +90,12 @@ class ProcessInformationWindow {
   static std::shared_ptr<RunLoopTimer> CreateBringToFrontTimerFuncIfNecessary();
   static void BringToFrontTimerFunc();
 
+  /// Gives the window the user's opacity, as far as the desktop has translucent windows.
+  void ApplyOpacity();
+  /// The opacity that a label needs within the window to be seen with `alpha`, from 0 to 1; no more
+  /// than that of the window itself can be had.
+  double AlphaWithin(double alpha) const;
+
  private:
   void TakeOver(FloatingWindow* window);
 

@@ -1,10 +1,14 @@
 #include "monitor_windows/ProcessWatchdog.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "consolidator/PI_Consolidator.h"
+#include "consolidator/ProcessQueries.h"
 #include "platform/Assertion.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/PreferencesRetrieval.h"
@@ -53,26 +57,39 @@ void ProcessWatchdog::Remember(int pid) {
 void ProcessWatchdog::NotifyProcessesHaveBeenUpdated() {
   if (mNewPids.Empty()) return;
   const PreferenceBatch batch;
-  mKinds.RememberPlaces();
   mHistories.Refresh();
   mLogs.Refresh();
-  while (!mNewPids.Empty()) OpenWindowsOf(mNewPids.Pop());
+  std::vector<std::pair<std::uint64_t, int>> processes;
+  while (!mNewPids.Empty()) {
+    const int pid = mNewPids.Pop();
+    processes.emplace_back(GetPidsStartStamp(pid), pid);
+  }
+  // Of a program's processes the first is the one that has started the others.
+  std::ranges::sort(processes);
+  for (const auto& [start, pid] : processes)
+    if (mHistories.IsAnyOf(pid) || mLogs.IsAnyOf(pid)) OpenWindowsOf(pid, Claim::kFollowedLast);
+  for (const auto& [start, pid] : processes) OpenWindowsOf(pid, Claim::kAny);
 }
 
-void ProcessWatchdog::OpenWindowsOf(int pid) {
+bool ProcessWatchdog::IsDue(const char* arrayName, std::int32_t nextIndex, int pid, Claim claim,
+                            bool isOpen) const {
+  return !isOpen && (claim == Claim::kAny || IsRememberedProcess(arrayName, nextIndex - 1, pid));
+}
+
+void ProcessWatchdog::OpenWindowsOf(int pid, Claim claim) {
   WindowRect rect;
   Uuid uuid;
   std::int32_t index = 0;
   while (CheckClientKindForNewPid(kCPUHistoryWindowKind, pid, &index, &rect, &uuid)) {
-    // A process that changes its name and changes it back has kept its windows.
-    if (mKinds.IsCPUHistoryWindowOpen(uuid, pid)) continue;
+    if (!IsDue(kCPUHistoryWindowKind, index, pid, claim, mKinds.IsCPUHistoryWindowOpen(uuid)))
+      continue;
     if (!MayOpen()) break;
     const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
     mKinds.CreateCPUHistoryWindow(interval, pid, &uuid, &rect);
   }
   index = 0;
   while (CheckClientKindForNewPid(kLoggingWindowKind, pid, &index, &rect, &uuid)) {
-    if (mKinds.IsLoggingWindowOpen(uuid, pid)) continue;
+    if (!IsDue(kLoggingWindowKind, index, pid, claim, mKinds.IsLoggingWindowOpen(uuid))) continue;
     if (!MayOpen()) break;
     const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
     mKinds.CreateLoggingWindow(interval, pid, &uuid, &rect, index - 1);

@@ -9,15 +9,16 @@
 
 namespace lurkwell {
 
-/// Opens the remembered windows of every program that starts. Main thread only; deleted, like every
-/// client, at shutdown.
+/// Opens remembered windows for the programs that start, each for one process at a time: the one it
+/// followed last, else the one that has run longest of those that are new at once. Main thread
+/// only; deleted, like every client, at shutdown.
 class ProcessWatchdog final : public ProcessInformationClient {
  public:
   /// `interval` in milliseconds; `kinds` outlives this.
   ProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kinds);
 
   void NotifyPidHasBeenAdded(int pid) override { Remember(pid); }
-  void NotifyPidHasBeenRemoved(int) override {}
+  void NotifyPidHasBeenRemoved(int pid) override { mKinds.ProcessHasEnded(pid); }
   void NotifyPidHasChangedAppreciably(int pid) override { Remember(pid); }
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
@@ -31,7 +32,12 @@ class ProcessWatchdog final : public ProcessInformationClient {
 
  private:
   void Remember(int pid);
-  void OpenWindowsOf(int pid);
+  /// Who gets a window: first those that have had it already.
+  enum class Claim { kFollowedLast, kAny };
+  void OpenWindowsOf(int pid, Claim claim);
+  /// Whether a record's window, of the array before `nextIndex`, is to be opened now.
+  bool IsDue(const char* arrayName, std::int32_t nextIndex, int pid, Claim claim,
+             bool isOpen) const;
   bool MayOpen();
 
   MonitorWindowKinds& mKinds;

@@ -32,10 +32,13 @@ std::string RememberedPrograms::ProgramAt(std::int32_t index) const {
 
 void RememberedPrograms::Refresh() {
   mIndices.clear();
+  mPids.clear();
   mCount = GetPrefArrayCount(mArrayName);
   for (std::int32_t index = 0; index < mCount; ++index)
-    if (auto program = ProgramAt(index); !program.empty())
+    if (auto program = ProgramAt(index); !program.empty()) {
       mIndices[std::move(program)].push_back(index);
+      mPids.insert(ReadRememberedInt(mArrayName, index, kRememberedPidKey, -1));
+    }
 }
 
 std::int32_t RememberedPrograms::Known(const std::string& program, std::int32_t startIndex) const {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace lurkwell {
@@ -17,6 +18,9 @@ class RememberedPrograms {
   /// Reads the records anew.
   void Refresh();
 
+  /// Whether a record's window followed a process of that pid last, as of the last Refresh.
+  bool IsAnyOf(std::int32_t pid) const { return mPids.contains(pid); }
+
   /// The first record at or after `startIndex` whose name and kind are these to the byte, -1 for
   /// none. As of the last Refresh, but never one that has become another.
   std::int32_t Find(const char* name, const char* kind, std::int32_t startIndex);
@@ -27,6 +31,7 @@ class RememberedPrograms {
 
   const char* mArrayName;
   std::int32_t mCount = -1;
+  std::unordered_set<std::int32_t> mPids;
   /// Indices in ascending order, by name and kind.
   std::unordered_map<std::string, std::vector<std::int32_t>> mIndices;
 };

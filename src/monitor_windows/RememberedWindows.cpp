@@ -1,7 +1,9 @@
 #include "monitor_windows/RememberedWindows.h"
 
+#include <string>
 #include <string_view>
 
+#include "consolidator/ProcessQueries.h"
 #include "platform/Assertion.h"
 #include "preferences/PreferenceBatch.h"
 
@@ -10,6 +12,7 @@ namespace {
 
 constexpr char kWatchdogUnit[] = "ProcessWatchdog";
 constexpr char kUuidKey[] = "WINDOW_UUID";
+constexpr char kStartKey[] = "PROCESS_START";
 
 struct RectField {
   const char* key;
@@ -19,6 +22,11 @@ constexpr RectField kRectFields[] = {{"WINDOW_RECT_LEFT", &WindowRect::left},
                                      {"WINDOW_RECT_TOP", &WindowRect::top},
                                      {"WINDOW_RECT_RIGHT", &WindowRect::right},
                                      {"WINDOW_RECT_BOTTOM", &WindowRect::bottom}};
+
+/// In ticks since the machine was started; other processes of that pid have others.
+std::string StartOf(std::int32_t pid) {
+  return std::to_string(GetPidsStartStamp(pid));
+}
 
 bool HasUuid(const char* arrayName, std::int32_t index, std::string_view uuid) {
   char text[kRememberedTextSize];
@@ -53,6 +61,21 @@ std::int32_t SetPersistentClientInfo(const char* clientKind, const char* process
     for (const auto& field : kRectFields) changes.SetInt(field.key, rect->*field.value);
   changes.SetText(kUuidKey, text.c_str());
   return index;
+}
+
+void RememberProcess(const char* arrayName, const Uuid& uuid, std::int32_t pid) {
+  const auto index = GetAppropriateIndexForUUID(arrayName, &uuid);
+  if (index >= GetPrefArrayCount(arrayName)) return;
+  const auto start = StartOf(pid);
+  RememberedChanges changes(arrayName, index);
+  changes.SetInt(kRememberedPidKey, pid);
+  changes.SetText(kStartKey, start.c_str());
+}
+
+bool IsRememberedProcess(const char* arrayName, std::int32_t index, std::int32_t pid) {
+  char start[kRememberedTextSize];
+  ReadRememberedText(arrayName, index, kStartKey, start);
+  return ReadRememberedInt(arrayName, index, kRememberedPidKey, -1) == pid && start == StartOf(pid);
 }
 
 void RemovePersistentClientInfo(const char* arrayName, const Uuid* uuid) {

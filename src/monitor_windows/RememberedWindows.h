@@ -15,6 +15,9 @@ namespace lurkwell {
 inline constexpr char kCPUHistoryWindowKind[] = "CPU_HISTORY_WINDOW";
 inline constexpr char kLoggingWindowKind[] = "LOGGING_WINDOW";
 
+/// The field of the pid that a window followed last.
+inline constexpr char kRememberedPidKey[] = "PROCESS_PID";
+
 /// The size of texts in a record, their end included.
 inline constexpr std::int32_t kRememberedTextSize = 64;
 
@@ -36,6 +39,12 @@ std::int32_t GetAppropriateIndexForUUID(const char* arrayName, const Uuid* uuid)
 std::int32_t SetPersistentClientInfo(const char* clientKind, const char* processName,
                                      const char* processKind, const WindowRect* rect,
                                      const Uuid* uuid);
+
+/// Notes which process the window follows, if the window is remembered: the same one is its first
+/// choice when this program is started again.
+void RememberProcess(const char* arrayName, const Uuid& uuid, std::int32_t pid);
+/// Whether the element's window followed this very process last.
+bool IsRememberedProcess(const char* arrayName, std::int32_t index, std::int32_t pid);
 
 /// Forgets that window, in every element that there is of it.
 void RemovePersistentClientInfo(const char* arrayName, const Uuid* uuid);

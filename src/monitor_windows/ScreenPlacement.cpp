@@ -11,6 +11,9 @@ namespace lurkwell {
 namespace {
 
 constexpr int kCascadeStep = 24;
+/// Between windows that are moved apart, with room for the narrow title bars of histories.
+constexpr int kGap = 20;
+constexpr int kLargestSide = 10'000;
 
 int SpanWithin(std::int64_t span, int smallest, int largest) {
   return static_cast<int>(
@@ -47,6 +50,45 @@ QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
   const int top =
       std::clamp(remembered.top, free.top(), std::max(free.top(), free.bottom() + 1 - height));
   return {left, top, width, height};
+}
+
+WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others) {
+  const std::int64_t width = std::int64_t{wanted.right} - wanted.left;
+  const std::int64_t height = std::int64_t{wanted.bottom} - wanted.top;
+  // Records may hold any number; those that make no window are made to fit elsewhere.
+  if (width <= 0 || height <= 0 || width > kLargestSide || height > kLargestSide) return wanted;
+  const QRect frame(wanted.left, wanted.top, static_cast<int>(width), static_cast<int>(height));
+  const auto area = [](const QRect& rect) {
+    return rect.isEmpty() ? 0 : std::int64_t{rect.width()} * rect.height();
+  };
+  const bool isApart = std::ranges::none_of(others, [&](const QRect& other) {
+    return area(frame & other) * 2 > std::min(area(frame), area(other));
+  });
+  const auto* screen = QGuiApplication::screenAt(frame.center());
+  if (isApart || screen == nullptr) return wanted;
+  const QRect free = screen->availableGeometry();
+  QRect best;
+  const auto distance = [&](const QRect& place) {
+    return (place.topLeft() - frame.topLeft()).manhattanLength();
+  };
+  const auto consider = [&](int left, int top) {
+    const QRect place(left, top, frame.width(), frame.height());
+    if (!free.contains(place) || (!best.isNull() && distance(best) <= distance(place))) return;
+    if (std::ranges::none_of(others, [&](const QRect& other) { return place.intersects(other); }))
+      best = place;
+  };
+  for (const auto& other : others) {
+    for (const int top : {frame.top(), other.top()}) {
+      consider(other.right() + 1 + kGap, top);
+      consider(other.left() - kGap - frame.width(), top);
+    }
+    for (const int left : {frame.left(), other.left()}) {
+      consider(left, other.bottom() + 1 + kGap);
+      consider(left, other.top() - kGap - frame.height());
+    }
+  }
+  if (best.isNull()) best = frame.translated(kCascadeStep, kCascadeStep);
+  return {best.left(), best.top(), best.left() + best.width(), best.top() + best.height()};
 }
 
 QPoint CascadeTopLeftFromPoint(QPoint& point, QSize size) {

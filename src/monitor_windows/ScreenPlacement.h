@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QSize>
+#include <vector>
 
 #include "monitor_windows/RememberedWindows.h"
 
@@ -21,6 +22,11 @@ QRect AreaWithRoom(const QRect& free, const QRect& screen, QSize size);
 /// screen, and moved as little as needed to lie on one. It stays as it is when it
 /// does; without any screen it keeps its corner at least.
 QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest);
+
+/// The same place, if at most half of the window, or of each of the others, would be covered there;
+/// else the nearest one beside others that covers none of them, on the same screen, if there is
+/// one.
+WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others);
 
 /// Where a new window of that size goes when `point` is next in the cascade; `point` moves on. The
 /// cascade begins at a null point, and again at the end of the screen.

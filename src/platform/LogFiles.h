@@ -19,7 +19,7 @@ class LogFile {
   virtual std::string Append(std::string_view line) = 0;
 };
 
-/// Makes log files in the temporary folder. Main thread.
+/// Makes log files in a folder of the user's own data. Main thread.
 class LogFiles {
  public:
   virtual ~LogFiles() = default;
@@ -31,9 +31,10 @@ class LogFiles {
     std::string problem;
   };
 
-  /// A new, empty file whose name is `prefix` and something random. Never one that is there,
-  /// through a link or otherwise; nobody but the user may read it.
-  virtual Creation Create(std::string_view prefix) = 0;
+  /// A new, empty file called `name` and ".tsv", with a number in between when there is one of that
+  /// name. Never one that is there, through a link or otherwise; nobody but the user may read it.
+  /// `name` has no slash.
+  virtual Creation Create(std::string_view name) = 0;
 };
 
 }  // namespace lurkwell

@@ -34,34 +34,36 @@ class Following(FollowedProgram):
                       tell=lambda: f"{placed} {self.windows()}")
         self.assertEqual(self.active_window(), "another")
         other_program.kill()
+        # A record has one window at a time, however many instances there are.
         other = self.start_victim()
-        self.wait_for(lambda: self.places(other.pid) == placed)
+        time.sleep(2)
+        self.assertEqual(self.places(other.pid), {})
 
         self.end_program(program)
         self.check_nothing_is_left()
         program = self.start_program()
-        self.wait_for(lambda: self.places(again.pid) == placed == self.places(other.pid))
+        self.wait_for(lambda: self.places(again.pid) == placed)
+        self.end_victim(again)
+        time.sleep(2)
+        self.assertEqual(self.places(other.pid), {}, "it did not start just now")
+        third = self.start_victim()
+        self.wait_for(lambda: self.places(third.pid) == placed,
+                      tell=lambda: f"{placed} {self.windows()}")
 
-        # So far the two instances' windows lie upon each other.
-        self.move(f"^{other.pid}$", 300, 620)
-        self.wait_for(lambda: self.places(other.pid).get("history") == (300, 620))
-
-        # What its user closes stays closed. Both instances share a record of each kind, so the
-        # first to be closed forgets it.
-        for one in (again, other):
-            self.click_history(one.pid, 6, 6)
-            self.wait_for(lambda: "history" not in self.places(one.pid))
-            title = f"Logging lkwvictim pid:{one.pid}"
-            self.output("xdotool", "search", "--name", f"^{title}$", "windowactivate")
-            self.wait_for(lambda: self.active_window() == title, tell=self.active_window)
-            self.output("xdotool", "key", "ctrl+w")
-            self.wait_for(lambda: not self.places(one.pid), tell=self.active_window)
+        # What its user closes stays closed.
+        self.click_history(third.pid, 6, 6)
+        self.wait_for(lambda: "history" not in self.places(third.pid))
+        title = f"Logging lkwvictim pid:{third.pid}"
+        self.output("xdotool", "search", "--name", f"^{title}$", "windowactivate")
+        self.wait_for(lambda: self.active_window() == title, tell=self.active_window)
+        self.output("xdotool", "key", "ctrl+w")
+        self.wait_for(lambda: not self.places(third.pid), tell=self.active_window)
         self.assertEqual(self.preferences()["CPU_HISTORY_WINDOW"], [])
         self.assertEqual(self.preferences()["LOGGING_WINDOW"], [])
         self.end_program(program)
         program = self.start_program()
         time.sleep(2)
-        self.assertEqual([self.places(again.pid), self.places(other.pid)], [{}, {}])
+        self.assertEqual([self.places(other.pid), self.places(third.pid)], [{}, {}])
         self.end_program(program)
 
     def click_history(self, pid, x, y):
@@ -114,10 +116,11 @@ class Following(FollowedProgram):
         settings = {"LOG_WINDOW_LOG_TO_FILE": 1, "DEFAULT_LOGGING_WINDOW_INTERVAL": 100}
         for fault in ("full", "removed", "no folder"):
             self.write_preferences(settings)
-            logs = pathlib.Path(self.home, "logs " + fault)
-            self.environment["TMPDIR"] = str(logs)
-            if fault != "no folder":
-                logs.mkdir()
+            data = pathlib.Path(self.home, "data " + fault)
+            self.environment["XDG_DATA_HOME"] = str(data)
+            logs = data / "lurkwell" / "logs"
+            if fault == "no folder":
+                data.write_text("a file")
             program = self.start_program()
             self.open_both(busy.pid)
             if fault != "no folder":

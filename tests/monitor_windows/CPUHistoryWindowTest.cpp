@@ -177,7 +177,7 @@ TEST_F(CPUHistoryWindowTest, TheEndOfTheProcessKeepsTheRecordAndClosingForgetsIt
   CreateCPUHistoryWindow(250, 300, nullptr, nullptr);
   CreateCPUHistoryWindow(250, 301, nullptr, nullptr);
   Turn(500);
-  ASSERT_EQ(CountOpenCPUHistoryWindows(), 2);
+  ASSERT_EQ(ListCPUHistoryWindows().size(), 2U);
   ASSERT_EQ(GetPrefArrayCount(kind), 2);
   char name[64];
   GetPrefArrayString(kind, 1, "PROCESS_NAME", name, sizeof name, false, nullptr);
@@ -188,13 +188,13 @@ TEST_F(CPUHistoryWindowTest, TheEndOfTheProcessKeepsTheRecordAndClosingForgetsIt
     if (widget->windowTitle() == QLatin1String("300")) widget->move(widget->pos() + QPoint(5, 7));
   machine.processTable.Death(300);
   Turn(1000);
-  EXPECT_EQ(CountOpenCPUHistoryWindows(), 1);
+  EXPECT_EQ(ListCPUHistoryWindows().size(), 1U);
   EXPECT_EQ(GetPrefArrayInt(kind, 0, "WINDOW_RECT_LEFT", false, 0), 105);
   EXPECT_EQ(GetPrefArrayInt(kind, 0, "WINDOW_RECT_BOTTOM", false, 0), 207);
   for (auto* widget : QApplication::topLevelWidgets())
     if (widget->windowTitle() == QLatin1String("301")) widget->close();
   Turn(1000);
-  EXPECT_EQ(CountOpenCPUHistoryWindows(), 0);
+  EXPECT_EQ(ListCPUHistoryWindows().size(), 0U);
   ASSERT_EQ(GetPrefArrayCount(kind), 1);
   GetPrefArrayString(kind, 0, "PROCESS_NAME", name, sizeof name, false, nullptr);
   EXPECT_STREQ(name, "worker");
@@ -210,7 +210,7 @@ TEST_F(CPUHistoryWindowTest, ADamagedRecordStillGivesAWindowOnTheScreen) {
   const WindowRect farAway{900'000, -900'000, 900'200, -899'900};
   CreateCPUHistoryWindow(250, 300, &uuid, &farAway);
   Turn(500);
-  EXPECT_EQ(CountOpenCPUHistoryWindows(), 4);
+  EXPECT_EQ(ListCPUHistoryWindows().size(), 4U);
   int onScreen = 0;
   for (auto* widget : QApplication::topLevelWidgets())
     if (const auto* window = qobject_cast<FloatingWindow*>(widget))

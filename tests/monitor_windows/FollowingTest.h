@@ -104,9 +104,13 @@ class FollowingTest : public ConsolidatorTest, public StartUpWindows {
                     (rect != nullptr ? " at " + RectText(*rect) : ""));
          histories.emplace_back(uuid != nullptr ? *uuid : Uuid{}, pid);
        },
-       [this] { return static_cast<int>(histories.size()); },
-       [this](const Uuid& uuid, std::int32_t pid) {
-         return std::ranges::find(histories, std::pair(uuid, pid)) != histories.end();
+       [this] { return std::vector<MonitorWindows::OpenWindow>(histories.size()); },
+       [this](const Uuid& uuid) {
+         return std::ranges::find(histories, uuid, &std::pair<Uuid, std::int32_t>::first) !=
+                histories.end();
+       },
+       [this](std::int32_t pid) {
+         std::erase_if(histories, [pid](const auto& history) { return history.second == pid; });
        },
        [] {}}};
   std::vector<std::pair<Uuid, std::int32_t>> histories;

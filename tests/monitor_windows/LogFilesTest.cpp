@@ -22,10 +22,10 @@ class LogFilesTest : public testing::Test {
   LogFilesTest() {
     std::string pattern = "/tmp/lurkwell-XXXXXX";
     folder = ::mkdtemp(pattern.data());
-    ::setenv("TMPDIR", folder.c_str(), 1);
+    ::setenv("XDG_DATA_HOME", folder.c_str(), 1);
   }
   ~LogFilesTest() override {
-    ::unsetenv("TMPDIR");
+    ::unsetenv("XDG_DATA_HOME");
     fs::remove_all(folder);
   }
 
@@ -35,16 +35,20 @@ class LogFilesTest : public testing::Test {
     return text.str();
   }
 
+  fs::path Logs() const { return folder / "lurkwell" / "logs"; }
+
   fs::path folder;
   LinuxLogFiles files;
 };
 
 TEST_F(LogFilesTest, AFileIsNewPrivateAndGrowsByLines) {
-  const auto first = files.Create("Lkw_log_12_");
-  const auto second = files.Create("Lkw_log_12_");
+  const auto first = files.Create("prog-12");
+  const auto second = files.Create("prog-12");
   ASSERT_TRUE(first.file != nullptr && second.file != nullptr) << first.problem;
   EXPECT_NE(first.file->Path(), second.file->Path());
-  EXPECT_TRUE(first.file->Path().starts_with((folder / "Lkw_log_12_").string()));
+  EXPECT_EQ(first.file->Path(), (Logs() / "prog-12.tsv").string());
+  EXPECT_EQ(second.file->Path(), (Logs() / "prog-12-2.tsv").string());
+  EXPECT_EQ(fs::status(Logs()).permissions(), fs::perms::owner_all);
   struct stat status {};
   ASSERT_EQ(::stat(first.file->Path().c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777U, 0600U);
@@ -58,32 +62,32 @@ TEST_F(LogFilesTest, AFileIsNewPrivateAndGrowsByLines) {
 TEST_F(LogFilesTest, WhatWaitsUnderAGuessedNameIsNotTouched) {
   const auto victim = folder / "victim";
   std::ofstream(victim) << "mine";
-  fs::create_symlink(victim, folder / "Lkw_log_12_0");
-  fs::create_symlink(folder / "nowhere", folder / "Lkw_log_12_1");
-  ASSERT_EQ(::mkfifo((folder / "Lkw_log_12_2").c_str(), 0600), 0);
-  std::ofstream(folder / "Lkw_log_12_3") << "theirs";
-  int names = 0;
-  LinuxLogFiles guessed([&] { return std::to_string(names++); });
-  const auto creation = guessed.Create("Lkw_log_12_");
+  fs::create_directories(Logs());
+  fs::create_symlink(victim, Logs() / "prog-12.tsv");
+  fs::create_symlink(folder / "nowhere", Logs() / "prog-12-2.tsv");
+  ASSERT_EQ(::mkfifo((Logs() / "prog-12-3.tsv").c_str(), 0600), 0);
+  std::ofstream(Logs() / "prog-12-4.tsv") << "theirs";
+  const auto creation = files.Create("prog-12");
   ASSERT_NE(creation.file, nullptr) << creation.problem;
-  EXPECT_EQ(creation.file->Path(), (folder / "Lkw_log_12_4").string());
+  EXPECT_EQ(creation.file->Path(), (Logs() / "prog-12-5.tsv").string());
   EXPECT_EQ(creation.file->Append("row"), "");
   EXPECT_EQ(Text(victim), "mine");
-  EXPECT_EQ(Text(folder / "Lkw_log_12_3"), "theirs");
+  EXPECT_EQ(Text(Logs() / "prog-12-4.tsv"), "theirs");
   EXPECT_FALSE(fs::exists(folder / "nowhere"));
-  LinuxLogFiles stuck([] { return std::string("0"); });
-  EXPECT_EQ(stuck.Create("Lkw_log_12_").file, nullptr) << "it does not try for ever";
+  for (int number = 5; number <= 100; ++number)
+    std::ofstream(Logs() / ("prog-12-" + std::to_string(number) + ".tsv"));
+  EXPECT_EQ(files.Create("prog-12").file, nullptr) << "it does not try for ever";
 }
 
-TEST_F(LogFilesTest, AFolderThatIsGoneIsAProblemAndNothingElse) {
-  fs::remove_all(folder);
-  const auto creation = files.Create("Lkw_log_12_");
+TEST_F(LogFilesTest, AFolderThatCannotBeMadeIsAProblemAndNothingElse) {
+  std::ofstream(folder / "lurkwell") << "a file";
+  const auto creation = files.Create("prog-12");
   EXPECT_EQ(creation.file, nullptr);
   EXPECT_NE(creation.problem, "");
 }
 
 TEST_F(LogFilesTest, ALineThatDoesNotFitIsTakenBackWhole) {
-  const auto creation = files.Create("Lkw_log_12_");
+  const auto creation = files.Create("prog-12");
   ASSERT_NE(creation.file, nullptr);
   EXPECT_EQ(creation.file->Append("1234567"), "");
   // The kernel writes what fits below a limit on the file's size, as on a disk that fills up.

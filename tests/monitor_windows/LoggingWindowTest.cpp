@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 #include "monitor_windows/FollowingTest.h"
 
@@ -22,8 +23,10 @@ TEST_F(LoggingWindowTest, RowsComeWithChangesAndGoIntoTheFile) {
   auto& process = machine.processTable.Birth(300, "bu\x1b[1msy");
   process.UseCPU(2500);
   auto& log = Log(300);
+  const auto path = log.stateInfo().logFileName;
+  EXPECT_THAT(path, testing::MatchesRegex("/logs/bu_033_1msy-300-2001090[89]-[0-9]{6}\\.tsv"));
   EXPECT_EQ(log.window()->windowTitle().toStdString(),
-            "Logging bu\\033[1msy pid:300 filename: /tmp/Lkw_log_300_1");
+            "Logging bu\\033[1msy pid:300 filename: " + path);
   Turn();
   Turn();
   QSignalSpy inserted(&log, &QAbstractItemModel::rowsInserted);
@@ -38,11 +41,12 @@ TEST_F(LoggingWindowTest, RowsComeWithChangesAndGoIntoTheFile) {
     rows.erase(at, rows.find('|', at) - at);
   EXPECT_EQ(rows,
             "|2.500000|0.000000|  0\n"
-            "|2.750000|0.250000|+ 8 K\n"
+            "|2.750000|+ 0.250000|+ 8 K\n"
             "|2.750000|0.000000|- 6 K\n");
-  EXPECT_EQ(disk.Texts().at("/tmp/Lkw_log_300_1"),
+  EXPECT_EQ(disk.Texts().at(path),
+            "time_s\tcpu_time_s\tcpu_time_change_s\tresident_change_bytes\n"
             "1000000001.200000\t2.500000\t0.000000\t0\n"
-            "1000000003.200000\t2.750000\t0.250000\t8192\n"
+            "1000000003.200000\t2.750000\t+0.250000\t+8192\n"
             "1000000006.200000\t2.750000\t0.000000\t-6192\n");
   Close(log);
   EXPECT_EQ(disk.OpenFiles(), 0);
@@ -69,7 +73,8 @@ TEST_F(LoggingWindowTest, ADiskThatRefusesIsSaidOnceAndSurvived) {
   machine.processTable.Find(301)->UseCPU(100);
   Turn();
   EXPECT_EQ(disk.Texts().at(log.stateInfo().logFileName),
-            "1000000005.200000\t0.400000\t0.100000\n");
+            "time_s\tcpu_time_s\tcpu_time_change_s\n"
+            "1000000005.200000\t0.400000\t+0.100000\n");
   EXPECT_EQ(other.rowCount(), 1);
 }
 
@@ -161,6 +166,27 @@ TEST_F(LoggingWindowTest, SelectedRowsAreCopiedAsText) {
   EXPECT_TRUE(
       QGuiApplication::clipboard()->text().endsWith(QLatin1String("\t1.500000\t0.000000\n")))
       << QGuiApplication::clipboard()->text().toStdString();
+}
+
+TEST_F(LoggingWindowTest, ALogIsSavedWhereItsUserWantsIt) {
+  auto& process = machine.processTable.Birth(300, "busy");
+  process.UseCPU(1500);
+  auto& log = Log(300);
+  Turn();
+  const QTemporaryDir folder;
+  const auto target = folder.filePath(QStringLiteral("log.tsv"));
+  QFile old(target);
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write("what was there");
+  old.close();
+  log.saveTo(target);
+  QFile saved(target);
+  ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+  EXPECT_EQ(saved.readAll().toStdString(),
+            "time_s\tcpu_time_s\tcpu_time_change_s\n1000000001.200000\t1.500000\t0.000000\n");
+  log.saveTo(folder.filePath(QStringLiteral("none/log.tsv")));
+  EXPECT_TRUE(log.note().contains(QLatin1String("The log is not saved: ")))
+      << log.note().toStdString();
 }
 
 TEST_F(LoggingWindowTest, PlacesThatCannotBeAreMadeToFit) {

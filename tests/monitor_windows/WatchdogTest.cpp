@@ -2,6 +2,7 @@
 #include <chrono>
 
 #include "monitor_windows/FollowingTest.h"
+#include "monitor_windows/ScreenPlacement.h"
 
 namespace lurkwell {
 namespace {
@@ -48,37 +49,94 @@ TEST_F(WatchdogTest, WindowsComeBackWithTheirProgram) {
   EXPECT_EQ(again.client()->Interval(), 2500) << "its own";
   EXPECT_EQ(again.table()->columnWidth(0), 211);
   EXPECT_EQ(GetPrefArrayCount(kLoggingWindowKind), 1);
-  machine.processTable.Birth(500, "prog");
+}
+
+TEST_F(WatchdogTest, ARecordHasOneOpenWindowAtATimeHoweverManyInstancesThereAre) {
+  for (int pid = 300; pid < 340; ++pid) machine.processTable.Birth(pid, "shell");
+  Remember(kLoggingWindowKind, "shell", Uuid::Fresh(), {10, 50, 410, 300});
+  Remember(kCPUHistoryWindowKind, "shell", Uuid::Fresh());
+  StartWatchdog();
+  EXPECT_EQ(Logs(), "300 at 10\n") << "the first of those that are new at once";
+  machine.processTable.Birth(400, "shell");
   Turn();
-  EXPECT_EQ(Logs(), "400 at 150\n500 at 150\n") << "one for each instance";
-  for (auto* each : Windows())
-    if (each->stateInfo().pid == 500) each->window()->move(350, 160);
-  machine.processTable.Death(500);
-  machine.processTable.Birth(600, "prog");
-  Turn(500);
-  EXPECT_EQ(Logs(), "400 at 150\n500 at 350\n600 at 350\n") << "it was back before the log knew";
+  EXPECT_EQ(windows.CountOpenWindows(), 2);
+  machine.processTable.Find(300)->UseCPU(1000);
+  Turn();
+  auto& log = *Windows().front();
+  const int rows = log.rowCount();
+  machine.processTable.Death(300);
+  Turn(3000);
+  EXPECT_EQ(Logs(), "300 at 10 ended\n") << "none has started since";
+  machine.processTable.Birth(401, "shell").UseCPU(500);
+  Turn(3000);
+  EXPECT_EQ(Logs(), "401 at 10\n") << "the window goes on with the next one";
+  EXPECT_EQ(log.rowCount(), rows + 2) << "a mark, and what that one does";
+  EXPECT_EQ(log.window()->windowTitle(), QLatin1String("Logging shell pid:401"));
+  EXPECT_EQ(histories.size(), 1U);
+  EXPECT_EQ(histories.front().second, 401);
+}
+
+TEST_F(WatchdogTest, APidThatTheProgramGetsAgainAtOnceIsFollowed) {
+  machine.processTable.Birth(300, "prog").UseCPU(1000);
+  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {10, 50, 410, 300});
+  StartWatchdog();
+  Turn();
+  machine.processTable.Death(300);
+  machine.processTable.Birth(300, "prog").UseCPU(20);
+  Turn(3000);
+  EXPECT_EQ(Logs(), "300 at 10\n");
+  auto& log = *Windows().front();
+  const int rows = log.rowCount();
+  machine.processTable.Find(300)->UseCPU(30);
+  Turn();
+  EXPECT_EQ(log.rowCount(), rows + 1);
+}
+
+TEST_F(WatchdogTest, TheProcessThatWasFollowedLastComesFirst) {
+  const auto uuid = Uuid::Fresh();
+  for (int pid = 300; pid < 310; ++pid) machine.processTable.Birth(pid, "shell");
+  Start();
+  Add("keeper", 100).Needs({"meta_name", "meta_kind"});
+  Turn(200);
+  Remember(kLoggingWindowKind, "shell", uuid, {10, 50, 410, 300});
+  RememberProcess(kLoggingWindowKind, uuid, 305);
+  StartWatchdog();
+  EXPECT_EQ(Logs(), "305 at 10\n");
 }
 
 TEST_F(WatchdogTest, EveryRecordOfAProgramOpensItsWindow) {
   machine.processTable.Birth(300, "prog");
-  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {10, 50, 410, 300});
-  Remember(kLoggingWindowKind, "other", Uuid::Fresh(), {20, 50, 410, 300});
-  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {30, 50, 410, 300}, "Classic");
-  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {40, 50, 410, 300});
+  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {10, 50, 110, 150});
+  Remember(kLoggingWindowKind, "other", Uuid::Fresh(), {220, 50, 320, 150});
+  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {330, 50, 430, 150}, "Classic");
+  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {440, 50, 540, 150});
   StartWatchdog();
-  EXPECT_EQ(Logs(), "300 at 10\n300 at 40\n");
+  EXPECT_EQ(Logs(), "300 at 10\n300 at 440\n");
   machine.processTable.Find(300)->SetName("other");
   Turn(3000);
-  EXPECT_EQ(Logs(), "300 at 10\n300 at 20\n300 at 40\n") << "it has become another program";
-  machine.processTable.Birth(301, "prog");
+  EXPECT_EQ(Logs(), "300 at 10\n300 at 220\n300 at 440\n") << "it has become another program";
   Remember(kCPUHistoryWindowKind, "prog", Uuid::Fresh());
   for (const char* name : {"prog", "other", "prog"}) {
     machine.processTable.Find(300)->SetName(name);
     Turn(3000);
   }
-  EXPECT_EQ(Logs(), "300 at 10\n300 at 20\n300 at 40\n301 at 10\n301 at 40\n")
-      << "each has its windows once";
-  EXPECT_EQ(histories.size(), 2U);
+  EXPECT_EQ(Logs(), "300 at 10\n300 at 220\n300 at 440\n") << "each has its windows once";
+  EXPECT_EQ(histories.size(), 1U);
+}
+
+TEST_F(WatchdogTest, WindowsThatWouldLieOnEachOtherAreMovedApart) {
+  machine.processTable.Birth(300, "prog");
+  for (int record = 0; record < 3; ++record)
+    Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {100, 100, 200, 180});
+  StartWatchdog();
+  std::vector<QRect> frames;
+  for (auto* log : Windows()) frames.push_back(log->window()->geometry());
+  ASSERT_EQ(frames.size(), 3U);
+  for (std::size_t i = 0; i < frames.size(); ++i)
+    for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(frames[i].intersects(frames[j]));
+  EXPECT_EQ(PlaceApart({100, 100, 200, 180}, {{150, 140, 100, 80}}),
+            (WindowRect{100, 100, 200, 180}))
+      << "what covers a part only is the user's wish";
 }
 
 TEST_F(WatchdogTest, StartUpWindowsAreThoseOfThePreferences) {

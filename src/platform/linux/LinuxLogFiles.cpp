@@ -7,22 +7,35 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "platform/Uuid.h"
 #include "platform/linux/FileDescriptor.h"
 
 namespace lurkwell {
 namespace {
 
 constexpr int kMostNames = 100;
-constexpr std::size_t kRandomCharacters = 8;
 
 std::string InWords(int error) {
   return std::generic_category().message(error);
 }
 
-std::string TemporaryFolder() {
-  const char* folder = std::getenv("TMPDIR");
-  return folder != nullptr && *folder == '/' ? folder : "/tmp";
+std::string VariableAsFolder(const char* name) {
+  const char* folder = std::getenv(name);
+  return folder != nullptr && *folder == '/' ? folder : "";
+}
+
+std::string LogFolder() {
+  auto data = VariableAsFolder("XDG_DATA_HOME");
+  if (data.empty()) data = VariableAsFolder("HOME") + "/.local/share";
+  return data + "/lurkwell/logs";
+}
+
+/// Makes the folder and those above it that are missing. 0, or why not.
+int MakeFolder(const std::string& path) {
+  for (auto end = path.find('/', 1);; end = path.find('/', end + 1)) {
+    const auto folder = path.substr(0, end);
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST && errno != EISDIR) return errno;
+    if (end == std::string::npos) return 0;
+  }
 }
 
 class LinuxLogFile final : public LogFile {
@@ -70,24 +83,21 @@ class LinuxLogFile final : public LogFile {
 
 }  // namespace
 
-std::string LinuxLogFiles::RandomText() {
-  return Uuid::Fresh().Text().substr(0, kRandomCharacters);
-}
-
-LogFiles::Creation LinuxLogFiles::Create(std::string_view prefix) {
-  const std::string start = TemporaryFolder() + '/' + std::string(prefix);
-  int error = 0;
-  for (int name = 0; name < kMostNames; ++name) {
-    std::string path = start + mRandomText();
+LogFiles::Creation LinuxLogFiles::Create(std::string_view name) {
+  const auto folder = LogFolder();
+  int error = MakeFolder(folder);
+  for (int number = 1; error == 0 && number <= kMostNames; ++number) {
+    std::string path = folder + '/' + std::string(name);
+    if (number > 1) path += '-' + std::to_string(number);
+    path += ".tsv";
     FileDescriptor file(::open(
         path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NOCTTY,
         S_IRUSR | S_IWUSR));
     if (file.IsOpen())
       return {std::make_unique<LinuxLogFile>(std::move(path), std::move(file)), {}};
-    error = errno;
-    if (error != EEXIST && error != EINTR) break;
+    if (errno != EEXIST && errno != EINTR) error = errno;
   }
-  return {nullptr, InWords(error)};
+  return {nullptr, InWords(error != 0 ? error : EEXIST)};
 }
 
 }  // namespace lurkwell

@@ -1,26 +1,16 @@
 #pragma once
 
-#include <functional>
-#include <string>
-#include <utility>
+#include <string_view>
 
 #include "platform/LogFiles.h"
 
 namespace lurkwell {
 
-/// Log files in $TMPDIR, or in /tmp where that is not an absolute path. Main thread.
+/// Log files in lurkwell/logs below $XDG_DATA_HOME, or below ~/.local/share where that is not an
+/// absolute path. Folders that are missing are made, for the user alone. Main thread.
 class LinuxLogFiles final : public LogFiles {
  public:
-  /// `randomText` gives the ends of names, another one at each call.
-  explicit LinuxLogFiles(std::function<std::string()> randomText = RandomText)
-      : mRandomText(std::move(randomText)) {}
-
-  Creation Create(std::string_view prefix) override;
-
- private:
-  static std::string RandomText();
-
-  std::function<std::string()> mRandomText;
+  Creation Create(std::string_view name) override;
 };
 
 }  // namespace lurkwell

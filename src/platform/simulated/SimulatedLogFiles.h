@@ -11,9 +11,9 @@ namespace lurkwell {
 /// Log files in memory, on a disk that refuses when the test says so. Outlives its files.
 class SimulatedLogFiles final : public LogFiles {
  public:
-  Creation Create(std::string_view prefix) override {
+  Creation Create(std::string_view name) override {
     if (!mProblem.empty()) return {nullptr, mProblem};
-    auto path = "/tmp/" + std::string(prefix) + std::to_string(++mCreated);
+    auto path = "/logs/" + std::string(name) + ".tsv";
     mTexts[path] = "";
     return {std::make_unique<File>(*this, std::move(path)), {}};
   }
@@ -46,7 +46,6 @@ class SimulatedLogFiles final : public LogFiles {
 
   std::map<std::string, std::string> mTexts;
   std::string mProblem;
-  int mCreated = 0;
   int mOpen = 0;
 };
 

@@ -1,0 +1,130 @@
+#include "monitor_windows/RememberedWindowsPanel.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "consolidator/ProcessQueries.h"
+#include "main_window/FrontmostWindow.h"
+#include "main_window/PropertyText.h"
+#include "monitor_windows/RememberedWindows.h"
+#include "preferences/PreferenceBatch.h"
+#include "preferences/PreferencesRetrieval.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+enum Column { kProgram, kWindow, kFollows, kColumns };
+constexpr int kUuidRole = Qt::UserRole;
+constexpr int kArrayRole = Qt::UserRole + 1;
+constexpr int kRefreshMilliseconds = 1000;
+
+const char* const kArrays[] = {kCPUHistoryWindowKind, kLoggingWindowKind};
+
+QString TextAt(const char* array, std::int32_t index, const char* key) {
+  char text[kRememberedTextSize];
+  ReadRememberedText(array, index, key, text);
+  return PlainText(text);
+}
+
+/// Which process the window follows, as the record has it; "" when that one has ended.
+QString FollowedAt(const char* array, std::int32_t index) {
+  const auto pid = ReadRememberedInt(array, index, kRememberedPidKey, -1);
+  const bool runs = pid >= 0 && IsRememberedProcess(array, index, pid);
+  return runs ? LocalizedString("remembered_follows").arg(pid)
+              : LocalizedString("remembered_waits");
+}
+
+}  // namespace
+
+QPointer<RememberedWindowsPanel> RememberedWindowsPanel::sPanel;
+
+void RememberedWindowsPanel::ShowFor(QWidget* parent) {
+  if (sPanel == nullptr) sPanel = new RememberedWindowsPanel(parent);
+  BringToFront(*sPanel);
+}
+
+RememberedWindowsPanel::RememberedWindowsPanel(QWidget* parent)
+    : QDialog(parent), mList(new QTreeWidget(this)) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle(LocalizedString("remembered_title"));
+  mList->setRootIsDecorated(false);
+  mList->setAlternatingRowColors(true);
+  mList->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  mList->setHeaderLabels({LocalizedString("remembered_program"),
+                          LocalizedString("remembered_window"),
+                          LocalizedString("remembered_process")});
+  mList->setAccessibleName(windowTitle());
+  mList->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  auto* explanation = new QLabel(LocalizedString("remembered_explanation"), this);
+  explanation->setWordWrap(true);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  mForget = buttons->addButton(LocalizedString("remembered_forget"), QDialogButtonBox::ActionRole);
+  mForget->setAutoDefault(false);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(explanation);
+  layout->addWidget(mList);
+  layout->addWidget(buttons);
+  resize(fontMetrics().averageCharWidth() * 64, fontMetrics().height() * 20);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
+  connect(mForget, &QPushButton::clicked, this, &RememberedWindowsPanel::ForgetSelected);
+  connect(new QShortcut(QKeySequence::Delete, mList), &QShortcut::activated, this,
+          &RememberedWindowsPanel::ForgetSelected);
+  connect(mList, &QTreeWidget::itemSelectionChanged, this, &RememberedWindowsPanel::Validate);
+  connect(&mTimer, &QTimer::timeout, this, &RememberedWindowsPanel::Fill);
+  mTimer.start(kRefreshMilliseconds);
+  Fill();
+}
+
+void RememberedWindowsPanel::Fill() {
+  // Items stay as long as their records do, and the selection with them.
+  int row = 0;
+  for (const char* array : kArrays) {
+    const auto count = GetPrefArrayCount(array);
+    for (std::int32_t index = 0; index < count; ++index) {
+      char uuid[kRememberedTextSize];
+      ReadRememberedText(array, index, "WINDOW_UUID", uuid);
+      const auto key = QString::fromUtf8(uuid);
+      const auto isRow = [&](const QTreeWidgetItem& item) {
+        return item.data(0, kUuidRole).toString() == key &&
+               item.data(0, kArrayRole).toString() == QLatin1String(array);
+      };
+      // What is not this record at its place has gone.
+      while (row < mList->topLevelItemCount() && !isRow(*mList->topLevelItem(row)))
+        delete mList->takeTopLevelItem(row);
+      if (row == mList->topLevelItemCount()) {
+        auto* item = new QTreeWidgetItem(mList);
+        item->setData(0, kUuidRole, key);
+        item->setData(0, kArrayRole, QLatin1String(array));
+        item->setText(kProgram, TextAt(array, index, "PROCESS_NAME"));
+        item->setText(kWindow, LocalizedString(array == kLoggingWindowKind ? "remembered_log"
+                                                                           : "remembered_history"));
+      }
+      mList->topLevelItem(row++)->setText(kFollows, FollowedAt(array, index));
+    }
+  }
+  while (row < mList->topLevelItemCount()) delete mList->takeTopLevelItem(row);
+  Validate();
+}
+
+void RememberedWindowsPanel::Validate() {
+  mForget->setEnabled(!mList->selectedItems().isEmpty());
+}
+
+void RememberedWindowsPanel::ForgetSelected() {
+  {
+    const PreferenceBatch batch;
+    for (const auto* item : mList->selectedItems()) {
+      const auto uuid = Uuid::FromText(item->data(0, kUuidRole).toString().toStdString());
+      for (const char* array : kArrays)
+        if (uuid && item->data(0, kArrayRole).toString() == QLatin1String(array))
+          RemovePersistentClientInfo(array, &*uuid);
+    }
+  }
+  Fill();
+}
+
+}  // namespace lurkwell
