@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "consolidator/PropertyValues.h"
 #include "main_window/PropertyText.h"
 #include "main_window/vqMainTableController.h"
 
@@ -92,15 +91,13 @@ void vqMainTableController::restoreSelection() {
 }
 
 QString vqMainTableController::nameOf(std::int32_t pid) {
-  char name[256];
-  GetPIDPropertyValue(pid, "meta_name", name, sizeof name, nullptr);
-  return PlainText(name);
+  return PlainText(NameOfProcess(pid));
 }
 
 bool vqMainTableController::selectPid(std::int32_t pid) {
   const auto* row = fRows.Find(pid);
   if (fTable == nullptr || row == nullptr || row->shownIndex < 0) return false;
-  stripedTable()->SelectAlone(row->shownIndex);
+  stripedTable()->SelectFound(row->shownIndex);
   return true;
 }
 
