@@ -89,8 +89,10 @@ void StripedTableView::ScrollToRow(const QModelIndex& place) {
 void StripedTableView::SelectAlone(int row) {
   const auto place = model()->index(row, std::max(currentIndex().column(), 0));
   mFound = QPersistentModelIndex();
+  setAutoScroll(false);
   selectionModel()->setCurrentIndex(
       place, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  setAutoScroll(true);
   ScrollToRow(place);
 }
 

@@ -36,8 +36,8 @@ ActionResult Obstacle(Command command, const ActionTarget& target) {
 }
 
 std::int32_t NiceOf(Command command) {
-  if (command == Command::kHighPriority) return kHighPriority;
-  return command == Command::kLowPriority ? kLowPriority : kNormalPriority;
+  if (command == Command::kHighPriority) return kHighNice;
+  return command == Command::kLowPriority ? kLowNice : kNormalNice;
 }
 
 bool IsLowered(const ActionPlan& plan) {

@@ -30,7 +30,7 @@ struct ActionTarget {
   ProcessIdentity process;
   std::string name;
   /// Of a pid that the kernel does not know: the user's own, without a command line.
-  ProcessDescription description;
+  ProcessDescription description = {};
   /// Of a kill: the next step, and how often the process has been asked before.
   KillStep step = KillStep::kTerminate;
   int timesAsked = 0;
@@ -50,9 +50,9 @@ struct ActionPlan {
   /// Whether the user has to agree first: to each kill and halt, and, where several processes or
   /// somebody else's are meant, also to quitting applications and to a lower priority.
   bool asks = false;
-  std::vector<ActionTarget> targets;
+  std::vector<ActionTarget> targets = {};
   /// Those that nothing can be done to, and why.
-  std::vector<ActionReport> impossible;
+  std::vector<ActionReport> impossible = {};
 };
 
 /// A made-up pid whose guest has gone is left out, and so is one that is halted already from a

@@ -65,7 +65,7 @@ ActionResult ChangePriority(std::int32_t pid, std::int32_t nice) {
   const auto result = ReniceProcessPID(pid, nice);
   if (result != ActionResult::kDone) return result;
   RemoveProcessAction(pid, kProcessActionRenice);
-  if (nice != kNormalPriority) AddProcessAction(pid, kProcessActionRenice, nice);
+  if (nice != kNormalNice) AddProcessAction(pid, kProcessActionRenice, nice);
   return result;
 }
 
@@ -209,15 +209,15 @@ KillOutcome KillProcess(std::int32_t pid) {
 }
 
 ActionResult SetHighPriority(std::int32_t pid) {
-  return ChangePriority(pid, kHighPriority);
+  return ChangePriority(pid, kHighNice);
 }
 
 ActionResult SetNormalPriority(std::int32_t pid) {
-  return ChangePriority(pid, kNormalPriority);
+  return ChangePriority(pid, kNormalNice);
 }
 
 ActionResult SetLowPriority(std::int32_t pid) {
-  return ChangePriority(pid, kLowPriority);
+  return ChangePriority(pid, kLowNice);
 }
 
 ActionResult HaltProcess(std::int32_t pid) {

@@ -115,9 +115,9 @@ struct KillOutcome {
 /// "psn.highLongOfPSN || psn.lowLongOfPSN".
 KillOutcome KillProcess(std::int32_t pid);
 
-inline constexpr std::int32_t kHighPriority = -19;
-inline constexpr std::int32_t kNormalPriority = 0;
-inline constexpr std::int32_t kLowPriority = 20;
+inline constexpr std::int32_t kHighNice = -19;
+inline constexpr std::int32_t kNormalNice = 0;
+inline constexpr std::int32_t kLowNice = 20;
 
 /// Nice -19, 0 or 20. The first and the last leave an entry in the action list, once they are done.
 ActionResult SetHighPriority(std::int32_t pid);
