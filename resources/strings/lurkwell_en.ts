@@ -1727,6 +1727,10 @@
         <source></source>
         <translation>Nothing can be asked to show the file: there is no session bus, or the program has gone.</translation>
     </message>
+    <message id="main_window_preferences">
+        <source></source>
+        <translation>Your preferences: %1.</translation>
+    </message>
     <message id="main_window_by_id_not_found">
         <source></source>
         <translation>There is no process %1.</translation>
@@ -2419,9 +2423,21 @@ Free: %5</translation>
         <source></source>
         <translation>A part of the program is missing: the layout of the preferences window. Install Lurkwell again.</translation>
     </message>
+    <message id="preferences_once_per_second">
+        <source></source>
+        <translation>once per second</translation>
+    </message>
+    <message id="preferences_every_second">
+        <source></source>
+        <translation>every second</translation>
+    </message>
+    <message id="preferences_every_minute">
+        <source></source>
+        <translation>every minute</translation>
+    </message>
     <message id="preferences_times_per_second">
         <source></source>
-        <translation>%1 time(s) per second</translation>
+        <translation>%1 times per second</translation>
     </message>
     <message id="preferences_every_seconds">
         <source></source>
@@ -2429,7 +2445,7 @@ Free: %5</translation>
     </message>
     <message id="preferences_every_minutes">
         <source></source>
-        <translation>every %1 minute(s)</translation>
+        <translation>every %1 minutes</translation>
     </message>
     <message id="preferences_every_hour">
         <source></source>
@@ -2827,9 +2843,13 @@ Free: %5</translation>
         <source></source>
         <translation>What is stored is no number and is read as 0. Enter a number, or reset the setting.</translation>
     </message>
+    <message id="settings_element">
+        <source></source>
+        <translation>1 record</translation>
+    </message>
     <message id="settings_elements">
         <source></source>
-        <translation>%1 record(s)</translation>
+        <translation>%1 records</translation>
     </message>
     <message id="settings_problem_no_number">
         <source></source>

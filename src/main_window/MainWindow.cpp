@@ -17,6 +17,7 @@
 #include "main_window/ToolbarCustomiseDialog.h"
 #include "main_window/WindowFrame.h"
 #include "platform/Machine.h"
+#include "platform/PreferenceDomain.h"
 #include "platform/ProcessManager.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/DaemonCommunication.h"
@@ -61,6 +62,11 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   connect(mController.get(), &vqMainTableController::customisingRequested, this,
           &MainWindow::CustomiseToolbar);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
+  connect(mController.get(), &vqMainTableController::updated, this, [this] {
+    const auto complaint = TheMachine().preferenceDomain.TakeComplaint();
+    if (!complaint.empty())
+      Report(LocalizedString("main_window_preferences").arg(PlainText(complaint)));
+  });
   connect(mController.get(), &vqMainTableController::reported, this, &MainWindow::Report);
   TheMachine().processManager.WhenRevealFails([this](const std::string& file) {
     Report(LocalizedString("main_window_not_revealed").arg(PlainText(file)));
