@@ -121,6 +121,8 @@ QWidget* ActionQuestion::MakeList() {
   list->setHorizontalHeaderLabels(titles);
   list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   list->verticalHeader()->hide();
+  list->verticalHeader()->setMinimumSectionSize(1);
+  list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 6);
   list->setEditTriggers(QAbstractItemView::NoEditTriggers);
   list->setSelectionMode(QAbstractItemView::NoSelection);
   list->setTabKeyNavigation(false);

@@ -90,7 +90,7 @@ std::string SimulatedHelper::CarryOut(std::string_view line) {
   std::int32_t nice = 0;
   words >> verb >> pid >> nice;
   auto* process = mTable.Find(pid);
-  if (process == nullptr) return "!Error no such process";
+  if (process == nullptr) return "done";
   if (verb == "kill_halt") process->entry.state = RunState::kStopped;
   if (verb == "kill_cont") process->entry.state = RunState::kSleeping;
   if (verb == "renice") process->entry.nice = std::min(nice, 19);
