@@ -1715,13 +1715,9 @@
         <source></source>
         <translation>Keyword of ps: %1</translation>
     </message>
-    <message id="menu_process_kill">
-        <source></source>
-        <translation>&amp;Kill…</translation>
-    </message>
     <message id="menu_process_quit_or_kill">
         <source></source>
-        <translation>&amp;Quit or Kill</translation>
+        <translation>&amp;Quit or Kill…</translation>
     </message>
     <message id="menu_process_high_priority">
         <source></source>
@@ -1737,7 +1733,7 @@
     </message>
     <message id="menu_process_halt">
         <source></source>
-        <translation>H&amp;alt</translation>
+        <translation>H&amp;alt…</translation>
     </message>
     <message id="menu_process_continue">
         <source></source>
@@ -1875,6 +1871,26 @@
         <source></source>
         <translation>Process ID:</translation>
     </message>
+    <message id="main_window_by_id_find">
+        <source></source>
+        <translation>&amp;Find</translation>
+    </message>
+    <message id="main_window_by_id_no_number">
+        <source></source>
+        <translation>A process ID is a number from 0 to %1.</translation>
+    </message>
+    <message id="main_window_not_revealed">
+        <source></source>
+        <translation>No file manager has shown the file, %1.</translation>
+    </message>
+    <message id="main_window_nothing_to_reveal_with">
+        <source></source>
+        <translation>Nothing can be asked to show the file: there is no session bus, or the program has gone.</translation>
+    </message>
+    <message id="main_window_preferences">
+        <source></source>
+        <translation>Your preferences: %1.</translation>
+    </message>
     <message id="main_window_by_id_not_found">
         <source></source>
         <translation>There is no process %1.</translation>
@@ -1891,25 +1907,285 @@
         <source></source>
         <translation>Low priority</translation>
     </message>
-    <message id="kill_confirmation_title_one">
+    <message id="action_ask_window">
+        <source></source>
+        <translation>Lurkwell</translation>
+    </message>
+    <message id="action_ask_quit_one">
+        <source></source>
+        <translation>Quit process %1 (%2)?</translation>
+    </message>
+    <message id="action_ask_quit_several">
+        <source></source>
+        <translation>Quit %1 processes?</translation>
+    </message>
+    <message id="action_ask_kill_one">
         <source></source>
         <translation>Kill process %1 (%2)?</translation>
     </message>
-    <message id="kill_confirmation_text_one">
-        <source></source>
-        <translation>The process will be asked to end. Each further time is harsher, and what has not been saved may be lost.</translation>
-    </message>
-    <message id="kill_confirmation_title_several">
+    <message id="action_ask_kill_several">
         <source></source>
         <translation>Kill %1 processes?</translation>
     </message>
-    <message id="kill_confirmation_text_several">
+    <message id="action_ask_halt_one">
         <source></source>
-        <translation>The selected processes will be asked to end. Each further time is harsher, and what has not been saved may be lost.</translation>
+        <translation>Halt process %1 (%2)?</translation>
     </message>
-    <message id="kill_confirmation_kill">
+    <message id="action_ask_halt_several">
+        <source></source>
+        <translation>Halt %1 processes?</translation>
+    </message>
+    <message id="action_ask_lower_one">
+        <source></source>
+        <translation>Lower the priority of process %1 (%2)?</translation>
+    </message>
+    <message id="action_ask_lower_several">
+        <source></source>
+        <translation>Lower the priority of %1 processes?</translation>
+    </message>
+    <message id="action_button_quit">
+        <source></source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="action_button_kill">
         <source></source>
         <translation>&amp;Kill</translation>
+    </message>
+    <message id="action_button_halt">
+        <source></source>
+        <translation>&amp;Halt</translation>
+    </message>
+    <message id="action_button_lower">
+        <source></source>
+        <translation>&amp;Lower Priority</translation>
+    </message>
+    <message id="action_next_quit">
+        <source></source>
+        <translation>It is asked to close its windows and to quit.</translation>
+    </message>
+    <message id="action_next_terminate">
+        <source></source>
+        <translation>It is asked to end (SIGTERM). It may save its work first, but need not.</translation>
+    </message>
+    <message id="action_next_terminate_again">
+        <source></source>
+        <translation>It was asked to quit %1 and is still there; now it is asked to end (SIGTERM).</translation>
+    </message>
+    <message id="action_next_helper">
+        <source></source>
+        <translation>It was asked to end %1 and is still there; it is asked once more, by the helper (SIGTERM).</translation>
+    </message>
+    <message id="action_next_force">
+        <source></source>
+        <translation>It is ended by force (SIGKILL). What it has not saved is lost.</translation>
+    </message>
+    <message id="action_next_force_at_last">
+        <source></source>
+        <translation>It was asked to end %1; now it is ended by force (SIGKILL). What it has not saved is lost.</translation>
+    </message>
+    <message id="action_next_halted">
+        <source></source>
+        <translation>It is halted, and hears of this when it is continued.</translation>
+    </message>
+    <message id="action_next_several">
+        <source></source>
+        <translation>Each is asked to quit or to end, as the list says. What they have not saved may be lost.</translation>
+    </message>
+    <message id="action_next_several_forced">
+        <source></source>
+        <translation>Each takes the step that the list names. What those that are ended by force have not saved is lost.</translation>
+    </message>
+    <message id="action_next_halt">
+        <source></source>
+        <translation>A halted process stands still until it is continued: its windows do not answer, and whatever needs it waits.</translation>
+    </message>
+    <message id="action_next_lower">
+        <source></source>
+        <translation>It gets the processor when nobody else wants it. Raising the priority again takes an administrator's rights.</translation>
+    </message>
+    <message id="action_step_quit">
+        <source></source>
+        <translation>is asked to quit</translation>
+    </message>
+    <message id="action_step_terminate">
+        <source></source>
+        <translation>is asked to end</translation>
+    </message>
+    <message id="action_step_terminate_again">
+        <source></source>
+        <translation>is asked to end</translation>
+    </message>
+    <message id="action_step_helper">
+        <source></source>
+        <translation>is asked to end again</translation>
+    </message>
+    <message id="action_step_force">
+        <source></source>
+        <translation>is ended by force</translation>
+    </message>
+    <message id="action_step_force_at_last">
+        <source></source>
+        <translation>is ended by force</translation>
+    </message>
+    <message id="action_warn_own">
+        <source></source>
+        <translation>This is Lurkwell itself.</translation>
+    </message>
+    <message id="action_warn_own_among">
+        <source></source>
+        <translation>Lurkwell itself is among them.</translation>
+    </message>
+    <message id="action_warn_others">
+        <source></source>
+        <translation>%1 of them belong to other users.</translation>
+    </message>
+    <message id="action_warn_others_one">
+        <source></source>
+        <translation>%1 of them belongs to another user.</translation>
+    </message>
+    <message id="action_owner">
+        <source></source>
+        <translation>Owner:</translation>
+    </message>
+    <message id="action_command_line">
+        <source></source>
+        <translation>Command line:</translation>
+    </message>
+    <message id="action_unknown">
+        <source></source>
+        <translation>not known</translation>
+    </message>
+    <message id="action_column_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="action_column_pid">
+        <source></source>
+        <translation>ID</translation>
+    </message>
+    <message id="action_column_owner">
+        <source></source>
+        <translation>Owner</translation>
+    </message>
+    <message id="action_column_step">
+        <source></source>
+        <translation>Next step</translation>
+    </message>
+    <message id="action_column_command">
+        <source></source>
+        <translation>Command line</translation>
+    </message>
+    <message id="times_once">
+        <source></source>
+        <translation>once</translation>
+    </message>
+    <message id="times_twice">
+        <source></source>
+        <translation>twice</translation>
+    </message>
+    <message id="times_many">
+        <source></source>
+        <translation>%1 times</translation>
+    </message>
+    <message id="action_process">
+        <source></source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="action_processes">
+        <source></source>
+        <translation>%1 processes (%2)</translation>
+    </message>
+    <message id="action_failed">
+        <source></source>
+        <translation>Nothing was done to %1: %2.</translation>
+    </message>
+    <message id="action_reason_gone">
+        <source></source>
+        <translation>gone already</translation>
+    </message>
+    <message id="action_reason_protected">
+        <source></source>
+        <translation>the system depends on it</translation>
+    </message>
+    <message id="action_reason_kernel_thread">
+        <source></source>
+        <translation>the kernel takes no signals</translation>
+    </message>
+    <message id="action_reason_refused">
+        <source></source>
+        <translation>you may not do that without an administrator's rights</translation>
+    </message>
+    <message id="action_reason_no_helper">
+        <source></source>
+        <translation>the helper does not answer</translation>
+    </message>
+    <message id="action_reason_nobody">
+        <source></source>
+        <translation>this desktop has no way to do it</translation>
+    </message>
+    <message id="action_done_quit_one">
+        <source></source>
+        <translation>%1 was asked to quit.</translation>
+    </message>
+    <message id="action_done_quit_several">
+        <source></source>
+        <translation>%1 were asked to quit.</translation>
+    </message>
+    <message id="action_done_terminate_one">
+        <source></source>
+        <translation>%1 was asked to end.</translation>
+    </message>
+    <message id="action_done_terminate_several">
+        <source></source>
+        <translation>%1 were asked to end.</translation>
+    </message>
+    <message id="action_done_force_one">
+        <source></source>
+        <translation>%1 was ended by force.</translation>
+    </message>
+    <message id="action_done_force_several">
+        <source></source>
+        <translation>%1 were ended by force.</translation>
+    </message>
+    <message id="action_done_halt_one">
+        <source></source>
+        <translation>%1 was halted.</translation>
+    </message>
+    <message id="action_done_halt_several">
+        <source></source>
+        <translation>%1 were halted.</translation>
+    </message>
+    <message id="action_done_continue_one">
+        <source></source>
+        <translation>%1 was continued.</translation>
+    </message>
+    <message id="action_done_continue_several">
+        <source></source>
+        <translation>%1 were continued.</translation>
+    </message>
+    <message id="action_done_high_one">
+        <source></source>
+        <translation>%1 now has a high priority.</translation>
+    </message>
+    <message id="action_done_high_several">
+        <source></source>
+        <translation>%1 now have a high priority.</translation>
+    </message>
+    <message id="action_done_normal_one">
+        <source></source>
+        <translation>%1 now has the normal priority.</translation>
+    </message>
+    <message id="action_done_normal_several">
+        <source></source>
+        <translation>%1 now have the normal priority.</translation>
+    </message>
+    <message id="action_done_low_one">
+        <source></source>
+        <translation>%1 now has a low priority.</translation>
+    </message>
+    <message id="action_done_low_several">
+        <source></source>
+        <translation>%1 now have a low priority.</translation>
     </message>
     <message id="follow_confirmation_title">
         <source></source>
@@ -2427,9 +2703,21 @@ Free: %5</translation>
         <source></source>
         <translation>A part of the program is missing: the layout of the preferences window. Install Lurkwell again.</translation>
     </message>
+    <message id="preferences_once_per_second">
+        <source></source>
+        <translation>once per second</translation>
+    </message>
+    <message id="preferences_every_second">
+        <source></source>
+        <translation>every second</translation>
+    </message>
+    <message id="preferences_every_minute">
+        <source></source>
+        <translation>every minute</translation>
+    </message>
     <message id="preferences_times_per_second">
         <source></source>
-        <translation>%1 time(s) per second</translation>
+        <translation>%1 times per second</translation>
     </message>
     <message id="preferences_every_seconds">
         <source></source>
@@ -2437,7 +2725,7 @@ Free: %5</translation>
     </message>
     <message id="preferences_every_minutes">
         <source></source>
-        <translation>every %1 minute(s)</translation>
+        <translation>every %1 minutes</translation>
     </message>
     <message id="preferences_every_hour">
         <source></source>
@@ -2835,9 +3123,13 @@ Free: %5</translation>
         <source></source>
         <translation>What is stored is no number and is read as 0. Enter a number, or reset the setting.</translation>
     </message>
+    <message id="settings_element">
+        <source></source>
+        <translation>1 record</translation>
+    </message>
     <message id="settings_elements">
         <source></source>
-        <translation>%1 record(s)</translation>
+        <translation>%1 records</translation>
     </message>
     <message id="settings_problem_no_number">
         <source></source>

@@ -88,8 +88,8 @@ void QuintessentialView::handleMouseDownStuff(const QMouseEvent& event, bool isR
   auto* table = gTheStripedTableView;
   if (!isSelected || table == nullptr) return;
   table->showTheSpecialContextMenu(
-      table->viewport()->mapFromGlobal(event.globalPosition().toPoint()), event.modifiers(),
-      isRightClick, false, false);
+      table->viewport()->mapFromGlobal(event.globalPosition().toPoint()), isRightClick, false,
+      false);
 }
 
 }  // namespace lurkwell

@@ -42,6 +42,7 @@ class UnstoredPreferences final : public PreferenceDomain {
   }
   void RemoveValue(std::string_view key) override { mStored.RemoveValue(key); }
   bool Synchronize() override { return true; }
+  std::string TakeComplaint() override { return mStored.TakeComplaint(); }
 
  private:
   PropertyListDomain mStored;

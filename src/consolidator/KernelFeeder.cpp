@@ -38,7 +38,7 @@ class KernelPass {
     }
     const bool all = level == Client::kNeedAllProcProperties;
     ReportTableFigures(entry, all);
-    if (entry.state == RunState::kStopped) NoteHalted(entry.pid);
+    NoteKernelState(entry.pid, entry.state == RunState::kStopped, entry.nice);
     const unsigned groups = GroupsFor(all);
     if (groups != 0) ReportUsage(entry, groups);
   }
@@ -84,13 +84,6 @@ class KernelPass {
       integer("pid_pageins", figures->pageins);
     }
     return groups;
-  }
-
-  /// Shows a process that somebody else has stopped as halted.
-  static void NoteHalted(std::int32_t pid) {
-    if (GetProcessAction(pid, kProcessActionHalt, nullptr)) return;
-    std::printf("detected a surreptitiously-halted process %d!\n", pid);
-    AddProcessAction(pid, kProcessActionHalt, 0);
   }
 
   unsigned GroupsFor(bool all) const {

@@ -51,7 +51,8 @@ void MainMenus::MakeProcessActions() {
   };
   auto* separator = static_cast<QAction*>(nullptr);
   mProcessActions = {
-      make("menu_process_quit_or_kill", MenuCommand::kKill, &Controller::processKillMenuItem),
+      make("menu_process_quit_or_kill", MenuCommand::kKill, &Controller::processKillMenuItem,
+           Qt::Key_Delete),
       separator,
       make("menu_process_halt", MenuCommand::kHalt, &Controller::processHaltMenuItem,
            Qt::CTRL | Qt::Key_H),
@@ -78,11 +79,6 @@ void MainMenus::MakeProcessActions() {
       make("menu_file_new_logging", MenuCommand::kNewLoggingWindow, &Controller::newLoggingWindow,
            Qt::CTRL | Qt::Key_L),
   };
-  // A key that is hit by mistake asks first.
-  auto* ask = Make(
-      "menu_process_kill", MenuCommand::kKill, [this] { Q_EMIT killConfirmationRequested(); },
-      Qt::Key_Delete);
-  mProcessActions.prepend(ask);
   // Keys of the filter's field are its own.
   for (auto* action : mProcessActions) {
     if (action == nullptr) continue;

@@ -48,7 +48,6 @@ class MainMenus : public QObject {
  Q_SIGNALS:
   void filterRequested();
   void closeRequested();
-  void killConfirmationRequested();
   void pidRequested();
   /// Nothing could be started that shows the page.
   void helpIsMissing(const QString& page);

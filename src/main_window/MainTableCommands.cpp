@@ -4,6 +4,9 @@
 #include <algorithm>
 
 #include "consolidator/PI_Consolidator.h"
+#include "consolidator/WholeNames.h"
+#include "main_window/ActionQuestion.h"
+#include "main_window/ActionTexts.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
@@ -34,64 +37,75 @@ bool IsApplication(std::int32_t pid) {
 
 }  // namespace
 
-template <typename Action>
-void vqMainTableController::forSelectedPids(Action action) {
-  for (const auto pid : selectedPids()) {
-    action(pid);
-    // Its badge may be another one.
-    if (auto* row = fRows.Find(pid)) row->SetChanged(true);
-  }
+void vqMainTableController::act(ProcessCommand command) {
+  const auto plan = PlanAction(command, selectedPids());
+  if (plan.asks && !confirm(plan)) return;
+  const auto reports = CarryOut(plan);
+  for (const auto& report : reports)
+    if (auto* row = fRows.Find(report.pid)) row->SetChanged(true);
+  triggerReload();
+  Q_EMIT reported(ReportText(command, reports));
+}
+
+bool vqMainTableController::confirm(const ActionPlan& plan) {
+  ActionQuestion question(plan, window());
+  // The rows stay in sight where they were when the question came up.
+  holdOrder(&question, true);
+  const bool agreed = question.exec() == QDialog::Accepted;
+  holdOrder(&question, false);
+  return agreed;
+}
+
+void vqMainTableController::processKillMenuItem() {
+  act(ProcessCommand::kKill);
+}
+
+void vqMainTableController::processHighPriorityMenuItem() {
+  act(ProcessCommand::kHighPriority);
+}
+
+void vqMainTableController::processNormalPriorityMenuItem() {
+  act(ProcessCommand::kNormalPriority);
+}
+
+void vqMainTableController::processLowPriorityMenuItem() {
+  act(ProcessCommand::kLowPriority);
+}
+
+void vqMainTableController::processHaltMenuItem() {
+  act(ProcessCommand::kHalt);
+}
+
+void vqMainTableController::processContMenuItem() {
+  act(ProcessCommand::kContinue);
 }
 
 template <typename Action>
 void vqMainTableController::forSelectedPSNs(Action action) {
-  for (const auto pid : selectedPids())
-    if (const auto psn = SerialNumberOf(pid); !psn.IsNone()) action(psn);
-}
-
-void vqMainTableController::processKillMenuItem() {
-  // A guest may have ended, and its number gone, before the table is due again.
-  forSelectedPids([](std::int32_t pid) {
-    if (IsKernelPid(pid) || IsApplication(pid)) KillProcess(pid);
-  });
-}
-
-void vqMainTableController::processHighPriorityMenuItem() {
-  forSelectedPids(SetHighPriority);
-  triggerReload();
-}
-
-void vqMainTableController::processNormalPriorityMenuItem() {
-  forSelectedPids(SetNormalPriority);
-  triggerReload();
-}
-
-void vqMainTableController::processLowPriorityMenuItem() {
-  forSelectedPids(SetLowPriority);
-  triggerReload();
-}
-
-void vqMainTableController::processHaltMenuItem() {
-  forSelectedPids(HaltProcess);
-  triggerReload();
-}
-
-void vqMainTableController::processContMenuItem() {
-  forSelectedPids(ContinueProcess);
-  triggerReload();
+  std::vector<ActionReport> failed;
+  for (const auto pid : selectedPids()) {
+    const auto psn = SerialNumberOf(pid);
+    if (!psn.IsNone() && !action(psn))
+      failed.push_back({pid, WholeNameOf(pid), ActionResult::kNobody});
+  }
+  if (!failed.empty()) Q_EMIT reported(ReportText(ProcessCommand::kContinue, failed));
 }
 
 void vqMainTableController::processHideMenuItem() {
-  forSelectedPSNs([](ProcessSerialNumber psn) { ShowProcessPSN(psn, false); });
+  forSelectedPSNs([](ProcessSerialNumber psn) { return ShowProcessPSN(psn, false); });
 }
 
 void vqMainTableController::processBringToFrontMenuItem() {
   forSelectedPSNs(
-      [](ProcessSerialNumber psn) { TheMachine().processManager.SetFrontProcess(psn); });
+      [](ProcessSerialNumber psn) { return TheMachine().processManager.SetFrontProcess(psn); });
 }
 
 void vqMainTableController::processRevealInFinderMenuItem() {
-  forSelectedPSNs([](ProcessSerialNumber psn) { RevealProcessInFinder(psn); });
+  std::vector<ProcessSerialNumber> psns;
+  for (const auto pid : selectedPids())
+    if (const auto psn = SerialNumberOf(pid); !psn.IsNone()) psns.push_back(psn);
+  if (RevealProcessesInFinder(psns) < psns.size())
+    Q_EMIT reported(LocalizedString("main_window_nothing_to_reveal_with"));
 }
 
 void vqMainTableController::followSelectedPids(void (MonitorWindows::*open)(std::int32_t,
@@ -160,8 +174,10 @@ vqMainTableController::SelectionFacts vqMainTableController::selectionFacts() co
   const auto isHalted = [](std::int32_t pid) {
     return GetProcessAction(pid, kProcessActionHalt, nullptr);
   };
+  const auto isGoing = [&](std::int32_t pid) { return IsKernelPid(pid) && !isHalted(pid); };
   return {hasSelection(), std::ranges::any_of(pids, IsKernelPid),
-          std::ranges::any_of(pids, IsApplication), std::ranges::any_of(pids, isHalted)};
+          std::ranges::any_of(pids, IsApplication), std::ranges::any_of(pids, isHalted),
+          std::ranges::any_of(pids, isGoing)};
 }
 
 bool vqMainTableController::validateMenuItem(MenuCommand command,
@@ -180,7 +196,7 @@ bool vqMainTableController::validateMenuItem(MenuCommand command,
     case MenuCommand::kLowPriority:
       return facts.anyPIDs;
     case MenuCommand::kHalt:
-      return facts.anyPIDs && !facts.anyHalted;
+      return facts.anyGoing;
     case MenuCommand::kContinue:
       return facts.anyHalted;
     case MenuCommand::kBuiltInColumn:

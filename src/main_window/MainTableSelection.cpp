@@ -98,7 +98,7 @@ QString vqMainTableController::nameOf(std::int32_t pid) {
 bool vqMainTableController::selectPid(std::int32_t pid) {
   const auto* row = fRows.Find(pid);
   if (fTable == nullptr || row == nullptr || row->shownIndex < 0) return false;
-  stripedTable()->SelectAlone(row->shownIndex);
+  stripedTable()->SelectFound(row->shownIndex);
   return true;
 }
 

@@ -3,8 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
@@ -18,6 +16,9 @@
 #include "main_window/PropertyText.h"
 #include "main_window/ToolbarCustomiseDialog.h"
 #include "main_window/WindowFrame.h"
+#include "platform/Machine.h"
+#include "platform/PreferenceDomain.h"
+#include "platform/ProcessManager.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
@@ -28,6 +29,7 @@ namespace {
 constexpr char kFrameKey[] = "MAIN_WINDOW_FRAME";
 constexpr QSize kFirstSize(860, 560);
 constexpr int kTurnsBetweenQuestions = 30;
+constexpr int kMessageMilliseconds = 15'000;
 
 QLabel* AddLabel(QStatusBar& bar, int stretch) {
   auto* label = new QLabel(&bar);
@@ -60,18 +62,27 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   connect(mController.get(), &vqMainTableController::customisingRequested, this,
           &MainWindow::CustomiseToolbar);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
+  connect(mController.get(), &vqMainTableController::updated, this, [this] {
+    const auto complaint = TheMachine().preferenceDomain.TakeComplaint();
+    if (!complaint.empty())
+      Report(LocalizedString("main_window_preferences").arg(PlainText(complaint)));
+  });
+  connect(mController.get(), &vqMainTableController::reported, this, &MainWindow::Report);
+  TheMachine().processManager.WhenRevealFails([this](const std::string& file) {
+    Report(LocalizedString("main_window_not_revealed").arg(PlainText(file)));
+  });
   connect(mMenus.get(), &MainMenus::helpIsMissing, this, [this](const QString& page) {
-    statusBar()->showMessage(LocalizedString("main_window_help_missing").arg(page), 20'000);
+    Report(LocalizedString("main_window_help_missing").arg(page));
   });
   connect(mMenus.get(), &MainMenus::pidRequested, this, &MainWindow::FindByPid);
   connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);
   connect(mMenus.get(), &MainMenus::closeRequested, this, &QWidget::close);
-  connect(mMenus.get(), &MainMenus::killConfirmationRequested, this, &MainWindow::ConfirmKill);
   RestoreFrame();
   WatchWindowOrder(*this);
 }
 
 MainWindow::~MainWindow() {
+  TheMachine().processManager.WhenRevealFails({});
   // It arranges the controller's toolbar.
   delete mCustomising;
   // The controller's last words go to the preferences, by way of the table.
@@ -156,12 +167,21 @@ void MainWindow::LookAtHelper() {
   mHelper->setText(*text != 0 ? LocalizedString(text) : QString());
 }
 
+void MainWindow::Report(const QString& text) {
+  if (text.isEmpty()) return;
+  statusBar()->showMessage(text, kMessageMilliseconds);
+  // What does not fit can be read all the same.
+  statusBar()->setToolTip(text);
+}
+
 void MainWindow::FindByPid() {
-  const auto pid = AskForPid(this);
+  const auto pid = AskForPid(
+      this, [this](std::int32_t asked) { return mController->rows().Find(asked) != nullptr; });
   if (pid == kInvalidPID) return;
   EndFilter();
+  // It may have ended while the question was open.
   if (!VQTarvMainWindowInfoSynch::SelectPID(pid))
-    statusBar()->showMessage(LocalizedString("main_window_by_id_not_found").arg(pid), 5000);
+    Report(LocalizedString("main_window_by_id_not_found").arg(pid));
 }
 
 void MainWindow::UpdateStatus() {
@@ -172,31 +192,6 @@ void MainWindow::UpdateStatus() {
                        .arg(processes)
                        .arg(mController->rowCount())
                        .arg(selected));
-}
-
-void MainWindow::ConfirmKill() {
-  const auto pids = mController->selectedPids();
-  if (pids.empty()) return;
-  QMessageBox box(this);
-  box.setIcon(QMessageBox::Warning);
-  box.setTextFormat(Qt::PlainText);
-  if (pids.size() == 1) {
-    box.setText(LocalizedString("kill_confirmation_title_one")
-                    .arg(pids.front())
-                    .arg(vqMainTableController::nameOf(pids.front())));
-    box.setInformativeText(LocalizedString("kill_confirmation_text_one"));
-  } else {
-    box.setText(LocalizedString("kill_confirmation_title_several").arg(pids.size()));
-    box.setInformativeText(LocalizedString("kill_confirmation_text_several"));
-  }
-  QAbstractButton* kill =
-      box.addButton(LocalizedString("kill_confirmation_kill"), QMessageBox::AcceptRole);
-  box.setDefaultButton(box.addButton(QMessageBox::Cancel));
-  // The selection stays what the question was about, but for what ends meanwhile.
-  mController->holdOrder(&box, true);
-  box.exec();
-  if (box.clickedButton() == kill) mController->processKillMenuItem();
-  mController->holdOrder(&box, false);
 }
 
 // ---- Life ---------------------------------------------------------------------------------------

@@ -44,7 +44,8 @@ class MainWindow : public QMainWindow {
   void RestoreFrame();
   void ShowFilter();
   void EndFilter();
-  void ConfirmKill();
+  /// Shows a text in the status line for a while.
+  void Report(const QString& text);
   void FindByPid();
   void CustomiseToolbar();
   void LookAtHelper();

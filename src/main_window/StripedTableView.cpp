@@ -47,6 +47,9 @@ StripedTableView::StripedTableView(QWidget* parent) : QTableView(parent) {
   setHorizontalScrollMode(ScrollPerPixel);
   setTabKeyNavigation(false);
   setFrameShape(NoFrame);
+  // Whoever scrolls wants to see something else.
+  connect(verticalScrollBar(), &QAbstractSlider::actionTriggered, this,
+          [this] { mFound = QPersistentModelIndex(); });
   auto& rows = *verticalHeader();
   rows.hide();
   rows.setSectionResizeMode(QHeaderView::Fixed);
@@ -61,45 +64,91 @@ StripedTableView::~StripedTableView() {
 
 // ---- The context menu ---------------------------------------------------------------------------
 
-void StripedTableView::SelectAlone(int row) {
+void StripedTableView::setContextMenu(QMenu* menu) {
+  fMenu = menu;
+  if (menu != nullptr) menu->installEventFilter(this);
+}
+
+bool StripedTableView::eventFilter(QObject* object, QEvent* event) {
+  if (object == fMenu) {
+    const auto type = event->type();
+    if (type == QEvent::Show) mSinceMenuCame.start();
+    const bool isClick = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+                         type == QEvent::MouseButtonDblClick;
+    if (isClick && mSinceMenuCame.isValid() && mSinceMenuCame.elapsed() < kDeadTime) return true;
+  }
+  return QTableView::eventFilter(object, event);
+}
+
+void StripedTableView::ScrollToRow(const QModelIndex& place) {
   const int left = horizontalScrollBar()->value();
-  const auto place = model()->index(row, std::max(currentIndex().column(), 0));
-  selectionModel()->setCurrentIndex(
-      place, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   scrollTo(place);
   horizontalScrollBar()->setValue(left);
 }
 
-void StripedTableView::showTheSpecialContextMenu(const QPoint& position,
-                                                 Qt::KeyboardModifiers modifiers, bool isRightClick,
+void StripedTableView::SelectAlone(int row) {
+  const auto place = model()->index(row, std::max(currentIndex().column(), 0));
+  mFound = QPersistentModelIndex();
+  setAutoScroll(false);
+  selectionModel()->setCurrentIndex(
+      place, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  setAutoScroll(true);
+  ScrollToRow(place);
+}
+
+void StripedTableView::SelectFound(int row) {
+  SelectAlone(row);
+  mFound = model()->index(row, 0);
+}
+
+void StripedTableView::KeepFoundInSight() {
+  if (!mFound.isValid()) return;
+  if (!selectionModel()->isRowSelected(mFound.row())) {
+    mFound = QPersistentModelIndex();
+    return;
+  }
+  ScrollToRow(mFound);
+}
+
+void StripedTableView::showTheSpecialContextMenu(const QPoint& position, bool isRightClick,
                                                  bool needToSelect, bool needToHit) {
-  if ((modifiers & Qt::ControlModifier) == 0 && !isRightClick) return;
+  if (!isRightClick) return;
   const int row = rowAt(position.y());
-  if (needToSelect && row >= 0) SelectAlone(row);
+  if (needToSelect && row >= 0) {
+    if (!selectionModel()->isRowSelected(row)) SelectAlone(row);
+    setFocus(Qt::MouseFocusReason);
+  }
   const bool hits = row >= 0 && model() != nullptr && row < model()->rowCount();
   if (needToHit && !hits) return;
   if (fMenu != nullptr) fMenu->popup(viewport()->mapToGlobal(position));
 }
 
 void StripedTableView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::RightButton) {
-    showTheSpecialContextMenu(event->pos(), event->modifiers(), true, true);
-    event->accept();
-    return;
-  }
-  QTableView::mousePressEvent(event);
-  if (event->button() == Qt::LeftButton)
-    showTheSpecialContextMenu(event->pos(), event->modifiers(), false, false);
+  if (event->button() != Qt::RightButton) return QTableView::mousePressEvent(event);
+  showTheSpecialContextMenu(event->pos(), true, true);
+  event->accept();
 }
 
 void StripedTableView::contextMenuEvent(QContextMenuEvent* event) {
   // The mouse has been served by the press.
-  if (event->reason() != QContextMenuEvent::Keyboard) return;
-  if (fMenu == nullptr || !selectionModel()->hasSelection()) return;
+  if (event->reason() == QContextMenuEvent::Keyboard) ShowMenuForKey();
+}
+
+void StripedTableView::ShowMenuForKey() {
+  if (fMenu == nullptr || fMenu->isVisible()) return;
+  if (!selectionModel()->hasSelection()) {
+    if (!currentIndex().isValid()) return;
+    SelectAlone(currentIndex().row());
+  }
   const auto rows = selectionModel()->selectedRows();
+  const bool isCurrentSelected =
+      currentIndex().isValid() && selectionModel()->isRowSelected(currentIndex().row());
   const auto place =
-      currentIndex().isValid() ? currentIndex() : *std::min_element(rows.begin(), rows.end());
-  fMenu->popup(viewport()->mapToGlobal(visualRect(place).bottomLeft()));
+      isCurrentSelected ? currentIndex() : *std::min_element(rows.begin(), rows.end());
+  ScrollToRow(place);
+  const auto corner = visualRect(place).bottomLeft();
+  fMenu->popup(viewport()->mapToGlobal(
+      QPoint(std::clamp(corner.x(), 0, viewport()->width() - 1), corner.y())));
 }
 
 void StripedTableView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -114,7 +163,19 @@ void StripedTableView::keyPressEvent(QKeyEvent* event) {
     if (selectionModel()->hasSelection()) Q_EMIT doubleAction();
     return;
   }
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+    return ShowMenuForKey();
   QTableView::keyPressEvent(event);
+}
+
+/// In a list of whole rows there is no other beginning and end than those of the list.
+QModelIndex StripedTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  if (action == MoveHome || action == MoveEnd) {
+    if (model() == nullptr || model()->rowCount() == 0) return {};
+    const int row = action == MoveHome ? 0 : model()->rowCount() - 1;
+    return model()->index(row, std::max(currentIndex().column(), 0));
+  }
+  return QTableView::moveCursor(action, modifiers);
 }
 
 bool StripedTableView::RowMatches(int row, const QString& text) const {
@@ -136,7 +197,7 @@ void StripedTableView::keyboardSearch(const QString& search) {
   for (int i = 0; i < count; ++i) {
     const int row = (first + i) % count;
     if (!RowMatches(row, mSearched)) continue;
-    return SelectAlone(row);
+    return SelectFound(row);
   }
 }
 

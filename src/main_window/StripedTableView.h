@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QMenu>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTableView>
 
@@ -10,7 +11,8 @@
 namespace lurkwell {
 
 /// The process table's view: stripes over its whole height, vertical grid lines, and a context menu
-/// for rows on a right click or a click with the control key. Main thread only.
+/// for rows on a right click, the menu key or Shift+F10. Home and End go to the first and the last
+/// row. Main thread only.
 class StripedTableView : public QTableView {
   Q_OBJECT
 
@@ -22,19 +24,23 @@ class StripedTableView : public QTableView {
   explicit StripedTableView(QWidget* parent = nullptr);
   ~StripedTableView() override;
 
+  /// For so long after it has come up under the pointer, in milliseconds, the context menu takes no
+  /// click: it was meant for something else.
+  static constexpr int kDeadTime = 300;
+
   TableHeader& header() const;
 
   /// The context menu; belongs to whoever made it.
-  void setContextMenu(QMenu* menu) { fMenu = menu; }
+  void setContextMenu(QMenu* menu);
 
   /// Typing finds rows by the text in this column; -1 for none.
   void setSearchColumn(int column) { mSearchColumn = column; }
 
-  /// Opens the context menu at a point of the viewport, when a click there asks for it and hits a
-  /// row; with `needToSelect` that row becomes the selection. A click in another window, for which
-  /// a row has been selected, need not hit one.
-  void showTheSpecialContextMenu(const QPoint& position, Qt::KeyboardModifiers modifiers,
-                                 bool isRightClick, bool needToSelect, bool needToHit = true);
+  /// Opens the context menu at a point of the viewport, when a right click there hits a row; with
+  /// `needToSelect` that row becomes the selection, unless it is a part of it. A click in another
+  /// window, for which a row has been selected, need not hit one.
+  void showTheSpecialContextMenu(const QPoint& position, bool isRightClick, bool needToSelect,
+                                 bool needToHit = true);
 
   /// Repaints what the rows between show differently, as far as it can be seen.
   void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
@@ -47,12 +53,19 @@ class StripedTableView : public QTableView {
 
   /// Selects that row and no other, whatever keys are held, and scrolls up or down to it.
   void SelectAlone(int row);
+  /// The same for a row that was looked for: until the user scrolls or selects another, it is kept
+  /// in sight wherever it goes.
+  void SelectFound(int row);
+  /// Rows have changed places.
+  void KeepFoundInSight();
 
  Q_SIGNALS:
   /// A double click on a row, or Return.
   void doubleAction();
 
  protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -62,9 +75,13 @@ class StripedTableView : public QTableView {
  private:
   void highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const;
   void drawGridInClipRect(QPainter& painter, const QRect& clip) const;
+  void ShowMenuForKey();
+  void ScrollToRow(const QModelIndex& place);
   bool RowMatches(int row, const QString& text) const;
 
   QPointer<QMenu> fMenu;
+  QElapsedTimer mSinceMenuCame;
+  QPersistentModelIndex mFound;
   int mSearchColumn = -1;
   QString mSearched;
   QElapsedTimer mSinceLastKey;

@@ -136,6 +136,7 @@ void vqMainTableController::arrangeRows() {
   keepFocus(isShown);
   fRows.Commit(isShown);
   restoreSelection();
+  if (fTable != nullptr) stripedTable()->KeepFoundInSight();
 }
 
 void vqMainTableController::triggerReload() {

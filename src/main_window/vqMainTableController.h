@@ -20,6 +20,7 @@
 #include "main_window/ToolbarItems.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
 #include "main_window/vqTableController.h"
+#include "process_control/ActionPlan.h"
 
 class QAction;
 class QMainWindow;
@@ -189,6 +190,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
     bool anyPIDs;
     bool anyPSNs;
     bool anyHalted;
+    /// One that the kernel knows and that can be halted yet.
+    bool anyGoing;
   };
   SelectionFacts selectionFacts() const;
   bool validateMenuItem(MenuCommand command, const SelectionFacts& facts) const;
@@ -229,6 +232,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void updated();
   /// The number of rows, or of selected ones, may be another one.
   void contentsChanged();
+  /// What became of a command, to be said in passing.
+  void reported(const QString& text);
   void preferencesRequested();
   /// The toolbar is to be arranged.
   void customisingRequested();
@@ -276,8 +281,9 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   /// The process's arguments on one line, as they are now; empty when they are not known.
   static QString commandLineOf(std::int32_t pid);
   QString tooltipOf(const RowDictionary& row, const Column& column) const;
-  template <typename Action>
-  void forSelectedPids(Action action);
+  /// Carries out a command on the selected processes, once the user has agreed where he must.
+  void act(ProcessCommand command);
+  bool confirm(const ActionPlan& plan);
   template <typename Action>
   void forSelectedPSNs(Action action);
   /// Has a window opened for each selected process, as far as its user and the room agree.

@@ -19,8 +19,8 @@ using PreferenceValue = std::variant<std::int64_t, double, std::string, Preferen
 /// The settings of one application for one user, kept in memory and on disk. Main thread only.
 ///
 /// No call fails as far as its caller can see: a value that cannot be brought to disk counts for
-/// the rest of this run, is tried again with the next write, and the cause is reported once on
-/// standard error.
+/// the rest of this run, is tried again with the next write, and the cause is reported once, on
+/// standard error and by TakeComplaint.
 class PreferenceDomain {
  public:
   virtual ~PreferenceDomain() = default;
@@ -39,6 +39,9 @@ class PreferenceDomain {
   /// running instance has written meanwhile. True when the disk now has it. Waits for another
   /// instance's lock for at most a second.
   virtual bool Synchronize() = 0;
+
+  /// What has gone wrong since the last call, in words for the user; "" for nothing.
+  virtual std::string TakeComplaint() { return {}; }
 };
 
 }  // namespace lurkwell

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -48,6 +49,9 @@ class ProcessManager {
   /// Asks the application to quit, as its own menu would.
   virtual bool Quit(ProcessSerialNumber psn) = 0;
 
+  /// Whether it has anything (a window, say) by way of which Quit could ask.
+  virtual bool CanQuit(ProcessSerialNumber psn) = 0;
+
   /// Shows or hides all its windows.
   virtual bool ShowHideProcess(ProcessSerialNumber psn, bool show) = 0;
 
@@ -56,6 +60,10 @@ class ProcessManager {
 
   /// Shows the application's file, selected, in the file manager.
   virtual bool Reveal(ProcessSerialNumber psn) = 0;
+
+  /// Whom to tell that the file manager, asked to show a file, did not do so after all, or that
+  /// there is none; its argument is the file. Called by the run loop. Replaces the one before.
+  virtual void WhenRevealFails(std::function<void(const std::string& file)> tell) = 0;
 };
 
 }  // namespace lurkwell

@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
+#include "platform/ProcessDescription.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/TimeValue.h"
 
@@ -60,6 +62,10 @@ class ProcessTable {
 
   /// The process that has `pid` now, read afresh; nothing when there is none.
   virtual std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) = 0;
+
+  /// The processes of several pids as they are now, in that order; those that are gone are left
+  /// out. Waits half a second at most, and leaves out what could not be read until then.
+  virtual std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) = 0;
 
   /// What the process of an entry of the last Read has used up to now, for whoever has no helper to
   /// ask. The idle task's times are those of the idle machine and of its waiting for input and

@@ -25,6 +25,7 @@ QString TextOf(const std::string& text) {
   return QString::fromStdString(text);
 }
 QString TextOf(const PreferenceArray& array) {
+  if (array.size() == 1) return LocalizedString("settings_element");
   return LocalizedString("settings_elements").arg(array.size());
 }
 

@@ -1,15 +1,27 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "consolidator/ProcessInformationClient.h"
 #include "platform/ProcessIdentity.h"
 
-/// What the user can do to a process, and the memory of what was done. Main thread only. Nobody is
-/// told whether an action succeeded; a renice prints the helper's answer. A pid below 2 is refused
-/// by every action before anything is sent, and so is one that has passed to another process than
-/// the consolidator's record means.
+/// What the user can do to a process, and the memory of what was done. Main thread only. A pid
+/// below 2 is refused by every action before anything is sent, and so is one that has passed to
+/// another process than the consolidator's record means.
 namespace lurkwell {
+
+/// What became of an action.
+enum class ActionResult : std::uint8_t {
+  kDone,          ///< carried out, or asked for where nobody tells the outcome
+  kGone,          ///< the process has ended
+  kProtected,     ///< one of the system's first two processes
+  kKernelThread,  ///< a part of the kernel, which takes no signals
+  kRefused,       ///< the user may not do it, not even by way of the helper
+  kNoHelper,      ///< there is no helper, or it did not answer
+  kNobody,        ///< this desktop has nobody that could be asked
+};
 
 // ---- The action list
 // -----------------------------------------------------------------------------
@@ -20,22 +32,32 @@ enum ProcessActionKind : std::int32_t {
   kProcessActionAny = 3,  ///< in questions and removals only
 };
 
-/// One thing that was done to a process. Entries outlive their process: one that gets the same pid
-/// shows them until it is acted upon itself.
+/// One thing that was done to a process. It is the process's, not its pid's: the pid's next holder
+/// shows nothing of it.
 struct ProcessAction {
   std::int32_t pid;
   std::int32_t kind;
   /// The nice value asked for; 0 for a halt.
   std::int32_t value;
+  /// The start of the process that it was done to, 0 for one that has no record.
+  std::uint64_t startStamp = 0;
+  /// The kernel has shown the process so since, and until when it may take to do so, in seconds.
+  bool isConfirmed = false;
+  double confirmBefore = 0.0;
 };
 
-/// Adds an entry, which belongs to the list; valid until it is removed.
+/// Adds an entry, which belongs to the list; valid until the list changes.
 const ProcessAction* AddProcessAction(std::int32_t pid, std::int32_t kind, std::int32_t value);
 /// Removes all of the pid's entries of that kind.
 void RemoveProcessAction(std::int32_t pid, std::int32_t kind);
 /// Whether the pid has an entry of that kind; the value of the newest one into `value`, unless that
 /// is null. The time does not depend on how many processes have entries.
 bool GetProcessAction(std::int32_t pid, std::int32_t kind, std::int32_t* value);
+
+/// What the kernel says of a process, once per update of it. An entry that it contradicts goes:
+/// somebody else has continued the process, or given it another nice value. One that is stopped has
+/// an entry from then on; if nobody here halted it, that is a line on standard output.
+void NoteKernelState(std::int32_t pid, bool isStopped, std::int32_t nice);
 
 /// The name of the image that marks the process: "process_niced_high" or "process_niced_low" after
 /// a renice to another value than 0, else "process_halted" after a halt; null for none.
@@ -44,42 +66,68 @@ const char* ProcessIndicatorImageName(std::int32_t pid);
 // ---- Single actions
 // ------------------------------------------------------------------------------
 
-/// Asks an application to quit, to show or hide its windows, or the file manager to show it and
-/// come to the front. False when nobody could be asked.
+/// Asks an application to quit, to show or hide its windows, or the file manager to show the
+/// applications' files and come to the front. False when nobody could be asked.
 bool KillProcessPSN(ProcessSerialNumber psn);
 bool ShowProcessPSN(ProcessSerialNumber psn, bool show);
 bool RevealProcessInFinder(ProcessSerialNumber psn);
+/// The same for several; how many could be asked for. Looks for the file manager once.
+std::size_t RevealProcessesInFinder(std::span<const ProcessSerialNumber> psns);
 
 // Through the helper.
-void KillProcessPID(std::int32_t pid);
-void KillProcessDeadPID(std::int32_t pid);
-void HaltProcessPID(std::int32_t pid);
-void ContProcessPID(std::int32_t pid);
+ActionResult KillProcessPID(std::int32_t pid);
+ActionResult KillProcessDeadPID(std::int32_t pid);
+ActionResult HaltProcessPID(std::int32_t pid);
+ActionResult ContProcessPID(std::int32_t pid);
 /// A nice value from -20 to 20; others are the assertions "niceValue >= -20" and "niceValue <= 20"
-/// of the unit ProcessActions.
-void ReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
-void ActuallyHaltProcessPID(std::int32_t pid);
-void ActuallyContProcessPID(std::int32_t pid);
-void ActuallyReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
+/// of the unit ProcessActions. Prints the helper's answer.
+ActionResult ReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
+ActionResult ActuallyHaltProcessPID(std::int32_t pid);
+ActionResult ActuallyContProcessPID(std::int32_t pid);
+ActionResult ActuallyReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
 
 // ---- Commands
 // ------------------------------------------------------------------------------------
 
-/// One step of getting rid of a process, harsher with each call: an application is asked to quit,
-/// then signalled with the user's own rights, then by the helper, then killed; others start with
-/// the signal. A made-up pid without a serial number is the assertion
+/// The steps of getting rid of a process, each harsher than the one before.
+enum class KillStep : std::uint8_t {
+  kQuit,               ///< an application is asked to quit, as its own menu would
+  kTerminate,          ///< SIGTERM with the user's own rights
+  kTerminateByHelper,  ///< SIGTERM with the helper's
+  kForce,              ///< SIGKILL by the helper
+};
+
+/// The step that KillProcess would take next. An application that cannot be asked to quit, because
+/// it has no window, begins with the signal, and so does what is no application.
+KillStep NextKillStep(std::int32_t pid);
+/// How often the process has been asked to quit or to end so far.
+int TimesAskedToEnd(std::int32_t pid);
+void NoteAskedToEnd(std::int32_t pid);
+
+struct KillOutcome {
+  ActionResult result;
+  /// The step that was taken, or the last one that was tried.
+  KillStep step;
+};
+/// Takes the next step. One that nobody can be asked for, or that the user's own rights do not
+/// allow, goes on to the following one at once, but never to force. Steps that did nothing do not
+/// count. A made-up pid without a serial number is the assertion
 /// "psn.highLongOfPSN || psn.lowLongOfPSN".
-void KillProcess(std::int32_t pid);
+KillOutcome KillProcess(std::int32_t pid);
 
-/// Nice -19, 0 or 20. The first and the last leave an entry in the action list.
-void SetHighPriority(std::int32_t pid);
-void SetNormalPriority(std::int32_t pid);
-void SetLowPriority(std::int32_t pid);
+inline constexpr std::int32_t kHighNice = -19;
+inline constexpr std::int32_t kNormalNice = 0;
+inline constexpr std::int32_t kLowNice = 20;
 
-/// Stops and resumes a process, and keeps its entry in the action list. What the list did not
-/// expect is a line on standard error.
-void HaltProcess(std::int32_t pid);
-void ContinueProcess(std::int32_t pid);
+/// Nice -19, 0 or 20. The first and the last leave an entry in the action list, once they are done.
+ActionResult SetHighPriority(std::int32_t pid);
+ActionResult SetNormalPriority(std::int32_t pid);
+ActionResult SetLowPriority(std::int32_t pid);
+
+/// Stops and resumes a process, and keeps its entry in the action list, which what was refused
+/// leaves as it was. What the list did not expect is a line on standard error.
+ActionResult HaltProcess(std::int32_t pid);
+ActionResult ContinueProcess(std::int32_t pid);
 
 /// A client that needs nothing and does nothing.
 class ProcessActionHelper final : public ProcessInformationClient {

@@ -153,8 +153,7 @@ TEST_F(ViewWindows, AClickSelectsTheNearestProcess) {
   EXPECT_EQ(selected(), std::vector<std::int32_t>{110});
   EXPECT_FALSE(mainWindow->menus().ContextMenu().isVisible());
   QTest::mouseClick(&window, Qt::LeftButton, Qt::ControlModifier, place);
-  EXPECT_TRUE(mainWindow->menus().ContextMenu().isVisible());
-  mainWindow->menus().ContextMenu().hide();
+  EXPECT_FALSE(mainWindow->menus().ContextMenu().isVisible());
   QTest::mouseClick(&window, Qt::RightButton, {}, place);
   EXPECT_TRUE(mainWindow->menus().ContextMenu().isVisible());
   mainWindow->menus().ContextMenu().hide();

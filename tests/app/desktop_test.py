@@ -3,8 +3,10 @@
 
 desktop_test.py BINARY [unittest arguments]
 """
+import pathlib
 import signal
 import subprocess
+import time
 import unittest
 
 from desktop_support import BINARY, Desktop, png_size
@@ -58,9 +60,9 @@ class Shell(Desktop):
             self.assertEqual(done.returncode, 2, words)
             self.assertIn("--help", done.stderr)
 
-    def test_a_key_kills_what_was_selected_after_asking(self):
+    def test_keys_act_on_what_was_selected_after_asking(self):
         self.open_display()
-        victim = subprocess.Popen(["sleep", "1000"])
+        victim = subprocess.Popen(["env", "--ignore-signal=TERM", "sleep", "1000"])
         self.addCleanup(victim.wait)
         self.addCleanup(victim.kill)
         self.start([BINARY, "--unprivileged"])
@@ -70,11 +72,28 @@ class Shell(Desktop):
         self.output("xdotool", "key", "ctrl+a")
         self.output("xdotool", "type", str(victim.pid))
         self.output("xdotool", "key", "Return")
-        self.type_keys("key", "Delete")
-        self.wait_for(lambda: self.active_window() not in ("Processes", ""))
-        self.assertIsNone(victim.poll())
-        self.output("xdotool", "key", "alt+k")
-        self.assertEqual(victim.wait(20), -signal.SIGTERM)
+
+        def act(key, agree):
+            self.type_keys("key", key)
+            self.wait_for(lambda: self.active_window() == "Lurkwell")
+            self.assertIsNone(victim.poll())
+            self.output("xdotool", "key", agree)
+            self.wait_for(lambda: self.active_window() == "Processes")
+
+        def state():
+            return pathlib.Path(f"/proc/{victim.pid}/stat").read_text().rsplit(")", 1)[1].split()[0]
+
+        act("ctrl+h", "Return")
+        time.sleep(0.5)
+        self.assertNotEqual(state(), "T", "Return refuses")
+        act("ctrl+h", "alt+h")
+        self.wait_for(lambda: state() == "T")
+        self.type_keys("key", "ctrl+shift+h")
+        self.wait_for(lambda: state() != "T")
+        # Asked to end twice, which it does not hear, then ended by force.
+        for _ in range(3):
+            act("Delete", "alt+k")
+        self.assertEqual(victim.wait(20), -signal.SIGKILL)
 
 
 if __name__ == "__main__":

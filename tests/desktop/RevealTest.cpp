@@ -24,6 +24,8 @@ class FakeFileManager final : public QDBusVirtualObject {
   }
   ~FakeFileManager() override { QDBusConnection::disconnectFromBus("fake"); }
 
+  void Leave() { EXPECT_TRUE(mBus.unregisterService("org.freedesktop.FileManager1")); }
+
   QString introspect(const QString&) const override { return {}; }
   bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
     EXPECT_EQ(message.interface(), "org.freedesktop.FileManager1");
@@ -61,6 +63,15 @@ TEST(Reveal, AsksTheFileManagerForTheEntryOrTheProgram) {
   EXPECT_TRUE(shows({1, 1}, "file://" + processes.EntryPath("known")));
   EXPECT_TRUE(shows({2, 2}, "file:///opt/a%20b/%C3%BC%23%3F"));
   EXPECT_FALSE(manager.Reveal({3, 3}));
+  // The next has no file manager to ask.
+  std::string failed;
+  manager.WhenRevealFails([&failed](const std::string& file) { failed = file; });
+  fileManager.Leave();
+  EXPECT_TRUE(manager.Reveal({1, 1})) << "nobody waits for the answer";
+  EXPECT_TRUE(ComesTrue([&] {
+    QCoreApplication::processEvents();
+    return failed == processes.EntryPath("known");
+  }));
   bus.End();
   EXPECT_TRUE(ComesTrue([&] {
     QCoreApplication::processEvents();

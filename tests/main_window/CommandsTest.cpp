@@ -1,8 +1,13 @@
 // What is done to the selected processes, seen from what reaches the machine.
 #include <QClipboard>
-#include <QMessageBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QStatusBar>
+#include <QTableWidget>
 #include <QTimer>
 
 #include "main_window/MainWindowTest.h"
@@ -29,19 +34,37 @@ class CommandsTest : public MainWindowTest {
     return name != nullptr ? name : "";
   }
 
-  /// Answers the next question with a button, after noting what it says.
+  /// Answers the next question with a button, after noting all that it says.
   void Answer(const char* button) {
     QTimer::singleShot(10, &machineRoom, [this, button] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (box == nullptr) return Answer(button);
-      question = box->text().toStdString();
-      EXPECT_EQ(box->textFormat(), Qt::PlainText);
-      for (auto* candidate : box->buttons())
+      question.clear();
+      for (const auto* label : box->findChildren<QLabel*>()) {
+        EXPECT_NE(label->textFormat(), Qt::RichText);
+        if (!label->text().isEmpty()) question += label->text().toStdString() + "\n";
+      }
+      for (const auto* field : box->findChildren<QPlainTextEdit*>())
+        question += field->toPlainText().toStdString() + "\n";
+      for (const auto* list : box->findChildren<QTableWidget*>())
+        for (int row = 0; row < list->rowCount(); ++row)
+          for (int column = 0; column < list->columnCount(); ++column)
+            question += list->item(row, column)->text().toStdString() +
+                        (column + 1 == list->columnCount() ? "\n" : "|");
+      for (auto* candidate : box->findChildren<QPushButton*>())
         if (candidate->text().remove(QLatin1Char('&')) == QLatin1String(button))
           return candidate->click();
       ADD_FAILURE() << "no button " << button;
       box->reject();
     });
+  }
+
+  /// Chooses an item whose question is agreed to.
+  void ChooseAndAgree(const char* id, const char* button) {
+    question.clear();
+    Answer(button);
+    Choose(id);
+    EXPECT_NE(question, "") << id << " asked nothing";
   }
 
   /// A window manager would give the keyboard back after a question.
@@ -51,15 +74,27 @@ class CommandsTest : public MainWindowTest {
     QTest::keyClick(&window->table(), Qt::Key_Delete);
   }
 
+  std::string Said() { return window->statusBar()->currentMessage().toStdString(); }
+
   std::string question;
   /// Answers that nobody asked for end with it.
   QObject machineRoom;
 };
 
-TEST_F(CommandsTest, EachKillIsHarsherThanTheOneBefore) {
+TEST_F(CommandsTest, EachKillIsHarsherThanTheOneBeforeAndSaysSo) {
   OpenWith({300, 301});
   Select({300});
-  for (int i = 0; i < 4; ++i) Choose("menu_process_quit_or_kill");
+  const auto kill = [this] {
+    ChooseAndAgree("menu_process_quit_or_kill", "Kill");
+    return question;
+  };
+  EXPECT_NE(kill().find("asked to end (SIGTERM)"), std::string::npos) << question;
+  EXPECT_EQ(Said(), "p300 (300) was asked to end.");
+  EXPECT_NE(kill().find("asked to end once and is still there"), std::string::npos) << question;
+  EXPECT_NE(kill().find("asked to end twice; now it is ended by force"), std::string::npos)
+      << question;
+  EXPECT_EQ(Said(), "p300 (300) was ended by force.");
+  kill();
   EXPECT_EQ(Done(),
             "Signals.Send 300 15\n"
             "Helper Lkw Action Request:\\nkill_normal 300\n"
@@ -68,11 +103,36 @@ TEST_F(CommandsTest, EachKillIsHarsherThanTheOneBefore) {
   machine.processManager.Launch({5, 301}, 301, "Editor");
   Turn();
   Select({300, 301});
-  Choose("menu_process_quit_or_kill");
-  Choose("menu_process_quit_or_kill");
+  EXPECT_NE(kill().find("is ended by force"), std::string::npos) << question;
+  kill();
   EXPECT_EQ(Done(),
             "Helper Lkw Action Request:\\nkill_harsh 300\nProcessManager.Quit 5 301\n"
             "Helper Lkw Action Request:\\nkill_harsh 300\nSignals.Send 301 15\n");
+}
+
+TEST_F(CommandsTest, OneApplicationQuitsWithoutAQuestion) {
+  OpenWith({300, 301});
+  machine.processManager.Launch({5, 301}, 301, "Editor");
+  Turn();
+  Select({301});
+  PressDelete();
+  EXPECT_EQ(Done(), "ProcessManager.Quit 5 301\n");
+  EXPECT_EQ(Said(), "Editor (301) was asked to quit.");
+}
+
+TEST_F(CommandsTest, WhatWasRefusedIsSaid) {
+  OpenWith({300, 301});
+  Select({1, 300});
+  machine.namedPipes.SetHelper([](std::string_view) { return "!Error refused"; });
+  ChooseAndAgree("menu_process_halt", "Halt");
+  EXPECT_EQ(Said(),
+            "Nothing was done to launchd (1): the system depends on it. "
+            "Nothing was done to p300 (300): you may not do that without an administrator's "
+            "rights.");
+  EXPECT_EQ(Badge(300), "");
+  Select({1});
+  Choose("menu_process_low_priority");
+  EXPECT_EQ(Said(), "Nothing was done to launchd (1): the system depends on it.");
 }
 
 // The table is not due yet when another client hears of the end; numbers beyond 127 are forgotten.
@@ -94,15 +154,18 @@ TEST_F(CommandsTest, AGuestThatHasEndedIsNotAskedToQuit) {
   machine.log.Clear();
   Choose("menu_process_quit_or_kill");
   EXPECT_EQ(Done(), "");
+  EXPECT_EQ(Said(), "");
 }
 
 TEST_F(CommandsTest, DeleteAsksFirstAndNamesTheProcess) {
   OpenWith({300, 301});
   Select({300});
+  machine.processTable.Find(300)->owner = "root";
+  machine.processTable.Find(300)->commandLine = "/bin/p300 --all\n<b>";
   Answer("Cancel");
   PressDelete();
-  EXPECT_NE(question.find("300"), std::string::npos) << question;
-  EXPECT_NE(question.find("p300"), std::string::npos) << question;
+  for (const char* part : {"process 300 (p300)?", "root", "/bin/p300 --all\\012<b>"})
+    EXPECT_NE(question.find(part), std::string::npos) << part << " in " << question;
   EXPECT_EQ(Done(), "");
   Answer("Kill");
   PressDelete();
@@ -110,7 +173,10 @@ TEST_F(CommandsTest, DeleteAsksFirstAndNamesTheProcess) {
   Select({300, 301});
   Answer("Kill");
   PressDelete();
-  EXPECT_NE(question.find("2"), std::string::npos) << question;
+  for (const char* part :
+       {"Kill 2 processes?", "1 of them belongs to another user.",
+        "p300|300|root|is asked to end again|", "p301|301|user|is asked to end|not known"})
+    EXPECT_NE(question.find(part), std::string::npos) << part << " in " << question;
   EXPECT_EQ(Done(), "Helper Lkw Action Request:\\nkill_normal 300\nSignals.Send 301 15\n");
 }
 
@@ -123,7 +189,7 @@ TEST_F(CommandsTest, TheQuestionHoldsForWhatIsLeftWhenItIsAnswered) {
   Select({302});
   Answer("Cancel");
   PressDelete();
-  EXPECT_EQ(question, "Kill process 302 (<b>&\\012)?");
+  EXPECT_TRUE(question.starts_with("Kill process 302 (<b>&\\012)?\n")) << question;
   Select({300, 301});
   QTimer::singleShot(0, &machineRoom, [this] {
     machine.processTable.Death(300);
@@ -142,7 +208,7 @@ TEST_F(CommandsTest, PrioritiesAndHaltsShowBadgesAtOnce) {
   Select({300});
   Choose("menu_process_high_priority");
   EXPECT_EQ(Badge(300), "process_niced_high");
-  Choose("menu_process_halt");
+  ChooseAndAgree("menu_process_halt", "Halt");
   EXPECT_EQ(Badge(300), "process_niced_high") << "a priority hides a halt";
   EXPECT_FALSE(controller().index(2, 2).data(Qt::DecorationRole).value<QIcon>().isNull());
   Choose("menu_process_low_priority");
@@ -157,8 +223,11 @@ TEST_F(CommandsTest, PrioritiesAndHaltsShowBadgesAtOnce) {
 
   // With one halted and one running.
   Select({300, 301});
-  EXPECT_FALSE(Action("menu_process_halt").isEnabled());
   EXPECT_TRUE(controller().validateToolbarItem("vqToolbarProcessContinue"));
+  ChooseAndAgree("menu_process_halt", "Halt");
+  EXPECT_TRUE(question.starts_with("Halt process 301 (p301)?")) << "the other is: " << question;
+  EXPECT_EQ(Done(), "Helper Lkw Action Request:\\nkill_halt 301\n");
+  EXPECT_FALSE(Action("menu_process_halt").isEnabled());
   Choose("menu_process_continue");
   EXPECT_TRUE(Action("menu_process_halt").isEnabled());
   EXPECT_FALSE(Action("menu_process_continue").isEnabled());
@@ -203,11 +272,10 @@ TEST_F(CommandsTest, ApplicationCommandsReachApplicationsAlone) {
 TEST_F(CommandsTest, WithoutASelectionNothingCanBeDone) {
   OpenWith({300});
   window->table().clearSelection();
-  for (const char* id :
-       {"menu_process_quit_or_kill", "menu_process_kill", "menu_process_halt",
-        "menu_process_continue", "menu_process_high_priority", "menu_process_low_priority",
-        "menu_process_normal_priority", "menu_process_hide", "menu_file_new_cpu_history",
-        "menu_file_new_logging", "menu_edit_copy"})
+  for (const char* id : {"menu_process_quit_or_kill", "menu_process_halt", "menu_process_continue",
+                         "menu_process_high_priority", "menu_process_low_priority",
+                         "menu_process_normal_priority", "menu_process_hide",
+                         "menu_file_new_cpu_history", "menu_file_new_logging", "menu_edit_copy"})
     EXPECT_FALSE(Action(id).isEnabled()) << id;
   EXPECT_TRUE(controller().validateToolbarItem("vqToolbarShowPreferences"));
   for (const char* item : {"vqToolbarKill", "vqToolbarHighPriority", "vqToolbarHideProcess",
@@ -262,7 +330,7 @@ TEST_F(CommandsTest, WindowsThatFollowAProcessOpenForEachSelectedOne) {
   window->table().selectAll();
   Answer("Cancel");
   Choose("menu_file_new_logging");
-  EXPECT_EQ(question, "Open 34 new windows?");
+  EXPECT_NE(question.find("Open 34 new windows?"), std::string::npos) << question;
   EXPECT_EQ(windows.opened, "");
   windows.room = 25;
   const auto writes = machine.preferenceDomain.SynchronizeCount();
@@ -274,30 +342,111 @@ TEST_F(CommandsTest, WindowsThatFollowAProcessOpenForEachSelectedOne) {
   };
   agree();
   Choose("menu_file_new_logging");
-  EXPECT_EQ(question, "25 of 34 windows were opened.");
+  EXPECT_NE(question.find("25 of 34 windows were opened."), std::string::npos) << question;
   EXPECT_EQ(std::ranges::count(windows.opened, '\n'), 25);
   EXPECT_EQ(machine.preferenceDomain.SynchronizeCount(), writes + 1);
 }
 
-TEST_F(CommandsTest, ARightClickTakesItsRowAndOpensTheMenu) {
+TEST_F(CommandsTest, ClicksSelectAndOnlyTheSecondButtonOrAKeyOpensTheMenu) {
   OpenWith({300, 301});
   auto& menu = window->menus().ContextMenu();
-  auto* viewport = window->table().viewport();
-  const auto at = [&](int row) {
-    return window->table().visualRect(controller().index(row, 3)).center();
+  auto& table = window->table();
+  const auto at = [&](int row) { return table.visualRect(controller().index(row, 3)).center(); };
+  const auto click = [&](Qt::MouseButton button, const QPoint& place,
+                         Qt::KeyboardModifiers keys = {}) {
+    QTest::mouseClick(table.viewport(), button, keys, place);
   };
   Select({300, 301});
-  QTest::mouseClick(viewport, Qt::RightButton, {}, at(1));
-  EXPECT_EQ(Selected(), "1");
+  click(Qt::RightButton, at(3));
+  EXPECT_EQ(Selected(), "300 301") << "a click on a part of the selection leaves it";
   EXPECT_TRUE(menu.isVisible());
+  const auto kill = [&] {
+    const auto place = menu.actionGeometry(&Action("menu_process_quit_or_kill")).center();
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, place);
+  };
+  kill();
+  EXPECT_TRUE(menu.isVisible()) << "a click that was meant for the table";
+  EXPECT_EQ(Done(), "");
+  QTest::qWait(StripedTableView::kDeadTime);
+  Answer("Cancel");
+  kill();
+  EXPECT_FALSE(menu.isVisible());
+  EXPECT_NE(question.find("2 processes"), std::string::npos) << question;
+  click(Qt::RightButton, at(1));
+  EXPECT_EQ(Selected(), "1");
   menu.close();
-  QTest::mouseClick(viewport, Qt::RightButton, {}, QPoint(50, at(3).y() + 60));
+  click(Qt::RightButton, QPoint(50, at(3).y() + 60));
   EXPECT_FALSE(menu.isVisible()) << "below the last row";
   EXPECT_EQ(Selected(), "1");
-  QTest::mouseClick(viewport, Qt::LeftButton, Qt::ControlModifier, at(2));
-  EXPECT_EQ(Selected(), "1 300") << "the click's own selection stays";
+  for (const int row : {2, 3}) click(Qt::LeftButton, at(row), Qt::ControlModifier);
+  EXPECT_EQ(Selected(), "1 300 301");
+  EXPECT_FALSE(menu.isVisible());
+  QTest::keyClick(&table, Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_TRUE(menu.isVisible());
+  EXPECT_EQ(Selected(), "1 300 301");
   menu.close();
+}
+
+TEST_F(CommandsTest, AFoundRowStaysInSightUntilTheUserScrolls) {
+  machine.helper.SetRecordsFigures(false);
+  for (int pid = 300; pid < 400; ++pid)
+    machine.processTable.Birth(pid, "p" + std::to_string(pid)).UseCPU(1);
+  Open();
+  ClickHeader("internal_CPUPercent");
+  auto& table = window->table();
+  const auto inSight = [&] {
+    const auto* row = controller().rows().Find(350);
+    return table.viewport()->rect().contains(
+        table.visualRect(controller().index(row->shownIndex, 0)).center());
+  };
+  const auto move = [&](bool up) {
+    for (int pid = 300; pid < 400; ++pid)
+      if ((pid == 350) == up) machine.processTable.Find(pid)->UseCPU(500);
+    Turn();
+    return controller().rows().Find(350)->shownIndex;
+  };
+  ASSERT_TRUE(controller().selectPid(350));
+  const int low = move(false);
+  EXPECT_TRUE(inSight()) << low;
+  const int high = move(true);
+  EXPECT_GT(std::abs(low - high), 90);
+  EXPECT_TRUE(inSight()) << high;
+  table.verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+  const int place = table.verticalScrollBar()->value();
+  move(false);
+  EXPECT_EQ(table.verticalScrollBar()->value(), place);
+  QTest::keyClick(&table, Qt::Key_End);
+  EXPECT_EQ(table.currentIndex().row(), controller().rowCount() - 1);
+  QTest::keyClick(&table, Qt::Key_Home, Qt::ShiftModifier);
+  EXPECT_EQ(controller().selectedPids().size(), static_cast<std::size_t>(controller().rowCount()));
+  QTest::keyClick(&table, Qt::Key_Home);
+  EXPECT_EQ(table.currentIndex().row(), 0);
+}
+
+TEST_F(CommandsTest, FindByIdTakesWholeNumbersOfLiveProcesses) {
+  OpenWith({300, 999});
+  QStringList complaints;
+  QTimer::singleShot(10, &machineRoom, [&] {
+    auto* dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    auto* field = dialog->findChild<QLineEdit*>();
+    for (const char* text : {"9999", "99999", "abc", "12a", "-3", " 999 "}) {
+      field->selectAll();
+      QTest::keyClicks(field, QLatin1String(text));
+      QTest::keyClick(field, Qt::Key_Return);
+      if (!dialog->isVisible()) return;
+      EXPECT_EQ(field->text(), QLatin1String(text)) << "nothing typed is lost";
+      for (const auto* label : dialog->findChildren<QLabel*>())
+        if (label->wordWrap()) complaints.append(label->text());
+    }
+    ADD_FAILURE() << "999 is there";
+    dialog->close();
+  });
+  Choose("menu_process_by_id");
+  EXPECT_EQ(Selected(), "999");
+  const auto noNumber = QLatin1String("A process ID is a number from 0 to 65535.");
+  EXPECT_EQ(complaints,
+            QStringList({"There is no process 9999.", noNumber, noNumber, noNumber, noNumber}));
 }
 
 }  // namespace

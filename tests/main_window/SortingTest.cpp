@@ -95,7 +95,7 @@ TEST_F(SortingTest, ApplicationsAndMarkedProcessesComeFirst) {
   ClickHeader("internal_Icon");
   EXPECT_EQ(Pids(), "1 0 32 30 31");
   Select({32});
-  Choose("menu_process_halt");
+  Choose("menu_process_high_priority");
   ClickHeader("internal_Indicator");
   EXPECT_EQ(Pids(), "32 31 30 0 1");
 }

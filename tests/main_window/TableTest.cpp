@@ -185,8 +185,8 @@ TEST_F(TableTest, WhileAMenuIsOpenRowsKeepTheirPlaces) {
   Turn();
   Turn();
   machine.log.Clear();
-  controller().processHaltMenuItem();
-  EXPECT_EQ(machine.log.Take(), "Helper Lkw Action Request:\\nkill_halt 302\n");
+  controller().processHighPriorityMenuItem();
+  EXPECT_EQ(machine.log.Take(), "Helper Lkw Action Request:\\nrenice 302 -19\n");
   window->menus().ContextMenu().hide();
   table.Find(303)->UseCPU(1000);
   Turn();

@@ -250,5 +250,31 @@ TEST(LiveSignals, ReachTheProcessThatIsMeantAndNoOther) {
             "");
 }
 
+TEST(LiveProcesses, AreDescribedByOwnerCommandLineAndState) {
+  ASSERT_EQ(::geteuid(), 0U) << "needs root to make a process of another user";
+  LinuxProcessTable table;
+  const Child own;
+  const Child other([] {
+    if (::setuid(1) != 0) ::_exit(1);
+  });
+  ::kill(other.Pid(), SIGSTOP);
+  int status = 0;
+  ::waitpid(other.Pid(), &status, WUNTRACED);
+  const std::vector<std::int32_t> pids{other.Pid(), 2'000'000'000, own.Pid(), 2};
+  const auto described = table.Describe(pids);
+  ASSERT_GE(described.size(), 2U);
+  EXPECT_EQ(described[0].process, table.CurrentIdentity(other.Pid()));
+  EXPECT_EQ(described[0].owner, "daemon");
+  EXPECT_FALSE(described[0].isOwn);
+  EXPECT_TRUE(described[0].isStopped);
+  EXPECT_EQ(described[1].owner, "root");
+  EXPECT_TRUE(described[1].isOwn);
+  EXPECT_FALSE(described[1].isStopped || described[1].isKernelThread);
+  EXPECT_NE(described[1].commandLine.find("platform_live_processes"), std::string::npos);
+  // The kernel's own, where the namespace has it.
+  if (described.size() != 3) return;
+  EXPECT_EQ(described[2].isKernelThread, described[2].commandLine.empty());
+}
+
 }  // namespace
 }  // namespace lurkwell

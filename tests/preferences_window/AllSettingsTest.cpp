@@ -64,7 +64,7 @@ TEST_F(AllSettingsTest, TakesWhatFitsAndRefusesTheRestWithAReason) {
   EXPECT_EQ(Heard(), "");
   EXPECT_TRUE(Enter("MAIN_WINDOW_INTERVAL", " 150 "));
   EXPECT_EQ(Stored("MAIN_WINDOW_INTERVAL"), 150);
-  EXPECT_EQ(Text("mainWindowIntervalText"), "6 time(s) per second") << "the panel shows it, too";
+  EXPECT_EQ(Text("mainWindowIntervalText"), "6 times per second") << "the panel shows it, too";
   EXPECT_EQ(Heard(), "VQTarvMainWindowInfoSynch preferences\n");
   EXPECT_TRUE(Enter("CPU_HISTORY_WINDOW_DEFAULT_FILTER", "0.25"));
   EXPECT_EQ(Stored("CPU_HISTORY_WINDOW_DEFAULT_FILTER"), 0.25);

@@ -96,17 +96,17 @@ TEST_F(IntervalScaleTest, WhatTheScaleDoesNotHaveFailsAndGoesOn) {
 }
 
 TEST_F(IntervalScaleTest, Words) {
-  EXPECT_EQ(Words(100), "10 time(s) per second");
-  EXPECT_EQ(Words(333), "3 time(s) per second");
-  EXPECT_EQ(Words(999), "1 time(s) per second");
-  EXPECT_EQ(Words(1'500), "every 1 seconds");
+  EXPECT_EQ(Words(100), "10 times per second");
+  EXPECT_EQ(Words(333), "3 times per second");
+  EXPECT_EQ(Words(999), "once per second");
+  EXPECT_EQ(Words(1'500), "every second");
   EXPECT_EQ(Words(59'999), "every 59 seconds");
-  EXPECT_EQ(Words(60'000), "every 1 minute(s)");
-  EXPECT_EQ(Words(3'599'999), "every 59 minute(s)");
+  EXPECT_EQ(Words(60'000), "every minute");
+  EXPECT_EQ(Words(3'599'999), "every 59 minutes");
   EXPECT_EQ(Words(3'600'000), "every hour");
   EXPECT_EQ(Words(3'600'001), "invalid input. Can't convert");
   EXPECT_EQ(Failures(), "");
-  EXPECT_EQ(Words(50), "20 time(s) per second");
+  EXPECT_EQ(Words(50), "20 times per second");
   ExpectFailure("givenMillisecondsCalcStringDescriptionForMainWindowFreq",
                 "invalid (too small) millisecond input");
 }
@@ -125,11 +125,11 @@ TEST_F(IntervalScaleTest, WhatAFileMayHoldIsShownWithoutFailing) {
     EXPECT_EQ(NearestPosition(milliseconds), position) << milliseconds;
     EXPECT_NE(DescriptionOfStored(milliseconds), "");
   }
-  EXPECT_EQ(DescriptionOfStored(150), "6 time(s) per second");
-  EXPECT_EQ(DescriptionOfStored(50), "20 time(s) per second");
+  EXPECT_EQ(DescriptionOfStored(150), "6 times per second");
+  EXPECT_EQ(DescriptionOfStored(50), "20 times per second");
   // Nothing is served more often.
-  EXPECT_EQ(DescriptionOfStored(-7), "50 time(s) per second");
-  EXPECT_EQ(DescriptionOfStored(7'200'000), "every 120 minute(s)");
+  EXPECT_EQ(DescriptionOfStored(-7), "50 times per second");
+  EXPECT_EQ(DescriptionOfStored(7'200'000), "every 120 minutes");
   EXPECT_EQ(Failures(), "");
 }
 

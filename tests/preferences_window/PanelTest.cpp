@@ -67,10 +67,10 @@ TEST_F(PanelTest, ValuesThatNoControlCanShowAreShownNearlyAndKept) {
   EXPECT_EQ(testing::internal::GetCapturedStderr().find("assertion"), std::string::npos);
   EXPECT_EQ(Find<QTabWidget>("tabView").currentIndex(), 0);
   EXPECT_EQ(At("mainWindowIntervalSlider"), 60);
-  EXPECT_EQ(Text("mainWindowIntervalText"), "6 time(s) per second");
+  EXPECT_EQ(Text("mainWindowIntervalText"), "6 times per second");
   EXPECT_EQ(At("loggingIntervalSlider"), 0);
-  EXPECT_EQ(Text("loggingIntervalText"), "20 time(s) per second");
-  EXPECT_EQ(Text("historyIntervalText"), "4 time(s) per second") << "the default";
+  EXPECT_EQ(Text("loggingIntervalText"), "20 times per second");
+  EXPECT_EQ(Text("historyIntervalText"), "4 times per second") << "the default";
   EXPECT_EQ(At("windowAlphaSlider"), 0);
   EXPECT_TRUE(Find<QRadioButton>("memoryFormatMatrixAutomatic").isChecked());
   EXPECT_EQ(machine.preferenceDomain.Values(), before) << "opening stored something";

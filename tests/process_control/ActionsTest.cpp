@@ -1,4 +1,5 @@
 #include "consolidator/PI_Consolidator.h"
+#include "process_control/ActionPlan.h"
 #include "process_control/ProcessActions.h"
 #include "process_control/SimulatedControl.h"
 #include "support/RecordingClient.h"
@@ -14,6 +15,7 @@ class ActionsTest : public SimulatedControl {
   ActionsTest() {
     machine.processTable.Birth(kFaceless, "faceless");
     machine.processTable.Birth(kApplication, "application");
+    for (std::int32_t pid = 70; pid < 80; ++pid) machine.processTable.Birth(pid, "other");
     machine.processManager.Launch({1, 5}, kApplication, "Application");
     machine.processManager.Launch({2, 9}, std::nullopt, "Classic Application");
     NormalInternalLaunchDaemon("/helper", nullptr);
@@ -56,6 +58,114 @@ TEST_F(ActionsTest, KillingGetsHarsherWithEachCall) {
   EXPECT_DEATH(KillProcess(-99),
                "ProcessActions:[0-9]+: failed assertion `psn.highLongOfPSN \\|\\| "
                "psn.lowLongOfPSN'");
+}
+
+TEST_F(ActionsTest, AStepThatLeadsNowhereGoesOnToTheNextAtOnce) {
+  machine.processManager.Launch({3, 70}, 70, "Without windows").cannotBeAskedToQuit = true;
+  machine.runLoop.RunFor(1000);
+  EXPECT_EQ(NextKillStep(70), KillStep::kTerminate) << "known before it is tried";
+  EXPECT_EQ(Killed(70, 3), "ProcessManager.Quit 3 70\nSignals.Send 70 15\n" +
+                               Request("kill_normal 70") + Request("kill_harsh 70"));
+  EXPECT_EQ(TimesAskedToEnd(70), 2);
+  machine.signals.refuses = true;
+  EXPECT_EQ(Killed(71, 2),
+            "Signals.Send 71 15\n" + Request("kill_normal 71") + Request("kill_harsh 71"));
+  EXPECT_EQ(TimesAskedToEnd(71), 1);
+}
+
+TEST_F(ActionsTest, WhatIsRefusedIsSaidLeavesNoBadgeAndIsNoStep) {
+  machine.signals.refuses = true;
+  machine.namedPipes.SetHelper([](std::string_view) { return "!Error not permitted\n"; });
+  const auto outcome = KillProcess(72);
+  EXPECT_EQ(outcome.result, ActionResult::kRefused);
+  EXPECT_EQ(outcome.step, KillStep::kTerminateByHelper);
+  EXPECT_EQ(NextKillStep(72), KillStep::kTerminate);
+  EXPECT_EQ(TimesAskedToEnd(72), 0);
+  EXPECT_EQ(HaltProcess(72), ActionResult::kRefused);
+  EXPECT_EQ(SetLowPriority(72), ActionResult::kRefused);
+  EXPECT_EQ(ProcessIndicatorImageName(72), nullptr);
+  machine.namedPipes.SetHelper([](std::string_view) { return "ok"; });
+  SetLowPriority(72);
+  machine.namedPipes.SetHelper([](std::string_view) { return "!Error not permitted\n"; });
+  EXPECT_EQ(SetNormalPriority(72), ActionResult::kRefused);
+  EXPECT_STREQ(ProcessIndicatorImageName(72), "process_niced_low") << "it still is";
+  machine.processTable.Death(72);
+  EXPECT_EQ(HaltProcess(72), ActionResult::kGone);
+  QuitHelperDaemon();
+  EXPECT_EQ(HaltProcess(73), ActionResult::kNoHelper);
+  EXPECT_EQ(ProcessIndicatorImageName(73), nullptr);
+}
+
+TEST_F(ActionsTest, BadgesFollowTheProcessAndTheKernel) {
+  const auto badge = [this](std::int32_t pid, std::int64_t milliseconds = 1000) {
+    machine.runLoop.RunFor(milliseconds);
+    const char* name = ProcessIndicatorImageName(pid);
+    return std::string(name != nullptr ? name : "");
+  };
+  HaltProcess(74);
+  SetHighPriority(75);
+  HaltProcess(76);
+  EXPECT_EQ(badge(74), "process_halted");
+  EXPECT_EQ(badge(75, 20'000), "process_niced_high");
+  // Somebody else acts.
+  machine.processTable.Continue(74);
+  machine.processTable.Find(75)->entry.nice = 5;
+  EXPECT_EQ(badge(74), "");
+  EXPECT_EQ(badge(75, 0), "");
+  // Another process gets the number.
+  machine.processTable.Death(76);
+  machine.processTable.Birth(76, "next");
+  EXPECT_EQ(badge(76, 3000), "");
+  // What takes a while to happen, and what never does.
+  machine.namedPipes.SetHelper([](std::string_view) { return "ok"; });
+  HaltProcess(77);
+  SetLowPriority(77);
+  EXPECT_EQ(badge(77), "process_niced_low");
+  EXPECT_TRUE(GetProcessAction(77, kProcessActionHalt, nullptr));
+  EXPECT_EQ(badge(77, 20'000), "");
+  testing::internal::CaptureStdout();
+  machine.processTable.Stop(78);
+  EXPECT_EQ(badge(78), "process_halted");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "detected a surreptitiously-halted process 78!\n");
+}
+
+TEST_F(ActionsTest, OneRuleSaysWhenTheUserIsAsked) {
+  using Command = ProcessCommand;
+  const auto asks = [](Command command, std::vector<std::int32_t> pids) {
+    return PlanAction(command, pids).asks;
+  };
+  const auto asked = [&](std::vector<std::int32_t> pids) {
+    std::string text;
+    for (const auto command :
+         {Command::kKill, Command::kHalt, Command::kContinue, Command::kHighPriority,
+          Command::kNormalPriority, Command::kLowPriority})
+      text += asks(command, pids) ? 'y' : '-';
+    return text;
+  };
+  EXPECT_EQ(asked({70}), "yy----");
+  EXPECT_EQ(asked({70, 71}), "yy---y");
+  EXPECT_EQ(asked({kApplication}), "-y----") << "it is asked to quit";
+  EXPECT_EQ(asked({kApplication, 70}), "yy---y");
+  machine.processTable.Find(71)->owner = "root";
+  EXPECT_EQ(asked({71}), "yy---y");
+  machine.processTable.Find(71)->entry.nice = -5;
+  EXPECT_EQ(asked({71}), "yy--yy") << "normal is lower, too";
+  machine.processTable.Find(kApplication)->owner = "root";
+  EXPECT_EQ(asked({kApplication}), "yy---y");
+
+  machine.processTable.Find(72)->isKernelThread = true;
+  const std::vector<std::int32_t> pids{0, 1, 70, 72, 79};
+  machine.processTable.Death(79);
+  auto plan = PlanAction(Command::kKill, pids);
+  ASSERT_EQ(plan.targets.size(), 1U);
+  machine.processTable.Death(70);
+  std::string became;
+  for (const auto& report : CarryOut(plan))
+    became +=
+        std::to_string(report.pid) + "=" + std::to_string(static_cast<int>(report.result)) + " ";
+  EXPECT_EQ(became, "70=1 0=2 1=2 72=3 79=1 ");
+  EXPECT_EQ(Log(), "") << "nothing was sent to anybody";
 }
 
 TEST_F(ActionsTest, TheFirstProcessesAreLeftAlone) {

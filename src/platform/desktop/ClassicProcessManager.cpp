@@ -155,6 +155,10 @@ bool ClassicProcessManager::Quit(ProcessSerialNumber psn) {
          EventBus::kNoError;
 }
 
+bool ClassicProcessManager::CanQuit(ProcessSerialNumber psn) {
+  return Find(psn) != nullptr || mDesktop.CanQuit(psn);
+}
+
 // Guests have no windows of their own on this desktop, nor files that could be shown.
 
 bool ClassicProcessManager::ShowHideProcess(ProcessSerialNumber psn, bool show) {
@@ -167,6 +171,10 @@ bool ClassicProcessManager::SetFrontProcess(ProcessSerialNumber psn) {
 
 bool ClassicProcessManager::Reveal(ProcessSerialNumber psn) {
   return Find(psn) == nullptr && mDesktop.Reveal(psn);
+}
+
+void ClassicProcessManager::WhenRevealFails(std::function<void(const std::string& file)> tell) {
+  mDesktop.WhenRevealFails(std::move(tell));
 }
 
 }  // namespace lurkwell

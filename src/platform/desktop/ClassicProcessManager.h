@@ -36,9 +36,11 @@ class ClassicProcessManager final : public QObject, public ProcessManager {
   std::optional<ProcessSerialNumber> GetProcessForPID(std::int32_t pid) override;
   ProcessSerialNumber GetCurrentProcess() override;
   bool Quit(ProcessSerialNumber psn) override;
+  bool CanQuit(ProcessSerialNumber psn) override;
   bool ShowHideProcess(ProcessSerialNumber psn, bool show) override;
   bool SetFrontProcess(ProcessSerialNumber psn) override;
   bool Reveal(ProcessSerialNumber psn) override;
+  void WhenRevealFails(std::function<void(const std::string& file)> tell) override;
 
  private Q_SLOTS:
   void GuestsHaveChanged();

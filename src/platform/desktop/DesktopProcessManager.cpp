@@ -61,7 +61,8 @@ class DesktopProcessManager::Desktop {
 
   XConnection* Connection() const { return mX ? mX->Connection() : nullptr; }
   const WindowList* Windows() const { return mX ? mX->Windows() : nullptr; }
-  bool Show(const KnownApplication& application) const;
+  bool Show(const KnownApplication& application);
+  FileManager& Files() { return mFileManager; }
 
  private:
   using WindowsByProcess = std::unordered_map<std::int32_t, std::vector<const DesktopWindow*>>;
@@ -191,7 +192,7 @@ KnownApplication* DesktopProcessManager::Desktop::FindRunning(ProcessSerialNumbe
   return known != nullptr && mProcesses.IsThere(known->process) ? known : nullptr;
 }
 
-bool DesktopProcessManager::Desktop::Show(const KnownApplication& application) const {
+bool DesktopProcessManager::Desktop::Show(const KnownApplication& application) {
   return mFileManager.Show(application.entry ? application.entry->path
                                              : mProcesses.Executable(application.process.pid));
 }
@@ -235,6 +236,11 @@ bool DesktopProcessManager::Quit(ProcessSerialNumber psn) {
   return CloseWindows(*connection, *mDesktop->Windows(), known->windows);
 }
 
+bool DesktopProcessManager::CanQuit(ProcessSerialNumber psn) {
+  const auto* known = mDesktop->FindRunning(psn);
+  return known != nullptr && mDesktop->Connection() != nullptr && !known->windows.empty();
+}
+
 /// What was iconified by the user stays so, unless nothing else is there to be shown.
 bool DesktopProcessManager::ShowHideProcess(ProcessSerialNumber psn, bool show) {
   auto* known = mDesktop->FindRunning(psn);
@@ -265,6 +271,10 @@ bool DesktopProcessManager::SetFrontProcess(ProcessSerialNumber psn) {
 bool DesktopProcessManager::Reveal(ProcessSerialNumber psn) {
   const auto* known = mDesktop->FindRunning(psn);
   return known != nullptr && mDesktop->Show(*known);
+}
+
+void DesktopProcessManager::WhenRevealFails(std::function<void(const std::string& file)> tell) {
+  mDesktop->Files().WhenShowingFails(std::move(tell));
 }
 
 std::optional<DesktopProcessManager::IconSource> DesktopProcessManager::IconSourceOf(

@@ -36,9 +36,11 @@ class DesktopProcessManager final : public ProcessManager {
   std::optional<std::int32_t> GetProcessPID(ProcessSerialNumber psn) override;
   std::optional<ProcessSerialNumber> GetProcessForPID(std::int32_t pid) override;
   bool Quit(ProcessSerialNumber psn) override;
+  bool CanQuit(ProcessSerialNumber psn) override;
   bool ShowHideProcess(ProcessSerialNumber psn, bool show) override;
   bool SetFrontProcess(ProcessSerialNumber psn) override;
   bool Reveal(ProcessSerialNumber psn) override;
+  void WhenRevealFails(std::function<void(const std::string& file)> tell) override;
 
   /// Where an application's icon comes from.
   struct IconSource {

@@ -2,7 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
 #include <QFile>
 #include <QStringList>
 #include <QUrl>
@@ -33,7 +33,13 @@ bool FileManager::Show(const std::string& path) const {
                                                 QStringLiteral("ShowItems"));
   const QUrl file = QUrl::fromLocalFile(QFile::decodeName(path.c_str()));
   message << QStringList(QString::fromLatin1(file.toEncoded())) << QString();
-  bus.asyncCall(message, kFileManagerAnswers);
+  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, kFileManagerAnswers));
+  QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+                   [watcher, path, failure = std::weak_ptr(mFailure)] {
+                     watcher->deleteLater();
+                     const auto tell = failure.lock();
+                     if (watcher->isError() && tell && *tell) (*tell)(path);
+                   });
   return true;
 }
 

@@ -13,6 +13,7 @@
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/NameReader.h"
 #include "platform/linux/ProcFiles.h"
+#include "platform/linux/ProcessDescriber.h"
 
 namespace lurkwell {
 
@@ -52,6 +53,9 @@ class LinuxProcessTable final : public ProcessTable {
   std::int32_t MaximumPid() const override { return mMaximumPid; }
 
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
+  std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override {
+    return ProcessDescriber(mFiles).Describe(pids);
+  }
   std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) override;
 
   /// How many stat files are open at present.

@@ -1,7 +1,5 @@
 #include "platform/linux/NameReader.h"
 
-#include <signal.h>
-
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -9,11 +7,11 @@
 #include <deque>
 #include <map>
 #include <mutex>
-#include <system_error>
 #include <thread>
 #include <utility>
 
 #include "platform/linux/CommandName.h"
+#include "platform/linux/QuietThread.h"
 
 namespace lurkwell {
 namespace {
@@ -39,21 +37,6 @@ struct Shelved {
   SteadyClock::time_point until;
   bool hangs = true;
 };
-
-std::thread StartWithoutSignals(auto body) {
-  sigset_t all;
-  sigset_t before;
-  ::sigfillset(&all);
-  ::pthread_sigmask(SIG_SETMASK, &all, &before);
-  std::thread thread;
-  try {
-    thread = std::thread(std::move(body));
-  } catch (const std::system_error&) {
-    // Names stay short while the system has no thread to spare.
-  }
-  ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
-  return thread;
-}
 
 }  // namespace
 

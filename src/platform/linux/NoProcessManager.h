@@ -14,9 +14,11 @@ class NoProcessManager final : public ProcessManager {
   std::optional<std::int32_t> GetProcessPID(ProcessSerialNumber) override { return {}; }
   std::optional<ProcessSerialNumber> GetProcessForPID(std::int32_t) override { return {}; }
   bool Quit(ProcessSerialNumber) override { return false; }
+  bool CanQuit(ProcessSerialNumber) override { return false; }
   bool ShowHideProcess(ProcessSerialNumber, bool) override { return false; }
   bool SetFrontProcess(ProcessSerialNumber) override { return false; }
   bool Reveal(ProcessSerialNumber) override { return false; }
+  void WhenRevealFails(std::function<void(const std::string&)>) override {}
 };
 
 }  // namespace lurkwell

@@ -147,8 +147,7 @@ bool PropertyListDomain::SetAside() {
     Complain("the preference file stays as it is", *fault);
     return false;
   }
-  std::fprintf(stderr, "Lurkwell: the preference file cannot be used (%s); it is kept as %s\n",
-               InWords(mUnfitness).c_str(), newPath.c_str());
+  Say("the preference file cannot be used (" + InWords(mUnfitness) + "); it is kept as " + newPath);
   mIsDocumentAhead = !mValues.empty();
   return true;
 }
@@ -214,8 +213,12 @@ bool PropertyListDomain::Write() {
 // Each cause once, whatever the step that met it.
 void PropertyListDomain::Complain(const char* what, const FileFault& fault) {
   const char* cause = fault.code != 0 ? std::strerror(fault.code) : fault.step;
-  if (mReported.emplace(what, cause).second)
-    std::fprintf(stderr, "Lurkwell: %s (%s)\n", what, InWords(fault).c_str());
+  if (mReported.emplace(what, cause).second) Say(what + std::string(" (") + InWords(fault) + ")");
+}
+
+void PropertyListDomain::Say(const std::string& complaint) {
+  std::fprintf(stderr, "Lurkwell: %s\n", complaint.c_str());
+  mComplaint += (mComplaint.empty() ? "" : "; ") + complaint;
 }
 
 }  // namespace lurkwell

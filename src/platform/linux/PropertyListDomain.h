@@ -37,6 +37,7 @@ class PropertyListDomain final : public PreferenceDomain {
   void SetValue(std::string_view key, PreferenceValue value) override;
   void RemoveValue(std::string_view key) override;
   bool Synchronize() override;
+  std::string TakeComplaint() override { return std::exchange(mComplaint, {}); }
 
  private:
   enum class Intake { kDone, kUnfit, kFailed };
@@ -49,6 +50,7 @@ class PropertyListDomain final : public PreferenceDomain {
   bool BringChangesIntoDocument();
   bool Write();
   void Complain(const char* what, const FileFault& fault);
+  void Say(const std::string& complaint);
 
   PreferenceFile mFile;
   bool mHasFolder;
@@ -62,6 +64,8 @@ class PropertyListDomain final : public PreferenceDomain {
   FileFault mUnfitness;
   bool mLockWasBusy = false;
   std::set<std::pair<std::string, std::string>> mReported;
+  // Nobody has taken it yet.
+  std::string mComplaint;
 };
 
 }  // namespace lurkwell

@@ -1,6 +1,8 @@
 #include "platform/simulated/SimulatedHelper.h"
 
+#include <algorithm>
 #include <charconv>
+#include <sstream>
 
 namespace lurkwell {
 namespace {
@@ -76,8 +78,23 @@ std::string SimulatedHelper::Answer(std::string_view request) {
   if (!figures || mRecordsFigures) mLog.Add("Helper " + Escaped(request));
   if (request == "geteuid") return std::to_string(mEffectiveUid);
   if (figures) return AnswerFigures(request.substr(kFiguresHeader.size()));
-  if (request.starts_with(kActionHeader)) return "done";
+  if (request.starts_with(kActionHeader)) return CarryOut(request.substr(kActionHeader.size()));
   return "!Error unknown request";
+}
+
+/// What stops, resumes or renices a process does so; nothing ends one.
+std::string SimulatedHelper::CarryOut(std::string_view line) {
+  std::istringstream words{std::string(line)};
+  std::string verb;
+  std::int32_t pid = kInvalidPID;
+  std::int32_t nice = 0;
+  words >> verb >> pid >> nice;
+  auto* process = mTable.Find(pid);
+  if (process == nullptr) return "done";
+  if (verb == "kill_halt") process->entry.state = RunState::kStopped;
+  if (verb == "kill_cont") process->entry.state = RunState::kSleeping;
+  if (verb == "renice") process->entry.nice = std::min(nice, 19);
+  return "done";
 }
 
 std::string SimulatedHelper::AnswerFigures(std::string_view lines) {

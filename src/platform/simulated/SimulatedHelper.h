@@ -22,6 +22,7 @@ class SimulatedHelper {
   void SetRecordsFigures(bool records) { mRecordsFigures = records; }
 
  private:
+  std::string CarryOut(std::string_view line);
   std::string AnswerFigures(std::string_view lines);
 
   SimulatedProcessTable& mTable;

@@ -17,6 +17,8 @@ struct SimulatedApplication {
   ApplicationInformation information;
   /// Listed, but gone when it is asked about.
   bool cannotBeDescribed = false;
+  /// It has no windows.
+  bool cannotBeAskedToQuit = false;
 };
 
 /// A desktop whose applications a test adds, changes and removes; actions on them are recorded.
@@ -34,12 +36,21 @@ class SimulatedProcessManager final : public ProcessManager {
   std::optional<std::int32_t> GetProcessPID(ProcessSerialNumber psn) override;
   std::optional<ProcessSerialNumber> GetProcessForPID(std::int32_t pid) override;
   ProcessSerialNumber GetCurrentProcess() override { return {0x4242, 4242}; }
-  bool Quit(ProcessSerialNumber psn) override { return Act("Quit", psn); }
+  bool Quit(ProcessSerialNumber psn) override { return Act("Quit", psn) && CanQuit(psn); }
+  bool CanQuit(ProcessSerialNumber psn) override {
+    const auto* application = Find(psn);
+    return application != nullptr && !application->cannotBeAskedToQuit;
+  }
   bool ShowHideProcess(ProcessSerialNumber psn, bool show) override {
     return Act(show ? "Show" : "Hide", psn);
   }
   bool SetFrontProcess(ProcessSerialNumber psn) override { return Act("SetFrontProcess", psn); }
   bool Reveal(ProcessSerialNumber psn) override { return Act("Reveal", psn); }
+  void WhenRevealFails(std::function<void(const std::string&)> tell) override {
+    revealFails = std::move(tell);
+  }
+
+  std::function<void(const std::string&)> revealFails;
 
  private:
   bool Act(const std::string& action, ProcessSerialNumber psn);

@@ -68,6 +68,23 @@ std::optional<ProcessIdentity> SimulatedProcessTable::CurrentIdentity(std::int32
   return ProcessIdentity{pid, process->entry.startStamp};
 }
 
+std::vector<ProcessDescription> SimulatedProcessTable::Describe(
+    std::span<const std::int32_t> pids) {
+  std::vector<ProcessDescription> descriptions;
+  for (const auto pid : pids) {
+    const auto* process = Find(pid);
+    if (process == nullptr) continue;
+    descriptions.push_back({{pid, process->entry.startStamp},
+                            process->owner,
+                            process->owner == "user",
+                            process->isKernelThread,
+                            process->entry.state == RunState::kStopped,
+                            process->entry.nice,
+                            process->commandLine});
+  }
+  return descriptions;
+}
+
 std::optional<ProcessFigures> SimulatedProcessTable::FiguresOf(const ProcessTableEntry& entry) {
   const auto* process = mTellsFigures ? Find(entry.pid) : nullptr;
   if (process == nullptr) return std::nullopt;

@@ -23,6 +23,10 @@ struct SimulatedProcess {
   std::int64_t virtualSize = 0;
   std::int64_t residentSize = 0;
   std::int32_t policy = 1;
+  /// "user" is this program's.
+  std::string owner = "user";
+  std::string commandLine;
+  bool isKernelThread = false;
   /// Faults, pageins, copy-on-write faults, messages sent and received, Mach and Unix system calls,
   /// context switches.
   std::int64_t events[8] = {};
@@ -40,6 +44,7 @@ class SimulatedProcessTable final : public ProcessTable {
 
   std::span<const ProcessTableEntry> Read() override;
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
+  std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override;
   std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) override;
   std::int32_t MaximumPid() const override { return 65535; }
 

@@ -28,7 +28,7 @@ class SimulatedHostStatistics final : public HostStatistics {
   int processors = 1;
 };
 
-/// Signals are recorded, never sent.
+/// Signals are recorded, never sent; a test may have them refused.
 class SimulatedSignals final : public Signals {
  public:
   explicit SimulatedSignals(AccessLog& log) : mLog(log) {}
@@ -36,8 +36,10 @@ class SimulatedSignals final : public Signals {
   bool Send(ProcessIdentity process, int signal) override {
     if (process.pid < 2) return false;
     mLog.Add("Signals.Send " + std::to_string(process.pid) + " " + std::to_string(signal));
-    return true;
+    return !refuses;
   }
+
+  bool refuses = false;
 
  private:
   AccessLog& mLog;

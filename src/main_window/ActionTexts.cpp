@@ -1,0 +1,175 @@
+#include "main_window/ActionTexts.h"
+
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <algorithm>
+#include <map>
+#include <string>
+
+#include "main_window/PropertyText.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+/// Names after which a list goes on with dots.
+constexpr qsizetype kNamesInReport = 4;
+
+const char* CommandWord(const ActionPlan& plan) {
+  switch (plan.command) {
+    case ProcessCommand::kKill:
+      return IsQuitAlone(plan) ? "quit" : "kill";
+    case ProcessCommand::kHalt:
+      return "halt";
+    default:
+      return "lower";
+  }
+}
+
+QString Text(const char* prefix, const char* word, const char* suffix = "") {
+  return LocalizedString((std::string(prefix) + word + suffix).c_str());
+}
+
+QString TimesText(int times) {
+  if (times == 1) return LocalizedString("times_once");
+  if (times == 2) return LocalizedString("times_twice");
+  return LocalizedString("times_many").arg(times);
+}
+
+const char* StepWord(KillStep step, int timesAsked) {
+  switch (step) {
+    case KillStep::kQuit:
+      return "quit";
+    case KillStep::kTerminate:
+      return timesAsked == 0 ? "terminate" : "terminate_again";
+    case KillStep::kTerminateByHelper:
+      return timesAsked == 0 ? "terminate" : "helper";
+    case KillStep::kForce:
+      return timesAsked == 0 ? "force" : "force_at_last";
+  }
+  return "terminate";
+}
+
+/// The step in whole sentences.
+QString StepSentences(const ActionTarget& target) {
+  auto text = Text("action_next_", StepWord(target.step, target.timesAsked));
+  if (target.timesAsked > 0) text = text.arg(TimesText(target.timesAsked));
+  if (target.description.isStopped && target.step != KillStep::kForce)
+    text += QLatin1Char(' ') + LocalizedString("action_next_halted");
+  return text;
+}
+
+const char* OutcomeWord(ProcessCommand command, KillStep step) {
+  switch (command) {
+    case ProcessCommand::kKill:
+      return step == KillStep::kQuit ? "quit" : step == KillStep::kForce ? "force" : "terminate";
+    case ProcessCommand::kHalt:
+      return "halt";
+    case ProcessCommand::kContinue:
+      return "continue";
+    case ProcessCommand::kHighPriority:
+      return "high";
+    case ProcessCommand::kNormalPriority:
+      return "normal";
+    case ProcessCommand::kLowPriority:
+      return "low";
+  }
+  return "terminate";
+}
+
+const char* ReasonWord(ActionResult result) {
+  switch (result) {
+    case ActionResult::kGone:
+      return "gone";
+    case ActionResult::kProtected:
+      return "protected";
+    case ActionResult::kKernelThread:
+      return "kernel_thread";
+    case ActionResult::kRefused:
+      return "refused";
+    case ActionResult::kNoHelper:
+      return "no_helper";
+    default:
+      return "nobody";
+  }
+}
+
+QString NameAndPid(const ActionReport& report) {
+  return LocalizedString("action_process").arg(PlainText(report.name), QString::number(report.pid));
+}
+
+/// "p300 (300)", or "5 processes (p300 (300), p301 (301) …)".
+QString Whom(const std::vector<const ActionReport*>& reports) {
+  if (reports.size() == 1) return NameAndPid(*reports.front());
+  QStringList names;
+  for (const auto* report : reports) {
+    if (names.size() == kNamesInReport) break;
+    names.append(NameAndPid(*report));
+  }
+  auto list = names.join(QLatin1String(", "));
+  if (static_cast<std::size_t>(names.size()) < reports.size()) list += QLatin1String(" …");
+  return LocalizedString("action_processes").arg(QString::number(reports.size()), list);
+}
+
+}  // namespace
+
+QString QuestionTitle(const ActionPlan& plan) {
+  const auto* word = CommandWord(plan);
+  if (plan.targets.size() != 1)
+    return Text("action_ask_", word, "_several").arg(plan.targets.size());
+  const auto& target = plan.targets.front();
+  return Text("action_ask_", word, "_one")
+      .arg(QString::number(target.process.pid), PlainText(target.name));
+}
+
+QString QuestionText(const ActionPlan& plan) {
+  if (plan.command != ProcessCommand::kKill) return Text("action_next_", CommandWord(plan));
+  if (plan.targets.size() == 1) return StepSentences(plan.targets.front());
+  const bool forces = std::ranges::any_of(
+      plan.targets, [](const auto& target) { return target.step == KillStep::kForce; });
+  return LocalizedString(forces ? "action_next_several_forced" : "action_next_several");
+}
+
+QString QuestionButton(const ActionPlan& plan) {
+  return Text("action_button_", CommandWord(plan));
+}
+
+QString StepText(const ActionTarget& target) {
+  return Text("action_step_", StepWord(target.step, target.timesAsked));
+}
+
+QString QuestionWarning(const ActionPlan& plan) {
+  QStringList warnings;
+  const auto own = static_cast<std::int32_t>(::getpid());
+  const bool isOne = plan.targets.size() == 1;
+  if (std::ranges::any_of(plan.targets, [own](const auto& t) { return t.process.pid == own; }))
+    warnings.append(LocalizedString(isOne ? "action_warn_own" : "action_warn_own_among"));
+  const auto others = CountOthers(plan);
+  if (others > 0 && !isOne)
+    warnings.append(
+        LocalizedString(others == 1 ? "action_warn_others_one" : "action_warn_others").arg(others));
+  return warnings.join(QLatin1Char(' '));
+}
+
+QString ReportText(ProcessCommand command, const std::vector<ActionReport>& reports) {
+  std::map<std::string, std::vector<const ActionReport*>> done;
+  std::map<ActionResult, std::vector<const ActionReport*>> failed;
+  for (const auto& report : reports) {
+    if (report.result == ActionResult::kDone)
+      done[OutcomeWord(command, report.step)].push_back(&report);
+    else
+      failed[report.result].push_back(&report);
+  }
+  QStringList sentences;
+  for (const auto& [result, whom] : failed)
+    sentences.append(LocalizedString("action_failed")
+                         .arg(Whom(whom), Text("action_reason_", ReasonWord(result))));
+  for (const auto& [word, whom] : done)
+    sentences.append(
+        Text("action_done_", word.c_str(), whom.size() == 1 ? "_one" : "_several").arg(Whom(whom)));
+  return sentences.join(QLatin1Char(' '));
+}
+
+}  // namespace lurkwell
