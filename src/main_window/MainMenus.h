@@ -65,6 +65,8 @@ class MainMenus : public QObject {
   void MakeProcessActions();
   void BuildMenuBar();
   void BuildContextMenu();
+  /// "name (pid)", or how many they are.
+  QString NameOfSelection() const;
   void BuildToolbarItems(QMenu& view);
   /// For whoever has no mouse: what can be done to headers.
   void BuildSortMenu(QMenu& view);
