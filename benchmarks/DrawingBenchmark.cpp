@@ -81,7 +81,7 @@ void BM_ViewFrame(benchmark::State& state) {
   const auto draw = [&] {
     DisIsRevoltin(list, false);
     InitializeOpenGLProcessInfo(list, renderer);
-    FindWhatIsDrawn(list, {}, ViewMode::kWindow, size, processes);
+    FindWhatIsDrawn(list, {}, {}, ViewMode::kWindow, size, processes);
     return frame.DrawOnly(renderer, LookOf({}, ViewMode::kWindow, size), processes);
   };
   if (!draw()) {

@@ -12,7 +12,7 @@ set(CPACK_PACKAGE_CONTACT "The Lurkwell developers <lurkwell@velquarin.com>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "interactive process monitor with an animated view")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Lurkwell shows every process of the machine in several views at once: a table
-with 38 properties and every column of ps, windows that follow one process
+with its properties and the columns of ps, windows that follow one process
 with a history or a log, and an animated view in a window or over the whole
 screen.
 .

@@ -1801,7 +1801,7 @@
     </message>
     <message id="overlay_needs_compositor_text">
         <source></source>
-        <translation>Nothing blends the windows of this desktop (no compositor is running). The view will fill the whole screen instead; press Escape or F7 to leave it.</translation>
+        <translation>Nothing blends the windows of this desktop (no compositor is running). The view will fill the whole screen instead; press Escape or %1 to leave it.</translation>
     </message>
     <message id="menu_help_help">
         <source></source>
@@ -1906,6 +1906,14 @@
     <message id="process_niced_low">
         <source></source>
         <translation>Low priority</translation>
+    </message>
+    <message id="context_menu_one">
+        <source></source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="context_menu_several">
+        <source></source>
+        <translation>%1 processes</translation>
     </message>
     <message id="action_ask_window">
         <source></source>
@@ -3017,7 +3025,7 @@ Free: %5</translation>
     </message>
     <message id="settings_filter">
         <source></source>
-        <translation>Filter by key, value or meaning</translation>
+        <translation>Filter by name, key, value or meaning</translation>
     </message>
     <message id="settings_reset">
         <source></source>
@@ -3029,7 +3037,7 @@ Free: %5</translation>
     </message>
     <message id="settings_column_key">
         <source></source>
-        <translation>Key</translation>
+        <translation>Setting</translation>
     </message>
     <message id="settings_column_value">
         <source></source>
@@ -3158,6 +3166,350 @@ Free: %5</translation>
     <message id="settings_component_blue">
         <source></source>
         <translation>%1 Blue.</translation>
+    </message>
+    <message id="settings_title_red">
+        <source></source>
+        <translation>%1: red</translation>
+    </message>
+    <message id="settings_title_green">
+        <source></source>
+        <translation>%1: green</translation>
+    </message>
+    <message id="settings_title_blue">
+        <source></source>
+        <translation>%1: blue</translation>
+    </message>
+    <message id="settings_title_and_key">
+        <source></source>
+        <translation>%1, key %2</translation>
+    </message>
+    <message id="setting_title_GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT">
+        <source></source>
+        <translation>Unit of memory sizes</translation>
+    </message>
+    <message id="setting_title_GENERAL_PREFERRED_DATE_DISPLAY_FORMAT">
+        <source></source>
+        <translation>Format of dates</translation>
+    </message>
+    <message id="setting_title_GENERAL_ALWAYS_AUTHENTICATE_DAEMON">
+        <source></source>
+        <translation>Ask for a password at every start</translation>
+    </message>
+    <message id="setting_title_PREFERENCES_UI_DEFAULT_TAB">
+        <source></source>
+        <translation>Page of the preferences</translation>
+    </message>
+    <message id="setting_title_ABOUT_PANEL_AT_EVERY_START">
+        <source></source>
+        <translation>About panel at every start</translation>
+    </message>
+    <message id="setting_title_ABOUT_PANEL_SEEN_VERSION">
+        <source></source>
+        <translation>About panel: version seen</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_INTERVAL">
+        <source></source>
+        <translation>Table: update interval</translation>
+    </message>
+    <message id="setting_title_MEM_GRAPH_DRAW_VSZ">
+        <source></source>
+        <translation>Table: virtual size on memory bars</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE">
+        <source></source>
+        <translation>Table: idle task counts as 0</translation>
+    </message>
+    <message id="setting_title_MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT">
+        <source></source>
+        <translation>Table: leave out the shared region</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_PAGEOUT_CRITICAL_FLASH_INTERVAL">
+        <source></source>
+        <translation>Paging light: time between flashes</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_FILTER">
+        <source></source>
+        <translation>Paging light: smoothing</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_RED">
+        <source></source>
+        <translation>Paging light: red from</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_YELLOW">
+        <source></source>
+        <translation>Paging light: yellow from</translation>
+    </message>
+    <message id="setting_title_DEFAULT_SHOW_PROCESS_LIST_WINDOW">
+        <source></source>
+        <translation>Main window was open</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_FRAME">
+        <source></source>
+        <translation>Main window: place and size</translation>
+    </message>
+    <message id="setting_title_vqMainTableToolbarIdentifierTarvikTemp14_ITEMS">
+        <source></source>
+        <translation>Toolbar: items</translation>
+    </message>
+    <message id="setting_title_vqMainTableToolbarIdentifierTarvikTemp14_DISPLAY_MODE">
+        <source></source>
+        <translation>Toolbar: icons or text</translation>
+    </message>
+    <message id="setting_title_vqMainTableToolbarIdentifierTarvikTemp14_SHOWN">
+        <source></source>
+        <translation>Toolbar: shown</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_SORT_COLUMN_INDEX">
+        <source></source>
+        <translation>Table: sorted column</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_COLUMNS">
+        <source></source>
+        <translation>Table: columns</translation>
+    </message>
+    <message id="setting_title_HAS_RUN_TWO_POINT_THREE">
+        <source></source>
+        <translation>Indicator's column was added</translation>
+    </message>
+    <message id="setting_title_HAS_RUN_TWO_POINT_FOUR">
+        <source></source>
+        <translation>Memory bar's column was added</translation>
+    </message>
+    <message id="setting_title_DEFAULT_X_COOR_FOR_NEWLY_CREATED_WINDOWS">
+        <source></source>
+        <translation>Small windows: left edge of the last</translation>
+    </message>
+    <message id="setting_title_DEFAULT_Y_COOR_FOR_NEWLY_CREATED_WINDOWS">
+        <source></source>
+        <translation>Small windows: top edge of the last</translation>
+    </message>
+    <message id="setting_title_DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA">
+        <source></source>
+        <translation>Small windows: opacity</translation>
+    </message>
+    <message id="setting_title_DEFAULT_WATCHDOG_INTERVAL">
+        <source></source>
+        <translation>Remembered windows: look for their programs every</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_WINDOW_INTERVAL">
+        <source></source>
+        <translation>CPU history: time between two points</translation>
+    </message>
+    <message id="setting_title_CPU_HISTORY_WINDOW_USE_RELATIVE">
+        <source></source>
+        <translation>CPU history: scale to the recent maximum</translation>
+    </message>
+    <message id="setting_title_CPU_HISTORY_WINDOW_TRACK_PROCESS_DESCENDANTS">
+        <source></source>
+        <translation>CPU history: include descendants</translation>
+    </message>
+    <message id="setting_title_CPU_HISTORY_WINDOW_DEFAULT_FILTER">
+        <source></source>
+        <translation>CPU history: smoothing</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_BACKGROUND_RGB">
+        <source></source>
+        <translation>CPU history: ground</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_FOREGROUND_RGB">
+        <source></source>
+        <translation>CPU history: CPU usage</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_DESCENDANTS_FOREGROUND_RGB">
+        <source></source>
+        <translation>CPU history: own share</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_NAME_RGB">
+        <source></source>
+        <translation>CPU history: name</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_HWM_RGB">
+        <source></source>
+        <translation>CPU history: label of the fixed scale</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_HWM_RELATIVE_RGB">
+        <source></source>
+        <translation>CPU history: label of the fitted scale</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_HWM_FLASH_RGB">
+        <source></source>
+        <translation>CPU history: label of a new scale</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_CURRENT_PERCENTAGE_BG">
+        <source></source>
+        <translation>CPU history: ground of the percentage</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_CURRENT_PERCENTAGE_FG">
+        <source></source>
+        <translation>CPU history: percentage</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_NAME_ALPHA">
+        <source></source>
+        <translation>CPU history: opacity of the name</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_HIGHWATERMARK_ALPHA">
+        <source></source>
+        <translation>CPU history: opacity of the scale's label</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_CURRENT_PERCENTAGE_ALPHA">
+        <source></source>
+        <translation>CPU history: opacity of the percentage</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_ICON_ALPHA">
+        <source></source>
+        <translation>CPU history: opacity of the icon (of old)</translation>
+    </message>
+    <message id="setting_title_DEFAULT_CPU_HISTORY_ICON_ALPHA_REALLY">
+        <source></source>
+        <translation>CPU history: opacity of the icon</translation>
+    </message>
+    <message id="setting_title_CPU_HISTORY_WINDOW">
+        <source></source>
+        <translation>CPU history: remembered windows</translation>
+    </message>
+    <message id="setting_title_DEFAULT_LOGGING_WINDOW_INTERVAL">
+        <source></source>
+        <translation>Log: look for changes every</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_INCLUDE_TIMESTAMP">
+        <source></source>
+        <translation>Log: time</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_ACTIVE_TIME_BOOL">
+        <source></source>
+        <translation>Log: CPU time</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_DELTA_ACTIVE_TIME_BOOL">
+        <source></source>
+        <translation>Log: change of the CPU time</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_REAL_MEM_BOOL">
+        <source></source>
+        <translation>Log: real memory</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_DELTA_REAL_MEM_BOOL">
+        <source></source>
+        <translation>Log: change of the real memory</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_VIRTUAL_MEM_BOOL">
+        <source></source>
+        <translation>Log: virtual memory</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_DELTA_VIRTUAL_MEM_BOOL">
+        <source></source>
+        <translation>Log: change of the virtual memory</translation>
+    </message>
+    <message id="setting_title_LOG_WINDOW_LOG_TO_FILE">
+        <source></source>
+        <translation>Log: write to a file, too</translation>
+    </message>
+    <message id="setting_title_LOGGING_WINDOW">
+        <source></source>
+        <translation>Log: remembered windows</translation>
+    </message>
+    <message id="setting_title_HEARTQUIVA_GL_THREAD_INTERVAL">
+        <source></source>
+        <translation>Animated view: time between two pictures</translation>
+    </message>
+    <message id="setting_title_HEARTQUIVA_MAINPIC_INTERVAL">
+        <source></source>
+        <translation>Animated view: look for processes every</translation>
+    </message>
+    <message id="setting_title_HEARTQUIVA_HELPERPIC_INTERVAL">
+        <source></source>
+        <translation>Animated view: measure CPU usage every</translation>
+    </message>
+    <message id="setting_title_QUIVA_FULLSCREEN_DRAW_PARENT_CHILD_CONNECTORS">
+        <source></source>
+        <translation>Full-screen view: join parents and children</translation>
+    </message>
+    <message id="setting_title_QUINT_FULLSCREEN_WINDOW_ALPHA">
+        <source></source>
+        <translation>Full-screen view: opacity</translation>
+    </message>
+    <message id="setting_title_QUINT_FULLSCREEN_UNDERLAY_ALPHA">
+        <source></source>
+        <translation>Full-screen view: opacity of the backdrop</translation>
+    </message>
+    <message id="setting_title_HEARTQUIVA_ICON_SCALE_FACTOR">
+        <source></source>
+        <translation>Animated view: scale of icons</translation>
+    </message>
+    <message id="setting_title_QUIVA_FULLSCREEN_EXTRA_SCALE_FACTOR">
+        <source></source>
+        <translation>Full-screen view: further scale of icons</translation>
+    </message>
+    <message id="setting_title_QUINT_MAX_ITERATIONS_TO_STABILIZE_WHEN_FIRST_SHOWING">
+        <source></source>
+        <translation>Animated view: steps before the first picture</translation>
+    </message>
+    <message id="setting_title_QUINT_TARVIK_FACTOR">
+        <source></source>
+        <translation>Animated view: factor of Lurkwell's own activity</translation>
+    </message>
+    <message id="setting_title_FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE">
+        <source></source>
+        <translation>Full-screen view: key</translation>
+    </message>
+    <message id="setting_title_QUIVA_CHECK_QUARTZ_EXTREME">
+        <source></source>
+        <translation>Animated view: graphics were checked</translation>
+    </message>
+    <message id="setting_title_QUIVA_CHECK_COMPOSITOR">
+        <source></source>
+        <translation>Full-screen view: compositor was checked</translation>
+    </message>
+    <message id="setting_title_QUIVA_WINDOW_FRAME">
+        <source></source>
+        <translation>Animated view: place and size</translation>
+    </message>
+    <message id="setting_title_DEFAULT_SHOW_PROCESS_QUIVA_WINDOW">
+        <source></source>
+        <translation>Animated view was open</translation>
+    </message>
+    <message id="setting_title_DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW">
+        <source></source>
+        <translation>Full-screen view was open</translation>
+    </message>
+    <message id="setting_title_CLASSIC_INITIAL_ASSUMED_CPU_USAGE">
+        <source></source>
+        <translation>Classic environment: CPU usage at first</translation>
+    </message>
+    <message id="setting_title_CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER">
+        <source></source>
+        <translation>Classic environment: weight of a measurement</translation>
+    </message>
+    <message id="setting_title_CLASSIC_WATCHDOG_INTERVAL">
+        <source></source>
+        <translation>Classic environment: look for it every</translation>
+    </message>
+    <message id="setting_title_CLASSIC_NUB_CONTROL_DEFAULT_SLEEP_TIX">
+        <source></source>
+        <translation>Classic environment: its helper's sleep</translation>
+    </message>
+    <message id="setting_title_QUBS_DEBUGGING_AND_TESTING">
+        <source></source>
+        <translation>Machine's figures: show a window</translation>
+    </message>
+    <message id="setting_title_QUBS_DEBUGGING_SWI_INTERVAL">
+        <source></source>
+        <translation>Machine's figures: update interval</translation>
+    </message>
+    <message id="setting_title_QUBS_DEBUGGING_WINDOW_LEFT">
+        <source></source>
+        <translation>Machine's figures: left edge</translation>
+    </message>
+    <message id="setting_title_QUBS_DEBUGGING_WINDOW_TOP">
+        <source></source>
+        <translation>Machine's figures: top edge</translation>
+    </message>
+    <message id="setting_title_QUBS_DEBUGGING_WINDOW_RIGHT">
+        <source></source>
+        <translation>Machine's figures: right edge</translation>
+    </message>
+    <message id="setting_title_QUBS_DEBUGGING_WINDOW_BOTTOM">
+        <source></source>
+        <translation>Machine's figures: bottom edge</translation>
     </message>
     <message id="setting_GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT">
         <source></source>

@@ -3,9 +3,17 @@
 #include <algorithm>
 #include <cmath>
 #include <unordered_map>
+#include <vector>
+
+#include "animated_view/LabelCrowd.h"
 
 namespace lurkwell {
 namespace {
+
+/// Fewer have room for all labels, or nearly so.
+constexpr std::size_t kCrowd = 100;
+/// Less than a process that does something weighs more than one that does nothing.
+constexpr double kPreference = 0.15;
 
 /// A view without an extent on an axis is measured in whole views there.
 double Scale(double extent) {
@@ -16,21 +24,51 @@ double Drawn(double layout) {
   return 2.0 * (layout - 0.5);
 }
 
-float Snapped(double place, double pixels) {
-  return static_cast<float>(std::trunc(place * pixels + 0.5) / pixels);
+/// To a whole pixel of the view, which goes from -1 to 1.
+float Snapped(double layout, double pixels) {
+  return static_cast<float>(Drawn(std::floor(layout * pixels + 0.5) / pixels));
 }
 
-/// In the unit that labels snap to, a view is as many units wide as it has pixels.
 void SnapLabel(QuintessentialInformationProcessInfo& info, const ViewSize& size) {
-  const double x = Drawn(info.x);
-  const double y = Drawn(info.y);
   const double width = std::max(1, size.PixelWidth());
   const double height = std::max(1, size.PixelHeight());
-  const bool moved = std::abs(x - static_cast<double>(info.labelX)) > 1 / width ||
-                     std::abs(y - static_cast<double>(info.labelY)) > 1 / height;
+  const bool moved = std::abs(Drawn(info.x) - static_cast<double>(info.labelX)) * width / 2 > 1 ||
+                     std::abs(Drawn(info.y) - static_cast<double>(info.labelY)) * height / 2 > 1;
   if (!moved) return;
-  info.labelX = Snapped(x, width);
-  info.labelY = Snapped(y, height);
+  info.labelX = Snapped(info.x, width);
+  info.labelY = Snapped(info.y, height);
+}
+
+/// Wider than the icon, and never a mere dot.
+double MarkSide(double iconSide, double pixelRatio) {
+  return iconSide * 1.15 + 10 * pixelRatio;
+}
+
+LabelBox BoxOf(const QuintessentialInformationProcessInfo& info, const ViewMarks& marks,
+               const ViewSize& size) {
+  const auto& picture = *info.labelImage;
+  const auto [left, top] =
+      CornerOfLabel(static_cast<double>(info.labelX), static_cast<double>(info.labelY),
+                    picture.width, picture.height, size.PixelWidth(), size.PixelHeight());
+  constexpr double kBeforeAllOthers = 1000;
+  LabelBox box{static_cast<int>(left), static_cast<int>(top), picture.width, picture.height,
+               info.weight + (info.labelIsShown ? kPreference : 0.0)};
+  if (marks.selected.contains(info.pid)) box.importance += kBeforeAllOthers;
+  if (info.pid == marks.pointedAt) box.importance += 2 * kBeforeAllOthers;
+  return box;
+}
+
+/// In a crowd labels give way to those that matter more.
+void ChooseLabels(QipiList& list, const ViewMarks& marks, const ViewSize& size) {
+  std::vector<QuintessentialInformationProcessInfo*> labelled;
+  std::vector<LabelBox> boxes;
+  for (auto& info : list) {
+    if (info.labelImage == nullptr) continue;
+    labelled.push_back(&info);
+    boxes.push_back(BoxOf(info, marks, size));
+  }
+  const auto shown = WhichLabelsStand(boxes, size.PixelWidth(), size.PixelHeight());
+  for (std::size_t i = 0; i < labelled.size(); ++i) labelled[i]->labelIsShown = shown[i];
 }
 
 }  // namespace
@@ -54,8 +92,9 @@ void InitializeOpenGLProcessInfo(QipiList& list, FrameRenderer& renderer) {
   }
 }
 
-void FindWhatIsDrawn(QipiList& list, const QuintessentialDrawingSettings& settings, ViewMode mode,
-                     const ViewSize& size, std::vector<DrawnProcess>& processes) {
+void FindWhatIsDrawn(QipiList& list, const QuintessentialDrawingSettings& settings,
+                     const ViewMarks& marks, ViewMode mode, const ViewSize& size,
+                     std::vector<DrawnProcess>& processes) {
   std::unordered_map<std::int32_t, std::int32_t> places;
   places.reserve(list.size());
   std::int32_t at = 0;
@@ -64,12 +103,19 @@ void FindWhatIsDrawn(QipiList& list, const QuintessentialDrawingSettings& settin
   if (mode != ViewMode::kWindow) side *= settings.fullscreenExtraScale;
   processes.clear();
   for (auto& info : list) {
+    SnapLabel(info, size);
+    if (list.size() < kCrowd) info.labelIsShown = true;
+  }
+  if (list.size() >= kCrowd) ChooseLabels(list, marks, size);
+  for (auto& info : list) {
     const auto parent = places.find(info.parentPid);
     const bool hasParent = parent != places.end() && info.parentPid != info.pid;
-    SnapLabel(info, size);
-    processes.push_back({Drawn(info.x), Drawn(info.y), info.weight * side,
-                         hasParent ? parent->second : -1, info.iconTexture, info.labelTexture,
-                         static_cast<double>(info.labelX), static_cast<double>(info.labelY)});
+    const double iconSide = info.weight * side;
+    const bool isMarked = marks.selected.contains(info.pid);
+    processes.push_back({Drawn(info.x), Drawn(info.y), iconSide, hasParent ? parent->second : -1,
+                         info.iconTexture, info.labelTexture, static_cast<double>(info.labelX),
+                         static_cast<double>(info.labelY), info.labelIsShown,
+                         isMarked ? MarkSide(iconSide, size.pixelRatio) : 0.0});
   }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <unordered_set>
 #include <vector>
 
 #include "animated_view/FrameRenderer.h"
@@ -23,15 +25,26 @@ enum class ViewMode {
   kOpaqueFullscreen,  ///< in its place, where windows cannot be translucent
 };
 
+/// What stands out among the processes.
+struct ViewMarks {
+  /// Who has a ring: what is selected in the table.
+  std::unordered_set<std::int32_t> selected;
+  /// Whose label comes before all others: under the pointer; -1 for none.
+  std::int32_t pointedAt = -1;
+};
+
 /// What follows is done inside gQuintessentialMutex.
 
 /// Gives every record that has new pictures its places in the renderer.
 void InitializeOpenGLProcessInfo(QipiList& list, FrameRenderer& renderer);
 
 /// What a frame shows of the records, in their order; `processes` is overwritten. A label follows
-/// its process from pixel to pixel, and only when that has moved far enough.
-void FindWhatIsDrawn(QipiList& list, const QuintessentialDrawingSettings& settings, ViewMode mode,
-                     const ViewSize& size, std::vector<DrawnProcess>& processes);
+/// its process from pixel to pixel, and only when that has moved far enough. Of a hundred processes
+/// or more, those whose labels would lie on more important ones (under the pointer, marked,
+/// heavier) go without.
+void FindWhatIsDrawn(QipiList& list, const QuintessentialDrawingSettings& settings,
+                     const ViewMarks& marks, ViewMode mode, const ViewSize& size,
+                     std::vector<DrawnProcess>& processes);
 
 FrameLook LookOf(const QuintessentialDrawingSettings& settings, ViewMode mode,
                  const ViewSize& size);

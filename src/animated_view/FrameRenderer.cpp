@@ -10,6 +10,7 @@ namespace lurkwell {
 namespace {
 
 constexpr int kIconSide = 256;
+constexpr int kMarkSide = 256;
 constexpr int kLabelPageWidth = 2048;
 constexpr int kLabelPageHeight = 256;
 constexpr int kIconAlpha = 224;
@@ -74,10 +75,54 @@ std::unique_ptr<PictureAtlas> LabelAtlas(int height) {
                           PictureAtlas::Fit::kExact, kLabelAlpha});
 }
 
+/// How much of a ring of unit radius covers a place at that distance from its middle.
+double RingCover(double distance) {
+  constexpr double kInner = 0.86;
+  constexpr double kOuter = 0.97;
+  constexpr double kSoft = 0.025;
+  const double ring = std::clamp((distance - kInner) / kSoft, 0.0, 1.0) *
+                      std::clamp((kOuter - distance) / kSoft, 0.0, 1.0);
+  const double glow = distance < kOuter ? 0.3 * std::clamp((distance - 0.5) / 0.5, 0.0, 1.0) : 0.0;
+  return std::max(ring, glow);
+}
+
+/// An amber ring that stays visible on whatever is behind.
+std::shared_ptr<const Picture> Ring() {
+  Picture picture{kMarkSide, kMarkSide, {}};
+  for (int y = 0; y < kMarkSide; ++y) {
+    for (int x = 0; x < kMarkSide; ++x) {
+      const double half = kMarkSide / 2.0;
+      const double cover = RingCover(std::hypot(x + 0.5 - half, y + 0.5 - half) / half);
+      const auto part = [&](double full) { return static_cast<std::uint32_t>(full * cover); };
+      picture.pixels.push_back(part(255) << 24 | part(255) << 16 | part(190) << 8 | part(30));
+    }
+  }
+  return std::make_shared<const Picture>(std::move(picture));
+}
+
+/// Those that are marked come last, above the others.
+template <typename Add>
+void AddMarkedLast(std::span<const DrawnProcess> processes, Add add) {
+  for (const bool marked : {false, true})
+    for (const auto& process : processes)
+      if ((process.markSide > 0) == marked) add(process);
+}
+
 }  // namespace
+
+LabelCorner CornerOfLabel(double x, double y, int labelWidth, int labelHeight, int viewWidth,
+                          int viewHeight) {
+  // Texel on pixel: a label begins at a whole pixel.
+  const double left = std::floor((x + 1) / 2 * viewWidth - labelWidth / 2.0 + 0.5);
+  const double top = std::floor((1 - y) / 2 * viewHeight - labelHeight / 2.0 + 0.5);
+  return {std::clamp(left, 0.0, std::max(0.0, static_cast<double>(viewWidth - labelWidth))),
+          std::clamp(top, 0.0, std::max(0.0, static_cast<double>(viewHeight - labelHeight)))};
+}
 
 FrameRenderer::FrameRenderer()
     : mIcons({kIconSide, kIconSide, kIconSide, PictureAtlas::Fit::kScaled, kIconAlpha}),
+      mMarks({kMarkSide, kMarkSide, kMarkSide, PictureAtlas::Fit::kScaled, 255}),
+      mMark(mMarks.Acquire(Ring())),
       mLabels(LabelAtlas(32)),
       mPictureProgram(kPictureVertices, kPictureFragments, 9),
       mConnectorProgram(kConnectorVertices, kConnectorFragments, 4) {}
@@ -130,7 +175,8 @@ bool FrameRenderer::Draw(QOpenGLContext& context, const FrameLook& look,
   gl.glActiveTexture(GL_TEXTURE0);
   if (!DrawBackground(gl)) return false;
   if (look.drawConnectors) DrawConnectors(gl, processes);
-  const bool drawn = DrawIcons(gl, processes) && DrawLabels(gl, processes);
+  const bool drawn =
+      DrawIcons(gl, processes) && DrawMarks(gl, processes) && DrawLabels(gl, processes);
   gl.glBindVertexArray(0);
   return drawn;
 }
@@ -167,30 +213,38 @@ void FrameRenderer::DrawConnectors(QOpenGLExtraFunctions& gl,
 
 bool FrameRenderer::DrawIcons(QOpenGLExtraFunctions& gl, std::span<const DrawnProcess> processes) {
   mNumbers.clear();
-  for (const auto& process : processes) {
-    const auto place = mIcons.PlaceOf(process.icon);
-    if (!place) continue;
-    const double x = (process.x + 1) / 2 * mLook.width;
-    const double y = (1 - process.y) / 2 * mLook.height;
-    const double half = process.iconSide / 2;
-    AddPicture(*place, x - half, y - half, x + half, y + half);
-  }
+  AddMarkedLast(processes, [this](const DrawnProcess& process) {
+    if (const auto place = mIcons.PlaceOf(process.icon))
+      AddSquare(*place, process, process.iconSide);
+  });
   return DrawPictures(gl, mIcons);
 }
 
-/// Texel on pixel: a label begins at a whole pixel.
+bool FrameRenderer::DrawMarks(QOpenGLExtraFunctions& gl, std::span<const DrawnProcess> processes) {
+  mNumbers.clear();
+  const auto place = mMarks.PlaceOf(mMark);
+  for (const auto& process : processes)
+    if (place && process.markSide > 0) AddSquare(*place, process, process.markSide);
+  return DrawPictures(gl, mMarks);
+}
+
 bool FrameRenderer::DrawLabels(QOpenGLExtraFunctions& gl, std::span<const DrawnProcess> processes) {
   mNumbers.clear();
-  for (const auto& process : processes) {
+  AddMarkedLast(processes, [this](const DrawnProcess& process) {
     const auto place = mLabels->PlaceOf(process.label);
-    if (!place) continue;
-    const double left =
-        std::floor((process.labelX + 1) / 2 * mLook.width - place->width / 2.0 + 0.5);
-    const double top =
-        std::floor((1 - process.labelY) / 2 * mLook.height - place->height / 2.0 + 0.5);
+    if (!place || !process.labelIsShown) return;
+    const auto [left, top] = CornerOfLabel(process.labelX, process.labelY, place->width,
+                                           place->height, mLook.width, mLook.height);
     AddPicture(*place, left, top, left + place->width, top + place->height);
-  }
+  });
   return DrawPictures(gl, *mLabels);
+}
+
+void FrameRenderer::AddSquare(const PictureAtlas::Place& place, const DrawnProcess& process,
+                              double side) {
+  const double x = (process.x + 1) / 2 * mLook.width;
+  const double y = (1 - process.y) / 2 * mLook.height;
+  AddPicture(place, x - side / 2, y - side / 2, x + side / 2, y + side / 2);
 }
 
 void FrameRenderer::AddPicture(const PictureAtlas::Place& place, double left, double top,
@@ -217,6 +271,7 @@ void FrameRenderer::Forget() {
   mPictureProgram.Forget();
   mConnectorProgram.Forget();
   mIcons.Forget();
+  mMarks.Forget();
   mLabels->Forget();
   mOldAtlases.clear();
   if (mBackgroundAtlas) mBackgroundAtlas->Forget();
@@ -227,6 +282,7 @@ void FrameRenderer::Destroy(QOpenGLContext& context) {
   mPictureProgram.Destroy(gl);
   mConnectorProgram.Destroy(gl);
   mIcons.Destroy(gl);
+  mMarks.Destroy(gl);
   mLabels->Destroy(gl);
   for (const auto& atlas : mOldAtlases) atlas->Destroy(gl);
   if (mBackgroundAtlas) mBackgroundAtlas->Destroy(gl);

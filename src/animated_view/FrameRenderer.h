@@ -22,7 +22,17 @@ struct DrawnProcess {
   std::uint32_t icon = 0;    ///< of the renderer's icons; 0 for none
   std::uint32_t label = 0;   ///< of the renderer's labels; 0 for none
   double labelX = 0, labelY = 0;
+  bool labelIsShown = true;
+  double markSide = 0;  ///< device pixels; 0 for one that is not marked
 };
+
+/// Where a label's corner lies, in device pixels from the view's top left corner: its middle at the
+/// place from -1 to 1 if it can be, and all of it in the view.
+struct LabelCorner {
+  double left = 0, top = 0;
+};
+LabelCorner CornerOfLabel(double x, double y, int labelWidth, int labelHeight, int viewWidth,
+                          int viewHeight);
 
 /// How a frame looks.
 struct FrameLook {
@@ -37,8 +47,9 @@ struct FrameLook {
   float opacity = 1.0F;         ///< of all, 0 to 1
 };
 
-/// Draws frames: the background, lines from processes to their parents, icons, labels; a draw call
-/// each, however many processes there are. Icons are drawn at any size, labels pixel by pixel.
+/// Draws frames: the background, lines from processes to their parents, icons, rings around those
+/// that are marked, labels; a draw call each, however many processes there are. Marked processes
+/// lie above the others. Icons are drawn at any size, labels pixel by pixel.
 ///
 /// Icons and labels are acquired and released without a context, on any thread; the rest belongs
 /// to the thread that draws, with a context current that is always the same one until Forget. The
@@ -73,13 +84,17 @@ class FrameRenderer {
   bool DrawBackground(QOpenGLExtraFunctions& gl);
   void DrawConnectors(QOpenGLExtraFunctions& gl, std::span<const DrawnProcess> processes);
   bool DrawIcons(QOpenGLExtraFunctions& gl, std::span<const DrawnProcess> processes);
+  bool DrawMarks(QOpenGLExtraFunctions& gl, std::span<const DrawnProcess> processes);
   bool DrawLabels(QOpenGLExtraFunctions& gl, std::span<const DrawnProcess> processes);
   bool DrawPictures(QOpenGLExtraFunctions& gl, PictureAtlas& atlas);
+  void AddSquare(const PictureAtlas::Place& place, const DrawnProcess& process, double side);
   void AddPicture(const PictureAtlas::Place& place, double left, double top, double right,
                   double bottom);
 
   FrameLook mLook;
   PictureAtlas mIcons;
+  PictureAtlas mMarks;
+  std::uint32_t mMark;
   std::unique_ptr<PictureAtlas> mLabels;
   /// What a screen's scale has left behind, until a context is current to delete its texture.
   std::vector<std::unique_ptr<PictureAtlas>> mOldAtlases;

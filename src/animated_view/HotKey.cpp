@@ -1,20 +1,13 @@
 #include "animated_view/HotKey.h"
 
 #include "animated_view/flowcontrolfsm.h"
+#include "main_window/OverlayKey.h"
 #include "platform/HotKeys.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
-namespace {
-
-constexpr std::int32_t kF7 = 98;
-
-}  // namespace
-
 void SetUpHotKey() {
-  const auto code = static_cast<std::uint32_t>(
-      GetPrefInt("FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE", nullptr, true, kF7));
+  const auto code = static_cast<std::uint32_t>(OverlayKeyCode());
   for (const auto modifiers : {HotKeys::kNoModifiers, HotKeys::kCommandModifier})
     TheMachine().hotKeys.RegisterEventHotKey(code, modifiers, &HotKeyFunc);
 }

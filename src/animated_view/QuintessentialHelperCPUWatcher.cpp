@@ -37,8 +37,9 @@ double TargetWeight(const QuintessentialInformationProcessInfo& info, TimeValue 
   if (ratio > 0) ratio += kBusyBonus;
   ratio = std::min(ratio, kHighestRatio);
   const std::string_view name(info.name);
-  if (tarvikFactor > kNoticeableFactor && (name == "Lurkwell" || name == "lkw_helper_daemo"))
-    ratio *= tarvikFactor;
+  // Without a desktop entry, as in a build tree, the program has its file's name.
+  const bool isOwn = name == "Lurkwell" || name == "lurkwell" || name == "lkw_helper_daemo";
+  if (tarvikFactor > kNoticeableFactor && isOwn) ratio *= tarvikFactor;
   return 2.0 * ratio + 0.5;
 }
 

@@ -31,7 +31,7 @@ class QuintessentialHelperCPUWatcher final : public ProcessInformationClient {
 
   QuintessentialInformationClient* mOwner;
   TimeValue mPreviousPass;
-  /// How much heavier the program's own two processes are; 0 for not at all.
+  /// How many times its activity each of the program's own two processes counts with; 0 for once.
   double mTarvikFactor = 0.0;
 };
 

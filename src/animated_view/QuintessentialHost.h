@@ -41,7 +41,7 @@ class QuintessentialHost {
   /// Draws one frame of the current view. Drawing thread, locked.
   virtual void InternalDraw() = 0;
 
-  /// A process's name as a picture, or null.
+  /// A process's name, as it may be shown, as a picture, or null.
   virtual std::shared_ptr<const Picture> LabelImage(const std::string& name) = 0;
   /// "qvdefault" (the icon of what has none) or "qvbackground"; null for an unknown name.
   virtual std::shared_ptr<const Picture> NamedPicture(const char* name) = 0;

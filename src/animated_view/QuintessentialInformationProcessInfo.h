@@ -46,6 +46,8 @@ struct QuintessentialInformationProcessInfo {
   /// Where the label was last drawn, in whole pixels; the start makes the first frame find out.
   float labelX = 2.0F;
   float labelY = 2.0F;
+  /// In a crowd a label that is there stays before another takes its place.
+  bool labelIsShown = true;
 };
 
 /// Records in a fixed order, found by pid without a walk. Records keep their addresses, also when

@@ -11,6 +11,7 @@
 #include "animated_view/QuintessentialLayout.h"
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PropertyValues.h"
+#include "platform/PrintableText.h"
 #include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
@@ -40,8 +41,10 @@ void ReleaseTextures(Info& info) {
 }
 
 void MakeLabel(Info& info) {
-  info.labelImage =
-      gQuintessentialHost != nullptr ? gQuintessentialHost->LabelImage(info.name) : nullptr;
+  // Names come from outside.
+  info.labelImage = gQuintessentialHost != nullptr
+                        ? gQuintessentialHost->LabelImage(PrintableText(info.name))
+                        : nullptr;
 }
 
 /// Gives a record that has no name yet the one of its process.
@@ -82,6 +85,8 @@ void QuintessentialInformationClient::NotifyPidHasBeenRemoved(int pid) {
 
 void QuintessentialInformationClient::NotifyPidHasChangedAppreciably(int pid) {
   const Guard guard(gQuintessentialMutex);
+  // One that still waits for its place is named when it gets it.
+  mNewQipiList.ForEach(pid, [this](Info& info) { TakeIcon(info); });
   mQipiList.ForEach(pid, [this](Info& info) {
     // Nameless, the first record asks for its name again in the coming update.
     if (!ReadName(info)) mQipiList.front().name[0] = '\0';

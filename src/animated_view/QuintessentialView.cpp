@@ -57,7 +57,8 @@ bool QuintessentialView::DrawFrame() {
   if (auto* client = gQuintessentialInformationClient) {
     auto& list = client->qipiList();
     InitializeOpenGLProcessInfo(list, mDrawing.renderer);
-    FindWhatIsDrawn(list, client->DrawingSettings(), mMode, mSize, mDrawing.processes);
+    FindWhatIsDrawn(list, client->DrawingSettings(), mDrawing.marks, mMode, mSize,
+                    mDrawing.processes);
     look = LookOf(client->DrawingSettings(), mMode, mSize);
   }
   look.opacity = mOpacity;
@@ -72,6 +73,15 @@ void QuintessentialView::NoteLimits() {
   mDrawing.context.Context().functions()->glGetIntegerv(GL_MAX_VIEWPORT_DIMS, limits.data());
   gOpenGLViewportMaxDimensions = {limits[0], limits[1]};
   mDrawing.tellOfLimits();
+}
+
+void QuintessentialView::mouseMoved(const QPointF& place) {
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  mDrawing.marks.pointedAt = gQuintessentialInformationClient != nullptr &&
+                                     QRectF(0, 0, mSize.width, mSize.height).contains(place)
+                                 ? gQuintessentialInformationClient->GetClosestPidToPoint(
+                                       {place.x(), mSize.height - place.y()})
+                                 : -1;
 }
 
 void QuintessentialView::handleMouseDownStuff(const QMouseEvent& event, bool isRightClick) {

@@ -29,6 +29,9 @@ class QuintessentialView {
   std::int32_t kludgeCountdown() const { return mKludgeCountdown; }
   void setKludgeCountdown(std::int32_t frames) { mKludgeCountdown = frames; }
 
+  /// The nearest process shows its name, whatever lies in its way. Points of the window; outside of
+  /// it nobody is near.
+  void mouseMoved(const QPointF& place);
   void mouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, false); }
   void rightMouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, true); }
 

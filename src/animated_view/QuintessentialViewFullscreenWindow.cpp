@@ -3,6 +3,7 @@
 
 #include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/QuintessentialViewWindow.h"
+#include "main_window/OverlayKey.h"
 #include "platform/Alerts.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -27,11 +28,15 @@ constexpr Qt::WindowFlags kOverlayFlags = Qt::Window | Qt::FramelessWindowHint |
 /// Not at once: a question inside a timer's callback would hold up all other timers.
 void TellOnce(QObject& context) {
   if (GetPrefInt(kToldKey, nullptr, false, 0) != 0) return;
+  // A question takes the keyboard; there will be another time.
+  if (TheMachine().screen.IsKeyboardElsewhere()) return;
   SetPrefInt(kToldKey, 1);
   const auto tell = [] {
-    TheMachine().alerts.RunAlertPanel(
-        LocalizedString("overlay_needs_compositor").toStdString(),
-        LocalizedString("overlay_needs_compositor_text").toStdString(), "OK", "", "");
+    TheMachine().alerts.RunAlertPanel(LocalizedString("overlay_needs_compositor").toStdString(),
+                                      LocalizedString("overlay_needs_compositor_text")
+                                          .arg(OverlayKey().toString(QKeySequence::NativeText))
+                                          .toStdString(),
+                                      "OK", "", "");
   };
   QMetaObject::invokeMethod(&context, tell, Qt::QueuedConnection);
 }
@@ -62,7 +67,11 @@ void QuintessentialViewFullscreenWindow::myTimer() {
     const CriticalRegion::Guard inside(gQuintessentialMutex);
     setGeometry(QGuiApplication::primaryScreen()->geometry());
     TakeSize();
-    if (view().Mode() == ViewMode::kOpaqueFullscreen && isVisible()) showFullScreen();
+    // Not showFullScreen(), which asks for the keyboard.
+    if (view().Mode() == ViewMode::kOpaqueFullscreen && isVisible()) {
+      setWindowStates(Qt::WindowFullScreen);
+      setFlag(Qt::WindowDoesNotAcceptFocus, false);
+    }
   }
   if (view().Mode() == ViewMode::kOverlay) {
     setAlphaValue(OverlayWindowAlpha());

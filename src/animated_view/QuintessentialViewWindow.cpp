@@ -13,6 +13,7 @@
 #include "animated_view/QuintessentialWindowDelegate.h"
 #include "animated_view/ViewDrawing.h"
 #include "main_window/FrontmostWindow.h"
+#include "main_window/OverlayKey.h"
 #include "main_window/WindowFrame.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
@@ -23,6 +24,8 @@ namespace lurkwell {
 namespace {
 
 constexpr char kFrameKey[] = "QUIVA_WINDOW_FRAME";
+/// Of the toolkit's: a window that is shown so does not ask for the keyboard.
+constexpr char kWithoutActivating[] = "_q_showWithoutActivating";
 constexpr QSize kFirstSize(900, 640);
 constexpr QSize kSmallestSize(200, 150);
 
@@ -37,7 +40,7 @@ QuintessentialViewWindow* gQuintessentialWindow = nullptr;
 QuintessentialViewWindow::QuintessentialViewWindow(QuintessentialWindowDelegate& delegate,
                                                    ViewDrawing& drawing,
                                                    const ViewCommands& commands)
-    : mDelegate(delegate), mCommands(commands), mView(*this, drawing) {
+    : mDelegate(delegate), mCommands(commands), mView(*this, drawing), mToggleKey(OverlayKey()) {
   setSurfaceType(QSurface::OpenGLSurface);
   setFormat(drawing.context.Format());
   setTitle(LocalizedString("quintessential_window_title"));
@@ -60,7 +63,14 @@ bool QuintessentialViewWindow::IsCurrent() const {
   return gQuintessentialViewIsFullScreenOverlay == isFullscreen();
 }
 
-void QuintessentialViewWindow::makeKeyAndOrderFront() {
+void QuintessentialViewWindow::makeKeyAndOrderFront(Showing showing) {
+  const bool isAskedFor = showing == Showing::kAskedFor;
+  const bool takesKeyboard =
+      canBecomeKeyWindow() && (isAskedFor || !TheMachine().screen.IsKeyboardElsewhere());
+  setProperty(kWithoutActivating, !takesKeyboard);
+  // Some managers give it to whatever fills the screen; later it may be clicked into.
+  if (isFullscreen() && !isVisible() && canBecomeKeyWindow())
+    setFlag(Qt::WindowDoesNotAcceptFocus, !takesKeyboard);
   // Nothing exposes a window that is there already.
   if (isVisible() && isExposed()) mDelegate.windowDidUpdate();
   const CriticalRegion::Guard inside(gQuintessentialMutex);
@@ -69,17 +79,20 @@ void QuintessentialViewWindow::makeKeyAndOrderFront() {
   // Shown again where its contents were, it would move down by its title bar each time.
   if (!isFullscreen() && !isVisible() && IsGraspable(mNormalFrame))
     setFramePosition(mNormalFrame.topLeft());
-  show();
+  // Not show(), which would make a maximised one small.
+  setVisible(true);
   TakeSize();
   raise();
-  if (canBecomeKeyWindow()) requestActivate();
+  if (takesKeyboard) requestActivate();
   if (mView.Mode() == ViewMode::kOverlay) TheMachine().screen.KeepInSight(winId());
 }
 
 void QuintessentialViewWindow::performClose() {
+  // Asked before this one goes, and the keyboard with it.
+  const bool isElsewhere = TheMachine().screen.IsKeyboardElsewhere();
   mDelegate.unhookConsolidatorIfNecessary();
   Withdraw();
-  EnsureThatCocoaWindowIsFrontmostIfPossible();
+  if (!isElsewhere) EnsureThatCocoaWindowIsFrontmostIfPossible();
 }
 
 void QuintessentialViewWindow::Withdraw() {
@@ -166,6 +179,7 @@ void QuintessentialViewWindow::focusInEvent(QFocusEvent*) {
 }
 
 bool QuintessentialViewWindow::event(QEvent* event) {
+  if (event->type() == QEvent::Leave) mView.mouseMoved(QPointF(-1, -1));
   if (event->type() == QEvent::PlatformSurface) {
     // The native window comes or goes.
     const CriticalRegion::Guard inside(gQuintessentialMutex);
@@ -180,6 +194,10 @@ void QuintessentialViewWindow::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton) mView.rightMouseDown(*event);
 }
 
+void QuintessentialViewWindow::mouseMoveEvent(QMouseEvent* event) {
+  mView.mouseMoved(event->position());
+}
+
 // ---- Keys ---------------------------------------------------------------------------------------
 
 void QuintessentialViewWindow::keyPressEvent(QKeyEvent* event) {
@@ -188,7 +206,9 @@ void QuintessentialViewWindow::keyPressEvent(QKeyEvent* event) {
     return modifiers == held && event->key() == key;
   };
   if (event->isAutoRepeat()) return;
-  if (is(Qt::NoModifier, Qt::Key_F7)) return mCommands.doToggleQuintessentialViewFullScreen();
+  if (!mToggleKey.isEmpty() &&
+      QKeySequence(modifiers | static_cast<Qt::Key>(event->key())) == mToggleKey)
+    return mCommands.doToggleQuintessentialViewFullScreen();
   if (is(Qt::NoModifier, Qt::Key_Escape) && isFullscreen())
     return mCommands.doToggleQuintessentialViewFullScreen();
   if (is(Qt::NoModifier, Qt::Key_Escape) || is(Qt::ControlModifier, Qt::Key_W))
@@ -208,7 +228,7 @@ void QuintessentialViewWindow::ShowMenu(const QPoint& place) {
       action->setShortcut(key);
       connect(action, &QAction::triggered, this, std::move(command));
     };
-    add("quintessential_menu_toggle", Qt::Key_F7, mCommands.doToggleQuintessentialViewFullScreen);
+    add("quintessential_menu_toggle", mToggleKey, mCommands.doToggleQuintessentialViewFullScreen);
     add("quintessential_menu_processes", {}, mCommands.doShowMainWindow);
     mMenu.addSeparator();
     add("quintessential_menu_close", Qt::CTRL | Qt::Key_W, [this] { closeByUser(); });

@@ -21,6 +21,8 @@ struct ViewCommands {
   std::function<void()> doQuit;
   /// The user has closed the view; nothing else of the program may be left to see.
   std::function<void()> viewWasClosed;
+  /// Whether a window of the program other than the view's is there.
+  std::function<bool()> isSomethingElseThere;
 };
 
 /// The ordinary window of the animated view, the view and nothing else: a native window that is
@@ -42,11 +44,17 @@ class QuintessentialViewWindow : public QWindow {
   /// 0 (transparent) to 1.
   void setAlphaValue(double alpha);
   bool canBecomeKeyWindow() const;
+  /// Why the window is shown.
+  enum class Showing {
+    kAskedFor,  ///< the user wants this very window: with the keyboard, and not minimised
+    kToggled,   ///< by a key that works everywhere: the keyboard stays with other programs
+  };
   /// Never overlaps a frame.
-  void makeKeyAndOrderFront();
+  void makeKeyAndOrderFront(Showing showing = Showing::kAskedFor);
   /// Takes the window away without a word to the engine, for the view that is shown instead.
   void Withdraw();
-  /// Hides the window, ends its being served, and gives the keyboard to another window.
+  /// Hides the window, ends its being served, and gives the keyboard to another window of the
+  /// program, unless another program has it.
   void performClose();
 
   /// Nothing can be drawn: says so instead, from now on.
@@ -63,6 +71,7 @@ class QuintessentialViewWindow : public QWindow {
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   bool event(QEvent* event) override;
 
   void TakeSize();
@@ -82,6 +91,7 @@ class QuintessentialViewWindow : public QWindow {
   QString mMessage;
   std::unique_ptr<QBackingStore> mBackingStore;
   QMenu mMenu;
+  QKeySequence mToggleKey;
   QRect mNormalFrame;
 };
 

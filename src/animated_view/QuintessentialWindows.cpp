@@ -15,6 +15,7 @@
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
+#include "preferences/PreferencesRetrieval.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -46,6 +47,10 @@ QuintessentialView& GetCurrentQuintessentialView() {
 
 QuintessentialWindows::QuintessentialWindows(ViewCommands commands)
     : mCommands(std::move(commands)), mDelegate([this] { Prepare(); }) {
+  mCommands.viewWasClosed = [this, told = std::move(mCommands.viewWasClosed)] {
+    NoteClosing();
+    told();
+  };
   mDrawing.tellOfFailure = [this] {
     QMetaObject::invokeMethod(this, &QuintessentialWindows::HandleFailure, Qt::QueuedConnection);
   };
@@ -103,10 +108,32 @@ void QuintessentialWindows::ShowCurrentWindow() {
   QuintessentialViewWindow* const both[] = {mWindow.get(), mFullscreenWindow.get()};
   for (auto* window : both)
     if (window != &CurrentWindow() && window->isVisible()) window->Withdraw();
-  CurrentWindow().makeKeyAndOrderFront();
+  mHasWindow = mHasWindow || !gQuintessentialViewIsFullScreenOverlay;
+  CurrentWindow().makeKeyAndOrderFront(mShowing);
   if (mTimer == nullptr)
     mTimer = TheMachine().runLoop.AddTimer(TheMachine().clock.AbsoluteTime() + kSecondsBetweenLooks,
                                            kSecondsBetweenLooks, [this] { LookAround(); });
+}
+
+void QuintessentialWindows::doShowQuintessentialView() {
+  const bool goesBack = !gQuintessentialViewIsFullScreenOverlay;
+  if (goesBack && !mHasWindow && mCommands.isSomethingElseThere()) return;
+  mShowing = QuintessentialViewWindow::Showing::kToggled;
+  mCommands.doShowQuintessentialView();
+  mShowing = QuintessentialViewWindow::Showing::kAskedFor;
+}
+
+void QuintessentialWindows::NoteClosing() {
+  mHasWindow = false;
+  // What was closed full screen does not come back so.
+  if (!gQuintessentialViewIsFullScreenOverlay) return;
+  gQuintessentialViewIsFullScreenOverlay = false;
+  SetPrefInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0);
+}
+
+void QuintessentialWindows::SetMarked(const std::vector<std::int32_t>& pids) {
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  mDrawing.marks.selected = {pids.begin(), pids.end()};
 }
 
 bool QuintessentialWindows::IsAnyVisible() const {
@@ -160,6 +187,8 @@ FrameSize QuintessentialWindows::CurrentWindowFrame() const {
 }
 
 void QuintessentialWindows::CloseCurrentWindow() {
+  // One that the user had put away does not come up again by the key.
+  if ((mWindow->windowStates() & Qt::WindowMinimized) != 0) mHasWindow = false;
   CurrentWindow().performClose();
 }
 
@@ -267,8 +296,8 @@ QImage QuintessentialWindows::TakePicture(const QSize& points, double pixelRatio
   const ViewSize size{static_cast<double>(points.width()), static_cast<double>(points.height()),
                       pixelRatio};
   std::vector<DrawnProcess> processes;
-  FindWhatIsDrawn(gQuintessentialInformationClient->qipiList(), settings, ViewMode::kWindow, size,
-                  processes);
+  FindWhatIsDrawn(gQuintessentialInformationClient->qipiList(), settings, mDrawing.marks,
+                  ViewMode::kWindow, size, processes);
   for (auto& process : processes) {
     process.icon = renderer.Icons().Acquire(list->iconImage);
     process.label = renderer.Labels().Acquire(list->labelImage);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "animated_view/QuintessentialHost.h"
 #include "animated_view/QuintessentialViewWindow.h"
@@ -32,8 +33,10 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   }
   QuintessentialView& quintessentialFullscreenView() { return mFullscreenWindow->view(); }
 
-  /// Shows the window of the mode that is set, and no other.
+  /// Shows the window of the mode that is set, and no other, because the user wants that window.
   void ShowCurrentWindow();
+  /// Marks those processes in the view, and no others.
+  void SetMarked(const std::vector<std::int32_t>& pids);
   bool IsAnyVisible() const;
   void SaveFrame();
 
@@ -51,7 +54,9 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   void SetUpOverlayStuff() override;
   void SetCurrentWindowAlpha(double alpha) override;
   void SetFullscreenKludgeCountdown(int frames) override;
-  void doShowQuintessentialView() override { mCommands.doShowQuintessentialView(); }
+  /// After a change of the mode. Back from an overlay that came while there was no window, there is
+  /// none again, as long as the user has another one of the program.
+  void doShowQuintessentialView() override;
   /// The drawing thread takes the context by itself for each frame, and nobody else has use for it.
   void MakeContextCurrent() override {}
   void InternalDraw() override;
@@ -62,6 +67,8 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
 
  private:
   QuintessentialViewWindow& CurrentWindow() const;
+  /// The user has closed the window of the mode that is set.
+  void NoteClosing();
   void MakeWindows();
   void Prepare();
   /// Labels are made for one number of pixels per point at a time.
@@ -82,6 +89,9 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   std::unordered_map<std::string, std::weak_ptr<const Picture>> mLabels;
   double mPixelRatio = 0.0;
   std::size_t mManyLabels = 0;
+  QuintessentialViewWindow::Showing mShowing = QuintessentialViewWindow::Showing::kAskedFor;
+  /// The user has the view in a window, or had before the overlay took its place.
+  bool mHasWindow = false;
   int mFailures = 0;
   double mLastFailure = 0.0;
 };

@@ -13,6 +13,7 @@ namespace lurkwell {
 struct ViewDrawing {
   DrawingContext context;
   FrameRenderer renderer;
+  ViewMarks marks;
   /// Kept from frame to frame for its memory.
   std::vector<DrawnProcess> processes;
   /// Drawing has failed; nobody draws until the main thread has dealt with it.

@@ -74,7 +74,14 @@ void vqAppDelegate::init() {
       [this] { doShowMainWindow(); }, [this] { doQuit(); },
       [this] {
         if (!IsAnythingVisibleBut(nullptr)) doQuit();
-      }});
+      },
+      [this] { return IsWidgetVisibleBut(nullptr); }});
+  connect(&fMainWindow->controller(), &vqMainTableController::contentsChanged, this, [this] {
+    // Nobody sees what is selected in a window that is not there.
+    const auto& main = *fMainWindow;
+    fQuintessentialWindows->SetMarked(main.isVisible() ? fMainWindow->controller().selectedPids()
+                                                       : std::vector<std::int32_t>());
+  });
 }
 
 void vqAppDelegate::applicationDidFinishLaunching() {
@@ -182,6 +189,8 @@ void vqAppDelegate::doShowMainWindow() {
 void vqAppDelegate::CheckGraphicsOnce() {
   constexpr char kCheckedKey[] = "QUIVA_CHECK_QUARTZ_EXTREME";
   if (GetPrefInt(kCheckedKey, nullptr, true, 0) != 0) return;
+  // A question takes the keyboard; there will be another time.
+  if (TheMachine().screen.IsKeyboardElsewhere()) return;
   SetPrefInt(kCheckedKey, 1);
   // A question asked inside a timer would hold all others up.
   QMetaObject::invokeMethod(
@@ -248,7 +257,10 @@ bool vqAppDelegate::isLastWindow(const QWidget& window) const {
 bool vqAppDelegate::IsAnythingVisibleBut(const QWidget* window) const {
   // Between window and overlay there is neither.
   if (gFCFSMMgr != nullptr && gFCFSMMgr->IsBusy()) return true;
-  if (fQuintessentialWindows->IsAnyVisible()) return true;
+  return fQuintessentialWindows->IsAnyVisible() || IsWidgetVisibleBut(window);
+}
+
+bool vqAppDelegate::IsWidgetVisibleBut(const QWidget* window) const {
   const auto* forDebugging = gSystemWideInfo != nullptr ? gSystemWideInfo->Window() : nullptr;
   return std::ranges::any_of(QApplication::topLevelWidgets(), [&](const QWidget* other) {
     return other != window && other->isVisible() && other != SplashScreen::window() &&

@@ -71,6 +71,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void OnceNothingIsVisible(void (vqAppDelegate::*then)());
   void ComeBack();
   bool IsAnythingVisibleBut(const QWidget* window) const;
+  bool IsWidgetVisibleBut(const QWidget* window) const;
 
   Launch mLaunch;
   bool mIsRunning = false;

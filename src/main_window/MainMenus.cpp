@@ -9,6 +9,7 @@
 
 #include "main_window/ColumnGroups.h"
 #include "main_window/MainToolbar.h"
+#include "main_window/OverlayKey.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
@@ -17,6 +18,13 @@
 namespace lurkwell {
 
 using Controller = vqMainTableController;
+
+namespace {
+
+/// Points; a menu is to stay one.
+constexpr int kWidestName = 260;
+
+}  // namespace
 
 MainMenus::MainMenus(QMainWindow& window, vqMainTableController& controller,
                      ApplicationCommands& commands)
@@ -138,7 +146,7 @@ void MainMenus::BuildMenuBar() {
       "menu_view_update_now", other, [this] { mController.updateNow(); }, Qt::Key_F5));
   view->addAction(Make(
       "menu_view_overlay", other, [this] { mCommands.doToggleQuintessentialViewFullScreen(); },
-      Qt::Key_F7));
+      OverlayKey()));
   BuildToolbarItems(*view);
   BuildSortMenu(*view);
   auto* columns = AddMenu("menu_columns");
@@ -243,7 +251,26 @@ void MainMenus::BuildSortMenu(QMenu& view) {
   add("menu_view_column_narrower", 0, -20, Qt::Key_Down);
 }
 
+QString MainMenus::NameOfSelection() const {
+  const auto pids = mController.selectedPids();
+  if (pids.size() != 1) return LocalizedString("context_menu_several").arg(pids.size());
+  const auto name = vqMainTableController::nameOf(pids.front());
+  return LocalizedString("context_menu_one")
+      .arg(mContextMenu.fontMetrics().elidedText(name, Qt::ElideMiddle, kWidestName),
+           QString::number(pids.front()))
+      .replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 void MainMenus::BuildContextMenu() {
+  // It also opens far from the table, over the animated view.
+  auto* whom = mContextMenu.addAction(QString());
+  auto font = whom->font();
+  font.setBold(true);
+  whom->setFont(font);
+  whom->setEnabled(false);
+  mContextMenu.addSeparator();
+  connect(&mContextMenu, &QMenu::aboutToShow, this,
+          [this, whom] { whom->setText(NameOfSelection()); });
   for (auto* action : mProcessActions)
     action != nullptr ? mContextMenu.addAction(action) : void(mContextMenu.addSeparator());
   mContextMenu.addSeparator();

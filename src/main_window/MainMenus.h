@@ -65,6 +65,8 @@ class MainMenus : public QObject {
   void BuildMenuBar();
   void BuildContextMenu();
   void BuildHeaderMenu();
+  /// "name (pid)", or how many they are.
+  QString NameOfSelection() const;
   void BuildToolbarItems(QMenu& view);
   /// The windows that follow processes, listed anew whenever the menu opens.
   void BuildOpenWindows(QMenu& menu);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 namespace lurkwell {
 
@@ -19,6 +20,9 @@ class HotKeys {
   /// F7). False when the desktop has no such key, or has none to give; the reason is printed.
   virtual bool RegisterEventHotKey(std::uint32_t virtualKeyCode, std::uint32_t modifiers,
                                    std::function<void()> pressed) = 0;
+
+  /// The key as people write it ("F7", "A"); empty for a number that is no key.
+  virtual std::string KeyName(std::uint32_t virtualKeyCode) const = 0;
 };
 
 }  // namespace lurkwell

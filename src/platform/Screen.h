@@ -29,6 +29,10 @@ class Screen {
 
   /// Whether some other, opaque window hides all of it.
   virtual bool IsCovered(std::uint64_t window) = 0;
+
+  /// Whether a window of another program has the keyboard. A key that is held for the whole desktop
+  /// takes it from nobody.
+  virtual bool IsKeyboardElsewhere() = 0;
 };
 
 }  // namespace lurkwell

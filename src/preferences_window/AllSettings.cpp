@@ -4,12 +4,15 @@
 #include <QHeaderView>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QUiLoader>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstdio>
 
+#include "main_window/CustomCells.h"
 #include "main_window/FrontmostWindow.h"
+#include "preferences_window/SettingTitleCell.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -17,6 +20,18 @@ namespace {
 
 constexpr int kRefreshMilliseconds = 1000;
 constexpr int kCellMargin = 16;
+
+/// The style draws an empty box by the ground alone, which on dark ground nobody sees.
+class ValueCell final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (IsDark(option->palette)) option->palette.setColor(QPalette::Base, QColor(88, 92, 100));
+  }
+};
 
 }  // namespace
 
@@ -75,6 +90,7 @@ bool AllSettings::loadInterface() {
 void AllSettings::setUpTable() {
   fProxy->setSourceModel(fModel);
   fProxy->setFilterKeyColumn(-1);
+  fProxy->setFilterRole(SettingsModel::kFilterRole);
   fProxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
   connect(fFilter, &QLineEdit::textChanged, fProxy, &QSortFilterProxyModel::setFilterFixedString);
   fTable->setModel(fProxy);
@@ -86,7 +102,9 @@ void AllSettings::setUpTable() {
   fTable->horizontalHeader()->setHighlightSections(false);
   fTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   fTable->verticalHeader()->hide();
-  fTable->verticalHeader()->setDefaultSectionSize(fTable->fontMetrics().height() + 8);
+  fTable->verticalHeader()->setDefaultSectionSize(SettingTitleCell::HeightOfRow(fTable->font()));
+  fTable->setItemDelegateForColumn(SettingsModel::kTitle, new SettingTitleCell(fTable));
+  fTable->setItemDelegateForColumn(SettingsModel::kValue, new ValueCell(fTable));
   setColumnWidths();
   connect(fTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &AllSettings::selectionHasChanged);
@@ -105,10 +123,13 @@ void AllSettings::setColumnWidths() {
     const auto title = fModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
     int widest = metrics.horizontalAdvance(title) + kCellMargin;
     // A window's place and a few long keys need not be seen whole.
-    const int most = metrics.averageCharWidth() * (column == SettingsModel::kKey ? 64 : 24);
-    for (int row = 0; row < fModel->rowCount(); ++row)
-      widest =
-          std::max(widest, metrics.horizontalAdvance(fModel->index(row, column).data().toString()));
+    const bool isTitle = column == SettingsModel::kTitle;
+    const int most = metrics.averageCharWidth() * (isTitle ? 52 : 24);
+    for (int row = 0; row < fModel->rowCount(); ++row) {
+      const auto cell = fModel->index(row, column);
+      widest = std::max(widest, isTitle ? SettingTitleCell::WidthOf(fTable->font(), cell)
+                                        : metrics.horizontalAdvance(cell.data().toString()));
+    }
     fTable->setColumnWidth(column, std::min(widest, most) + kCellMargin);
   }
 }

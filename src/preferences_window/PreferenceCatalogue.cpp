@@ -166,6 +166,17 @@ constexpr PreferenceEntry kCatalogue[] = {
     Record("QUBS_DEBUGGING_WINDOW_BOTTOM", 350),
 };
 
+/// The text of that kind; empty without one.
+QString TextOf(const PreferenceEntry& entry, const char* kind, const char* ofComponent) {
+  QByteArray id = QByteArray(kind) + entry.key;
+  if (entry.kind != kColour) return HasLocalizedString(id) ? LocalizedString(id) : QString();
+  // The three components share what their colour is for.
+  const auto cut = id.lastIndexOf('_');
+  const QByteArray component = ofComponent + id.mid(cut).toLower();
+  id.truncate(cut);
+  return HasLocalizedString(id) ? LocalizedString(component).arg(LocalizedString(id)) : QString();
+}
+
 }  // namespace
 
 std::span<const PreferenceEntry> PreferenceCatalogue() {
@@ -177,16 +188,12 @@ const PreferenceEntry* FindPreference(std::string_view key) {
   return at != std::end(kCatalogue) ? at : nullptr;
 }
 
+QString TitleOf(const PreferenceEntry& entry) {
+  return TextOf(entry, "setting_title_", "settings_title");
+}
+
 QString MeaningOf(const PreferenceEntry& entry) {
-  QByteArray id = QByteArray("setting_") + entry.key;
-  if (entry.kind != kColour) {
-    return HasLocalizedString(id) ? LocalizedString(id) : QString();
-  }
-  // The three components share what their colour is for.
-  const auto cut = id.lastIndexOf('_');
-  const QByteArray component = "settings_component" + id.mid(cut).toLower();
-  id.truncate(cut);
-  return HasLocalizedString(id) ? LocalizedString(component).arg(LocalizedString(id)) : QString();
+  return TextOf(entry, "setting_", "settings_component");
 }
 
 }  // namespace lurkwell

@@ -50,6 +50,9 @@ std::span<const PreferenceEntry> PreferenceCatalogue();
 /// Null when there is no such key.
 const PreferenceEntry* FindPreference(std::string_view key);
 
+/// What people call the setting, a few words. Main thread.
+QString TitleOf(const PreferenceEntry& entry);
+
 /// What the setting is for, a sentence; empty without a text. Main thread.
 QString MeaningOf(const PreferenceEntry& entry);
 

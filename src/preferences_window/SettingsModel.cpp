@@ -95,12 +95,16 @@ QVariant SettingsModel::headerData(int section, Qt::Orientation orientation, int
 QVariant SettingsModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const auto& entry = EntryAt(index.row());
+  if (role == kKeyRole) return QLatin1String(entry.key);
+  if (role == kFilterRole) return FilteredText(index);
   if (index.column() == kValue) return ValueData(index.row(), role);
+  if (index.column() == kTitle && role == Qt::AccessibleTextRole)
+    return LocalizedString("settings_title_and_key").arg(TitleOf(entry), QLatin1String(entry.key));
   if (role == Qt::ToolTipRole) return MeaningOf(entry);
   if (role != Qt::DisplayRole) return {};
   switch (index.column()) {
-    case kKey:
-      return QLatin1String(entry.key);
+    case kTitle:
+      return TitleOf(entry);
     case kDefault:
       return DefaultText(entry);
     case kKind:
@@ -110,6 +114,12 @@ QVariant SettingsModel::data(const QModelIndex& index, int role) const {
     default:
       return MeaningOf(entry);
   }
+}
+
+QString SettingsModel::FilteredText(const QModelIndex& index) const {
+  const auto shown = index.data().toString();
+  if (index.column() != kTitle) return shown;
+  return shown + QLatin1Char('\n') + QLatin1String(EntryAt(index.row()).key);
 }
 
 QVariant SettingsModel::ValueData(int row, int role) const {

@@ -16,7 +16,12 @@ class SettingsModel final : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  enum Column { kKey, kValue, kDefault, kKind, kEffect, kMeaning, kColumns };
+  /// The first column shows the setting's title; its key is there as kKeyRole.
+  enum Column { kTitle, kValue, kDefault, kKind, kEffect, kMeaning, kColumns };
+
+  static constexpr int kKeyRole = Qt::UserRole;
+  /// What a filter looks at.
+  static constexpr int kFilterRole = Qt::UserRole + 1;
 
   explicit SettingsModel(QObject* parent = nullptr);
 
@@ -47,6 +52,7 @@ class SettingsModel final : public QAbstractTableModel {
  private:
   static const PreferenceEntry& EntryAt(int row);
   bool Change(const PreferenceEntry& entry, const QString& text);
+  QString FilteredText(const QModelIndex& index) const;
   QVariant ValueData(int row, int role) const;
 
   /// What is stored, as texts; null for nothing.

@@ -123,8 +123,14 @@ TEST_F(AnimatedClient, ThousandsComeInSlicesAndLeaveAtOnce) {
   EXPECT_GT(first, 700U);
   EXPECT_LT(first, 1602U);
   for (const auto& info : client->qipiList()) EXPECT_TRUE(info.locationInitialized);
+  // What changes of one that waits for its place is there when it comes.
+  std::int32_t waiting = 100;
+  while (client->qipiList().Find(waiting) != nullptr) ++waiting;
+  machine.processManager.Launch({0, 9}, waiting, "application");
+  machine.iconServices.SetColour({0, 9}, 0xFF112233);
   machine.runLoop.RunFor(1000);
   EXPECT_EQ(client->qipiList().size(), 1602U);
+  EXPECT_EQ(Of(waiting).iconImage->pixels.front(), 0xFF112233U);
   for (std::int32_t pid = 100; pid < 1700; ++pid) machine.processTable.Death(pid);
   machine.runLoop.RunFor(250);
   EXPECT_EQ(client->qipiList().size(), 2U);
@@ -137,13 +143,14 @@ TEST_F(AnimatedClient, CPUUseBecomesWeight) {
   machine.processTable.Birth(103, "Lurkwell");
   machine.processTable.Birth(104, "lkw_helper_daemo");
   machine.processTable.Birth(105, "Lurkwell2");
+  machine.processTable.Birth(106, "lurkwell");
   machine.preferenceDomain.SetValue("QUINT_TARVIK_FACTOR", 3.0);
   Make();
   Show();
   machine.runLoop.RunFor(1100);
   EXPECT_EQ(Of(101).targetWeight, 0.6) << "one reading tells nothing";
   const auto useAll = [this](std::int64_t milliseconds) {
-    for (const int pid : {0, 101, 103, 104, 105})
+    for (const int pid : {0, 101, 103, 104, 105, 106})
       machine.processTable.Find(pid)->UseCPU(milliseconds);
   };
   useAll(250);
@@ -156,6 +163,7 @@ TEST_F(AnimatedClient, CPUUseBecomesWeight) {
   EXPECT_DOUBLE_EQ(Of(103).targetWeight, 2 * 0.45 * 3 + 0.5);
   EXPECT_DOUBLE_EQ(Of(104).targetWeight, 2 * 0.45 * 3 + 0.5);
   EXPECT_DOUBLE_EQ(Of(105).targetWeight, 2 * 0.45 + 0.5);
+  EXPECT_DOUBLE_EQ(Of(106).targetWeight, 2 * 0.45 * 3 + 0.5) << "in a build tree";
   machine.processTable.Find(101)->userTime = {};
   machine.runLoop.RunFor(1000);
   EXPECT_DOUBLE_EQ(Of(101).targetWeight, 0.5) << "time that went back";
@@ -181,6 +189,10 @@ TEST_F(AnimatedClient, ChangesAreTakenOver) {
   machine.processTable.Birth(100, "before");
   MakeAndShow();
   Info& info = Of(100);
+  // A mark that would turn the letters round is written out, as in every other window.
+  machine.processTable.Find(100)->SetName("gnp\xe2\x80\xae.exe");
+  machine.runLoop.RunFor(500);
+  EXPECT_EQ(info.labelImage->width, static_cast<int>(std::strlen("gnp\\xe2\\x80\\xae.exe")));
   info.iconTexture = info.labelTexture = 7;
   info.texturesReady = true;
   machine.processTable.Find(100)->SetName("afterwards");

@@ -1,6 +1,7 @@
 // Frames drawn by Mesa's software renderer and read back.
 #include <QColor>
 #include <QImage>
+#include <algorithm>
 #include <cmath>
 
 #include "animated_view/FrameContents.h"
@@ -56,7 +57,7 @@ TEST_P(Drawing, PutsEverythingInItsPlace) {
   look.drawConnectors = true;
   look.connectorWidth = 2.5F;
   // At -0.5, 0.5 (pixels 50, 25) and 0.5, 0.5 (150, 25).
-  std::vector<DrawnProcess> processes(2);
+  std::vector<DrawnProcess> processes(3);
   processes[0] = {-0.5, 0.5, 20, 1, renderer.Icons().Acquire(Plain(8, 8, 0xffff0000)), 0, 0, 0};
   processes[1] = {0.5, 0.5, 30, -1, renderer.Icons().Acquire(Plain(8, 8, 0xff00ff00)), 0, 0, 0};
   // A label of 6 by 2 pixels: a row of white over a row of black.
@@ -66,6 +67,9 @@ TEST_P(Drawing, PutsEverythingInItsPlace) {
   processes[1].label = renderer.Labels().Acquire(std::make_shared<const Picture>(label));
   processes[1].labelX = 0.5;
   processes[1].labelY = -0.5;
+  // A ring alone, around pixel 100, 75.
+  processes[2].y = -0.5;
+  processes[2].markSide = 30;
   const QImage image = Draw(processes);
 
   EXPECT_EQ(At(image, 5, 95), kGround);
@@ -76,6 +80,10 @@ TEST_P(Drawing, PutsEverythingInItsPlace) {
   EXPECT_EQ(At(image, 38, 36), kGround);
   EXPECT_EQ(At(image, 136, 39), "5,231,11,255");
   EXPECT_EQ(At(image, 133, 42), kGround);
+  // The ring, amber, 13 pixels from its middle.
+  const auto* amber = image.constScanLine(75) + 113 * 4;
+  EXPECT_TRUE(amber[0] > 180 && amber[1] > 120 && amber[2] < 80) << At(image, 113, 75);
+  EXPECT_EQ(At(image, 117, 75), kGround);
   // The label's rows stand at 74 and 75, texel on pixel, at 160 of 255.
   EXPECT_EQ(At(image, 147, 74), "175,181,194,255");
   EXPECT_EQ(At(image, 152, 74), "175,181,194,255");
@@ -193,26 +201,26 @@ TEST(FrameContents, ScalesIconsLinksRelativesAndHoldsLabelsStill) {
   add(6, 1, 0.75);
   std::vector<DrawnProcess> drawn;
   const ViewSize size{400, 300, 2};
-  FindWhatIsDrawn(list, {}, ViewMode::kWindow, size, drawn);
+  FindWhatIsDrawn(list, {}, {}, ViewMode::kWindow, size, drawn);
   // Half the weight of an icon of 150 points in a view that goes from -1 to 1, in pixels.
   EXPECT_DOUBLE_EQ(drawn[0].iconSide, 75);
   EXPECT_EQ(drawn[0].parent, -1);
   EXPECT_EQ(drawn[1].parent, -1);
   EXPECT_EQ(drawn[2].parent, 0);
   EXPECT_DOUBLE_EQ(drawn[2].x, 0.5);
-  // The whole part of -399.5, of 800.
-  EXPECT_NEAR(drawn[0].labelX, -0.49875, 1e-7);
+  EXPECT_NEAR(drawn[0].labelX, -0.5, 1e-7);
   // By less than a pixel of 800: the icon moves, the label does not.
-  init.x += 0.4 / 800;
-  FindWhatIsDrawn(list, {}, ViewMode::kOverlay, size, drawn);
+  init.x += 0.9 / 800;
+  FindWhatIsDrawn(list, {}, {}, ViewMode::kOverlay, size, drawn);
   EXPECT_DOUBLE_EQ(drawn[0].iconSide, 112.5);
   EXPECT_GT(drawn[0].x, -0.5);
-  EXPECT_NEAR(drawn[0].labelX, -0.49875, 1e-7);
-  init.x += 3.0 / 800;
-  FindWhatIsDrawn(list, {}, ViewMode::kWindow, size, drawn);
-  EXPECT_NEAR(drawn[0].labelX, -0.49, 1e-7);
+  EXPECT_NEAR(drawn[0].labelX, -0.5, 1e-7);
+  // By more: to the whole pixel, the 203rd.
+  init.x += 2.4 / 800;
+  FindWhatIsDrawn(list, {}, {}, ViewMode::kWindow, size, drawn);
+  EXPECT_NEAR(drawn[0].labelX, 2 * 203 / 800.0 - 1, 1e-7);
   // A view without an extent divides by nothing.
-  FindWhatIsDrawn(list, {}, ViewMode::kWindow, {0, 0, 1}, drawn);
+  FindWhatIsDrawn(list, {}, {}, ViewMode::kWindow, {0, 0, 1}, drawn);
   EXPECT_TRUE(std::isfinite(drawn[0].iconSide) && std::isfinite(drawn[0].labelX));
   QuintessentialDrawingSettings settings;
   EXPECT_EQ(LookOf(settings, ViewMode::kOverlay, size).backgroundAlpha, 63);
@@ -220,6 +228,48 @@ TEST(FrameContents, ScalesIconsLinksRelativesAndHoldsLabelsStill) {
   EXPECT_EQ(LookOf(settings, ViewMode::kWindow, size).backgroundAlpha, 224);
   settings.underlayAlpha = std::nan("");
   EXPECT_EQ(LookOf(settings, ViewMode::kOverlay, size).backgroundAlpha, 0);
+}
+
+TEST(FrameContents, InACrowdLabelsGiveWayToThoseThatMatterMore) {
+  QipiList list;
+  const auto add = [&](std::int32_t pid, double x, double weight) {
+    QuintessentialInformationProcessInfo info;
+    info.pid = pid;
+    info.x = x;
+    info.weight = weight;
+    info.labelImage = Plain(40, 15, 0xff000000);
+    list.PushBack(std::move(info));
+  };
+  // Two heaps, one at the edge, and one process by itself.
+  for (std::int32_t pid = 0; pid < 60; ++pid) add(pid, 0.5, pid == 30 ? 0.9 : 0.5);
+  for (std::int32_t pid = 60; pid < 98; ++pid) add(pid, 0.001, 0.5);
+  add(98, 0.8, 0.5);
+  std::vector<DrawnProcess> drawn;
+  ViewMarks marks;
+  const auto shown = [&] {
+    FindWhatIsDrawn(list, {}, marks, ViewMode::kWindow, {400, 300, 1}, drawn);
+    std::string pids;
+    for (std::size_t i = 0; i < drawn.size(); ++i)
+      if (drawn[i].labelIsShown) pids += std::to_string(i) + ' ';
+    return pids;
+  };
+  shown();
+  EXPECT_TRUE(std::ranges::all_of(drawn, &DrawnProcess::labelIsShown)) << "99 are no crowd";
+  add(99, 0.9, 0.5);
+  EXPECT_EQ(shown(), "30 60 98 99 ");
+  // What is there stays against its like, and gives way to a busy one.
+  list.Find(61)->weight += 0.1;
+  list.Find(30)->weight = 0.55;
+  list.Find(31)->weight = 1.1;
+  EXPECT_EQ(shown(), "31 60 98 99 ");
+  marks.selected = {5, 98};
+  EXPECT_EQ(shown(), "5 60 98 99 ");
+  EXPECT_GT(drawn[5].markSide, drawn[5].iconSide);
+  EXPECT_EQ(drawn[6].markSide, 0.0);
+  marks.pointedAt = 6;
+  EXPECT_EQ(shown(), "6 60 98 99 ");
+  // The heap at the edge keeps its whole label in the view.
+  EXPECT_EQ(CornerOfLabel(drawn[60].labelX, drawn[60].labelY, 40, 15, 400, 300).left, 0);
 }
 
 TEST(FrameContents, WhatFindsNoRoomGetsItWhenOthersGo) {

@@ -35,8 +35,9 @@ class ViewWindows : public OnADisplay, public ApplicationCommands {
     channel = std::make_unique<HelperChannel>(machine);
     InitializeProcessInformationConsolidator();
     CreateFlowControlFSMMgr();
-    windows = std::make_unique<QuintessentialWindows>(ViewCommands{
-        [this] { windows->ShowCurrentWindow(); }, [] { HotKeyFunc(); }, [] {}, [] {}, [] {}});
+    windows = std::make_unique<QuintessentialWindows>(
+        ViewCommands{[this] { windows->ShowCurrentWindow(); }, [] { HotKeyFunc(); }, [] {}, [] {},
+                     [] {}, [this] { return mainWindow != nullptr && mainWindow->isVisible(); }});
   }
   ~ViewWindows() override {
     gApplicationQuitting = true;
@@ -205,6 +206,64 @@ TEST_F(ViewWindows, OneOfTheTwoIsThereHoweverQuicklyTheyAreExchanged) {
   Serve(200);
   EXPECT_EQ(Records(), 0U);
   EXPECT_FALSE(windows->IsAnyVisible());
+}
+
+TEST_F(ViewWindows, AToggleComesAndGoesWithoutTheKeyboardOfAnotherProgram) {
+  mainWindow = std::make_unique<MainWindow>(*this);
+  mainWindow->show();
+  QWidget other;
+  other.setGeometry(300, 300, 200, 200);
+  other.show();
+  EXPECT_TRUE(ComesAbout([&] { return other.isActiveWindow() && mainWindow->isVisible(); }));
+  machine.screen.isKeyboardElsewhere = true;
+  auto& window = windows->quintessentialWindow();
+  auto& overlay = windows->quintessentialFullscreenWindow();
+  for (const bool blends : {false, true}) {
+    machine.screen.blends = blends;
+    // Without a window before there is none afterwards.
+    HotKeyFunc();
+    EXPECT_TRUE(ComesAbout([&] { return overlay.isExposed() && overlay.IsRevealed(); }));
+    Serve(300);
+    EXPECT_TRUE(other.isActiveWindow());
+    EXPECT_EQ(machine.log.Take().find("RunAlertPanel"), std::string::npos)
+        << "a question would take the keyboard";
+    HotKeyFunc();
+    EXPECT_TRUE(ComesAbout([&] { return !overlay.isVisible() && !gFCFSMMgr->IsBusy(); }));
+    Serve(300);
+    EXPECT_TRUE(other.isActiveWindow());
+    EXPECT_FALSE(window.isVisible());
+  }
+  // There is one again where there was one.
+  windows->ShowCurrentWindow();
+  EXPECT_TRUE(ComesAbout([&] { return window.isExposed() && window.isActive(); }));
+  other.activateWindow();
+  EXPECT_TRUE(ComesAbout([&] { return other.isActiveWindow(); }));
+  for (const bool minimised : {false, true}) {
+    if (minimised) window.showMinimized();
+    for (const bool full : {true, false}) {
+      HotKeyFunc();
+      // What was put away does not come up.
+      const bool isThere = !full && !minimised;
+      EXPECT_TRUE(ComesAbout([&] {
+        return !gFCFSMMgr->IsBusy() && overlay.isVisible() == full && window.isVisible() == isThere;
+      }));
+      Serve(300);
+      EXPECT_TRUE(other.isActiveWindow());
+    }
+  }
+}
+
+TEST_F(ViewWindows, AFullScreenViewThatIsClosedStaysClosed) {
+  machine.screen.blends = false;
+  HotKeyFunc();
+  auto& overlay = windows->quintessentialFullscreenWindow();
+  EXPECT_TRUE(ComesAbout([&] { return overlay.isExposed() && Records() > 20; }));
+  QTest::keyClick(&overlay, Qt::Key_W, Qt::ControlModifier);
+  EXPECT_FALSE(windows->IsAnyVisible());
+  EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", nullptr, false, -1), 0);
+  EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW", nullptr, false, -1), 0);
+  windows->ShowCurrentWindow();
+  EXPECT_TRUE(windows->quintessentialWindow().isVisible());
 }
 
 struct NoOpenGL {

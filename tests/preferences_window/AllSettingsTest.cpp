@@ -21,7 +21,7 @@ class AllSettingsTest : public PanelTest {
   QModelIndex Cell(const char* key, int column = SettingsModel::kValue) {
     auto* model = Table().table().model();
     for (int row = 0; row < model->rowCount(); ++row)
-      if (model->index(row, SettingsModel::kKey).data().toString() == QLatin1String(key))
+      if (model->index(row, 0).data(SettingsModel::kKeyRole).toString() == QLatin1String(key))
         return model->index(row, column);
     ADD_FAILURE() << key;
     return {};
@@ -173,6 +173,9 @@ TEST_F(AllSettingsTest, FiltersByAnythingFollowsOthersAndClosesWithThePanel) {
   filter->setText("paging LIGHT");
   EXPECT_GE(window->table().model()->rowCount(), 2);
   EXPECT_LT(window->table().model()->rowCount(), 6);
+  EXPECT_EQ(window->table().model()->index(0, 0).data(), "Paging light: time between flashes");
+  filter->setText("MEM_graph");
+  EXPECT_EQ(window->table().model()->rowCount(), 1) << "by its key, too";
   filter->clear();
   EXPECT_EQ(window->table().model()->rowCount(), all);
   SetPrefInt("MAIN_WINDOW_INTERVAL", 4321);

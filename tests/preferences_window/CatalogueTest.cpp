@@ -162,12 +162,17 @@ TEST_F(PanelTest, DefaultsThatTheWindowsStoreAreTheCataloguesOwn) {
 
 TEST(CatalogueTest, EachRowMakesSense) {
   QString text;
+  QSet<QString> titles;
   for (const auto& [place, source] : Sources()) text += source;
   QSet<QString> keys, meanings;
   for (const auto& entry : PreferenceCatalogue()) {
     EXPECT_FALSE(keys.contains(entry.key)) << entry.key;
     keys += entry.key;
     const QString meaning = MeaningOf(entry);
+    const QString title = TitleOf(entry);
+    EXPECT_FALSE(title.isEmpty() || titles.contains(title)) << entry.key;
+    EXPECT_LT(title.size(), 60) << entry.key;
+    titles.insert(title);
     EXPECT_FALSE(meaning.isEmpty() || meanings.contains(meaning)) << entry.key;
     meanings += meaning;
     if (entry.HasDefault()) {

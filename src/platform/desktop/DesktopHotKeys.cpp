@@ -1,6 +1,7 @@
 #include "platform/desktop/DesktopHotKeys.h"
 
 #include <QGuiApplication>
+#include <cctype>
 #include <cstdio>
 #include <string>
 #include <utility>
@@ -80,6 +81,14 @@ bool DesktopHotKeys::RegisterEventHotKey(std::uint32_t virtualKeyCode, std::uint
   }
   Complain(ServerNameOf(*symbol, withSuper), "the windows are on no desktop that gives keys");
   return false;
+}
+
+std::string DesktopHotKeys::KeyName(std::uint32_t virtualKeyCode) const {
+  const auto symbol = KeySymbolOf(virtualKeyCode);
+  if (!symbol) return {};
+  std::string name = NameOf(*symbol);
+  name.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(name.front())));
+  return name;
 }
 
 bool DesktopHotKeys::TakeFromServer(std::uint32_t symbol, bool withSuper,

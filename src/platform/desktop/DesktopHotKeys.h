@@ -23,6 +23,7 @@ class DesktopHotKeys final : public HotKeys {
 
   bool RegisterEventHotKey(std::uint32_t virtualKeyCode, std::uint32_t modifiers,
                            std::function<void()> pressed) override;
+  std::string KeyName(std::uint32_t virtualKeyCode) const override;
 
  private:
   bool TakeFromServer(std::uint32_t symbol, bool withSuper, std::function<void()> pressed);

@@ -6,6 +6,7 @@
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -189,6 +190,21 @@ bool DesktopScreen::AreaOf(xcb_get_geometry_cookie_t geometry,
   area = {at->dst_x, at->dst_y, size->width, size->height};
   depth = size->depth;
   return true;
+}
+
+bool DesktopScreen::IsKeyboardElsewhere() {
+  const bool byToolkit = QGuiApplication::applicationState() != Qt::ApplicationActive;
+  auto* server = Server();
+  if (server == nullptr) return byToolkit;
+  const auto reply = server->Wait<xcb_get_property_reply_t>(
+      server->AskProperty(server->Root(), AtomNamed("_NET_ACTIVE_WINDOW"), 1),
+      XConnection::BatchDeadline());
+  const auto words = PropertyWords(reply.get());
+  if (words.empty()) return byToolkit;
+  const auto windows = QGuiApplication::topLevelWindows();
+  return words[0] != XCB_NONE && std::ranges::none_of(windows, [&](const QWindow* window) {
+           return window->handle() != nullptr && window->winId() == words[0];
+         });
 }
 
 bool DesktopScreen::IsCovered(std::uint64_t number) {

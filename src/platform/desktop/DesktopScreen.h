@@ -29,6 +29,7 @@ class DesktopScreen final : public Screen {
   void MakeFloating(std::uint64_t window) override;
   void KeepInSight(std::uint64_t window) override;
   bool IsCovered(std::uint64_t window) override;
+  bool IsKeyboardElsewhere() override;
 
  private:
   struct Area {

@@ -10,6 +10,7 @@ class NoHotKeys final : public HotKeys {
   bool RegisterEventHotKey(std::uint32_t, std::uint32_t, std::function<void()>) override {
     return false;
   }
+  std::string KeyName(std::uint32_t) const override { return {}; }
 };
 
 }  // namespace lurkwell

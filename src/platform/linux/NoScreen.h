@@ -12,6 +12,7 @@ class NoScreen final : public Screen {
   void MakeFloating(std::uint64_t) override {}
   void KeepInSight(std::uint64_t) override {}
   bool IsCovered(std::uint64_t) override { return false; }
+  bool IsKeyboardElsewhere() override { return true; }
 };
 
 }  // namespace lurkwell

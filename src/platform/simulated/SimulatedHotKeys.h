@@ -21,6 +21,10 @@ class SimulatedHotKeys final : public HotKeys {
     return true;
   }
 
+  std::string KeyName(std::uint32_t virtualKeyCode) const override {
+    return "F" + std::to_string(virtualKeyCode == 98 ? 7 : 12);
+  }
+
   /// Calls whoever registered that key; how many they were.
   int Press(std::uint32_t virtualKeyCode, std::uint32_t modifiers) {
     int count = 0;

@@ -18,10 +18,12 @@ class SimulatedScreen final : public Screen {
   void MakeFloating(std::uint64_t) override { mLog.Add("Screen.MakeFloating"); }
   void KeepInSight(std::uint64_t) override { mLog.Add("Screen.KeepInSight"); }
   bool IsCovered(std::uint64_t) override { return isCovered; }
+  bool IsKeyboardElsewhere() override { return isKeyboardElsewhere; }
 
   bool isAccelerated = true;
   bool blends = true;
   bool isCovered = false;
+  bool isKeyboardElsewhere = false;
 
  private:
   AccessLog& mLog;
