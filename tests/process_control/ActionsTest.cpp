@@ -16,7 +16,7 @@ class ActionsTest : public SimulatedControl {
     machine.processTable.Birth(kApplication, "application");
     machine.processManager.Launch({1, 5}, kApplication, "Application");
     machine.processManager.Launch({2, 9}, std::nullopt, "Classic Application");
-    NormalInternalLaunchDaemon("/helper", nullptr);
+    OpenChannel("/helper");
     InitializeProcessInformationConsolidator();
     auto* client = new RecordingClient("client", 1000, told);
     client->NeedsEverything();
