@@ -239,8 +239,8 @@ std::string DaemonConversation::TakeLateAnswer() {
 }
 
 std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity) {
-  // More than an answer before it and its own can take.
-  return Query(request, answer, capacity, 3 * gDaemonLimits.answering);
+  // The answers themselves are limited.
+  return Query(request, answer, capacity, std::chrono::hours(1));
 }
 
 void SettleDaemonChannel() {

@@ -31,8 +31,8 @@ void LaunchHelperDaemon() {
 }
 
 const DaemonStatus& GetDaemonStatus() {
-  static const DaemonStatus kNone;
-  return gLaunch == nullptr ? kNone : gLaunch->Status();
+  static const DaemonStatus kNotBegun{DaemonRights::kStarting, {}, false};
+  return gLaunch == nullptr ? kNotBegun : gLaunch->Status();
 }
 
 void AskForDaemonRights() {
