@@ -24,6 +24,7 @@
 #include "platform/linux/PropertyListDomain.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "process_control/DaemonCommunication.h"
+#include "support/OpenChannel.h"
 
 namespace lurkwell {
 namespace {
@@ -101,7 +102,7 @@ class RealMachine {
 class Helper {
  public:
   Helper() {
-    NormalInternalLaunchDaemon(LURKWELL_BENCHMARK_HELPER, nullptr);
+    OpenChannel(LURKWELL_BENCHMARK_HELPER);
     if (gFd_a2d >= 0) mPid = FindChild();
   }
   ~Helper() {

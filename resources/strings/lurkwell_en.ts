@@ -1829,11 +1829,31 @@
     </message>
     <message id="main_window_helper_unprivileged">
         <source></source>
-        <translation>The helper is not running with an administrator's rights: other users' processes may lack figures.</translation>
+        <translation>Acts on your own processes only. &lt;a href=&quot;rights&quot;&gt;More rights…&lt;/a&gt;</translation>
     </message>
     <message id="main_window_helper_absent">
         <source></source>
-        <translation>The helper is not running: figures beyond the process table are missing.</translation>
+        <translation>The helper is not running: nothing can be done to processes. &lt;a href=&quot;rights&quot;&gt;Why?&lt;/a&gt;</translation>
+    </message>
+    <message id="main_window_rights_title">
+        <source></source>
+        <translation>Lurkwell acts on your own processes only</translation>
+    </message>
+    <message id="main_window_rights_may_ask">
+        <source></source>
+        <translation>An administrator can give Lurkwell's helper the rights to signal and renice every process. This is asked once; later starts find them.</translation>
+    </message>
+    <message id="main_window_rights_may_not_ask">
+        <source></source>
+        <translation>An installed package brings a helper that an administrator can give the rights to signal and renice every process.</translation>
+    </message>
+    <message id="main_window_rights_ask">
+        <source></source>
+        <translation>Authenticate…</translation>
+    </message>
+    <message id="main_window_rights_close">
+        <source></source>
+        <translation>Close</translation>
     </message>
     <message id="main_window_help_missing">
         <source></source>
@@ -3522,6 +3542,10 @@ Free: %5</translation>
     <message id="setting_GENERAL_ALWAYS_AUTHENTICATE_DAEMON">
         <source></source>
         <translation>Ask for an administrator's password at every start, even when the helper has its rights already.</translation>
+    </message>
+    <message id="setting_GENERAL_CONTINUE_WITHOUT_RIGHTS">
+        <source></source>
+        <translation>Start without an administrator's rights where the helper has none, and do not ask for them. Set by "Continue Without".</translation>
     </message>
     <message id="setting_PREFERENCES_UI_DEFAULT_TAB">
         <source></source>

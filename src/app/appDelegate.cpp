@@ -36,6 +36,8 @@ namespace lurkwell {
 vqAppDelegate* gAppDelegate = nullptr;
 
 namespace {
+/// The windows come first: they can do without the helper.
+constexpr double kHelperStartSeconds = 0.1;
 /// The watchdog looks at the processes sooner.
 constexpr double kFirstLookSeconds = 2.0;
 constexpr char kDebuggingKey[] = "QUBS_DEBUGGING_AND_TESTING";
@@ -92,7 +94,8 @@ void vqAppDelegate::applicationDidFinishLaunching() {
   }
   mIsRunning = true;
   CreateFlowControlFSMMgr();
-  LaunchHelperDaemon();
+  mHelperStart = TheMachine().runLoop.AddTimer(
+      TheMachine().clock.AbsoluteTime() + kHelperStartSeconds, 0.0, [] { LaunchHelperDaemon(); });
   if (mLaunch == Launch::kUsual) {
     ClassicPSNSetupProcessExtractionAppleEvent();
     TurnOnClassicNub();
@@ -145,6 +148,7 @@ void vqAppDelegate::applicationWillTerminate() {
       ProcessInformationClient::NotifyAllPidHasBeenRemoved(pid, true);
   }
   if (gClassicWatchdog != nullptr) TurnOffClassicNub();
+  mHelperStart.reset();
   QuitHelperDaemon();
   QubsDebuggingCleanup();
   ProcessInformationClient::DeleteAllProcessInformationClients();
@@ -171,6 +175,7 @@ void vqAppDelegate::displayWasLost() {
     fMainWindow->controller().saveColumnPrefs();
   }
   if (gClassicWatchdog != nullptr) TurnOffClassicNub();
+  mHelperStart.reset();
   QuitHelperDaemon();
 }
 

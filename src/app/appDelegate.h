@@ -78,6 +78,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   bool mHasLaunched = false;
   bool mIsQuitting = false;
   /// Until the watchdog has brought back what it remembers.
+  std::unique_ptr<RunLoopTimer> mHelperStart;
   std::unique_ptr<RunLoopTimer> mFirstLook;
   /// Serves the main window and the watchdog, which go before it.
   FollowingWindows mFollowingWindows;

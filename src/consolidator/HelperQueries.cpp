@@ -42,10 +42,25 @@ unsigned GroupOf(const CatalogueRow& row) {
   return 0;
 }
 
+/// What the pass before left: where to begin, and the process whose answer was not waited for.
+std::size_t gStart = 0;
+std::int32_t gLatePid = kInvalidPID;
+unsigned gLateGroups = 0;
+
+void MarkUnknown(std::int32_t pid, unsigned groups) {
+  PidReport report(pid);
+  for (const auto& row : BuiltInProperties())
+    if ((GroupOf(row) & groups) != 0) report.NoValue(row, Missing::kNotYetKnown);
+}
+
 }  // namespace
 
-HelperQueries::HelperQueries() {
+HelperQueries::HelperQueries() : mLateAnswer(DaemonConversation::TakeLateAnswer()) {
   Reset();
+}
+
+HelperQueries::~HelperQueries() {
+  gStart = mNextStart;
 }
 
 void HelperQueries::Reset() {
@@ -57,6 +72,27 @@ void HelperQueries::Reset() {
 }
 
 unsigned HelperQueries::Ask(std::int32_t pid, unsigned groups) {
+  unsigned known = TakeLate(pid, groups);
+  if (known != groups && IsItsTurn()) known |= AskNow(pid, groups);
+  if (known != groups) MarkUnknown(pid, groups & ~known);
+  return known;
+}
+
+bool HelperQueries::IsItsTurn() {
+  return ++mCount > gStart && !mIsTimeOver;
+}
+
+unsigned HelperQueries::TakeLate(std::int32_t pid, unsigned groups) {
+  if (pid != gLatePid || mLateAnswer.empty()) return 0;
+  mAsked = {{pid, std::exchange(gLateGroups, 0) & groups}};
+  gLatePid = kInvalidPID;
+  mAnsweredGroups = 0;
+  ReportAnswer(mLateAnswer);
+  Reset();
+  return mAnsweredGroups;
+}
+
+unsigned HelperQueries::AskNow(std::int32_t pid, unsigned groups) {
   mAnsweredGroups = 0;
   AppendLine(pid, groups);
   ++mQueuedPids;
@@ -82,7 +118,16 @@ void HelperQueries::AppendLine(std::int32_t pid, unsigned groups) {
 }
 
 void HelperQueries::HandlePendingDaemonQueries() {
-  const auto length = QueryDaemon(gQueryBuf, gAnswerBuf, kBufferSize - 1);
+  const auto length = mConversation.Query(gQueryBuf, gAnswerBuf, kBufferSize - 1);
+  if (length == kDaemonAnswersLater || length == kDaemonNotAsked) {
+    mIsTimeOver = true;
+    const bool wasAsked = length == kDaemonAnswersLater;
+    mNextStart = wasAsked ? mCount : mCount - 1;
+    if (wasAsked) {
+      gLatePid = mAsked.back().pid;
+      gLateGroups = mAsked.back().groups;
+    }
+  }
   const std::string_view answer(gAnswerBuf, length > 0 ? std::strlen(gAnswerBuf) : std::size_t{0});
   // Figures that the last answer gave, letter for letter, are in the records already.
   const std::string_view previous(gPreviousAnswerBuf, mPreviousAnswerLength);

@@ -31,7 +31,7 @@ bool LookAt(const System& system, std::int32_t pid, Target& target) {
 }
 
 bool IsRefused(const Surroundings& surroundings, const ActionRequest& request) {
-  return request.pid < 2 || (request.permit->signal != 0 && request.pid == surroundings.ownPid) ||
+  return request.pid < 2 || request.pid == surroundings.ownPid ||
          (request.permit->sparesPeer && request.pid == surroundings.peerPid);
 }
 
@@ -43,13 +43,13 @@ std::string_view Renice(const System& system, const ActionRequest& request, cons
   return LookAt(system, request.pid, now) && now.start == target.start ? kDone : kOtherProcess;
 }
 
-std::string_view Act(const System& system, const ProcessFiles& files, const ActionRequest& request,
-                     Target& target) {
+std::string_view Act(const System& system, const ReportedStarts& starts,
+                     const ActionRequest& request, Target& target) {
   const int process = system.openProcess(request.pid);
   if (process < 0) return process == -ESRCH ? kNoSuchProcess : kRefused;
   std::string_view answer = kNoSuchProcess;
   if (LookAt(system, request.pid, target)) {
-    const std::uint64_t reported = files.StartOf(request.pid);
+    const std::uint64_t reported = starts.Of(request.pid);
     if (reported != 0 && reported != target.start)
       answer = kOtherProcess;
     else if (request.permit->signal == 0)
@@ -106,10 +106,10 @@ void Log(const System& system, const Surroundings& surroundings, const ActionReq
 }  // namespace
 
 std::string_view CarryOut(const System& system, const Surroundings& surroundings,
-                          const ProcessFiles& files, const ActionRequest& request) {
+                          const ReportedStarts& starts, const ActionRequest& request) {
   Target target;
   const std::string_view answer =
-      IsRefused(surroundings, request) ? kNotPermitted : Act(system, files, request, target);
+      IsRefused(surroundings, request) ? kNotPermitted : Act(system, starts, request, target);
   Log(system, surroundings, request, target, answer);
   return answer;
 }

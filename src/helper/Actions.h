@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "helper/ProcessFiles.h"
+#include "helper/ReportedStarts.h"
 #include "helper/Request.h"
 #include "helper/System.h"
 
@@ -10,9 +10,9 @@ namespace lurkwell::helper {
 
 /// Carries out a well-formed action and writes one line about it to the system log; the answer,
 /// which begins with "!Error" when nothing was done. Refused before any call to the machine: pids
-/// below 2, signals to the helper itself, a halt of the application at the other end. A process
+/// below 2, the helper itself, a halt of the application at the other end. A process
 /// other than the one whose figures were last reported under that pid is left alone.
 std::string_view CarryOut(const System& system, const Surroundings& surroundings,
-                          const ProcessFiles& files, const ActionRequest& request);
+                          const ReportedStarts& starts, const ActionRequest& request);
 
 }  // namespace lurkwell::helper

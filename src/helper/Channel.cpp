@@ -7,11 +7,9 @@
 #include <time.h>
 #include <unistd.h>
 
-#include <cstring>
+#include <string_view>
 
-#include "helper/FolderNames.h"
 #include "helper/OwnFile.h"
-#include "helper/Text.h"
 
 namespace lurkwell::helper {
 
@@ -49,41 +47,6 @@ void Drain(int pipe) {
   }
 }
 
-/// A pipe, and the path by which it was opened.
-struct OpenedPipe {
-  struct stat info;
-  char path[kLongestPath + 1];
-  ssize_t pathSize;
-};
-
-/// Whether descriptor `name` leads to `wanted`. Its path is compared first: what lies elsewhere, on
-/// a server that is gone perhaps, is not looked at.
-bool LeadsTo(int folder, const char* name, const OpenedPipe& wanted) {
-  char path[sizeof wanted.path];
-  const ssize_t size = readlinkat(folder, name, path, sizeof path);
-  struct stat info;
-  return size > 0 && size == wanted.pathSize &&
-         std::memcmp(path, wanted.path, static_cast<std::size_t>(size)) == 0 &&
-         fstatat(folder, name, &info, 0) == 0 && IsSameFile(info, wanted.info);
-}
-
-/// Whether `pid` is another process of ours that has the file open.
-bool HoldsFile(int proc, pid_t pid, const OpenedPipe& wanted) {
-  PathWriter path;
-  path.AddNumber(static_cast<std::uint64_t>(pid));
-  path.Add("/fd");
-  struct stat info;
-  if (pid == getpid() || fstatat(proc, path.Terminated(), &info, 0) != 0 ||
-      info.st_uid != geteuid())
-    return false;
-  const int folder = openat(proc, path.Terminated(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  const bool holds = folder >= 0 && AnyName(folder, [&](const char* name) {
-                       return IsDigit(name[0]) && LeadsTo(folder, name, wanted);
-                     });
-  close(folder);
-  return holds;
-}
-
 }  // namespace
 
 bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel& channel) {
@@ -96,25 +59,12 @@ bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel&
   return true;
 }
 
+/// The application locks its end.
 pid_t FindPeer(int pipe) {
-  OpenedPipe wanted;
-  PathWriter self;
-  self.Add("/proc/self/fd/");
-  self.AddNumber(static_cast<std::uint64_t>(pipe));
-  wanted.pathSize = readlink(self.Terminated(), wanted.path, sizeof wanted.path);
-  const int proc = open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (fstat(pipe, &wanted.info) != 0) wanted.pathSize = -1;
-  // The application locks its end, which tells who it is without a look at every process.
   struct flock lock = {};
   lock.l_type = F_WRLCK;
-  if (fcntl(pipe, F_GETLK, &lock) != 0) lock.l_pid = -1;
-  pid_t peer = lock.l_pid;
-  const bool found = HoldsFile(proc, peer, wanted) || AnyName(proc, [&](const char* name) {
-                       std::string_view text(name);
-                       return TakeNumber(text, kHighestPid, peer) && HoldsFile(proc, peer, wanted);
-                     });
-  close(proc);
-  return found ? peer : -1;
+  return fcntl(pipe, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK && lock.l_pid > 0 ? lock.l_pid
+                                                                                      : -1;
 }
 
 void Serve(const Channel& channel, Session& session) {

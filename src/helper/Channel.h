@@ -17,8 +17,8 @@ struct Channel {
 /// The process ends when nobody opens the other ends within kOpeningLimit seconds.
 bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel& channel);
 
-/// The process that holds the other end of `pipe`, as far as this user can see it; -1 when there is
-/// none to be found.
+/// The process that has the other end of `pipe` locked for writing, as applications do; -1 for
+/// none.
 pid_t FindPeer(int pipe);
 
 /// Answers the greeting, which says that all is prepared, and then requests until the other end is

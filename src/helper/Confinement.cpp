@@ -1,5 +1,6 @@
 #include "helper/Confinement.h"
 
+#include <errno.h>
 #include <fcntl.h>
 #include <grp.h>
 #include <linux/audit.h>
@@ -47,19 +48,26 @@ bool KeepCapabilities(std::uint32_t kept) {
   return syscall(SYS_capset, &header, data) == 0;
 }
 
-/// A user without privilege has no right to shrink the bounding set, and no need to.
-void ShrinkBoundingSet() {
-  for (unsigned long capability = 0; capability < 64; ++capability)
-    if (capability >= 32 || (kKeptCapabilities >> capability & 1) == 0)
-      prctl(PR_CAPBSET_DROP, capability, 0, 0, 0);
+/// A user without privilege has no right to shrink the bounding set, and no need to. Numbers that
+/// stand for no capability are not valid.
+bool ShrinkBoundingSet(bool privileged) {
+  for (unsigned long capability = 0; capability < 64; ++capability) {
+    const bool kept = capability < 32 && (kKeptCapabilities >> capability & 1) != 0;
+    if (!kept && prctl(PR_CAPBSET_DROP, capability, 0, 0, 0) != 0 && privileged && errno != EINVAL)
+      return false;
+  }
+  return true;
 }
 
-/// Where /proc hides the processes of others, it shows the user's own only to who may trace them,
-/// which a process with restricted files may not.
-bool HidesProcesses() {
+/// How /proc shows the processes of others; where it hides them, it shows the user's own only to
+/// who may trace them, which a process with restricted files may not.
+enum class View { kAll, kOwn, kUnknown };
+View ViewOfProcesses() {
   const int file = open("/proc/1/stat", O_RDONLY | O_CLOEXEC);
+  if (file < 0)
+    return errno == ENOENT || errno == EPERM || errno == EACCES ? View::kOwn : View::kUnknown;
   close(file);
-  return file < 0;
+  return View::kAll;
 }
 
 bool RestrictFiles() {
@@ -68,7 +76,9 @@ bool RestrictFiles() {
   constexpr unsigned kRights[] = {0, 13, 14, 15, 15, 16};
   const long version =
       syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
-  if (version < 1 || HidesProcesses()) return true;
+  if (version < 1) return version < 0 && (errno == ENOSYS || errno == EOPNOTSUPP);
+  const View view = ViewOfProcesses();
+  if (view != View::kAll) return view == View::kOwn;
   const landlock_ruleset_attr attributes{(1ull << kRights[version < 5 ? version : 5]) - 1};
   const long rules = syscall(SYS_landlock_create_ruleset, &attributes, sizeof attributes, 0);
   const int folder = open("/proc", O_PATH | O_DIRECTORY | O_CLOEXEC);
@@ -95,14 +105,12 @@ constexpr Rule kRules[] = {
     {SYS_read, -1, {}, 0},
     {SYS_write, -1, {}, 0},
     {SYS_close, -1, {}, 0},
-    {SYS_clock_gettime, -1, {}, 0},
     {SYS_openat, 2, {O_RDONLY | O_CLOEXEC, O_RDONLY | O_DIRECTORY | O_CLOEXEC}, 2},
     {SYS_getdents64, -1, {}, 0},
     {SYS_pidfd_open, 1, {0}, 1},
     {SYS_pidfd_send_signal, 1, {SIGTERM, SIGKILL, SIGSTOP, SIGCONT}, 4},
     {SYS_setpriority, 0, {PRIO_PROCESS}, 1},
     {SYS_ppoll, 1, {1}, 1},
-    {SYS_sched_setaffinity, 0, {0}, 1},
     {SYS_exit_group, -1, {}, 0},
 };
 
@@ -153,13 +161,13 @@ bool RestrictCalls() {
 }  // namespace
 
 bool Become(const Identity& identity) {
-  ShrinkBoundingSet();
+  if (!ShrinkBoundingSet(identity.privileged)) return false;
   if (identity.privileged && prctl(PR_SET_SECUREBITS, kLockedBits, 0, 0, 0) != 0) return false;
   if (identity.privileged && getuid() == 0 && setgroups(0, nullptr) != 0) return false;
   if (setresgid(identity.group, identity.group, identity.group) != 0 ||
       setresuid(identity.user, identity.user, identity.user) != 0)
     return false;
-  prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0);
+  if (prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0) != 0) return false;
   // The change of user may have made the process traceable again.
   return KeepCapabilities(identity.privileged ? kKeptCapabilities : 0) &&
          prctl(PR_SET_DUMPABLE, 0) == 0;

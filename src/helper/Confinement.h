@@ -16,9 +16,10 @@ struct Identity {
 /// not allow it; the process is of no use then and has to end.
 bool Become(const Identity& identity);
 
-/// Gives up for good what serving does not need: new rights, files outside /proc (where the kernel
-/// can do that), and all system calls but a dozen; another call ends the process. To be called
-/// last.
+/// Gives up for good what serving does not need: new rights, files outside /proc, and all system
+/// calls but a dozen; another call ends the process. To be called last. Files stay open to it only
+/// where the kernel cannot restrict them or /proc hides the processes of others; false when
+/// anything else is in the way, and the process has to end.
 bool Confine();
 
 }  // namespace lurkwell::helper

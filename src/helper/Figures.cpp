@@ -4,12 +4,12 @@ namespace lurkwell::helper {
 
 namespace {
 
-// How many times in a row the figures of a process that has not run are given without a look.
-constexpr std::int32_t kUses = 7;
 constexpr std::size_t kFileCapacity = 16384;
 char gFile[kFileCapacity];
 
-using Figures = ProcessFiles::Memory;
+struct Figures : Stat {
+  std::uint64_t calls, switches;
+};
 
 /// Moves to the next number of the same line, and gives it; a sign is passed over. 0 where the text
 /// ends.
@@ -29,77 +29,57 @@ std::uint64_t NumberBehind(std::string_view text, std::string_view key) {
   return TakeField(text);
 }
 
-/// The text of an open file, empty where it cannot be read; valid until the next call.
-std::string_view Read(const System& system, int descriptor) {
-  if (descriptor < 0) return {};
-  const std::ptrdiff_t size = system.readFile(descriptor, gFile, sizeof gFile);
-  return {gFile, size > 0 ? static_cast<std::size_t>(size) : 0};
-}
+/// A file of a process that is open while this exists.
+class ProcessFile {
+ public:
+  ProcessFile(const System& system, std::int32_t pid, std::string_view name) : mSystem(system) {
+    PathWriter path;
+    path.Add("/proc/");
+    if (pid > 0) path.AddNumber(static_cast<std::uint64_t>(pid));
+    path.Add(name);
+    mDescriptor = system.openFile(path.Terminated());
+  }
+  ~ProcessFile() {
+    if (mDescriptor >= 0) mSystem.close(mDescriptor);
+  }
+  ProcessFile(const ProcessFile&) = delete;
+  ProcessFile& operator=(const ProcessFile&) = delete;
+
+  /// Empty where it cannot be read; valid until another file is read.
+  std::string_view Read() const {
+    if (mDescriptor < 0) return {};
+    const std::ptrdiff_t size = mSystem.readFile(mDescriptor, gFile, sizeof gFile);
+    return {gFile, size > 0 ? static_cast<std::size_t>(size) : 0};
+  }
+
+ private:
+  const System& mSystem;
+  int mDescriptor;
+};
 
 /// The files beside stat are opened before stat is read: whoever answers that read has had the pid
 /// since stat was opened, so all of them are his.
-bool Gather(const System& system, ProcessFiles& files, ProcessFiles::Place& place, unsigned groups,
-            Figures& figures) {
-  const int stat = files.Open(place, kStatFile);
-  if (stat < 0) return false;
-  const bool events = (groups & kEventsInfo) != 0;
-  const int status = events ? files.Open(place, kStatusFile) : -1;
-  const int io = events ? files.Open(place, kIoFile) : -1;
-  Stat read;
-  const bool exists = ParseStat(Read(system, stat), read);
-  if (exists) {
-    static_cast<StatFigures&>(figures) = read;
-    place.start = read.start;
-  }
-  std::string_view text = Read(system, exists ? status : -1);
+bool GatherProcess(const System& system, const FiguresLine& line, Figures& figures) {
+  const ProcessFile stat(system, line.pid, "/stat");
+  if ((line.groups & kEventsInfo) == 0) return ParseStat(stat.Read(), figures);
+  const ProcessFile status(system, line.pid, "/status");
+  const ProcessFile io(system, line.pid, "/io");
+  if (!ParseStat(stat.Read(), figures)) return false;
+  std::string_view text = status.Read();
   figures.switches = NumberBehind(text, "\nvoluntary_ctxt_switches:") +
                      NumberBehind(text, "\nnonvoluntary_ctxt_switches:");
-  files.Release(place, kStatusFile, status, !text.empty());
-  text = Read(system, exists ? io : -1);
+  text = io.Read();
   figures.calls = NumberBehind(text, "\nsyscr:") + NumberBehind(text, "\nsyscw:");
-  files.Release(place, kIoFile, io, !text.empty());
-  files.Release(place, kStatFile, stat, exists);
-  return exists;
-}
-
-/// Whoever has not run has the figures that he had; what can change all the same is seen when the
-/// uses are over.
-bool GatherProcess(const System& system, ProcessFiles& files, const FiguresLine& line,
-                   Figures& figures) {
-  ProcessFiles::Place& place = files.PlaceOf(line.pid);
-  // Taken before the files are read: whoever runs in between counts as having run since.
-  const std::uint64_t runTime = system.runTime(line.pid);
-  const bool known = figures.pid == line.pid && place.start != 0;
-  if (known && figures.runTime == runTime && figures.groups == line.groups && figures.uses > 0)
-    return figures.uses-- > 0;
-  const bool kept = place.files[kStatFile] != 0;
-  bool exists = Gather(system, files, place, line.groups, figures);
-  if (!exists) {
-    // A descriptor kept from before says that its process is gone, not that nobody has the pid. The
-    // start stays: who sees the old process yet does not mean the pid's next holder.
-    files.CloseAll(place);
-    exists = kept && Gather(system, files, place, line.groups, figures);
-  }
-  // What is on a processor now is not counted up to now. The first uses differ, so that not all are
-  // over at once.
-  figures.pid = exists && runTime != 0 && figures.state != 'R' ? line.pid : 0;
-  figures.groups = static_cast<std::uint8_t>(line.groups);
-  figures.uses = static_cast<std::uint8_t>(known ? kUses : line.pid % kUses);
-  figures.runTime = runTime;
-  return exists;
+  return true;
 }
 
 /// The first line reads: cpu USER NICE SYSTEM IDLE IOWAIT ...
-bool GatherMachine(const System& system, unsigned groups, Figures& figures) {
-  figures = {};
-  if ((groups & kThreadTime) == 0) return true;
-  const int file = system.openFile("/proc/stat");
-  std::string_view text = Read(system, file);
-  if (file >= 0) system.close(file);
+void GatherMachine(const System& system, Figures& figures) {
+  const ProcessFile file(system, 0, "stat");
+  std::string_view text = file.Read();
   for (int passed = 0; passed < 3; ++passed) TakeField(text);
   figures.userTicks = TakeField(text);
   figures.systemTicks = TakeField(text);
-  return true;
 }
 
 class LineWriter {
@@ -182,25 +162,24 @@ bool ParseStat(std::string_view text, Stat& stat) {
   stat.start = fields[22];
   stat.virtualSize = fields[23];
   stat.residentPages = fields[24];
-  stat.processor = static_cast<std::uint32_t>(fields[39]);
   stat.policy = static_cast<std::uint32_t>(fields[41]);
   return true;
 }
 
 bool ReadStat(const System& system, std::int32_t pid, Stat& stat) {
-  const int file = OpenProcessFile(system, pid, kStatFile);
-  if (file < 0) return false;
-  const bool isRead = ParseStat(Read(system, file), stat);
-  system.close(file);
-  return isRead;
+  return ParseStat(ProcessFile(system, pid, "/stat").Read(), stat);
 }
 
-bool AddFigures(const System& system, const Surroundings& surroundings, ProcessFiles& files,
+bool AddFigures(const System& system, const Surroundings& surroundings, ReportedStarts& starts,
                 const FiguresLine& line, TextWriter& answer) {
-  Figures& figures = files.MemoryOf(line.pid);
-  if (!(line.pid == 0 ? GatherMachine(system, line.groups, figures)
-                      : GatherProcess(system, files, line, figures)))
+  Figures figures{};
+  if (line.pid == 0) {
+    GatherMachine(system, figures);
+  } else if (GatherProcess(system, line, figures)) {
+    starts.Remember(line.pid, figures.start);
+  } else {
     return true;
+  }
   const std::size_t before = answer.Size();
   LineWriter writer(answer, line.pid, surroundings.ticksPerSecond);
   AddLines(figures, line.groups, surroundings.pageSize, writer);

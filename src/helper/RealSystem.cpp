@@ -1,15 +1,15 @@
 #include <errno.h>
 #include <fcntl.h>
-#include <sched.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <sys/un.h>
-#include <time.h>
 #include <unistd.h>
 
-#include "helper/FolderNames.h"
+#include <cstdint>
+#include <cstring>
+
 #include "helper/Protocol.h"
 #include "helper/System.h"
 #include "helper/Text.h"
@@ -48,12 +48,18 @@ int SetNice(std::int32_t pid, int nice) {
   path.Add("/task");
   const int threads = open(path.Terminated(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (threads < 0) return OrError(threads);
-  AnyName(threads, [nice](const char* name) {
-    std::string_view text(name);
-    std::int32_t thread = 0;
-    if (TakeNumber(text, kHighestPid, thread)) SetNiceOfThread(thread, nice);
-    return false;
-  });
+  alignas(8) char entries[4096];
+  for (long size = 0; (size = syscall(SYS_getdents64, threads, entries, sizeof entries)) > 0;) {
+    for (long place = 0; place < size;) {
+      // Each entry: inode, offset, its own length, type, name.
+      std::uint16_t length = 0;
+      std::memcpy(&length, entries + place + 16, sizeof length);
+      std::string_view name(entries + place + 19);
+      std::int32_t thread = 0;
+      if (TakeNumber(name, kHighestPid, thread)) SetNiceOfThread(thread, nice);
+      place += length;
+    }
+  }
   close(threads);
   return result;
 }
@@ -70,35 +76,13 @@ void Close(int descriptor) {
   close(descriptor);
 }
 
-/// The clock has the kernel's number for a process's time; clock_getcpuclockid would be a call
-/// more.
-std::uint64_t RunTime(std::int32_t pid) {
-  timespec time{};
-  clock_gettime(static_cast<clockid_t>(~static_cast<unsigned>(pid) << 3 | 2), &time);
-  return static_cast<std::uint64_t>(time.tv_sec * 1000000000 + time.tv_nsec);
-}
-
-std::uint32_t Milliseconds() {
-  timespec now{};
-  clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
-  return static_cast<std::uint32_t>(now.tv_sec * 1000 + now.tv_nsec / 1000000);
-}
-
-int StayOn(std::uint32_t processor) {
-  cpu_set_t processors;
-  CPU_ZERO(&processors);
-  CPU_SET(processor, &processors);
-  return OrError(sched_setaffinity(0, sizeof processors, &processors));
-}
-
 void Log(std::string_view line) {
   if (gLog >= 0 && write(gLog, line.data(), line.size()) < 0) return;
 }
 
 }  // namespace
 
-const System kRealSystem = {OpenProcess, SignalProcess, SetNice,      OpenFile, ReadFile,
-                            Close,       RunTime,       Milliseconds, StayOn,   Log};
+const System kRealSystem = {OpenProcess, SignalProcess, SetNice, OpenFile, ReadFile, Close, Log};
 
 /// A full log holds an action up for a moment only: the application waits 250 ms for its answer.
 void ConnectLog() {

@@ -1,13 +1,11 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
-#include "helper/ProcessFiles.h"
 #include "helper/Protocol.h"
+#include "helper/ReportedStarts.h"
 #include "helper/System.h"
-#include "helper/Text.h"
 
 namespace lurkwell::helper {
 
@@ -23,29 +21,12 @@ class Session {
   std::string_view Answer(std::string_view request);
 
  private:
-  /// A request repeats the lines of the ones before it. Figures this young, in milliseconds, are
-  /// not gathered again.
-  static constexpr std::uint32_t kYoung = 250;
-
-  /// Requests that come closer together than this, in milliseconds, belong to one beat.
-  static constexpr std::uint32_t kPause = 50;
-
-  void JoinPeer();
-  std::string_view AnswerFigures(std::string_view request);
-  bool Continues(std::string_view request) const;
+  std::string_view AnswerFigures(std::string_view lines);
 
   const System* mSystem;
   Surroundings mSurroundings;
-  ProcessFiles mFiles;
-  /// The last request for figures, as long as a longer one may continue it.
-  char mRequest[kRequestCapacity];
-  std::size_t mRequestSize;
-  std::uint32_t mRequestBegun;
-  /// When figures were asked last, and the processor the helper has put itself on, -1 for none.
-  std::uint32_t mLastAsked;
-  std::int64_t mProcessor;
+  ReportedStarts mStarts;
   char mAnswer[kAnswerCapacity];
-  std::size_t mAnswerSize;
 };
 
 }  // namespace lurkwell::helper

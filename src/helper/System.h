@@ -19,13 +19,6 @@ struct System {
   /// Reads the file from its start; the number of bytes.
   std::ptrdiff_t (*readFile)(int file, char* buffer, std::size_t capacity);
   void (*close)(int descriptor);
-  /// Nanoseconds that the process's threads, ended ones too, have been on processors; 0 when it is
-  /// not known.
-  std::uint64_t (*runTime)(std::int32_t pid);
-  /// Milliseconds since some moment before; wraps.
-  std::uint32_t (*milliseconds)();
-  /// From now on the helper runs on this processor alone.
-  int (*stayOn)(std::uint32_t processor);
   /// One line for the system log; without effect where there is none.
   void (*log)(std::string_view line);
 };
@@ -41,8 +34,6 @@ struct Surroundings {
   std::int32_t peerPid = -1;
   std::uint32_t ticksPerSecond = 100;
   std::uint32_t pageSize = 4096;
-  /// How many descriptors of process files may stay open.
-  std::uint32_t keptFiles = 0;
 };
 
 /// The machine that the helper runs on.

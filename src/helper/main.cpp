@@ -3,11 +3,8 @@
 
 #include <sys/auxv.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <algorithm>
 
 #include "helper/Channel.h"
 #include "helper/Confinement.h"
@@ -44,33 +41,19 @@ Identity TakeIdentity(uid_t asking, const char* pipe, uid_t& reported) {
   return identity;
 }
 
-/// A quarter of the descriptors that the helper may have, and no more than pay for the kernel's
-/// memory behind them.
-std::uint32_t KeptFiles() {
-  constexpr rlim_t kMostKept = 4096;
-  rlimit limit{};
-  return getrlimit(RLIMIT_NOFILE, &limit) == 0
-             ? static_cast<std::uint32_t>(std::min(limit.rlim_cur / 4, kMostKept))
-             : 0;
-}
-
 int Run(const Arguments& arguments, uid_t asking) {
   Surroundings surroundings;
   const Identity identity = TakeIdentity(asking, arguments.requests, surroundings.startUser);
   ConnectLog();
   Channel channel;
-  // Only the user himself sees who holds the other end, and root without its rights is not himself.
-  const bool isRoot = identity.user == 0;
-  if (chdir("/") != 0 || (!isRoot && !Become(identity))) return kExitSystem;
+  if (chdir("/") != 0 || !Become(identity)) return kExitSystem;
   if (!OpenChannel(arguments.requests, arguments.answers, identity.user, channel))
     return kExitChannel;
   surroundings.user = identity.user;
   surroundings.ownPid = getpid();
   surroundings.peerPid = FindPeer(channel.requests);
-  if (isRoot && !Become(identity)) return kExitSystem;
   surroundings.ticksPerSecond = static_cast<std::uint32_t>(getauxval(AT_CLKTCK));
   surroundings.pageSize = static_cast<std::uint32_t>(getauxval(AT_PAGESZ));
-  surroundings.keptFiles = KeptFiles();
   gSession.Begin(kRealSystem, surroundings);
   if (!Confine()) return kExitSystem;
   Serve(channel, gSession);

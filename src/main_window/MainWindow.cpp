@@ -20,7 +20,6 @@
 #include "platform/PreferenceDomain.h"
 #include "platform/ProcessManager.h"
 #include "preferences/PreferencesRetrieval.h"
-#include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -28,7 +27,6 @@ namespace {
 
 constexpr char kFrameKey[] = "MAIN_WINDOW_FRAME";
 constexpr QSize kFirstSize(860, 560);
-constexpr int kTurnsBetweenQuestions = 30;
 constexpr int kMessageMilliseconds = 15'000;
 
 QLabel* AddLabel(QStatusBar& bar, int stretch) {
@@ -108,6 +106,9 @@ void MainWindow::BuildContents() {
   setCentralWidget(contents);
   mCounts = AddLabel(*statusBar(), 1);
   mHelper = AddLabel(*statusBar(), 0);
+  mHelper->setTextFormat(Qt::RichText);
+  mHelper->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+  connect(mHelper, &QLabel::linkActivated, this, &MainWindow::AskAboutHelper);
   connect(mFilterField, &QLineEdit::textChanged, this,
           [this](const QString& text) { mController->setFilter(text); });
   for (auto* widget : {static_cast<QWidget*>(mFilterField), static_cast<QWidget*>(mTable)}) {
@@ -155,15 +156,12 @@ QMenu* MainWindow::createPopupMenu() {
 // ---- What is said -------------------------------------------------------------------------------
 
 void MainWindow::LookAtHelper() {
-  // Asked once per channel, and now and then, since descriptors come round.
-  if (gFd_a2d == mHelperChannel && ++mTurnsSinceAsked < kTurnsBetweenQuestions) return;
-  mHelperChannel = gFd_a2d;
-  mTurnsSinceAsked = 0;
-  char uid[16] = "";
-  if (gFd_a2d >= 0) QueryDaemon("geteuid", uid, sizeof uid - 1);
-  const char* text = gFd_a2d < 0                    ? "main_window_helper_absent"
-                     : std::string_view(uid) != "0" ? "main_window_helper_unprivileged"
-                                                    : "";
+  const auto& status = GetDaemonStatus();
+  if (status.rights == mShownRights) return;
+  mShownRights = status.rights;
+  const char* text = status.rights == DaemonRights::kNone  ? "main_window_helper_absent"
+                     : status.rights == DaemonRights::kOwn ? "main_window_helper_unprivileged"
+                                                           : "";
   mHelper->setText(*text != 0 ? LocalizedString(text) : QString());
 }
 
@@ -172,6 +170,21 @@ void MainWindow::Report(const QString& text) {
   statusBar()->showMessage(text, kMessageMilliseconds);
   // What does not fit can be read all the same.
   statusBar()->setToolTip(text);
+}
+
+void MainWindow::AskAboutHelper() {
+  const auto status = GetDaemonStatus();
+  const auto textOf = [](const char* key) { return LocalizedString(key).toStdString(); };
+  const auto reason = status.reason.empty() ? std::string() : status.reason + ".\n\n";
+  AlertText text;
+  text.title = textOf("main_window_rights_title");
+  text.message = reason + textOf(status.mayAsk ? "main_window_rights_may_ask"
+                                               : "main_window_rights_may_not_ask");
+  if (status.mayAsk) text.defaultButton = textOf("main_window_rights_ask");
+  text.otherButton = textOf("main_window_rights_close");
+  mAboutHelper = TheMachine().alerts.Ask(text, [](AlertAnswer answer) {
+    if (answer == AlertAnswer::kDefault) AskForDaemonRights();
+  });
 }
 
 void MainWindow::FindByPid() {

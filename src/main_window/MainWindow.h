@@ -10,6 +10,8 @@
 #include "main_window/MainMenus.h"
 #include "main_window/StripedTableView.h"
 #include "main_window/vqMainTableController.h"
+#include "platform/Alerts.h"
+#include "process_control/DaemonCommunication.h"
 
 namespace lurkwell {
 
@@ -50,6 +52,7 @@ class MainWindow : public QMainWindow {
   void CustomiseToolbar();
   void LookAtHelper();
   void LookWhetherSeen();
+  void AskAboutHelper();
   void UpdateStatus();
 
   ApplicationCommands& mCommands;
@@ -58,8 +61,9 @@ class MainWindow : public QMainWindow {
   QLineEdit* mFilterField = nullptr;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
-  int mHelperChannel = -2;
-  int mTurnsSinceAsked = 0;
+  DaemonRights mShownRights = DaemonRights::kStarting;
+  /// Why there are no more rights, while somebody reads it.
+  std::unique_ptr<Alert> mAboutHelper;
   /// As the window manager places it and Qt sizes it, while it does not fill the screen.
   QRect mNormalFrame{0, 0, 860, 560};
   std::unique_ptr<MainMenus> mMenus;

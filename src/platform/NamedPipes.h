@@ -36,11 +36,6 @@ class NamedPipes {
   /// failure or when nothing came within `limit`. errno then says which (ETIMEDOUT).
   virtual std::ptrdiff_t Read(int descriptor, std::span<char> buffer, Milliseconds limit) = 0;
 
-  /// Many short exchanges with another process follow, until EndExchanges: the calling thread stays
-  /// on its processor, so that the other one can join it there. Not nested.
-  virtual void BeginExchanges() = 0;
-  virtual void EndExchanges() = 0;
-
   /// 0, or -1 when the descriptor was not open.
   virtual int Close(int descriptor) = 0;
 

@@ -32,6 +32,7 @@ static_assert(sizeof kGreeting - 1 == kGreetingLength && kGreeting[kGreetingLeng
 constexpr unsigned kFifoMode = 010666;
 constexpr std::size_t kGreetingCapacity = 300;
 constexpr std::string_view kError = "!Error";
+constexpr std::size_t kLongestAnswer = 8191;
 
 bool StartHelper(const std::string& path, const std::string& requests, const std::string& answers,
                  AuthorizationReference* authRef) {
@@ -41,10 +42,30 @@ bool StartHelper(const std::string& path, const std::string& requests, const std
   return machine.tools.StartInBackground({path, requests, answers});
 }
 
+/// A request whose answer has not been read yet, and an answer that came after its beat. Nothing is
+/// written while the one exists; the other waits for whoever asked.
+struct Outstanding {
+  bool exists = false;
+  TimeValue since;
+  std::string late;
+} gOutstanding;
+
+std::size_t WithoutError(std::span<char> buffer, std::ptrdiff_t size) {
+  const auto length = static_cast<std::size_t>(size);
+  buffer[length] = '\0';
+  if (std::string_view(buffer.data(), length).starts_with(kError)) buffer[0] = '\0';
+  return length;
+}
+
+Milliseconds Since(TimeValue moment) {
+  return Milliseconds(MillisecondsBetween(moment, TheMachine().clock.Now()));
+}
+
 /// Nothing may come that was not asked for: it would be taken for the answer to the next request.
 bool IsQuiet() {
   char unasked = 0;
-  return TheMachine().namedPipes.Read(gFd_d2a, {&unasked, 1}, Milliseconds(0)) < 0;
+  return TheMachine().namedPipes.Read(gFd_d2a, {&unasked, 1}, Milliseconds(0)) < 0 &&
+         errno == ETIMEDOUT;
 }
 
 /// What an answer was longer than the caller's buffer, thrown away; false when it does not end.
@@ -61,13 +82,65 @@ void LoseChannel() {
   if (gDaemonChannelWatcher != nullptr) gDaemonChannelWatcher->Lost();
 }
 
-/// One write and one read; what the read returned.
-std::ptrdiff_t Exchange(std::string_view request, std::span<char> answer) {
-  auto& pipes = TheMachine().namedPipes;
-  if (!IsQuiet()) return -1;
-  const auto written = pipes.Write(gFd_a2d, request, gDaemonLimits.answering);
-  if (written != static_cast<std::ptrdiff_t>(request.size())) return -1;
-  return pipes.Read(gFd_d2a, answer, gDaemonLimits.answering);
+bool SendRequest(std::string_view request) {
+  const auto written =
+      IsQuiet() ? TheMachine().namedPipes.Write(gFd_a2d, request, gDaemonLimits.answering) : -1;
+  if (written != static_cast<std::ptrdiff_t>(request.size())) {
+    LoseChannel();
+    return false;
+  }
+  gOutstanding.exists = true;
+  gOutstanding.since = TheMachine().clock.Now();
+  return true;
+}
+
+/// One read, whose limit is also that of the answer; what it returned. When the answer is still to
+/// come, kDaemonAnswersLater; in all other cases without one the channel is lost.
+std::ptrdiff_t ReadAnswer(std::span<char> buffer, Milliseconds limit) {
+  const auto left = std::max(gDaemonLimits.answering - Since(gOutstanding.since), Milliseconds(0));
+  const auto size = TheMachine().namedPipes.Read(gFd_d2a, buffer, std::min(limit, left));
+  if (size <= 0) {
+    if (size < 0 && errno == ETIMEDOUT && limit < left) return kDaemonAnswersLater;
+    LoseChannel();
+    return size;
+  }
+  gOutstanding.exists = false;
+  if (gDaemonChannelWatcher != nullptr) gDaemonChannelWatcher->Answered();
+  if (static_cast<std::size_t>(size) == buffer.size() && !DropRest()) LoseChannel();
+  return size;
+}
+
+/// Takes the answer that an earlier beat did not wait for; whether nothing is outstanding any more.
+bool TakeOutstanding(Milliseconds limit) {
+  if (!gOutstanding.exists) return true;
+  char answer[kLongestAnswer + 1];
+  const auto size = ReadAnswer({answer, kLongestAnswer}, limit);
+  if (size <= 0) return false;
+  WithoutError(answer, size);
+  gOutstanding.late = answer;
+  return true;
+}
+
+/// Sends the request once nothing is outstanding, and waits for the answer, all of it within
+/// `limit`.
+std::ptrdiff_t Exchange(std::string_view request, std::span<char> answer, Milliseconds limit) {
+  const auto begun = TheMachine().clock.Now();
+  if (!TakeOutstanding(limit)) return gFd_a2d < 0 ? -1 : kDaemonNotAsked;
+  if (!SendRequest(request)) return -1;
+  return ReadAnswer(answer, std::max(limit - Since(begun), Milliseconds(0)));
+}
+
+std::ptrdiff_t Query(const char* request, char* answer, std::int32_t capacity, Milliseconds limit) {
+  *answer = '\0';
+  if (gFd_a2d < 0 || capacity < 1) return -1;
+  const std::span<char> buffer(answer, static_cast<std::size_t>(capacity) + 1);
+  const auto size = Exchange(request, buffer.first(buffer.size() - 1), limit);
+  if (size > 0) {
+    WithoutError(buffer, size);
+  } else {
+    *answer = '\0';
+  }
+  return size;
 }
 
 }  // namespace
@@ -77,8 +150,8 @@ std::string_view DaemonGreeting() {
 }
 
 DaemonChannelOpening::~DaemonChannelOpening() {
-  if (mWriting >= 0) TheMachine().namedPipes.Close(mWriting);
   if (mReading >= 0) TheMachine().namedPipes.Close(mReading);
+  if (mWriting >= 0) TheMachine().namedPipes.Close(mWriting);
   RemoveNames();
 }
 
@@ -108,14 +181,15 @@ bool DaemonChannelOpening::Greet() {
   return mReading >= 0;
 }
 
-DaemonChannelOpening::State DaemonChannelOpening::Advance(Milliseconds limit) {
+DaemonChannelOpening::State DaemonChannelOpening::Advance() {
   auto& pipes = TheMachine().namedPipes;
   if (mWriting < 0) {
-    mWriting = pipes.OpenForWriting(mRequests, limit);
-    return mWriting < 0 || Greet() ? State::kWaiting : State::kFailed;
+    mWriting = pipes.OpenForWriting(mRequests, Milliseconds(0));
+    if (mWriting < 0) return State::kWaiting;
+    if (!Greet()) return State::kFailed;
   }
   char greeting[kGreetingCapacity];
-  const auto size = pipes.Read(mReading, greeting, limit);
+  const auto size = pipes.Read(mReading, greeting, Milliseconds(0));
   if (size == 0) return State::kFailed;
   if (size < 0) {
     mReadError = errno;
@@ -123,6 +197,15 @@ DaemonChannelOpening::State DaemonChannelOpening::Advance(Milliseconds limit) {
   }
   RemoveNames();
   return State::kOpen;
+}
+
+bool DaemonChannelOpening::Send(std::string_view request) {
+  return TheMachine().namedPipes.Write(mWriting, request, gDaemonLimits.answering) ==
+         static_cast<std::ptrdiff_t>(request.size());
+}
+
+std::ptrdiff_t DaemonChannelOpening::Receive(std::span<char> answer) {
+  return TheMachine().namedPipes.Read(mReading, answer, Milliseconds(0));
 }
 
 void DaemonChannelOpening::ReportMissingGreeting() const {
@@ -135,59 +218,45 @@ void DaemonChannelOpening::Take() {
   gFd_d2a = std::exchange(mReading, -1);
 }
 
-void NormalInternalLaunchDaemon(const char* helperPath, AuthorizationReference* authRef) {
-  using State = DaemonChannelOpening::State;
-  constexpr Milliseconds kSlice{50};
-  auto& machine = TheMachine();
-  DaemonChannelOpening opening;
-  if (!opening.Start(helperPath, authRef)) return;
-  auto state = State::kWaiting;
-  TimeValue since = machine.clock.Now();
-  const auto passed = [&] { return Milliseconds(MillisecondsBetween(since, machine.clock.Now())); };
-  if (authRef != nullptr) {
-    while (state == State::kWaiting && machine.authorization.IsAsking() &&
-           passed() < gDaemonLimits.asking) {
-      state = opening.Advance(kSlice);
-    }
-    since = machine.clock.Now();
+std::ptrdiff_t DaemonConversation::Query(const char* request, char* answer, std::int32_t capacity) {
+  *answer = '\0';
+  const auto left = gDaemonLimits.beat - std::chrono::floor<Milliseconds>(mWaited);
+  if (gFd_a2d < 0) return -1;
+  if (left <= Milliseconds(0)) return kDaemonNotAsked;
+  const auto begun = TheMachine().clock.Now();
+  const auto size = lurkwell::Query(request, answer, capacity, left);
+  mWaited += std::chrono::duration<double>(SecondsBetween(begun, TheMachine().clock.Now()));
+  if (size == kDaemonAnswersLater) {
+    mWaited = gDaemonLimits.beat;
+    if (gDaemonChannelWatcher != nullptr) gDaemonChannelWatcher->LeftOutstanding();
   }
-  for (int end = 0; end < 2 && state == State::kWaiting; ++end)
-    state = opening.Advance(std::max(gDaemonLimits.opening - passed(), Milliseconds(0)));
-  if (state == State::kOpen) {
-    opening.Take();
-  } else {
-    opening.ReportMissingGreeting();
-  }
+  return size;
 }
 
-DaemonConversation::DaemonConversation() {
-  if (gFd_a2d >= 0) TheMachine().namedPipes.BeginExchanges();
-}
-
-DaemonConversation::~DaemonConversation() {
-  TheMachine().namedPipes.EndExchanges();
+std::string DaemonConversation::TakeLateAnswer() {
+  if (gFd_a2d >= 0) TakeOutstanding(Milliseconds(0));
+  return std::exchange(gOutstanding.late, {});
 }
 
 std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity) {
-  *answer = '\0';
-  if (gFd_a2d < 0 || capacity < 1) return -1;
-  const auto room = static_cast<std::size_t>(capacity);
-  const auto size = Exchange(request, {answer, room});
-  if (size <= 0) {
-    *answer = '\0';
-    LoseChannel();
-    return size;
+  // The answers themselves are limited.
+  return Query(request, answer, capacity, std::chrono::hours(1));
+}
+
+void SettleDaemonChannel() {
+  if (gFd_a2d < 0) return;
+  if (gOutstanding.exists) {
+    TakeOutstanding(Milliseconds(0));
+    return;
   }
-  const auto length = static_cast<std::size_t>(size);
-  answer[length] = '\0';
-  if (std::string_view(answer, length).starts_with(kError)) *answer = '\0';
-  if (gDaemonChannelWatcher != nullptr) gDaemonChannelWatcher->Answered();
-  if (length == room && !DropRest()) LoseChannel();
-  return size;
+  // Whoever asked has not come for it since the last look.
+  gOutstanding.late.clear();
+  if (!IsQuiet()) LoseChannel();
 }
 
 int CloseDaemonChannel() {
   int result = -1;
+  gOutstanding = {};
   for (int* end : {&gFd_d2a, &gFd_a2d})
     if (*end >= 0) result = TheMachine().namedPipes.Close(std::exchange(*end, -1));
   return result;

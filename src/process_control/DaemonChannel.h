@@ -1,6 +1,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,8 +14,12 @@ class AuthorizationReference;
 struct DaemonLimits {
   std::chrono::milliseconds opening{5000};
   std::chrono::milliseconds answering{250};
+  /// For all that one beat asks.
+  std::chrono::milliseconds beat{100};
   /// For the administrator, while the question is open.
   std::chrono::milliseconds asking{120'000};
+  /// Between two looks at whether the helper is still there.
+  std::chrono::milliseconds pulse{5000};
 };
 inline DaemonLimits gDaemonLimits;
 
@@ -31,9 +37,14 @@ class DaemonChannelOpening {
   /// Makes the pipes and starts the helper, through the authorisation unless that is null.
   bool Start(const std::string& helperPath, AuthorizationReference* authRef);
 
-  /// The next of two steps, waiting for the helper for up to `limit`: the requests' end with the
-  /// greeting, then the greeting's answer.
-  State Advance(std::chrono::milliseconds limit);
+  /// As many steps as can be taken without waiting: the requests' end with the greeting, then the
+  /// greeting's answer.
+  State Advance();
+
+  /// On a channel that is open and was not taken: sends a request, and looks for its answer as a
+  /// read of the pipe does, -1 with errno ETIMEDOUT while there is none.
+  bool Send(std::string_view request);
+  std::ptrdiff_t Receive(std::span<char> answer);
 
   /// Says on standard output that no greeting came, if that is what is missing.
   void ReportMissingGreeting() const;
@@ -61,9 +72,17 @@ class DaemonChannelWatcher {
  public:
   virtual ~DaemonChannelWatcher() = default;
   virtual void Answered() = 0;
+  /// A beat goes on without the answer it asked for; SettleDaemonChannel is due in
+  /// gDaemonLimits.answering.
+  virtual void LeftOutstanding() = 0;
   virtual void Lost() = 0;
 };
 extern DaemonChannelWatcher* gDaemonChannelWatcher;
+
+/// A look at the open channel that waits for nothing: takes an answer that is outstanding, for
+/// whoever asked for it; loses the channel when that is overdue, when the helper has closed, or
+/// when it says what nobody asked for.
+void SettleDaemonChannel();
 
 /// Closes both ends if they are open; the result of the last close, -1 when nothing was open.
 int CloseDaemonChannel();

@@ -20,6 +20,7 @@
 #include "process_control/DaemonCommunication.h"
 #include "process_control/ProcessActions.h"
 #include "process_control/RealMachine.h"
+#include "support/OpenChannel.h"
 
 namespace lurkwell::helper::testing {
 namespace {
@@ -129,7 +130,7 @@ TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneShown) {
   EXPECT_EQ(InPidNamespace([] {
               // The helper has reported nobody, so it takes whoever is there for the one meant.
               RealMachine machine("/");
-              NormalInternalLaunchDaemon(HelperPath().c_str(), nullptr);
+              OpenChannel(HelperPath());
               if (gFd_a2d < 0) return 3;
               const auto show = [&](const Canary& canary) {
                 const auto identity = machine.processTable.CurrentIdentity(canary.Pid());

@@ -30,6 +30,10 @@ int OpenInTime(const std::string& path, int flags, pid_t pid) {
     const int descriptor = open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC);
     if (descriptor >= 0) {
       fcntl(descriptor, F_SETFL, flags);
+      // As applications do, so that the helper knows them.
+      struct flock lock {};
+      lock.l_type = F_WRLCK;
+      if (flags == O_WRONLY) fcntl(descriptor, F_SETLK, &lock);
       return descriptor;
     }
     siginfo_t info{};

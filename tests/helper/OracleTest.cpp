@@ -91,7 +91,7 @@ class OracleTest : public ::testing::Test {
   OracleTest() {
     for (int pid = 1; pid < 80; ++pid) mMachine.processes[pid] = {};
     mMachine.processes[4194304] = {};
-    mSession->Begin(mMachine.Calls(), {.ownPid = 50, .peerPid = 60, .keptFiles = 1000});
+    mSession->Begin(mMachine.Calls(), {.ownPid = 50, .peerPid = 60});
   }
 
   /// What the second reader makes of a request, which is what the helper has to make of it.

@@ -76,26 +76,11 @@ void Close(int descriptor) {
   if (gSystem->open.erase(descriptor) != 1) std::abort();
 }
 
-std::uint64_t RunTime(std::int32_t pid) {
-  const auto found = gSystem->processes.find(pid);
-  return found == gSystem->processes.end() ? 0 : found->second.runTime;
-}
-
-std::uint32_t Milliseconds() {
-  return gSystem->milliseconds;
-}
-
-int StayOn(std::uint32_t processor) {
-  gSystem->processors.push_back(processor);
-  return 0;
-}
-
 void Log(std::string_view line) {
   gSystem->log.emplace_back(line);
 }
 
-constexpr System kCalls = {OpenProcess, SignalProcess, SetNice,      OpenFile, ReadFile,
-                           Close,       RunTime,       Milliseconds, StayOn,   Log};
+constexpr System kCalls = {OpenProcess, SignalProcess, SetNice, OpenFile, ReadFile, Close, Log};
 
 }  // namespace
 

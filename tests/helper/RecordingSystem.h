@@ -19,7 +19,6 @@ class RecordingSystem {
     std::map<int, std::string> fields = {};
     std::string status = {};
     std::string io = {};
-    std::uint64_t runTime = 0;
     /// The stat file as it stands, in place of a line of the above.
     std::string stat = {};
   };
@@ -29,13 +28,10 @@ class RecordingSystem {
 
   std::map<std::int32_t, Process> processes;
   std::string machineStat = "cpu  1 2 3 1234 56 7 8\n";
-  std::uint32_t milliseconds = 0;
   int signalError = 0;
   /// Each signal and change of a nice value: "signal 12 15", "nice 12 -5".
   std::vector<std::string> effects;
   std::vector<std::string> log;
-  /// Each processor that the helper has put itself on.
-  std::vector<std::uint32_t> processors;
   /// Each file opened, and how many descriptors are open now.
   std::vector<std::string> opened;
   std::map<int, std::string> open;

@@ -61,7 +61,7 @@ inline Expectation ReadRequest(const std::string& request, long own, long peer) 
   const std::vector<std::string> words = Pieces(lines[1], ' ');
   if (words.size() < 2) return {};
   const std::optional<long> pid = PrintedNumber(words[1], 2, 4194304);
-  if (!pid) return {};
+  if (!pid || *pid == own) return {};
   const std::string who = std::to_string(*pid);
   if (words[0] == "renice") {
     if (words.size() != 3 || !PrintedNumber(words[2], -20, 20)) return {};
@@ -70,8 +70,7 @@ inline Expectation ReadRequest(const std::string& request, long own, long peer) 
   const std::vector<std::pair<std::string, int>> signals = {
       {"kill_normal", 15}, {"kill_harsh", 9}, {"kill_halt", 19}, {"kill_cont", 18}};
   for (const auto& [verb, number] : signals)
-    if (words.size() == 2 && words[0] == verb && *pid != own &&
-        !(verb == "kill_halt" && *pid == peer))
+    if (words.size() == 2 && words[0] == verb && !(verb == "kill_halt" && *pid == peer))
       return {Expectation::kEffect, "signal " + who + ' ' + std::to_string(number)};
   return {};
 }

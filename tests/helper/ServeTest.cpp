@@ -18,9 +18,11 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <future>
 #include <memory>
+#include <set>
 #include <sstream>
 #include <thread>
 
@@ -30,6 +32,7 @@
 namespace lurkwell::helper::testing {
 namespace {
 
+constexpr int kExitSystem = 71;
 constexpr int kExitChannel = 76;
 
 std::string Proc(pid_t pid, const char* file) {
@@ -214,7 +217,7 @@ pid_t StartObedient() {
   _exit(1);
 }
 
-TEST(ServeTest, FiguresAgreeWithProcWhateverIsDoneToIdleProcesses) {
+TEST(ServeTest, FiguresAgreeWithProcWhateverIsDoneToProcesses) {
   HelperProcess helper(0);
   std::vector<pid_t> pids;
   for (int count = 0; count < 6; ++count) pids.push_back(StartObedient());
@@ -240,7 +243,7 @@ TEST(ServeTest, FiguresAgreeWithProcWhateverIsDoneToIdleProcesses) {
   for (int round = 0; round < 10; ++round) expectAsInProc("start");
   // Without confinement, the calls are counted too.
   const auto session = std::make_unique<Session>();
-  session->Begin(kRealSystem, {.ownPid = getpid(), .keptFiles = 30});
+  session->Begin(kRealSystem, {.ownPid = getpid()});
   for (const pid_t pid : pids)
     EXPECT_EQ(session->Answer("Lkw Info Extraction:\n" + AllOf(pid)), ExpectedFigures(pid, true));
   std::istringstream times(helper.Figures("pid_internal_thread_time 0\n"));
@@ -266,17 +269,6 @@ TEST(ServeTest, FiguresAgreeWithProcWhateverIsDoneToIdleProcesses) {
       if (waitid(P_PID, static_cast<id_t>(pid), &ended, WEXITED | WNOHANG) == 0 && ended.si_pid > 0)
         pid = StartObedient();
   }
-  // What changes without running is no older than eight answers.
-  const pid_t idle = StartObedient();
-  pids = {idle};
-  for (int round = 0; round < 10; ++round) expectAsInProc("start");
-  const sched_param parameter{0};
-  ASSERT_EQ(sched_setscheduler(idle, SCHED_BATCH, &parameter), 0);
-  const std::string batch = "pid_policy " + std::to_string(idle) + " 3\n";
-  bool isSeen = false;
-  for (int asks = 0; asks < 8; ++asks)
-    isSeen = helper.Figures(AllOf(idle)).find(batch) != std::string::npos;
-  EXPECT_TRUE(isSeen);
 }
 
 TEST(ServeTest, OpensNothingButAPrivateWidePipeOfTheUser) {
@@ -378,6 +370,57 @@ TEST(ServeTest, LongAnswersComeInOneReadAndLongRequestsAreRefusedWhole) {
     }
   EXPECT_EQ(helper.Ask(harsh + harsh), "!Error malformed request\n");
   EXPECT_EQ(canary.EndedBy(), 0);
+}
+
+TEST(ServeTest, AStartThatCannotBeConfinedIsRefused) {
+  for (const bool isSpoilt : {false, true}) {
+    const Folder folder(kUser);
+    const std::string one = folder / "a", two = folder / "b";
+    for (const std::string& path : {one, two}) {
+      ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+      ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
+    }
+    const int requests = open(one.c_str(), O_RDWR | O_CLOEXEC);
+    const int answers = open(two.c_str(), O_RDWR | O_CLOEXEC);
+    const pid_t helper = Fork();
+    if (helper == 0) {
+      BecomeUser(kUser);
+      execl(HelperPath().c_str(), "helper", one.c_str(), two.c_str(), nullptr);
+      _exit(97);
+    }
+    // It waits for its greeting, with both ends open; the user takes the descriptors from it that
+    // its confinement needs.
+    const auto holdsBoth = [&] {
+      std::error_code gone;
+      std::set<std::string> held;
+      for (const auto& entry :
+           std::filesystem::directory_iterator("/proc/" + std::to_string(helper) + "/fd", gone))
+        held.insert(std::filesystem::read_symlink(entry.path(), gone).string());
+      return held.contains(one) && held.contains(two);
+    };
+    for (int tries = 0; tries < 5000 && !holdsBoth(); ++tries)
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    const rlimit none{3, 3};
+    const auto spoil = [&] {
+      BecomeUser(kUser);
+      return prlimit(helper, RLIMIT_NOFILE, &none, nullptr);
+    };
+    if (isSpoilt) {
+      EXPECT_EQ(InChild(spoil), 0);
+    }
+    ASSERT_EQ(write(requests, "hello\n", 6), 6);
+    if (isSpoilt) {
+      EXPECT_EQ(WaitFor(helper), kExitSystem);
+    } else {
+      char greeting[100];
+      EXPECT_GT(read(answers, greeting, sizeof greeting), 0);
+      kill(helper, SIGKILL);
+      EXPECT_EQ(WaitFor(helper), -SIGKILL);
+    }
+    close(requests);
+    close(answers);
+  }
 }
 
 TEST(ServeTest, TheUserCannotLookIntoIt) {

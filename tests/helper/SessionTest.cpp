@@ -19,7 +19,6 @@ class SessionTest : public ::testing::Test {
     mSurroundings.user = 1000;
     mSurroundings.ownPid = 50;
     mSurroundings.peerPid = 60;
-    mSurroundings.keptFiles = 100;
     for (const int pid : {1, 2, 50, 60, 70, 4194304}) mMachine.processes[pid] = {};
     mSession->Begin(mMachine.Calls(), mSurroundings);
   }
@@ -38,12 +37,12 @@ using Effects = std::vector<std::string>;
 TEST_F(SessionTest, WhatIsNotInTheTableIsRefusedBeforeAnyCall) {
   EXPECT_EQ(Ask("geteuid"), "0");
   const std::string figures = "Lkw Info Extraction:\n";
-  for (const std::string& line :
-       Pieces("kill_normal 50|kill_halt 50|kill_halt 60|kill_normal 070|kill_normal 70\n|"
-              "kill_normal 70kill_normal 2|kill_normal|Kill_normal 70|kill_hard 70||renice 70 +1|"
-              "renice 70 -0|renice 70 --1|renice 70|renice 70 1 |renice 70 99999999999|"
-              "kill_normal 70\nkill_normal 2|\nkill_normal 70",
-              '|'))
+  for (const std::string& line : Pieces(
+           "kill_normal 50|kill_halt 50|renice 50 5|kill_halt 60|kill_normal 070|kill_normal 70\n|"
+           "kill_normal 70kill_normal 2|kill_normal|Kill_normal 70|kill_hard 70||renice 70 +1|"
+           "renice 70 -0|renice 70 --1|renice 70|renice 70 1 |renice 70 99999999999|"
+           "kill_normal 70\nkill_normal 2|\nkill_normal 70",
+           '|'))
     EXPECT_EQ(Act(line).substr(0, 7), "!Error ") << line;
   EXPECT_EQ(Act(std::string("kill_normal 7\0", 14)), "!Error malformed request\n");
   for (const std::string& request :
@@ -123,8 +122,7 @@ TEST_F(SessionTest, FiguresComeFromTheFilesOfTheAskedGroups) {
       .io = "rchar: 9\nwchar: 9\nsyscr: 100\nsyscw: 11\n"};
   EXPECT_EQ(Figures("pid_internal_thread_time 70\n"),
             "pid_user_time 70 12.340000\npid_system_time 70 0.070000\n");
-  // The first is the application's, for its processor.
-  EXPECT_EQ(mMachine.opened, (Effects{"/proc/60/stat", "/proc/70/stat"}));
+  EXPECT_EQ(mMachine.opened, Effects{"/proc/70/stat"});
   EXPECT_EQ(Figures("pid_internal_basic_info_events_info 70\npid_internal_events_info 71\n"
                     "pid_internal_thread_time_events_info 0\n"),
             "pid_vsz 70 9007199254740993\npid_rsz 70 12288\npid_suspend_count 70 1\n"
@@ -143,119 +141,7 @@ TEST_F(SessionTest, FiguresComeFromTheFilesOfTheAskedGroups) {
   const std::string closed = Figures("pid_internal_events_info 70\n");
   EXPECT_NE(closed.find("pid_syscalls_unix 70 0\npid_csw 70 0\n"), std::string::npos) << closed;
   EXPECT_EQ(Figures("pid_internal_thread_time 71\n"), "!Error no such process\n");
-}
-
-TEST_F(SessionTest, ARequestThatContinuesTheOneBeforeGathersOnlyItsNewLines) {
-  const std::string first = "pid_internal_thread_time 70\n",
-                    second = "pid_internal_thread_time 2\n";
-  const std::string answer = Figures(first);
-  mMachine.processes[70].fields[14] = "100";
-  mMachine.opened.clear();
-  const std::string both = Figures(first + second);
-  EXPECT_EQ(both.substr(0, answer.size()), answer);
-  EXPECT_EQ(mMachine.opened, (Effects{"/proc/2/stat"}));
-  // The same request again is a new question, as is one that is too late or of other lines.
-  EXPECT_NE(Figures(first + second).find("pid_user_time 70 1.000000\n"), std::string::npos);
-  mMachine.processes[70].fields[14] = "200";
-  mMachine.milliseconds += 251;
-  EXPECT_EQ(Figures(first + second + first).find("pid_user_time 70 1.000000\n"), std::string::npos);
-  mMachine.processes[70].fields[14] = "300";
-  EXPECT_EQ(Figures(second + first).find("pid_user_time 70 2.000000\n"), std::string::npos);
-}
-
-TEST_F(SessionTest, WhoHasNotRunIsReadInTurns) {
-  for (const int pid : {70, 71, 70 + 8192}) mMachine.processes[pid] = {.runTime = 1000};
-  auto& process = mMachine.processes[70];
-  // The size is new each time: whether it is shown tells whether the file was read.
-  int pages = 100;
-  const auto isRead = [&](const std::string& groups = "_basic_info") {
-    mMachine.processes[70].fields[24] = std::to_string(++pages);
-    const std::string size = "pid_rsz 70 " + std::to_string(pages * 4096) + "\n";
-    return Figures("pid_internal" + groups + " 70\n").find(size) != std::string::npos;
-  };
-  const auto readUntilKept = [&] {
-    for (int asks = 0; isRead(); ++asks) ASSERT_LT(asks, 3);
-  };
-  ASSERT_TRUE(isRead());
-  readUntilKept();
-  while (!isRead()) continue;
-  for (int turn = 0; turn < 3; ++turn) {
-    for (int asks = 0; asks < 7; ++asks) EXPECT_FALSE(isRead()) << turn << ' ' << asks;
-    EXPECT_TRUE(isRead()) << turn;
-  }
-  // Whoever ran, is running, or has more to tell than was read, is read.
-  EXPECT_FALSE(isRead());
-  process.runTime = 1001;
-  EXPECT_TRUE(isRead());
-  readUntilKept();
-  EXPECT_TRUE(isRead("_basic_info_events_info"));
-  process.fields[3] = "R";
-  process.runTime = 1002;
-  for (int asks = 0; asks < 10; ++asks) EXPECT_TRUE(isRead());
-  process.fields[3] = "S";
-  EXPECT_TRUE(isRead());
-  readUntilKept();
-  // What was done to it is seen, whether it has run for it or not.
-  for (const char* act : {"kill_halt 70", "kill_cont 70", "kill_normal 70", "renice 70 5"}) {
-    EXPECT_EQ(Act(act), "ok");
-    EXPECT_TRUE(isRead()) << act;
-    readUntilKept();
-  }
-  // Two that share a place take turns in it, and neither has the other's figures.
-  mMachine.processes[70 + 8192].fields[24] = "5";
-  for (int asks = 0; asks < 10; ++asks) {
-    EXPECT_NE(Figures("pid_internal_basic_info 8262\n").find("pid_rsz 8262 20480\n"),
-              std::string::npos);
-    EXPECT_TRUE(isRead());
-  }
-  // The machine's figures are its own, and the gone are gone.
-  EXPECT_NE(Figures("pid_internal_events_info 0\n").find("pid_faults 0 0\n"), std::string::npos);
-  readUntilKept();
-  mMachine.processes.erase(70);
-  EXPECT_EQ(Figures("pid_internal_basic_info 70\n"), "!Error no such process\n");
-  mMachine.processes[70] = {.start = 2000, .runTime = 7};
-  EXPECT_TRUE(isRead());
-}
-
-TEST_F(SessionTest, FilesStayOpenWithinTheLimitAndFollowTheProcess) {
-  for (int pid = 100; pid < 400; ++pid) mMachine.processes[pid] = {};
-  for (int pid = 100; pid < 400; ++pid)
-    Figures("pid_internal_thread_time " + std::to_string(pid) + "\n");
-  EXPECT_EQ(mMachine.open.size(), 100u);
-  mMachine.opened.clear();
-  Figures("pid_internal_thread_time 100\n");
-  EXPECT_TRUE(mMachine.opened.empty());
-  // What nobody asks for is closed in time.
-  mMachine.milliseconds += 60000;
-  for (int round = 0; round < 2100; ++round) Figures("pid_internal_thread_time 100\n");
-  EXPECT_EQ(mMachine.open.size(), 1u);
-  // The file of a process that ended says so; the pid's next holder is reported in its place.
-  mMachine.processes.erase(100);
-  EXPECT_EQ(Figures("pid_internal 100\n"), "!Error no such process\n");
   EXPECT_TRUE(mMachine.open.empty());
-}
-
-TEST_F(SessionTest, ABeatIsAnsweredOnTheProcessorOfTheApplication) {
-  using Processors = std::vector<std::uint32_t>;
-  auto& peer = mMachine.processes[60].fields[39];
-  peer = "3";
-  Figures("pid_internal 70\n");
-  peer = "0";
-  for (int request = 0; request < 5; ++request) {
-    mMachine.milliseconds += 40;
-    Figures("pid_internal 70\n");
-  }
-  EXPECT_EQ(mMachine.processors, Processors{3});
-  for (int beat = 0; beat < 3; ++beat) {
-    mMachine.milliseconds += 1000;
-    Figures("pid_internal 70\n");
-  }
-  EXPECT_EQ(mMachine.processors, (Processors{3, 0}));
-  mMachine.processes.erase(60);
-  mMachine.milliseconds += 1000;
-  Figures("pid_internal 70\n");
-  EXPECT_EQ(mMachine.processors.size(), 2u);
-  EXPECT_EQ(mMachine.open.size(), 1u);
 }
 
 TEST_F(SessionTest, NoAnswerIsLongerThanOneReadAndEachEndsWithAWholeProcess) {

@@ -70,6 +70,8 @@ long Take(int step, pid_t foreign) {
       {SYS_setpriority, PRIO_PGRP, 0, -5},
       {SYS_sched_setscheduler, foreign, SCHED_IDLE, P(gBuffer)},
       {SYS_sched_setaffinity, foreign, 8, P(gBuffer)},
+      {SYS_sched_setaffinity, 0, 8, P(gBuffer)},
+      {SYS_clock_gettime, CLOCK_MONOTONIC, P(gBuffer)},
       {SYS_prlimit64, foreign, RLIMIT_CPU, P(gBuffer), 0},
       {SYS_ioprio_set, 1, foreign, 0},
       // Files: to read outside /proc, and to change anywhere.

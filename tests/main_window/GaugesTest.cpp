@@ -4,6 +4,7 @@
 #include "main_window/SystemFigures.h"
 #include "main_window/SystemInfoImage.h"
 #include "main_window/ToolbarGauge.h"
+#include "support/OpenChannel.h"
 
 namespace lurkwell {
 namespace {
@@ -219,7 +220,7 @@ TEST_F(GaugesTest, PreferencesMeasureNothing) {
     Turn();
     EXPECT_EQ(shares(), "25.0 %CPU: 50 % of 1 processor");
   }
-  NormalInternalLaunchDaemon("/helper", nullptr);
+  OpenChannel("/helper");
   busy.UseCPU(1500);
   machine.processTable.Find(0)->UseCPU(1000);
   Turn();

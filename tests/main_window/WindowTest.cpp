@@ -3,6 +3,7 @@
 
 #include "main_window/FrontmostWindow.h"
 #include "main_window/MainWindowTest.h"
+#include "process_control/DaemonChannel.h"
 
 namespace lurkwell {
 namespace {
@@ -36,17 +37,29 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   for (const auto* label : window->findChildren<QLabel*>()) said += label->text() + "\n";
   EXPECT_TRUE(said.contains(QLatin1String("3 processes, 3 shown, 1 selected")))
       << said.toStdString();
-  EXPECT_FALSE(said.contains(QLatin1String("helper"))) << "all is well: nothing is said";
-  const auto aboutHelper = [&] {
-    Turn(60'000);
-    for (const auto* label : window->findChildren<QLabel*>())
-      if (label->text().contains(QLatin1String("helper"))) return label->text().toStdString();
-    return std::string();
+  EXPECT_FALSE(said.contains(QLatin1String("rights"))) << "all is well: nothing is said";
+  const auto aboutHelper = [&]() -> QLabel* {
+    Turn(2000);
+    for (auto* label : window->findChildren<QLabel*>())
+      if (label->text().contains(QLatin1String("\"rights\""))) return label;
+    return nullptr;
   };
-  machine.helper.SetEffectiveUid(1000);
-  EXPECT_NE(aboutHelper().find("administrator"), std::string::npos);
   helper.reset();
-  EXPECT_NE(aboutHelper().find("not running"), std::string::npos);
+  // This machine has no place for a helper with rights.
+  LaunchHelperDaemon();
+  auto* label = aboutHelper();
+  ASSERT_NE(label, nullptr);
+  EXPECT_TRUE(label->text().startsWith(QLatin1String("Acts on your own processes only")));
+  machine.log.Clear();
+  Q_EMIT label->linkActivated(QStringLiteral("rights"));
+  EXPECT_NE(machine.log.Take().find("The helper cannot be given rights: "), std::string::npos);
+  machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kDoesNotOpen);
+  CloseDaemonChannel();
+  gDaemonChannelWatcher->Lost();
+  label = aboutHelper();
+  ASSERT_NE(label, nullptr);
+  EXPECT_TRUE(label->text().contains(QLatin1String("not running")));
+  QuitHelperDaemon();
 }
 
 TEST_F(WindowTest, OutOfSightItIsServedATenthAsOften) {

@@ -18,7 +18,7 @@ class ActionsTest : public SimulatedControl {
     for (std::int32_t pid = 70; pid < 80; ++pid) machine.processTable.Birth(pid, "other");
     machine.processManager.Launch({1, 5}, kApplication, "Application");
     machine.processManager.Launch({2, 9}, std::nullopt, "Classic Application");
-    NormalInternalLaunchDaemon("/helper", nullptr);
+    OpenChannel("/helper");
     InitializeProcessInformationConsolidator();
     auto* client = new RecordingClient("client", 1000, told);
     client->NeedsEverything();

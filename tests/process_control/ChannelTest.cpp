@@ -70,19 +70,24 @@ TEST_F(ChannelTest, WhatNobodyAskedForIsTakenForNoAnswer) {
 }
 
 TEST_F(ChannelTest, AHelperThatDoesNotComeLeavesNothingBehind) {
-  machine.namedPipes.SetBehaviour(Behaviour::kDoesNotOpen);
-  NormalInternalLaunchDaemon("/helper", nullptr);
-  machine.namedPipes.SetBehaviour(Behaviour::kDoesNotGreet);
-  testing::internal::CaptureStdout();
-  NormalInternalLaunchDaemon("/helper", nullptr);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "read error: 110\n");
+  SetHelperUnprivileged(true);
+  for (const auto behaviour : {Behaviour::kDoesNotOpen, Behaviour::kDoesNotGreet}) {
+    machine.namedPipes.SetBehaviour(behaviour);
+    testing::internal::CaptureStdout();
+    LaunchHelperDaemon();
+    EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kStarting);
+    machine.runLoop.RunFor(5500);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              behaviour == Behaviour::kDoesNotGreet ? "read error: 110\n" : "");
+    EXPECT_EQ(QuitHelperDaemon(), -1);
+    EXPECT_EQ(machine.namedPipes.OpenCount(), 0u);
+    EXPECT_EQ(machine.namedPipes.NameCount(), 0u);
+  }
   machine.namedPipes.RefuseFifos(true);
-  NormalInternalLaunchDaemon("/helper", nullptr);
+  LaunchHelperDaemon();
   EXPECT_EQ(gFd_a2d, -1);
   EXPECT_EQ(gFd_d2a, -1);
-  EXPECT_EQ(machine.namedPipes.OpenCount(), 0u);
-  EXPECT_EQ(machine.namedPipes.NameCount(), 0u);
-  EXPECT_EQ(QuitHelperDaemon(), -1);
+  EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kNone);
 }
 
 TEST_F(ChannelTest, AChannelOpenedOverAnotherReplacesIt) {
@@ -91,6 +96,42 @@ TEST_F(ChannelTest, AChannelOpenedOverAnotherReplacesIt) {
   Open();
   EXPECT_NE(gFd_a2d, before);
   EXPECT_EQ(machine.namedPipes.OpenCount(), 2u);
+}
+
+/// A beat's request, as Query gives an action's.
+std::string Beat(const char* request) {
+  DaemonConversation conversation;
+  char answer[256];
+  const auto size = conversation.Query(request, answer, sizeof answer - 1);
+  return std::string(answer) + " (" + std::to_string(size) + ")";
+}
+
+TEST_F(ChannelTest, ABeatGoesOnWithoutAnAnswerThatComesLater) {
+  LaunchHelperDaemon();
+  machine.namedPipes.SetBehaviour(Behaviour::kStalls);
+  machine.namedPipes.RecordExchanges(true);
+  machine.log.Clear();
+  EXPECT_EQ(Beat("one"), " (-2)");
+  EXPECT_EQ(Beat("two"), " (-3)") << "nothing is written before the answer has come";
+  EXPECT_EQ(Log(), "NamedPipes.Write \"one\"\n");
+  machine.namedPipes.SayUnasked("late");
+  machine.namedPipes.SetBehaviour(Behaviour::kAnswers);
+  EXPECT_EQ(Query("Lkw Action Request:\nkill_halt 12"), "done (4)") << "an action first takes it";
+  EXPECT_EQ(DaemonConversation::TakeLateAnswer(), "late");
+  EXPECT_EQ(DaemonConversation::TakeLateAnswer(), "") << "once";
+
+  machine.namedPipes.SetBehaviour(Behaviour::kStalls);
+  EXPECT_EQ(Beat("three"), " (-2)");
+  machine.runLoop.RunFor(240);
+  EXPECT_GE(gFd_a2d, 0);
+  machine.namedPipes.SayUnasked("!Error");
+  machine.runLoop.RunFor(20);
+  EXPECT_GE(gFd_a2d, 0) << "in time";
+  EXPECT_EQ(DaemonConversation::TakeLateAnswer(), "");
+  EXPECT_EQ(Beat("four"), " (-2)");
+  machine.runLoop.RunFor(260);
+  EXPECT_EQ(gFd_a2d, -1) << "overdue";
+  EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kNone);
 }
 
 class RelaunchTest : public SimulatedControl {
@@ -130,11 +171,11 @@ TEST_F(RelaunchTest, OneThatDoesNotOpenIsGivenFiveSeconds) {
   LaunchHelperDaemon();
   RecordStarts(true);
   machine.runLoop.RunFor(20'000);
-  EXPECT_EQ(Starts(), "1 8 17 ");
+  EXPECT_EQ(Starts(), "5 11 18 ") << "the first from the bundle";
   machine.namedPipes.SetBehaviour(Behaviour::kDoesNotGreet);
   machine.runLoop.RunFor(11'000);
   EXPECT_EQ(gFd_a2d, -1);
-  EXPECT_EQ(Starts(), "30 ");
+  EXPECT_EQ(Starts(), "27 ");
   EXPECT_EQ(machine.namedPipes.OpenCount(), 2u) << "both ends, and the greeting is missing";
   QuitHelperDaemon();
   EXPECT_EQ(machine.namedPipes.OpenCount(), 0u) << "also in the middle of it";

@@ -1,9 +1,8 @@
-#include <sys/wait.h>
-
 #include <cstring>
 
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/DaemonChannel.h"
+#include "process_control/DaemonInstallation.h"
 #include "process_control/SimulatedControl.h"
 
 namespace lurkwell {
@@ -13,7 +12,10 @@ constexpr char kStep[] = "Authorization.ExecuteWithPrivileges $ --set_permission
 constexpr char kPrivileged[] = "Authorization.ExecuteWithPrivileges $";
 constexpr char kAlert[] =
     "Alerts.RunAlertPanel \"Lurkwell must be authenticated in order to run on this computer with "
-    "an administrator password.\" \" \" [Authenticate Again|Quit Lurkwell|Continue Without]\n";
+    "an administrator password.\" \"The administrator refused.\n\nWithout an administrator's "
+    "rights Lurkwell shows every process and acts on your own. It will not ask at the next start; "
+    "the status line says how to be asked.\" [Authenticate Again|Quit Lurkwell|Continue "
+    "Without]\n";
 
 class LaunchTest : public SimulatedControl {
  protected:
@@ -52,8 +54,8 @@ class LaunchTest : public SimulatedControl {
         [](const auto&, const auto& arguments) { return arguments.size() != 1; });
   }
 
-  static constexpr char kAsked[] = "Authorization.Create\nAuthorization.WaitForChild\n";
-  static constexpr char kDone[] = "Authorization.WaitForChild\n";
+  static constexpr char kAsked[] = "Authorization.Create\nAuthorization.CollectChild\n";
+  static constexpr char kDone[] = "Authorization.CollectChild\n";
   static constexpr char kFreed[] = "Authorization.Free\n";
 
  private:
@@ -106,18 +108,47 @@ TEST_F(LaunchTest, ARefusedUserMayTryAgainAndGoOnWithout) {
   const std::string refused = std::string(kStep) + kAlert;
   EXPECT_EQ(Log(), All({Checked(), kAsked, refused, refused, refused, Opened(), kFreed}));
   EXPECT_EQ(Query("geteuid"), "501 (3)");
+  EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kOwn);
+  EXPECT_EQ(GetDaemonStatus().reason, "The administrator refused");
+
+  machine.log.Clear();
+  QuitHelperDaemon();
+  machine.log.Clear();
+  LaunchHelperDaemon();
+  EXPECT_EQ(Log(), All({Checked(), Opened()})) << "the answer is remembered";
+  EXPECT_TRUE(GetDaemonStatus().mayAsk);
+  StepGives(0);
+  QuitHelperDaemon();
+  machine.log.Clear();
+  AskForDaemonRights();
+  EXPECT_EQ(Log(), All({Checked(), kAsked, kStep, kDone, Checked(), Opened(), kFreed}));
+  EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kFull);
 }
 
-TEST_F(LaunchTest, QuittingInTheAlertEndsTheProgramWithStatusZero) {
+TEST_F(LaunchTest, WhatCannotHelpIsNotOffered) {
+  machine.helper.SetEffectiveUid(501);
+  StepIsRefused();
+  machine.authorization.SetReason("it is not installed", Authorization::Remedy::kNone);
+  LaunchHelperDaemon();
+  EXPECT_EQ(Log(), All({Checked(), kAsked, kStep, Opened(), kFreed})) << "no question at all";
+  EXPECT_EQ(GetDaemonStatus().reason, "It is not installed");
+  EXPECT_FALSE(GetDaemonStatus().mayAsk);
+  QuitHelperDaemon();
+
+  machine.authorization.SetReason("there is no pkexec", Authorization::Remedy::kMachine);
+  LaunchHelperDaemon();
+  const std::string log = Log();
+  EXPECT_NE(log.find("\"There is no pkexec."), std::string::npos);
+  EXPECT_NE(log.find("[|Quit Lurkwell|Continue Without]"), std::string::npos);
+}
+
+TEST_F(LaunchTest, QuittingInTheAlertEndsTheProgram) {
   machine.helper.SetEffectiveUid(501);
   StepIsRefused();
   machine.alerts.WillAnswer({AlertButton::kDefault, AlertButton::kAlternate});
-  EXPECT_EXIT(
-      {
-        LaunchHelperDaemon();
-        std::_Exit(3);
-      },
-      testing::ExitedWithCode(0), "gets no rights: the administrator refused");
+  LaunchHelperDaemon();
+  EXPECT_TRUE(machine.runLoop.IsStopped());
+  EXPECT_EQ(gFd_a2d, -1);
 }
 
 TEST_F(LaunchTest, UnprivilegedAsksNobody) {
@@ -128,6 +159,15 @@ TEST_F(LaunchTest, UnprivilegedAsksNobody) {
 }
 
 TEST_F(LaunchTest, TheCheckLooksAtTheFirstCharacterOnly) {
+  StepIsRefused();
+  machine.authorization.SetReason("no", Authorization::Remedy::kNone);
+  const auto rights = [this] {
+    LaunchHelperDaemon();
+    machine.runLoop.RunFor(6000);
+    const auto status = GetDaemonStatus();
+    QuitHelperDaemon();
+    return status.rights;
+  };
   for (const auto& [answer, good] :
        std::initializer_list<std::pair<const char*, bool>>{{"0", true},
                                                            {"0 ", true},
@@ -136,10 +176,10 @@ TEST_F(LaunchTest, TheCheckLooksAtTheFirstCharacterOnly) {
                                                            {" 0", false},
                                                            {"!Error 0", false}}) {
     machine.namedPipes.SetHelper([text = std::string(answer)](std::string_view) { return text; });
-    EXPECT_EQ(CheckDaemonPermissions(), good) << answer;
+    EXPECT_EQ(rights(), good ? DaemonRights::kFull : DaemonRights::kOwn) << answer;
   }
   machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kStalls);
-  EXPECT_FALSE(CheckDaemonPermissions());
+  EXPECT_EQ(rights(), DaemonRights::kOwn) << "after some patience";
 }
 
 TEST_F(LaunchTest, TheHelperIsInstalledOnceAndNeverReplaced) {
@@ -167,15 +207,14 @@ TEST_F(LaunchTest, TheHelperIsInstalledOnceAndNeverReplaced) {
                "DaemonCommunication:[0-9]+: failed assertion `strlen.*capacity'");
   machine.bundle.SetApplicationSupportFolder(std::nullopt);
   EXPECT_FALSE(EnsureThatDaemonIsInApplicationSupport(bundle.c_str(), path, sizeof path));
-  EXPECT_DEATH(LaunchDaemonWithoutAuthorization(),
-               "DaemonCommunication:[0-9]+: failed assertion `succeeded'");
 }
 
 TEST_F(LaunchTest, WhatCannotBeInstalledRunsFromTheBundleWithTheUsersRights) {
   const std::string quoted = folder / "a \"quoted\" folder";
   std::filesystem::rename(machine.bundle.Path(), quoted);
   machine.bundle.SetPath(quoted);
-  EXPECT_DEATH(LaunchDaemonWithoutAuthorization(),
+  char path[1024];
+  EXPECT_DEATH(EnsureThatDaemonIsInApplicationSupport(EscapedBundlePath().c_str(), path, 1024),
                "DaemonCommunication:[0-9]+: failed assertion `succeeded'");
   testing::internal::CaptureStderr();
   LaunchHelperDaemon();
@@ -185,14 +224,6 @@ TEST_F(LaunchTest, WhatCannotBeInstalledRunsFromTheBundleWithTheUsersRights) {
   EXPECT_EQ(Log(),
             Opened("Tools.StartInBackground " + quoted + "/Contents/Resources/Lurkwell_helper"));
   EXPECT_FALSE(std::filesystem::exists(Helper()));
-}
-
-TEST_F(LaunchTest, AMissingAuthorisationIsAnError) {
-  const char* const message = "DaemonCommunication:[0-9]+: failed assertion `authRef != NULL'";
-  EXPECT_DEATH(SetDaemonPermissions(nullptr), message);
-  EXPECT_DEATH(LaunchDaemonWithAuthorization(nullptr), message);
-  EXPECT_DEATH(SetPermissionsInternalLaunchDaemon("/helper", nullptr), message);
-  EXPECT_DEATH(InternalLaunchHelperDaemon(nullptr, true), message);
 }
 
 }  // namespace

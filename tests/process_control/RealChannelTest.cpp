@@ -15,17 +15,11 @@ class RealChannelTest : public RealControl {
  protected:
   ~RealChannelTest() override { QuitHelperDaemon(); }
 
-  static void Open() { LaunchDaemonWithoutAuthorization(); }
+  void Open() { OpenInstalled(); }
   static bool IsOpen() { return gFd_a2d >= 0; }
 
-  /// Runs the loop until the channel is open again, for ten seconds at most.
   void RunUntilOpen() {
-    constexpr double kStep = 0.01;
-    int steps = 0;
-    const auto timer = machine.runLoop.AddTimer(0, kStep, [&] {
-      if (IsOpen() || ++steps == 1000) machine.runLoop.Stop();
-    });
-    machine.runLoop.Run();
+    machine.RunUntil([] { return IsOpen(); });
   }
 
   RealMachine machine{folder.Path()};
@@ -48,6 +42,7 @@ bool IsAbout(const std::string& answer, pid_t pid) {
 
 TEST_F(RealChannelTest, TheRealHelperAnswers) {
   LaunchHelperDaemon();
+  RunUntilOpen();
   ASSERT_TRUE(IsOpen());
   EXPECT_TRUE(std::filesystem::is_empty(folder / "pipes")) << "nobody else can join";
   EXPECT_EQ(Query("geteuid"), "0");
@@ -143,9 +138,9 @@ TEST_F(RealChannelTest, ALateAnswerIsNobodysAnswer) {
 
 /// An application with an open channel, which it uses until it is killed, and with a child that
 /// would keep whatever ends it inherited.
-[[noreturn]] void RunApplication(int ready) {
+[[noreturn]] void RunApplication(const std::string& helper, int ready) {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-  LaunchDaemonWithoutAuthorization();
+  OpenChannel(helper);
   const pid_t bystander = ::fork();
   if (bystander == 0) {
     ::execl("/bin/sleep", "lkw_bystander", "60", nullptr);
@@ -166,7 +161,7 @@ TEST_F(RealChannelTest, TheHelperEndsWithAKilledApplication) {
     int ends[2];
     ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0);
     const pid_t application = ::fork();
-    if (application == 0) RunApplication(ends[1]);
+    if (application == 0) RunApplication(LURKWELL_TEST_HELPER, ends[1]);
     ::close(ends[1]);
     char opened = '-';
     EXPECT_EQ(::read(ends[0], &opened, 1), 1);
@@ -193,7 +188,6 @@ TEST_F(RealChannelTest, TheHelperEndsWithAKilledApplication) {
 }
 
 TEST_F(RealChannelTest, HelpersThatMisbehaveAreReplacedByOneThatDoesNot) {
-  testing::internal::CaptureStdout();
   for (const std::string mode : {"absent", "half", "mute", "brief", "noise", "twice"}) {
     gDaemonLimits.opening = milliseconds(300);
     UseStandIn(mode);
@@ -213,14 +207,13 @@ TEST_F(RealChannelTest, HelpersThatMisbehaveAreReplacedByOneThatDoesNot) {
     EXPECT_EQ(Query("geteuid"), "0") << "after " << mode;
     QuitHelperDaemon();
   }
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "read error: 110\nread error: 110\n")
-      << "of the two that do not greet";
 }
 
 TEST_F(RealChannelTest, ALostHelperIsReplacedByTheRunLoop) {
   // A second until the start, and some milliseconds for it, on a machine that has nothing to do.
   constexpr auto kBack = std::chrono::seconds(4);
   LaunchHelperDaemon();
+  RunUntilOpen();
   for (int round = 0; round < 2; ++round) {
     ASSERT_TRUE(IsOpen());
     EXPECT_EQ(Query("geteuid"), "0");
@@ -235,22 +228,58 @@ TEST_F(RealChannelTest, ALostHelperIsReplacedByTheRunLoop) {
   EXPECT_EQ(Query("geteuid"), "0");
 }
 
-TEST_F(RealChannelTest, QuittingInTheMiddleOfARelaunchLeavesNothing) {
+TEST_F(RealChannelTest, QuittingInTheMiddleOfAStartLeavesNothing) {
   UseStandIn("absent");
-  const std::string own = folder / "lib/lurkwell/Contents/Resources";
-  std::filesystem::copy_file(LURKWELL_TEST_STAND_IN, own + "/Lurkwell_helper",
-                             std::filesystem::copy_options::overwrite_existing);
-  WriteFile(own + "/mode", "absent");
-  gDaemonLimits.opening = milliseconds(100);
   SetHelperUnprivileged(true);
   LaunchHelperDaemon();
   EXPECT_FALSE(IsOpen());
-  gDaemonLimits.opening = milliseconds(60'000);
-  const auto stop = machine.runLoop.AddTimer(machine.clock.AbsoluteTime() + 1.2, 0,
-                                             [&] { machine.runLoop.Stop(); });
-  machine.runLoop.Run();
   EXPECT_FALSE(std::filesystem::is_empty(folder / "pipes")) << "a start is under way";
   QuitHelperDaemon();
+}
+
+TEST_F(RealChannelTest, ABeatWaitsAHundredMillisecondsWhateverTheHelperDoes) {
+  LaunchHelperDaemon();
+  RunUntilOpen();
+  const pid_t helper = HelperPid();
+  const auto beat = [] {
+    const auto begun = std::chrono::steady_clock::now();
+    DaemonConversation conversation;
+    char answer[8192];
+    std::ptrdiff_t last = 1;
+    for (int request = 0; request < 5000; ++request)
+      last = conversation.Query(FiguresRequest(1).c_str(), answer, sizeof answer - 1);
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, milliseconds(150));
+    return last;
+  };
+  Signal(helper, SIGSTOP);
+  EXPECT_EQ(beat(), kDaemonNotAsked);
+  Signal(helper, SIGCONT);
+  std::this_thread::sleep_for(milliseconds(50));
+  EXPECT_TRUE(IsAbout(DaemonConversation::TakeLateAnswer(), 1));
+  EXPECT_EQ(Query("geteuid"), "0") << "the same channel goes on";
+  Signal(helper, SIGSTOP);
+  EXPECT_EQ(beat(), kDaemonNotAsked);
+  machine.RunUntil([] { return !IsOpen(); }, 1);
+  EXPECT_FALSE(IsOpen()) << "overdue";
+  EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kNone);
+  Signal(helper, SIGCONT);
+  // "slow" takes 30 ms for each answer.
+  UseStandIn("slow");
+  OpenChannel(Installed());
+  ASSERT_TRUE(IsOpen());
+  EXPECT_EQ(beat(), kDaemonNotAsked);
+  std::this_thread::sleep_for(milliseconds(50));
+  EXPECT_EQ(DaemonConversation::TakeLateAnswer(), "slow");
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(RealChannelTest, AHelperThatEndedIsMissedWithoutBeingAsked) {
+  gDaemonLimits.pulse = milliseconds(50);
+  LaunchHelperDaemon();
+  RunUntilOpen();
+  Signal(HelperPid(), SIGKILL);
+  machine.RunUntil([] { return !IsOpen(); }, 2);
+  EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(RealChannelTest, PipesOfAKilledProgramGoWithTheNextOnesAndNothingElse) {

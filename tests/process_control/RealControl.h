@@ -22,6 +22,7 @@
 #include "process_control/DaemonCommunication.h"
 #include "process_control/RealMachine.h"
 #include "process_control/TemporaryFolder.h"
+#include "support/OpenChannel.h"
 
 namespace lurkwell {
 
@@ -45,6 +46,15 @@ class RealControl : public testing::Test {
   }
 
   std::string Installed() const { return folder / "data/Lurkwell/Lurkwell_helper"; }
+
+  /// Starts the installed helper as the user, without any question.
+  void OpenInstalled() {
+    if (!std::filesystem::exists(Installed())) {
+      std::filesystem::create_directories(folder / "data/Lurkwell");
+      std::filesystem::copy_file(LURKWELL_TEST_HELPER, Installed());
+    }
+    OpenChannel(Installed());
+  }
 
   /// Puts the program that misbehaves in the helper's place.
   void UseStandIn(const std::string& mode) {

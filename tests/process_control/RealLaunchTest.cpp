@@ -2,7 +2,9 @@
 #include <sched.h>
 #include <sys/mount.h>
 
+#include <cctype>
 #include <cstdio>
+#include <fstream>
 #include <vector>
 
 #include "preferences/PreferencesRetrieval.h"
@@ -10,6 +12,8 @@
 
 namespace lurkwell {
 namespace {
+
+using std::chrono::milliseconds;
 
 /// The application as a plain user starts it, with the administrator's consent given by a stand-in.
 class RealLaunchTest : public RealControl {
@@ -44,7 +48,9 @@ class RealLaunchTest : public RealControl {
       RealMachine machine(folder.Path());
       if (always) SetPrefInt("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", 1);
       LaunchHelperDaemon();
+      machine.RunUntil([] { return gFd_a2d >= 0; });
       WriteFile(report, gFd_a2d >= 0 ? Query("geteuid") : "none");
+      if (whileOpen) whileOpen(machine);
       QuitHelperDaemon();
       return 0;
     });
@@ -53,11 +59,21 @@ class RealLaunchTest : public RealControl {
   }
 
   bool ignoresChildren = false;
+  std::function<void(RealMachine&)> whileOpen;
 };
 
-constexpr char kAlert[] =
-    "lurkwell: Lurkwell must be authenticated in order to run on this computer with an "
-    "administrator password. (Continue Without)\n";
+/// What is said where nobody can answer.
+std::string Refused(std::string reason) {
+  const std::string clause = "lurkwell: the helper gets no rights: " + reason + "\n";
+  reason[0] = static_cast<char>(std::toupper(reason[0]));
+  return std::to_string(kUser) + "\n" + clause +
+         "lurkwell: Lurkwell must be authenticated in order to run on this computer with an "
+         "administrator password. " +
+         reason +
+         ".\n\nWithout an administrator's rights Lurkwell shows every process and acts on your "
+         "own. It will not ask at the next start; the status line says how to be asked. (Continue "
+         "Without)\n";
+}
 constexpr char kStep[] =
     "$/data/Lurkwell|--disable-internal-agent|--keep-cwd|"
     "$/lib/lurkwell/Contents/Resources/Lurkwell_permissions|--set_permissions_appropriately\n";
@@ -78,6 +94,25 @@ TEST_F(RealLaunchTest, TheAdministratorGivesTheCopyItsRightsOnce) {
       << asked;
 }
 
+TEST_F(RealLaunchTest, AHelperThatPkexecStartedLeavesNoZombie) {
+  AdministratorSays("yes");
+  whileOpen = [](RealMachine& machine) {
+    gDaemonLimits.pulse = milliseconds(50);
+    // The helper has the user's uid, but may not be signalled by him; it ends with its channel.
+    const auto children = [] {
+      std::ifstream file("/proc/self/task/" + std::to_string(::getpid()) + "/children");
+      return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    EXPECT_NE(children(), "");
+    CloseDaemonChannel();
+    gDaemonChannelWatcher->Lost();
+    machine.RunUntil([&] { return children().empty(); });
+    EXPECT_EQ(children(), "");
+    if (testing::Test::HasFailure()) ::_exit(97);
+  };
+  EXPECT_EQ(Launched(true).substr(0, 2), "0\n");
+}
+
 TEST_F(RealLaunchTest, ConsentIsNoticedWhereNobodyLearnsHowChildrenEnd) {
   AdministratorSays("yes");
   ignoresChildren = true;
@@ -86,19 +121,15 @@ TEST_F(RealLaunchTest, ConsentIsNoticedWhereNobodyLearnsHowChildrenEnd) {
 }
 
 TEST_F(RealLaunchTest, WithoutConsentTheHelperHasTheUsersRights) {
-  const auto refused = [](const std::string& reason) {
-    return std::to_string(kUser) + "\nlurkwell: the helper gets no rights: " + reason + "\n" +
-           kAlert;
-  };
   AdministratorSays("126");
-  EXPECT_EQ(Launched(), refused("the question was dismissed"));
+  EXPECT_EQ(Launched(), Refused("the question was dismissed"));
   AdministratorSays("127");
   EXPECT_EQ(Launched(),
-            refused("the authorisation was refused, or there is no agent to ask for it"));
+            Refused("the authorisation was refused, or there is no agent to ask for it"));
   AdministratorSays("77");
-  EXPECT_EQ(Launched(), refused("the permission step ended with status 77"));
+  EXPECT_EQ(Launched(), Refused("the permission step ended with status 77"));
   std::filesystem::remove(Pkexec());
-  EXPECT_EQ(Launched(), refused("there is no $/bin/pkexec"));
+  EXPECT_EQ(Launched(), Refused("there is no $/bin/pkexec to ask an administrator with"));
   EXPECT_EQ(ModeOf(Installed()), 0755u);
 }
 
@@ -109,7 +140,7 @@ TEST_F(RealLaunchTest, NobodyIsAskedForAProgramThatOthersThanRootCanChange) {
   const auto spoilt = [&](const std::function<void()>& spoil) {
     spoil();
     const std::string launched = Launched();
-    EXPECT_NE(launched.find("can be changed by others than root"), std::string::npos) << launched;
+    EXPECT_NE(launched.find("others than root can change $"), std::string::npos) << launched;
     EXPECT_EQ(::chown(resources.c_str(), 0, 0), 0);
     EXPECT_EQ(::chmod(resources.c_str(), 0755), 0);
     EXPECT_EQ(::chown(step.c_str(), 0, 0), 0);
@@ -153,10 +184,9 @@ TEST_F(RealLaunchTest, AFileSystemWithoutRightsIsExplainedAndNobodyAsked) {
       if (::chown(Installed().c_str(), kUser, kUser) != 0 ||
           ::mount(nullptr, data.c_str(), nullptr, MS_REMOUNT | flag, nullptr) != 0)
         return 98;
-      std::string expected = std::to_string(kUser) +
-                             "\nlurkwell: the helper gets no rights: the file system of "
-                             "$/data/Lurkwell gives programs no rights (" +
-                             name + ")\n" + kAlert;
+      std::string expected =
+          Refused("the file system of $/data/Lurkwell gives programs no rights (" +
+                  std::string(name) + ")");
       if (flag == MS_NOEXEC)
         expected +=
             "lurkwell: the helper runs with your own rights: the installed one does not start\n";
@@ -238,6 +268,7 @@ TEST_F(RealLaunchTest, HostileFolderNamesAreNamesAndNothingElse) {
     RealMachine machine(prefix);
     testing::internal::CaptureStderr();
     LaunchHelperDaemon();
+    machine.RunUntil([] { return gFd_a2d >= 0; });
     EXPECT_EQ(Query("geteuid"), "0") << name;
     QuitHelperDaemon();
     // An application below a double quote finds no helper to install, and uses its own.
@@ -294,7 +325,7 @@ TEST_F(RealLaunchTest, NobodyElseOpensThePipes) {
   {
     RealMachine machine(folder.Path());
     for (int start = 0; start < 500; ++start) {
-      LaunchDaemonWithoutAuthorization();
+      OpenInstalled();
       EXPECT_EQ(Query("geteuid"), "0");
       QuitHelperDaemon();
     }

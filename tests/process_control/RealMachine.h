@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "platform/Machine.h"
@@ -30,6 +31,16 @@ class RealMachine {
     std::filesystem::create_directories(resources);
     std::filesystem::copy_file(LURKWELL_TEST_HELPER, resources + "/Lurkwell_helper");
     std::filesystem::copy_file(LURKWELL_TEST_PERMISSIONS, resources + "/Lurkwell_permissions");
+  }
+
+  /// Runs the loop until that is so, for some seconds at most.
+  void RunUntil(const std::function<bool()>& isSo, int seconds = 10) {
+    constexpr double kStep = 0.01;
+    int steps = 0;
+    const auto timer = runLoop.AddTimer(0, kStep, [&] {
+      if (isSo() || ++steps == seconds * 100) runLoop.Stop();
+    });
+    runLoop.Run();
   }
 
   SimulatedMachine simulated;

@@ -7,6 +7,7 @@
 #include "platform/simulated/SimulatedMachine.h"
 #include "process_control/DaemonCommunication.h"
 #include "process_control/TemporaryFolder.h"
+#include "support/OpenChannel.h"
 
 namespace lurkwell {
 
@@ -26,7 +27,7 @@ class SimulatedControl : public testing::Test {
 
   /// Opens a channel and forgets how.
   void Open() {
-    NormalInternalLaunchDaemon("/helper", nullptr);
+    OpenChannel("/helper");
     machine.log.Clear();
   }
 

@@ -6,6 +6,7 @@
 
 #include "platform/simulated/SimulatedMachine.h"
 #include "process_control/DaemonCommunication.h"
+#include "support/OpenChannel.h"
 
 namespace lurkwell {
 
@@ -16,7 +17,7 @@ class HelperChannel {
 
   explicit HelperChannel(SimulatedMachine& machine) : mMachine(machine) {
     SetAnswer([&machine](std::string_view request) { return machine.helper.Answer(request); });
-    NormalInternalLaunchDaemon("/helper", nullptr);
+    OpenChannel("/helper");
     machine.log.Clear();
   }
   ~HelperChannel() { QuitHelperDaemon(); }

@@ -49,7 +49,7 @@ bool WaitFor(int descriptor, short events, steady_clock::time_point deadline) {
 void SignIn(int pipe) {
   struct flock lock {};
   lock.l_type = F_WRLCK;
-  // Without it he has to look for us, which takes longer.
+  // Without it he does not know us, and would halt us if asked to.
   ::fcntl(pipe, F_SETLK, &lock);
 }
 
@@ -140,20 +140,6 @@ std::ptrdiff_t LinuxNamedPipes::Read(int descriptor, std::span<char> buffer, Mil
     if (errno != EINTR && errno != EAGAIN) return -1;
     if (steady_clock::now() >= deadline) return -1;
   }
-}
-
-void LinuxNamedPipes::BeginExchanges() {
-  cpu_set_t all, here;
-  const int processor = ::sched_getcpu();
-  if (processor < 0 || ::sched_getaffinity(0, sizeof all, &all) != 0 || CPU_COUNT(&all) < 2) return;
-  CPU_ZERO(&here);
-  CPU_SET(static_cast<std::size_t>(processor), &here);
-  if (::sched_setaffinity(0, sizeof here, &here) == 0) mProcessors = all;
-}
-
-void LinuxNamedPipes::EndExchanges() {
-  if (mProcessors) ::sched_setaffinity(0, sizeof *mProcessors, &*mProcessors);
-  mProcessors.reset();
 }
 
 int LinuxNamedPipes::Close(int descriptor) {

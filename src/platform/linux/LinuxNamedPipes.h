@@ -1,8 +1,5 @@
 #pragma once
 
-#include <sched.h>
-
-#include <optional>
 #include <string>
 
 #include "platform/NamedPipes.h"
@@ -27,16 +24,11 @@ class LinuxNamedPipes final : public NamedPipes {
   int OpenForReading(const std::string& path, Milliseconds limit) override;
   std::ptrdiff_t Write(int descriptor, std::string_view text, Milliseconds limit) override;
   std::ptrdiff_t Read(int descriptor, std::span<char> buffer, Milliseconds limit) override;
-  void BeginExchanges() override;
-  void EndExchanges() override;
   int Close(int descriptor) override;
   void Unlink(const std::string& path) override;
 
  private:
   PipeFolder mFolder;
-  /// Where the thread may run when it does not stay on one processor; empty when it need not go
-  /// back.
-  std::optional<cpu_set_t> mProcessors;
 };
 
 }  // namespace lurkwell

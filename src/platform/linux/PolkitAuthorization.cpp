@@ -1,6 +1,5 @@
 #include "platform/linux/PolkitAuthorization.h"
 
-#include <poll.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
@@ -8,7 +7,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
@@ -25,7 +23,6 @@ namespace {
 using std::chrono::steady_clock;
 
 constexpr auto kLongestStep = std::chrono::minutes(5);
-constexpr auto kLongestWaitForChild = std::chrono::seconds(2);
 constexpr char kHelper[] = "/Contents/Resources/Lurkwell_helper";
 constexpr char kPermissionStep[] = "/Contents/Resources/Lurkwell_permissions";
 // What pkexec itself ends with.
@@ -70,23 +67,11 @@ std::string WhatForbidsRights(const std::string& folder) {
   return names;
 }
 
-/// Whether the child ended before the deadline; it is not collected. Without a handle, which costs
-/// a descriptor, it is looked at from time to time.
-bool WaitForEnd(pid_t child, const FileDescriptor& handle, steady_clock::time_point deadline) {
-  constexpr std::chrono::milliseconds kLook{50};
-  for (;;) {
-    siginfo_t end{};
-    if (::waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOHANG | WNOWAIT) != 0 ||
-        end.si_pid != 0) {
-      return true;
-    }
-    auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - steady_clock::now());
-    if (left.count() <= 0) return false;
-    if (!handle.IsOpen()) left = std::min(left, kLook);
-    pollfd wait{handle.Get(), POLLIN, 0};
-    // Only signals that are to end the program have handlers.
-    if (::poll(&wait, 1, static_cast<int>(left.count())) < 0 && errno == EINTR) return false;
-  }
+std::string WhatStatusMeans(int status) {
+  if (!IsRoot() && status == kDismissed) return "the question was dismissed";
+  if (!IsRoot() && status == kNotAuthorized)
+    return "the authorisation was refused, or there is no agent to ask for it";
+  return "the permission step ended with status " + std::to_string(status);
 }
 
 /// A working folder, fresh signals, and no descriptors but the standard three.
@@ -123,6 +108,8 @@ PolkitAuthorization::PolkitAuthorization(const Bundle& bundle, Consent consent, 
     : mBundle(bundle), mConsent(consent), mPkexec(std::move(pkexec)) {}
 
 PolkitAuthorization::~PolkitAuthorization() {
+  // A question must not outlive the program that asks it.
+  if (IsAsking()) SendThroughHandle(mChildren.back().handle, SIGKILL);
   ReapEnded();
 }
 
@@ -130,8 +117,10 @@ std::unique_ptr<AuthorizationReference> PolkitAuthorization::Create() {
   return std::make_unique<Reference>();
 }
 
-bool PolkitAuthorization::Fail(std::string reason) {
+bool PolkitAuthorization::Fail(Remedy remedy, std::string reason) {
+  mRemedy = remedy;
   mReason = std::move(reason);
+  mStepState = Step::kFailed;
   return false;
 }
 
@@ -147,7 +136,13 @@ bool PolkitAuthorization::ExecuteWithPrivileges(AuthorizationReference&, const s
   if (!IsRoot()) all = {mPkexec, "--disable-internal-agent", "--keep-cwd"};
   all.push_back(program);
   all.insert(all.end(), arguments.begin(), arguments.end());
-  return Start(folder, all) && (!isStep || FinishStep());
+  if (!Start(folder, all)) return false;
+  if (isStep) {
+    mStepState = Step::kRunning;
+    mStep = mChildren.back().pid;
+    mStepEnd = steady_clock::now() + kLongestStep;
+  }
+  return true;
 }
 
 /// Nobody is asked for a password that would be of no use.
@@ -155,12 +150,18 @@ bool PolkitAuthorization::MayStart(const std::string& program, const std::string
                                    bool isStep) {
   const std::string forbidden = isStep ? WhatForbidsRights(folder) : std::string();
   if (!forbidden.empty())
-    return Fail("the file system of " + folder + " gives programs no rights (" + forbidden + ")");
+    return Fail(Remedy::kMachine,
+                "the file system of " + folder + " gives programs no rights (" + forbidden + ")");
   if (IsRoot()) return true;
-  if (mConsent == Consent::kOnlyIfGiven) return Fail("it does not ask for a password here");
+  if (mConsent == Consent::kOnlyIfGiven)
+    return Fail(Remedy::kNone, "nobody is asked for a password in a terminal");
   if (!BelongsToRoot(program))
-    return Fail(program + " can be changed by others than root; an installed package has one");
-  if (::access(mPkexec.c_str(), X_OK) != 0) return Fail("there is no " + mPkexec);
+    return Fail(Remedy::kNone,
+                "an administrator is only asked for an installed Lurkwell; others than root can "
+                "change " +
+                    program);
+  if (::access(mPkexec.c_str(), X_OK) != 0)
+    return Fail(Remedy::kMachine, "there is no " + mPkexec + " to ask an administrator with");
   return true;
 }
 
@@ -172,33 +173,35 @@ bool PolkitAuthorization::Start(const std::string& folder,
   const int error = ::posix_spawn(&child.pid, vector.front(), &settings.actions,
                                   &settings.attributes, vector.data(), FixedEnvironment());
   if (error != 0)
-    return Fail("cannot start " + arguments.front() + ": " + std::string(std::strerror(error)));
+    return Fail(Remedy::kMachine,
+                "cannot start " + arguments.front() + ": " + std::string(std::strerror(error)));
   child.handle = OpenProcessHandle(child.pid);
   mChildren.push_back(std::move(child));
   return true;
 }
 
-bool PolkitAuthorization::FinishStep() {
-  const Child& child = mChildren.back();
-  if (!WaitForEnd(child.pid, child.handle, steady_clock::now() + kLongestStep)) {
+Authorization::Step PolkitAuthorization::StepState() {
+  if (mStepState != Step::kRunning) return mStepState;
+  siginfo_t end{};
+  const bool isKnown =
+      ::waitid(P_PID, static_cast<id_t>(mStep), &end, WEXITED | WNOHANG | WNOWAIT) == 0;
+  if (isKnown && end.si_pid == 0) {
+    if (steady_clock::now() < mStepEnd) return Step::kRunning;
     // A step that root runs cannot be ended from here; it goes on by itself.
-    SendThroughHandle(child.handle, SIGKILL);
-    return Fail("the permission step took too long, or the program is to end");
+    SendThroughHandle(mChildren.back().handle, SIGKILL);
+    Fail(Remedy::kAskAgain, "the permission step took too long");
+    return mStepState;
   }
-  int status = 0;
-  const bool isKnown = ::waitpid(child.pid, &status, 0) == child.pid;
-  mEnded.push_back(child.pid);
-  mChildren.pop_back();
+  ReapEnded();
+  mStepState = Step::kDone;
   // Where the program was started with SIGCHLD ignored, nobody learns how a child ended. Whether
   // the helper has its rights now is looked at in any case.
-  if (!isKnown) return true;
-  if (!WIFEXITED(status)) return Fail("the permission step was killed");
-  const int exitStatus = WEXITSTATUS(status);
-  if (exitStatus == 0) return true;
-  if (!IsRoot() && exitStatus == kDismissed) return Fail("the question was dismissed");
-  if (!IsRoot() && exitStatus == kNotAuthorized)
-    return Fail("the authorisation was refused, or there is no agent to ask for it");
-  return Fail("the permission step ended with status " + std::to_string(exitStatus));
+  if (!isKnown) return mStepState;
+  if (end.si_code != CLD_EXITED)
+    Fail(Remedy::kAskAgain, "the permission step was killed");
+  else if (end.si_status != 0)
+    Fail(Remedy::kAskAgain, WhatStatusMeans(end.si_status));
+  return mStepState;
 }
 
 bool PolkitAuthorization::IsAsking() {
@@ -211,12 +214,8 @@ bool PolkitAuthorization::IsAsking() {
   return name.empty() || mPkexec.substr(mPkexec.rfind('/') + 1).starts_with(name);
 }
 
-int PolkitAuthorization::WaitForChild() {
-  if (mEnded.empty() && !mChildren.empty()) {
-    const Child& child = mChildren.front();
-    WaitForEnd(child.pid, child.handle, steady_clock::now() + kLongestWaitForChild);
-    ReapEnded();
-  }
+int PolkitAuthorization::CollectChild() {
+  ReapEnded();
   if (mEnded.empty()) return -1;
   const pid_t pid = mEnded.back();
   mEnded.pop_back();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -33,10 +34,11 @@ class PolkitAuthorization final : public Authorization {
   /// The step is given five minutes, the question included.
   bool ExecuteWithPrivileges(AuthorizationReference& reference, const std::string& path,
                              const std::vector<std::string>& arguments) override;
+  Step StepState() override;
   std::string FailureReason() const override { return mReason; }
+  Remedy FailureRemedy() const override { return mRemedy; }
   bool IsAsking() override;
-  /// Waits two seconds at most.
-  int WaitForChild() override;
+  int CollectChild() override;
 
  private:
   struct Child {
@@ -44,16 +46,19 @@ class PolkitAuthorization final : public Authorization {
     FileDescriptor handle;
   };
 
-  bool Fail(std::string reason);
+  bool Fail(Remedy remedy, std::string reason);
   bool MayStart(const std::string& program, const std::string& folder, bool isStep);
   bool Start(const std::string& folder, const std::vector<std::string>& arguments);
-  bool FinishStep();
   void ReapEnded();
 
   const Bundle& mBundle;
   Consent mConsent;
   std::string mPkexec;
   std::string mReason;
+  Remedy mRemedy = Remedy::kNone;
+  Step mStepState = Step::kFailed;
+  pid_t mStep = -1;
+  std::chrono::steady_clock::time_point mStepEnd;
   std::vector<Child> mChildren;
   /// Children that ended and have not been told of yet.
   std::vector<pid_t> mEnded;

@@ -28,6 +28,15 @@ class SimulatedAlerts final : public Alerts {
     return alternateButton.empty() ? AlertButton::kDefault : AlertButton::kAlternate;
   }
 
+  /// Answered at once, as RunAlertPanel is.
+  std::unique_ptr<Alert> Ask(const AlertText& text,
+                             std::function<void(AlertAnswer)> answered) override {
+    const auto button = RunAlertPanel(text.title, text.message, text.defaultButton,
+                                      text.alternateButton, text.otherButton);
+    answered(static_cast<AlertAnswer>(button));
+    return nullptr;
+  }
+
   void WillAnswer(std::deque<AlertButton> answers) { mAnswers = std::move(answers); }
 
  private:

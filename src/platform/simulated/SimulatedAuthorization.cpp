@@ -28,9 +28,9 @@ bool SimulatedAuthorization::ExecuteWithPrivileges(AuthorizationReference&, cons
   return executed;
 }
 
-int SimulatedAuthorization::WaitForChild() {
+int SimulatedAuthorization::CollectChild() {
   constexpr int kChildPid = 4000;
-  mLog.Add("Authorization.WaitForChild");
+  mLog.Add("Authorization.CollectChild");
   if (mChildren == 0) return -1;
   --mChildren;
   return kChildPid;

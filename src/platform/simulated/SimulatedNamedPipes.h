@@ -38,8 +38,6 @@ class SimulatedNamedPipes final : public NamedPipes {
   int OpenForReading(const std::string& path, Milliseconds limit) override;
   std::ptrdiff_t Write(int descriptor, std::string_view text, Milliseconds limit) override;
   std::ptrdiff_t Read(int descriptor, std::span<char> buffer, Milliseconds limit) override;
-  void BeginExchanges() override {}
-  void EndExchanges() override {}
   int Close(int descriptor) override;
   void Unlink(const std::string& path) override;
 

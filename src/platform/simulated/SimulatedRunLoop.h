@@ -20,6 +20,7 @@ class SimulatedRunLoop final : public RunLoop {
   /// Runs until Stop, or until no timer is left.
   void Run() override;
   void Stop() override { mStopped = true; }
+  bool IsStopped() const { return mStopped; }
 
   /// Serves what is due within the next milliseconds and leaves the clock at their end.
   void RunFor(std::int64_t milliseconds);
