@@ -22,8 +22,8 @@
 namespace lurkwell {
 namespace {
 
-constexpr auto kMoment = std::chrono::milliseconds(300);
-constexpr int kMostHangingReaders = 4;
+constexpr auto kDescriptionPatience = std::chrono::milliseconds(300);
+constexpr int kMostHangingDescribers = 4;
 constexpr std::size_t kLongestCommandLine = 4096;
 /// Field 9 of the stat file.
 constexpr std::uint64_t kIsKernelThread = 0x0020'0000;
@@ -137,7 +137,7 @@ std::vector<ProcessDescription> ProcessDescriber::Describe(std::span<const std::
   job->files = mFiles;
   for (const auto pid : pids)
     if (auto reading = ReadWhatIsQuick(*mFiles, pid)) job->readings.push_back(std::move(*reading));
-  if (gReaders < kMostHangingReaders) {
+  if (gReaders < kMostHangingDescribers) {
     ++gReaders;
     auto reader = StartWithoutSignals([job] {
       job->Run();
@@ -150,7 +150,7 @@ std::vector<ProcessDescription> ProcessDescriber::Describe(std::span<const std::
       job->isDone = true;
     }
     std::unique_lock lock(job->mutex);
-    job->news.wait_for(lock, kMoment, [&] { return job->isDone; });
+    job->news.wait_for(lock, kDescriptionPatience, [&] { return job->isDone; });
   }
   const std::lock_guard lock(job->mutex);
   std::vector<ProcessDescription> descriptions;
