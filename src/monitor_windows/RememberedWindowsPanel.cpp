@@ -17,7 +17,7 @@
 namespace lurkwell {
 namespace {
 
-enum Column { kProgram, kWindow, kFollows, kColumns };
+enum Column { kProgram, kWindow, kFollows, kColumnCount };
 constexpr int kUuidRole = Qt::UserRole;
 constexpr int kArrayRole = Qt::UserRole + 1;
 constexpr int kRefreshMilliseconds = 1000;
