@@ -253,7 +253,7 @@ OSStatus CPUHistoryWindowInformationClient::NotifyDrawContent() {
 
 bool CPUHistoryWindowInformationClient::AdjustMinimumAndMaximumWindowSizes(Point& min, Point& max) {
   const auto side = [](int points) { return static_cast<std::int16_t>(points); };
-  min = {side(kSmallestSize.height()), side(kSmallestSize.width())};
+  min = {side(kSmallestHistory.height()), side(kSmallestHistory.width())};
   max = {side(kLargestSide), side(kLargestSide)};
   return true;
 }
