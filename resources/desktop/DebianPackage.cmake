@@ -8,7 +8,12 @@ endif()
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME lurkwell)
 set(CPACK_PACKAGE_VENDOR "The Lurkwell developers")
-set(CPACK_PACKAGE_CONTACT "The Lurkwell developers <lurkwell@velquarin.com>")
+# Whoever builds is the one to ask; without a word from him an address that can be nobody's.
+set(LURKWELL_BUILDER "The Lurkwell developers <lurkwell@lurkwell.invalid>")
+if(DEFINED ENV{DEBEMAIL} AND DEFINED ENV{DEBFULLNAME})
+  set(LURKWELL_BUILDER "$ENV{DEBFULLNAME} <$ENV{DEBEMAIL}>")
+endif()
+set(CPACK_PACKAGE_CONTACT "${LURKWELL_BUILDER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "interactive process monitor with an animated view")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Lurkwell shows every process of the machine in several views at once: a table

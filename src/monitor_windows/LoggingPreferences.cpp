@@ -17,7 +17,7 @@ struct ColumnKeys {
   const char* width;
 };
 
-constexpr ColumnKeys kColumns[kLoggingColumns] = {
+constexpr ColumnKeys kLogColumns[kLoggingColumns] = {
     {"timestampColID", &LoggingSwitches::includeTimeStamp, "LOG_WINDOW_INCLUDE_TIMESTAMP", 1,
      "INCLUDE_TIMESTAMP", "LOG_TIMESTAMP_COL_WIDTH"},
     {"activeColID", &LoggingSwitches::logActiveTime, "LOG_WINDOW_ACTIVE_TIME_BOOL", 1,
@@ -48,7 +48,7 @@ bool ReadSwitch(std::int32_t prefsIndex, const char* own, const char* general,
 
 LoggingSwitches ReadLoggingSwitches(std::int32_t prefsIndex) {
   LoggingSwitches switches;
-  for (const auto& column : kColumns)
+  for (const auto& column : kLogColumns)
     switches.*column.isShown =
         ReadSwitch(prefsIndex, column.own, column.general, column.generalDefault);
   return switches;
@@ -64,7 +64,7 @@ std::int32_t ReadLoggingInterval(std::int32_t prefsIndex, std::int32_t fallback)
 
 std::optional<int> ReadColumnWidth(std::int32_t prefsIndex, LoggingColumn column) {
   constexpr double kNarrowest = 10, kWidest = 4000;
-  const char* key = kColumns[column].width;
+  const char* key = kLogColumns[column].width;
   if (!IsPrefArrayValuePresent(kLoggingWindowKind, prefsIndex, key)) return std::nullopt;
   const double width = GetPrefArrayDouble(kLoggingWindowKind, prefsIndex, key, false, 0);
   if (!(width > 0)) return std::nullopt;
@@ -74,18 +74,19 @@ std::optional<int> ReadColumnWidth(std::int32_t prefsIndex, LoggingColumn column
 void SaveLoggingSettings(std::int32_t prefsIndex, const LoggingSwitches& switches, bool logToFile,
                          std::int32_t interval, std::span<const LoggingColumnWidth> widths) {
   RememberedChanges changes(kLoggingWindowKind, prefsIndex);
-  for (const auto& column : kColumns) changes.SetInt(column.own, switches.*column.isShown ? 1 : 0);
+  for (const auto& column : kLogColumns)
+    changes.SetInt(column.own, switches.*column.isShown ? 1 : 0);
   changes.SetInt(kLogToFileKey, logToFile ? 1 : 0);
   changes.SetInt(kIntervalKey, interval);
-  for (const auto& [column, width] : widths) changes.SetDouble(kColumns[column].width, width);
+  for (const auto& [column, width] : widths) changes.SetDouble(kLogColumns[column].width, width);
 }
 
 bool IsShown(const LoggingSwitches& switches, LoggingColumn column) {
-  return switches.*kColumns[column].isShown;
+  return switches.*kLogColumns[column].isShown;
 }
 
 const char* LoggingColumnIdentifier(LoggingColumn column) {
-  return kColumns[column].identifier;
+  return kLogColumns[column].identifier;
 }
 
 }  // namespace lurkwell
