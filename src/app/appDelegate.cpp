@@ -11,6 +11,7 @@
 #include "app/SplashScreen.h"
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/FrontmostWindow.h"
+#include "main_window/WayBack.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "monitor_windows/ClassicWatchdog.h"
 #include "monitor_windows/FloatingWindow.h"
@@ -60,6 +61,7 @@ vqAppDelegate::vqAppDelegate(Launch launch)
                          &CPUHistoryProcessHasEnded, &RememberCPUHistoryPlaces}) {}
 
 vqAppDelegate::~vqAppDelegate() {
+  SetWayBack(nullptr);
   fQuintessentialWindows.reset();
   fMainWindow.reset();
   if (gAppDelegate == this) gAppDelegate = nullptr;
@@ -71,6 +73,7 @@ void vqAppDelegate::init() {
   qApp->installEventFilter(this);
   fMainWindow = std::make_unique<MainWindow>(*this);
   fMainWindow->controller().setMonitorWindows(&mFollowingWindows);
+  SetWayBack([this] { doShowMainWindow(); });
   fQuintessentialWindows = std::make_unique<QuintessentialWindows>(ViewCommands{
       [this] { doShowQuintessentialView(); }, [this] { doToggleQuintessentialViewFullScreen(); },
       [this] { doShowMainWindow(); }, [this] { doQuit(); },
@@ -138,6 +141,7 @@ void QubsDebuggingCleanup() {
 
 void vqAppDelegate::applicationWillTerminate() {
   if (!std::exchange(mIsRunning, false)) return;
+  SetWayBack(nullptr);
   mFirstLook.reset();
   vqPreferencesUI::closeIfOpen();
   if (mLaunch == Launch::kUsual) KeepArrangement();

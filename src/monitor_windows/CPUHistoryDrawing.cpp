@@ -5,6 +5,7 @@
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PropertyValues.h"
 #include "main_window/PropertyText.h"
+#include "main_window/WayBack.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
@@ -79,6 +80,8 @@ void CPUHistoryWindowInformationClient::FillMenu(QMenu& menu) const {
   addSwitch("history_menu_descendants", CPUHistorySwitch::kTrackDescendants,
             mGraph.TracksDescendants());
   menu.addSeparator();
+  auto* processes = menu.addAction(LocalizedString("quintessential_menu_processes"));
+  QObject::connect(processes, &QAction::triggered, processes, &GoBackToMainWindow);
   auto* close = menu.addAction(LocalizedString("history_menu_close"));
   QObject::connect(close, &QAction::triggered, Window(), &QWidget::close, Qt::QueuedConnection);
 }

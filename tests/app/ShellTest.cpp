@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QTest>
 #include <algorithm>
 #include <memory>
@@ -11,6 +13,7 @@
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
 #include "consolidator/PI_Consolidator.h"
+#include "monitor_windows/FloatingWindow.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
@@ -182,6 +185,19 @@ TEST_F(ShellTest, AWindowClosedByHandStaysClosedUnlessNothingElseWouldBeSeen) {
   Pass(2000);
   delegate->monitorWindows().CreateCPUHistoryWindow(250, 300, nullptr, nullptr);
   Pass(500);
+  delegate->mainWindow().close();
+  Pass(10);
+  EXPECT_FALSE(MainWindowIsVisible());
+  // The graph's own menu leads back.
+  for (auto* graph : QApplication::topLevelWidgets()) {
+    if (qobject_cast<FloatingWindow*>(graph) == nullptr) continue;
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5}, graph->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(graph, &asked);
+    for (auto* action : graph->findChildren<QAction*>())
+      if (action->text() == LocalizedString("quintessential_menu_processes")) action->trigger();
+    for (auto* menu : graph->findChildren<QMenu*>()) menu->close();
+  }
+  EXPECT_TRUE(MainWindowIsVisible());
   delegate->mainWindow().close();
   Pass(10);
   EXPECT_FALSE(MainWindowIsVisible());

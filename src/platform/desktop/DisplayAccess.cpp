@@ -24,7 +24,7 @@ QtMessageHandler gOtherHandler = nullptr;
 /// Said before it is known whether they matter.
 std::vector<std::pair<QtMsgType, QString>> gHeldBack;
 
-std::string Variable(const char* name) {
+std::string EnvironmentText(const char* name) {
   const char* value = std::getenv(name);
   return value != nullptr ? value : "";
 }
@@ -45,14 +45,14 @@ bool AnswersAt(const std::string& path) {
 
 bool IsCompositorReachable() {
   // One that was handed over already has no address.
-  if (!Variable("WAYLAND_SOCKET").empty()) return true;
-  const auto name = Variable("WAYLAND_DISPLAY");
+  if (!EnvironmentText("WAYLAND_SOCKET").empty()) return true;
+  const auto name = EnvironmentText("WAYLAND_DISPLAY");
   if (name.empty()) return false;
-  return AnswersAt(name.front() == '/' ? name : Variable("XDG_RUNTIME_DIR") + '/' + name);
+  return AnswersAt(name.front() == '/' ? name : EnvironmentText("XDG_RUNTIME_DIR") + '/' + name);
 }
 
 bool IsXServerReachable() {
-  if (Variable("DISPLAY").empty()) return false;
+  if (EnvironmentText("DISPLAY").empty()) return false;
   auto* connection = ::xcb_connect(nullptr, nullptr);
   const bool reachable = ::xcb_connection_has_error(connection) == 0;
   ::xcb_disconnect(connection);
@@ -71,9 +71,9 @@ void StartAgainOnFailure(QtMsgType type, const QMessageLogContext& context, cons
   }
   // Pictures are drawn by this one where there is no display; there is nothing below it.
   bool hadAny = false;
-  const bool isLast = Variable("QT_QPA_PLATFORM") == "offscreen";
+  const bool isLast = EnvironmentText("QT_QPA_PLATFORM") == "offscreen";
   for (const char* name : kDisplayVariables) {
-    hadAny = hadAny || !Variable(name).empty();
+    hadAny = hadAny || !EnvironmentText(name).empty();
     ::unsetenv(name);
   }
   if (hadAny && !isLast) ::execv("/proc/self/exe", gArguments);

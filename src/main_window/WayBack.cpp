@@ -1,0 +1,20 @@
+#include "main_window/WayBack.h"
+
+#include <utility>
+
+namespace lurkwell {
+namespace {
+
+std::function<void()> gShowMainWindow;
+
+}  // namespace
+
+void SetWayBack(std::function<void()> showMainWindow) {
+  gShowMainWindow = std::move(showMainWindow);
+}
+
+void GoBackToMainWindow() {
+  if (gShowMainWindow) gShowMainWindow();
+}
+
+}  // namespace lurkwell
