@@ -2619,6 +2619,18 @@ Free: %5</translation>
         <source></source>
         <translation>Tables (*.tsv);;All files (*)</translation>
     </message>
+    <message id="logging_menu_title">
+        <source></source>
+        <translation>Log of %1, pid %2</translation>
+    </message>
+    <message id="logging_identity">
+        <source></source>
+        <translation>Owner %1: %2</translation>
+    </message>
+    <message id="remembered_owner">
+        <source></source>
+        <translation>Owner</translation>
+    </message>
     <message id="logging_copy">
         <source></source>
         <translation>&amp;Copy</translation>
@@ -2657,7 +2669,7 @@ Free: %5</translation>
     </message>
     <message id="history_accessible">
         <source></source>
-        <translation>CPU history of %1, process %2</translation>
+        <translation>CPU history of %1, process %2 of %3</translation>
     </message>
     <message id="history_now">
         <source></source>
@@ -2665,7 +2677,7 @@ Free: %5</translation>
     </message>
     <message id="history_tip">
         <source></source>
-        <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2</translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2, owner %3&lt;br&gt;%4</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

@@ -55,15 +55,19 @@ QString CPUHistoryWindowInformationClient::Title() const {
 
 void CPUHistoryWindowInformationClient::DrawIdentity(const QString& name) {
   auto& label = *mIdentityWindow;
-  const auto text = LocalizedString("history_identity").arg(mPid);
+  const auto pid = QString::number(mPid);
+  auto text = LocalizedString("history_identity").arg(pid);
+  if (!mProcess.ownerText.isEmpty()) text += QStringLiteral(" · ") + mProcess.ownerText;
   label.resize(std::min(mBounds.right - mBounds.left - 5, label.TextWidth(text) + 10),
                label.height());
   label.SetText(text, mPreferences.name);
   label.SetAlpha(AlphaWithin(mPreferences.nameAlpha));
   Window()->setAccessibleName(
-      LocalizedString("history_accessible").arg(name, QString::number(mPid)));
-  Window()->setToolTip(
-      LocalizedString("history_tip").arg(name.toHtmlEscaped(), QString::number(mPid)));
+      LocalizedString("history_accessible").arg(name, pid, mProcess.ownerText));
+  constexpr int kMostCommand = 400;
+  Window()->setToolTip(LocalizedString("history_tip")
+                           .arg(name.toHtmlEscaped(), pid, mProcess.ownerText.toHtmlEscaped(),
+                                mProcess.commandText.left(kMostCommand).toHtmlEscaped()));
 }
 
 void CPUHistoryWindowInformationClient::FillMenu(QMenu& menu) const {

@@ -234,6 +234,7 @@ void CPUHistoryWindowInformationClient::DisposeOfWindows() {
 }
 
 void CPUHistoryWindowInformationClient::MarkKind() {
+  mProcess = DescribeFollowed(mPid);
   mGraph.MarkLabelsDirty();
   ProcessSerialNumber psn;
   PID2PSN(mPid, &psn);
@@ -320,9 +321,11 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
   if (rect == nullptr && !AreaForNewWindow(size).isNull()) LocateRectangleForNewWindow(&bounds);
   auto* client = new CPUHistoryWindowInformationClient(uuid, interval, pid, bounds,
                                                        CPUHistoryTracksDescendants());
-  if (uuid == nullptr)
-    SetPersistentClientInfo(kCPUHistoryWindowKind, name, kind, &bounds, &client->Identifier());
-  RememberProcess(kCPUHistoryWindowKind, client->Identifier(), pid);
+  if (uuid == nullptr) {
+    const auto index =
+        SetPersistentClientInfo(kCPUHistoryWindowKind, name, kind, &bounds, &client->Identifier());
+    RememberProcess(kCPUHistoryWindowKind, index, pid);
+  }
   AddProcessInformationClient(client);
 }
 

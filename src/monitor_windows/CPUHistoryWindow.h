@@ -8,6 +8,7 @@
 #include "main_window/vqMainTableController.h"
 #include "monitor_windows/CPUHistoryGraph.h"
 #include "monitor_windows/CPUHistoryPreferences.h"
+#include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/ProcessInformationWindow.h"
 #include "monitor_windows/RememberedWindows.h"
 #include "monitor_windows/Satellite.h"
@@ -84,6 +85,7 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
 
   std::int32_t mPid;
   std::uint64_t mStartStamp;
+  FollowedProcess mProcess;
   WindowRect mBounds;
   WindowRect mRememberedPlace;
   bool mProcessGone = false;

@@ -51,7 +51,7 @@ std::vector<MonitorWindows::OpenWindow> FollowingWindows::OpenWindows() const {
   auto windows = mHistories.list();
   for (auto* log : LoggingWindowUI::OpenWindows()) {
     const auto place = log->frame();
-    windows.push_back({log->window()->windowTitle(),
+    windows.push_back({log->shortTitle(),
                        QRect(QPoint(place.left, place.top), log->window()->size()),
                        [window = QPointer<QWidget>(log->window())] {
                          if (window != nullptr) BringToFront(*window);

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QTextDocument>
 #include <QUiLoader>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -21,6 +22,7 @@
 #include "main_window/ControlledWindow.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
+#include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/LogFileName.h"
 #include "monitor_windows/LogSaving.h"
 #include "monitor_windows/LoggingPreferences.h"
@@ -101,7 +103,6 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   controller->mPIC = new LoggingWindowInformationClient2(theUuid, interval, *controller);
   controller->mRememberedPlace = controller->frame();
   if (theUuid == nullptr) controller->rememberAsNew(controller->mPIC->Identifier());
-  RememberProcess(kLoggingWindowKind, controller->mPIC->Identifier(), thePid);
   state.startStamp = GetPidsStartStamp(thePid);
   AddProcessInformationClient(controller->mPIC);
   window->willClose = [controller] { controller->windowWillClose(); };
@@ -216,6 +217,13 @@ void LoggingWindowUI::openLogFile(LogFiles& logFiles) {
   appendToFile(LogHeader(mStateInfo));
 }
 
+QString LoggingWindowUI::shortTitle() const {
+  char name[256] = "";
+  GetPIDPropertyValue(mStateInfo.pid, "meta_name", name, sizeof name, nullptr);
+  return LocalizedString("logging_menu_title")
+      .arg(PlainText(name), QString::number(mStateInfo.pid));
+}
+
 void LoggingWindowUI::setTitle() {
   char name[256] = "";
   GetPIDPropertyValue(mStateInfo.pid, "meta_name", name, sizeof name, nullptr);
@@ -225,6 +233,12 @@ void LoggingWindowUI::setTitle() {
     title += QLatin1Char(' ') +
              LocalizedString("logging_title_file").arg(PlainText(mStateInfo.logFileName));
   fWindow->setWindowTitle(title);
+  const auto process = DescribeFollowed(mStateInfo.pid);
+  const auto identity =
+      LocalizedString("logging_identity").arg(process.ownerText, process.commandText);
+  fIdentity->setText(identity);
+  fIdentity->setToolTip(Qt::convertFromPlainText(identity));
+  fIdentity->setVisible(!process.owner.empty());
   const bool hasFile = mStateInfo.logFile != nullptr;
   fShowFile->setEnabled(hasFile);
   fShowFile->setToolTip(hasFile ? PlainText(mStateInfo.logFileName)
@@ -274,7 +288,8 @@ void LoggingWindowUI::rememberAsNew(const Uuid& uuid) const {
   };
   if (!read("meta_name", name) || !read("meta_kind", kind)) return;
   const auto place = frame();
-  SetPersistentClientInfo(kLoggingWindowKind, name, kind, &place, &uuid);
+  const auto index = SetPersistentClientInfo(kLoggingWindowKind, name, kind, &place, &uuid);
+  RememberProcess(kLoggingWindowKind, index, mStateInfo.pid);
 }
 
 // ---- Logging ------------------------------------------------------------------------------------
@@ -366,7 +381,6 @@ void LoggingWindowUI::follow(LogFiles& logFiles, std::int32_t pid) {
   const auto interval = static_cast<std::int32_t>(mStateInfo.millisecondsInterval);
   delete std::exchange(mPIC, new LoggingWindowInformationClient2(&uuid, interval, *this));
   AddProcessInformationClient(mPIC);
-  RememberProcess(kLoggingWindowKind, uuid, pid);
   fNote->clear();
   say(LocalizedString("logging_note_follows").arg(before).arg(pid));
   LoggedRow mark;

@@ -110,6 +110,8 @@ class LoggingWindowUI final : public vqTableController {
   QString note() const { return fNote != nullptr ? fNote->text() : QString(); }
   /// Where the window is.
   WindowRect frame() const;
+  /// The program and its pid, without the file.
+  QString shortTitle() const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

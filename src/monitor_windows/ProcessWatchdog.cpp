@@ -9,6 +9,7 @@
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/ProcessQueries.h"
+#include "monitor_windows/FollowedProcess.h"
 #include "platform/Assertion.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/PreferencesRetrieval.h"
@@ -68,12 +69,19 @@ void ProcessWatchdog::NotifyProcessesHaveBeenUpdated() {
   std::ranges::sort(processes);
   for (const auto& [start, pid] : processes)
     if (mHistories.IsAnyOf(pid) || mLogs.IsAnyOf(pid)) OpenWindowsOf(pid, Claim::kFollowedLast);
+  if (processes.size() > 1 && (mHistories.HaveOwners() || mLogs.HaveOwners()))
+    for (const auto& [start, pid] : processes) OpenWindowsOf(pid, Claim::kSameOwner);
   for (const auto& [start, pid] : processes) OpenWindowsOf(pid, Claim::kAny);
 }
 
 bool ProcessWatchdog::IsDue(const char* arrayName, std::int32_t nextIndex, int pid, Claim claim,
                             bool isOpen) const {
-  return !isOpen && (claim == Claim::kAny || IsRememberedProcess(arrayName, nextIndex - 1, pid));
+  if (isOpen) return false;
+  if (claim == Claim::kFollowedLast) return IsRememberedProcess(arrayName, nextIndex - 1, pid);
+  if (claim == Claim::kAny) return true;
+  char owner[kRememberedTextSize];
+  ReadRememberedText(arrayName, nextIndex - 1, kRememberedOwnerKey, owner);
+  return *owner != '\0' && DescribeFollowed(pid).owner == owner;
 }
 
 void ProcessWatchdog::OpenWindowsOf(int pid, Claim claim) {
@@ -86,6 +94,7 @@ void ProcessWatchdog::OpenWindowsOf(int pid, Claim claim) {
     if (!MayOpen()) break;
     const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
     mKinds.CreateCPUHistoryWindow(interval, pid, &uuid, &rect);
+    RememberProcess(kCPUHistoryWindowKind, index - 1, pid);
   }
   index = 0;
   while (CheckClientKindForNewPid(kLoggingWindowKind, pid, &index, &rect, &uuid)) {
@@ -93,6 +102,7 @@ void ProcessWatchdog::OpenWindowsOf(int pid, Claim claim) {
     if (!MayOpen()) break;
     const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
     mKinds.CreateLoggingWindow(interval, pid, &uuid, &rect, index - 1);
+    RememberProcess(kLoggingWindowKind, index - 1, pid);
   }
 }
 

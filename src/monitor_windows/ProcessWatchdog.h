@@ -10,8 +10,8 @@
 namespace lurkwell {
 
 /// Opens remembered windows for the programs that start, each for one process at a time: the one it
-/// followed last, else the one that has run longest of those that are new at once. Main thread
-/// only; deleted, like every client, at shutdown.
+/// followed last, else one of the same owner, else any; of several that are new at once the one
+/// that has run longest. Main thread only; deleted, like every client, at shutdown.
 class ProcessWatchdog final : public ProcessInformationClient {
  public:
   /// `interval` in milliseconds; `kinds` outlives this.
@@ -32,8 +32,8 @@ class ProcessWatchdog final : public ProcessInformationClient {
 
  private:
   void Remember(int pid);
-  /// Who gets a window: first those that have had it already.
-  enum class Claim { kFollowedLast, kAny };
+  /// Who gets a window: first who has had it already, then who belongs to the same owner.
+  enum class Claim { kFollowedLast, kSameOwner, kAny };
   void OpenWindowsOf(int pid, Claim claim);
   /// Whether a record's window, of the array before `nextIndex`, is to be opened now.
   bool IsDue(const char* arrayName, std::int32_t nextIndex, int pid, Claim claim,

@@ -33,10 +33,12 @@ std::string RememberedPrograms::ProgramAt(std::int32_t index) const {
 void RememberedPrograms::Refresh() {
   mIndices.clear();
   mPids.clear();
+  mHaveOwners = false;
   mCount = GetPrefArrayCount(mArrayName);
   for (std::int32_t index = 0; index < mCount; ++index)
     if (auto program = ProgramAt(index); !program.empty()) {
       mIndices[std::move(program)].push_back(index);
+      mHaveOwners = mHaveOwners || IsPrefArrayValuePresent(mArrayName, index, kRememberedOwnerKey);
       mPids.insert(ReadRememberedInt(mArrayName, index, kRememberedPidKey, -1));
     }
 }

@@ -21,6 +21,9 @@ class RememberedPrograms {
   /// Whether a record's window followed a process of that pid last, as of the last Refresh.
   bool IsAnyOf(std::int32_t pid) const { return mPids.contains(pid); }
 
+  /// Whether any record says whose processes come first, as of the last Refresh.
+  bool HaveOwners() const { return mHaveOwners; }
+
   /// The first record at or after `startIndex` whose name and kind are these to the byte, -1 for
   /// none. As of the last Refresh, but never one that has become another.
   std::int32_t Find(const char* name, const char* kind, std::int32_t startIndex);
@@ -32,6 +35,7 @@ class RememberedPrograms {
   const char* mArrayName;
   std::int32_t mCount = -1;
   std::unordered_set<std::int32_t> mPids;
+  bool mHaveOwners = false;
   /// Indices in ascending order, by name and kind.
   std::unordered_map<std::string, std::vector<std::int32_t>> mIndices;
 };

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "consolidator/ProcessQueries.h"
+#include "monitor_windows/FollowedProcess.h"
 #include "platform/Assertion.h"
 #include "preferences/PreferenceBatch.h"
 
@@ -63,11 +64,13 @@ std::int32_t SetPersistentClientInfo(const char* clientKind, const char* process
   return index;
 }
 
-void RememberProcess(const char* arrayName, const Uuid& uuid, std::int32_t pid) {
-  const auto index = GetAppropriateIndexForUUID(arrayName, &uuid);
-  if (index >= GetPrefArrayCount(arrayName)) return;
+void RememberProcess(const char* arrayName, std::int32_t index, std::int32_t pid) {
   const auto start = StartOf(pid);
+  const bool hasOwner = IsPrefArrayValuePresent(arrayName, index, kRememberedOwnerKey);
+  const auto owner = hasOwner ? std::string() : DescribeFollowed(pid).owner;
   RememberedChanges changes(arrayName, index);
+  if (!owner.empty() && owner.size() < kRememberedTextSize)
+    changes.SetText(kRememberedOwnerKey, owner.c_str());
   changes.SetInt(kRememberedPidKey, pid);
   changes.SetText(kStartKey, start.c_str());
 }

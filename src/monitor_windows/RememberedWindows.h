@@ -18,6 +18,9 @@ inline constexpr char kLoggingWindowKind[] = "LOGGING_WINDOW";
 /// The field of the pid that a window followed last.
 inline constexpr char kRememberedPidKey[] = "PROCESS_PID";
 
+/// The field of the user whose processes come first.
+inline constexpr char kRememberedOwnerKey[] = "PROCESS_OWNER";
+
 /// The size of texts in a record, their end included.
 inline constexpr std::int32_t kRememberedTextSize = 64;
 
@@ -40,9 +43,9 @@ std::int32_t SetPersistentClientInfo(const char* clientKind, const char* process
                                      const char* processKind, const WindowRect* rect,
                                      const Uuid* uuid);
 
-/// Notes which process the window follows, if the window is remembered: the same one is its first
-/// choice when this program is started again.
-void RememberProcess(const char* arrayName, const Uuid& uuid, std::int32_t pid);
+/// Notes which process the window of an element follows: the same one is its first choice when this
+/// program is started again. The owner of the first one stays the element's.
+void RememberProcess(const char* arrayName, std::int32_t index, std::int32_t pid);
 /// Whether the element's window followed this very process last.
 bool IsRememberedProcess(const char* arrayName, std::int32_t index, std::int32_t pid);
 

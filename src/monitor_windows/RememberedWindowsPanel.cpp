@@ -17,7 +17,7 @@
 namespace lurkwell {
 namespace {
 
-enum Column { kProgram, kWindow, kFollows, kColumnCount };
+enum Column { kProgram, kOwner, kWindow, kFollows };
 constexpr int kUuidRole = Qt::UserRole;
 constexpr int kArrayRole = Qt::UserRole + 1;
 constexpr int kRefreshMilliseconds = 1000;
@@ -55,7 +55,7 @@ RememberedWindowsPanel::RememberedWindowsPanel(QWidget* parent)
   mList->setAlternatingRowColors(true);
   mList->setSelectionMode(QAbstractItemView::ExtendedSelection);
   mList->setHeaderLabels({LocalizedString("remembered_program"),
-                          LocalizedString("remembered_window"),
+                          LocalizedString("remembered_owner"), LocalizedString("remembered_window"),
                           LocalizedString("remembered_process")});
   mList->setAccessibleName(windowTitle());
   mList->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -100,6 +100,7 @@ void RememberedWindowsPanel::Fill() {
         item->setData(0, kUuidRole, key);
         item->setData(0, kArrayRole, QLatin1String(array));
         item->setText(kProgram, TextAt(array, index, "PROCESS_NAME"));
+        item->setText(kOwner, TextAt(array, index, kRememberedOwnerKey));
         item->setText(kWindow, LocalizedString(array == kLoggingWindowKind ? "remembered_log"
                                                                            : "remembered_history"));
       }

@@ -13,7 +13,7 @@ namespace {
 constexpr int kCascadeStep = 24;
 /// Between windows that are moved apart, with room for the narrow title bars of histories.
 constexpr int kGap = 20;
-constexpr int kLargestSide = 10'000;
+constexpr int kLargestApart = 10'000;
 
 int SpanWithin(std::int64_t span, int smallest, int largest) {
   return static_cast<int>(
@@ -56,7 +56,7 @@ WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others
   const std::int64_t width = std::int64_t{wanted.right} - wanted.left;
   const std::int64_t height = std::int64_t{wanted.bottom} - wanted.top;
   // Records may hold any number; those that make no window are made to fit elsewhere.
-  if (width <= 0 || height <= 0 || width > kLargestSide || height > kLargestSide) return wanted;
+  if (width <= 0 || height <= 0 || width > kLargestApart || height > kLargestApart) return wanted;
   const QRect frame(wanted.left, wanted.top, static_cast<int>(width), static_cast<int>(height));
   const auto area = [](const QRect& rect) {
     return rect.isEmpty() ? 0 : std::int64_t{rect.width()} * rect.height();

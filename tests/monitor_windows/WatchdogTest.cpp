@@ -93,15 +93,23 @@ TEST_F(WatchdogTest, APidThatTheProgramGetsAgainAtOnceIsFollowed) {
 }
 
 TEST_F(WatchdogTest, TheProcessThatWasFollowedLastComesFirst) {
-  const auto uuid = Uuid::Fresh();
   for (int pid = 300; pid < 310; ++pid) machine.processTable.Birth(pid, "shell");
   Start();
   Add("keeper", 100).Needs({"meta_name", "meta_kind"});
   Turn(200);
-  Remember(kLoggingWindowKind, "shell", uuid, {10, 50, 410, 300});
-  RememberProcess(kLoggingWindowKind, uuid, 305);
+  Remember(kLoggingWindowKind, "shell", Uuid::Fresh(), {10, 50, 410, 300});
+  machine.processTable.Find(305)->owner = "somebody";
+  RememberProcess(kLoggingWindowKind, 0, 305);
   StartWatchdog();
   EXPECT_EQ(Logs(), "305 at 10\n");
+  Close(*Windows().front());
+  Remember(kLoggingWindowKind, "shell", Uuid::Fresh(), {10, 50, 410, 300});
+  RememberProcess(kLoggingWindowKind, 0, 305);
+  machine.processTable.Death(305);
+  for (int pid = 310; pid < 315; ++pid) machine.processTable.Birth(pid, "shell");
+  machine.processTable.Find(313)->owner = "somebody";
+  Turn(3000);
+  EXPECT_EQ(Logs(), "313 at 10\n") << "then those of the same owner";
 }
 
 TEST_F(WatchdogTest, EveryRecordOfAProgramOpensItsWindow) {

@@ -1,0 +1,18 @@
+#include "monitor_windows/FollowedProcess.h"
+
+#include <span>
+
+#include "main_window/PropertyText.h"
+#include "platform/Machine.h"
+#include "platform/ProcessTable.h"
+
+namespace lurkwell {
+
+FollowedProcess DescribeFollowed(std::int32_t pid) {
+  const auto described = TheMachine().processTable.Describe(std::span(&pid, 1));
+  if (described.empty()) return {};
+  const auto& process = described.front();
+  return {process.owner, PlainText(process.owner), PlainText(process.commandLine)};
+}
+
+}  // namespace lurkwell
