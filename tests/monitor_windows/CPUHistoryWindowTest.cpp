@@ -200,6 +200,34 @@ TEST_F(CPUHistoryWindowTest, TheEndOfTheProcessKeepsTheRecordAndClosingForgetsIt
   EXPECT_STREQ(name, "worker");
 }
 
+TEST_F(CPUHistoryWindowTest, AWindowSaysWhoseProcessItFollowsAndCanBeResized) {
+  auto& worker = machine.processTable.Birth(300, "worker");
+  worker.owner = "ann";
+  worker.commandLine = "worker --fast <b>";
+  SetPrefDouble("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA", 0.8);
+  Start();
+  auto* client = Open(300);
+  worker.UseCPU(200);
+  Turn();
+  EXPECT_EQ(client->IdentityWindow()->Text(), QStringLiteral("pid 300 · ann"));
+  EXPECT_EQ(client->Window()->accessibleName(),
+            QLatin1String("CPU history of worker, process 300 of ann"));
+  EXPECT_EQ(client->Window()->accessibleDescription(),
+            QLatin1String("10 % now; the upper edge is 10 %"));
+  EXPECT_TRUE(client->Window()->toolTip().contains(QLatin1String("worker --fast &lt;b&gt;")));
+  EXPECT_NEAR(client->NameWindow()->Alpha() * client->Window()->windowOpacity(), 0.6, 0.01)
+      << "its own opacity, not a part of the window's";
+  const auto values = client->Graph().Values();
+  client->Window()->resize(client->Window()->width() + 50, 120);
+  EXPECT_EQ(client->Graph().Bitmap().Width(), 200);
+  EXPECT_EQ(client->Graph().Bitmap().Height(), 120);
+  auto resized = client->Graph().Values();
+  ASSERT_EQ(resized.size(), 200U);
+  resized.erase(resized.begin(), resized.begin() + 50);
+  EXPECT_EQ(resized, values) << "the newest stay at the right edge";
+  EXPECT_EQ(client->IconWindow()->geometry(), QRect(4, 76, 40, 40));
+}
+
 TEST_F(CPUHistoryWindowTest, ADamagedRecordStillGivesAWindowOnTheScreen) {
   machine.processTable.Birth(300, "worker");
   Start();
