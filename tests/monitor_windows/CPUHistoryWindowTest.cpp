@@ -200,6 +200,25 @@ TEST_F(CPUHistoryWindowTest, TheEndOfTheProcessKeepsTheRecordAndClosingForgetsIt
   EXPECT_STREQ(name, "worker");
 }
 
+TEST_F(CPUHistoryWindowTest, ABeatWithoutAReadingIsNoDipAndNoSpike) {
+  SetPrefDouble("CPU_HISTORY_WINDOW_DEFAULT_FILTER", 0.0);
+  auto& worker = machine.processTable.Birth(300, "worker");
+  Start();
+  auto* client = Open(300);
+  worker.UseCPU(200);
+  Turn();
+  const auto before = client->Graph().Values();
+  EXPECT_DOUBLE_EQ(before.back(), 0.2);
+  helper->SetAnswer([](std::string_view) { return ""; });
+  worker.UseCPU(200);
+  Turn();
+  EXPECT_EQ(client->Graph().Values(), before);
+  helper->SetAnswer([this](std::string_view request) { return machine.helper.Answer(request); });
+  worker.UseCPU(200);
+  Turn();
+  EXPECT_DOUBLE_EQ(client->Graph().Values().back(), 0.2) << "over both beats";
+}
+
 TEST_F(CPUHistoryWindowTest, AWindowSaysWhoseProcessItFollowsAndCanBeResized) {
   auto& worker = machine.processTable.Birth(300, "worker");
   worker.owner = "ann";
