@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <string>
 
 #include "consolidator/PI_Consolidator.h"
@@ -72,13 +73,14 @@ constexpr Members kMembers[] = {
      "pid_messages_received pid_syscalls_mach EIP ESP ZONE"},
 };
 
-bool IsAmong(std::string_view names, std::string_view name) {
-  while (!names.empty()) {
-    const auto blank = std::min(names.find(' '), names.size());
-    if (names.substr(0, blank) == name) return true;
-    names.remove_prefix(std::min(blank + 1, names.size()));
+/// Where the name stands among the names; nothing when it does not.
+std::optional<std::size_t> RankOf(std::string_view name, std::string_view names) {
+  for (std::size_t at = 0; at < names.size();) {
+    const auto blank = std::min(names.find(' ', at), names.size());
+    if (names.substr(at, blank - at) == name) return at;
+    at = blank + 1;
   }
-  return false;
+  return std::nullopt;
 }
 
 std::size_t GroupOfOthers(std::string_view key) {
@@ -101,10 +103,10 @@ std::span<const ColumnGroup> ColumnGroups() {
   return kGroups;
 }
 
-std::size_t GroupOfColumn(std::string_view key) {
-  const auto* found = std::ranges::find_if(
-      kMembers, [key](const Members& members) { return IsAmong(members.names, key); });
-  return found != std::end(kMembers) ? found->group : GroupOfOthers(key);
+ColumnPlace PlaceOfColumn(std::string_view key) {
+  for (const auto& [group, names] : kMembers)
+    if (const auto rank = RankOf(key, names)) return {group, *rank};
+  return {GroupOfOthers(key), std::string_view::npos};
 }
 
 QStringList KeywordsOfColumn(const char* key) {

@@ -2,6 +2,8 @@
 
 #include <QString>
 #include <QStringList>
+#include <compare>
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -17,9 +19,19 @@ struct ColumnGroup {
 /// In the order in which they are offered: what is of no use on this system stands last.
 std::span<const ColumnGroup> ColumnGroups();
 
-/// The index in ColumnGroups of the group of a built-in property or ps column. One that is named in
-/// none goes where its type or its source belongs.
-std::size_t GroupOfColumn(std::string_view key);
+/// Where a column is offered.
+struct ColumnPlace {
+  /// Index in ColumnGroups.
+  std::size_t group;
+  /// Among those of the group, the most useful first.
+  std::size_t rank;
+
+  auto operator<=>(const ColumnPlace&) const = default;
+};
+
+/// The place of a built-in property or ps column. One that has none goes, behind all others, into
+/// the group of its source or its type.
+ColumnPlace PlaceOfColumn(std::string_view key);
 
 /// What the column is called; a column of ps that is not known here, by its header.
 QString ColumnTitle(const char* key);

@@ -1,5 +1,9 @@
 #include "main_window/ColumnMenus.h"
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/ColumnGroups.h"
 #include "main_window/ControllerAssertion.h"
@@ -26,7 +30,7 @@ KeyId KeyOf(const QAction& item) {
 ColumnMenus::ColumnMenus(vqMainTableController& controller) : mController(controller) {}
 
 QAction* ColumnMenus::AddItem(FilterMenu& menu, const char* key) {
-  const auto group = GroupOfColumn(key);
+  const auto group = PlaceOfColumn(key).group;
   const auto words =
       QString::fromUtf8(key) + QLatin1Char(' ') + KeywordsOfColumn(key).join(QLatin1Char(' '));
   auto* item = menu.AddItem(group, LocalizedString(ColumnGroups()[group].id),
@@ -62,16 +66,28 @@ void ColumnMenus::Build() {
 }
 
 void ColumnMenus::AddItems() {
+  struct Column {
+    std::string key;
+    bool isBuiltIn;
+  };
+  std::vector<Column> columns;
   char header[64];
   while (mHeadersSeen < CountProcPropertyHeaders()) {
-    const bool builtIn = mHeadersSeen < CountBuiltInProcPropertyHeaders();
+    const bool isBuiltIn = mHeadersSeen < CountBuiltInProcPropertyHeaders();
     if (!GetNthProcPropertyHeader(mHeadersSeen++, header, sizeof header)) continue;
     // Pids have a column of their own, which ps's would only repeat.
-    if (KeyText(kMetaPid) == header || std::string_view(header) == "PID") continue;
-    auto* item = AddItem(builtIn ? mBuiltInMenu : mPSAvailableMenu, header);
-    connect(item, &QAction::triggered, this, [this, item, builtIn] {
-      builtIn ? processBuiltInMenuItem(item) : processPSAvailableMenuItem(item);
-    });
+    if (KeyText(kMetaPid) != header && std::string_view(header) != "PID")
+      columns.push_back({header, isBuiltIn});
+  }
+  std::ranges::stable_sort(columns, {},
+                           [](const Column& column) { return PlaceOfColumn(column.key); });
+  for (const auto& [key, isBuiltIn] : columns) {
+    auto* item = AddItem(isBuiltIn ? mBuiltInMenu : mPSAvailableMenu, key.c_str());
+    if (isBuiltIn) {
+      connect(item, &QAction::triggered, this, [this, item] { processBuiltInMenuItem(item); });
+    } else {
+      connect(item, &QAction::triggered, this, [this, item] { processPSAvailableMenuItem(item); });
+    }
   }
 }
 

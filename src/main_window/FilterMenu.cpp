@@ -55,6 +55,7 @@ QMenu* FilterMenu::GroupMenu(std::size_t number, const QString& title) {
   if (place != mGroups.end() && place->number == number) return place->menu;
   auto* menu = new QMenu(title, this);
   menu->setToolTipsVisible(true);
+  menu->installEventFilter(this);
   insertMenu(place != mGroups.end() ? place->menu->menuAction() : mRemark, menu);
   mGroups.insert(place, {number, menu});
   return menu;
@@ -117,6 +118,17 @@ void FilterMenu::keyPressEvent(QKeyEvent* event) {
   // The field is no item to be chosen.
   if (isChoice && activeAction() == mFieldAction) return;
   QMenu::keyPressEvent(event);
+}
+
+/// What is typed while a group is open is for the field, too.
+bool FilterMenu::eventFilter(QObject* watched, QEvent* event) {
+  auto* menu = qobject_cast<QMenu*>(watched);
+  if (menu == nullptr || event->type() != QEvent::KeyPress ||
+      !IsTyped(*static_cast<QKeyEvent*>(event), mField->text().isEmpty()))
+    return QMenu::eventFilter(watched, event);
+  menu->hide();
+  QCoreApplication::sendEvent(mField, event);
+  return true;
 }
 
 void FilterMenu::showEvent(QShowEvent* event) {

@@ -2,6 +2,7 @@
 #include <numeric>
 #include <set>
 
+#include "consolidator/PSValues.h"
 #include "consolidator/PrintfOutputClient.h"
 #include "process_control/ProcessActions.h"
 #include "support/ConsolidatorTest.h"
@@ -347,6 +348,25 @@ TEST_F(PSFeederTest, ColumnsUnderNamesThatNobodyKnowsOrThatAreTakenAreLeftOut) {
   machine.runLoop.RunFor(2000);
   EXPECT_EQ(Value(60, "TT"), "()");
   EXPECT_EQ(Value(60, "pid_p_nice"), "0");
+}
+
+TEST(PSValues, WhatDoesNotReadAsAValueIsATextAsItIs) {
+  const auto read = [](PropertyType type, const char* text) {
+    const auto value = ReadPSValue({type, true, 1024}, text);
+    if (const auto* time = std::get_if<TimeValue>(&value)) return std::to_string(time->seconds);
+    if (const auto* number = std::get_if<std::int64_t>(&value)) return std::to_string(*number);
+    return '"' + std::get<std::string>(value) + '"';
+  };
+  EXPECT_EQ(read(kPropertyTypeMemory, "3\n"), "3072");
+  EXPECT_EQ(read(kPropertyTypeMemory, "9007199254740993"), "\"9007199254740993\"");
+  EXPECT_EQ(read(kPropertyTypeInteger, "-20"), "-20");
+  EXPECT_EQ(read(kPropertyTypeInteger, "0000000000004003"), "\"0000000000004003\"");
+  EXPECT_EQ(read(kPropertyTypeClock, "1-02:03:04\n"), "93784");
+  EXPECT_EQ(read(kPropertyTypeClock, "100:01"), "6001");
+  for (const char* text : {"", "-", "1-2", "1:2:3:4", "12", "-1:00", "9999999999:00"})
+    EXPECT_EQ(read(kPropertyTypeClock, text), '"' + std::string(text) + '"');
+  for (const char* text : {"", "Nov22", "Sun Nov 22 05:06:29", "Sun Nob 22 05:06:29 2026"})
+    EXPECT_EQ(read(kPropertyTypeDate, text), '"' + std::string(text) + '"');
 }
 
 TEST_F(PSFeederTest, AMachineWithoutPsHasNoColumns) {

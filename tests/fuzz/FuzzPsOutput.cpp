@@ -21,6 +21,7 @@ class NeedsAll : public ProcessInformationClient {
         char value[256];
         GetNthPSHeader(i, header, sizeof header, nullptr);
         GetPIDPropertyValue(pid, header, value, sizeof value, nullptr);
+        GetPIDPropertyTypedValue(pid, header);
       }
   }
 
@@ -38,6 +39,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const MachineInstallation installation(machine.services);
   // The first byte tells which of the three outputs is hostile.
   const int which = size == 0 ? 0 : data[0] % 3;
+  // And what its values are taken for.
+  const int kind = size == 0 ? 0 : data[0] / 3 % 6;
+  machine.tools.SetColumn("TT", {static_cast<ToolColumn::Kind>(kind), 4096});
   machine.tools.SetOutput("/bin/ps -Lww", which == 0 ? text : "tt pid\n");
   machine.tools.SetOutput("/bin/ps 0 -o tt", which == 1 ? text : "TT\n");
   machine.tools.SetOutput("/bin/ps 0 -o pid", "PID\n");

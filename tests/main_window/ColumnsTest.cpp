@@ -271,6 +271,12 @@ TEST_F(ColumnsTest, ColumnsAreFoundByGroupAndByWhatIsTyped) {
   EXPECT_EQ(Offered(ps), "Process and Command|Memory|Other") << "what was typed is gone";
   QTest::keyClicks(&ps, "xyzzy");
   EXPECT_TRUE(Offered(ps).starts_with("No column")) << Offered(ps);
+  // Typed while a group is open, too.
+  QTest::keyClick(&ps, Qt::Key_Escape);
+  auto* group = ps.actions().at(1)->menu();
+  group->popup({0, 0});
+  QTest::keyClick(group, 'e');
+  EXPECT_TRUE(Offered(ps).find("EXE") != std::string::npos && !group->isVisible()) << Offered(ps);
   QTest::keyClick(&ps, Qt::Key_Escape);
   EXPECT_TRUE(ps.isVisible());
   QTest::keyClick(&ps, Qt::Key_Escape);
