@@ -291,9 +291,8 @@ void MainMenus::BuildHeaderMenu() {
 }
 
 QMenu& MainMenus::HeaderMenu(int column) {
-  const auto& keys = mController.keysWeTrackForUI();
-  const bool isColumn = column >= 0 && column < static_cast<int>(keys.size());
-  const KeyId key = isColumn ? keys[static_cast<std::size_t>(column)] : kNoKey;
+  const KeyId key = mController.keyOfColumn(column);
+  const bool isColumn = key != kNoKey;
   auto title = isColumn ? ColumnTitle(KeyText(key).data()) : QString();
   mHideColumn->setVisible(isColumn);
   mHideColumn->setText(

@@ -131,6 +131,11 @@ class vqMainTableController final : public vqTableController, private ProcessRow
 
   const std::vector<KeyId>& keysWeTrackForUI() const { return fKeysWeTrackForUI; }
   bool isTracked(std::string_view key) const { return fTracked.contains(key); }
+  /// Of the model's column, wherever it stands on the screen; kNoKey when there is none.
+  KeyId keyOfColumn(int column) const {
+    return column >= 0 && column < columnCount() ? fColumns[static_cast<std::size_t>(column)].key
+                                                 : kNoKey;
+  }
   void clearColumns();
   void rebuildColumns();
   void addColumnToMainTable(KeyId key);
