@@ -3559,6 +3559,10 @@ Free: %5</translation>
         <source></source>
         <translation>Start without an administrator's rights where the helper has none, and do not ask for them. Set by "Continue Without".</translation>
     </message>
+    <message id="setting_FIGURES_FROM_HELPER">
+        <source></source>
+        <translation>Ask the helper for figures of processes, as on machines where only it may read them. Off, the program reads them itself, which costs much less.</translation>
+    </message>
     <message id="setting_PREFERENCES_UI_DEFAULT_TAB">
         <source></source>
         <translation>Page of the preferences window that was shown last, counted from 0.</translation>

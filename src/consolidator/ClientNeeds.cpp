@@ -87,11 +87,15 @@ NeedLevel ProcessInformationClient::NeedAnyProcPropertyForPid(int pid, const Tim
 
 NeedLevel ProcessInformationClient::NeedAnyPidForProcProperty(const char* property,
                                                               const TimeValue* now) {
+  return NeedAnyPidForProcProperty(property, DueClients(now));
+}
+
+NeedLevel ProcessInformationClient::NeedAnyPidForProcProperty(const char* property,
+                                                              const Clients& clients) {
   NeedLevel level = kNeedNoPids;
   AskAlongDerivations(property, "uh-oh. Unhandled meta type!", [&](const char* name) {
-    for (const auto& node : zm_ListOfProcessInformationClients) {
-      if (!UseNode(node, now)) continue;
-      level = AggregateNeedLevels(level, node.client->NeedPidsForProcProperty(name));
+    for (auto* client : clients) {
+      level = AggregateNeedLevels(level, client->NeedPidsForProcProperty(name));
       if (level == kNeedAllPids) return true;
     }
     return false;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "consolidator/PidReport.h"
+#include "consolidator/PropertyCatalogue.h"
 #include "consolidator/TextScan.h"
 #include "process_control/DaemonCommunication.h"
 
@@ -31,17 +32,6 @@ void AppendToQuery(std::string_view text) {
   gQueryBuf[gQueryLength] = '\0';
 }
 
-unsigned GroupOf(const CatalogueRow& row) {
-  if (row.name == "pid_user_time" || row.name == "pid_system_time") return kThreadTime;
-  if (std::holds_alternative<std::int64_t PidBlock::*>(row.field) &&
-      row.type == kPropertyTypeInteger)
-    return kEventsInfo;
-  if (row.type == kPropertyTypeMemory || row.type == kPropertyTypeTime ||
-      row.name == "pid_suspend_count" || row.name == "pid_policy")
-    return kBasicInfo;
-  return 0;
-}
-
 /// What the pass before left: where to begin, and the process whose answer was not waited for.
 std::size_t gStart = 0;
 std::int32_t gLatePid = kInvalidPID;
@@ -50,7 +40,7 @@ unsigned gLateGroups = 0;
 void MarkUnknown(std::int32_t pid, unsigned groups) {
   PidReport report(pid);
   for (const auto& row : BuiltInProperties())
-    if ((GroupOf(row) & groups) != 0) report.NoValue(row, Missing::kNotYetKnown);
+    if ((row.group & groups) != 0) report.NoValue(row, Missing::kNotYetKnown);
 }
 
 }  // namespace
@@ -147,7 +137,7 @@ void HelperQueries::ReportLine(std::string_view line) {
   if (row == nullptr || !pid || !std::in_range<std::int32_t>(*pid)) return;
   // A helper that has gone wrong must not write into other processes' records.
   const auto asked = std::ranges::find(mAsked, *pid, &Asked::pid);
-  const unsigned group = GroupOf(*row);
+  const unsigned group = row->group;
   if (asked == mAsked.end() || (asked->groups & group) == 0) return;
   if (asked->pid == mAsked.back().pid) mAnsweredGroups |= group;
   SkipBlanks(line);

@@ -9,13 +9,6 @@
 
 namespace lurkwell {
 
-/// What the helper can tell of a process, in groups that are asked for as a whole.
-enum FigureGroup : unsigned {
-  kThreadTime = 1,  ///< CPU time of live threads
-  kBasicInfo = 2,   ///< sizes, suspend count, CPU time of ended threads, scheduling policy
-  kEventsInfo = 4,  ///< counters of faults, messages, system calls, context switches
-};
-
 /// The requests for figures of one pass. The text of a request grows by a line per process and is
 /// sent after each; it starts over once it is longer than 512 characters, so a request repeats the
 /// lines of the processes before it. When the helper has used up the beat's time, the rest of the

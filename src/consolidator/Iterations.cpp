@@ -61,6 +61,8 @@ void MeasureEnvironment(const MetaProcessInformation& record) {
                                       TheMachine().clock.Now());
 }
 
+}  // namespace
+
 void Derive(MetaProcessInformation& record) {
   Require(record.pidInfo != nullptr, kUnit, "mpi->pidInfo");
   DeriveActiveTime(record);
@@ -71,8 +73,6 @@ void Derive(MetaProcessInformation& record) {
   // millisecond later, would find a whole interval's use in it.
   if (IsEnvironment(record) && AreTimesRead(record)) MeasureEnvironment(record);
 }
-
-}  // namespace
 
 void BeginProcessInformationIteration(int kind) {
   Require(kind >= 0 && kind < kInformationKindCount, kUnit, "false");

@@ -54,6 +54,8 @@ struct PidBlock {
   /// while the kernel's table has not named it.
   std::uint64_t startStamp = 0;
   RunState runState = RunState::kSleeping;
+  /// The sources of the process table whose figures are here.
+  FigureSources reportedSources = 0;
   /// The iteration in which the CPU times came last.
   std::int32_t timesGeneration = 0;
   /// Which of the figures above are figures.

@@ -82,9 +82,7 @@ void ForgetMissingParents() {
 }
 
 void RunFeeders(TimeValue now) {
-  BeginProcessInformationIteration(kInformationKindPID);
   PIDExtractProcessInformation(now);
-  EndProcessInformationIteration(kInformationKindPID);
   BeginProcessInformationIteration(kInformationKindPS);
   PSExtractProcessInformation(now);
   EndProcessInformationIteration(kInformationKindPS);

@@ -126,6 +126,14 @@ void PidReport::Time(const CatalogueRow& row, TimeValue value) {
     NoteKnown(row, Put(mBlock.**field, value));
 }
 
+void PidReport::Figure(const CatalogueRow& row, std::int64_t value) {
+  if (row.type == kPropertyTypeTime) {
+    Time(row, {value / 1'000'000, static_cast<std::int32_t>(value % 1'000'000)});
+  } else {
+    Integer(row, value);
+  }
+}
+
 void PidReport::State(RunState state) {
   if (Put(mBlock.runState, state)) mRecord.NoteValueChange();
 }

@@ -21,9 +21,13 @@ class PidReport {
   /// A number too large for the field is left out.
   void Integer(const CatalogueRow& row, std::int64_t value);
   void Time(const CatalogueRow& row, TimeValue value);
+  /// A figure of the process table, whose times are microseconds.
+  void Figure(const CatalogueRow& row, std::int64_t value);
   void State(RunState state);
   /// There is no value, and why. What was known before is forgotten: its text is that of 0.
   void NoValue(const CatalogueRow& row, Missing why);
+
+  PidBlock& Block() { return mBlock; }
 
  private:
   /// The row has a value now, which `changed` from the one before or did not.
@@ -41,5 +45,8 @@ bool NoteStartStamp(std::int32_t pid, std::uint64_t startStamp);
 /// The CPU times of a process have come in this iteration, be they the same as before.
 void NoteTimesRead(std::int32_t pid);
 bool AreTimesRead(const MetaProcessInformation& record);
+
+/// Makes of a kernel process's figures what is derived from them: its CPU time and its name.
+void Derive(MetaProcessInformation& record);
 
 }  // namespace lurkwell

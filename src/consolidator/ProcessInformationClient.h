@@ -54,6 +54,12 @@ class ProcessInformationClient {
   virtual NeedLevel NeedPidsForProcProperty(const char* property);
   virtual bool NeedPidProcProperty(int pid, const char* property) = 0;
 
+  /// Whether its turn needs to hear at once of every process that has ended. False for who follows
+  /// some processes by their figures, or only those that are born: he hears of others' ends later.
+  virtual bool NeedsEnds() { return true; }
+  /// Whether it matters when a process that is there changes its name.
+  virtual bool NeedsRenamings() { return true; }
+
   /// The client's turn is over: all properties are as fresh as they get.
   virtual void NotifyProcessesHaveBeenUpdated() = 0;
   /// At shutdown, over and over until no client does anything more; true when it did something.
@@ -106,6 +112,7 @@ class ProcessInformationClient {
   /// The same from these clients alone, none of which may end meanwhile.
   using Clients = std::vector<ProcessInformationClient*>;
   static Clients DueClients(const TimeValue* now);
+  static NeedLevel NeedAnyPidForProcProperty(const char* property, const Clients& clients);
   static bool NeedAnyPidProcProperty(int pid, const char* property, const Clients& clients);
 
   // ---- Turns

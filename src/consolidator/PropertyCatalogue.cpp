@@ -22,9 +22,36 @@ constexpr CatalogueRow Other(std::string_view name, PropertyType type, bool chan
 // Buffers hold the sign and ten digits of a 32-bit number and its terminator; a few rows differ.
 constexpr std::size_t kUsualLength = 11;
 
-constexpr CatalogueRow Pid(std::string_view name, PropertyType type, bool changes, PidField field,
-                           std::size_t minimumLength = kUsualLength) {
-  return {name, type, changes, field, minimumLength, nullptr, nullptr};
+/// What stands in the process table's entries themselves.
+constexpr CatalogueRow Listed(std::string_view name, PropertyType type, PidField field,
+                              std::size_t minimumLength = kUsualLength,
+                              FigureSources sources = kFromStat) {
+  return {.name = name,
+          .type = type,
+          .changes = kChanges,
+          .field = field,
+          .minimumLength = minimumLength,
+          .render = nullptr,
+          .read = nullptr,
+          .sources = sources};
+}
+
+/// What only some helpers count, and nobody here.
+constexpr CatalogueRow Uncounted(std::string_view name, PropertyType type, PidField field,
+                                 FigureGroup group, std::size_t minimumLength = kUsualLength) {
+  auto row = Listed(name, type, field, minimumLength, 0);
+  row.group = group;
+  return row;
+}
+
+/// A figure of the table or of the helper.
+constexpr CatalogueRow Counted(std::string_view name, PropertyType type, PidField field,
+                               Figure figure, FigureGroup group,
+                               std::size_t minimumLength = kUsualLength) {
+  auto row = Uncounted(name, type, field, group, minimumLength);
+  row.figure = figure;
+  row.sources = SourcesOf(figure);
+  return row;
 }
 
 constexpr std::array kRows = {
@@ -48,28 +75,39 @@ constexpr std::array kRows = {
           ReadClassicActiveTime),
     Other("classicpsn_free_mem", kPropertyTypeInteger, kChanges, RenderClassicFreeMemory,
           ReadClassicFreeMemory),
-    Pid("pid_p_comm", kPropertyTypeString, kChanges, &PidBlock::commandName),
-    Pid("pid_p_priority", kPropertyTypeInteger, kChanges, &PidBlock::priority, 6),
-    Pid("pid_parent_pid", kPropertyTypeInteger, kStays, &PidBlock::parentPid, 6),
-    Pid("pid_p_nice", kPropertyTypeInteger, kChanges, &PidBlock::nice),
-    Pid("pid_p_starttime", kPropertyTypeDate, kChanges, &PidBlock::startTime),
-    Pid("pid_user_time", kPropertyTypeTime, kChanges, &PidBlock::userTime, 14),
-    Pid("pid_system_time", kPropertyTypeTime, kChanges, &PidBlock::systemTime),
-    Pid("pid_vsz", kPropertyTypeMemory, kChanges, &PidBlock::virtualSize),
-    Pid("pid_rsz", kPropertyTypeMemory, kChanges, &PidBlock::residentSize),
-    Pid("pid_suspend_count", kPropertyTypeInteger, kChanges, &PidBlock::suspendCount),
-    Pid("pid_terminated_user_time", kPropertyTypeTime, kChanges, &PidBlock::terminatedUserTime, 14),
-    Pid("pid_terminated_system_time", kPropertyTypeTime, kChanges, &PidBlock::terminatedSystemTime,
-        14),
-    Pid("pid_policy", kPropertyTypeInteger, kChanges, &PidBlock::policy),
-    Pid("pid_faults", kPropertyTypeInteger, kChanges, &PidBlock::faults),
-    Pid("pid_pageins", kPropertyTypeInteger, kChanges, &PidBlock::pageins),
-    Pid("pid_cow_faults", kPropertyTypeInteger, kChanges, &PidBlock::copyOnWriteFaults),
-    Pid("pid_messages_sent", kPropertyTypeInteger, kChanges, &PidBlock::messagesSent),
-    Pid("pid_messages_received", kPropertyTypeInteger, kChanges, &PidBlock::messagesReceived),
-    Pid("pid_syscalls_mach", kPropertyTypeInteger, kChanges, &PidBlock::machSystemCalls),
-    Pid("pid_syscalls_unix", kPropertyTypeInteger, kChanges, &PidBlock::unixSystemCalls),
-    Pid("pid_csw", kPropertyTypeInteger, kChanges, &PidBlock::contextSwitches),
+    Listed("pid_p_comm", kPropertyTypeString, &PidBlock::commandName),
+    Listed("pid_p_priority", kPropertyTypeInteger, &PidBlock::priority, 6,
+           kFromStat | kFromScheduler),
+    Listed("pid_parent_pid", kPropertyTypeInteger, &PidBlock::parentPid, 6),
+    Listed("pid_p_nice", kPropertyTypeInteger, &PidBlock::nice, kUsualLength,
+           kFromStat | kFromScheduler),
+    Listed("pid_p_starttime", kPropertyTypeDate, &PidBlock::startTime),
+    Counted("pid_user_time", kPropertyTypeTime, &PidBlock::userTime, Figure::kUserTime, kThreadTime,
+            14),
+    Counted("pid_system_time", kPropertyTypeTime, &PidBlock::systemTime, Figure::kSystemTime,
+            kThreadTime),
+    Counted("pid_vsz", kPropertyTypeMemory, &PidBlock::virtualSize, Figure::kVirtualSize,
+            kBasicInfo),
+    Counted("pid_rsz", kPropertyTypeMemory, &PidBlock::residentSize, Figure::kResidentSize,
+            kBasicInfo),
+    Counted("pid_suspend_count", kPropertyTypeInteger, &PidBlock::suspendCount,
+            Figure::kSuspendCount, kBasicInfo),
+    Uncounted("pid_terminated_user_time", kPropertyTypeTime, &PidBlock::terminatedUserTime,
+              kBasicInfo, 14),
+    Uncounted("pid_terminated_system_time", kPropertyTypeTime, &PidBlock::terminatedSystemTime,
+              kBasicInfo, 14),
+    Counted("pid_policy", kPropertyTypeInteger, &PidBlock::policy, Figure::kPolicy, kBasicInfo),
+    Counted("pid_faults", kPropertyTypeInteger, &PidBlock::faults, Figure::kFaults, kEventsInfo),
+    Counted("pid_pageins", kPropertyTypeInteger, &PidBlock::pageins, Figure::kPageins, kEventsInfo),
+    Uncounted("pid_cow_faults", kPropertyTypeInteger, &PidBlock::copyOnWriteFaults, kEventsInfo),
+    Uncounted("pid_messages_sent", kPropertyTypeInteger, &PidBlock::messagesSent, kEventsInfo),
+    Uncounted("pid_messages_received", kPropertyTypeInteger, &PidBlock::messagesReceived,
+              kEventsInfo),
+    Uncounted("pid_syscalls_mach", kPropertyTypeInteger, &PidBlock::machSystemCalls, kEventsInfo),
+    Counted("pid_syscalls_unix", kPropertyTypeInteger, &PidBlock::unixSystemCalls, Figure::kCalls,
+            kEventsInfo),
+    Counted("pid_csw", kPropertyTypeInteger, &PidBlock::contextSwitches, Figure::kSwitches,
+            kEventsInfo),
 };
 static_assert(kRows.size() == 38 && kRows.size() <= ValueStates::kCapacity);
 

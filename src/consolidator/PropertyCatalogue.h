@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -8,6 +9,7 @@
 #include "consolidator/MetaProcessInformation.h"
 #include "consolidator/PropertyTypes.h"
 #include "consolidator/TypedValue.h"
+#include "platform/ProcessFigures.h"
 
 namespace lurkwell {
 
@@ -48,6 +50,14 @@ using PropertyRenderer = bool (*)(const MetaProcessInformation& record, std::spa
 /// The same as a value, of a record that has the part in which the property lies.
 using TypedPropertyReader = TypedValue (*)(const MetaProcessInformation& record);
 
+/// What the helper can tell of a process, in groups that are asked for as a whole.
+enum FigureGroup : unsigned {
+  kNoGroup = 0,
+  kThreadTime = 1,  ///< CPU time of live threads
+  kBasicInfo = 2,   ///< sizes, suspend count, CPU time of ended threads, scheduling policy
+  kEventsInfo = 4,  ///< counters of faults, messages, system calls, context switches
+};
+
 /// One built-in property: everything the program knows of it.
 struct CatalogueRow {
   std::string_view name;
@@ -57,6 +67,12 @@ struct CatalogueRow {
   std::size_t minimumLength;  ///< the smallest buffer a "pid_" value is written to, in bytes
   PropertyRenderer render;    ///< all others
   TypedPropertyReader read;   ///< of those, all that are no plain texts
+  /// What the process table says of it, if that is a figure.
+  std::optional<Figure> figure = std::nullopt;
+  /// Which of the table's sources have to be those of now for its value to be.
+  FigureSources sources = 0;
+  /// In which of the helper's groups it is, if it is in one.
+  FigureGroup group = kNoGroup;
 };
 
 std::span<const CatalogueRow> BuiltInProperties();

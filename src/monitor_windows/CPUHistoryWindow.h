@@ -35,6 +35,7 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   NeedLevel NeedProcPropertiesForPid(int pid) override;
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
+  bool NeedsEnds() override { return false; }
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "CPUHistoryWindowInformationClient"; }
 

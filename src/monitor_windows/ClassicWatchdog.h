@@ -36,6 +36,7 @@ class ClassicWatchdog final : public ProcessInformationClient {
   NeedLevel NeedProcPropertiesForPid(int pid) override;
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
+  bool NeedsEnds() override { return false; }
   const char* TypeName() const override { return "ClassicWatchdog"; }
 
  private:

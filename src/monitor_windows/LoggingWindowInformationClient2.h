@@ -21,6 +21,7 @@ class LoggingWindowInformationClient2 final : public ProcessInformationClient {
   NeedLevel NeedProcPropertiesForPid(int pid) override;
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
+  bool NeedsEnds() override { return false; }
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "LoggingWindowInformationClient2"; }
 

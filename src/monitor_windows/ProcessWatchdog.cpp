@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <set>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -51,7 +52,33 @@ bool ProcessWatchdog::NeedPidProcProperty(int pid, const char* property) {
          (ReadText(pid, "meta_kind", kind) && std::string_view(kind) == "OS X");
 }
 
+void ProcessWatchdog::NotifyPidHasBeenRemoved(int pid) {
+  mHaveProgramsChanged = true;
+  mKinds.ProcessHasEnded(pid);
+}
+
+bool ProcessWatchdog::NeedsRenamings() {
+  const auto remembered =
+      GetPrefArrayCount(kCPUHistoryWindowKind) + GetPrefArrayCount(kLoggingWindowKind);
+  if (std::exchange(mHaveProgramsChanged, false) || remembered != mRemembered)
+    mIsOneWaiting = remembered > 0 && IsOneWaiting();
+  mRemembered = remembered;
+  return mIsOneWaiting;
+}
+
+bool ProcessWatchdog::IsOneWaiting() {
+  std::set<RememberedPrograms::Program> running;
+  for (const auto pid : PidBlob()) {
+    char name[kRememberedTextSize];
+    char kind[kRememberedTextSize];
+    if (ReadText(pid, "meta_name", name) && ReadText(pid, "meta_kind", kind))
+      running.emplace(name, kind);
+  }
+  return mHistories.IsOneMissing(running) || mLogs.IsOneMissing(running);
+}
+
 void ProcessWatchdog::Remember(int pid) {
+  mHaveProgramsChanged = true;
   if (!mNewPids.Contains(pid)) mNewPids.Push(pid);
 }
 

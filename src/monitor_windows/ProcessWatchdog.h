@@ -18,10 +18,13 @@ class ProcessWatchdog final : public ProcessInformationClient {
   ProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kinds);
 
   void NotifyPidHasBeenAdded(int pid) override { Remember(pid); }
-  void NotifyPidHasBeenRemoved(int pid) override { mKinds.ProcessHasEnded(pid); }
+  void NotifyPidHasBeenRemoved(int pid) override;
   void NotifyPidHasChangedAppreciably(int pid) override { Remember(pid); }
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
+  bool NeedsEnds() override { return false; }
+  /// While a window waits for its program: a script starts it some time after its own birth.
+  bool NeedsRenamings() override;
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "ProcessWatchdog"; }
 
@@ -39,12 +42,18 @@ class ProcessWatchdog final : public ProcessInformationClient {
   bool IsDue(const char* arrayName, std::int32_t nextIndex, int pid, Claim claim,
              bool isOpen) const;
   bool MayOpen();
+  bool IsOneWaiting();
 
   MonitorWindowKinds& mKinds;
   PidStack mNewPids;
   RememberedPrograms mHistories{kCPUHistoryWindowKind};
   RememberedPrograms mLogs{kLoggingWindowKind};
   bool mHasSaidTooMany = false;
+  /// How many windows are remembered, and whether one of them waits for its program, as of when
+  /// the running programs last changed.
+  std::int32_t mRemembered = 0;
+  bool mIsOneWaiting = false;
+  bool mHaveProgramsChanged = true;
 };
 
 /// Makes the watchdog, has it served, and shows the windows that the preferences want at the start.

@@ -9,7 +9,7 @@
 namespace lurkwell {
 namespace {
 
-std::string Program(const char* name, const char* kind) {
+std::string KeyOf(const char* name, const char* kind) {
   std::string program(name);
   program += '\0';
   return program += kind;
@@ -27,7 +27,7 @@ std::string RememberedPrograms::ProgramAt(std::int32_t index) const {
   ReadRememberedText(mArrayName, index, "PROCESS_KIND", kind);
   char uuid[kRememberedTextSize];
   ReadRememberedText(mArrayName, index, "WINDOW_UUID", uuid);
-  return Uuid::FromText(uuid) ? Program(name, kind) : std::string();
+  return Uuid::FromText(uuid) ? KeyOf(name, kind) : std::string();
 }
 
 void RememberedPrograms::Refresh() {
@@ -50,9 +50,18 @@ std::int32_t RememberedPrograms::Known(const std::string& program, std::int32_t 
   return index != at->second.end() ? *index : -1;
 }
 
+bool RememberedPrograms::IsOneMissing(const std::set<Program>& running) {
+  Refresh();
+  return std::ranges::any_of(mIndices, [&](const auto& remembered) {
+    const auto& key = remembered.first;
+    const auto end = key.find('\0');
+    return !running.contains({key.substr(0, end), key.substr(end + 1)});
+  });
+}
+
 std::int32_t RememberedPrograms::Find(const char* name, const char* kind, std::int32_t startIndex) {
   if (GetPrefArrayCount(mArrayName) != mCount) Refresh();
-  const auto program = Program(name, kind);
+  const auto program = KeyOf(name, kind);
   const auto index = Known(program, startIndex);
   if (index < 0 || ProgramAt(index) == program) return index;
   // Another instance has changed the records under us.

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace lurkwell {
@@ -23,6 +25,10 @@ class RememberedPrograms {
 
   /// Whether any record says whose processes come first, as of the last Refresh.
   bool HaveOwners() const { return mHaveOwners; }
+
+  /// Whether one of the programs is missing among those that `running` names, by name and kind.
+  using Program = std::pair<std::string, std::string>;
+  bool IsOneMissing(const std::set<Program>& running);
 
   /// The first record at or after `startIndex` whose name and kind are these to the byte, -1 for
   /// none. As of the last Refresh, but never one that has become another.

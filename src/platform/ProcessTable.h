@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
 
 #include "platform/ProcessDescription.h"
+#include "platform/ProcessFigures.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/TimeValue.h"
 
@@ -35,30 +37,40 @@ struct ProcessTableEntry {
   RunState state = RunState::kSleeping;
   /// Up to 16 characters and a NUL; any bytes but NUL.
   char commandName[17] = {};
-};
-
-/// What a process has used, as far as everybody may read it. Sizes are bytes.
-struct ProcessFigures {
-  TimeValue userTime;
-  TimeValue systemTime;
-  std::int64_t virtualSize = 0;
-  std::int64_t residentSize = 0;
-  std::int32_t suspendCount = 0;
-  std::int32_t policy = 0;
-  /// Page faults of both kinds, and those of them that waited for the disk.
-  std::int64_t faults = 0;
-  std::int64_t pageins = 0;
+  /// The sources that are as they are now; of those that were not asked for, some may be older.
+  FigureSources current = 0;
+  /// Those that the last call has read, and those that have been read at all.
+  FigureSources read = 0;
+  FigureSources known = 0;
 };
 
 /// The kernel's list of processes. Main thread only.
 class ProcessTable {
  public:
+  /// Which sources must be those of now for the process that has this pid.
+  using Wanted = std::function<FigureSources(std::int32_t pid)>;
+
   virtual ~ProcessTable() = default;
+
+  /// The sources that everybody may read here, at least of processes of his own. None where only
+  /// the helper tells figures.
+  virtual FigureSources OpenSources() const = 0;
 
   /// One pass over all processes that can be seen, in a stable order; the last entry is the idle
   /// task with pid 0. What vanishes during the pass is left out. The entries belong to the table
   /// and stay as they are until the next call. Empty when the table cannot be read at all.
-  virtual std::span<const ProcessTableEntry> Read() = 0;
+  virtual std::span<const ProcessTableEntry> Read(const Wanted& wanted) = 0;
+
+  /// Whether somebody may have been born since the last Read; asking costs next to nothing.
+  virtual bool MayHaveBirths() = 0;
+
+  /// The entries of the last Read, brought up to date as far as is wanted, without a look at who is
+  /// there; nothing when one of those that are wanted has ended, so that Read has to follow.
+  virtual std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted& wanted) = 0;
+
+  /// What the process of an entry of the last Read or Refresh has used, as it was last read. The
+  /// idle task's times are those of the idle machine and of its waiting for input and output.
+  virtual const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) = 0;
 
   /// The process that has `pid` now, read afresh; nothing when there is none.
   virtual std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) = 0;
@@ -66,11 +78,6 @@ class ProcessTable {
   /// The processes of several pids as they are now, in that order; those that are gone are left
   /// out. Waits half a second at most, and leaves out what could not be read until then.
   virtual std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) = 0;
-
-  /// What the process of an entry of the last Read has used up to now, for whoever has no helper to
-  /// ask. The idle task's times are those of the idle machine and of its waiting for input and
-  /// output. Nothing when the process has ended or the machine does not tell.
-  virtual std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) = 0;
 
   /// The highest pid that the machine can hand out.
   virtual std::int32_t MaximumPid() const = 0;

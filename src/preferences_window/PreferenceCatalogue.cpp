@@ -60,6 +60,7 @@ constexpr PreferenceEntry kCatalogue[] = {
     Number("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", 0, 0, 2, kAtOnce, kAll),
     Switch("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", false, kNextStart),
     Switch("GENERAL_CONTINUE_WITHOUT_RIGHTS", false, kNextStart),
+    Switch("FIGURES_FROM_HELPER", false, kAtOnce),
     Record("PREFERENCES_UI_DEFAULT_TAB", 0, kNewWindows),
     Switch("ABOUT_PANEL_AT_EVERY_START", false, kNextStart),
     Record("ABOUT_PANEL_SEEN_VERSION", kNone),

@@ -140,6 +140,7 @@ class ProcessActionHelper final : public ProcessInformationClient {
   NeedLevel NeedProcPropertiesForPid(int) override { return kNeedNoProcProperties; }
   NeedLevel NeedPidsForProcProperty(const char*) override { return kNeedNoPids; }
   bool NeedPidProcProperty(int, const char*) override { return false; }
+  bool NeedsEnds() override { return false; }
   const char* TypeName() const override { return "ProcessActionHelper"; }
 
   int Number() const { return mNumber; }

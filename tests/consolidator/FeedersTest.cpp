@@ -4,6 +4,7 @@
 
 #include "consolidator/PSValues.h"
 #include "consolidator/PrintfOutputClient.h"
+#include "preferences/PreferencesRetrieval.h"
 #include "process_control/ProcessActions.h"
 #include "support/ConsolidatorTest.h"
 
@@ -97,7 +98,7 @@ TEST_F(FeedersTest, AnswersThatWereNotAskedForChangeNothing) {
   EXPECT_EQ(Value(40, "pid_vsz"), "1");
 }
 
-TEST_F(FeedersTest, WhatTheHelperDoesNotTellIsWhatEverybodyMayRead) {
+TEST_F(FeedersTest, TheHelperIsAskedWhereTheMachineTellsNothingOrThePreferenceSaysSo) {
   auto& process = machine.processTable.Birth(45, "busy");
   process.virtualSize = 0x20000005;
   process.residentSize = 4096;
@@ -116,14 +117,24 @@ TEST_F(FeedersTest, WhatTheHelperDoesNotTellIsWhatEverybodyMayRead) {
   process.UseCPU(1500);
   EXPECT_EQ(figures(), "1.500000 5 4096 0 3 10 11 17 ");
   process.UseCPU(1000);
-  helper->SetAnswer([](std::string_view) { return "pid_rsz 45 17\npid_user_time 0 1.0\n"; });
+  int asked = 0;
+  helper->SetAnswer([&](std::string_view) {
+    ++asked;
+    return "pid_rsz 45 17\npid_user_time 0 1.0\n";
+  });
   EXPECT_EQ(figures(), "old: 0.000000 5 17 0 3 0 0 0 ");
   machine.processTable.TellFigures(true);
   ++process.events[1];
   ++process.events[7];
-  EXPECT_EQ(figures(), "2.500000 5 17 0 3 10 12 0 ") << "the helper's where it has them";
+  asked = 0;
+  EXPECT_EQ(figures(), "2.500000 5 4096 0 3 10 12 18 ");
+  EXPECT_EQ(asked, 0);
+  SetPrefInt("FIGURES_FROM_HELPER", 1);
+  process.UseCPU(1000);
+  EXPECT_EQ(figures(), "3.500000 5 17 0 3 10 12 18 ") << "the helper's where it has them";
+  EXPECT_GT(asked, 0);
   QuitHelperDaemon();
-  EXPECT_EQ(figures(), "2.500000 5 4096 0 3 10 12 0 ");
+  EXPECT_EQ(figures(), "3.500000 5 4096 0 3 10 12 18 ");
   machine.processTable.TellFigures(false);
   EXPECT_EQ(figures(), "old: 0.000000 0 0 0 0 0 0 0 ");
 }

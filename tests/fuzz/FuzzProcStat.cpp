@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "platform/ProcessFigures.h"
 #include "platform/StatText.h"
 #include "platform/linux/ProcStat.h"
 
@@ -13,8 +14,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(reinterpret_cast<const char*>(data), size);
   const auto stat = ParseProcStat(text);
   static_cast<void>(ParseIdleTicks(text));
+  for (const auto& origin : kFigureOrigins) static_cast<void>(ParseNamedField(text, origin.name));
   if (!stat) return 0;
-  static_cast<void>(ParseProcUsage(*stat));
+  static_cast<void>(ParseProcStatFields(*stat));
   if (stat->pid < 1 || stat->parentPid < 0) std::abort();
   if (text.find('(' + std::string(stat->name) + ')') == std::string::npos) std::abort();
   const std::string anew = StatText{stat->pid,      stat->name, stat->state,     stat->parentPid,

@@ -36,6 +36,8 @@ class ScriptedProc final : public ProcFiles {
   std::function<int(std::int32_t pid)> beforeAccess = [](std::int32_t) { return 0; };
 
   bool listingFails = false;
+  std::optional<std::int32_t> lastPid;
+  std::int64_t milliseconds = 0;
 
   ScriptedProc() : ProcFiles("/nowhere"), mSpare(::open("/dev/null", O_RDONLY | O_CLOEXEC)) {}
 
@@ -57,21 +59,24 @@ class ScriptedProc final : public ProcFiles {
 
   bool FollowsProcesses() const override { return true; }
   bool NeverBlocks() const override { return true; }
-  bool List(std::vector<std::int32_t>& pids) override {
-    pids.clear();
+  bool List(std::vector<ListedProcess>& processes) override {
+    processes.clear();
     if (listingFails) {
       errno = ENOMEM;
       return false;
     }
-    for (const auto& [pid, stamp] : mByPid) pids.push_back(pid);
+    for (const auto& [pid, stamp] : mByPid) processes.push_back({pid, stamp});
     return true;
   }
-  std::optional<RunMark> Mark(std::int32_t pid) override {
+  std::optional<std::int32_t> LastPid() override { return lastPid; }
+  std::optional<std::uint64_t> RunTime(std::int32_t pid) override {
     const int error = beforeAccess(pid);
     const auto found = mByPid.find(pid);
     if (error != 0 || found == mByPid.end()) return std::nullopt;
-    return RunMark{.runTime = found->second};
+    return found->second;
   }
+  std::optional<Scheduling> SchedulingOf(std::int32_t) override { return Scheduling{}; }
+  std::int64_t Milliseconds() const override { return milliseconds; }
   FileDescriptor OpenStat(std::int32_t pid) override { return Open(pid); }
   FileDescriptor OpenFolder(std::int32_t pid) override { return Open(pid); }
   std::ptrdiff_t Read(int file, std::span<char> buffer) override {

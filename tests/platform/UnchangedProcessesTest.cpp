@@ -20,10 +20,27 @@
 namespace lurkwell {
 namespace {
 
-/// Counts how often the stat file of each process is read.
+/// What was asked of the kernel, and what time it is.
+struct Counts {
+  std::map<std::int32_t, int> reads;
+  int listings = 0;
+  int clocks = 0;
+  std::int64_t milliseconds = 0;
+};
+
 class CountingFiles final : public ProcFiles {
  public:
-  explicit CountingFiles(std::map<std::int32_t, int>& reads) : ProcFiles("/proc"), mReads(reads) {}
+  explicit CountingFiles(Counts& counts) : ProcFiles("/proc"), mCounts(counts) {}
+
+  bool List(std::vector<ListedProcess>& processes) override {
+    ++mCounts.listings;
+    return ProcFiles::List(processes);
+  }
+  std::optional<std::uint64_t> RunTime(std::int32_t pid) override {
+    ++mCounts.clocks;
+    return ProcFiles::RunTime(pid);
+  }
+  std::int64_t Milliseconds() const override { return mCounts.milliseconds; }
 
   FileDescriptor OpenStat(std::int32_t pid) override {
     FileDescriptor file = ProcFiles::OpenStat(pid);
@@ -31,12 +48,12 @@ class CountingFiles final : public ProcFiles {
     return file;
   }
   std::ptrdiff_t Read(int file, std::span<char> buffer) override {
-    ++mReads[mPids[file]];
+    ++mCounts.reads[mPids[file]];
     return ProcFiles::Read(file, buffer);
   }
 
  private:
-  std::map<std::int32_t, int>& mReads;
+  Counts& mCounts;
   std::map<int, std::int32_t> mPids;
 };
 
@@ -88,7 +105,7 @@ class UnchangedProcesses : public ::testing::Test {
  protected:
   UnchangedProcesses() {
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
-    mTable = std::make_unique<LinuxProcessTable>(std::make_unique<CountingFiles>(mReads));
+    mTable = std::make_unique<LinuxProcessTable>(std::make_unique<CountingFiles>(mCounts));
   }
   ~UnchangedProcesses() override {
     for (const pid_t pid : mPids) ::kill(pid, SIGKILL);
@@ -140,7 +157,7 @@ class UnchangedProcesses : public ::testing::Test {
     if (::waitpid(pid, &status, WNOHANG) == pid && !WIFSTOPPED(status)) std::erase(mPids, pid);
   }
 
-  std::map<std::int32_t, int> mReads;
+  Counts mCounts;
   std::unique_ptr<LinuxProcessTable> mTable;
   std::vector<pid_t> mPids;
 
@@ -161,20 +178,77 @@ class UnchangedProcesses : public ::testing::Test {
   }
 };
 
+/// A turn in the time that a reading is kept, spread over its passes; who runs is read each time.
 TEST_F(UnchangedProcesses, AreReadInTurnsAndTheOthersInEveryPass) {
-  constexpr int kTurns = 3;
-  for (int i = 0; i < 10; ++i) StartPair();
+  constexpr int kPasses = 10, kTurns = 3;
+  for (int i = 0; i < 20; ++i) StartPair();
   Settle(mPids);
-  for (int pass = 0; pass < LinuxProcessTable::kReadEvery; ++pass) mTable->Read();
-  mReads.clear();
-  for (int pass = 0; pass < kTurns * LinuxProcessTable::kReadEvery; ++pass) {
+  const auto wanted = [](std::int32_t) { return kFromStat; };
+  const auto pass = [&] {
+    mCounts.milliseconds += ProcessReader::kLongestKept / kPasses;
+    mTable->Read(wanted);
+  };
+  for (int i = 0; i <= kPasses; ++i) pass();
+  mCounts.reads.clear();
+  int most = 0;
+  for (int i = 0; i < kTurns * kPasses; ++i) {
     ::kill(mPids[0], SIGWINCH);
     Settle({mPids[0]});
-    mTable->Read();
+    const auto before = mCounts.reads;
+    pass();
+    int read = 0;
+    for (const pid_t pid : mPids)
+      read += mCounts.reads[pid] - (before.contains(pid) ? before.at(pid) : 0);
+    most = std::max(most, read);
   }
-  EXPECT_EQ(mReads[mPids[0]], kTurns * LinuxProcessTable::kReadEvery);
-  EXPECT_EQ(mReads[::getpid()], kTurns * LinuxProcessTable::kReadEvery);
-  for (std::size_t i = 1; i < mPids.size(); ++i) EXPECT_EQ(mReads[mPids[i]], kTurns) << i;
+  EXPECT_EQ(mCounts.reads[mPids[0]], kTurns * kPasses);
+  EXPECT_EQ(mCounts.reads[::getpid()], kTurns * kPasses);
+  for (std::size_t i = 1; i < mPids.size(); ++i) EXPECT_EQ(mCounts.reads[mPids[i]], kTurns) << i;
+  EXPECT_LT(most, static_cast<int>(mPids.size()) / 2) << "all in one pass";
+}
+
+/// The cost of a pass is that of what is wanted.
+TEST_F(UnchangedProcesses, AreNotEvenLookedAtForWhomNobodyAsks) {
+  const pid_t followed = StartPair();
+  Settle(mPids);
+  mTable->Read();
+  mTable->Read();
+  const auto counts = [&](auto step) {
+    const int listings = mCounts.listings, clocks = mCounts.clocks, reads = mCounts.reads[followed];
+    step();
+    return std::vector<int>{mCounts.listings - listings, mCounts.clocks - clocks,
+                            mCounts.reads[followed] - reads};
+  };
+  EXPECT_EQ(counts([&] { mTable->Read([](std::int32_t) { return 0u; }); })[2], 0);
+  const auto ofOne = [&](std::int32_t pid) {
+    return pid == followed ? kFromStat : FigureSources{};
+  };
+  EXPECT_EQ(counts([&] { EXPECT_TRUE(mTable->Refresh(ofOne)); }), (std::vector{0, 1, 0}));
+  ::kill(followed, SIGWINCH);
+  Settle(mPids);
+  EXPECT_EQ(counts([&] {
+              const auto entries = mTable->Refresh(ofOne);
+              ASSERT_TRUE(entries);
+              const auto entry = std::ranges::find(*entries, followed, &ProcessTableEntry::pid);
+              EXPECT_EQ(entry->read, kFromStat);
+            }),
+            (std::vector{0, 1, 1}));
+  // Nothing is said of the dead but that the list is needed.
+  ::kill(followed, SIGKILL);
+  Collect(followed);
+  while (std::ranges::find(mPids, followed) != mPids.end()) Collect(followed);
+  EXPECT_FALSE(mTable->Refresh(ofOne));
+  const auto entries = mTable->Read(ofOne);
+  EXPECT_EQ(std::ranges::find(entries, followed, &ProcessTableEntry::pid), entries.end());
+}
+
+/// Births are seen without a listing, those of threads count, too.
+TEST_F(UnchangedProcesses, AreListedWhenSomebodyMayHaveBeenBorn) {
+  mTable->Read();
+  for (int tries = 0; tries < 1000 && mTable->MayHaveBirths(); ++tries) mTable->Read();
+  EXPECT_FALSE(mTable->MayHaveBirths()) << "the machine never rests";
+  StartPair();
+  EXPECT_TRUE(mTable->MayHaveBirths());
 }
 
 /// What others do to a process, in any order, some of it more than once or to one that has ended.
@@ -242,19 +316,21 @@ TEST_F(UnchangedProcesses, HaveTheirNewParentInThePassThatMissesTheOldOne) {
   }
 }
 
-/// Where the kernel tells nothing of how a process is scheduled, everything is read.
+/// Where the kernel tells nothing of who has run, everything is read.
 TEST_F(UnchangedProcesses, AreReadInEveryPassWherePidsMeanOthers) {
   const Child child;
   Settle({child.Pid()});
-  EXPECT_TRUE(ReadRunMark(child.Pid()));
-  EXPECT_EQ(ReadRunMark(child.Pid()), ReadRunMark(child.Pid()));
-  EXPECT_FALSE(ReadRunMark(0));
-  EXPECT_FALSE(ReadRunMark(-1));
+  EXPECT_TRUE(ReadRunTime(child.Pid()));
+  EXPECT_EQ(ReadRunTime(child.Pid()), ReadRunTime(child.Pid()));
+  EXPECT_EQ(ReadScheduling(child.Pid()), Scheduling{});
+  for (const std::int32_t none : {0, -1}) EXPECT_FALSE(ReadRunTime(none) || ReadScheduling(none));
   EXPECT_EQ(RunForked([&]() -> std::string {
               // Its children have their own pids, but see the same tree.
               if (::unshare(CLONE_NEWPID) != 0) return "no namespace";
               return RunForked([&]() -> std::string {
-                return ProcFiles("/proc").Mark(child.Pid()) ? "a mark" : "";
+                ProcFiles files("/proc");
+                if (files.LastPid()) return "a last pid";
+                return files.RunTime(child.Pid()) ? "a time" : "";
               });
             }),
             "");

@@ -1,26 +1,28 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/ProcessTable.h"
-#include "platform/linux/CommandName.h"
-#include "platform/linux/FileDescriptor.h"
-#include "platform/linux/NameReader.h"
 #include "platform/linux/ProcFiles.h"
 #include "platform/linux/ProcessDescriber.h"
+#include "platform/linux/ProcessReader.h"
 
 namespace lurkwell {
 
-struct ProcStat;
-
-/// The process table from one pass over a proc file system, in order of pid; the idle task, which
+/// The process table from passes over a proc file system, in order of pid; the idle task, which
 /// proc does not list, is made up at its end ("swapper", pid 0, started at boot).
+///
+/// A pass lists the folders, which tells who is there and who is new. It looks at what a process
+/// has used of the processors only where somebody wants what running changes, and reads files only
+/// of those that ran, that are new, or whose files were last read kLongestKept ago; those turns are
+/// spread over the passes. What changes without running is seen all the same where it matters: the
+/// children of a process that ended are read anew in the very pass that finds its end, the
+/// scheduling class and the nice value are asked for where they are wanted. The rest (pages that
+/// were taken back, a priority while a lock is held for others) is seen with the next turn.
 ///
 /// The stat files stay open from one pass to the next, because reading one again costs two thirds
 /// of opening it anew; at most half of the limit of open files is used for this, and some are given
@@ -31,94 +33,65 @@ struct ProcStat;
 ///
 /// A name of full length appears short until its last character has been read, which takes place on
 /// a thread of its own and is mostly over within the same pass.
-///
-/// A process that has not run since its file was read, as its RunMark tells, keeps its last entry,
-/// too: most of them in most passes, at a third of the price. What changes without running is seen
-/// all the same: the scheduling class and the nice value are part of the mark, and the children of
-/// a process that ended are read anew in the very pass that finds its end. What little remains (the
-/// priority while a lock is held for others) is seen within kReadEvery passes, because each entry
-/// is read anew that often, in turns.
 class LinuxProcessTable final : public ProcessTable {
  public:
   /// `root` as in ProcFiles.
   explicit LinuxProcessTable(const std::string& root = "/proc");
   explicit LinuxProcessTable(std::shared_ptr<ProcFiles> files);
 
-  /// No entry is older than this many passes.
-  static constexpr std::uint8_t kReadEvery = 8;
+  FigureSources OpenSources() const override { return kAllFigureSources; }
+  std::span<const ProcessTableEntry> Read(const Wanted& wanted) override;
+  /// With all that stands in the entries.
+  std::span<const ProcessTableEntry> Read();
+  bool MayHaveBirths() override;
+  std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted& wanted) override;
+  const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) override;
+  std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
 
-  std::span<const ProcessTableEntry> Read() override;
-
-  /// As of the last Read.
+  /// As of the last Read that found somebody new.
   std::int32_t MaximumPid() const override { return mMaximumPid; }
 
-  std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
   std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override {
     return ProcessDescriber(mFiles).Describe(pids);
   }
-  std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) override;
 
   /// How many stat files are open at present.
-  std::size_t KeptDescriptors() const { return mKept; }
+  std::size_t KeptDescriptors() const { return mReader.Kept(); }
 
  private:
-  /// What is remembered of a process beside its entry.
-  struct Known {
-    FileDescriptor stat;
-    /// From before the file was last read.
-    std::optional<RunMark> mark;
-    /// For how many more passes the entry may be kept.
-    std::uint8_t keepable = 0;
-    std::array<char, kKernelNameLength> kernelName{};
-    char following = '\0';
-    std::uint8_t namings = 0;
-  };
-  /// One pass: entries in order of pid and, at the same places, what is known beyond them.
+  /// Entries in order of pid, the idle task last, and, at the same places, what is known beyond
+  /// them.
   struct Pass {
     std::vector<ProcessTableEntry> entries;
-    std::vector<Known> known;
+    std::vector<KnownProcess> known;
   };
 
   void SetMaximumPid();
-  void SetBootTime();
-  void Drop(std::size_t before);
-  void ReadProcess(std::int32_t pid, Known* before, const ProcessTableEntry* entryBefore);
-  static bool IsUnchanged(Known& known, const std::optional<RunMark>& mark,
-                          const ProcessTableEntry& before);
-  std::optional<ProcessTableEntry> ReadEntry(std::int32_t pid, const std::optional<RunMark>& mark,
-                                             Known& known, const ProcessTableEntry* before);
+  void BeginPass();
+  bool IsListedAlready() const;
+  void TakeOverListed();
+  void Drop(const ProcessTableEntry& entry, KnownProcess& known);
+  bool LookAtAll(const Wanted& wanted);
+  void LeaveOutTheGone();
+  void FinishPass();
   void ReadOrphansAgain();
-  std::string_view BufferText(std::ptrdiff_t bytes) const;
-  std::ptrdiff_t ReadStat(std::int32_t pid, Known& known);
-  FileDescriptor OpenStat(std::int32_t pid);
   bool GiveBackDescriptors();
-  void Keep(FileDescriptor file, Known& known);
-  void Forget(Known& known);
-  ProcessTableEntry MakeEntry(const ProcStat& stat, Known& known, const ProcessTableEntry* before);
-  void Name(const ProcStat& stat, Known& known, const ProcessTableEntry* before,
-            ProcessTableEntry& entry);
   void CompleteNames();
   std::span<const ProcessTableEntry> LastPassAgain();
-  TimeValue TimeOf(std::uint64_t ticks) const;
 
   const std::shared_ptr<ProcFiles> mFiles;
-  NameReader mNames;
-  TimeValue mBootTime;
-  std::uint64_t mTicksPerSecond;
-  std::uint64_t mPageSize;
+  ProcessReader mReader;
   std::int32_t mMaximumPid = 0;
-  std::size_t mMostKept = 0;
-  std::size_t mKept = 0;
-  std::vector<std::int32_t> mPids;
+  std::vector<ListedProcess> mListed;
+  std::optional<std::int32_t> mLastPid;
   /// How many listings have failed in a row.
   int mFailures = 0;
-  /// Whose names have been asked for in this pass.
-  std::vector<std::int32_t> mUnnamed;
-  /// Pids whose children may have another parent by now.
-  std::vector<std::int32_t> mLostParents;
+  /// Somebody came or went in this pass.
+  bool mAreOthers = false;
+  /// Names are still on their way.
+  bool mIsUnfinished = false;
   Pass mPass;
   Pass mPassBefore;
-  std::array<char, 4096> mBuffer{};
 };
 
 }  // namespace lurkwell

@@ -5,6 +5,7 @@
 #include <linux/magic.h>
 #include <sys/syscall.h>
 #include <sys/vfs.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <array>
@@ -39,43 +40,74 @@ class PidPath {
   std::array<char, 32> mText;
 };
 
-void AppendPids(std::span<const char> listing, std::vector<std::int32_t>& pids) {
+void AppendProcesses(std::span<const char> listing, std::vector<ListedProcess>& processes) {
   while (listing.size() > kNameOffset) {
+    ListedProcess process;
     std::uint16_t length = 0;
+    std::memcpy(&process.folder, listing.data(), sizeof process.folder);
     std::memcpy(&length, listing.data() + kLengthOffset, sizeof length);
     if (length <= kNameOffset || length > listing.size()) return;
     const char* name = listing.data() + kNameOffset;
-    const auto pid = ParsePid({name, strnlen(name, length - kNameOffset)});
-    if (pid) pids.push_back(*pid);
+    if (*name >= '1' && *name <= '9') {
+      if (const auto pid = ParsePid({name, strnlen(name, length - kNameOffset)})) {
+        process.pid = *pid;
+        processes.push_back(process);
+      }
+    }
     listing = listing.subspan(length);
   }
+}
+
+bool IsOfKernel(const FileDescriptor& file) {
+  struct statfs system {};
+  return ::fstatfs(file.Get(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
 }
 
 }  // namespace
 
 ProcFiles::ProcFiles(const std::string& root)
     : mRoot(::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)), mListing(kListingSize) {
-  struct statfs system {};
-  mIsKernelTree = ::fstatfs(mRoot.Get(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
+  mIsKernelTree = IsOfKernel(mRoot);
   std::array<char, 16> self;
   const auto length = ::readlinkat(mRoot.Get(), "self", self.data(), self.size());
   mHasOwnPids = mIsKernelTree && length > 0 &&
                 ParsePid({self.data(), static_cast<std::size_t>(length)}) == ::getpid();
 }
 
-bool ProcFiles::List(std::vector<std::int32_t>& pids) {
-  pids.clear();
+bool ProcFiles::List(std::vector<ListedProcess>& processes) {
+  processes.clear();
   if (::lseek(mRoot.Get(), 0, SEEK_SET) < 0) return false;
   for (;;) {
     const auto bytes = ::syscall(SYS_getdents64, mRoot.Get(), mListing.data(),
                                  static_cast<unsigned>(mListing.size()));
     if (bytes <= 0) return bytes == 0;
-    AppendPids(std::span(mListing).first(static_cast<std::size_t>(bytes)), pids);
+    AppendProcesses(std::span(mListing).first(static_cast<std::size_t>(bytes)), processes);
   }
 }
 
-std::optional<RunMark> ProcFiles::Mark(std::int32_t pid) {
-  return mHasOwnPids ? ReadRunMark(pid) : std::nullopt;
+std::optional<std::int32_t> ProcFiles::LastPid() {
+  if (!mHasOwnPids) return std::nullopt;
+  // "0.00 0.01 0.05 RUNNABLE/ALL LAST\n"; something else may be mounted on it.
+  std::array<char, 128> text;
+  const FileDescriptor file(::openat(mRoot.Get(), "loadavg", O_RDONLY | O_CLOEXEC));
+  const auto bytes = IsOfKernel(file) ? ::read(file.Get(), text.data(), text.size()) : -1;
+  if (bytes <= 0 || text[static_cast<std::size_t>(bytes) - 1] != '\n') return std::nullopt;
+  const std::string_view line(text.data(), static_cast<std::size_t>(bytes) - 1);
+  return ParsePid(line.substr(line.rfind(' ') + 1));
+}
+
+std::optional<std::uint64_t> ProcFiles::RunTime(std::int32_t pid) {
+  return mHasOwnPids ? ReadRunTime(pid) : std::nullopt;
+}
+
+std::optional<Scheduling> ProcFiles::SchedulingOf(std::int32_t pid) {
+  return mHasOwnPids ? ReadScheduling(pid) : std::nullopt;
+}
+
+std::int64_t ProcFiles::Milliseconds() const {
+  timespec time{};
+  ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+  return time.tv_sec * std::int64_t{1000} + time.tv_nsec / 1'000'000;
 }
 
 FileDescriptor ProcFiles::OpenStat(std::int32_t pid) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -11,6 +12,16 @@
 #include "platform/linux/RunMark.h"
 
 namespace lurkwell {
+
+/// A process as the listing names it.
+struct ListedProcess {
+  std::int32_t pid = 0;
+  /// The number of its folder. In the kernel's tree a process that has got the pid of another has
+  /// another number, and that of the same changes at most when the kernel is short of memory.
+  std::uint64_t folder = 0;
+
+  friend auto operator<=>(const ListedProcess&, const ListedProcess&) = default;
+};
 
 /// The few ways in which the process table touches the proc file system; virtual, so that a test
 /// can make processes vanish between any two of them. Main thread only, but for OpenFolder, ReadIn
@@ -32,12 +43,21 @@ class ProcFiles {
   /// Whether no access can ever hang. What a process has mapped into its arguments can.
   virtual bool NeverBlocks() const { return false; }
 
-  /// Replaces `pids` by all that are listed, in the order of the listing. False when the root
+  /// Replaces `processes` by all that are listed, in the order of the listing. False when the root
   /// cannot be read.
-  virtual bool List(std::vector<std::int32_t>& pids);
+  virtual bool List(std::vector<ListedProcess>& processes);
 
-  /// ReadRunMark where the tree's pids are those of the calling process's namespace, else nothing.
-  virtual std::optional<RunMark> Mark(std::int32_t pid);
+  /// The pid that was handed out last, to a process or a thread: while it is the same nobody was
+  /// born. Nothing where the tree does not tell.
+  virtual std::optional<std::int32_t> LastPid();
+
+  /// ReadRunTime and ReadScheduling where the tree's pids are those of the calling process's
+  /// namespace, else nothing.
+  virtual std::optional<std::uint64_t> RunTime(std::int32_t pid);
+  virtual std::optional<Scheduling> SchedulingOf(std::int32_t pid);
+
+  /// Milliseconds from some beginning, while the machine is awake.
+  virtual std::int64_t Milliseconds() const;
 
   /// PID/stat, and the folder PID, for what follows.
   virtual FileDescriptor OpenStat(std::int32_t pid);

@@ -1,9 +1,21 @@
 #include "platform/linux/ProcStat.h"
 
+#include <algorithm>
 #include <charconv>
+#include <tuple>
+
+#include "platform/ProcessFigures.h"
 
 namespace lurkwell {
 namespace {
+
+constexpr std::size_t kLastField = [] {
+  std::size_t last = 0;
+  for (const auto& origin : kFigureOrigins)
+    last = std::max({last, origin.field, origin.otherField});
+  return last;
+}();
+static_assert(kLastField < std::tuple_size_v<ProcStatFields>);
 
 /// The fields after the name, each ended by a blank or by the end of the line.
 class Fields {
@@ -64,22 +76,36 @@ std::optional<ProcStat> ParseProcStat(std::string_view text) {
   return stat;
 }
 
-std::optional<ProcUsage> ParseProcUsage(const ProcStat& stat) {
-  // The faults (10 and 12) with those of children between them, the times (14, 15), the sizes (23,
-  // 24) and the policy (41).
-  ProcUsage usage;
+std::optional<ProcStatFields> ParseProcStatFields(const ProcStat& stat) {
+  ProcStatFields numbers{};
   Fields fields(stat.fields);
-  fields.Skip(7);
-  bool isWhole = fields.Read(usage.minorFaults);
   fields.Skip(1);
-  isWhole = isWhole && fields.Read(usage.majorFaults);
-  fields.Skip(1);
-  isWhole = isWhole && fields.Read(usage.userTicks) && fields.Read(usage.systemTicks);
-  fields.Skip(7);
-  isWhole = isWhole && fields.Read(usage.virtualSize) && fields.Read(usage.residentPages);
-  fields.Skip(16);
-  if (!isWhole || !fields.Read(usage.policy)) return std::nullopt;
-  return usage;
+  numbers[3] = stat.state;
+  for (std::size_t place = 4; place <= kLastField; ++place) {
+    const auto field = fields.Next();
+    const char* const last = field.data() + field.size();
+    if (std::from_chars(field.data(), last, numbers[place]).ptr == last && !field.empty()) continue;
+    std::uint64_t large = 0;
+    if (field.empty() || std::from_chars(field.data(), last, large).ptr != last)
+      return std::nullopt;
+    numbers[place] = static_cast<std::int64_t>(large);
+  }
+  return numbers;
+}
+
+std::optional<std::int64_t> ParseNamedField(std::string_view text, std::string_view name) {
+  while (!text.empty()) {
+    auto line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (!line.starts_with(name) || !line.substr(name.size()).starts_with(':')) continue;
+    line.remove_prefix(name.size() + 1);
+    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+    std::int64_t number = 0;
+    const char* const last = line.data() + line.size();
+    const auto [end, error] = std::from_chars(line.data(), last, number);
+    return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
+  }
+  return std::nullopt;
 }
 
 std::optional<IdleTicks> ParseIdleTicks(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -17,20 +18,8 @@ struct ProcStat {
   std::int32_t nice = 0;
   /// The start in clock ticks since boot.
   std::uint64_t startStamp = 0;
-  /// Everything behind the name, in the parsed text, for ParseProcUsage.
+  /// Everything behind the name, in the parsed text, for ParseProcStatFields.
   std::string_view fields;
-};
-
-/// What the process has used, as the same file says it: times in clock ticks, the virtual size in
-/// bytes.
-struct ProcUsage {
-  std::uint64_t minorFaults = 0;
-  std::uint64_t majorFaults = 0;
-  std::uint64_t userTicks = 0;
-  std::uint64_t systemTicks = 0;
-  std::uint64_t virtualSize = 0;
-  std::uint64_t residentPages = 0;
-  std::uint32_t policy = 0;
 };
 
 /// How long all processors together had nothing to do, and how much of the rest they waited for
@@ -45,8 +34,17 @@ struct IdleTicks {
 /// missing or is no number of its width. Pure; any thread; looks at nothing beyond `text`.
 std::optional<ProcStat> ParseProcStat(std::string_view text);
 
-/// Nothing under the same conditions. As long as the text that `stat` was read from is there.
-std::optional<ProcUsage> ParseProcUsage(const ProcStat& stat);
+/// The numbers of a stat file at the places that the kernel gives them, from 1; the state, at 3, is
+/// its letter. Those that fill 64 bits are negative.
+using ProcStatFields = std::array<std::int64_t, 53>;
+
+/// Every field that figures are taken from has to be a number. As long as the text that `stat` was
+/// read from is there.
+std::optional<ProcStatFields> ParseProcStatFields(const ProcStat& stat);
+
+/// The number in the line "name:\tNUMBER" of a status or io file; nothing when there is no such
+/// line.
+std::optional<std::int64_t> ParseNamedField(std::string_view text, std::string_view name);
 
 /// Reads the first line of the machine's own stat file.
 std::optional<IdleTicks> ParseIdleTicks(std::string_view text);

@@ -30,19 +30,20 @@ constexpr clockid_t ProcessorClock(std::int32_t pid) {
 
 }  // namespace
 
-std::optional<RunMark> ReadRunMark(std::int32_t pid) {
+std::optional<std::uint64_t> ReadRunTime(std::int32_t pid) {
   timespec time{};
-  SchedulingAttributes attributes;
   // Pid 0 would be the caller.
-  if (pid <= 0 || ::clock_gettime(ProcessorClock(pid), &time) != 0 ||
-      ::syscall(SYS_sched_getattr, pid, &attributes, sizeof attributes, 0) != 0 ||
-      attributes.priority != 0 || attributes.policy == kDeadlinePolicy) {
+  if (pid <= 0 || ::clock_gettime(ProcessorClock(pid), &time) != 0) return std::nullopt;
+  return static_cast<std::uint64_t>(time.tv_sec) * 1'000'000'000 +
+         static_cast<std::uint64_t>(time.tv_nsec);
+}
+
+std::optional<Scheduling> ReadScheduling(std::int32_t pid) {
+  SchedulingAttributes attributes;
+  if (pid <= 0 || ::syscall(SYS_sched_getattr, pid, &attributes, sizeof attributes, 0) != 0 ||
+      attributes.priority != 0 || attributes.policy == kDeadlinePolicy)
     return std::nullopt;
-  }
-  const auto runTime = static_cast<std::uint64_t>(time.tv_sec) * 1'000'000'000 +
-                       static_cast<std::uint64_t>(time.tv_nsec);
-  if (runTime == 0) return std::nullopt;
-  return RunMark{runTime, attributes.policy, attributes.nice};
+  return Scheduling{attributes.policy, attributes.nice};
 }
 
 }  // namespace lurkwell

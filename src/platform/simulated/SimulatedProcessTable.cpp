@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <utility>
 
 namespace lurkwell {
 
@@ -85,20 +86,26 @@ std::vector<ProcessDescription> SimulatedProcessTable::Describe(
   return descriptions;
 }
 
-std::optional<ProcessFigures> SimulatedProcessTable::FiguresOf(const ProcessTableEntry& entry) {
+const ProcessFigures& SimulatedProcessTable::FiguresOf(const ProcessTableEntry& entry) {
+  mFigures = {};
   const auto* process = mTellsFigures ? Find(entry.pid) : nullptr;
-  if (process == nullptr) return std::nullopt;
-  return ProcessFigures{process->userTime,
-                        process->systemTime,
-                        process->virtualSize,
-                        process->residentSize,
-                        process->entry.state == RunState::kStopped ? 1 : 0,
-                        process->policy,
-                        process->events[0],
-                        process->events[1]};
+  if (process == nullptr) return mFigures;
+  const auto microseconds = [](TimeValue time) {
+    return time.seconds * 1'000'000 + time.microseconds;
+  };
+  mFigures.Set(Figure::kUserTime, microseconds(process->userTime));
+  mFigures.Set(Figure::kSystemTime, microseconds(process->systemTime));
+  mFigures.Set(Figure::kVirtualSize, process->virtualSize);
+  mFigures.Set(Figure::kResidentSize, process->residentSize);
+  mFigures.Set(Figure::kSuspendCount, process->entry.state == RunState::kStopped ? 1 : 0);
+  mFigures.Set(Figure::kPolicy, process->policy);
+  constexpr std::pair<Figure, int> kEvents[] = {
+      {Figure::kFaults, 0}, {Figure::kPageins, 1}, {Figure::kCalls, 6}, {Figure::kSwitches, 7}};
+  for (const auto& [figure, event] : kEvents) mFigures.Set(figure, process->events[event]);
+  return mFigures;
 }
 
-std::span<const ProcessTableEntry> SimulatedProcessTable::Read() {
+std::span<const ProcessTableEntry> SimulatedProcessTable::Read(const Wanted& wanted) {
   mLog.Add("ProcessTable.Read");
   mSnapshot.clear();
   if (mFailures > 0) {
@@ -108,6 +115,8 @@ std::span<const ProcessTableEntry> SimulatedProcessTable::Read() {
   for (const auto& process : mProcesses)
     if (process.entry.pid != 0) mSnapshot.push_back(process.entry);
   mSnapshot.push_back(mByPid.at(0)->entry);
+  for (auto& entry : mSnapshot)
+    entry.current = entry.read = entry.known = OpenSources() == 0 ? 0 : wanted(entry.pid);
   return mSnapshot;
 }
 

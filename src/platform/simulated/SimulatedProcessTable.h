@@ -42,10 +42,13 @@ class SimulatedProcessTable final : public ProcessTable {
  public:
   SimulatedProcessTable(Clock& clock, AccessLog& log);
 
-  std::span<const ProcessTableEntry> Read() override;
+  FigureSources OpenSources() const override { return mTellsFigures ? kAllFigureSources : 0; }
+  std::span<const ProcessTableEntry> Read(const Wanted& wanted) override;
+  bool MayHaveBirths() override { return true; }
+  std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted&) override { return {}; }
+  const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) override;
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
   std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override;
-  std::optional<ProcessFigures> FiguresOf(const ProcessTableEntry& entry) override;
   std::int32_t MaximumPid() const override { return 65535; }
 
   SimulatedProcess& Birth(std::int32_t pid, std::string_view name, std::int32_t parent = 1);
@@ -74,6 +77,7 @@ class SimulatedProcessTable final : public ProcessTable {
   std::list<SimulatedProcess> mProcesses;
   std::unordered_map<std::int32_t, std::list<SimulatedProcess>::iterator> mByPid;
   std::vector<ProcessTableEntry> mSnapshot;
+  ProcessFigures mFigures;
   std::uint64_t mNextStamp = 1;
   std::int32_t mNextChurnPid = 100;
   int mFailures = 0;

@@ -1,0 +1,128 @@
+#include "consolidator/HelperFigures.h"
+
+#include <cstdio>
+#include <vector>
+
+#include "consolidator/HelperQueries.h"
+#include "consolidator/PidReport.h"
+#include "consolidator/ProcessReports.h"
+#include "consolidator/PropertyNeeds.h"
+#include "platform/Machine.h"
+#include "platform/ProcessTable.h"
+#include "process_control/DaemonCommunication.h"
+#include "process_control/ProcessActions.h"
+
+namespace lurkwell {
+namespace {
+
+using Client = ProcessInformationClient;
+
+/// One pass over the table.
+class HelperPass {
+ public:
+  explicit HelperPass(TimeValue now) : mNow(now), mNeeds(now) {}
+
+  void Feed(const ProcessTableEntry& entry) {
+    if (entry.pid > mMaximumPid) {
+      std::puts("BAD pid! (?)");
+      return;
+    }
+    // The pid has passed to another process: its last holder retires in this heartbeat, the new one
+    // is born in the next.
+    if (!NoteStartStamp(entry.pid, entry.startStamp)) return;
+    const auto level = mNeeds.LookAt(entry.pid);
+    if (level == Client::kNeedNoProcProperties) {
+      TouchProcessInformationForPID(entry.pid, kInformationKindPID);
+      return;
+    }
+    const bool all = level == Client::kNeedAllProcProperties;
+    ReportTableFigures(entry, all);
+    NoteKernelState(entry.pid, entry.state == RunState::kStopped, entry.nice);
+    const unsigned groups = GroupsFor(all);
+    if (groups != 0) ReportUsage(entry, groups);
+  }
+
+ private:
+  void ReportTableFigures(const ProcessTableEntry& entry, bool all) {
+    const auto wanted = [&](const PropertyNeed& need) { return all || need.By(mNeeds); };
+    PidReport report(entry.pid);
+    report.State(entry.state);
+    if (wanted(mCommandName)) report.Text(mCommandName.Row(), entry.commandName);
+    if (wanted(mPriority)) report.Integer(mPriority.Row(), entry.priority);
+    report.Integer(mParentRow, entry.parentPid);
+    if (wanted(mNice)) report.Integer(mNice.Row(), entry.nice);
+    if (wanted(mStartTime)) report.Time(mStartTime.Row(), entry.startTime);
+  }
+
+  /// From the helper, or else what everybody may read.
+  void ReportUsage(const ProcessTableEntry& entry, unsigned groups) {
+    unsigned known = mQueries.Ask(entry.pid, groups);
+    if (known != groups) known |= ReportOwnFigures(entry, groups & ~known);
+    if ((known & kThreadTime) != 0) NoteTimesRead(entry.pid);
+  }
+
+  static unsigned ReportOwnFigures(const ProcessTableEntry& entry, unsigned groups) {
+    const auto& figures = TheMachine().processTable.FiguresOf(entry);
+    unsigned reported = 0;
+    PidReport report(entry.pid);
+    for (const auto& row : BuiltInProperties()) {
+      if ((row.group & groups) == 0 || !row.figure || !figures.IsKnown(*row.figure)) continue;
+      report.Figure(row, figures.Get(*row.figure));
+      reported |= row.group;
+    }
+    return reported;
+  }
+
+  unsigned GroupsFor(bool all) const {
+    unsigned groups = 0;
+    // A need for any of its sources is one for the CPU time.
+    if (all || mActiveTime.By(mNeeds)) groups |= kThreadTime | kBasicInfo;
+    // The helper gives figures by the group; one that is needed brings the others.
+    for (const auto& need : mFigures) {
+      const auto group = need.Row().group;
+      if ((groups & group) == 0 && (all || need.By(mNeeds))) groups |= group;
+    }
+    return groups;
+  }
+
+  static std::vector<PropertyNeed> FiguresOfGroups(TimeValue now) {
+    std::vector<PropertyNeed> needs;
+    for (const auto& row : BuiltInProperties())
+      if (row.group != kNoGroup) needs.emplace_back(row.name.data(), now);
+    return needs;
+  }
+
+  TimeValue mNow;
+  ProcessNeeds mNeeds;
+  std::int32_t mMaximumPid = TheMachine().processTable.MaximumPid();
+  const CatalogueRow& mParentRow = *FindBuiltInProperty("pid_parent_pid");
+  PropertyNeed mCommandName{"pid_p_comm", mNow};
+  PropertyNeed mPriority{"pid_p_priority", mNow};
+  PropertyNeed mNice{"pid_p_nice", mNow};
+  PropertyNeed mStartTime{"pid_p_starttime", mNow};
+
+  PropertyNeed mActiveTime{"meta_active_time", mNow};
+  std::vector<PropertyNeed> mFigures = FiguresOfGroups(mNow);
+  HelperQueries mQueries;
+};
+
+}  // namespace
+
+void FeedHelperFigures(TimeValue now) {
+  BeginProcessInformationIteration(kInformationKindPID);
+  {
+    const DaemonConversation conversation;
+    // The pass asks for the highest pid, which the table knows as of its last reading.
+    const auto entries =
+        TheMachine().processTable.Read([](std::int32_t) { return kFromStat | kFromScheduler; });
+    HelperPass pass(now);
+    for (const auto& entry : entries) {
+      pass.Feed(entry);
+      // The kernel's own entry ends the list.
+      if (entry.pid == 0) break;
+    }
+  }
+  EndProcessInformationIteration(kInformationKindPID);
+}
+
+}  // namespace lurkwell

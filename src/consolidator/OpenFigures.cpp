@@ -1,0 +1,125 @@
+#include "consolidator/OpenFigures.h"
+
+#include <cstdio>
+
+#include "consolidator/ConsolidatorState.h"
+#include "consolidator/PidReport.h"
+#include "consolidator/ProcessReports.h"
+#include "consolidator/SourceNeeds.h"
+#include "platform/Machine.h"
+#include "platform/ProcessTable.h"
+#include "process_control/ProcessActions.h"
+
+namespace lurkwell {
+namespace {
+
+/// A pid has passed to another process, which is born in the next beat.
+bool gIsBirthDue = false;
+
+class OpenPass {
+ public:
+  explicit OpenPass(TimeValue now) : mNeeds(now) {}
+
+  void Run() {
+    const bool mustList =
+        gRecords.Empty() || gIsBirthDue || mNeeds.OfEnds() || mTable.MayHaveBirths();
+    if (mustList || !Refresh()) List();
+  }
+
+ private:
+  /// False when somebody who is followed has ended.
+  bool Refresh() {
+    if (!mNeeds.AreThereAny()) return true;
+    const auto entries = mTable.Refresh(mWanted);
+    if (!entries) return false;
+    for (const auto& entry : *entries) {
+      if (entry.current == 0 && entry.read == 0) continue;
+      if (!IsKnown(entry)) return false;
+      Report(entry);
+      Derive(*gRecords.GetExistingPIDInformation(entry.pid));
+    }
+    return true;
+  }
+
+  void List() {
+    BeginProcessInformationIteration(kInformationKindPID);
+    gIsBirthDue = false;
+    for (const auto& entry : mTable.Read(mWanted)) Feed(entry);
+    EndProcessInformationIteration(kInformationKindPID);
+  }
+
+  void Feed(const ProcessTableEntry& entry) {
+    if (entry.pid > mTable.MaximumPid()) {
+      std::puts("BAD pid! (?)");
+      return;
+    }
+    if (!NoteStartStamp(entry.pid, entry.startStamp)) {
+      gIsBirthDue = true;
+      return;
+    }
+    Report(entry);
+  }
+
+  static bool IsKnown(const ProcessTableEntry& entry) {
+    const auto* record = gRecords.GetExistingPIDInformation(entry.pid);
+    return record != nullptr && record->pidInfo != nullptr &&
+           record->pidInfo->startStamp == entry.startStamp;
+  }
+
+  /// What has been read since the record has it.
+  void Report(const ProcessTableEntry& entry) {
+    PidReport report(entry.pid);
+    auto& block = report.Block();
+    const FigureSources sources = entry.read | (entry.known & ~block.reportedSources);
+    if (block.reportedSources == 0) ReportUncounted(report);
+    if ((sources & kFromStat) != 0 || block.reportedSources == 0) ReportEntry(entry, report);
+    if (block.parentPid != entry.parentPid) report.Integer(mParent, entry.parentPid);
+    if (sources != 0) ReportFigures(mTable.FiguresOf(entry), sources, report);
+    block.reportedSources |= sources;
+    if ((entry.current & kFromStat) != 0) NoteTimesRead(entry.pid);
+    const bool isStopped = entry.state == RunState::kStopped;
+    if (isStopped || (entry.current & kFromScheduler) != 0)
+      NoteKernelState(entry.pid, isStopped, entry.nice);
+  }
+
+  void ReportEntry(const ProcessTableEntry& entry, PidReport& report) {
+    report.State(entry.state);
+    report.Text(mCommandName, entry.commandName);
+    report.Integer(mPriority, entry.priority);
+    report.Integer(mParent, entry.parentPid);
+    report.Integer(mNice, entry.nice);
+    report.Time(mStartTime, entry.startTime);
+  }
+
+  static void ReportFigures(const ProcessFigures& figures, FigureSources sources,
+                            PidReport& report) {
+    for (const auto& row : BuiltInProperties()) {
+      if (!row.figure || (row.sources & sources) == 0) continue;
+      if (figures.IsRefused(*row.figure)) report.NoValue(row, Missing::kNotAllowed);
+      if (!figures.IsKnown(*row.figure)) continue;
+      report.Figure(row, figures.Get(*row.figure));
+    }
+  }
+
+  static void ReportUncounted(PidReport& report) {
+    for (const auto& row : BuiltInProperties())
+      if (row.group != kNoGroup && !row.figure) report.NoValue(row, Missing::kNotCounted);
+  }
+
+  ProcessTable& mTable = TheMachine().processTable;
+  const SourceNeeds mNeeds;
+  const ProcessTable::Wanted mWanted = [this](std::int32_t pid) { return mNeeds.Of(pid); };
+  const CatalogueRow& mCommandName = *FindBuiltInProperty("pid_p_comm");
+  const CatalogueRow& mPriority = *FindBuiltInProperty("pid_p_priority");
+  const CatalogueRow& mParent = *FindBuiltInProperty("pid_parent_pid");
+  const CatalogueRow& mNice = *FindBuiltInProperty("pid_p_nice");
+  const CatalogueRow& mStartTime = *FindBuiltInProperty("pid_p_starttime");
+};
+
+}  // namespace
+
+void FeedOpenFigures(TimeValue now) {
+  OpenPass(now).Run();
+}
+
+}  // namespace lurkwell
