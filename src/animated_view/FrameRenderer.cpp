@@ -9,7 +9,7 @@
 namespace lurkwell {
 namespace {
 
-constexpr int kIconSide = 256;
+constexpr int kFrameIconSide = 256;
 constexpr int kMarkSide = 256;
 constexpr int kLabelPageWidth = 2048;
 constexpr int kLabelPageHeight = 256;
@@ -120,7 +120,8 @@ LabelCorner CornerOfLabel(double x, double y, int labelWidth, int labelHeight, i
 }
 
 FrameRenderer::FrameRenderer()
-    : mIcons({kIconSide, kIconSide, kIconSide, PictureAtlas::Fit::kScaled, kIconAlpha}),
+    : mIcons(
+          {kFrameIconSide, kFrameIconSide, kFrameIconSide, PictureAtlas::Fit::kScaled, kIconAlpha}),
       mMarks({kMarkSide, kMarkSide, kMarkSide, PictureAtlas::Fit::kScaled, 255}),
       mMark(mMarks.Acquire(Ring())),
       mLabels(LabelAtlas(32)),

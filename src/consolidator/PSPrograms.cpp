@@ -11,15 +11,15 @@
 namespace lurkwell {
 namespace {
 
-constexpr int kLongestRest = 60;
-constexpr std::int64_t kMostMilliseconds = 1000;
+constexpr int kLongestRestSeconds = 60;
+constexpr std::int64_t kMostRunMilliseconds = 1000;
 /// Each start takes the main thread about a millisecond.
 constexpr std::ptrdiff_t kMostAtATime = 8;
 
 }  // namespace
 
 int GrowingRest::Begin(TimeValue now) {
-  mSeconds = std::min(mSeconds * 2, kLongestRest);
+  mSeconds = std::min(mSeconds * 2, kLongestRestSeconds);
   mEnd = now + TimeValue{mSeconds, 0};
   return mSeconds;
 }
@@ -52,7 +52,7 @@ void PSPrograms::StartWaiting(TimeValue now) {
       return;
     }
     mSaidNothingStarts = false;
-    run.deadline = AddMilliseconds(now, kMostMilliseconds);
+    run.deadline = AddMilliseconds(now, kMostRunMilliseconds);
     ++running;
   }
 }

@@ -27,8 +27,8 @@ constexpr double kSecondsBetweenLooks = 0.02;
 
 constexpr std::size_t kLongestKeywordList = 1023;
 constexpr std::size_t kLongestKeyword = 255;
-constexpr std::size_t kLongestHeader = 63;
-constexpr std::size_t kLongestLine = 1023;
+constexpr std::size_t kLongestPrintedHeader = 63;
+constexpr std::size_t kLongestHeaderLine = 1023;
 constexpr std::size_t kLongestValue = 1023;
 
 /// For how long a pass waits for the runs that it has begun.
@@ -48,7 +48,7 @@ void AppendWords(std::string_view line, std::vector<std::string>& list) {
 void StartNeededColumns(TimeValue now, const TimeValue* dueAt) {
   const int count = GetPSHeaderCount();
   for (int i = 0; i < count; ++i) {
-    char header[kLongestHeader];
+    char header[kLongestPrintedHeader];
     GetNthPSHeader(i, header, sizeof header, nullptr);
     // The pid is the first column of every run anyway.
     if (std::string_view(header) == "PID") continue;
@@ -66,9 +66,9 @@ void StartNeededColumns(TimeValue now, const TimeValue* dueAt) {
 
 /// The column header as ps prints it above the values, which is the property's name.
 std::string HeaderOf(std::string_view line) {
-  line = line.substr(0, kLongestLine);
+  line = line.substr(0, kLongestHeaderLine);
   ScanWord(line);
-  return std::string(ScanWord(line).substr(0, kLongestHeader));
+  return std::string(ScanWord(line).substr(0, kLongestPrintedHeader));
 }
 
 /// Who needs a column for some processes and has to be asked for each.

@@ -36,7 +36,7 @@ constexpr ColumnKeys kLogColumns[kLoggingColumns] = {
 };
 
 constexpr char kLogToFileKey[] = "LOG_TO_FILE";
-constexpr char kIntervalKey[] = "CUSTOM_UPDATE_INTERVAL";
+constexpr char kLogIntervalKey[] = "CUSTOM_UPDATE_INTERVAL";
 
 bool ReadSwitch(std::int32_t prefsIndex, const char* own, const char* general,
                 std::int32_t generalDefault) {
@@ -59,7 +59,7 @@ bool ReadLogToFile(std::int32_t prefsIndex) {
 }
 
 std::int32_t ReadLoggingInterval(std::int32_t prefsIndex, std::int32_t fallback) {
-  return ReadRememberedInt(kLoggingWindowKind, prefsIndex, kIntervalKey, fallback);
+  return ReadRememberedInt(kLoggingWindowKind, prefsIndex, kLogIntervalKey, fallback);
 }
 
 std::optional<int> ReadColumnWidth(std::int32_t prefsIndex, LoggingColumn column) {
@@ -77,7 +77,7 @@ void SaveLoggingSettings(std::int32_t prefsIndex, const LoggingSwitches& switche
   for (const auto& column : kLogColumns)
     changes.SetInt(column.own, switches.*column.isShown ? 1 : 0);
   changes.SetInt(kLogToFileKey, logToFile ? 1 : 0);
-  changes.SetInt(kIntervalKey, interval);
+  changes.SetInt(kLogIntervalKey, interval);
   for (const auto& [column, width] : widths) changes.SetDouble(kLogColumns[column].width, width);
 }
 

@@ -13,10 +13,10 @@
 namespace lurkwell {
 namespace {
 
-const QString kConnection = QStringLiteral("lurkwell-shortcuts");
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
+const QString kPortalConnection = QStringLiteral("lurkwell-shortcuts");
+const QString kPortalService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString kPortalInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 const QString kSessionInterface = QStringLiteral("org.freedesktop.portal.Session");
 const QString kSessionToken = QStringLiteral("lurkwell_session");
@@ -28,18 +28,18 @@ using ShortcutList = QList<std::pair<QString, QVariantMap>>;
 
 GlobalShortcutsPortal::GlobalShortcutsPortal(const std::string& busAddress,
                                              std::function<void(const QString&)> complain)
-    : mBus(DoesBusAnswer(busAddress)
-               ? QDBusConnection::connectToBus(QString::fromStdString(busAddress), kConnection)
-               : QDBusConnection(QStringLiteral("lurkwell-no-bus"))),
+    : mBus(DoesBusAnswer(busAddress) ? QDBusConnection::connectToBus(
+                                           QString::fromStdString(busAddress), kPortalConnection)
+                                     : QDBusConnection(QStringLiteral("lurkwell-no-bus"))),
       mComplain(std::move(complain)) {
   qDBusRegisterMetaType<std::pair<QString, QVariantMap>>();
   qDBusRegisterMetaType<ShortcutList>();
-  mPortal = std::make_unique<ServiceOwner>(mBus, kService, [this] { FollowPortal(); });
+  mPortal = std::make_unique<ServiceOwner>(mBus, kPortalService, [this] { FollowPortal(); });
 }
 
 GlobalShortcutsPortal::~GlobalShortcutsPortal() {
   // The session ends with the connection.
-  QDBusConnection::disconnectFromBus(kConnection);
+  QDBusConnection::disconnectFromBus(kPortalConnection);
 }
 
 bool GlobalShortcutsPortal::Add(const QString& id, const QString& trigger,
@@ -52,13 +52,14 @@ bool GlobalShortcutsPortal::Add(const QString& id, const QString& trigger,
 
 void GlobalShortcutsPortal::ExpectAnswer(const QString& token, const char* slot) {
   const QString sender = mBus.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
-  mBus.connect(kService,
+  mBus.connect(kPortalService,
                QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token),
                kRequest, QStringLiteral("Response"), this, slot);
 }
 
 void GlobalShortcutsPortal::Call(const QString& method, const QVariantList& arguments) {
-  auto message = QDBusMessage::createMethodCall(kService, kPath, kInterface, method);
+  auto message =
+      QDBusMessage::createMethodCall(kPortalService, kPortalPath, kPortalInterface, method);
   message.setArguments(arguments);
   auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(message, kPortalAnswers), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
@@ -83,7 +84,7 @@ void GlobalShortcutsPortal::FollowPortal() {
 void GlobalShortcutsPortal::CreateSession() {
   const QString token = QStringLiteral("lurkwell_create");
   ExpectAnswer(token, SLOT(HandleSession(uint, QVariantMap)));
-  mBus.connect(kService, kPath, kInterface, QStringLiteral("Activated"), this,
+  mBus.connect(kPortalService, kPortalPath, kPortalInterface, QStringLiteral("Activated"), this,
                SLOT(HandleActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
   Call(QStringLiteral("CreateSession"),
        {QVariantMap{{QStringLiteral("handle_token"), token},
@@ -94,7 +95,7 @@ void GlobalShortcutsPortal::HandleSession(uint response, const QVariantMap& resu
   if (response != 0) return mComplain(QStringLiteral("the desktop gives none"));
   mSession = results.value(QStringLiteral("session_handle")).toString();
   if (mSession.isEmpty()) return mComplain(QStringLiteral("the desktop names no session"));
-  mBus.connect(kService, mSession, kSessionInterface, QStringLiteral("Closed"), this,
+  mBus.connect(kPortalService, mSession, kSessionInterface, QStringLiteral("Closed"), this,
                SLOT(HandleClosed()));
   Bind();
 }

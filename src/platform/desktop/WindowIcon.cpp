@@ -5,7 +5,7 @@
 namespace lurkwell {
 namespace {
 
-constexpr std::uint32_t kMostWords = 1U << 20;
+constexpr std::uint32_t kMostIconWords = 1U << 20;
 constexpr std::uint32_t kLargestSide = 1024;
 constexpr std::size_t kMostWindowsAsked = 4;
 
@@ -21,7 +21,7 @@ std::vector<std::uint32_t> ReadWindowIcons(XConnection& connection,
                                            const std::vector<xcb_window_t>& windows) {
   for (std::size_t i = 0; i < std::min(windows.size(), kMostWindowsAsked); ++i) {
     const auto cookie =
-        connection.AskProperty(windows[i], connection.Atom(XAtom::kWindowIcon), kMostWords);
+        connection.AskProperty(windows[i], connection.Atom(XAtom::kWindowIcon), kMostIconWords);
     auto icons = PropertyWords(
         connection.Wait<xcb_get_property_reply_t>(cookie, XConnection::BatchDeadline()).get());
     if (!icons.empty()) return icons;
