@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "IdleProcesses.h"
 #include "TableLikeClient.h"
@@ -46,9 +47,10 @@ class BirthClient final : public ProcessInformationClient {
 class RealCycle {
  public:
   /// `lasts`: of the client's own time, in milliseconds.
-  RealCycle(ProcessInformationClient* client, std::int64_t lasts) : mLasts(lasts) {
+  template <typename Client>
+  RealCycle(std::in_place_type_t<Client>, std::int64_t lasts) : mLasts(lasts) {
     InitializeProcessInformationConsolidator();
-    AddProcessInformationClient(client);
+    AddProcessInformationClient(new Client);
     for (int i = 0; i < 6; ++i) Beat();
   }
   ~RealCycle() {
@@ -97,7 +99,7 @@ void BareStatPass(benchmark::State& state) {
 void BeatForTheTable(benchmark::State& state) {
   RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
-  RealCycle cycle(new TableLikeClient, 1000);
+  RealCycle cycle(std::in_place_type<TableLikeClient>, 1000);
   for (auto _ : state) cycle.Beat();
 }
 
@@ -105,7 +107,7 @@ void BeatForTheTable(benchmark::State& state) {
 void BeatsForBirths(benchmark::State& state) {
   RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
-  RealCycle cycle(new BirthClient, 2000);
+  RealCycle cycle(std::in_place_type<BirthClient>, 2000);
   for (auto _ : state) cycle.Beat();
 }
 

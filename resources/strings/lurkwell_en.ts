@@ -3227,6 +3227,14 @@ Free: %5</translation>
         <source></source>
         <translation>Ask for a password at every start</translation>
     </message>
+    <message id="setting_title_GENERAL_CONTINUE_WITHOUT_RIGHTS">
+        <source></source>
+        <translation>Start without an administrator's rights</translation>
+    </message>
+    <message id="setting_title_FIGURES_FROM_HELPER">
+        <source></source>
+        <translation>Ask the helper for figures of processes</translation>
+    </message>
     <message id="setting_title_PREFERENCES_UI_DEFAULT_TAB">
         <source></source>
         <translation>Page of the preferences</translation>
