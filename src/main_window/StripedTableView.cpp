@@ -66,11 +66,12 @@ StripedTableView::~StripedTableView() {
 
 void StripedTableView::setContextMenu(QMenu* menu) {
   fMenu = menu;
+  mWatched = menu;
   if (menu != nullptr) menu->installEventFilter(this);
 }
 
 bool StripedTableView::eventFilter(QObject* object, QEvent* event) {
-  if (object == fMenu) {
+  if (object == mWatched) {
     const auto type = event->type();
     if (type == QEvent::Show) mSinceMenuCame.start();
     const bool isClick = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||

@@ -80,6 +80,8 @@ class StripedTableView : public QTableView {
   bool RowMatches(int row, const QString& text) const;
 
   QPointer<QMenu> fMenu;
+  /// The same, to be compared alone: events come while the menu ends, when it is none any more.
+  const QObject* mWatched = nullptr;
   QElapsedTimer mSinceMenuCame;
   QPersistentModelIndex mFound;
   int mSearchColumn = -1;

@@ -26,7 +26,7 @@ void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t p
 void FollowingWindows::CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid,
                                               const Uuid* uuid, const WindowRect* rect) {
   const PreferenceBatch batch;
-  const auto place = rect != nullptr ? Apart(*rect) : WindowRect{};
+  const auto place = rect != nullptr ? Apart(*rect, mHistories.list()) : WindowRect{};
   mHistories.create(interval, pid, uuid, rect != nullptr ? &place : nullptr);
 }
 
@@ -36,19 +36,25 @@ void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t p
   const PreferenceBatch batch;
   if (auto* log = uuid != nullptr ? LoggingWindowUI::Find(*uuid) : nullptr)
     return log->follow(mLogFiles, pid);
-  const auto place = rect != nullptr ? Apart(*rect) : WindowRect{};
+  const auto place = rect != nullptr ? Apart(*rect, OpenLogs()) : WindowRect{};
   LoggingWindowUI::CreateLoggingWindowWithInterval(mLogFiles, interval, pid, uuid,
                                                    rect != nullptr ? &place : nullptr, prefsIndex);
 }
 
-WindowRect FollowingWindows::Apart(const WindowRect& rect) const {
-  std::vector<QRect> others;
-  for (const auto& window : OpenWindows()) others.push_back(window.place);
-  return PlaceApart(rect, others);
+WindowRect FollowingWindows::Apart(const WindowRect& rect, const std::vector<OpenWindow>& others) {
+  std::vector<QRect> places;
+  for (const auto& window : others) places.push_back(window.place);
+  return PlaceApart(rect, places);
 }
 
 std::vector<MonitorWindows::OpenWindow> FollowingWindows::OpenWindows() const {
   auto windows = mHistories.list();
+  for (auto& log : OpenLogs()) windows.push_back(std::move(log));
+  return windows;
+}
+
+std::vector<MonitorWindows::OpenWindow> FollowingWindows::OpenLogs() {
+  std::vector<OpenWindow> windows;
   for (auto* log : LoggingWindowUI::OpenWindows()) {
     const auto place = log->frame();
     windows.push_back({log->shortTitle(),

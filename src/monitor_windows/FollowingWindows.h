@@ -47,8 +47,10 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
   void RememberPlaces();
 
  private:
-  /// A remembered place, so that the window lies on none that is open.
-  WindowRect Apart(const WindowRect& rect) const;
+  /// A remembered place, so that the window covers none of `others`: those of its kind, since a
+  /// history that lies on its log was put there by the user.
+  static WindowRect Apart(const WindowRect& rect, const std::vector<OpenWindow>& others);
+  static std::vector<OpenWindow> OpenLogs();
 
   LogFiles& mLogFiles;
   Histories mHistories;

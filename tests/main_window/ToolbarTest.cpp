@@ -1,10 +1,14 @@
 // What the toolbar holds, how it is arranged, and that it is remembered.
+#include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTimer>
+#include <functional>
 
 #include "main_window/MainToolbar.h"
 #include "main_window/MainWindowTest.h"
@@ -91,7 +95,18 @@ TEST_F(ToolbarTest, HoldsAllThatIsAllowedAndButtonsReachTheSelection) {
             "Normal* Low* Halt* Continue Preferences* Separator* Space* Flexible Space* "
             "Customise*");
   machine.log.Clear();
-  for (const int place : {9, 12}) Toolbar().items()[place]->trigger();
+  Toolbar().items()[9]->trigger();
+  // A halt asks, from here as well.
+  bool wasAsked = false;
+  std::function<void()> agree = [&] {
+    auto* question = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (question == nullptr) return QTimer::singleShot(10, window.get(), agree);
+    wasAsked = true;
+    question->accept();
+  };
+  QTimer::singleShot(10, window.get(), agree);
+  Toolbar().items()[12]->trigger();
+  EXPECT_TRUE(wasAsked);
   EXPECT_EQ(machine.log.Take(),
             "Helper Lkw Action Request:\\nrenice 300 -19\n"
             "Helper Lkw Action Request:\\nkill_halt 300\n");
