@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
+#include <QTabBar>
 #include <QUiLoader>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -100,7 +101,9 @@ bool vqPreferencesUI::loadInterface(const QString& form) {
   if (contents == nullptr || contents->layout() == nullptr) return false;
   fTabView = contents->findChild<QTabWidget*>(QStringLiteral("tabView"));
   fNotice = contents->findChild<QLabel*>(QStringLiteral("changeNotice"));
-  if (fTabView == nullptr || fTabView->count() != kTabs || fNotice == nullptr) return false;
+  fPages = contents->findChild<QComboBox*>(QStringLiteral("pageChoice"));
+  if (fTabView == nullptr || fTabView->count() != kTabs || fNotice == nullptr || fPages == nullptr)
+    return false;
   const auto isThere = [contents](const PreferenceControl& control) {
     return contents->findChild<QWidget*>(QLatin1String(control.name)) != nullptr;
   };
@@ -127,11 +130,13 @@ void vqPreferencesUI::awakeFromNib() {
   PutNotificationChangeTextOnScreen(false);
   NameSliders(*fWindow);
   if (!Expect(fTabToShow != -1, kUnit, "Invalid initial tab setting in pref panel")) fTabToShow = 0;
+  for (int page = 0; page < kTabs; ++page) fPages->addItem(fTabView->tabText(page));
   fTabView->setCurrentIndex(fTabToShow);
   fWindow->ensurePolished();
   internalTabViewItem(fTabToShow);
   loadControls();
   connect(fTabView, &QTabWidget::currentChanged, this, &vqPreferencesUI::didSelectTabViewItem);
+  connect(fPages, &QComboBox::currentIndexChanged, fTabView, &QTabWidget::setCurrentIndex);
   for (const auto& control : PreferenceControls()) connectControl(control);
   auto* escape = new QShortcut(Qt::Key_Escape, fWindow);
   connect(escape, &QShortcut::activated, fWindow, &QWidget::close);
@@ -250,11 +255,24 @@ void vqPreferencesUI::internalTabViewItem(int index) {
   if (!Expect(index >= 0 && index < kTabs, kUnit, "We're on an invalid tab in internalTabViewItem"))
     return;
   fTabToShow = index;
+  fPages->setCurrentIndex(index);
+  chooseTabsOrList();
   // Only the page that is shown counts for the height.
   for (int page = 0; page < fTabView->count(); ++page)
     fTabView->widget(page)->setSizePolicy(
         QSizePolicy::Preferred, page == index ? QSizePolicy::Preferred : QSizePolicy::Ignored);
   setHeight(heightForTab(index), fWindow->isVisible());
+}
+
+int vqPreferencesUI::widthOfTabs() const {
+  const auto margins = fContents->layout()->contentsMargins();
+  return fTabView->tabBar()->sizeHint().width() + margins.left() + margins.right();
+}
+
+void vqPreferencesUI::chooseTabsOrList() {
+  const bool fit = widthOfTabs() <= roomOnScreen().width();
+  fTabView->tabBar()->setVisible(fit);
+  fPages->setVisible(!fit);
 }
 
 int vqPreferencesUI::heightForTab(int index) const {
@@ -279,7 +297,9 @@ void vqPreferencesUI::setHeight(int height, bool animated) {
   fGrowth.stop();
   const auto* layout = fContents->layout();
   const int most = roomOnScreen().width();
-  fWindow->setMinimumWidth(std::min(layout->minimumSize().width(), most));
+  int least = layout->minimumSize().width();
+  if (fPages->isHidden()) least = std::max(least, widthOfTabs());
+  fWindow->setMinimumWidth(std::min(least, most));
   const int duration =
       animated ? fWindow->style()->styleHint(QStyle::SH_Widget_Animation_Duration) : 0;
   if (duration <= 0) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColorDialog>
+#include <QComboBox>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -59,6 +60,9 @@ class vqPreferencesUI final : public QObject {
   void takeSoon(QWidget& sender);
   void takePendingValue();
   void chooseColour(QPushButton& well, const PreferenceControl& control);
+  int widthOfTabs() const;
+  /// Where the tabs do not fit on the screen, the pages are chosen from a list.
+  void chooseTabsOrList();
   int heightForTab(int index) const;
   QSize roomOnScreen() const;
   void setHeight(int height, bool animated);
@@ -66,6 +70,7 @@ class vqPreferencesUI final : public QObject {
   QWidget* fWindow;
   QWidget* fContents = nullptr;
   QTabWidget* fTabView = nullptr;
+  QComboBox* fPages = nullptr;
   QLabel* fNotice = nullptr;
   std::int32_t fTabToShow = 0;
   /// A control that the mouse or a key is changing, until its value is taken.
