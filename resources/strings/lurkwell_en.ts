@@ -1871,6 +1871,18 @@
         <source></source>
         <translation>not counted on this system</translation>
     </message>
+    <message id="value_not_yet_known_tip">
+        <source></source>
+        <translation>Not known yet: one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_allowed_tip">
+        <source></source>
+        <translation>Not allowed: of this process only root may read it. Lurkwell shows it when root starts it.</translation>
+    </message>
+    <message id="value_not_counted_tip">
+        <source></source>
+        <translation>Not counted: this system has no such figure of any process.</translation>
+    </message>
     <message id="main_window_idle_task_tip">
         <source></source>
         <translation>The idle task: what it has is the time that the processors had nothing to do.</translation>
@@ -2734,6 +2746,10 @@ Free: %5</translation>
     <message id="preferences_title">
         <source></source>
         <translation>Lurkwell Preferences</translation>
+    </message>
+    <message id="preferences_page">
+        <source></source>
+        <translation>Page</translation>
     </message>
     <message id="preferences_form_missing">
         <source></source>

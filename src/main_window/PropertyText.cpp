@@ -22,22 +22,32 @@ QString MarkOf(Missing why) {
   return {};
 }
 
-}  // namespace
-
-QString MissingText(const TypedValue& value) {
+const char* IdOfMissing(const TypedValue& value) {
   const auto* why = std::get_if<Missing>(&value);
-  if (why == nullptr) return {};
+  if (why == nullptr) return nullptr;
   switch (*why) {
     case Missing::kNotYetKnown:
-      return LocalizedString("value_not_yet_known");
+      return "value_not_yet_known";
     case Missing::kNotAllowed:
-      return LocalizedString("value_not_allowed");
+      return "value_not_allowed";
     case Missing::kNotCounted:
-      return LocalizedString("value_not_counted");
+      return "value_not_counted";
     case Missing::kNone:
       break;
   }
-  return {};
+  return nullptr;
+}
+
+}  // namespace
+
+QString MissingText(const TypedValue& value) {
+  const auto* id = IdOfMissing(value);
+  return id != nullptr ? LocalizedString(id) : QString();
+}
+
+QString MissingTip(const TypedValue& value) {
+  const auto* id = IdOfMissing(value);
+  return id != nullptr ? LocalizedString((std::string(id) + "_tip").c_str()) : QString();
 }
 
 QString TimeText(TimeValue time) {

@@ -28,7 +28,10 @@ QString PlainText(std::string_view text);
 /// counted; where there is nothing of the kind, nothing.
 QString DisplayText(PropertyType type, const TypedValue& value, int width, std::int32_t pid);
 
-/// The same mark in words, for tooltips, speech and copies; empty for a value.
+/// The same mark in words, for speech and copies; empty for a value.
 QString MissingText(const TypedValue& value);
+
+/// A sentence about it, with what would be needed to see a figure; empty for a value.
+QString MissingTip(const TypedValue& value);
 
 }  // namespace lurkwell

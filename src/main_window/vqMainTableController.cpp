@@ -289,7 +289,7 @@ QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column&
   QStringList lines;
   const bool isMissing = !column.isInternal && !IsKnown(row.Get(column.key));
   if (column.isStale) lines.append(LocalizedString("main_window_stale_tip"));
-  if (isMissing) lines.append(MissingText(row.Get(column.key)));
+  if (isMissing) lines.append(MissingTip(row.Get(column.key)));
   const bool isName = column.key == kMetaName || column.key == kPidCommandName;
   if (row.Pid() == 0 && (isName || column.key == kInternalCPUPercent))
     lines.append(LocalizedString("main_window_idle_task_tip"));
