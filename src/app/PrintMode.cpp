@@ -9,6 +9,7 @@
 
 #include "app/ColumnsOutputClient.h"
 #include "app/DataOutput.h"
+#include "consolidator/KernelFeeder.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/PrintfOutputClient.h"
 #include "consolidator/ProcessInformationFeederPS.h"
@@ -109,7 +110,8 @@ int RunPrintMode(const CommandLine& commandLine) {
   // The first listing has the columns of ps, too.
   SetPSPatience(std::chrono::seconds(1));
   SetHelperUnprivileged(commandLine.unprivileged);
-  LaunchHelperDaemon();
+  // Nothing is done to processes here.
+  if (IsHelperAskedForFigures()) LaunchHelperDaemon();
   EndOfPrinting end(output.Stream(), commandLine.count);
   const auto afterUpdate = [&end] { end.AfterUpdate(); };
   ProcessInformationClient* client = nullptr;

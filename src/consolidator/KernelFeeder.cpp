@@ -8,13 +8,16 @@
 
 namespace lurkwell {
 
+bool IsHelperAskedForFigures() {
+  return TheMachine().processTable.OpenSources() == 0 ||
+         GetPrefInt("FIGURES_FROM_HELPER", nullptr, true, 0) != 0;
+}
+
 void PIDExtractProcessInformation(TimeValue now) {
-  const bool isOpen = TheMachine().processTable.OpenSources() != 0 &&
-                      GetPrefInt("FIGURES_FROM_HELPER", nullptr, true, 0) == 0;
-  if (isOpen) {
-    FeedOpenFigures(now);
-  } else {
+  if (IsHelperAskedForFigures()) {
     FeedHelperFigures(now);
+  } else {
+    FeedOpenFigures(now);
   }
 }
 

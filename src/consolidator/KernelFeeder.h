@@ -12,4 +12,7 @@ namespace lurkwell {
 /// is none. `now` is the heartbeat's time. Main thread, inside the consolidator's region.
 void PIDExtractProcessInformation(TimeValue now);
 
+/// Whether figures come from the helper: the process table tells none, or the user wants it so.
+bool IsHelperAskedForFigures();
+
 }  // namespace lurkwell

@@ -13,7 +13,7 @@ import subprocess
 import time
 import unittest
 
-from desktop_support import BINARY, Desktop
+from desktop_support import BINARY, Desktop, helpers
 
 TICK = os.sysconf("SC_CLK_TCK")
 PAGE = os.sysconf("SC_PAGE_SIZE")
@@ -138,6 +138,17 @@ class Printing(Program):
         idle = [line for line in lines if line[1] == "0"]
         self.assertEqual([line[2] for line in idle], ["swapper"] * 2)
         self.assertGreater(float(idle[1][3]), 0)
+
+    def test_the_helper_is_started_only_where_figures_come_from_it(self):
+        for figures_from_helper in 0, 1:
+            self.write_preferences({"FIGURES_FROM_HELPER": figures_from_helper})
+            process = self.start("--print")
+            process.stdout.readline()
+            self.assertEqual(len(helpers() - self.helpers_before), figures_from_helper)
+            process.terminate()
+            _, errors = process.communicate(timeout=10)
+            if not figures_from_helper:
+                self.assertEqual(errors, "")
 
     def test_it_ends_in_order_by_signal_and_leaves_nothing(self):
         for number in signal.SIGTERM, signal.SIGINT, signal.SIGHUP:

@@ -22,6 +22,7 @@ class Box final : public QMessageBox {
  public:
   explicit Box(const AlertText& text) {
     setIcon(QMessageBox::Warning);
+    setWindowTitle(QStringLiteral("Lurkwell"));
     setText(Plain(text.title));
     setInformativeText(Plain(text.message));
     // The box has a format for the first text only, and guesses at the second.

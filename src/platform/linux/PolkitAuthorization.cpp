@@ -157,9 +157,8 @@ bool PolkitAuthorization::MayStart(const std::string& program, const std::string
     return Fail(Remedy::kNone, "nobody is asked for a password in a terminal");
   if (!BelongsToRoot(program))
     return Fail(Remedy::kNone,
-                "an administrator is only asked for an installed Lurkwell; others than root can "
-                "change " +
-                    program);
+                "this Lurkwell is not an installed one, as others than root can change it; the "
+                "package that ./package makes can get rights");
   if (::access(mPkexec.c_str(), X_OK) != 0)
     return Fail(Remedy::kMachine, "there is no " + mPkexec + " to ask an administrator with");
   return true;
