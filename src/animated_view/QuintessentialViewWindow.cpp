@@ -77,8 +77,8 @@ void QuintessentialViewWindow::makeKeyAndOrderFront(Showing showing) {
   if ((windowStates() & Qt::WindowMinimized) != 0)
     setWindowStates(windowStates() & ~Qt::WindowMinimized);
   // Shown again where its contents were, it would move down by its title bar each time.
-  if (!isFullscreen() && !isVisible() && IsGraspable(mNormalFrame))
-    setFramePosition(mNormalFrame.topLeft());
+  if (!isFullscreen() && !isVisible() && mNormalFrame.isValid())
+    setFramePosition(FitOnScreens(mNormalFrame).topLeft());
   // Not show(), which would make a maximised one small.
   setVisible(true);
   TakeSize();
@@ -115,10 +115,10 @@ void QuintessentialViewWindow::setAlphaValue(double alpha) {
 
 void QuintessentialViewWindow::RestoreFrame() {
   const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
-  resize(frame.isValid() ? frame.size() : kFirstSize);
-  if (!frame.isValid()) return;
-  mNormalFrame = frame;
-  if (IsGraspable(frame)) setFramePosition(frame.topLeft());
+  if (!frame.isValid()) return resize(FitOnScreens(kFirstSize));
+  mNormalFrame = FitOnScreens(frame);
+  resize(mNormalFrame.size());
+  setFramePosition(mNormalFrame.topLeft());
   if (isMaximised) setWindowStates(Qt::WindowMaximized);
 }
 

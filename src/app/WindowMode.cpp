@@ -7,12 +7,14 @@
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QThread>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 
 #include "app/SplashScreen.h"
 #include "app/appDelegate.h"
+#include "consolidator/PI_Consolidator.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
 #include "platform/Uuid.h"
@@ -27,6 +29,8 @@ namespace {
 constexpr int kUpdatesBeforePicture = 2;
 /// So that a history has something to show.
 constexpr int kUpdatesOfFollowing = 5;
+/// Between two updates, whatever the user's interval is.
+constexpr int kLongestInterval = 2000;
 constexpr int kHistoryInterval = 50;
 constexpr int kLoggingInterval = 200;
 constexpr QSize kAnimatedSize(900, 640);
@@ -57,11 +61,18 @@ class Photographer : public QObject {
   Photographer(vqAppDelegate& delegate, const CommandLine& commandLine)
       : mDelegate(delegate), mCommandLine(commandLine) {
     qApp->installEventFilter(this);
+    // What is not on a screen need not fit it.
+    delegate.mainWindow().resize(delegate.mainWindow().WantedSize());
     connect(&delegate.mainWindow().controller(), &vqMainTableController::updated, this, [this] {
       if (++mUpdates == 1) Open();
       if (mUpdates == (Follows() ? kUpdatesOfFollowing : kUpdatesBeforePicture))
         QMetaObject::invokeMethod(this, &Photographer::Take, Qt::QueuedConnection);
+      mNextUpdate.start();
     });
+    mNextUpdate.setSingleShot(true);
+    mNextUpdate.setInterval(kLongestInterval);
+    connect(&mNextUpdate, &QTimer::timeout, this,
+            [this] { RequestUpdate(mDelegate.mainWindow().controller().synchronizer()); });
   }
 
   int Status() const { return mStatus; }
@@ -143,6 +154,7 @@ class Photographer : public QObject {
   /// What was there before the window was opened.
   QWidgetList mBefore;
   int mUpdates = 0;
+  QTimer mNextUpdate;
   int mStatus = kExitSuccess;
 };
 

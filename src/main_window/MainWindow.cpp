@@ -143,7 +143,8 @@ void MainWindow::CustomiseToolbar() {
     mCustomising = new ToolbarCustomiseDialog(toolbar, this);
     // Below the toolbar, which items are to be dropped on.
     const auto below = toolbar.mapToGlobal(QPoint(toolbar.width() / 2, toolbar.height()));
-    const int lowest = screen()->availableGeometry().bottom() - mCustomising->height() - kGraspable;
+    const int lowest =
+        screen()->availableGeometry().bottom() - mCustomising->height() - kBorders.height();
     mCustomising->move(below.x() - mCustomising->width() / 2, std::min(below.y(), lowest));
   }
   BringToFront(*mCustomising);
@@ -210,13 +211,13 @@ void MainWindow::UpdateStatus() {
 // ---- Life ---------------------------------------------------------------------------------------
 
 void MainWindow::RestoreFrame() {
-  resize(kFirstSize);
   const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
-  if (!frame.isValid()) return;
-  resize(frame.size());
-  mNormalFrame = frame;
+  mWantedSize = frame.isValid() ? frame.size() : kFirstSize;
+  if (!frame.isValid()) return resize(FitOnScreens(kFirstSize));
+  mNormalFrame = FitOnScreens(frame);
+  resize(mNormalFrame.size());
   if (isMaximised) setWindowState(Qt::WindowMaximized);
-  if (IsGraspable(frame)) move(frame.topLeft());
+  move(mNormalFrame.topLeft());
 }
 
 void MainWindow::SaveFrame() {

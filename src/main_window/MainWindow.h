@@ -32,6 +32,8 @@ class MainWindow : public QMainWindow {
 
   /// Writes the window's size and place into the preferences.
   void SaveFrame();
+  /// The remembered size, or the first one, which the screen may be too small for.
+  QSize WantedSize() const { return mWantedSize; }
 
   /// For a right click beside the table: what can be done to the toolbar.
   QMenu* createPopupMenu() override;
@@ -65,6 +67,7 @@ class MainWindow : public QMainWindow {
   /// Why there are no more rights, while somebody reads it.
   std::unique_ptr<Alert> mAboutHelper;
   /// As the window manager places it and Qt sizes it, while it does not fill the screen.
+  QSize mWantedSize;
   QRect mNormalFrame{0, 0, 860, 560};
   std::unique_ptr<MainMenus> mMenus;
   /// Deletes itself when it is closed.

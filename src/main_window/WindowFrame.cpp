@@ -31,15 +31,40 @@ void WriteWindowFrame(const char* key, const QRect& frame, bool isMaximised) {
   if (std::string_view(text) != before) SetPrefString(key, text);
 }
 
-bool IsGraspable(const QRect& frame) {
-  return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen* screen) {
-    const auto free = screen->availableGeometry();
-    const auto left = std::max(frame.left(), free.left());
-    const auto right = std::min(frame.right(), free.right());
-    const bool titleIsSeen =
-        frame.top() >= free.top() - kGraspable / 2 && frame.top() <= free.bottom() - kGraspable / 2;
-    return titleIsSeen && std::int64_t{right} - left >= kGraspable - 1;
-  });
+QRect FitOnScreens(QRect frame, QSize borders) {
+  constexpr int kFarthest = 100'000;
+  frame = {std::clamp(frame.left(), -kFarthest, kFarthest),
+           std::clamp(frame.top(), -kFarthest, kFarthest), std::clamp(frame.width(), 1, kFarthest),
+           std::clamp(frame.height(), 1, kFarthest)};
+  const auto* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return frame;
+  const auto area = [](const QRect& rect) { return std::int64_t{rect.width()} * rect.height(); };
+  std::int64_t seen = 0;
+  std::int64_t most = 0;
+  for (const auto* other : QGuiApplication::screens()) {
+    const auto part = frame & other->availableGeometry();
+    const auto size = part.isEmpty() ? 0 : area(part);
+    seen += size;
+    if (size <= most) continue;
+    most = size;
+    screen = other;
+  }
+  if (seen >= area(frame)) return frame;
+  const QRect free = screen->availableGeometry();
+  const QRect room(free.topLeft(), (free.size() - borders).expandedTo(QSize(1, 1)));
+  const bool isTooLarge = frame.width() > free.width() || frame.height() > free.height();
+  if (isTooLarge) frame.setSize(frame.size().boundedTo(room.size()));
+  const auto within = [](int place, int size, int first, int span) {
+    return std::clamp(place, first, std::max(first, first + span - size));
+  };
+  frame.moveTo(within(frame.left(), frame.width(), room.left(), room.width()),
+               within(frame.top(), frame.height(), room.top(), room.height()));
+  return frame;
+}
+
+QSize FitOnScreens(QSize size) {
+  const auto* screen = QGuiApplication::primaryScreen();
+  return screen != nullptr ? size.boundedTo(screen->availableSize() - kBorders) : size;
 }
 
 }  // namespace lurkwell

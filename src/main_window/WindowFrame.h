@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+#include <QSize>
 
 namespace lurkwell {
 
@@ -14,10 +15,14 @@ WindowFrame ReadWindowFrame(const char* key);
 /// `frame` is the place without maximising. Writes what has changed only.
 void WriteWindowFrame(const char* key, const QRect& frame, bool isMaximised);
 
-/// So much of a window has to lie on a screen, in points.
-inline constexpr int kGraspable = 40;
+/// What window managers put around a window, in points, with some to spare.
+inline constexpr QSize kBorders(12, 40);
 
-/// Whether enough of its title bar lies on a screen to be taken hold of. Any corners will do.
-bool IsGraspable(const QRect& frame);
+/// The same place where all of it lies on screens, else the nearest on the screen that has most of
+/// it, or on the main one. A window that is too large for its screen fills it but for `borders`,
+/// which stand around it. Any corners will do.
+QRect FitOnScreens(QRect frame, QSize borders = kBorders);
+/// The size made small enough for the main screen, with borders around it.
+QSize FitOnScreens(QSize size);
 
 }  // namespace lurkwell

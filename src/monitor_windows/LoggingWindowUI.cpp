@@ -22,6 +22,7 @@
 #include "main_window/ControlledWindow.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
+#include "main_window/WindowFrame.h"
 #include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/LogFileName.h"
 #include "monitor_windows/LogSaving.h"
@@ -253,7 +254,8 @@ void LoggingWindowUI::placeWindow(const WindowRect* windowSize) {
     fWindow->move(place.topLeft());
     return;
   }
-  const QSize size(mStateInfo.desiredWidth + kBesideColumns, fWindow->height());
+  const QSize size =
+      FitOnScreens(QSize(mStateInfo.desiredWidth + kBesideColumns, fWindow->height()));
   fWindow->resize(size);
   fWindow->move(CascadeTopLeftFromPoint(sLastLoggingWindowOriginForCascading, size));
 }

@@ -15,11 +15,6 @@ constexpr int kCascadeStep = 24;
 constexpr int kGap = 20;
 constexpr int kLargestApart = 10'000;
 
-int SpanWithin(std::int64_t span, int smallest, int largest) {
-  return static_cast<int>(
-      std::clamp(span, std::int64_t{smallest}, std::int64_t{std::max(smallest, largest)}));
-}
-
 }  // namespace
 
 QRect AreaWithRoom(const QRect& free, const QRect& screen, QSize size) {
@@ -35,21 +30,14 @@ QRect AreaForNewWindow(QSize size) {
 }
 
 QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
-  const auto* screen = QGuiApplication::screenAt({remembered.left, remembered.top});
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  if (screen == nullptr) return {QPoint(remembered.left, remembered.top), smallest};
-  const QRect free = screen->availableGeometry();
-  const int width =
-      SpanWithin(std::int64_t{remembered.right} - remembered.left, smallest.width(), free.width());
-  const int height = SpanWithin(std::int64_t{remembered.bottom} - remembered.top, smallest.height(),
-                                free.height());
-  const QRect place({remembered.left, remembered.top}, QPoint(remembered.right, remembered.bottom));
-  if (IsGraspable(place)) return {remembered.left, remembered.top, width, height};
-  const int left =
-      std::clamp(remembered.left, free.left(), std::max(free.left(), free.right() + 1 - width));
-  const int top =
-      std::clamp(remembered.top, free.top(), std::max(free.top(), free.bottom() + 1 - height));
-  return {left, top, width, height};
+  const auto span = [](std::int32_t from, std::int32_t to, int least) {
+    return static_cast<int>(
+        std::clamp<std::int64_t>(std::int64_t{to} - from, least, kLargestApart));
+  };
+  return FitOnScreens(
+      {remembered.left, remembered.top, span(remembered.left, remembered.right, smallest.width()),
+       span(remembered.top, remembered.bottom, smallest.height())},
+      {});
 }
 
 WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others) {

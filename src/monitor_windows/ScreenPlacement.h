@@ -19,8 +19,7 @@ QRect AreaForNewWindow(QSize size);
 QRect AreaWithRoom(const QRect& free, const QRect& screen, QSize size);
 
 /// The place of a remembered window, made to fit: no smaller than `smallest`, no larger than its
-/// screen, and moved as little as needed to lie on one. It stays as it is when it
-/// does; without any screen it keeps its corner at least.
+/// screen, and moved as little as needed to lie on one.
 QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest);
 
 /// The same place, if at most half of the window, or of each of the others, would be covered there;

@@ -4,6 +4,7 @@
 desktop_test.py BINARY [unittest arguments]
 """
 import pathlib
+import re
 import signal
 import subprocess
 import time
@@ -16,7 +17,8 @@ class Shell(Desktop):
     def test_pictures_need_no_display(self):
         picture = self.home + "/main.png"
         # A picture changes nothing of what the user left.
-        left = {"DEFAULT_SHOW_PROCESS_LIST_WINDOW": 0, "MAIN_WINDOW_FRAME": "7 8 860 560"}
+        left = {"DEFAULT_SHOW_PROCESS_LIST_WINDOW": 0, "MAIN_WINDOW_FRAME": "7 8 860 560",
+                "MAIN_WINDOW_INTERVAL": 3_600_000}
         self.write_preferences(left)
         for scale, size in (("1", (860, 560)), ("2", (1720, 1120))):
             self.environment["QT_SCALE_FACTOR"] = scale
@@ -59,6 +61,23 @@ class Shell(Desktop):
                                   text=True, timeout=60, check=False)
             self.assertEqual(done.returncode, 2, words)
             self.assertIn("--help", done.stderr)
+
+    def test_windows_fit_the_screen_at_every_scale(self):
+        self.open_display()
+        main = re.compile(r'"Processes".*\s(\d+)x(\d+)\+-?\d+\+-?\d+\s+\+(-?\d+)\+(-?\d+)')
+        for scale in ("1.25", "1.5", "2"):
+            for places in ({}, {"MAIN_WINDOW_FRAME": "560 380 860 560"}):
+                self.write_preferences(places)
+                self.environment["QT_SCALE_FACTOR"] = scale
+                program = self.start([BINARY, "--unprivileged"])
+                self.wait_for(lambda: main.search(self.windows()))
+                time.sleep(0.5)
+                width, height, left, top = map(int, main.search(self.windows()).groups())
+                told = f"{width} x {height} at {left}, {top}, {scale} {places}"
+                self.assertTrue(left >= 0 and top >= 0 and left + width <= 1000 and
+                                top + height <= 800, told)
+                program.terminate()
+                self.assertEqual(program.wait(20), 0)
 
     def test_keys_act_on_what_was_selected_after_asking(self):
         self.open_display()
