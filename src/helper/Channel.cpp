@@ -1,6 +1,5 @@
 #include "helper/Channel.h"
 
-#include <errno.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
@@ -32,10 +31,7 @@ int OpenPipe(const char* path, int flags, uid_t user) {
 }
 
 ssize_t ReadRequest(int pipe) {
-  for (;;) {
-    const ssize_t size = read(pipe, gRequest, sizeof gRequest);
-    if (size >= 0 || errno != EINTR) return size;
-  }
+  return read(pipe, gRequest, sizeof gRequest);
 }
 
 /// Throws away what is left of a request that was too long. Its writer may still be at it, so the
@@ -61,8 +57,9 @@ bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel&
 
 /// The application locks its end.
 pid_t FindPeer(int pipe) {
-  struct flock lock = {};
-  lock.l_type = F_WRLCK;
+  struct flock lock {
+    F_WRLCK, SEEK_SET, 0, 0, 0
+  };
   return fcntl(pipe, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK && lock.l_pid > 0 ? lock.l_pid
                                                                                       : -1;
 }

@@ -101,7 +101,6 @@ struct Rule {
 };
 
 constexpr Rule kRules[] = {
-    {SYS_pread64, -1, {}, 0},
     {SYS_read, -1, {}, 0},
     {SYS_write, -1, {}, 0},
     {SYS_close, -1, {}, 0},

@@ -18,7 +18,7 @@ constexpr std::uint32_t kRounds[64] = {
     0x19a4c116, 0x1e376c08, 0x2748774c, 0x34b0bcb5, 0x391c0cb3, 0x4ed8aa4a, 0x5b9cca4f, 0x682e6ff3,
     0x748f82ee, 0x78a5636f, 0x84c87814, 0x8cc70208, 0x90befffa, 0xa4506ceb, 0xbef9a3f7, 0xc67178f2};
 
-constexpr std::uint64_t kLargestFile = 16 << 20;
+constexpr off_t kLargestFile = 16 << 20;
 
 }  // namespace
 
@@ -74,17 +74,13 @@ Digest::Value Digest::Finish() {
 bool DigestOfFile(int file, Digest::Value& value) {
   static std::uint8_t bytes[16384];
   Digest digest;
-  for (std::uint64_t place = 0; place <= kLargestFile;) {
-    const ssize_t size = pread(file, bytes, sizeof bytes, static_cast<off_t>(place));
-    if (size < 0) return false;
-    if (size == 0) {
-      value = digest.Finish();
-      return true;
-    }
-    digest.Add({bytes, static_cast<std::size_t>(size)});
-    place += static_cast<std::uint64_t>(size);
+  ssize_t size = 1;
+  for (off_t place = 0; size > 0 && place <= kLargestFile; place += size) {
+    size = pread(file, bytes, sizeof bytes, place);
+    if (size > 0) digest.Add({bytes, static_cast<std::size_t>(size)});
   }
-  return false;
+  value = digest.Finish();
+  return size == 0;
 }
 
 }  // namespace lurkwell::helper

@@ -4,8 +4,7 @@ namespace lurkwell::helper {
 
 namespace {
 
-constexpr std::size_t kFileCapacity = 16384;
-char gFile[kFileCapacity];
+char gFile[16384];
 
 struct Figures : Stat {
   std::uint64_t calls, switches;
@@ -29,122 +28,77 @@ std::uint64_t NumberBehind(std::string_view text, std::string_view key) {
   return TakeField(text);
 }
 
-/// A file of a process that is open while this exists.
-class ProcessFile {
- public:
-  ProcessFile(const System& system, std::int32_t pid, std::string_view name) : mSystem(system) {
-    PathWriter path;
-    path.Add("/proc/");
-    if (pid > 0) path.AddNumber(static_cast<std::uint64_t>(pid));
-    path.Add(name);
-    mDescriptor = system.openFile(path.Terminated());
-  }
-  ~ProcessFile() {
-    if (mDescriptor >= 0) mSystem.close(mDescriptor);
-  }
-  ProcessFile(const ProcessFile&) = delete;
-  ProcessFile& operator=(const ProcessFile&) = delete;
+/// Empty where the file cannot be read; valid until another one is.
+std::string_view ReadFile(const System& system, std::int32_t pid, std::string_view name) {
+  PathWriter path("/proc/");
+  if (pid > 0) path.Add(pid);
+  path.Add(name);
+  const std::ptrdiff_t size = system.readFile(path.Terminated(), gFile, sizeof gFile);
+  return {gFile, size > 0 ? static_cast<std::size_t>(size) : 0};
+}
 
-  /// Empty where it cannot be read; valid until another file is read.
-  std::string_view Read() const {
-    if (mDescriptor < 0) return {};
-    const std::ptrdiff_t size = mSystem.readFile(mDescriptor, gFile, sizeof gFile);
-    return {gFile, size > 0 ? static_cast<std::size_t>(size) : 0};
-  }
-
- private:
-  const System& mSystem;
-  int mDescriptor;
-};
-
-/// The files beside stat are opened before stat is read: whoever answers that read has had the pid
-/// since stat was opened, so all of them are his.
+/// The stat file is read again behind the others, so that all of them are one process's.
 bool GatherProcess(const System& system, const FiguresLine& line, Figures& figures) {
-  const ProcessFile stat(system, line.pid, "/stat");
-  if ((line.groups & kEventsInfo) == 0) return ParseStat(stat.Read(), figures);
-  const ProcessFile status(system, line.pid, "/status");
-  const ProcessFile io(system, line.pid, "/io");
-  if (!ParseStat(stat.Read(), figures)) return false;
-  std::string_view text = status.Read();
+  if (!ReadStat(system, line.pid, figures)) return false;
+  if ((line.groups & kEventsInfo) == 0) return true;
+  std::string_view text = ReadFile(system, line.pid, "/status");
   figures.switches = NumberBehind(text, "\nvoluntary_ctxt_switches:") +
                      NumberBehind(text, "\nnonvoluntary_ctxt_switches:");
-  text = io.Read();
+  text = ReadFile(system, line.pid, "/io");
   figures.calls = NumberBehind(text, "\nsyscr:") + NumberBehind(text, "\nsyscw:");
-  return true;
+  const std::uint64_t start = figures.fields[kStart];
+  return ReadStat(system, line.pid, figures) && figures.fields[kStart] == start;
 }
 
 /// The first line reads: cpu USER NICE SYSTEM IDLE IOWAIT ...
 void GatherMachine(const System& system, Figures& figures) {
-  const ProcessFile file(system, 0, "stat");
-  std::string_view text = file.Read();
+  std::string_view text = ReadFile(system, 0, "stat");
   for (int passed = 0; passed < 3; ++passed) TakeField(text);
-  figures.userTicks = TakeField(text);
-  figures.systemTicks = TakeField(text);
+  figures.fields[14] = TakeField(text);
+  figures.fields[15] = TakeField(text);
 }
-
-class LineWriter {
- public:
-  LineWriter(TextWriter& answer, std::int32_t pid, std::uint32_t ticksPerSecond)
-      : mAnswer(answer), mTicksPerSecond(ticksPerSecond), mPid(mPidText, sizeof mPidText) {
-    mPid.Add(' ');
-    mPid.AddNumber(static_cast<std::uint64_t>(pid));
-    mPid.Add(' ');
-  }
-
-  void Number(std::string_view property, std::uint64_t value) {
-    Begin(property, value);
-    mAnswer.Add('\n');
-  }
-
-  void Time(std::string_view property, std::uint64_t ticks) {
-    Begin(property, ticks / mTicksPerSecond);
-    mAnswer.Add('.');
-    mAnswer.AddNumber(ticks % mTicksPerSecond * 1000000 / mTicksPerSecond, 6);
-    mAnswer.Add('\n');
-  }
-
- private:
-  void Begin(std::string_view property, std::uint64_t value) {
-    mAnswer.Add(property);
-    mAnswer.Add(mPid.Text());
-    mAnswer.AddNumber(value);
-  }
-
-  TextWriter& mAnswer;
-  std::uint32_t mTicksPerSecond;
-  char mPidText[16];
-  TextWriter mPid;
-};
 
 /// What the kernel counts for a process as a whole has no share of ended threads; messages and
 /// copies on write are not counted here at all.
-void AddLines(const Figures& figures, unsigned groups, std::uint32_t pageSize, LineWriter& writer) {
-  if (groups & kThreadTime) {
-    writer.Time("pid_user_time", figures.userTicks);
-    writer.Time("pid_system_time", figures.systemTicks);
+void AddLines(const Surroundings& surroundings, const FiguresLine& line, const Figures& figures,
+              TextWriter& answer) {
+  const std::uint32_t second = surroundings.ticksPerSecond;
+  const auto& fields = figures.fields;
+  const auto number = [&](const char* property, std::uint64_t value) {
+    answer.Add(property, ' ', line.pid, ' ', value, '\n');
+  };
+  const auto time = [&](const char* property, std::uint64_t ticks) {
+    answer.Add(property, ' ', line.pid, ' ', ticks / second, '.');
+    answer.AddNumber(ticks % second * 1000000 / second, 6);
+    answer.Add('\n');
+  };
+  if (line.groups & kThreadTime) {
+    time("pid_user_time", fields[14]);
+    time("pid_system_time", fields[15]);
   }
-  if (groups & kBasicInfo) {
-    writer.Number("pid_vsz", figures.virtualSize);
-    writer.Number("pid_rsz", figures.residentPages * pageSize);
-    writer.Number("pid_suspend_count", figures.state == 'T' || figures.state == 't');
-    writer.Time("pid_terminated_user_time", 0);
-    writer.Time("pid_terminated_system_time", 0);
-    writer.Number("pid_policy", figures.policy);
+  if (line.groups & kBasicInfo) {
+    number("pid_vsz", fields[23]);
+    number("pid_rsz", fields[24] * surroundings.pageSize);
+    number("pid_suspend_count", figures.state == 'T' || figures.state == 't');
+    time("pid_terminated_user_time", 0);
+    time("pid_terminated_system_time", 0);
+    number("pid_policy", fields[41]);
   }
-  if (groups & kEventsInfo) {
-    writer.Number("pid_faults", figures.minorFaults + figures.majorFaults);
-    writer.Number("pid_pageins", figures.majorFaults);
+  if (line.groups & kEventsInfo) {
+    number("pid_faults", fields[10] + fields[12]);
+    number("pid_pageins", fields[12]);
     for (const char* uncounted :
          {"pid_cow_faults", "pid_messages_sent", "pid_messages_received", "pid_syscalls_mach"})
-      writer.Number(uncounted, 0);
-    writer.Number("pid_syscalls_unix", figures.calls);
-    writer.Number("pid_csw", figures.switches);
+      number(uncounted, 0);
+    number("pid_syscalls_unix", figures.calls);
+    number("pid_csw", figures.switches);
   }
 }
 
 }  // namespace
 
-bool ParseStat(std::string_view text, Stat& stat) {
+bool ReadStat(const System& system, std::int32_t pid, Stat& stat) {
+  std::string_view text = ReadFile(system, pid, "/stat");
   const std::size_t open = text.find('(');
   const std::size_t close = text.rfind(')');
   if (open == std::string_view::npos || close == std::string_view::npos || close < open ||
@@ -153,21 +107,8 @@ bool ParseStat(std::string_view text, Stat& stat) {
   stat.name = std::string_view(text.data() + open + 1, close - open - 1);
   stat.state = text[close + 2];
   text.remove_prefix(close + 3);
-  std::uint64_t fields[42] = {};
-  for (unsigned field = 4; field <= 41; ++field) fields[field] = TakeField(text);
-  stat.minorFaults = fields[10];
-  stat.majorFaults = fields[12];
-  stat.userTicks = fields[14];
-  stat.systemTicks = fields[15];
-  stat.start = fields[22];
-  stat.virtualSize = fields[23];
-  stat.residentPages = fields[24];
-  stat.policy = static_cast<std::uint32_t>(fields[41]);
+  for (int field = 4; field <= kLastField; ++field) stat.fields[field] = TakeField(text);
   return true;
-}
-
-bool ReadStat(const System& system, std::int32_t pid, Stat& stat) {
-  return ParseStat(ProcessFile(system, pid, "/stat").Read(), stat);
 }
 
 bool AddFigures(const System& system, const Surroundings& surroundings, ReportedStarts& starts,
@@ -176,16 +117,14 @@ bool AddFigures(const System& system, const Surroundings& surroundings, Reported
   if (line.pid == 0) {
     GatherMachine(system, figures);
   } else if (GatherProcess(system, line, figures)) {
-    starts.Remember(line.pid, figures.start);
+    starts.Remember(line.pid, figures.fields[kStart]);
   } else {
     return true;
   }
-  const std::size_t before = answer.Size();
-  LineWriter writer(answer, line.pid, surroundings.ticksPerSecond);
-  AddLines(figures, line.groups, surroundings.pageSize, writer);
-  if (answer.Fits()) return true;
-  answer.CutTo(before);
-  return false;
+  TextWriter longer = answer;
+  AddLines(surroundings, line, figures, longer);
+  if (longer.Fits()) answer = longer;
+  return longer.Fits();
 }
 
 }  // namespace lurkwell::helper

@@ -9,17 +9,16 @@
 
 namespace lurkwell::helper {
 
-/// What a stat file says of a process: sizes in bytes and pages, the start in ticks since boot, and
-/// the name, which may hold any byte and points into the text.
+/// Of the fields of a stat file, which are known by their numbers: the start in ticks since boot,
+/// and the last one that is of use.
+inline constexpr int kStart = 22, kLastField = 41;
+
+/// What a stat file says of a process. The name may hold any byte and points into the text.
 struct Stat {
   std::string_view name;
   char state;
-  std::uint32_t policy;
-  std::uint64_t minorFaults, majorFaults, userTicks, systemTicks, start, virtualSize, residentPages;
+  std::uint64_t fields[kLastField + 1];
 };
-
-/// Reads one line of a stat file; false, and nothing written, when it is not one.
-bool ParseStat(std::string_view text, Stat& stat);
 
 /// Reads the stat file of a process; false, and nothing written, when it cannot. The name is valid
 /// until other files are read.

@@ -49,18 +49,14 @@ bool ResetDescriptors(Output output) {
 }
 
 void ResetSignals() {
-  struct sigaction action = {};
-  action.sa_handler = SIG_DFL;
-  for (int signal = 1; signal < NSIG; ++signal) sigaction(signal, &action, nullptr);
-  action.sa_handler = SIG_IGN;
-  sigaction(SIGPIPE, &action, nullptr);
+  for (int number = 1; number < NSIG; ++number) signal(number, SIG_DFL);
+  signal(SIGPIPE, SIG_IGN);
   sigset_t none;
   sigemptyset(&none);
   sigprocmask(SIG_SETMASK, &none, nullptr);
   constexpr itimerval kStopped{};
-  setitimer(ITIMER_REAL, &kStopped, nullptr);
-  setitimer(ITIMER_VIRTUAL, &kStopped, nullptr);
-  setitimer(ITIMER_PROF, &kStopped, nullptr);
+  for (const auto timer : {ITIMER_REAL, ITIMER_VIRTUAL, ITIMER_PROF})
+    setitimer(timer, &kStopped, nullptr);
 }
 
 void ResetLimits() {

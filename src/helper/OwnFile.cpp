@@ -42,9 +42,7 @@ int OpenChecked(int folder, const char* name, int flags, uid_t user,
   struct stat info;
   int file = -1;
   if (fstat(handle, &info) == 0 && accepts(info, user)) {
-    PathWriter path;
-    path.Add("/proc/self/fd/");
-    path.AddNumber(static_cast<std::uint64_t>(handle));
+    PathWriter path("/proc/self/fd/", handle);
     file = open(path.Terminated(), flags | O_CLOEXEC | O_NOCTTY);
   }
   close(handle);
@@ -86,10 +84,7 @@ Version FindVersion(const Digest::Value& digest) {
   close(file);
   char wanted[65];
   TextWriter writer(wanted, sizeof wanted);
-  for (const std::uint8_t byte : digest) {
-    writer.Add("0123456789abcdef"[byte >> 4]);
-    writer.Add("0123456789abcdef"[byte & 15]);
-  }
+  for (const std::uint8_t byte : digest) writer.Add(kHexDigits[byte >> 4], kHexDigits[byte & 15]);
   writer.Add('\n');
   std::string_view rest(list, size > 0 ? static_cast<std::size_t>(size) : 0);
   Version version = Version::kUnknown;

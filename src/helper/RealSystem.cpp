@@ -42,10 +42,7 @@ int SetNiceOfThread(std::int32_t thread, int nice) {
 int SetNice(std::int32_t pid, int nice) {
   const int result = SetNiceOfThread(pid, nice);
   if (result < 0) return result;
-  PathWriter path;
-  path.Add("/proc/");
-  path.AddNumber(static_cast<std::uint64_t>(pid));
-  path.Add("/task");
+  PathWriter path("/proc/", pid, "/task");
   const int threads = open(path.Terminated(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (threads < 0) return OrError(threads);
   alignas(8) char entries[4096];
@@ -64,12 +61,12 @@ int SetNice(std::int32_t pid, int nice) {
   return result;
 }
 
-int OpenFile(const char* path) {
-  return OrError(open(path, O_RDONLY | O_CLOEXEC));
-}
-
-std::ptrdiff_t ReadFile(int file, char* buffer, std::size_t capacity) {
-  return OrError(pread(file, buffer, capacity, 0));
+std::ptrdiff_t ReadFile(const char* path, char* buffer, std::size_t capacity) {
+  const int file = open(path, O_RDONLY | O_CLOEXEC);
+  if (file < 0) return OrError(file);
+  const ssize_t size = OrError(read(file, buffer, capacity));
+  close(file);
+  return size;
 }
 
 void Close(int descriptor) {
@@ -82,7 +79,7 @@ void Log(std::string_view line) {
 
 }  // namespace
 
-const System kRealSystem = {OpenProcess, SignalProcess, SetNice, OpenFile, ReadFile, Close, Log};
+const System kRealSystem = {OpenProcess, SignalProcess, SetNice, ReadFile, Close, Log};
 
 /// A full log holds an action up for a moment only: the application waits 250 ms for its answer.
 void ConnectLog() {

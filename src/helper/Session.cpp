@@ -20,7 +20,7 @@ std::string_view Session::Answer(std::string_view request) {
   std::string_view rest = request;
   if (request == kUserQuestion) {
     TextWriter answer(mAnswer, sizeof mAnswer);
-    answer.AddNumber(mSurroundings.startUser);
+    answer.Add(mSurroundings.startUser);
     return answer.Text();
   }
   if (TakePrefix(rest, kFiguresHeader))

@@ -14,11 +14,10 @@ struct System {
   int (*signalProcess)(int process, int signal);
   /// Of all threads of the process.
   int (*setNice)(std::int32_t pid, int nice);
-  /// Opens a file below /proc for reading.
-  int (*openFile)(const char* path);
-  /// Reads the file from its start; the number of bytes.
-  std::ptrdiff_t (*readFile)(int file, char* buffer, std::size_t capacity);
-  void (*close)(int descriptor);
+  /// One read of a file below /proc; the number of bytes.
+  std::ptrdiff_t (*readFile)(const char* path, char* buffer, std::size_t capacity);
+  /// What openProcess gave.
+  void (*close)(int process);
   /// One line for the system log; without effect where there is none.
   void (*log)(std::string_view line);
 };

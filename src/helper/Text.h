@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -8,37 +9,26 @@
 namespace lurkwell::helper {
 
 /// Writes text into a buffer of the caller, never past its end: what does not fit is left out
-/// whole, and Fits() says so until the text is cut back.
+/// whole, and Fits() says so.
 class TextWriter {
  public:
-  TextWriter(char* buffer, std::size_t capacity, std::size_t size = 0)
-      : mBuffer(buffer), mCapacity(capacity), mSize(size) {}
+  TextWriter(char* buffer, std::size_t capacity) : mBuffer(buffer), mCapacity(capacity) {}
 
-  void Add(std::string_view text) {
-    if (text.size() > mCapacity - mSize) {
-      mFits = false;
-    } else {
-      std::memcpy(mBuffer + mSize, text.data(), text.size());
-      mSize += text.size();
-    }
+  /// Texts, characters, and numbers, which are not negative, in decimal.
+  template <typename... Parts>
+  void Add(Parts... parts) {
+    (AddPart(parts), ...);
   }
 
-  void Add(char character) { Add(std::string_view(&character, 1)); }
-
   /// `value` in decimal with at least `width` digits.
-  void AddNumber(std::uint64_t value, unsigned width = 1) {
+  void AddNumber(std::uint64_t value, unsigned width) {
     char digits[20];
     std::size_t first = sizeof digits;
     do {
       digits[--first] = static_cast<char>('0' + value % 10);
       value /= 10;
     } while (first > 0 && (value > 0 || sizeof digits - first < width));
-    Add(std::string_view(digits + first, sizeof digits - first));
-  }
-
-  void CutTo(std::size_t size) {
-    mSize = size;
-    mFits = true;
+    AddPart(std::string_view(digits + first, sizeof digits - first));
   }
 
   bool Fits() const { return mFits; }
@@ -46,16 +36,28 @@ class TextWriter {
   std::string_view Text() const { return {mBuffer, mSize}; }
 
  private:
+  void AddPart(std::string_view text) {
+    mFits = mFits && text.size() <= mCapacity - mSize;
+    if (text.size() > mCapacity - mSize) return;
+    std::memcpy(mBuffer + mSize, text.data(), text.size());
+    mSize += text.size();
+  }
+  void AddPart(char character) { AddPart(std::string_view(&character, 1)); }
+  void AddPart(std::integral auto number) { AddNumber(static_cast<std::uint64_t>(number), 1); }
+
   char* mBuffer;
   std::size_t mCapacity;
-  std::size_t mSize;
+  std::size_t mSize = 0;
   bool mFits = true;
 };
 
 /// A short path of fixed parts and numbers.
 class PathWriter : public TextWriter {
  public:
-  PathWriter() : TextWriter(mPath, sizeof mPath - 1) {}
+  template <typename... Parts>
+  explicit PathWriter(Parts... parts) : TextWriter(mPath, sizeof mPath - 1) {
+    Add(parts...);
+  }
   /// The path with a NUL behind it, valid until the next Add.
   const char* Terminated() {
     mPath[Size()] = '\0';
@@ -68,11 +70,12 @@ class PathWriter : public TextWriter {
 
 /// Removes `prefix` from the front of `text`; false, and nothing removed, when it is not there.
 inline bool TakePrefix(std::string_view& text, std::string_view prefix) {
-  if (text.size() < prefix.size() || std::memcmp(text.data(), prefix.data(), prefix.size()) != 0)
-    return false;
+  if (!text.starts_with(prefix)) return false;
   text.remove_prefix(prefix.size());
   return true;
 }
+
+inline constexpr char kHexDigits[] = "0123456789abcdef";
 
 inline bool IsDigit(char character) {
   return character >= '0' && character <= '9';

@@ -152,9 +152,7 @@ int SetPermissions(uid_t user) {
   if (reason == nullptr) return 0;
   char buffer[160];
   TextWriter line(buffer, sizeof buffer);
-  line.Add("Lurkwell_permissions: ");
-  line.Add(reason);
-  line.Add('\n');
+  line.Add("Lurkwell_permissions: ", reason, '\n');
   return write(STDERR_FILENO, line.Text().data(), line.Size()) < 0 ? kExitNotPermitted + 1
                                                                    : kExitNotPermitted;
 }

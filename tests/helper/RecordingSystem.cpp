@@ -59,14 +59,10 @@ int SetNice(std::int32_t pid, int nice) {
   return 0;
 }
 
-int OpenFile(const char* path) {
+std::ptrdiff_t ReadFile(const char* path, char* buffer, std::size_t capacity) {
   gSystem->opened.emplace_back(path);
-  return TextOf(path).empty() ? -ENOENT : Remember(path);
-}
-
-std::ptrdiff_t ReadFile(int file, char* buffer, std::size_t capacity) {
-  const std::string text = TextOf(gSystem->open.at(file));
-  if (text.empty()) return -ESRCH;
+  const std::string text = TextOf(path);
+  if (text.empty()) return -ENOENT;
   const std::size_t size = std::min(capacity, text.size());
   std::memcpy(buffer, text.data(), size);
   return static_cast<std::ptrdiff_t>(size);
@@ -80,7 +76,7 @@ void Log(std::string_view line) {
   gSystem->log.emplace_back(line);
 }
 
-constexpr System kCalls = {OpenProcess, SignalProcess, SetNice, OpenFile, ReadFile, Close, Log};
+constexpr System kCalls = {OpenProcess, SignalProcess, SetNice, ReadFile, Close, Log};
 
 }  // namespace
 

@@ -1,4 +1,5 @@
 // What the helper answers and does, on a machine that exists in memory.
+#include <errno.h>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -78,8 +79,12 @@ TEST_F(SessionTest, AProcessOtherThanTheOneReportedIsLeftAlone) {
   mMachine.beforeEffect = [](RecordingSystem& machine) { machine.processes[2].start = 7; };
   EXPECT_EQ(Act("renice 2 5"), "!Error another process has this pid\n");
   mMachine.beforeEffect = nullptr;
-  mMachine.signalError = -1;
-  EXPECT_EQ(Act("kill_cont 2"), "!Error refused by the system\n");
+  for (const auto& [error, words] : {std::pair(EPERM, "this takes an administrator's rights"),
+                                     {ESRCH, "no such process"},
+                                     {EINVAL, "refused by the system"}}) {
+    mMachine.signalError = -error;
+    EXPECT_EQ(Act("kill_cont 2"), "!Error " + std::string(words) + "\n");
+  }
 }
 
 TEST_F(SessionTest, EveryActionIsOneLineOfTheLogWhateverTheName) {
