@@ -2155,6 +2155,10 @@
         <source></source>
         <translation>you may not do that without an administrator's rights</translation>
     </message>
+    <message id="action_reason_in_words">
+        <source></source>
+        <translation>the helper says “%1”</translation>
+    </message>
     <message id="action_reason_no_helper">
         <source></source>
         <translation>the helper does not answer</translation>

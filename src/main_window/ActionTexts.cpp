@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <utility>
 
 #include "main_window/PropertyText.h"
 #include "resources/Resources.h"
@@ -79,6 +80,7 @@ const char* OutcomeWord(ProcessCommand command, KillStep step) {
   return "terminate";
 }
 
+/// Why nothing was done, where the helper says nothing about it.
 const char* ReasonWord(ActionResult result) {
   switch (result) {
     case ActionResult::kGone:
@@ -94,6 +96,11 @@ const char* ReasonWord(ActionResult result) {
     default:
       return "nobody";
   }
+}
+
+QString ReasonText(const ActionOutcome& outcome) {
+  if (outcome.helperWords.empty()) return Text("action_reason_", ReasonWord(outcome.result));
+  return LocalizedString("action_reason_in_words").arg(QString::fromStdString(outcome.helperWords));
 }
 
 QString NameAndPid(const ActionReport& report) {
@@ -155,17 +162,16 @@ QString QuestionWarning(const ActionPlan& plan) {
 
 QString ReportText(ProcessCommand command, const std::vector<ActionReport>& reports) {
   std::map<std::string, std::vector<const ActionReport*>> done;
-  std::map<ActionResult, std::vector<const ActionReport*>> failed;
+  std::map<std::pair<ActionResult, QString>, std::vector<const ActionReport*>> failed;
   for (const auto& report : reports) {
-    if (report.result == ActionResult::kDone)
+    if (report.outcome == ActionResult::kDone)
       done[OutcomeWord(command, report.step)].push_back(&report);
     else
-      failed[report.result].push_back(&report);
+      failed[{report.outcome.result, ReasonText(report.outcome)}].push_back(&report);
   }
   QStringList sentences;
-  for (const auto& [result, whom] : failed)
-    sentences.append(LocalizedString("action_failed")
-                         .arg(Whom(whom), Text("action_reason_", ReasonWord(result))));
+  for (const auto& [why, whom] : failed)
+    sentences.append(LocalizedString("action_failed").arg(Whom(whom), why.second));
   for (const auto& [word, whom] : done)
     sentences.append(
         Text("action_done_", word.c_str(), whom.size() == 1 ? "_one" : "_several").arg(Whom(whom)));

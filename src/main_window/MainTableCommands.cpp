@@ -86,7 +86,7 @@ void vqMainTableController::forSelectedPSNs(Action action) {
   for (const auto pid : selectedPids()) {
     const auto psn = SerialNumberOf(pid);
     if (!psn.IsNone() && !action(psn))
-      failed.push_back({pid, WholeNameOf(pid), ActionResult::kNobody});
+      failed.push_back({pid, WholeNameOf(pid), {ActionResult::kNobody}});
   }
   if (!failed.empty()) Q_EMIT reported(ReportText(ProcessCommand::kContinue, failed));
 }

@@ -59,30 +59,30 @@ bool MustAsk(const ActionPlan& plan) {
 
 ActionReport CarryOut(Command command, const ActionTarget& target) {
   const auto pid = target.process.pid;
-  ActionReport report{pid, target.name, ActionResult::kGone, target.step};
+  ActionReport report{pid, target.name, {ActionResult::kGone}, target.step};
   if (GetPidsStartStamp(pid) != target.process.startStamp) return report;
   if (pid < 0 && !IsKnownApplication(pid)) return report;
   switch (command) {
     case Command::kKill: {
-      const auto outcome = KillProcess(pid);
-      report.result = outcome.result;
+      auto outcome = KillProcess(pid);
       report.step = outcome.step;
+      report.outcome = std::move(outcome);
       break;
     }
     case Command::kHalt:
-      report.result = HaltProcess(pid);
+      report.outcome = HaltProcess(pid);
       break;
     case Command::kContinue:
-      report.result = ContinueProcess(pid);
+      report.outcome = ContinueProcess(pid);
       break;
     case Command::kHighPriority:
-      report.result = SetHighPriority(pid);
+      report.outcome = SetHighPriority(pid);
       break;
     case Command::kNormalPriority:
-      report.result = SetNormalPriority(pid);
+      report.outcome = SetNormalPriority(pid);
       break;
     case Command::kLowPriority:
-      report.result = SetLowPriority(pid);
+      report.outcome = SetLowPriority(pid);
       break;
   }
   return report;
@@ -105,7 +105,7 @@ ActionPlan PlanAction(ProcessCommand command, std::span<const std::int32_t> pids
       target.description = std::move(descriptions[pid]);
     const auto obstacle = Obstacle(command, target);
     if (obstacle != ActionResult::kDone) {
-      plan.impossible.push_back({pid, std::move(target.name), obstacle});
+      plan.impossible.push_back({pid, std::move(target.name), {obstacle}});
       continue;
     }
     if (command == Command::kKill) {

@@ -37,7 +37,7 @@ struct ActionTarget {
 struct ActionReport {
   std::int32_t pid;
   std::string name;
-  ActionResult result;
+  ActionOutcome outcome;
   /// Of a kill: the step that was taken.
   KillStep step = KillStep::kTerminate;
 };

@@ -10,6 +10,7 @@
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/NamedPipes.h"
+#include "platform/PrintableText.h"
 #include "platform/Tools.h"
 #include "process_control/DaemonCommunication.h"
 
@@ -50,11 +51,19 @@ struct Outstanding {
   std::string late;
 } gOutstanding;
 
-std::size_t WithoutError(std::span<char> buffer, std::ptrdiff_t size) {
+/// Ends the text in the buffer. One that says why something was refused becomes empty; its words go
+/// into `refusal`, unless that is null.
+void EndText(std::span<char> buffer, std::ptrdiff_t size, std::string* refusal) {
   const auto length = static_cast<std::size_t>(size);
   buffer[length] = '\0';
-  if (std::string_view(buffer.data(), length).starts_with(kError)) buffer[0] = '\0';
-  return length;
+  std::string_view text(buffer.data(), length);
+  if (!text.starts_with(kError)) return;
+  if (refusal != nullptr) {
+    text.remove_prefix(kError.size());
+    while (text.starts_with(' ')) text.remove_prefix(1);
+    *refusal = PrintableText(WithoutNewline(text));
+  }
+  buffer[0] = '\0';
 }
 
 Milliseconds Since(TimeValue moment) {
@@ -116,7 +125,7 @@ bool TakeOutstanding(Milliseconds limit) {
   char answer[kLongestAnswer + 1];
   const auto size = ReadAnswer({answer, kLongestAnswer}, limit);
   if (size <= 0) return false;
-  WithoutError(answer, size);
+  EndText(answer, size, nullptr);
   gOutstanding.late = answer;
   return true;
 }
@@ -130,13 +139,15 @@ std::ptrdiff_t Exchange(std::string_view request, std::span<char> answer, Millis
   return ReadAnswer(answer, std::max(limit - Since(begun), Milliseconds(0)));
 }
 
-std::ptrdiff_t Query(const char* request, char* answer, std::int32_t capacity, Milliseconds limit) {
+std::ptrdiff_t Query(const char* request, char* answer, std::int32_t capacity, Milliseconds limit,
+                     std::string* refusal) {
   *answer = '\0';
+  if (refusal != nullptr) refusal->clear();
   if (gFd_a2d < 0 || capacity < 1) return -1;
   const std::span<char> buffer(answer, static_cast<std::size_t>(capacity) + 1);
   const auto size = Exchange(request, buffer.first(buffer.size() - 1), limit);
   if (size > 0) {
-    WithoutError(buffer, size);
+    EndText(buffer, size, refusal);
   } else {
     *answer = '\0';
   }
@@ -224,7 +235,7 @@ std::ptrdiff_t DaemonConversation::Query(const char* request, char* answer, std:
   if (gFd_a2d < 0) return -1;
   if (left <= Milliseconds(0)) return kDaemonNotAsked;
   const auto begun = TheMachine().clock.Now();
-  const auto size = lurkwell::Query(request, answer, capacity, left);
+  const auto size = lurkwell::Query(request, answer, capacity, left, nullptr);
   mWaited += std::chrono::duration<double>(SecondsBetween(begun, TheMachine().clock.Now()));
   if (size == kDaemonAnswersLater) {
     mWaited = gDaemonLimits.beat;
@@ -238,9 +249,10 @@ std::string DaemonConversation::TakeLateAnswer() {
   return std::exchange(gOutstanding.late, {});
 }
 
-std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity) {
+std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity,
+                           std::string* refusal) {
   // The answers themselves are limited.
-  return Query(request, answer, capacity, std::chrono::hours(1));
+  return Query(request, answer, capacity, std::chrono::hours(1), refusal);
 }
 
 void SettleDaemonChannel() {

@@ -62,9 +62,11 @@ inline constexpr std::ptrdiff_t kDaemonNotAsked = -3;
 /// Sends a request and reads the answer: at most `capacity` bytes (1 or more) and a NUL behind
 /// them, so the buffer has one byte more. Returns the bytes read, 0 when the helper has closed, -1
 /// when it is not there or did not answer within 250 ms (500 ms when an answer of an earlier beat
-/// is still to come). The answer is an empty text then, and also when it begins with "!Error". A
-/// closed channel costs nothing.
-std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity);
+/// is still to come). The answer is an empty text then, and also when it begins with "!Error": what
+/// the helper says behind that goes into `refusal`, on one line, unless that is null; else it is
+/// left empty. A closed channel costs nothing.
+std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity,
+                           std::string* refusal = nullptr);
 
 /// The requests of one beat, which wait for the helper 100 ms at most together. Not nested.
 class DaemonConversation {

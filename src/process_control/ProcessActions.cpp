@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <string>
+#include <utility>
 
 #include "consolidator/ProcessQueries.h"
 #include "consolidator/SyntheticPids.h"
@@ -34,20 +35,43 @@ ActionResult Obstacle(std::int32_t pid) {
   return IsAsShown(pid) ? ActionResult::kDone : ActionResult::kGone;
 }
 
-/// Has the helper carry out one verb line; its answer into `text`, unless that is null.
-ActionResult AskForAction(std::int32_t pid, const std::string& line, std::string* text = nullptr) {
-  constexpr std::int32_t kCapacity = 255;
-  if (const auto obstacle = Obstacle(pid); obstacle != ActionResult::kDone) return obstacle;
+/// The helper's answer to one request; `outcome` says what it means when it is empty.
+struct Reply {
+  std::string text;
+  ActionOutcome outcome;
+};
+
+Reply Ask(std::int32_t pid, const std::string& request) {
+  constexpr std::int32_t kCapacity = 511;
   char answer[kCapacity + 1] = "";
-  const auto size = QueryDaemon(("Lkw Action Request:\n" + line).c_str(), answer, kCapacity);
-  if (text != nullptr) *text = answer;
-  if (size <= 0) return ActionResult::kNoHelper;
-  if (*answer != '\0') return ActionResult::kDone;
-  return IsAsShown(pid) ? ActionResult::kRefused : ActionResult::kGone;
+  std::string words;
+  const auto size = QueryDaemon(request.c_str(), answer, kCapacity, &words);
+  if (size <= 0) return {{}, {ActionResult::kNoHelper}};
+  if (*answer != '\0') return {answer, {ActionResult::kDone}};
+  if (!IsAsShown(pid)) return {{}, {ActionResult::kGone}};
+  return {{}, {ActionResult::kRefused, std::move(words)}};
 }
 
-ActionResult Act(const char* verb, std::int32_t pid) {
-  return AskForAction(pid, verb + std::string(" ") + std::to_string(pid));
+/// Has the helper look at the process, so that it remembers which one has the pid now, and then
+/// looks itself: what both see is the one that is shown, and the helper leaves any later one alone.
+ActionOutcome Agree(std::int32_t pid) {
+  const auto number = std::to_string(pid);
+  auto [figures, outcome] =
+      Ask(pid, "Lkw Info Extraction:\npid_internal_basic_info " + number + "\n");
+  if (outcome != ActionResult::kDone) return outcome;
+  if (figures.find(' ' + number + ' ') == std::string::npos) return {ActionResult::kNoHelper};
+  return {IsAsShown(pid) ? ActionResult::kDone : ActionResult::kGone};
+}
+
+/// Has the helper carry out one verb line.
+Reply AskForAction(std::int32_t pid, const std::string& line) {
+  if (const auto obstacle = Obstacle(pid); obstacle != ActionResult::kDone) return {{}, {obstacle}};
+  if (auto outcome = Agree(pid); outcome != ActionResult::kDone) return {{}, std::move(outcome)};
+  return Ask(pid, "Lkw Action Request:\n" + line);
+}
+
+ActionOutcome Act(const char* verb, std::int32_t pid) {
+  return AskForAction(pid, verb + std::string(" ") + std::to_string(pid)).outcome;
 }
 
 ProcessSerialNumber FindFinder() {
@@ -61,12 +85,12 @@ ProcessSerialNumber FindFinder() {
   return {};
 }
 
-ActionResult ChangePriority(std::int32_t pid, std::int32_t nice) {
-  const auto result = ReniceProcessPID(pid, nice);
-  if (result != ActionResult::kDone) return result;
+ActionOutcome ChangePriority(std::int32_t pid, std::int32_t nice) {
+  auto outcome = ReniceProcessPID(pid, nice);
+  if (outcome != ActionResult::kDone) return outcome;
   RemoveProcessAction(pid, kProcessActionRenice);
   if (nice != kNormalNice) AddProcessAction(pid, kProcessActionRenice, nice);
-  return result;
+  return outcome;
 }
 
 ProcessSerialNumber SerialNumberOf(std::int32_t pid) {
@@ -98,18 +122,18 @@ ActionResult Terminate(std::int32_t pid) {
   return IsAsShown(pid) ? ActionResult::kRefused : ActionResult::kGone;
 }
 
-ActionResult TakeStep(std::int32_t pid, KillStep step, ProcessSerialNumber psn) {
+ActionOutcome TakeStep(std::int32_t pid, KillStep step, ProcessSerialNumber psn) {
   switch (step) {
     case KillStep::kQuit:
-      return KillProcessPSN(psn) ? ActionResult::kDone : ActionResult::kNobody;
+      return {KillProcessPSN(psn) ? ActionResult::kDone : ActionResult::kNobody};
     case KillStep::kTerminate:
-      return Terminate(pid);
+      return {Terminate(pid)};
     case KillStep::kTerminateByHelper:
       return KillProcessPID(pid);
     case KillStep::kForce:
       return KillProcessDeadPID(pid);
   }
-  return ActionResult::kNobody;
+  return {ActionResult::kNobody};
 }
 
 /// Whether it was not the process that stood in the way, but the way.
@@ -142,42 +166,41 @@ std::size_t RevealProcessesInFinder(std::span<const ProcessSerialNumber> psns) {
   return static_cast<std::size_t>(revealed);
 }
 
-ActionResult KillProcessPID(std::int32_t pid) {
+ActionOutcome KillProcessPID(std::int32_t pid) {
   return Act("kill_normal", pid);
 }
 
-ActionResult KillProcessDeadPID(std::int32_t pid) {
+ActionOutcome KillProcessDeadPID(std::int32_t pid) {
   return Act("kill_harsh", pid);
 }
 
-ActionResult HaltProcessPID(std::int32_t pid) {
+ActionOutcome HaltProcessPID(std::int32_t pid) {
   return ActuallyHaltProcessPID(pid);
 }
 
-ActionResult ContProcessPID(std::int32_t pid) {
+ActionOutcome ContProcessPID(std::int32_t pid) {
   return ActuallyContProcessPID(pid);
 }
 
-ActionResult ReniceProcessPID(std::int32_t pid, std::int32_t niceValue) {
+ActionOutcome ReniceProcessPID(std::int32_t pid, std::int32_t niceValue) {
   return ActuallyReniceProcessPID(pid, niceValue);
 }
 
-ActionResult ActuallyHaltProcessPID(std::int32_t pid) {
+ActionOutcome ActuallyHaltProcessPID(std::int32_t pid) {
   return Act("kill_halt", pid);
 }
 
-ActionResult ActuallyContProcessPID(std::int32_t pid) {
+ActionOutcome ActuallyContProcessPID(std::int32_t pid) {
   return Act("kill_cont", pid);
 }
 
-ActionResult ActuallyReniceProcessPID(std::int32_t pid, std::int32_t niceValue) {
+ActionOutcome ActuallyReniceProcessPID(std::int32_t pid, std::int32_t niceValue) {
   Require(niceValue >= -20, kActionsUnit, "niceValue >= -20");
   Require(niceValue <= 20, kActionsUnit, "niceValue <= 20");
-  std::string answer;
-  const auto result =
-      AskForAction(pid, "renice " + std::to_string(pid) + " " + std::to_string(niceValue), &answer);
+  auto [answer, outcome] =
+      AskForAction(pid, "renice " + std::to_string(pid) + " " + std::to_string(niceValue));
   std::printf("Renice returns %s\n", PrintableText(WithoutNewline(answer)).c_str());
-  return result;
+  return outcome;
 }
 
 KillStep NextKillStep(std::int32_t pid) {
@@ -191,49 +214,49 @@ KillOutcome KillProcess(std::int32_t pid) {
   const auto psn = SerialNumberOf(pid);
   if (pid < 0) {
     Require(!psn.IsNone(), kActionsUnit, "psn.highLongOfPSN || psn.lowLongOfPSN");
-    const auto result = TakeStep(pid, KillStep::kQuit, psn);
-    if (result == ActionResult::kDone) NoteAskedToEnd(pid), IncrementPidsKillCount(pid);
-    return {result, KillStep::kQuit};
+    auto outcome = TakeStep(pid, KillStep::kQuit, psn);
+    if (outcome == ActionResult::kDone) NoteAskedToEnd(pid), IncrementPidsKillCount(pid);
+    return {std::move(outcome), KillStep::kQuit};
   }
   auto step = StepAfter(GetPidsKillCount(pid), psn);
-  auto result = TakeStep(pid, step, psn);
-  while (GoesOn(result, step)) {
+  auto outcome = TakeStep(pid, step, psn);
+  while (GoesOn(outcome.result, step)) {
     step = static_cast<KillStep>(static_cast<std::uint8_t>(step) + 1);
-    result = TakeStep(pid, step, psn);
+    outcome = TakeStep(pid, step, psn);
   }
-  if (result == ActionResult::kDone) {
+  if (outcome == ActionResult::kDone) {
     CountSteps(pid, step, psn);
     if (step != KillStep::kForce) NoteAskedToEnd(pid);
   }
-  return {result, step};
+  return {std::move(outcome), step};
 }
 
-ActionResult SetHighPriority(std::int32_t pid) {
+ActionOutcome SetHighPriority(std::int32_t pid) {
   return ChangePriority(pid, kHighNice);
 }
 
-ActionResult SetNormalPriority(std::int32_t pid) {
+ActionOutcome SetNormalPriority(std::int32_t pid) {
   return ChangePriority(pid, kNormalNice);
 }
 
-ActionResult SetLowPriority(std::int32_t pid) {
+ActionOutcome SetLowPriority(std::int32_t pid) {
   return ChangePriority(pid, kLowNice);
 }
 
-ActionResult HaltProcess(std::int32_t pid) {
+ActionOutcome HaltProcess(std::int32_t pid) {
   const bool isHalted = GetProcessAction(pid, kProcessActionHalt, nullptr);
   if (isHalted) std::fputs("Not really expecting this pid to be in the halted list\n", stderr);
-  const auto result = HaltProcessPID(pid);
-  if (result == ActionResult::kDone && !isHalted) AddProcessAction(pid, kProcessActionHalt, 0);
-  return result;
+  auto outcome = HaltProcessPID(pid);
+  if (outcome == ActionResult::kDone && !isHalted) AddProcessAction(pid, kProcessActionHalt, 0);
+  return outcome;
 }
 
-ActionResult ContinueProcess(std::int32_t pid) {
+ActionOutcome ContinueProcess(std::int32_t pid) {
   if (!GetProcessAction(pid, kProcessActionHalt, nullptr))
     std::fputs("unexpected: this pid should be in the halted list\n", stderr);
-  const auto result = ContProcessPID(pid);
-  if (result == ActionResult::kDone) RemoveProcessAction(pid, kProcessActionHalt);
-  return result;
+  auto outcome = ContProcessPID(pid);
+  if (outcome == ActionResult::kDone) RemoveProcessAction(pid, kProcessActionHalt);
+  return outcome;
 }
 
 ProcessActionHelper::ProcessActionHelper(long interval, int number, const Uuid* uuid)

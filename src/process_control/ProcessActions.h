@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "consolidator/ProcessInformationClient.h"
 #include "platform/ProcessIdentity.h"
@@ -21,6 +22,15 @@ enum class ActionResult : std::uint8_t {
   kRefused,       ///< the user may not do it, not even by way of the helper
   kNoHelper,      ///< there is no helper, or it did not answer
   kNobody,        ///< this desktop has nobody that could be asked
+};
+
+/// Of one action.
+struct ActionOutcome {
+  ActionResult result;
+  /// Of a refusal: what the helper says, on one line; empty where it says nothing.
+  std::string helperWords = {};
+
+  bool operator==(ActionResult other) const { return result == other; }
 };
 
 // ---- The action list
@@ -74,17 +84,19 @@ bool RevealProcessInFinder(ProcessSerialNumber psn);
 /// The same for several; how many could be asked for. Looks for the file manager once.
 std::size_t RevealProcessesInFinder(std::span<const ProcessSerialNumber> psns);
 
-// Through the helper.
-ActionResult KillProcessPID(std::int32_t pid);
-ActionResult KillProcessDeadPID(std::int32_t pid);
-ActionResult HaltProcessPID(std::int32_t pid);
-ActionResult ContProcessPID(std::int32_t pid);
+// Through the helper, which is first made to look at the process: it then acts on no other one that
+// gets the same pid. Each of its two answers has to come in time; without the first nothing is
+// done.
+ActionOutcome KillProcessPID(std::int32_t pid);
+ActionOutcome KillProcessDeadPID(std::int32_t pid);
+ActionOutcome HaltProcessPID(std::int32_t pid);
+ActionOutcome ContProcessPID(std::int32_t pid);
 /// A nice value from -20 to 20; others are the assertions "niceValue >= -20" and "niceValue <= 20"
 /// of the unit ProcessActions. Prints the helper's answer.
-ActionResult ReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
-ActionResult ActuallyHaltProcessPID(std::int32_t pid);
-ActionResult ActuallyContProcessPID(std::int32_t pid);
-ActionResult ActuallyReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
+ActionOutcome ReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
+ActionOutcome ActuallyHaltProcessPID(std::int32_t pid);
+ActionOutcome ActuallyContProcessPID(std::int32_t pid);
+ActionOutcome ActuallyReniceProcessPID(std::int32_t pid, std::int32_t niceValue);
 
 // ---- Commands
 // ------------------------------------------------------------------------------------
@@ -104,8 +116,7 @@ KillStep NextKillStep(std::int32_t pid);
 int TimesAskedToEnd(std::int32_t pid);
 void NoteAskedToEnd(std::int32_t pid);
 
-struct KillOutcome {
-  ActionResult result;
+struct KillOutcome : ActionOutcome {
   /// The step that was taken, or the last one that was tried.
   KillStep step;
 };
@@ -120,14 +131,14 @@ inline constexpr std::int32_t kNormalNice = 0;
 inline constexpr std::int32_t kLowNice = 20;
 
 /// Nice -19, 0 or 20. The first and the last leave an entry in the action list, once they are done.
-ActionResult SetHighPriority(std::int32_t pid);
-ActionResult SetNormalPriority(std::int32_t pid);
-ActionResult SetLowPriority(std::int32_t pid);
+ActionOutcome SetHighPriority(std::int32_t pid);
+ActionOutcome SetNormalPriority(std::int32_t pid);
+ActionOutcome SetLowPriority(std::int32_t pid);
 
 /// Stops and resumes a process, and keeps its entry in the action list, which what was refused
 /// leaves as it was. What the list did not expect is a line on standard error.
-ActionResult HaltProcess(std::int32_t pid);
-ActionResult ContinueProcess(std::int32_t pid);
+ActionOutcome HaltProcess(std::int32_t pid);
+ActionOutcome ContinueProcess(std::int32_t pid);
 
 /// A client that needs nothing and does nothing.
 class ProcessActionHelper final : public ProcessInformationClient {

@@ -13,6 +13,7 @@
 #include <random>
 #include <set>
 #include <thread>
+#include <utility>
 
 #include "consolidator/PidReport.h"
 #include "helper/HelperProcess.h"
@@ -126,29 +127,48 @@ TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneReported) {
             0);
 }
 
+/// Pipes on which something else happens in front of the request after so many more.
+struct InterruptedPipes : LinuxNamedPipes {
+  std::ptrdiff_t Write(int descriptor, std::string_view text, Milliseconds limit) override {
+    if (interruption && requests-- == 0) std::exchange(interruption, {})();
+    return LinuxNamedPipes::Write(descriptor, text, limit);
+  }
+  int requests = 0;
+  std::function<void()> interruption;
+};
+
+/// The pid passes on before the application looks at the process, before the helper does, and
+/// between that and the action.
 TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneShown) {
   EXPECT_EQ(InPidNamespace([] {
-              // The helper has reported nobody, so it takes whoever is there for the one meant.
-              RealMachine machine("/");
+              RealMachineWith<InterruptedPipes> machine("/");
               OpenChannel(HelperPath());
               if (gFd_a2d < 0) return 3;
               const auto show = [&](const Canary& canary) {
                 const auto identity = machine.processTable.CurrentIdentity(canary.Pid());
                 return NoteStartStamp(canary.Pid(), identity->startStamp);
               };
-              auto shown = std::make_unique<Canary>(kUser);
-              show(*shown);
-              const auto stranger = NextHolder(std::move(shown));
-              const pid_t pid = stranger->Pid();
-              KillProcessDeadPID(pid);
-              ReniceProcessPID(pid, 5);
+              for (int round = 0; round < 6; ++round) {
+                auto shown = std::make_unique<Canary>(kUser);
+                const pid_t pid = shown->Pid();
+                if (!show(*shown)) return 4;
+                std::unique_ptr<Canary> stranger;
+                const auto passOn = [&] { stranger = NextHolder(std::move(shown)); };
+                machine.namedPipes.requests = round / 2 - 1;
+                if (round < 2)
+                  passOn();
+                else
+                  machine.namedPipes.interruption = passOn;
+                const auto became = round % 2 ? KillProcessDeadPID(pid) : ReniceProcessPID(pid, 5);
+                if (became != ActionResult::kGone) return 5;
+                if (stranger == nullptr || stranger->EndedBy() != 0) return 6;
+                if (getpriority(PRIO_PROCESS, static_cast<id_t>(pid)) != 0) return 7;
+              }
               // What comes behind that on the channel arrives.
               const Canary known(kStranger);
-              if (!show(known)) return 4;
-              KillProcessDeadPID(known.Pid());
-              if (!known.Becomes("Z")) return 5;
-              if (getpriority(PRIO_PROCESS, static_cast<id_t>(pid)) != 0) return 6;
-              return stranger->EndedBy() == 0 ? 0 : 7;
+              if (!show(known)) return 8;
+              if (KillProcessDeadPID(known.Pid()) != ActionResult::kDone) return 9;
+              return known.Becomes("Z") ? 0 : 10;
             }),
             0);
 }

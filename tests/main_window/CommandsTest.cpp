@@ -123,12 +123,11 @@ TEST_F(CommandsTest, OneApplicationQuitsWithoutAQuestion) {
 TEST_F(CommandsTest, WhatWasRefusedIsSaid) {
   OpenWith({300, 301});
   Select({1, 300});
-  machine.namedPipes.SetHelper([](std::string_view) { return "!Error refused"; });
+  machine.namedPipes.SetHelper([](std::string_view) { return "!Error \x1b<b> not so"; });
   ChooseAndAgree("menu_process_halt", "Halt");
   EXPECT_EQ(Said(),
             "Nothing was done to launchd (1): the system depends on it. "
-            "Nothing was done to p300 (300): you may not do that without an administrator's "
-            "rights.");
+            "Nothing was done to p300 (300): the helper says “\\033<b> not so”.");
   EXPECT_EQ(Badge(300), "");
   Select({1});
   Choose("menu_process_low_priority");

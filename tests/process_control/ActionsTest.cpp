@@ -38,8 +38,18 @@ class ActionsTest : public SimulatedControl {
     return Log();
   }
 
+  /// The helper is made to look at the process before it is to act on it.
   static std::string Request(const std::string& verb) {
-    return "Helper Lkw Action Request:\\n" + verb + "\n";
+    const auto pid = verb.substr(verb.find(' ') + 1);
+    return "Helper Lkw Info Extraction:\\npid_internal_basic_info " + pid.substr(0, pid.find(' ')) +
+           "\\n\nHelper Lkw Action Request:\\n" + verb + "\n";
+  }
+
+  /// Actions are answered so from now on, and figures as before.
+  void AnswerActionsWith(std::string answer) {
+    machine.namedPipes.SetHelper([this, answer](std::string_view request) {
+      return request.starts_with("Lkw Action") ? answer : machine.helper.Answer(request);
+    });
   }
 
   AccessLog told;
@@ -75,18 +85,19 @@ TEST_F(ActionsTest, AStepThatLeadsNowhereGoesOnToTheNextAtOnce) {
 
 TEST_F(ActionsTest, WhatIsRefusedIsSaidLeavesNoBadgeAndIsNoStep) {
   machine.signals.refuses = true;
-  machine.namedPipes.SetHelper([](std::string_view) { return "!Error not permitted\n"; });
+  AnswerActionsWith("!Error not permitted\n");
   const auto outcome = KillProcess(72);
   EXPECT_EQ(outcome.result, ActionResult::kRefused);
+  EXPECT_EQ(outcome.helperWords, "not permitted");
   EXPECT_EQ(outcome.step, KillStep::kTerminateByHelper);
   EXPECT_EQ(NextKillStep(72), KillStep::kTerminate);
   EXPECT_EQ(TimesAskedToEnd(72), 0);
   EXPECT_EQ(HaltProcess(72), ActionResult::kRefused);
   EXPECT_EQ(SetLowPriority(72), ActionResult::kRefused);
   EXPECT_EQ(ProcessIndicatorImageName(72), nullptr);
-  machine.namedPipes.SetHelper([](std::string_view) { return "ok"; });
+  AnswerActionsWith("ok");
   SetLowPriority(72);
-  machine.namedPipes.SetHelper([](std::string_view) { return "!Error not permitted\n"; });
+  AnswerActionsWith("!Error not permitted\n");
   EXPECT_EQ(SetNormalPriority(72), ActionResult::kRefused);
   EXPECT_STREQ(ProcessIndicatorImageName(72), "process_niced_low") << "it still is";
   machine.processTable.Death(72);
@@ -94,6 +105,34 @@ TEST_F(ActionsTest, WhatIsRefusedIsSaidLeavesNoBadgeAndIsNoStep) {
   QuitHelperDaemon();
   EXPECT_EQ(HaltProcess(73), ActionResult::kNoHelper);
   EXPECT_EQ(ProcessIndicatorImageName(73), nullptr);
+}
+
+TEST_F(ActionsTest, NothingIsSentBeforeTheHelperHasSeenTheSameProcess) {
+  const auto figures = [this](std::function<std::string(std::string_view)> answer) {
+    machine.log.Clear();
+    machine.namedPipes.SetHelper([this, answer](std::string_view request) {
+      return request.starts_with("Lkw Info") ? answer(request) : machine.helper.Answer(request);
+    });
+  };
+  // Its pid passes to another process while the helper answers.
+  figures([this](std::string_view request) {
+    machine.processTable.Death(74);
+    machine.processTable.Birth(74, "next");
+    return machine.helper.Answer(request);
+  });
+  EXPECT_EQ(HaltProcess(74), ActionResult::kGone);
+  figures([](std::string_view) { return "!Error no such process\n"; });
+  EXPECT_EQ(HaltProcess(75), ActionResult::kRefused);
+  EXPECT_EQ(HaltProcess(75).helperWords, "no such process");
+  figures([](std::string_view) { return "pid_rsz 76 4096\n"; });
+  EXPECT_EQ(HaltProcess(75), ActionResult::kNoHelper) << "it has seen another one";
+  EXPECT_EQ(Log().find("Action"), std::string::npos);
+  EXPECT_EQ(HaltProcess(76), ActionResult::kDone);
+  machine.log.Clear();
+  machine.namedPipes.RecordExchanges(true);
+  machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kStalls);
+  EXPECT_EQ(HaltProcess(77), ActionResult::kNoHelper);
+  EXPECT_EQ(Log().find("Action"), std::string::npos);
 }
 
 TEST_F(ActionsTest, BadgesFollowTheProcessAndTheKernel) {
@@ -117,7 +156,7 @@ TEST_F(ActionsTest, BadgesFollowTheProcessAndTheKernel) {
   machine.processTable.Birth(76, "next");
   EXPECT_EQ(badge(76, 3000), "");
   // What takes a while to happen, and what never does.
-  machine.namedPipes.SetHelper([](std::string_view) { return "ok"; });
+  AnswerActionsWith("ok");
   HaltProcess(77);
   SetLowPriority(77);
   EXPECT_EQ(badge(77), "process_niced_low");
@@ -162,8 +201,8 @@ TEST_F(ActionsTest, OneRuleSaysWhenTheUserIsAsked) {
   machine.processTable.Death(70);
   std::string became;
   for (const auto& report : CarryOut(plan))
-    became +=
-        std::to_string(report.pid) + "=" + std::to_string(static_cast<int>(report.result)) + " ";
+    became += std::to_string(report.pid) + "=" +
+              std::to_string(static_cast<int>(report.outcome.result)) + " ";
   EXPECT_EQ(became, "70=1 0=2 1=2 72=3 79=1 ");
   EXPECT_EQ(Log(), "") << "nothing was sent to anybody";
 }
@@ -190,9 +229,9 @@ TEST_F(ActionsTest, PrioritiesAreRequestedAndRemembered) {
   EXPECT_EQ(ProcessIndicatorImageName(kFaceless), nullptr);
   EXPECT_FALSE(GetProcessAction(kFaceless, kProcessActionAny, nullptr));
   EXPECT_EQ(Log(), Request("renice 60 -19") + Request("renice 60 20") + Request("renice 60 0"));
-  machine.namedPipes.SetHelper([](std::string_view) { return "\x1B[2J is dangerous\n"; });
+  AnswerActionsWith("\x1B[2J is dangerous\n");
   ReniceProcessPID(kFaceless, -20);
-  machine.namedPipes.SetHelper([](std::string_view) { return "!Error refused"; });
+  AnswerActionsWith("!Error refused");
   ReniceProcessPID(kFaceless, 20);
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
             "Renice returns done\nRenice returns done\nRenice returns done\n"

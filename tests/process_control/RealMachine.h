@@ -19,9 +19,10 @@
 namespace lurkwell {
 
 /// Process control with real programs over real pipes, for an application below `prefix`.
-class RealMachine {
+template <typename Pipes>
+class RealMachineWith {
  public:
-  explicit RealMachine(const std::string& prefix)
+  explicit RealMachineWith(const std::string& prefix)
       : bundle(prefix + "/bin/lurkwell"),
         authorization(bundle, PolkitAuthorization::Consent::kMayAsk, prefix + "/bin/pkexec") {}
 
@@ -49,7 +50,7 @@ class RealMachine {
   LinuxTools tools;
   LinuxSignals signals;
   LinuxProcessTable processTable;
-  LinuxNamedPipes namedPipes;
+  Pipes namedPipes;
   LinuxBundle bundle;
   PolkitAuthorization authorization;
   TerminalAlerts alerts;
@@ -72,5 +73,6 @@ class RealMachine {
                    simulated.eventBus};
   MachineInstallation installation{services};
 };
+using RealMachine = RealMachineWith<LinuxNamedPipes>;
 
 }  // namespace lurkwell

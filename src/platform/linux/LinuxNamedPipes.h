@@ -12,7 +12,7 @@ namespace lurkwell {
 ///
 /// Making one turns the signal of a broken pipe off for the whole program, unless something handles
 /// it already; programs started by the program get it back.
-class LinuxNamedPipes final : public NamedPipes {
+class LinuxNamedPipes : public NamedPipes {
  public:
   LinuxNamedPipes();
   LinuxNamedPipes(const LinuxNamedPipes&) = delete;
