@@ -64,6 +64,13 @@ class ProcessManager {
   /// Whom to tell that the file manager, asked to show a file, did not do so after all, or that
   /// there is none; its argument is the file. Called by the run loop. Replaces the one before.
   virtual void WhenRevealFails(std::function<void(const std::string& file)> tell) = 0;
+
+  /// Has the desktop show a file, selected in its folder, or at least that folder. `failed` is
+  /// called, before or after this returns, when nobody shows either; it may outlive its caller.
+  virtual void ShowFile(const std::string& path, std::function<void()> failed) {
+    static_cast<void>(path);
+    failed();
+  }
 };
 
 }  // namespace lurkwell

@@ -4,6 +4,9 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cstdlib>
 #include <string>
 
 #include "desktop/MadeUpProcesses.h"
@@ -77,6 +80,62 @@ TEST(Reveal, AsksTheFileManagerForTheEntryOrTheProgram) {
     QCoreApplication::processEvents();
     return !manager.Reveal({1, 1});
   }));
+}
+
+/// Takes the place of what opens folders.
+class FakeOpener {
+ public:
+  FakeOpener() { ::setenv("PATH", folder.path().toUtf8().constData(), 1); }
+  ~FakeOpener() { ::setenv("PATH", mPath.c_str(), 1); }
+
+  void Answer(int status) const {
+    QFile script(folder.filePath(QStringLiteral("xdg-open")));
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nprintf '%s' \"$1\" > \"${0%/*}/opened\"\nexit " +
+                 QByteArray::number(status) + "\n");
+    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+  }
+  std::string Opened() const {
+    QFile file(folder.filePath(QStringLiteral("opened")));
+    const bool isThere = file.open(QIODevice::ReadOnly);
+    const auto opened = isThere ? file.readAll().toStdString() : std::string();
+    file.remove();
+    return opened;
+  }
+
+  QTemporaryDir folder;
+
+ private:
+  std::string mPath = ::getenv("PATH");
+};
+
+TEST(Reveal, AFileIsShownOrElseItsFolderOrElseItIsSaid) {
+  TestBus bus;
+  FakeFileManager fileManager(bus.Address());
+  const FakeOpener opener;
+  DesktopSettings settings;
+  settings.sessionBusAddress = bus.Address();
+  DesktopProcessManager manager(settings);
+  int failures = 0;
+  const auto comesTo = [&](const auto& condition) {
+    manager.ShowFile("/tmp/a b/log.tsv", [&failures] { ++failures; });
+    return ComesTrue([&] {
+      QCoreApplication::processEvents();
+      return condition();
+    });
+  };
+  EXPECT_TRUE(
+      comesTo([&] { return fileManager.shown == QStringList("file:///tmp/a%20b/log.tsv"); }));
+  fileManager.Leave();
+  opener.Answer(0);
+  EXPECT_TRUE(comesTo([&] { return opener.Opened() == "/tmp/a b"; }));
+  bus.End();
+  EXPECT_TRUE(comesTo([&] { return opener.Opened() == "/tmp/a b"; }));
+  EXPECT_EQ(failures, 0);
+  opener.Answer(3);
+  EXPECT_TRUE(comesTo([&] { return failures == 1; })) << "it has found nothing that shows folders";
+  QFile::remove(opener.folder.filePath(QStringLiteral("xdg-open")));
+  EXPECT_TRUE(comesTo([&] { return failures == 2; }));
 }
 
 }  // namespace

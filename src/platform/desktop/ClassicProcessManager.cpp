@@ -177,4 +177,8 @@ void ClassicProcessManager::WhenRevealFails(std::function<void(const std::string
   mDesktop.WhenRevealFails(std::move(tell));
 }
 
+void ClassicProcessManager::ShowFile(const std::string& path, std::function<void()> failed) {
+  mDesktop.ShowFile(path, std::move(failed));
+}
+
 }  // namespace lurkwell

@@ -41,6 +41,7 @@ class ClassicProcessManager final : public QObject, public ProcessManager {
   bool SetFrontProcess(ProcessSerialNumber psn) override;
   bool Reveal(ProcessSerialNumber psn) override;
   void WhenRevealFails(std::function<void(const std::string& file)> tell) override;
+  void ShowFile(const std::string& path, std::function<void()> failed) override;
 
  private Q_SLOTS:
   void GuestsHaveChanged();

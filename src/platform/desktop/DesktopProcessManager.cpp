@@ -277,6 +277,10 @@ void DesktopProcessManager::WhenRevealFails(std::function<void(const std::string
   mDesktop->Files().WhenShowingFails(std::move(tell));
 }
 
+void DesktopProcessManager::ShowFile(const std::string& path, std::function<void()> failed) {
+  mDesktop->Files().ShowFileOrFolder(path, std::move(failed));
+}
+
 std::optional<DesktopProcessManager::IconSource> DesktopProcessManager::IconSourceOf(
     ProcessSerialNumber psn) {
   const auto* known = mDesktop->Applications().Find(psn);

@@ -4,8 +4,11 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QFile>
+#include <QFileInfo>
+#include <QProcess>
 #include <QStringList>
 #include <QUrl>
+#include <utility>
 
 namespace lurkwell {
 namespace {
@@ -21,9 +24,29 @@ QDBusConnection SessionBus(const std::string& address) {
   return QDBusConnection::connectToBus(QString::fromStdString(address), name);
 }
 
+/// The toolkit's own way does not say whether anything was shown.
+void OpenFolder(const QString& folder, const std::function<void()>& failed) {
+  // It may run as long as what it has opened, and is left alone then.
+  auto* opener = new QProcess;
+  opener->setStandardInputFile(QProcess::nullDevice());
+  opener->setStandardOutputFile(QProcess::nullDevice());
+  opener->setStandardErrorFile(QProcess::nullDevice());
+  QObject::connect(opener, &QProcess::errorOccurred, opener,
+                   [opener, failed](QProcess::ProcessError error) {
+                     if (error != QProcess::FailedToStart) return;
+                     opener->deleteLater();
+                     failed();
+                   });
+  QObject::connect(opener, &QProcess::finished, opener, [opener, failed](int status) {
+    opener->deleteLater();
+    if (status != 0) failed();
+  });
+  opener->start(QStringLiteral("xdg-open"), {folder});
+}
+
 }  // namespace
 
-bool FileManager::Show(const std::string& path) const {
+bool FileManager::Ask(const std::string& path, std::function<void()> failed) const {
   if (mBusAddress.empty() || path.empty()) return false;
   const QDBusConnection bus = SessionBus(mBusAddress);
   if (!bus.isConnected()) return false;
@@ -35,12 +58,24 @@ bool FileManager::Show(const std::string& path) const {
   message << QStringList(QString::fromLatin1(file.toEncoded())) << QString();
   auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, kFileManagerAnswers));
   QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-                   [watcher, path, failure = std::weak_ptr(mFailure)] {
+                   [watcher, failed = std::move(failed)] {
                      watcher->deleteLater();
-                     const auto tell = failure.lock();
-                     if (watcher->isError() && tell && *tell) (*tell)(path);
+                     if (watcher->isError()) failed();
                    });
   return true;
+}
+
+bool FileManager::Show(const std::string& path) const {
+  return Ask(path, [path, failure = std::weak_ptr(mFailure)] {
+    const auto tell = failure.lock();
+    if (tell && *tell) (*tell)(path);
+  });
+}
+
+void FileManager::ShowFileOrFolder(const std::string& path, std::function<void()> failed) const {
+  const auto openFolder = [folder = QFileInfo(QFile::decodeName(path.c_str())).path(),
+                           failed = std::move(failed)] { OpenFolder(folder, failed); };
+  if (!Ask(path, openFolder)) openFolder();
 }
 
 }  // namespace lurkwell

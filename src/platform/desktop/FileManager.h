@@ -19,11 +19,18 @@ class FileManager {
   /// there is no bus to ask on.
   bool Show(const std::string& path) const;
 
-  /// Is told of each file that was asked for and, as the bus says later, is not shown. Not after
-  /// the end of this.
+  /// The same, or else its folder, by whatever shows folders here. `failed` is called when nobody
+  /// shows either, now or later.
+  void ShowFileOrFolder(const std::string& path, std::function<void()> failed) const;
+
+  /// Is told of each file that Show was asked for and, as the bus says later, is not shown. Not
+  /// after the end of this.
   void WhenShowingFails(Failure failure) { *mFailure = std::move(failure); }
 
  private:
+  /// False when there is nobody to ask; else `failed` may be called later.
+  bool Ask(const std::string& path, std::function<void()> failed) const;
+
   std::string mBusAddress;
   /// Shared with the answers that are still to come.
   std::shared_ptr<Failure> mFailure = std::make_shared<Failure>();

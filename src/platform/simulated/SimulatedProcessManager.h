@@ -50,7 +50,13 @@ class SimulatedProcessManager final : public ProcessManager {
     revealFails = std::move(tell);
   }
 
+  void ShowFile(const std::string& path, std::function<void()> failed) override {
+    mLog.Add("ShowFile " + path);
+    if (!hasFileManager) failed();
+  }
+
   std::function<void(const std::string&)> revealFails;
+  bool hasFileManager = true;
 
  private:
   bool Act(const std::string& action, ProcessSerialNumber psn);
