@@ -1,6 +1,5 @@
 // What a CPU history window shows: its graph and its labels.
 #include <QPainter>
-#include <algorithm>
 
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PropertyValues.h"
@@ -12,7 +11,13 @@
 #include "resources/Resources.h"
 
 namespace lurkwell {
-namespace {}  // namespace
+namespace {
+
+/// The upper edge's figure stands at the right of the name.
+constexpr int kBesideName = 31;
+constexpr int kBesideIdentity = 5;
+
+}  // namespace
 
 void CPUHistoryWindowInformationClient::RedrawEntireWindow() {
   mGraph.RedrawEntireWindow();
@@ -24,11 +29,8 @@ void CPUHistoryWindowInformationClient::DrawLabels() {
   bool exists = false;
   GetPIDPropertyValue(mPid, "meta_name", name, sizeof name, &exists);
   Require(exists, kHistoryUnit, "exists");
-  const auto text = PlainText(name);
-  mNameWindow->resize(std::min(mBounds.right - mBounds.left - 5, mNameWindow->TextWidth(text) + 10),
-                      mNameWindow->height());
-  mNameWindow->SetText(text, mPreferences.name);
-  mNameWindow->SetAlpha(AlphaWithin(mPreferences.nameAlpha));
+  const auto text = FollowedName(mPid);
+  DrawLine(*mNameWindow, text, kBesideName);
   DrawIdentity(text);
 
   const auto scale = QString::number(mGraph.ScalePercent()) + QLatin1Char('%');
@@ -47,21 +49,21 @@ void CPUHistoryWindowInformationClient::DrawLabels() {
   DrawIcon();
 }
 
+void CPUHistoryWindowInformationClient::DrawLine(Satellite& label, const QString& text,
+                                                 int beside) const {
+  label.SetLine(text, mPreferences.name, mBounds.right - mBounds.left - beside);
+  label.SetAlpha(AlphaWithin(mPreferences.nameAlpha));
+}
+
 QString CPUHistoryWindowInformationClient::Title() const {
-  char name[256] = "";
-  GetPIDPropertyValue(mPid, "meta_name", name, sizeof name, nullptr);
-  return LocalizedString("history_title").arg(PlainText(name), QString::number(mPid));
+  return LocalizedString("history_title").arg(FollowedName(mPid), QString::number(mPid));
 }
 
 void CPUHistoryWindowInformationClient::DrawIdentity(const QString& name) {
-  auto& label = *mIdentityWindow;
   const auto pid = QString::number(mPid);
   auto text = LocalizedString("history_identity").arg(pid);
   if (!mProcess.ownerText.isEmpty()) text += QStringLiteral(" · ") + mProcess.ownerText;
-  label.resize(std::min(mBounds.right - mBounds.left - 5, label.TextWidth(text) + 10),
-               label.height());
-  label.SetText(text, mPreferences.name);
-  label.SetAlpha(AlphaWithin(mPreferences.nameAlpha));
+  DrawLine(*mIdentityWindow, text, kBesideIdentity);
   Window()->setAccessibleName(
       LocalizedString("history_accessible").arg(name, pid, mProcess.ownerText));
   constexpr int kMostCommand = 400;

@@ -77,6 +77,7 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   /// belong to others now do not count any more.
   double TakeDescendantsSeconds();
   void DrawLabels();
+  void DrawLine(Satellite& label, const QString& text, int beside) const;
   void DrawIdentity(const QString& name);
   void PlaceLabels();
   void FillMenu(QMenu& menu) const;

@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "consolidator/WholeNames.h"
 #include "main_window/PropertyText.h"
 #include "platform/Machine.h"
 #include "platform/ProcessTable.h"
@@ -13,6 +14,11 @@ FollowedProcess DescribeFollowed(std::int32_t pid) {
   if (described.empty()) return {};
   const auto& process = described.front();
   return {process.owner, PlainText(process.owner), PlainText(process.commandLine)};
+}
+
+QString FollowedName(std::int32_t pid) {
+  if (MayNameGoOn(pid)) LearnWholeNames(std::span(&pid, 1));
+  return PlainText(WholeNameOf(pid));
 }
 
 }  // namespace lurkwell

@@ -2,14 +2,12 @@
 
 #include <QDateTime>
 
-#include "main_window/PropertyText.h"
-
 namespace lurkwell {
 
-QString LogFileName(std::string_view program, std::int32_t pid, TimeValue now) {
+QString LogFileName(const QString& program, std::int32_t pid, TimeValue now) {
   constexpr int kMostCharacters = 40;
   QString name;
-  for (const QChar c : PlainText(program).left(kMostCharacters)) {
+  for (const QChar c : program.left(kMostCharacters)) {
     const bool isKept = c.isLetterOrNumber() || c == QLatin1Char('.') || c == QLatin1Char('_') ||
                         c == QLatin1Char('-');
     name += isKept ? c : QLatin1Char('_');

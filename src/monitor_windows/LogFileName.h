@@ -2,15 +2,14 @@
 
 #include <QString>
 #include <cstdint>
-#include <string_view>
 
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
 
 /// What the file of a log is called, without its end: "PROGRAM-PID-YYYYMMDD-HHMMSS" in local time,
-/// so that files sort by program and time. Of a program's name, any bytes, what no file manager or
-/// shell trips over is kept, and not much of it.
-QString LogFileName(std::string_view program, std::int32_t pid, TimeValue now);
+/// so that files sort by program and time. Of a program's name, as it is shown, what no file
+/// manager or shell trips over is kept, and not much of it.
+QString LogFileName(const QString& program, std::int32_t pid, TimeValue now);
 
 }  // namespace lurkwell

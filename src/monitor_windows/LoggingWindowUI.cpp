@@ -3,15 +3,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
-#include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QTextDocument>
 #include <QUiLoader>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstdio>
@@ -24,8 +19,6 @@
 #include "main_window/PropertyText.h"
 #include "main_window/WindowFrame.h"
 #include "monitor_windows/FollowedProcess.h"
-#include "monitor_windows/LogFileName.h"
-#include "monitor_windows/LogSaving.h"
 #include "monitor_windows/LoggingPreferences.h"
 #include "monitor_windows/LoggingWindowInformationClient2.h"
 #include "monitor_windows/ScreenPlacement.h"
@@ -84,6 +77,7 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   controller->initWithPrefIndex(somePrefIndex);
   auto& state = controller->mStateInfo;
   state.pid = thePid;
+  controller->fName = FollowedName(thePid);
   interval = ReadLoggingInterval(somePrefIndex, interval);
   state.millisecondsInterval = interval;
   if (!controller->loadInterface()) {
@@ -202,34 +196,12 @@ void LoggingWindowUI::setColumnWidths() {
   }
 }
 
-QString LoggingWindowUI::fileName() const {
-  char name[256] = "";
-  GetPIDPropertyValue(mStateInfo.pid, "meta_name", name, sizeof name, nullptr);
-  return LogFileName(name, mStateInfo.pid, TheMachine().clock.CalendarNow());
-}
-
-void LoggingWindowUI::openLogFile(LogFiles& logFiles) {
-  auto creation = logFiles.Create(fileName().toStdString());
-  fHasSaidFileFailed = creation.file == nullptr;
-  mStateInfo.logFile = std::move(creation.file);
-  if (mStateInfo.logFile == nullptr)
-    return say(LocalizedString("logging_note_not_created").arg(PlainText(creation.problem)));
-  mStateInfo.logFileName = mStateInfo.logFile->Path();
-  appendToFile(LogHeader(mStateInfo));
-}
-
 QString LoggingWindowUI::shortTitle() const {
-  char name[256] = "";
-  GetPIDPropertyValue(mStateInfo.pid, "meta_name", name, sizeof name, nullptr);
-  return LocalizedString("logging_menu_title")
-      .arg(PlainText(name), QString::number(mStateInfo.pid));
+  return LocalizedString("logging_menu_title").arg(fName, QString::number(mStateInfo.pid));
 }
 
 void LoggingWindowUI::setTitle() {
-  char name[256] = "";
-  GetPIDPropertyValue(mStateInfo.pid, "meta_name", name, sizeof name, nullptr);
-  auto title =
-      LocalizedString("logging_title").arg(PlainText(name), QString::number(mStateInfo.pid));
+  auto title = LocalizedString("logging_title").arg(fName, QString::number(mStateInfo.pid));
   if (mStateInfo.logFile != nullptr)
     title += QLatin1Char(' ') +
              LocalizedString("logging_title_file").arg(PlainText(mStateInfo.logFileName));
@@ -303,12 +275,6 @@ void LoggingWindowUI::processesHaveBeenUpdated(const LoggingFigures& figures) {
   appendRow(std::move(*row));
 }
 
-void LoggingWindowUI::appendToFile(const std::string& line) {
-  const auto problem = mStateInfo.logFile->Append(line);
-  if (problem.empty() || std::exchange(fHasSaidFileFailed, true)) return;
-  say(LocalizedString("logging_note_not_written").arg(PlainText(problem)));
-}
-
 void LoggingWindowUI::appendRow(LoggedRow row) {
   const bool followed = fFollowsNewest;
   auto& rows = mStateInfo.logTableData;
@@ -377,6 +343,7 @@ void LoggingWindowUI::follow(LogFiles& logFiles, std::int32_t pid) {
   const auto before = std::exchange(mStateInfo.pid, pid);
   mStateInfo.startStamp = GetPidsStartStamp(pid);
   mStateInfo.pidWentAway = false;
+  fName = FollowedName(pid);
   mStateInfo.lastInfoSample = {};
   // A client that is new hears nothing of what happened to the pid before it came.
   const auto uuid = mPIC->Identifier();
@@ -474,36 +441,6 @@ void LoggingWindowUI::copySelection() {
 
 void LoggingWindowUI::selectAll() {
   fTable->selectAll();
-}
-
-// ---- The log elsewhere --------------------------------------------------------------------------
-
-void LoggingWindowUI::saveAs() {
-  auto* dialog = new QFileDialog(fWindow, LocalizedString("logging_save_title"), QDir::homePath(),
-                                 LocalizedString("logging_save_filter"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(QStringLiteral("tsv"));
-  dialog->selectFile(fileName() + QStringLiteral(".tsv"));
-  connect(dialog, &QFileDialog::fileSelected, this, &LoggingWindowUI::saveTo);
-  dialog->open();
-}
-
-void LoggingWindowUI::saveTo(const QString& target) {
-  // A file has more than the table, unless lines are missing in it.
-  const bool hasAll = mStateInfo.logFile != nullptr && !fHasSaidFileFailed;
-  const auto problem = hasAll ? SaveLogFile(mStateInfo.logFileName, target)
-                              : SaveLogRows(LogHeader(mStateInfo), mStateInfo.logTableData, target);
-  say(problem.isEmpty()
-          ? LocalizedString("logging_note_saved").arg(QDir::toNativeSeparators(target))
-          : LocalizedString("logging_note_not_saved").arg(problem));
-}
-
-void LoggingWindowUI::showFile() {
-  if (mStateInfo.logFile == nullptr) return;
-  const auto file = QFile::decodeName(mStateInfo.logFileName.c_str());
-  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(file).path())))
-    say(LocalizedString("logging_note_not_shown").arg(PlainText(mStateInfo.logFileName)));
 }
 
 }  // namespace lurkwell

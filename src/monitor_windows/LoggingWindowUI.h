@@ -90,7 +90,7 @@ class LoggingWindowUI final : public vqTableController {
   void saveAs();
   /// Writes it without asking.
   void saveTo(const QString& target);
-  /// Opens the folder of the log's own file, if there is one.
+  /// Has the file manager show the log's own file, if there is one.
   void showFile();
 
   // ---- The window's life ------------------------------------------------------------------------
@@ -152,6 +152,8 @@ class LoggingWindowUI final : public vqTableController {
   stateInfoStruct mStateInfo;
   LoggingWindowInformationClient2* mPIC = nullptr;
   WindowRect mRememberedPlace;
+  /// The program's, for people; it stays when the process has ended.
+  QString fName;
   /// Those that are shown, in their order.
   std::vector<LoggingColumn> fColumns;
   QPointer<QLabel> fNote;

@@ -40,8 +40,12 @@ void Satellite::SetAlpha(double alpha) {
   update();
 }
 
-int Satellite::TextWidth(const QString& text) const {
-  return QFontMetrics(font()).horizontalAdvance(text);
+void Satellite::SetLine(const QString& text, const QColor& colour, int most) {
+  constexpr int kMargins = 10;
+  const QFontMetrics metrics(font());
+  const auto line = metrics.elidedText(text, Qt::ElideMiddle, std::max(0, most - kMargins));
+  resize(std::min(most, metrics.horizontalAdvance(line) + kMargins), height());
+  SetText(line, colour);
 }
 
 void Satellite::paintEvent(QPaintEvent*) {

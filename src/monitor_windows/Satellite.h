@@ -16,6 +16,9 @@ class Satellite final : public QWidget {
 
   void SetColours(const QColor& background, const QColor& text);
   void SetText(const QString& text, const QColor& colour);
+  /// The same, and as wide as the text needs, but not wider than `most`: what does not fit is left
+  /// out in the middle.
+  void SetLine(const QString& text, const QColor& colour, int most);
   const QString& Text() const { return mText; }
   QColor TextColour() const { return mTextColour; }
 
@@ -26,9 +29,6 @@ class Satellite final : public QWidget {
   /// From 0, which is how it begins, to 1.
   void SetAlpha(double alpha);
   double Alpha() const { return mAlpha; }
-
-  /// How wide a text is in this label's font.
-  int TextWidth(const QString& text) const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

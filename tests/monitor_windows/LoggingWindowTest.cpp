@@ -189,6 +189,32 @@ TEST_F(LoggingWindowTest, ALogIsSavedWhereItsUserWantsIt) {
       << log.note().toStdString();
 }
 
+TEST_F(LoggingWindowTest, ALogIsNamedByTheWholeNameAndItsFileIsShown) {
+  SetPrefInt("LOG_WINDOW_LOG_TO_FILE", 1);
+  auto& process = machine.processTable.Birth(300, "a-rather-long-na");
+  process.commandLine = "/opt/a-rather-long-name-of-a-program --fast";
+  auto& log = Log(300);
+  const auto path = log.stateInfo().logFileName;
+  EXPECT_THAT(path, testing::HasSubstr("/a-rather-long-name-of-a-program-300-"));
+  EXPECT_THAT(log.window()->windowTitle().toStdString(),
+              testing::StartsWith("Logging a-rather-long-name-of-a-program pid:300 "));
+  char name[kRememberedTextSize];
+  ReadRememberedText(kLoggingWindowKind, 0, "PROCESS_NAME", name);
+  EXPECT_STREQ(name, "a-rather-long-na") << "it comes back by what the kernel tells of all";
+  machine.log.Clear();
+  log.showFile();
+  EXPECT_EQ(machine.log.Take(), "ShowFile " + path + "\n");
+  EXPECT_EQ(log.note(), QString());
+  machine.processManager.hasFileManager = false;
+  log.showFile();
+  EXPECT_EQ(log.note().toStdString(),
+            "There is no file manager to show the file. It is " + path + ".");
+  machine.processTable.Death(300);
+  Turn();
+  EXPECT_EQ(log.shortTitle(), QLatin1String("Log of a-rather-long-name-of-a-program, pid 300"))
+      << "it is still about that one";
+}
+
 TEST_F(LoggingWindowTest, PlacesThatCannotBeAreMadeToFit) {
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   constexpr std::int32_t kMost = 2147483647;
