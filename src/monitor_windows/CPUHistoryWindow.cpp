@@ -42,6 +42,22 @@ WindowRect Sound(WindowRect rect) {
   return {place.left(), place.top(), place.left() + place.width(), place.top() + place.height()};
 }
 
+WindowRect PlaceOf(const CPUHistoryWindowInformationClient& client) {
+  return client.Window() != nullptr ? client.ContentBounds() : client.Bounds();
+}
+
+/// With their title bars.
+std::vector<QRect> PlacesOfHistories() {
+  std::vector<QRect> places;
+  for (const auto* client : gClients) {
+    const auto bounds = PlaceOf(*client);
+    places.emplace_back(
+        QPoint(bounds.left - FloatingWindow::kSideTitlebarWidth, bounds.top),
+        QPoint(bounds.right + FloatingWindow::kSideTitlebarWidth - 1, bounds.bottom - 1));
+  }
+  return places;
+}
+
 }  // namespace
 
 CPUHistoryWindowInformationClient::CPUHistoryWindowInformationClient(const Uuid* uuid,
@@ -318,7 +334,10 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
   }
   auto bounds = rect != nullptr ? Sound(*rect) : kUsualBounds;
   const QSize size(bounds.right - bounds.left, bounds.bottom - bounds.top);
-  if (rect == nullptr && !AreaForNewWindow(size).isNull()) LocateRectangleForNewWindow(&bounds);
+  if (rect == nullptr && !AreaForNewWindow(size).isNull()) {
+    LocateRectangleForNewWindow(&bounds);
+    bounds = PlaceApart(bounds, PlacesOfHistories(), Overlap::kNone);
+  }
   auto* client = new CPUHistoryWindowInformationClient(uuid, interval, pid, bounds,
                                                        CPUHistoryTracksDescendants());
   if (uuid == nullptr) {
@@ -333,7 +352,7 @@ std::vector<MonitorWindows::OpenWindow> ListCPUHistoryWindows() {
   std::vector<MonitorWindows::OpenWindow> windows;
   for (auto* client : gClients) {
     const QPointer<FloatingWindow> window = client->Window();
-    const auto bounds = window != nullptr ? client->ContentBounds() : client->Bounds();
+    const auto bounds = PlaceOf(*client);
     windows.push_back(
         {client->Title(),
          QRect(bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top),

@@ -40,7 +40,7 @@ QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
       {});
 }
 
-WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others) {
+WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others, Overlap allowed) {
   const std::int64_t width = std::int64_t{wanted.right} - wanted.left;
   const std::int64_t height = std::int64_t{wanted.bottom} - wanted.top;
   // Records may hold any number; those that make no window are made to fit elsewhere.
@@ -50,7 +50,9 @@ WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others
     return rect.isEmpty() ? 0 : std::int64_t{rect.width()} * rect.height();
   };
   const bool isApart = std::ranges::none_of(others, [&](const QRect& other) {
-    return area(frame & other) * 2 > std::min(area(frame), area(other));
+    const auto covered = area(frame & other);
+    return allowed == Overlap::kNone ? covered > 0
+                                     : covered * 2 > std::min(area(frame), area(other));
   });
   const auto* screen = QGuiApplication::screenAt(frame.center());
   if (isApart || screen == nullptr) return wanted;

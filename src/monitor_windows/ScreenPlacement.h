@@ -22,10 +22,16 @@ QRect AreaWithRoom(const QRect& free, const QRect& screen, QSize size);
 /// screen, and moved as little as needed to lie on one.
 QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest);
 
-/// The same place, if at most half of the window, or of each of the others, would be covered there;
-/// else the nearest one beside others that covers none of them, on the same screen, if there is
-/// one.
-WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others);
+/// How much of a window another one may cover.
+enum class Overlap {
+  kHalf,  ///< the user may have put it there
+  kNone,
+};
+
+/// The same place, if no more of the window, or of any of the others, would be covered there; else
+/// the nearest one beside others that covers none of them, on the same screen, if there is one.
+WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others,
+                      Overlap allowed = Overlap::kHalf);
 
 /// Where a new window of that size goes when `point` is next in the cascade; `point` moves on. The
 /// cascade begins at a null point, and again at the end of the screen.

@@ -183,7 +183,8 @@ TEST_F(CPUHistoryWindowTest, TheEndOfTheProcessKeepsTheRecordAndClosingForgetsIt
   GetPrefArrayString(kind, 1, "PROCESS_NAME", name, sizeof name, false, nullptr);
   EXPECT_STREQ(name, "other");
   EXPECT_EQ(GetPrefArrayInt(kind, 0, "WINDOW_RECT_LEFT", false, 0), 100);
-  EXPECT_EQ(GetPrefArrayInt(kind, 1, "WINDOW_RECT_BOTTOM", false, 0), 230);
+  EXPECT_EQ(ReadRememberedRect(kind, 1), (WindowRect{120, 220, 270, 290}))
+      << "next in the cascade, but not on the first one";
   for (auto* widget : QApplication::topLevelWidgets())
     if (widget->windowTitle() == QLatin1String("300")) widget->move(widget->pos() + QPoint(5, 7));
   machine.processTable.Death(300);
@@ -220,9 +221,9 @@ TEST_F(CPUHistoryWindowTest, ABeatWithoutAReadingIsNoDipAndNoSpike) {
 }
 
 TEST_F(CPUHistoryWindowTest, AWindowSaysWhoseProcessItFollowsAndCanBeResized) {
-  auto& worker = machine.processTable.Birth(300, "worker");
+  auto& worker = machine.processTable.Birth(300, "worker-with-a-na");
   worker.owner = "ann";
-  worker.commandLine = "worker --fast <b>";
+  worker.commandLine = "/bin/worker-with-a-name-that-goes-on --fast <b>";
   SetPrefDouble("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA", 0.8);
   Start();
   auto* client = Open(300);
@@ -230,10 +231,17 @@ TEST_F(CPUHistoryWindowTest, AWindowSaysWhoseProcessItFollowsAndCanBeResized) {
   Turn();
   EXPECT_EQ(client->IdentityWindow()->Text(), QStringLiteral("pid 300 · ann"));
   EXPECT_EQ(client->Window()->accessibleName(),
-            QLatin1String("CPU history of worker, process 300 of ann"));
+            QLatin1String("CPU history of worker-with-a-name-that-goes-on, process 300 of ann"));
+  EXPECT_EQ(client->Title(),
+            QLatin1String("CPU history of worker-with-a-name-that-goes-on, pid 300"));
+  const auto& name = *client->NameWindow();
+  EXPECT_TRUE(name.Text().startsWith(QLatin1String("worker")) &&
+              name.Text().endsWith(QLatin1String("on")))
+      << name.Text().toStdString();
+  EXPECT_LE(name.geometry().right(), client->HighWaterMarkWindow()->x());
   EXPECT_EQ(client->Window()->accessibleDescription(),
             QLatin1String("10 % now; the upper edge is 10 %"));
-  EXPECT_TRUE(client->Window()->toolTip().contains(QLatin1String("worker --fast &lt;b&gt;")));
+  EXPECT_TRUE(client->Window()->toolTip().contains(QLatin1String("goes-on --fast &lt;b&gt;")));
   EXPECT_NEAR(client->NameWindow()->Alpha() * client->Window()->windowOpacity(), 0.6, 0.01)
       << "its own opacity, not a part of the window's";
   const auto values = client->Graph().Values();
@@ -245,6 +253,9 @@ TEST_F(CPUHistoryWindowTest, AWindowSaysWhoseProcessItFollowsAndCanBeResized) {
   resized.erase(resized.begin(), resized.begin() + 50);
   EXPECT_EQ(resized, values) << "the newest stay at the right edge";
   EXPECT_EQ(client->IconWindow()->geometry(), QRect(4, 76, 40, 40));
+  client->Window()->resize(600, 120);
+  Turn();
+  EXPECT_EQ(name.Text(), QLatin1String("worker-with-a-name-that-goes-on"));
 }
 
 TEST_F(CPUHistoryWindowTest, ADamagedRecordStillGivesAWindowOnTheScreen) {
@@ -278,6 +289,7 @@ TEST_F(CPUHistoryWindowTest, OpenWindowsFollowThePreferences) {
   SetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", 125);
   SetPrefInt("DEFAULT_CPU_HISTORY_BACKGROUND_RGB_RED", 65535);
   SetPrefInt("DEFAULT_CPU_HISTORY_HWM_RGB_BLUE", 0);
+  SetPrefInt("DEFAULT_CPU_HISTORY_DESCENDANTS_FOREGROUND_RGB_RED", 65535);
   SetPrefDouble("DEFAULT_CPU_HISTORY_NAME_ALPHA", 0.9);
   ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(
       "CPUHistoryWindowInformationClient");
@@ -291,6 +303,11 @@ TEST_F(CPUHistoryWindowTest, OpenWindowsFollowThePreferences) {
   EXPECT_EQ(client->HighWaterMarkWindow()->TextColour().blue(), 0);
   Turn(500);
   EXPECT_LT(client->Graph().Values().back(), 0.1) << "what the child used before does not count";
+  worker.UseCPU(30), machine.processTable.Find(301)->UseCPU(60), Turn(125);
+  bool hasOwnShare = false;
+  for (int y = 0; y < client->Graph().Bitmap().Height(); ++y)
+    hasOwnShare = hasOwnShare || client->Graph().Bitmap().Pixel(149, y) == 0xFFFF00FFU;
+  EXPECT_TRUE(hasOwnShare) << "in the descendants' new colour";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // The watchdog: programs that end and start again.
-#include <chrono>
+#include <ctime>
 
 #include "monitor_windows/FollowingTest.h"
 #include "monitor_windows/ScreenPlacement.h"
@@ -181,10 +181,14 @@ constexpr std::size_t kManyRecords = 100'000;
 
 TEST_F(WatchdogTest, ManyRecordsDoNotHoldUpTheStart) {
   PreferenceArray records(kManyRecords);
+  const auto identifier = [](std::size_t number) {
+    const auto digits = std::to_string(number);
+    return "00000000-0000-0000-0000-" + std::string(12 - digits.size(), '0') + digits;
+  };
   for (std::size_t number = 0; number < records.size(); ++number)
     records[number] = {{"PROCESS_NAME", "prog" + std::to_string(number % 500)},
                        {"PROCESS_KIND", std::string("Darwin")},
-                       {"WINDOW_UUID", Uuid::Fresh().Text()},
+                       {"WINDOW_UUID", identifier(number)},
                        {"WINDOW_RECT_LEFT", static_cast<std::int64_t>(number) * 1000},
                        {"LOG_TO_FILE", std::int64_t{1}}};
   machine.preferenceDomain.SetValue("CPU_HISTORY_WINDOW",
@@ -192,14 +196,15 @@ TEST_F(WatchdogTest, ManyRecordsDoNotHoldUpTheStart) {
   machine.preferenceDomain.SetValue("LOGGING_WINDOW", std::move(records));
   for (int pid = 300; pid < 800; ++pid)
     machine.processTable.Birth(pid, "prog" + std::to_string(pid - 300));
-  const auto start = std::chrono::steady_clock::now();
+  // Of the processor: the machine may have other things to do.
+  const auto start = std::clock();
   StartWatchdog();
-  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-  RecordProperty("seconds", std::to_string(seconds.count()));
-  std::printf("start: %.2f s\n", seconds.count());
+  const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+  RecordProperty("seconds", std::to_string(seconds));
+  std::printf("start: %.2f s\n", seconds);
   EXPECT_EQ(windows.CountOpenWindows(), MonitorWindowKinds::kMostOpenWindows);
   EXPECT_EQ(windows.CountRoom(), 0);
-  EXPECT_LT(seconds.count(), 20) << "3 s on a machine that has nothing else to do";
+  EXPECT_LT(seconds, 20) << "3 s in optimised code";
 }
 
 }  // namespace
