@@ -37,7 +37,7 @@ QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
   return FitOnScreens(
       {remembered.left, remembered.top, span(remembered.left, remembered.right, smallest.width()),
        span(remembered.top, remembered.bottom, smallest.height())},
-      {});
+      QSize(0, 0));
 }
 
 WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others, Overlap allowed) {
