@@ -27,6 +27,10 @@ WITHOUT_TOOLKIT = {"platform", "platform/linux", "platform/simulated", "preferen
                    "process_control", "helper", "permission_step"}
 
 
+# Settings by any text for a key; all others name them by the table's.
+UNCHECKED_SETTINGS = "preferences/PreferencesRetrieval.h"
+
+
 def folder_of(path):
     parts = pathlib.PurePosixPath(path).parts[:-1]
     machine = "/".join(parts[:2])
@@ -75,6 +79,8 @@ def violations(source):
             included = match.group(1)
             if not any((root / included).is_file() for root in (source, source.parent)):
                 yield f"{file}:{number}: {included} is not a path from src"
+            elif included == UNCHECKED_SETTINGS and folder != "preferences":
+                yield f"{file}:{number}: settings are named through preferences/Settings.h"
             elif not may_include(file, folder, folder_of(included)):
                 yield f"{file}:{number}: {folder} must not include {included}"
 

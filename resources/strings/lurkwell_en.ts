@@ -3115,13 +3115,17 @@ Free: %5</translation>
         <source></source>
         <translation>switch</translation>
     </message>
+    <message id="settings_kind_choice">
+        <source></source>
+        <translation>choice</translation>
+    </message>
     <message id="settings_kind_integer">
         <source></source>
         <translation>whole number</translation>
     </message>
     <message id="settings_kind_interval">
         <source></source>
-        <translation>milliseconds</translation>
+        <translation>interval</translation>
     </message>
     <message id="settings_kind_colour">
         <source></source>
@@ -3142,6 +3146,30 @@ Free: %5</translation>
     <message id="settings_kind_array">
         <source></source>
         <translation>records</translation>
+    </message>
+    <message id="settings_kind_unit">
+        <source></source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message id="settings_unit_milliseconds">
+        <source></source>
+        <translation>milliseconds</translation>
+    </message>
+    <message id="settings_unit_seconds">
+        <source></source>
+        <translation>seconds</translation>
+    </message>
+    <message id="settings_unit_pages">
+        <source></source>
+        <translation>pages</translation>
+    </message>
+    <message id="settings_unit_points">
+        <source></source>
+        <translation>points</translation>
+    </message>
+    <message id="settings_unit_ticks">
+        <source></source>
+        <translation>ticks (60 a second)</translation>
     </message>
     <message id="settings_kind_range">
         <source></source>
@@ -3833,7 +3861,7 @@ Free: %5</translation>
     </message>
     <message id="setting_FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE">
         <source></source>
-        <translation>Key that turns the full-screen view on and off anywhere on the desktop, by its number; 98 is F7.</translation>
+        <translation>Key that turns the full-screen view on and off anywhere on the desktop, by its number: 98, F7, unless something else is stored.</translation>
     </message>
     <message id="setting_QUIVA_CHECK_QUARTZ_EXTREME">
         <source></source>

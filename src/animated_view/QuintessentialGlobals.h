@@ -12,10 +12,6 @@ class QuintessentialInformationClient;
 /// The source that the animated view's assertions name, in whichever of its files they stand.
 inline constexpr char kQuintessentialUnit[] = "QuintessentialSupport";
 
-/// Of the steps that spread the first records. The main thread takes them: a mistyped preference
-/// must not keep it for minutes.
-inline constexpr std::int32_t kMostStabilizingSteps = 100;
-
 /// Guards the view's records, positions and drawing. The drawing thread leaves it only to sleep, so
 /// whoever wants in waits for one frame at most. Whoever is inside on the drawing thread must not
 /// read process data: the main thread comes here from within a heartbeat.

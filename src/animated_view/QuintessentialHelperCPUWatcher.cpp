@@ -10,7 +10,7 @@
 #include "consolidator/PropertyValues.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -23,7 +23,7 @@ constexpr double kLargestFactor = 1000.0;
 
 /// None, whatever else the file says, where it is no factor to draw with.
 double ReadTarvikFactor() {
-  const double factor = GetPrefDouble("QUINT_TARVIK_FACTOR", nullptr, false, 0.0);
+  const double factor = StoredReal("QUINT_TARVIK_FACTOR").value_or(0.0);
   return std::isfinite(factor) && factor <= kLargestFactor ? factor : 0.0;
 }
 

@@ -10,7 +10,7 @@
 #include "animated_view/QuintessentialLayout.h"
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Assertion.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -22,19 +22,19 @@ constexpr double kEasing = 0.2;
 constexpr std::int32_t kPausedInterval = 15000;
 constexpr double kLargestScale = 10'000;
 
-std::int32_t ReadInterval(const char* key, std::int32_t defaultValue) {
-  return std::max(GetPrefInt(key, nullptr, true, defaultValue), 1);
+std::int32_t ReadInterval(IntegerSetting setting) {
+  return std::max(ReadInt(setting), 1);
 }
 
 /// A factor of sizes: neither negative nor boundless, whatever the file says.
-double ReadScale(const char* key, double defaultValue) {
-  const double scale = GetPrefDouble(key, nullptr, true, defaultValue);
-  return scale >= 0.0 && scale <= kLargestScale ? scale : defaultValue;
+double ReadScale(RealSetting setting) {
+  const double scale = ReadReal(setting);
+  return scale >= 0.0 && scale <= kLargestScale ? scale : setting.Row().defaultValue;
 }
 
 /// 0 to 1, whatever the file says.
-double ReadAlpha(const char* key, double defaultValue) {
-  const double alpha = GetPrefDouble(key, nullptr, true, defaultValue);
+double ReadAlpha(RealSetting setting) {
+  const double alpha = ReadReal(setting);
   return alpha >= 0.0 ? std::min(alpha, 1.0) : 0.0;
 }
 
@@ -44,16 +44,16 @@ std::unique_ptr<DrawingThread> QuintessentialInformationClient::zmThread;
 
 AnimationIntervals FittedAnimationIntervals() {
   AnimationIntervals intervals;
-  intervals.frame = ReadInterval("HEARTQUIVA_GL_THREAD_INTERVAL", intervals.frame);
-  intervals.main = ReadInterval("HEARTQUIVA_MAINPIC_INTERVAL", intervals.main);
-  intervals.cpu = ReadInterval("HEARTQUIVA_HELPERPIC_INTERVAL", intervals.cpu);
+  intervals.frame = ReadInterval("HEARTQUIVA_GL_THREAD_INTERVAL");
+  intervals.main = ReadInterval("HEARTQUIVA_MAINPIC_INTERVAL");
+  intervals.cpu = ReadInterval("HEARTQUIVA_HELPERPIC_INTERVAL");
   intervals.main = std::max(intervals.main, intervals.frame);
   intervals.cpu = std::max(intervals.cpu, intervals.main);
   return intervals;
 }
 
 double OverlayWindowAlpha() {
-  return ReadAlpha("QUINT_FULLSCREEN_WINDOW_ALPHA", 0.8);
+  return ReadAlpha("QUINT_FULLSCREEN_WINDOW_ALPHA");
 }
 
 void UpdateProcessInformationCocoa() {
@@ -73,8 +73,8 @@ QuintessentialInformationClient::QuintessentialInformationClient(std::int32_t in
   SetInterval(mIntervals.main);
   mWatcher = new QuintessentialHelperCPUWatcher(*this, mIntervals.cpu);
   mWatcherIsServed = true;
-  mDrawing.iconScale = ReadScale("HEARTQUIVA_ICON_SCALE_FACTOR", 150.0);
-  mDrawing.fullscreenExtraScale = ReadScale("QUIVA_FULLSCREEN_EXTRA_SCALE_FACTOR", 1.5);
+  mDrawing.iconScale = ReadScale("HEARTQUIVA_ICON_SCALE_FACTOR");
+  mDrawing.fullscreenExtraScale = ReadScale("QUIVA_FULLSCREEN_EXTRA_SCALE_FACTOR");
   ReadDrawingSettings();
   const Guard guard(gQuintessentialMutex);
   gQuintessentialInformationClient = this;
@@ -186,9 +186,8 @@ void QuintessentialInformationClient::ReadSettings() {
 }
 
 void QuintessentialInformationClient::ReadDrawingSettings() {
-  mDrawing.drawConnectorsFullscreen =
-      GetPrefInt("QUIVA_FULLSCREEN_DRAW_PARENT_CHILD_CONNECTORS", nullptr, true, 0) != 0;
-  mDrawing.underlayAlpha = ReadAlpha("QUINT_FULLSCREEN_UNDERLAY_ALPHA", 0.25);
+  mDrawing.drawConnectorsFullscreen = ReadSwitch("QUIVA_FULLSCREEN_DRAW_PARENT_CHILD_CONNECTORS");
+  mDrawing.underlayAlpha = ReadAlpha("QUINT_FULLSCREEN_UNDERLAY_ALPHA");
 }
 
 void QuintessentialInformationClient::ApplyIntervals() {

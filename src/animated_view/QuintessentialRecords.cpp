@@ -12,7 +12,7 @@
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PropertyValues.h"
 #include "platform/PrintableText.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -138,9 +138,8 @@ void QuintessentialInformationClient::StabilizeOnce() {
   if (mHasStabilized) return;
   mHasStabilized = true;
   double spread = DisIsRevoltin(mQipiList, true);
-  const auto steps = std::min(
-      GetPrefInt("QUINT_MAX_ITERATIONS_TO_STABILIZE_WHEN_FIRST_SHOWING", nullptr, true, 10),
-      kMostStabilizingSteps);
+  const auto steps = std::min(ReadInt("QUINT_MAX_ITERATIONS_TO_STABILIZE_WHEN_FIRST_SHOWING"),
+                              kMostStabilizingSteps);
   for (std::int32_t i = 0; i < steps; ++i) {
     const double before = std::exchange(spread, DisIsRevoltin(mQipiList, true));
     if (spread <= before) break;

@@ -14,7 +14,7 @@
 #include "main_window/Preferences.h"
 #include "main_window/StripedTableView.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -86,7 +86,7 @@ void QuintessentialView::mouseMoved(const QPointF& place) {
 
 void QuintessentialView::handleMouseDownStuff(const QMouseEvent& event, bool isRightClick) {
   if (gNSMainWindow == nullptr || gQuintessentialInformationClient == nullptr) return;
-  if (GetPrefInt(kShowProcessListKey, nullptr, false, 0) == 0) return;
+  if (StoredInt(kShowProcessListKey).value_or(0) == 0) return;
   const auto place = event.position();
   bool isSelected = false;
   {

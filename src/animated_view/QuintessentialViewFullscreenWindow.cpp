@@ -8,7 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -27,10 +27,10 @@ constexpr Qt::WindowFlags kOverlayFlags = Qt::Window | Qt::FramelessWindowHint |
 
 /// Not at once: a question inside a timer's callback would hold up all other timers.
 void TellOnce(QObject& context) {
-  if (GetPrefInt(kToldKey, nullptr, false, 0) != 0) return;
+  if (StoredInt(kToldKey).value_or(0) != 0) return;
   // A question takes the keyboard; there will be another time.
   if (TheMachine().screen.IsKeyboardElsewhere()) return;
-  SetPrefInt(kToldKey, 1);
+  StoreInt(kToldKey, 1);
   const auto tell = [] {
     TheMachine().alerts.RunAlertPanel(LocalizedString("overlay_needs_compositor").toStdString(),
                                       LocalizedString("overlay_needs_compositor_text")

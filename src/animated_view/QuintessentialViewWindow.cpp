@@ -17,7 +17,6 @@
 #include "main_window/WindowFrame.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
-#include "preferences/PreferencesRetrieval.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {

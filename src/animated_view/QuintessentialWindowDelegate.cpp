@@ -5,7 +5,7 @@
 
 #include "animated_view/QuintessentialSupport.h"
 #include "platform/ApplicationQuitting.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -29,7 +29,7 @@ void QuintessentialWindowDelegate::Remember(bool shown) const {
   if (!mRemembers) return;
   // Events come often, and every write is synchronised.
   const int value = shown ? 1 : 0;
-  if (GetPrefInt(kShowViewKey, nullptr, false, -1) != value) SetPrefInt(kShowViewKey, value);
+  if (StoredInt(kShowViewKey) != value) StoreInt(kShowViewKey, value);
 }
 
 void QuintessentialWindowDelegate::hookUpConsolidatorIfNecessary() {

@@ -15,7 +15,7 @@
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -128,7 +128,7 @@ void QuintessentialWindows::NoteClosing() {
   // What was closed full screen does not come back so.
   if (!gQuintessentialViewIsFullScreenOverlay) return;
   gQuintessentialViewIsFullScreenOverlay = false;
-  SetPrefInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0);
+  StoreInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0);
 }
 
 void QuintessentialWindows::SetMarked(const std::vector<std::int32_t>& pids) {

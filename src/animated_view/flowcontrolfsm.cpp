@@ -5,7 +5,7 @@
 #include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/QuintessentialHost.h"
 #include "platform/Assertion.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -42,7 +42,7 @@ std::unique_ptr<FSMSetFullscreen> FSMSetFullscreen::Create(bool fullscreen) {
 
 void FSMSetFullscreen::OnStateEntry() {
   gQuintessentialViewIsFullScreenOverlay = mFullscreen;
-  SetPrefInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", mFullscreen ? 1 : 0);
+  StoreInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", mFullscreen ? 1 : 0);
   MarkStateDone();
 }
 

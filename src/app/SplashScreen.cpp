@@ -12,7 +12,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -117,10 +117,10 @@ void ShowSplashScreen() {
 
 void ShowSplashScreenAtStart() {
   char seen[64] = "";
-  GetPrefString("ABOUT_PANEL_SEEN_VERSION", seen, sizeof seen, nullptr, false, "");
+  ReadText("ABOUT_PANEL_SEEN_VERSION", seen, sizeof seen);
   const bool isNew = std::string_view(seen) != LURKWELL_VERSION;
-  if (isNew) SetPrefString("ABOUT_PANEL_SEEN_VERSION", LURKWELL_VERSION);
-  const bool isWanted = GetPrefInt("ABOUT_PANEL_AT_EVERY_START", nullptr, true, 0) != 0;
+  if (isNew) StoreText("ABOUT_PANEL_SEEN_VERSION", LURKWELL_VERSION);
+  const bool isWanted = ReadSwitch("ABOUT_PANEL_AT_EVERY_START");
   gHaveShownSplashScreen = !isNew && !isWanted;
   if (!gHaveShownSplashScreen) ShowSplashScreen();
 }

@@ -27,7 +27,7 @@
 #include "platform/Screen.h"
 #include "platform/Tools.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "preferences_window/PreferencesUI.h"
 #include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
@@ -115,8 +115,7 @@ void vqAppDelegate::applicationDidFinishLaunching() {
 }
 
 void vqAppDelegate::OpenFirstWindows() {
-  InitializeProcessWatchdog(GetPrefInt("DEFAULT_WATCHDOG_INTERVAL", nullptr, true, 500),
-                            mFollowingWindows, *this);
+  InitializeProcessWatchdog(ReadInt("DEFAULT_WATCHDOG_INTERVAL"), mFollowingWindows, *this);
   // A start that shows nothing would leave a program that nobody can reach.
   if (IsAnythingVisibleBut(nullptr)) return;
   const bool remembersAny =
@@ -131,12 +130,12 @@ void vqAppDelegate::ShowSomething() {
 }
 
 void QubsDebugging() {
-  if (GetPrefInt(kDebuggingKey, nullptr, true, 0) == 0) return;
-  CreateSystemWideInfo(GetPrefInt("QUBS_DEBUGGING_SWI_INTERVAL", nullptr, true, 500));
+  if (!ReadSwitch(kDebuggingKey)) return;
+  CreateSystemWideInfo(ReadInt("QUBS_DEBUGGING_SWI_INTERVAL"));
 }
 
 void QubsDebuggingCleanup() {
-  if (GetPrefInt(kDebuggingKey, nullptr, true, 0) != 0) CleanupSystemWideInfo();
+  if (ReadSwitch(kDebuggingKey)) CleanupSystemWideInfo();
 }
 
 void vqAppDelegate::applicationWillTerminate() {
@@ -197,10 +196,10 @@ void vqAppDelegate::doShowMainWindow() {
 
 void vqAppDelegate::CheckGraphicsOnce() {
   constexpr char kCheckedKey[] = "QUIVA_CHECK_QUARTZ_EXTREME";
-  if (GetPrefInt(kCheckedKey, nullptr, true, 0) != 0) return;
+  if (ReadSwitch(kCheckedKey)) return;
   // A question takes the keyboard; there will be another time.
   if (TheMachine().screen.IsKeyboardElsewhere()) return;
-  SetPrefInt(kCheckedKey, 1);
+  StoreInt(kCheckedKey, 1);
   // A question asked inside a timer would hold all others up.
   QMetaObject::invokeMethod(
       this,

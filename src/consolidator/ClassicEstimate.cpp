@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "consolidator/MetaProcessInformation.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -15,8 +15,8 @@ constexpr double kMostProcessors = 8192;
 constexpr std::int64_t kMostSeconds = std::int64_t{1} << 53;
 
 /// A share between 0 and 1, whatever the file says.
-double PreferredShare(const char* key, double usual) {
-  const double share = GetPrefDouble(key, nullptr, true, usual);
+double PreferredShare(RealSetting setting) {
+  const double share = ReadReal(setting);
   return share > 0 ? std::min(share, 1.0) : 0;
 }
 
@@ -26,7 +26,7 @@ void ClassicEstimate::MeasureEnvironment(ProcessIdentity process, TimeValue acti
                                          TimeValue now) {
   if (activeTime.IsZero()) return;
   if (process != mEnvironment) {
-    gTruBlueFilteredCPUUsage = PreferredShare("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", 0.1);
+    gTruBlueFilteredCPUUsage = PreferredShare("CLASSIC_INITIAL_ASSUMED_CPU_USAGE");
   } else {
     const auto elapsed = MillisecondsBetween(mPreviousMeasurement, now);
     // Two measurements within one millisecond say nothing.
@@ -36,7 +36,7 @@ void ClassicEstimate::MeasureEnvironment(ProcessIdentity process, TimeValue acti
     if (elapsed > 0 && consumed >= 0) {
       const double usage = consumed / (static_cast<double>(elapsed) / 1000.0);
       gTruBlueFilteredCPUUsage += (std::min(usage, kMostProcessors) - gTruBlueFilteredCPUUsage) *
-                                  PreferredShare("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", 0.05);
+                                  PreferredShare("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER");
     }
   }
   mEnvironment = process;

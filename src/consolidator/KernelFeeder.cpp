@@ -4,13 +4,12 @@
 #include "consolidator/OpenFigures.h"
 #include "platform/Machine.h"
 #include "platform/ProcessTable.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 
 bool IsHelperAskedForFigures() {
-  return TheMachine().processTable.OpenSources() == 0 ||
-         GetPrefInt("FIGURES_FROM_HELPER", nullptr, true, 0) != 0;
+  return TheMachine().processTable.OpenSources() == 0 || ReadSwitch("FIGURES_FROM_HELPER");
 }
 
 void PIDExtractProcessInformation(TimeValue now) {

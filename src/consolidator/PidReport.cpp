@@ -12,7 +12,7 @@
 #include "platform/Assertion.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -23,8 +23,7 @@ std::int64_t AdjustedVirtualSize(std::int64_t reported) {
   if (reported < 0 && reported >= std::numeric_limits<std::int32_t>::min())
     reported = static_cast<std::uint32_t>(reported);
   const std::int64_t shared = TheMachine().hostStatistics.SharedTextAndDataSize();
-  if (GetPrefInt("MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT", nullptr, true, 1) != 0 &&
-      reported > shared)
+  if (ReadSwitch("MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT") && reported > shared)
     reported -= shared;
   return reported;
 }

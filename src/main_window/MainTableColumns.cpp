@@ -9,8 +9,9 @@
 #include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
 #include "main_window/vqMainTableController.h"
+#include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -91,7 +92,7 @@ void vqMainTableController::readColumnPrefs() {
   // What is added here is on disk whole or not at all.
   const PreferenceBatch batch;
   const auto count = GetPrefArrayCount(kMainWindowColumnsKey);
-  const auto sortIndex = GetPrefInt(kSortColumnIndexKey, nullptr, true, 1);
+  const auto sortIndex = ReadInt(kSortColumnIndexKey);
   for (std::int32_t i = 0; i < count; ++i) {
     const auto text = RememberedKey(i);
     const int width = RememberedInt(i, kColumnWidthKey, 0);
@@ -118,11 +119,9 @@ void vqMainTableController::readColumnPrefs() {
 }
 
 void vqMainTableController::addMissingColumns() {
-  const auto once = [this](const char* flag, KeyId key, KeyId afterKey) {
-    std::uint8_t found = 0;
-    GetPrefInt(flag, &found, false, 0);
-    if (found != 0) return;
-    SetPrefInt(flag, 1);
+  const auto once = [this](IntegerSetting flag, KeyId key, KeyId afterKey) {
+    if (StoredInt(flag)) return;
+    StoreInt(flag, 1);
     addToKeysWeTrackForUI(key, afterKey);
   };
   once("HAS_RUN_TWO_POINT_THREE", kInternalIndicator, kInternalIcon);
@@ -264,7 +263,7 @@ void vqMainTableController::chooseInitialSortColumn() {
   if (isTracked(fRememberedSortKey)) {
     key = InternKey(std::exchange(fRememberedSortKey, {}));
   } else {
-    auto index = GetPrefInt(kSortColumnIndexKey, nullptr, true, 1);
+    auto index = ReadInt(kSortColumnIndexKey);
     const auto count = static_cast<std::int32_t>(fKeysWeTrackForUI.size());
     // One behind the last is let through here, and is no column either.
     if (index > count || index < 0 || !fRememberedSortKey.empty()) index = 0;
@@ -278,14 +277,14 @@ void vqMainTableController::saveColumnPrefs() {
   adoptScreenLayout();
   // Another instance's columns must not come in between.
   const PreferenceBatch batch;
-  RemovePref(kMainWindowColumnsKey);
+  RemoveSetting(kMainWindowColumnsKey);
   std::int32_t count = 0;
   const auto remember = [&](const char* key, int width, std::int32_t direction) {
-    if (fRememberedSortKey == key) SetPrefInt(kSortColumnIndexKey, count);
+    if (fRememberedSortKey == key) StoreInt(kSortColumnIndexKey, count);
     RememberColumn(count++, key, width, direction);
   };
   for (const KeyId key : fKeysWeTrackForUI) {
-    if (key == fSortColumn) SetPrefInt(kSortColumnIndexKey, count);
+    if (key == fSortColumn) StoreInt(kSortColumnIndexKey, count);
     remember(KeyText(key).data(), fColumnWidths[key], fColumnSortDirection[key]);
   }
   for (const auto& column : fAbsentColumns)

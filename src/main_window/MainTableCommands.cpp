@@ -11,7 +11,7 @@
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
 #include "resources/Resources.h"
 
@@ -147,12 +147,12 @@ bool vqMainTableController::confirmFollowing(std::size_t windows) {
 }
 
 void vqMainTableController::newCPUHistoryWindow() {
-  const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
+  const auto interval = ReadInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL");
   followSelectedPids(&MonitorWindows::CreateCPUHistoryWindow, interval);
 }
 
 void vqMainTableController::newLoggingWindow() {
-  const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
+  const auto interval = ReadInt("DEFAULT_LOGGING_WINDOW_INTERVAL");
   followSelectedPids(&MonitorWindows::CreateLoggingWindow, interval);
 }
 

@@ -10,7 +10,6 @@
 namespace lurkwell {
 namespace {
 
-constexpr char kToolbarIdentifier[] = "vqMainTableToolbarIdentifierTarvikTemp14";
 constexpr QSize kLightSize(20, 20);
 constexpr int kSpaceWidth = 32;
 
@@ -43,9 +42,8 @@ QAction* MakeSpace(bool isFlexible) {
 }  // namespace
 
 void vqMainTableController::setupToolbar(QMainWindow& window) {
-  fToolbar = new MainToolbar(kToolbarIdentifier, &window, [this](const ToolbarItem& item) {
-    return itemForItemIdentifier(item);
-  });
+  fToolbar = new MainToolbar(
+      &window, [this](const ToolbarItem& item) { return itemForItemIdentifier(item); });
   window.addToolBar(fToolbar);
   fToolbar->RestoreItems();
   connect(fToolbar, &MainToolbar::itemsChanged, this, [this] {

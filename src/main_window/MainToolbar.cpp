@@ -12,13 +12,16 @@
 
 #include "main_window/ToolbarDrag.h"
 #include "main_window/ToolbarGauge.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {
 
 constexpr QSize kIconSize(24, 24);
+constexpr char kItemsKey[] = "vqMainTableToolbarIdentifierTarvikTemp14_ITEMS";
+constexpr char kModeKey[] = "vqMainTableToolbarIdentifierTarvikTemp14_DISPLAY_MODE";
+constexpr char kShownKey[] = "vqMainTableToolbarIdentifierTarvikTemp14_SHOWN";
 
 /// Those that a toolbar can hold: known ones, repeated where they may be, not too many.
 QStringList Allowed(const QStringList& identifiers) {
@@ -38,24 +41,16 @@ Qt::ToolButtonStyle StyleOf(MainToolbar::DisplayMode mode) {
 
 }  // namespace
 
-MainToolbar::MainToolbar(const char* identifier, QWidget* parent,
-                         std::function<QAction*(const ToolbarItem&)> makeItem)
-    : QToolBar(LocalizedString("toolbar_title"), parent),
-      mIdentifier(identifier),
-      mMakeItem(std::move(makeItem)) {
-  setObjectName(QLatin1String(identifier));
+MainToolbar::MainToolbar(QWidget* parent, std::function<QAction*(const ToolbarItem&)> makeItem)
+    : QToolBar(LocalizedString("toolbar_title"), parent), mMakeItem(std::move(makeItem)) {
+  setObjectName(QStringLiteral("vqMainTableToolbarIdentifierTarvikTemp14"));
   setMovable(false);
   setFloatable(false);
   setIconSize(kIconSize);
-  const auto remembered = [this](const char* what, std::int32_t usual) {
-    std::uint8_t found = 0;
-    const auto value = GetPrefInt((mIdentifier + what).constData(), &found, false, 0);
-    return found != 0 ? value : usual;
-  };
-  const auto mode = remembered("_DISPLAY_MODE", kDefault);
+  const auto mode = StoredInt(kModeKey).value_or(kDefault);
   if (mode >= kDefault && mode <= kLabelOnly) mDisplayMode = static_cast<DisplayMode>(mode);
   setToolButtonStyle(StyleOf(mDisplayMode));
-  if (remembered("_SHOWN", 1) == 0) hide();
+  if (StoredInt(kShownKey) == 0) hide();
 }
 
 void MainToolbar::RestoreItems() {
@@ -64,28 +59,22 @@ void MainToolbar::RestoreItems() {
 
 // ---- What is remembered -------------------------------------------------------------------------
 
-void MainToolbar::Remember(const char* what, std::int32_t value) {
-  SetPrefInt((mIdentifier + what).constData(), value);
-}
-
 QStringList MainToolbar::RememberedItems() const {
   char text[4096] = "";
-  std::uint8_t found = 0;
-  GetPrefString((mIdentifier + "_ITEMS").constData(), text, sizeof text, &found, false, "");
-  if (found == 0) return DefaultToolbarItems();
+  if (!ReadText(kItemsKey, text, sizeof text)) return DefaultToolbarItems();
   return Allowed(QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts));
 }
 
 void MainToolbar::SetDisplayMode(DisplayMode mode) {
   mDisplayMode = mode;
   setToolButtonStyle(StyleOf(mode));
-  Remember("_DISPLAY_MODE", mode);
+  StoreInt(kModeKey, mode);
 }
 
 void MainToolbar::SetShown(bool shown) {
   if (shown == !isHidden()) return;
   setVisible(shown);
-  Remember("_SHOWN", shown ? 1 : 0);
+  StoreInt(kShownKey, shown ? 1 : 0);
   if (shown) Q_EMIT itemsChanged();
   Q_EMIT shownChanged(shown);
 }
@@ -111,8 +100,7 @@ void MainToolbar::Rebuild(const QStringList& identifiers) {
 void MainToolbar::SetItems(const QStringList& identifiers) {
   const auto allowed = Allowed(identifiers);
   if (allowed == mIdentifiers) return;
-  SetPrefString((mIdentifier + "_ITEMS").constData(),
-                allowed.join(QLatin1Char(' ')).toLatin1().constData());
+  StoreText(kItemsKey, allowed.join(QLatin1Char(' ')).toLatin1().constData());
   Rebuild(allowed);
 }
 

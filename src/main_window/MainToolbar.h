@@ -12,8 +12,8 @@ namespace lurkwell {
 class ToolbarGauge;
 
 /// The main window's toolbar: items by identifier, in an order that the user may change. What the
-/// user makes of it is kept in the preferences under keys that begin with the toolbar's identifier:
-/// "_ITEMS" (identifiers between blanks), "_DISPLAY_MODE", "_SHOWN". Main thread only.
+/// user makes of it is kept in the preferences: the identifiers between blanks, how they are shown,
+/// and whether the toolbar is. Main thread only.
 class MainToolbar final : public QToolBar {
   Q_OBJECT
 
@@ -24,8 +24,7 @@ class MainToolbar final : public QToolBar {
   static constexpr qsizetype kMostItems = 64;
 
   /// `makeItem` makes an item's action; the toolbar takes it over.
-  MainToolbar(const char* identifier, QWidget* parent,
-              std::function<QAction*(const ToolbarItem& item)> makeItem);
+  MainToolbar(QWidget* parent, std::function<QAction*(const ToolbarItem& item)> makeItem);
 
   /// Makes the items that are remembered, but for unknown ones and those that are there already, or
   /// the default ones.
@@ -66,7 +65,6 @@ class MainToolbar final : public QToolBar {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void Remember(const char* what, std::int32_t value);
   QStringList RememberedItems() const;
   void Rebuild(const QStringList& identifiers);
   void WatchItems(bool watch);
@@ -75,7 +73,6 @@ class MainToolbar final : public QToolBar {
   template <typename Show>
   void ForGauges(const char* identifier, Show show);
 
-  QByteArray mIdentifier;
   std::function<QAction*(const ToolbarItem&)> mMakeItem;
   QStringList mIdentifiers;
   QList<QAction*> mItems;

@@ -19,7 +19,6 @@
 #include "platform/Machine.h"
 #include "platform/PreferenceDomain.h"
 #include "platform/ProcessManager.h"
-#include "preferences/PreferencesRetrieval.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {

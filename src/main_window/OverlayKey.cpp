@@ -4,17 +4,11 @@
 
 #include "platform/HotKeys.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
-namespace {
-
-constexpr std::int32_t kF7 = 98;
-
-}  // namespace
-
 std::int32_t OverlayKeyCode() {
-  return GetPrefInt("FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE", nullptr, true, kF7);
+  return ReadInt("FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE");
 }
 
 QKeySequence OverlayKey() {

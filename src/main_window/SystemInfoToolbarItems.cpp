@@ -10,7 +10,7 @@
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -27,20 +27,20 @@ double FromNow(double seconds) {
   return TheMachine().clock.AbsoluteTime() + seconds;
 }
 
-double FiniteReal(const char* key, double usual) {
-  const double value = GetPrefDouble(key, nullptr, true, usual);
-  return std::isfinite(value) ? value : usual;
+double FiniteReal(RealSetting setting) {
+  const double value = ReadReal(setting);
+  return std::isfinite(value) ? value : setting.Row().defaultValue;
 }
 
 }  // namespace
 
 void VQTarvMainWindowInfoSynch::ReadSystemInfoPreferences() {
-  mPageoutsFilter = FiniteReal("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_FILTER", 0.2);
-  mYellowThreshold = GetPrefInt("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_YELLOW", nullptr, true, 1);
-  mRedThreshold = GetPrefInt("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_RED", nullptr, true, 20);
+  mPageoutsFilter = FiniteReal("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_FILTER");
+  mYellowThreshold = ReadInt("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_YELLOW");
+  mRedThreshold = ReadInt("MAIN_WINDOW_SYSTEM_INFO_PAGEOUTS_RED");
   // Preferences are edited by hand; the light must not take a core.
   mFlashInterval =
-      std::max(kShortestFlash, FiniteReal("MAIN_WINDOW_PAGEOUT_CRITICAL_FLASH_INTERVAL", 0.25));
+      std::max(kShortestFlash, FiniteReal("MAIN_WINDOW_PAGEOUT_CRITICAL_FLASH_INTERVAL"));
   mFlashTimer = TheMachine().runLoop.AddTimer(FromNow(kFarAway), mFlashInterval, &PageoutTimerFunc);
 }
 

@@ -13,7 +13,7 @@
 #include "main_window/vqMainTableController.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
 
 namespace lurkwell {
@@ -257,9 +257,7 @@ void VQTarvMainWindowInfoSynch::NotifyPidHasChangedAppreciably(int pid) {
 }
 
 void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
-  std::uint8_t found = 0;
-  const auto interval = GetPrefInt(kMainWindowIntervalKey, &found, false, 0);
-  if (found != 0) SetSeenInterval(interval);
+  if (const auto interval = StoredInt(kMainWindowIntervalKey)) SetSeenInterval(*interval);
   mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) {
     UpdateAllFields(*row, row->Pid());

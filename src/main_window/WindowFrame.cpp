@@ -7,28 +7,28 @@
 #include <cstdio>
 #include <string_view>
 
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 
-WindowFrame ReadWindowFrame(const char* key) {
+WindowFrame ReadWindowFrame(TextSetting setting) {
   char text[64] = "";
-  std::uint8_t found = 0;
-  GetPrefString(key, text, sizeof text, &found, false, "");
   int x = 0, y = 0, width = 0, height = 0;
-  if (found == 0 || std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4) return {};
+  if (!ReadText(setting, text, sizeof text) ||
+      std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4)
+    return {};
   if (width < 100 || height < 100 || width > 20000 || height > 20000) return {};
   if (x < -20000 || y < -20000 || x > 100000 || y > 100000) return {};
   return {{x, y, width, height}, std::string_view(text).ends_with(" maximised")};
 }
 
-void WriteWindowFrame(const char* key, const QRect& frame, bool isMaximised) {
+void WriteWindowFrame(TextSetting setting, const QRect& frame, bool isMaximised) {
   char text[64];
   std::snprintf(text, sizeof text, "%d %d %d %d%s", frame.x(), frame.y(), frame.width(),
                 frame.height(), isMaximised ? " maximised" : "");
   char before[64] = "";
-  GetPrefString(key, before, sizeof before, nullptr, false, "");
-  if (std::string_view(text) != before) SetPrefString(key, text);
+  ReadText(setting, before, sizeof before);
+  if (std::string_view(text) != before) StoreText(setting, text);
 }
 
 QRect FitOnScreens(QRect frame, QSize borders) {

@@ -3,6 +3,8 @@
 #include <QRect>
 #include <QSize>
 
+#include "preferences/Settings.h"
+
 namespace lurkwell {
 
 /// Where a window was, as the preferences remember it: "X Y WIDTH HEIGHT[ maximised]". Main thread.
@@ -11,9 +13,9 @@ struct WindowFrame {
   bool isMaximised = false;
 };
 
-WindowFrame ReadWindowFrame(const char* key);
+WindowFrame ReadWindowFrame(TextSetting setting);
 /// `frame` is the place without maximising. Writes what has changed only.
-void WriteWindowFrame(const char* key, const QRect& frame, bool isMaximised);
+void WriteWindowFrame(TextSetting setting, const QRect& frame, bool isMaximised);
 
 /// What window managers put around a window, in points, with some to spare.
 inline constexpr QSize kBorders(12, 40);

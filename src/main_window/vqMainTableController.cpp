@@ -16,7 +16,7 @@
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
 #include "platform/ProcessTable.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
 #include "resources/Resources.h"
 
@@ -72,11 +72,11 @@ void vqMainTableController::windowDidUpdate() {
 
 void vqMainTableController::windowDidBecomeKey() {
   windowDidUpdate();
-  if (GetPrefInt(kShowProcessListKey, nullptr, false, 0) != 1) SetPrefInt(kShowProcessListKey, 1);
+  if (StoredInt(kShowProcessListKey) != 1) StoreInt(kShowProcessListKey, 1);
 }
 
 void vqMainTableController::windowWillClose() {
-  if (!gApplicationQuitting) SetPrefInt(kShowProcessListKey, 0);
+  if (!gApplicationQuitting) StoreInt(kShowProcessListKey, 0);
   if (fInfoSynchronizer != nullptr) fInfoSynchronizer->UnhookFromConsolidator();
   fRows.RemoveAll();
   fHolders.clear();

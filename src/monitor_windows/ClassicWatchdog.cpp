@@ -14,7 +14,7 @@
 #include "platform/EventBus.h"
 #include "platform/Machine.h"
 #include "platform/Tools.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 
@@ -165,8 +165,7 @@ void TurnOnClassicNub() {
   Require(gClassicWatchdog == nullptr, kClassicUnit, "gClassicWatchdog == NULL");
   gClassicWatchdogState = kClassicInitial;
   gClassicNubPid = kInvalidPID;
-  gClassicWatchdog =
-      new ClassicWatchdog(GetPrefInt("CLASSIC_WATCHDOG_INTERVAL", nullptr, true, 5000));
+  gClassicWatchdog = new ClassicWatchdog(ReadInt("CLASSIC_WATCHDOG_INTERVAL"));
   AddProcessInformationClient(gClassicWatchdog);
 }
 
@@ -181,7 +180,7 @@ void TurnOffClassicNub() {
 
 void AdjustClassicNub(bool on) {
   auto& machine = TheMachine();
-  const auto ticks = GetPrefInt("CLASSIC_NUB_CONTROL_DEFAULT_SLEEP_TIX", nullptr, true, 120);
+  const auto ticks = ReadInt("CLASSIC_NUB_CONTROL_DEFAULT_SLEEP_TIX");
   Event event{classic_events::kClass, classic_events::kControl, {}, {}};
   event.parameters.push_back(
       {classic_events::kServedProcess,

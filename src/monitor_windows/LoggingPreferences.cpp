@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "monitor_windows/RememberedWindows.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/PreferenceArrays.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -11,36 +12,34 @@ namespace {
 struct ColumnKeys {
   const char* identifier;
   bool LoggingSwitches::*isShown;
-  const char* general;
-  std::int32_t generalDefault;
+  IntegerSetting general;
   const char* own;
   const char* width;
 };
 
 constexpr ColumnKeys kLogColumns[kLoggingColumns] = {
-    {"timestampColID", &LoggingSwitches::includeTimeStamp, "LOG_WINDOW_INCLUDE_TIMESTAMP", 1,
+    {"timestampColID", &LoggingSwitches::includeTimeStamp, "LOG_WINDOW_INCLUDE_TIMESTAMP",
      "INCLUDE_TIMESTAMP", "LOG_TIMESTAMP_COL_WIDTH"},
-    {"activeColID", &LoggingSwitches::logActiveTime, "LOG_WINDOW_ACTIVE_TIME_BOOL", 1,
+    {"activeColID", &LoggingSwitches::logActiveTime, "LOG_WINDOW_ACTIVE_TIME_BOOL",
      "LOG_ACTIVE_TIME", "LOG_ACTIVE_COL_WIDTH"},
     {"\306activeColID", &LoggingSwitches::logDeltaActiveTime, "LOG_WINDOW_DELTA_ACTIVE_TIME_BOOL",
-     1, "LOG_DELTA_ACTIVE_TIME", "LOG_DELTA_ACTIVE_COL_WIDTH"},
-    {"realColID", &LoggingSwitches::logRealMemUsed, "LOG_WINDOW_REAL_MEM_BOOL", 0,
-     "LOG_REAL_MEM_USED", "LOG_REAL_MEM_COL_WIDTH"},
-    {"\306realColID", &LoggingSwitches::logDeltaRealMemUsed, "LOG_WINDOW_DELTA_REAL_MEM_BOOL", 0,
+     "LOG_DELTA_ACTIVE_TIME", "LOG_DELTA_ACTIVE_COL_WIDTH"},
+    {"realColID", &LoggingSwitches::logRealMemUsed, "LOG_WINDOW_REAL_MEM_BOOL", "LOG_REAL_MEM_USED",
+     "LOG_REAL_MEM_COL_WIDTH"},
+    {"\306realColID", &LoggingSwitches::logDeltaRealMemUsed, "LOG_WINDOW_DELTA_REAL_MEM_BOOL",
      "LOG_DELTA_REAL_MEM_USED", "LOG_DELTA_REAL_MEM_COL_WIDTH"},
-    {"virtualColID", &LoggingSwitches::logVirtualMemUsed, "LOG_WINDOW_VIRTUAL_MEM_BOOL", 0,
+    {"virtualColID", &LoggingSwitches::logVirtualMemUsed, "LOG_WINDOW_VIRTUAL_MEM_BOOL",
      "LOG_VIRTUAL_MEM_USED", "LOG_VIRTUAL_MEM_COL_WIDTH"},
     {"\306virtualColID", &LoggingSwitches::logDeltaVirtualMemUsed,
-     "LOG_WINDOW_DELTA_VIRTUAL_MEM_BOOL", 0, "LOG_DELTA_VIRTUAL_MEM_USED",
+     "LOG_WINDOW_DELTA_VIRTUAL_MEM_BOOL", "LOG_DELTA_VIRTUAL_MEM_USED",
      "LOG_DELTA_VIRTUAL_MEM_COL_WIDTH"},
 };
 
 constexpr char kLogToFileKey[] = "LOG_TO_FILE";
 constexpr char kLogIntervalKey[] = "CUSTOM_UPDATE_INTERVAL";
 
-bool ReadSwitch(std::int32_t prefsIndex, const char* own, const char* general,
-                std::int32_t generalDefault) {
-  const auto value = GetPrefInt(general, nullptr, true, generalDefault);
+bool ReadSwitch(std::int32_t prefsIndex, const char* own, IntegerSetting general) {
+  const auto value = ReadInt(general);
   return ReadRememberedInt(kLoggingWindowKind, prefsIndex, own, value) != 0;
 }
 
@@ -49,13 +48,12 @@ bool ReadSwitch(std::int32_t prefsIndex, const char* own, const char* general,
 LoggingSwitches ReadLoggingSwitches(std::int32_t prefsIndex) {
   LoggingSwitches switches;
   for (const auto& column : kLogColumns)
-    switches.*column.isShown =
-        ReadSwitch(prefsIndex, column.own, column.general, column.generalDefault);
+    switches.*column.isShown = ReadSwitch(prefsIndex, column.own, column.general);
   return switches;
 }
 
 bool ReadLogToFile(std::int32_t prefsIndex) {
-  return ReadSwitch(prefsIndex, kLogToFileKey, "LOG_WINDOW_LOG_TO_FILE", 0);
+  return ReadSwitch(prefsIndex, kLogToFileKey, "LOG_WINDOW_LOG_TO_FILE");
 }
 
 std::int32_t ReadLoggingInterval(std::int32_t prefsIndex, std::int32_t fallback) {

@@ -9,7 +9,7 @@
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -151,8 +151,7 @@ void ProcessInformationWindow::TakeOver(FloatingWindow* window) {
 
 void ProcessInformationWindow::ApplyOpacity() {
   if (mWindow != nullptr)
-    mWindow->setWindowOpacity(
-        GetPrefDouble("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA", nullptr, true, 1.0));
+    mWindow->setWindowOpacity(ReadReal("DEFAULT_PROCESS_INFORMATION_WINDOW_ALPHA"));
 }
 
 double ProcessInformationWindow::AlphaWithin(double alpha) const {
@@ -229,14 +228,14 @@ void LocateRectangleForNewWindow(WindowRect* r) {
   const std::int64_t right = available.left() + available.width();
   const std::int64_t bottom = available.top() + available.height();
   // Preferences may hold any number.
-  std::int64_t x = std::int64_t{GetPrefInt(kXKey, nullptr, true, 80)} + 20;
-  std::int64_t y = std::int64_t{GetPrefInt(kYKey, nullptr, true, 100)} + 30;
+  std::int64_t x = std::int64_t{ReadInt(kXKey)} + 20;
+  std::int64_t y = std::int64_t{ReadInt(kYKey)} + 30;
   if (x + width > right || x < available.left()) x = available.left() + 20;
   if (y + height > bottom || y < available.top()) y = available.top() + 20;
   *r = {static_cast<std::int32_t>(x), static_cast<std::int32_t>(y),
         static_cast<std::int32_t>(x) + width, static_cast<std::int32_t>(y) + height};
-  SetPrefInt(kXKey, r->left);
-  SetPrefInt(kYKey, r->top);
+  StoreInt(kXKey, r->left);
+  StoreInt(kYKey, r->top);
 }
 
 }  // namespace lurkwell

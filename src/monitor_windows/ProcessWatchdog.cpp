@@ -12,8 +12,9 @@
 #include "consolidator/ProcessQueries.h"
 #include "monitor_windows/FollowedProcess.h"
 #include "platform/Assertion.h"
+#include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -28,10 +29,6 @@ bool IsApplicationSignature(const char* property) {
 
 bool ReadText(int pid, const char* property, char* text) {
   return GetPIDPropertyValue(pid, property, text, kRememberedTextSize, nullptr);
-}
-
-bool IsSet(const char* key, std::int32_t defaultValue) {
-  return GetPrefInt(key, nullptr, true, defaultValue) != 0;
 }
 
 }  // namespace
@@ -119,7 +116,7 @@ void ProcessWatchdog::OpenWindowsOf(int pid, Claim claim) {
     if (!IsDue(kCPUHistoryWindowKind, index, pid, claim, mKinds.IsCPUHistoryWindowOpen(uuid)))
       continue;
     if (!MayOpen()) break;
-    const auto interval = GetPrefInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL", nullptr, true, 250);
+    const auto interval = ReadInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL");
     mKinds.CreateCPUHistoryWindow(interval, pid, &uuid, &rect);
     RememberProcess(kCPUHistoryWindowKind, index - 1, pid);
   }
@@ -127,7 +124,7 @@ void ProcessWatchdog::OpenWindowsOf(int pid, Claim claim) {
   while (CheckClientKindForNewPid(kLoggingWindowKind, pid, &index, &rect, &uuid)) {
     if (!IsDue(kLoggingWindowKind, index, pid, claim, mKinds.IsLoggingWindowOpen(uuid))) continue;
     if (!MayOpen()) break;
-    const auto interval = GetPrefInt("DEFAULT_LOGGING_WINDOW_INTERVAL", nullptr, true, 1000);
+    const auto interval = ReadInt("DEFAULT_LOGGING_WINDOW_INTERVAL");
     mKinds.CreateLoggingWindow(interval, pid, &uuid, &rect, index - 1);
     RememberProcess(kLoggingWindowKind, index - 1, pid);
   }
@@ -166,10 +163,10 @@ bool ProcessWatchdog::CheckClientKindForNewPid(const char* arrayName, int pid,
 void InitializeProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kinds,
                                StartUpWindows& windows) {
   AddProcessInformationClient(new ProcessWatchdog(interval, kinds));
-  if (IsSet("DEFAULT_SHOW_PROCESS_LIST_WINDOW", 1)) windows.doShowMainWindow();
-  if (IsSet("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0))
+  if (ReadSwitch("DEFAULT_SHOW_PROCESS_LIST_WINDOW")) windows.doShowMainWindow();
+  if (ReadSwitch("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW"))
     return windows.showQuintessentialViewFullScreen();
-  if (IsSet("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW", 0)) windows.doShowQuintessentialView();
+  if (ReadSwitch("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW")) windows.doShowQuintessentialView();
 }
 
 }  // namespace lurkwell

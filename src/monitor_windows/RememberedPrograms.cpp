@@ -4,7 +4,7 @@
 
 #include "monitor_windows/RememberedWindows.h"
 #include "platform/Uuid.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/PreferenceArrays.h"
 
 namespace lurkwell {
 namespace {

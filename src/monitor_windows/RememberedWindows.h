@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/Uuid.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/PreferenceArrays.h"
 
 namespace lurkwell {
 

@@ -10,8 +10,8 @@
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
 #include "monitor_windows/RememberedWindows.h"
+#include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {

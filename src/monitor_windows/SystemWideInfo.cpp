@@ -5,7 +5,7 @@
 
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/Assertion.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -18,9 +18,8 @@ constexpr char kBottomKey[] = "QUBS_DEBUGGING_WINDOW_BOTTOM";
 constexpr QSize kSmallestInformation(60, 50);
 
 WindowRect RememberedPlace() {
-  const WindowRect stored{
-      GetPrefInt(kLeftKey, nullptr, true, 100), GetPrefInt(kTopKey, nullptr, true, 300),
-      GetPrefInt(kRightKey, nullptr, true, 290), GetPrefInt(kBottomKey, nullptr, true, 350)};
+  const WindowRect stored{ReadInt(kLeftKey), ReadInt(kTopKey), ReadInt(kRightKey),
+                          ReadInt(kBottomKey)};
   // Preferences may hold any number.
   const auto place = PlaceOnScreen(stored, kSmallestInformation);
   return {place.left(), place.top(), place.left() + place.width(), place.top() + place.height()};
@@ -55,10 +54,10 @@ SystemWideInfo::~SystemWideInfo() {
   if (gSystemWideInfo == this) gSystemWideInfo = nullptr;
   if (Window() == nullptr) return;
   const auto bounds = ContentBounds();
-  SetPrefInt(kLeftKey, bounds.left);
-  SetPrefInt(kTopKey, bounds.top);
-  SetPrefInt(kRightKey, bounds.right);
-  SetPrefInt(kBottomKey, bounds.bottom);
+  StoreInt(kLeftKey, bounds.left);
+  StoreInt(kTopKey, bounds.top);
+  StoreInt(kRightKey, bounds.right);
+  StoreInt(kBottomKey, bounds.bottom);
 }
 
 ProcessInformationClient::NeedLevel SystemWideInfo::NeedPidsForProcProperty(const char* property) {

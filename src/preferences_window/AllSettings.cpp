@@ -12,6 +12,7 @@
 
 #include "main_window/CustomCells.h"
 #include "main_window/FrontmostWindow.h"
+#include "preferences_window/SettingTexts.h"
 #include "preferences_window/SettingTitleCell.h"
 #include "resources/Resources.h"
 
@@ -146,8 +147,8 @@ void AllSettings::selectionHasChanged() {
   fReset->setEnabled(std::ranges::any_of(rows, [this](int row) { return fModel->CanReset(row); }));
   QString note;
   if (rows.size() == 1)
-    note = MeaningOf(PreferenceCatalogue()[static_cast<std::size_t>(rows.first())]) +
-           QLatin1Char(' ') + fModel->NoteOf(rows.first());
+    note = MeaningOf(kSettings[static_cast<std::size_t>(rows.first())]) + QLatin1Char(' ') +
+           fModel->NoteOf(rows.first());
   fNote->setText(note);
 }
 

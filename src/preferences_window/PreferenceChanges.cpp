@@ -9,7 +9,7 @@
 
 #include "consolidator/ProcessInformationClient.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -20,17 +20,15 @@ constexpr std::array<const char*, 3> kOrderedKeys = {"HEARTQUIVA_GL_THREAD_INTER
                                                      "HEARTQUIVA_MAINPIC_INTERVAL",
                                                      "HEARTQUIVA_HELPERPIC_INTERVAL"};
 
-void StoreNumber(const PreferenceEntry& entry, double value) {
-  if (entry.kind == PreferenceKind::kInterval)
+void StoreInOrder(const Setting& entry, double value) {
+  if (entry.kind == SettingKind::kInterval)
     StoreInterval(entry, static_cast<int>(value));
-  else if (entry.IsInteger())
-    SetPrefInt(entry.key, static_cast<std::int32_t>(value));
   else
-    SetPrefDouble(entry.key, value);
+    StoreNumber(entry, value);
 }
 
 /// Type names of clients, each once.
-std::set<std::string> ConcernedBy(std::span<const PreferenceEntry* const> entries) {
+std::set<std::string> ConcernedBy(std::span<const Setting* const> entries) {
   std::set<std::string> names;
   for (const auto* entry : entries)
     if (entry->told != nullptr) names.insert(entry->told);
@@ -46,29 +44,29 @@ QString Plain(double number) {
 
 }  // namespace
 
-void StoreInterval(const PreferenceEntry& entry, int milliseconds,
-                   const std::function<void(const PreferenceEntry&, int)>& followed) {
+void StoreInterval(const Setting& entry, int milliseconds,
+                   const std::function<void(const Setting&, int)>& followed) {
   const PreferenceBatch batch;
-  SetPrefInt(entry.key, milliseconds);
+  StoreNumber(entry, milliseconds);
   const auto* moved = std::ranges::find(kOrderedKeys, std::string_view(entry.key),
                                         [](const char* key) { return std::string_view(key); });
   if (moved == kOrderedKeys.end()) return;
   for (const auto* other = kOrderedKeys.begin(); other != kOrderedKeys.end(); ++other) {
-    std::uint8_t found = 0;
-    const auto value = GetPrefInt(*other, &found, false, 0);
+    const auto& follower = *FindSetting(*other);
+    const auto value = StoredInt(follower);
     const bool isOutOfOrder = other < moved ? value > milliseconds : value < milliseconds;
-    if (found == 0 || !isOutOfOrder) continue;
-    SetPrefInt(*other, milliseconds);
-    if (followed) followed(*FindPreference(*other), milliseconds);
+    if (!value || !isOutOfOrder) continue;
+    StoreNumber(follower, milliseconds);
+    if (followed) followed(follower, milliseconds);
   }
 }
 
-void NotifyOf(const PreferenceEntry& entry) {
+void NotifyOf(const Setting& entry) {
   if (entry.told != nullptr)
     ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(entry.told);
 }
 
-ReadValue ReadNumber(const PreferenceEntry& entry, const QString& text) {
+ReadValue ReadNumber(const Setting& entry, const QString& text) {
   bool isNumber = false;
   const QString plain = text.trimmed();
   double value = plain.toDouble(&isNumber);
@@ -84,31 +82,31 @@ ReadValue ReadNumber(const PreferenceEntry& entry, const QString& text) {
   return {value, {}};
 }
 
-void ChangeNumber(const PreferenceEntry& entry, double value) {
-  StoreNumber(entry, value);
+void ChangeNumber(const Setting& entry, double value) {
+  StoreInOrder(entry, value);
   NotifyOf(entry);
 }
 
-bool ChangeText(const PreferenceEntry& entry, const QString& text) {
+bool ChangeText(const Setting& entry, const QString& text) {
   const QByteArray bytes = text.toLatin1();
   for (const QChar c : text)
     if (c < u' ' || c > u'~') return false;
-  SetPrefString(entry.key, bytes.constData());
+  StoreText(entry, bytes.constData());
   NotifyOf(entry);
   return true;
 }
 
-void ResetPreferences(std::span<const PreferenceEntry* const> entries) {
+void ResetPreferences(std::span<const Setting* const> entries) {
   const PreferenceBatch batch;
   for (const auto* entry : entries) {
     if (entry->HasDefault() && entry->IsNumber())
-      StoreNumber(*entry, entry->defaultValue);
+      StoreInOrder(*entry, entry->defaultValue);
     else
-      RemovePref(entry->key);
+      RemoveSetting(*entry);
   }
   for (const auto& name : ConcernedBy(entries))
     ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(name.c_str());
-  for (const auto* entry : entries) RemovePref(entry->key);
+  for (const auto* entry : entries) RemoveSetting(*entry);
 }
 
 }  // namespace lurkwell

@@ -5,7 +5,7 @@
 #include <optional>
 #include <span>
 
-#include "preferences_window/PreferenceCatalogue.h"
+#include "preferences/SettingTable.h"
 
 namespace lurkwell {
 
@@ -15,11 +15,11 @@ namespace lurkwell {
 /// Stores the milliseconds. The animated view's frame, main and CPU intervals keep their order: the
 /// one that is changed wins, and a stored one that would be out of order follows. `followed` hears
 /// of every key that did.
-void StoreInterval(const PreferenceEntry& entry, int milliseconds,
-                   const std::function<void(const PreferenceEntry&, int)>& followed = {});
+void StoreInterval(const Setting& entry, int milliseconds,
+                   const std::function<void(const Setting&, int)>& followed = {});
 
 /// Tells the entry's clients, if it has any.
-void NotifyOf(const PreferenceEntry& entry);
+void NotifyOf(const Setting& entry);
 
 /// A text that the user gave for a setting, as a number.
 struct ReadValue {
@@ -28,17 +28,17 @@ struct ReadValue {
   /// Why, for the user.
   QString problem;
 };
-ReadValue ReadNumber(const PreferenceEntry& entry, const QString& text);
+ReadValue ReadNumber(const Setting& entry, const QString& text);
 
 /// Stores a number that lies in the entry's range, and tells.
-void ChangeNumber(const PreferenceEntry& entry, double value);
+void ChangeNumber(const Setting& entry, double value);
 
 /// Stores a text, and tells. False, and nothing done, when it has characters that preferences
 /// cannot hold.
-bool ChangeText(const PreferenceEntry& entry, const QString& text);
+bool ChangeText(const Setting& entry, const QString& text);
 
 /// Removes the keys. Those concerned are told while the defaults stand under them, since a missing
 /// value would leave them with what they have; each is told once.
-void ResetPreferences(std::span<const PreferenceEntry* const> entries);
+void ResetPreferences(std::span<const Setting* const> entries);
 
 }  // namespace lurkwell

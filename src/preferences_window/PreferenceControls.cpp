@@ -7,11 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <string>
+#include <vector>
 
-#include "platform/Assertion.h"
 #include "preferences/PreferenceBatch.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "preferences_window/IntervalScale.h"
 #include "preferences_window/PreferenceChanges.h"
 #include "resources/Resources.h"
@@ -21,80 +20,34 @@ namespace {
 
 using enum ControlKind;
 
-constexpr PreferenceControl kControls[] = {
-    {"memoryFormatMatrix", kMatrix, "GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", nullptr, false},
-    {"dateFormatMatrix", kMatrix, "GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", nullptr, false},
-
-    {"mainWindowIntervalSlider", kIntervalSlider, "MAIN_WINDOW_INTERVAL", "mainWindowIntervalText",
-     false},
-    {"memoryGraphCheckBox", kCheckBox, "MEM_GRAPH_DRAW_VSZ", nullptr, false},
-
-    {"frameIntervalSlider", kIntervalSlider, "HEARTQUIVA_GL_THREAD_INTERVAL", "frameIntervalText",
-     false},
-    {"mainIntervalSlider", kIntervalSlider, "HEARTQUIVA_MAINPIC_INTERVAL", "mainIntervalText",
-     false},
-    {"cpuIntervalSlider", kIntervalSlider, "HEARTQUIVA_HELPERPIC_INTERVAL", "cpuIntervalText",
-     false},
-    {"connectorsCheckBox", kCheckBox, "QUIVA_FULLSCREEN_DRAW_PARENT_CHILD_CONNECTORS", nullptr,
-     false},
-    {"windowAlphaSlider", kFractionSlider, "QUINT_FULLSCREEN_WINDOW_ALPHA", "windowAlphaText",
-     false},
-    {"underlayAlphaSlider", kFractionSlider, "QUINT_FULLSCREEN_UNDERLAY_ALPHA", "underlayAlphaText",
-     false},
-
-    {"relativeCheckBox", kCheckBox, "CPU_HISTORY_WINDOW_USE_RELATIVE", nullptr, false},
-    {"descendantsCheckBox", kCheckBox, "CPU_HISTORY_WINDOW_TRACK_PROCESS_DESCENDANTS", nullptr,
-     false},
-    {"historyIntervalSlider", kIntervalSlider, "DEFAULT_CPU_HISTORY_WINDOW_INTERVAL",
-     "historyIntervalText", false},
-    {"historyFilterSlider", kFractionSlider, "CPU_HISTORY_WINDOW_DEFAULT_FILTER",
-     "historyFilterText", false},
-    {"historyColourWell", kColourWell, "DEFAULT_CPU_HISTORY_FOREGROUND_RGB", nullptr, false},
-    {"descendantsColourWell", kColourWell, "DEFAULT_CPU_HISTORY_DESCENDANTS_FOREGROUND_RGB",
-     nullptr, false},
-
-    {"timestampCheckBox", kCheckBox, "LOG_WINDOW_INCLUDE_TIMESTAMP", nullptr, true},
-    {"activeTimeCheckBox", kCheckBox, "LOG_WINDOW_ACTIVE_TIME_BOOL", nullptr, true},
-    {"deltaActiveTimeCheckBox", kCheckBox, "LOG_WINDOW_DELTA_ACTIVE_TIME_BOOL", nullptr, true},
-    {"realMemoryCheckBox", kCheckBox, "LOG_WINDOW_REAL_MEM_BOOL", nullptr, true},
-    {"deltaRealMemoryCheckBox", kCheckBox, "LOG_WINDOW_DELTA_REAL_MEM_BOOL", nullptr, true},
-    {"virtualMemoryCheckBox", kCheckBox, "LOG_WINDOW_VIRTUAL_MEM_BOOL", nullptr, true},
-    {"deltaVirtualMemoryCheckBox", kCheckBox, "LOG_WINDOW_DELTA_VIRTUAL_MEM_BOOL", nullptr, true},
-    {"logToFileCheckBox", kCheckBox, "LOG_WINDOW_LOG_TO_FILE", nullptr, true},
-    {"loggingIntervalSlider", kIntervalSlider, "DEFAULT_LOGGING_WINDOW_INTERVAL",
-     "loggingIntervalText", true},
-};
-
 constexpr char kColourProperty[] = "shownColour";
 constexpr double kPositionsOfOne = 1000.0;
-constexpr std::array<const char*, 3> kComponents = {"_RED", "_GREEN", "_BLUE"};
+constexpr std::size_t kComponents = 3;
 
 template <typename Widget>
-Widget* Find(const QWidget& window, const char* name) {
-  return name != nullptr ? window.findChild<Widget*>(QLatin1String(name)) : nullptr;
+Widget* Find(const QWidget& window, const Setting& setting) {
+  return window.findChild<Widget*>(QLatin1String(setting.control));
 }
 
-const PreferenceEntry& Entry(const std::string& key) {
-  const auto* entry = FindPreference(key);
-  Require(entry != nullptr, "PreferencesUI", "entry != NULL");
-  return *entry;
+/// "frameIntervalSlider" has its value in "frameIntervalText".
+QLabel* LabelOf(const QWidget& window, const Setting& setting) {
+  const QString name = QLatin1String(setting.control);
+  return window.findChild<QLabel*>(
+      QString(name).replace(QStringLiteral("Slider"), QStringLiteral("Text")));
 }
 
-int StoredInt(const PreferenceEntry& entry) {
-  std::uint8_t found = 0;
-  const auto value = GetPrefInt(entry.key, &found, false, 0);
-  return found != 0 ? value : static_cast<int>(entry.defaultValue);
+int CountingInt(const Setting& setting) {
+  return StoredInt(setting).value_or(static_cast<int>(setting.defaultValue));
 }
 
-double StoredReal(const PreferenceEntry& entry) {
-  std::uint8_t found = 0;
-  const double value = GetPrefDouble(entry.key, &found, false, 0);
-  return found != 0 && !std::isnan(value) ? value : entry.defaultValue;
+double CountingReal(const Setting& setting) {
+  const double stored = StoredReal(setting).value_or(setting.defaultValue);
+  return std::isnan(stored) ? setting.defaultValue : stored;
 }
 
-void PlaceSlider(const QWidget& window, const PreferenceControl& control, int position,
+void PlaceSlider(const QWidget& window, const Setting& setting, int position,
                  const QString& description) {
-  auto* slider = Find<QSlider>(window, control.name);
+  auto* slider = Find<QSlider>(window, setting);
   if (slider == nullptr) return;
   const bool wereBlocked = slider->blockSignals(true);
   slider->setValue(position);
@@ -102,12 +55,11 @@ void PlaceSlider(const QWidget& window, const PreferenceControl& control, int po
   // Blocked, the slider does not draw itself anew either.
   slider->update();
   slider->setAccessibleDescription(description);
-  if (auto* text = Find<QLabel>(window, control.text)) text->setText(description);
+  if (auto* text = LabelOf(window, setting)) text->setText(description);
 }
 
-void PlaceIntervalSlider(const QWidget& window, const PreferenceControl& control,
-                         int milliseconds) {
-  PlaceSlider(window, control, NearestPosition(milliseconds), DescriptionOfStored(milliseconds));
+void PlaceIntervalSlider(const QWidget& window, const Setting& setting, int milliseconds) {
+  PlaceSlider(window, setting, NearestPosition(milliseconds), DescriptionOfStored(milliseconds));
 }
 
 QString PercentText(double fraction) {
@@ -115,8 +67,8 @@ QString PercentText(double fraction) {
 }
 
 /// A value that is no row counts as the first wherever it is read.
-void SelectRow(const QWidget& window, const PreferenceControl& control, int row) {
-  const auto* matrix = Find<QWidget>(window, control.name);
+void SelectRow(const QWidget& window, const Setting& setting, int row) {
+  const auto* matrix = Find<QWidget>(window, setting);
   if (matrix == nullptr) return;
   const auto rows = matrix->findChildren<QRadioButton*>();
   if (row < 0 || row >= rows.size()) row = 0;
@@ -129,98 +81,111 @@ int SelectedRow(const QWidget& matrix) {
   return at != rows.end() ? static_cast<int>(at - rows.begin()) : 0;
 }
 
-void StoreIntervalControl(const QWidget& window, const PreferenceControl& control, int position) {
+void StoreIntervalControl(const QWidget& window, const Setting& setting, int position) {
   const int milliseconds = givenPhysicalValueCalcLogicalValueForMainWindowUpdateFreq(position);
-  StoreInterval(EntryOf(control), milliseconds, [&](const PreferenceEntry& other, int value) {
-    for (const auto& follower : kControls)
-      if (std::string_view(follower.key) == other.key) PlaceIntervalSlider(window, follower, value);
+  StoreInterval(setting, milliseconds, [&](const Setting& follower, int value) {
+    if (follower.control != nullptr) PlaceIntervalSlider(window, follower, value);
   });
 }
 
-/// 16 bits a component.
-QColor StoredColour(const PreferenceControl& well) {
-  std::array<ushort, 3> values{};
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    const int stored = StoredInt(Entry(std::string(well.key) + kComponents[i]));
-    values[i] = static_cast<ushort>(std::clamp(stored, 0, 65535));
-  }
+/// 16 bits a component. Green and blue follow red.
+QColor StoredColour(const Setting& red) {
+  std::array<ushort, kComponents> values{};
+  for (std::size_t i = 0; i < kComponents; ++i)
+    values[i] = static_cast<ushort>(std::clamp(CountingInt((&red)[i]), 0, 65535));
   return QColor::fromRgba64(values[0], values[1], values[2]);
 }
 
-void StoreColour(const PreferenceControl& well, const QColor& colour) {
+void StoreColour(const Setting& red, const QColor& colour) {
   // What a colour holds are the components times 65535 already, exactly.
   const auto rgb = colour.rgba64();
-  const std::array<int, 3> values = {rgb.red(), rgb.green(), rgb.blue()};
+  const std::array<int, kComponents> values = {rgb.red(), rgb.green(), rgb.blue()};
   const PreferenceBatch batch;
-  for (std::size_t i = 0; i < values.size(); ++i)
-    SetPrefInt((std::string(well.key) + kComponents[i]).c_str(), values[i]);
+  for (std::size_t i = 0; i < kComponents; ++i) StoreNumber((&red)[i], values[i]);
+}
+
+std::vector<const Setting*> WithControls() {
+  std::vector<const Setting*> settings;
+  for (const auto& setting : kSettings)
+    if (setting.control != nullptr) settings.push_back(&setting);
+  return settings;
 }
 
 }  // namespace
 
-std::span<const PreferenceControl> PreferenceControls() {
-  return kControls;
+std::span<const Setting* const> SettingsWithControls() {
+  static const auto kWithControls = WithControls();
+  return kWithControls;
 }
 
-const PreferenceEntry& EntryOf(const PreferenceControl& control) {
-  const std::string key = control.key;
-  return Entry(control.kind == kColourWell ? key + kComponents[0] : key);
+ControlKind ControlKindOf(const Setting& setting) {
+  switch (setting.kind) {
+    case SettingKind::kSwitch:
+      return kCheckBox;
+    case SettingKind::kInterval:
+      return kIntervalSlider;
+    case SettingKind::kReal:
+      return kFractionSlider;
+    case SettingKind::kColour:
+      return kColourWell;
+    default:
+      return kMatrix;
+  }
 }
 
-void LoadControl(const QWidget& window, const PreferenceControl& control) {
-  const auto& entry = EntryOf(control);
-  switch (control.kind) {
+void LoadControl(const QWidget& window, const Setting& setting) {
+  switch (ControlKindOf(setting)) {
     case kMatrix:
-      return SelectRow(window, control, StoredInt(entry));
+      return SelectRow(window, setting, CountingInt(setting));
     case kIntervalSlider:
-      return PlaceIntervalSlider(window, control, StoredInt(entry));
+      return PlaceIntervalSlider(window, setting, CountingInt(setting));
     case kFractionSlider: {
-      const double stored = StoredReal(entry);
-      const double shown = std::clamp(stored, 0.0, 1.0);
-      return PlaceSlider(window, control, qRound(shown * kPositionsOfOne), PercentText(shown));
+      const double shown = std::clamp(CountingReal(setting), 0.0, 1.0);
+      return PlaceSlider(window, setting, qRound(shown * kPositionsOfOne), PercentText(shown));
     }
     case kCheckBox:
-      if (auto* box = Find<QAbstractButton>(window, control.name)) {
+      if (auto* box = Find<QAbstractButton>(window, setting)) {
         const bool wereBlocked = box->blockSignals(true);
-        box->setChecked(StoredInt(entry) != 0);
+        box->setChecked(CountingInt(setting) != 0);
         box->blockSignals(wereBlocked);
         box->update();
       }
       return;
     case kColourWell:
-      if (auto* well = Find<QAbstractButton>(window, control.name))
-        ShowColour(*well, StoredColour(control));
+      if (auto* well = Find<QAbstractButton>(window, setting))
+        ShowColour(*well, StoredColour(setting));
       return;
   }
 }
 
-void DescribeSlider(const QWidget& window, const PreferenceControl& control) {
-  auto* slider = Find<QSlider>(window, control.name);
+void DescribeSlider(const QWidget& window, const Setting& setting) {
+  auto* slider = Find<QSlider>(window, setting);
   if (slider == nullptr) return;
   const QString text =
-      control.kind == kIntervalSlider
+      ControlKindOf(setting) == kIntervalSlider
           ? givenMillisecondsCalcStringDescriptionForMainWindowFreq(
                 givenPhysicalValueCalcLogicalValueForMainWindowUpdateFreq(slider->value()))
           : PercentText(slider->value() / kPositionsOfOne);
   slider->setAccessibleDescription(text);
-  if (auto* label = Find<QLabel>(window, control.text)) label->setText(text);
+  if (auto* label = LabelOf(window, setting)) label->setText(text);
 }
 
-void StoreControl(const QWidget& window, const PreferenceControl& control) {
-  const auto* widget = Find<QWidget>(window, control.name);
+void StoreControl(const QWidget& window, const Setting& setting) {
+  const auto* widget = Find<QWidget>(window, setting);
   const auto* slider = qobject_cast<const QSlider*>(widget);
   const auto* button = qobject_cast<const QAbstractButton*>(widget);
-  if (slider != nullptr) DescribeSlider(window, control);
-  if (control.kind == kMatrix && widget != nullptr)
-    SetPrefInt(control.key, SelectedRow(*widget));
-  else if (control.kind == kIntervalSlider && slider != nullptr)
-    StoreIntervalControl(window, control, slider->value());
-  else if (control.kind == kFractionSlider && slider != nullptr)
-    SetPrefDouble(control.key, slider->value() / kPositionsOfOne);
-  else if (control.kind == kCheckBox && button != nullptr)
-    SetPrefInt(control.key, button->isChecked() ? 1 : 0);
-  else if (control.kind == kColourWell && button != nullptr)
-    StoreColour(control, ShownColour(*button));
+  if (slider != nullptr) DescribeSlider(window, setting);
+  const auto kind = ControlKindOf(setting);
+  if (kind == kMatrix && widget != nullptr)
+    StoreNumber(setting, SelectedRow(*widget));
+  else if (kind == kIntervalSlider && slider != nullptr)
+    StoreIntervalControl(window, setting, slider->value());
+  else if (kind == kFractionSlider && slider != nullptr)
+    StoreNumber(setting, slider->value() / kPositionsOfOne);
+  else if (kind == kCheckBox && button != nullptr)
+    StoreNumber(setting, button->isChecked() ? 1 : 0);
+  else if (kind == kColourWell && button != nullptr)
+    StoreColour(setting, ShownColour(*button));
 }
 
 void ShowColour(QAbstractButton& well, const QColor& colour) {

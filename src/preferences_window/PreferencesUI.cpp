@@ -20,7 +20,7 @@
 #include "main_window/FrontmostWindow.h"
 #include "platform/Alerts.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "preferences_window/AllSettings.h"
 #include "preferences_window/PreferenceChanges.h"
 #include "resources/Resources.h"
@@ -90,7 +90,7 @@ vqPreferencesUI::~vqPreferencesUI() {
 void vqPreferencesUI::initWithTabShowing(int tab) {
   fTabToShow = tab;
   if (tab != kRememberedTab) return;
-  fTabToShow = GetPrefInt(kTabKey, nullptr, true, 0);
+  fTabToShow = ReadInt(kTabKey);
   // Preferences may hold any number.
   if (fTabToShow < 0 || fTabToShow >= kTabs) fTabToShow = 0;
 }
@@ -104,10 +104,10 @@ bool vqPreferencesUI::loadInterface(const QString& form) {
   fPages = contents->findChild<QComboBox*>(QStringLiteral("pageChoice"));
   if (fTabView == nullptr || fTabView->count() != kTabs || fNotice == nullptr || fPages == nullptr)
     return false;
-  const auto isThere = [contents](const PreferenceControl& control) {
-    return contents->findChild<QWidget*>(QLatin1String(control.name)) != nullptr;
+  const auto isThere = [contents](const Setting* setting) {
+    return contents->findChild<QWidget*>(QLatin1String(setting->control)) != nullptr;
   };
-  if (!std::ranges::all_of(PreferenceControls(), isThere)) return false;
+  if (!std::ranges::all_of(SettingsWithControls(), isThere)) return false;
   auto* layout = new QVBoxLayout(fWindow);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSizeConstraint(QLayout::SetNoConstraint);
@@ -137,7 +137,7 @@ void vqPreferencesUI::awakeFromNib() {
   loadControls();
   connect(fTabView, &QTabWidget::currentChanged, this, &vqPreferencesUI::didSelectTabViewItem);
   connect(fPages, &QComboBox::currentIndexChanged, fTabView, &QTabWidget::setCurrentIndex);
-  for (const auto& control : PreferenceControls()) connectControl(control);
+  for (const auto* setting : SettingsWithControls()) connectControl(*setting);
   auto* escape = new QShortcut(Qt::Key_Escape, fWindow);
   connect(escape, &QShortcut::activated, fWindow, &QWidget::close);
   if (auto* button = fWindow->findChild<QPushButton*>(QStringLiteral("closeButton")))
@@ -148,7 +148,7 @@ void vqPreferencesUI::awakeFromNib() {
 
 void vqPreferencesUI::windowWillClose() {
   takePendingValue();
-  SetPrefInt(kTabKey, fTabToShow);
+  StoreInt(kTabKey, fTabToShow);
   for (auto* child : fWindow->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
     if (child->isWindow()) child->close();
   if (gThePreferencesUI == this) gThePreferencesUI = nullptr;
@@ -156,30 +156,30 @@ void vqPreferencesUI::windowWillClose() {
 
 // ---- Controls -----------------------------------------------------------------------------------
 
-void vqPreferencesUI::connectControl(const PreferenceControl& control) {
-  auto* widget = fWindow->findChild<QWidget*>(QLatin1String(control.name));
-  if (control.kind == ControlKind::kMatrix) {
+void vqPreferencesUI::connectControl(const Setting& setting) {
+  auto* widget = fWindow->findChild<QWidget*>(QLatin1String(setting.control));
+  if (ControlKindOf(setting) == ControlKind::kMatrix) {
     for (auto* row : widget->findChildren<QRadioButton*>())
       connect(row, &QRadioButton::clicked, this, [this, widget] { takeValueFrom(*widget); });
   } else if (auto* slider = qobject_cast<QSlider*>(widget)) {
-    connectSlider(*slider, control);
+    connectSlider(*slider, setting);
   } else if (auto* well = qobject_cast<QPushButton*>(widget)) {
     connect(well, &QPushButton::clicked, this,
-            [this, well, &control] { chooseColour(*well, control); });
+            [this, well, &setting] { chooseColour(*well, setting); });
   } else if (auto* box = qobject_cast<QAbstractButton*>(widget)) {
     connect(box, &QAbstractButton::toggled, this, [this, box] { takeValueFrom(*box); });
   }
 }
 
-void vqPreferencesUI::connectSlider(QSlider& slider, const PreferenceControl& control) {
+void vqPreferencesUI::connectSlider(QSlider& slider, const Setting& setting) {
   connect(&slider, &QSlider::actionTriggered, this, [this, &slider] {
     // Keys and wheels have moved the position; the value follows.
     if (slider.sliderPosition() != slider.value()) fStepped = &slider;
   });
-  connect(&slider, &QSlider::valueChanged, this, [this, &slider, &control] {
+  connect(&slider, &QSlider::valueChanged, this, [this, &slider, &setting] {
     const bool isStep = std::exchange(fStepped, nullptr) == &slider;
     if (!isStep && !slider.isSliderDown()) return takeValueFrom(slider);
-    DescribeSlider(*fWindow, control);
+    DescribeSlider(*fWindow, setting);
     takeSoon(slider);
   });
   connect(&slider, &QSlider::sliderReleased, this, &vqPreferencesUI::takePendingValue);
@@ -199,20 +199,20 @@ void vqPreferencesUI::takePendingValue() {
 
 void vqPreferencesUI::takeValueFrom(const QWidget& sender) {
   const auto name = sender.objectName();
-  const auto controls = PreferenceControls();
-  const auto control = std::ranges::find_if(
-      controls, [&](const auto& one) { return name == QLatin1String(one.name); });
-  if (control == controls.end()) return;
-  StoreControl(*fWindow, *control);
-  if (control->isForNewWindows) PutNotificationChangeTextOnScreen(true);
-  NotifyOf(EntryOf(*control));
+  const auto settings = SettingsWithControls();
+  const auto at = std::ranges::find_if(
+      settings, [&](const auto* one) { return name == QLatin1String(one->control); });
+  if (at == settings.end()) return;
+  StoreControl(*fWindow, **at);
+  if ((*at)->effect == SettingEffect::kNewWindows) PutNotificationChangeTextOnScreen(true);
+  NotifyOf(**at);
 }
 
 void vqPreferencesUI::loadControls() {
-  for (const auto& control : PreferenceControls()) LoadControl(*fWindow, control);
+  for (const auto* setting : SettingsWithControls()) LoadControl(*fWindow, *setting);
 }
 
-void vqPreferencesUI::chooseColour(QPushButton& well, const PreferenceControl& control) {
+void vqPreferencesUI::chooseColour(QPushButton& well, const Setting& setting) {
   const auto before = ShownColour(well);
   auto* dialog = new QColorDialog(before, fWindow);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -224,12 +224,12 @@ void vqPreferencesUI::chooseColour(QPushButton& well, const PreferenceControl& c
     takeSoon(well);
   };
   connect(dialog, &QColorDialog::currentColorChanged, this, take);
-  connect(dialog, &QColorDialog::finished, this, [this, &well, &control, before](int result) {
+  connect(dialog, &QColorDialog::finished, this, [this, &well, &setting, before](int result) {
     takePendingValue();
     if (result == QDialog::Accepted || ShownColour(well) == before) return;
     ShowColour(well, before);
-    StoreControl(*fWindow, control);
-    NotifyOf(EntryOf(control));
+    StoreControl(*fWindow, setting);
+    NotifyOf(setting);
   });
   dialog->show();
 }

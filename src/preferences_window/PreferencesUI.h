@@ -55,11 +55,11 @@ class vqPreferencesUI final : public QObject {
   bool loadInterface(const QString& form);
   void awakeFromNib();
   void didSelectTabViewItem(int index);
-  void connectControl(const PreferenceControl& control);
-  void connectSlider(QSlider& slider, const PreferenceControl& control);
+  void connectControl(const Setting& setting);
+  void connectSlider(QSlider& slider, const Setting& setting);
   void takeSoon(QWidget& sender);
   void takePendingValue();
-  void chooseColour(QPushButton& well, const PreferenceControl& control);
+  void chooseColour(QPushButton& well, const Setting& setting);
   int widthOfTabs() const;
   /// Where the tabs do not fit on the screen, the pages are chosen from a list.
   void chooseTabsOrList();

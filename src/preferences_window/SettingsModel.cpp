@@ -6,6 +6,7 @@
 #include "platform/Machine.h"
 #include "platform/PreferenceDomain.h"
 #include "preferences_window/PreferenceChanges.h"
+#include "preferences_window/SettingTexts.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -30,30 +31,40 @@ QString TextOf(const PreferenceArray& array) {
 }
 
 /// Null when nothing is stored.
-QString StoredText(const PreferenceEntry& entry) {
+QString StoredText(const Setting& entry) {
   const auto* value = TheMachine().preferenceDomain.Value(entry.key);
   if (value == nullptr) return {};
   const QString text = std::visit([](const auto& held) { return TextOf(held); }, *value);
   return text.isNull() ? QStringLiteral("") : text;
 }
 
-QString DefaultText(const PreferenceEntry& entry) {
+QString DefaultText(const Setting& entry) {
   return entry.HasDefault() ? NumberText(entry.defaultValue) : QString();
 }
 
-QString KindText(const PreferenceEntry& entry) {
-  constexpr const char* kIds[] = {"settings_kind_switch",   "settings_kind_integer",
-                                  "settings_kind_interval", "settings_kind_colour",
-                                  "settings_kind_real",     "settings_kind_text",
-                                  "settings_kind_record",   "settings_kind_array"};
-  const QString text = LocalizedString(kIds[static_cast<int>(entry.kind)]);
-  if (entry.kind != PreferenceKind::kInteger && entry.kind != PreferenceKind::kReal) return text;
-  if (entry.most >= std::numeric_limits<std::int32_t>::max()) return text;
+QString KindText(const Setting& entry) {
+  constexpr const char* kIds[] = {
+      "settings_kind_switch",   "settings_kind_choice", "settings_kind_integer",
+      "settings_kind_interval", "settings_kind_colour", "settings_kind_real",
+      "settings_kind_text",     "settings_kind_record", "settings_kind_array"};
+  constexpr const char* kUnitIds[] = {"",
+                                      "settings_unit_milliseconds",
+                                      "settings_unit_seconds",
+                                      "settings_unit_pages",
+                                      "settings_unit_points",
+                                      "settings_unit_ticks"};
+  QString text = LocalizedString(kIds[static_cast<int>(entry.kind)]);
+  if (entry.unit != SettingUnit::kNone)
+    text = LocalizedString("settings_kind_unit")
+               .arg(text, LocalizedString(kUnitIds[static_cast<int>(entry.unit)]));
+  const bool hasRange = entry.kind == SettingKind::kInteger || entry.kind == SettingKind::kReal ||
+                        entry.kind == SettingKind::kChoice || entry.kind == SettingKind::kInterval;
+  if (!hasRange || entry.most >= std::numeric_limits<std::int32_t>::max()) return text;
   return LocalizedString("settings_kind_range")
       .arg(text, NumberText(entry.least), NumberText(entry.most));
 }
 
-QString EffectText(const PreferenceEntry& entry) {
+QString EffectText(const Setting& entry) {
   constexpr const char* kIds[] = {"settings_effect_at_once", "settings_effect_new_windows",
                                   "settings_effect_next_start"};
   return LocalizedString(kIds[static_cast<int>(entry.effect)]);
@@ -68,12 +79,12 @@ bool IsNumberText(const QString& text) {
 }  // namespace
 
 SettingsModel::SettingsModel(QObject* parent)
-    : QAbstractTableModel(parent), fStored(PreferenceCatalogue().size()) {
+    : QAbstractTableModel(parent), fStored(std::size(kSettings)) {
   Refresh();
 }
 
-const PreferenceEntry& SettingsModel::EntryAt(int row) {
-  return PreferenceCatalogue()[static_cast<std::size_t>(row)];
+const Setting& SettingsModel::EntryAt(int row) {
+  return kSettings[static_cast<std::size_t>(row)];
 }
 
 int SettingsModel::rowCount(const QModelIndex& parent) const {
@@ -128,7 +139,7 @@ QVariant SettingsModel::ValueData(int row, int role) const {
   const QString counts = stored.isNull() ? DefaultText(entry) : stored;
   if (role == Qt::DisplayRole || role == Qt::EditRole) return counts;
   if (role == Qt::ToolTipRole) return NoteOf(row);
-  if (role == Qt::CheckStateRole && entry.kind == PreferenceKind::kBoolean)
+  if (role == Qt::CheckStateRole && entry.kind == SettingKind::kSwitch)
     return counts.toDouble() != 0 ? Qt::Checked : Qt::Unchecked;
   if (role == Qt::FontRole && !entry.IsProgramsOwn()) {
     QFont font;
@@ -143,14 +154,14 @@ Qt::ItemFlags SettingsModel::flags(const QModelIndex& index) const {
   auto flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
   if (!index.isValid() || index.column() != kValue) return flags;
   const auto& entry = EntryAt(index.row());
-  if (entry.kind == PreferenceKind::kBoolean) return flags | Qt::ItemIsUserCheckable;
+  if (entry.kind == SettingKind::kSwitch) return flags | Qt::ItemIsUserCheckable;
   return entry.IsProgramsOwn() ? flags : flags | Qt::ItemIsEditable;
 }
 
 bool SettingsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (!index.isValid() || index.column() != kValue) return false;
   const auto& entry = EntryAt(index.row());
-  if (role == Qt::CheckStateRole && entry.kind == PreferenceKind::kBoolean)
+  if (role == Qt::CheckStateRole && entry.kind == SettingKind::kSwitch)
     return Change(entry, value.toInt() == Qt::Checked ? QStringLiteral("1") : QStringLiteral("0"));
   if (role != Qt::EditRole || entry.IsProgramsOwn()) return false;
   // An editor that was opened and left says what was there.
@@ -158,7 +169,7 @@ bool SettingsModel::setData(const QModelIndex& index, const QVariant& value, int
   return Change(entry, value.toString());
 }
 
-bool SettingsModel::Change(const PreferenceEntry& entry, const QString& text) {
+bool SettingsModel::Change(const Setting& entry, const QString& text) {
   if (entry.IsNumber()) {
     const auto read = ReadNumber(entry, text);
     if (!read.value) {
@@ -180,7 +191,7 @@ bool SettingsModel::CanReset(int row) const {
 }
 
 void SettingsModel::Reset(const QList<int>& rows) {
-  std::vector<const PreferenceEntry*> entries;
+  std::vector<const Setting*> entries;
   for (const int row : rows)
     if (CanReset(row)) entries.push_back(&EntryAt(row));
   if (entries.empty()) return;

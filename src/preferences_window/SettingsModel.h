@@ -5,7 +5,7 @@
 #include <QString>
 #include <vector>
 
-#include "preferences_window/PreferenceCatalogue.h"
+#include "preferences/SettingTable.h"
 
 namespace lurkwell {
 
@@ -50,8 +50,8 @@ class SettingsModel final : public QAbstractTableModel {
   void changed();
 
  private:
-  static const PreferenceEntry& EntryAt(int row);
-  bool Change(const PreferenceEntry& entry, const QString& text);
+  static const Setting& EntryAt(int row);
+  bool Change(const Setting& entry, const QString& text);
   QString FilteredText(const QModelIndex& index) const;
   QVariant ValueData(int row, int role) const;
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "process_control/DaemonChannel.h"
 #include "process_control/DaemonLaunch.h"
 
@@ -37,7 +37,7 @@ const DaemonStatus& GetDaemonStatus() {
 
 void AskForDaemonRights() {
   QuitHelperDaemon();
-  SetPrefInt("GENERAL_CONTINUE_WITHOUT_RIGHTS", 0);
+  StoreInt("GENERAL_CONTINUE_WITHOUT_RIGHTS", 0);
   Launch(false);
 }
 

@@ -10,7 +10,7 @@
 #include "platform/Bundle.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "process_control/DaemonInstallation.h"
 
 namespace lurkwell {
@@ -28,11 +28,11 @@ constexpr Milliseconds kStep{20};
 constexpr std::size_t kUserCapacity = 300;
 
 bool AlwaysAuthenticates() {
-  return GetPrefInt("GENERAL_ALWAYS_AUTHENTICATE_DAEMON", nullptr, true, 0) >= 1;
+  return ReadInt("GENERAL_ALWAYS_AUTHENTICATE_DAEMON") >= 1;
 }
 
 bool GoesOnWithoutRights() {
-  return GetPrefInt(kWithoutRightsKey, nullptr, true, 0) >= 1;
+  return ReadInt(kWithoutRightsKey) >= 1;
 }
 
 /// Why the helper cannot be installed; "" when it is.
@@ -281,7 +281,7 @@ bool DaemonLaunch::AdvanceAlert() {
       TheMachine().runLoop.Stop();
       return false;
     case AlertAnswer::kOther:
-      SetPrefInt(kWithoutRightsKey, 1);
+      StoreInt(kWithoutRightsKey, 1);
       break;
     case AlertAnswer::kNobody:
       break;

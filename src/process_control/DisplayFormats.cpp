@@ -8,7 +8,7 @@
 #include <string>
 
 #include "platform/Assertion.h"
-#include "preferences/PreferencesRetrieval.h"
+#include "preferences/Settings.h"
 #include "process_control/Unit.h"
 
 namespace lurkwell {
@@ -25,8 +25,7 @@ MemoryUnit UnitByMagnitude(std::int64_t value) {
 }
 
 MemoryUnit UnitFor(std::int64_t value) {
-  const std::int32_t preferred =
-      GetPrefInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", nullptr, true, 0);
+  const std::int32_t preferred = ReadInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT");
   const bool isUnit = preferred >= static_cast<std::int32_t>(MemoryUnit::kBytes) &&
                       preferred <= static_cast<std::int32_t>(MemoryUnit::kGigabytes);
   return isUnit ? static_cast<MemoryUnit>(preferred) : UnitByMagnitude(value);
@@ -109,7 +108,7 @@ std::int32_t FormatMemoryString(std::int32_t value, char* out, std::int32_t maxl
 void FormatDateString(char* out, std::int32_t maxlen, std::int64_t seconds,
                       std::int32_t microseconds, std::int32_t width) {
   Require(maxlen >= 26, kActionsUnit, "maxlen >= 26");
-  const std::int32_t format = GetPrefInt("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", nullptr, true, 0);
+  const std::int32_t format = ReadInt("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT");
   std::string text;
   if (format == 1) {
     text = std::to_string(seconds);

@@ -205,13 +205,13 @@ TEST_F(PanelTest, AHeldKeyIsTakenNowAndThenAndFindsTheDefaultAgain) {
 
 TEST_F(PanelTest, EveryControlIsNamedAndExplained) {
   Open(0);
-  for (const auto& control : PreferenceControls()) {
-    const auto& widget = Find(control.name);
+  for (const auto* setting : SettingsWithControls()) {
+    const auto& widget = Find(setting->control);
     const auto* button = qobject_cast<const QAbstractButton*>(&widget);
     const QString name = button != nullptr ? button->text() : widget.accessibleName();
-    const bool isNamed = !name.isEmpty() || control.kind == ControlKind::kMatrix;
-    EXPECT_TRUE(isNamed && !name.startsWith("preferences_")) << control.name;
-    EXPECT_TRUE(widget.toolTip().endsWith('.')) << control.name;
+    const bool isNamed = !name.isEmpty() || ControlKindOf(*setting) == ControlKind::kMatrix;
+    EXPECT_TRUE(isNamed && !name.startsWith("preferences_")) << setting->control;
+    EXPECT_TRUE(widget.toolTip().endsWith('.')) << setting->control;
   }
   // One letter for one control on each page, and none of the buttons'.
   auto& tabs = Find<QTabWidget>("tabView");
