@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include "helper/Text.h"
@@ -57,12 +58,8 @@ bool IsSameFile(const struct stat& one, const struct stat& other) {
   return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
-int OpenOwnFile() {
-  return open("/proc/self/exe", O_RDONLY | O_CLOEXEC);
-}
-
 bool MayServe(uid_t user) {
-  const int file = OpenOwnFile();
+  const int file = open("/proc/self/exe", O_RDONLY | O_CLOEXEC);
   struct stat info;
   bool may = file >= 0 && fstat(file, &info) == 0 && OwnedByRootAlone(info, user) &&
              LiesInFolderOf(user, info);
@@ -75,28 +72,36 @@ bool MayServe(uid_t user) {
 }
 
 #ifdef LURKWELL_PACKAGED
-/// A line is a digest, or a digest behind "- ", which withdraws it whatever else is listed.
-Version FindVersion(const Digest::Value& digest) {
+namespace {
+
+/// Looks for `line`, a digest with its newline, in a list: alone it may serve, behind "- " it is
+/// withdrawn, whatever else is listed. False when there is no such list of root's.
+bool LookUp(const char* path, std::string_view line, Version& version) {
   static char list[65536];
-  const int file = OpenChecked(AT_FDCWD, LURKWELL_DIGEST_LIST, O_RDONLY, 0, OwnedByRootAlone);
-  if (file < 0) return Version::kUnknown;
+  const int file = OpenChecked(AT_FDCWD, path, O_RDONLY, 0, OwnedByRootAlone);
+  if (file < 0) return false;
   const ssize_t size = read(file, list, sizeof list);
   close(file);
-  char wanted[65];
-  TextWriter writer(wanted, sizeof wanted);
+  std::string_view rest(list, size > 0 ? static_cast<std::size_t>(size) : 0);
+  while (!rest.empty()) {
+    const Version says = TakePrefix(rest, "- ") ? Version::kWithdrawn : Version::kServing;
+    if (rest.starts_with(line)) version = std::max(version, says);
+    rest.remove_prefix(std::min(rest.find('\n'), rest.size() - 1) + 1);
+  }
+  return true;
+}
+
+}  // namespace
+
+Version FindVersion(const Digest::Value& digest) {
+  char line[65];
+  TextWriter writer(line, sizeof line);
   for (const std::uint8_t byte : digest) writer.Add(kHexDigits[byte >> 4], kHexDigits[byte & 15]);
   writer.Add('\n');
-  std::string_view rest(list, size > 0 ? static_cast<std::size_t>(size) : 0);
   Version version = Version::kUnknown;
-  while (!rest.empty()) {
-    const bool withdrawn = TakePrefix(rest, "- ");
-    if (rest.starts_with(writer.Text())) {
-      if (withdrawn) return Version::kWithdrawn;
-      version = Version::kServing;
-    }
-    const std::size_t end = rest.find('\n');
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-  }
+  // Without the package's own list there is no package any more.
+  if (LookUp(LURKWELL_DIGEST_LIST, writer.Text(), version))
+    LookUp(LURKWELL_REPLACED_LIST, writer.Text(), version);
   return version;
 }
 #else

@@ -20,16 +20,14 @@ bool IsOwnersAlone(const struct stat& info);
 
 bool IsSameFile(const struct stat& one, const struct stat& other);
 
-/// Opens the running program's file for reading, -1 on failure.
-int OpenOwnFile();
-
 /// Whether the running file, started set-user-id by `user`, may use the rights this gave it: owned
 /// by root, one link, in a folder of that user, and in a package still on the list of versions.
 bool MayServe(uid_t user);
 
-/// What the list that the package keeps says of a version: nothing, that it is withdrawn and may
-/// only be replaced, or that it may serve. A build tree has no list and knows none.
-enum class Version { kUnknown, kWithdrawn, kServing };
+/// What the lists of a package say of a version, its own and the one of the helpers that it has
+/// replaced: nothing, that it may serve, or that it is withdrawn and may only be replaced, which
+/// outweighs the others. A build tree has no list and knows none.
+enum class Version { kUnknown, kServing, kWithdrawn };
 Version FindVersion(const Digest::Value& digest);
 
 }  // namespace lurkwell::helper

@@ -15,7 +15,12 @@ namespace lurkwell::helper {
 
 namespace {
 
-constexpr int kExitNotPermitted = 77;
+/// Why nothing was done: what the process ends with and what it says. No reason when it was done.
+struct Refusal {
+  int status;
+  const char* reason;
+};
+constexpr int kBadCopy = 65, kNoHelper = 72, kCannotWrite = 73, kNotPermitted = 77, kBadFolder = 78;
 constexpr char kHelperName[] = "Lurkwell_helper";
 constexpr char kFreshName[] = ".Lurkwell_helper.new";
 
@@ -101,60 +106,65 @@ bool WriteFresh(int twin, int fresh, gid_t group, const Digest::Value& digest) {
          fchmod(fresh, 04750) == 0 && fsync(fresh) == 0;
 }
 
-const char* Replace(int folder, int twin, gid_t group, const Digest::Value& digest) {
+Refusal Replace(int folder, int twin, gid_t group, const Digest::Value& digest) {
   unlinkat(folder, kFreshName, 0);
   const Descriptor fresh(
       openat(folder, kFreshName, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-  if (fresh < 0) return "cannot write into the folder";
+  if (fresh < 0) return {kCannotWrite, "cannot write into the folder"};
   struct stat mine, there;
   if (!WriteFresh(twin, fresh, group, digest) || fstat(fresh, &mine) != 0 || mine.st_nlink != 1 ||
       renameat(folder, kFreshName, folder, kHelperName) != 0) {
     fchmod(fresh, 0);
     unlinkat(folder, kFreshName, 0);
-    return "cannot write the new file";
+    return {kCannotWrite, "cannot write the new file"};
   }
   fsync(folder);
   if (fstatat(folder, kHelperName, &there, AT_SYMLINK_NOFOLLOW) == 0 && IsSameFile(mine, there))
-    return nullptr;
+    return {};
   fchmod(fresh, 0);
-  return "the new file was exchanged on the way";
+  return {kCannotWrite, "the new file was exchanged on the way"};
 }
 
-/// Null when done, else why not.
-const char* Bless(uid_t user) {
+/// What is asked of an administrator comes last: anybody may try it for himself, and learns whether
+/// that is all that is missing.
+Refusal Bless(uid_t user) {
+  constexpr Refusal kNotAnAdministrator{kNotPermitted, "this needs an administrator's rights"};
   // Whoever runs a copy that has rights already is not an administrator for that.
-  if (getuid() != 0 || geteuid() != 0) return "this needs an administrator's rights";
+  if (getuid() != geteuid()) return kNotAnAdministrator;
   const Descriptor twin(OpenTwin());
   struct stat own, info, copyInfo;
-  if (fstat(twin, &own) != 0) return "there is no helper of root's alone beside this program";
+  if (fstat(twin, &own) != 0)
+    return {kNoHelper, "there is no helper of root's alone beside this program"};
   const Descriptor folder(open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   // Who could move the copy into a folder of his own would be served there.
   if (fstat(folder, &info) != 0 || info.st_uid != user || !IsOwnersAlone(info) ||
       !IsSafelyReached(info))
-    return "the folder is not the user's alone, or is reached over a link";
+    return {kBadFolder, "the folder is not the user's alone, or is reached over a link"};
   struct statvfs system;
   if (fstatvfs(folder, &system) != 0 || (system.f_flag & (ST_NOSUID | ST_RDONLY | ST_NOEXEC)) != 0)
-    return "the folder's file system does not allow programs with other rights";
+    return {kBadFolder, "the folder's file system does not allow programs with other rights"};
   const Descriptor copy(OpenChecked(folder, kHelperName, O_RDONLY, user, IsPlainCopy));
-  if (fstat(copy, &copyInfo) != 0) return "the copy is not a plain file of the user's or root's";
-  if (IsSameFile(copyInfo, own)) return "the copy cannot give rights to itself";
+  if (fstat(copy, &copyInfo) != 0)
+    return {kBadCopy, "the copy is not a plain file of the user's or root's"};
+  if (IsSameFile(copyInfo, own)) return {kBadFolder, "the copy cannot give rights to itself"};
   Digest::Value digest, copyDigest;
   if (!DigestOfFile(twin, digest) || !DigestOfFile(copy, copyDigest) ||
       (copyDigest != digest && FindVersion(copyDigest) == Version::kUnknown))
-    return "the copy is no known version of the helper";
-  return Replace(folder, twin, info.st_gid, digest);
+    return {kBadCopy, "the copy is no known version of the helper"};
+  return getuid() == 0 ? Replace(folder, twin, info.st_gid, digest) : kNotAnAdministrator;
 }
 
 }  // namespace
 
 int SetPermissions(uid_t user) {
-  const char* const reason = Bless(user);
-  if (reason == nullptr) return 0;
+  const Refusal refusal = Bless(user);
+  if (refusal.reason == nullptr) return 0;
   char buffer[160];
   TextWriter line(buffer, sizeof buffer);
-  line.Add("Lurkwell_permissions: ", reason, '\n');
-  return write(STDERR_FILENO, line.Text().data(), line.Size()) < 0 ? kExitNotPermitted + 1
-                                                                   : kExitNotPermitted;
+  line.Add("Lurkwell_permissions: ", refusal.reason, '\n');
+  const ssize_t written = write(STDERR_FILENO, line.Text().data(), line.Size());
+  static_cast<void>(written);
+  return refusal.status;
 }
 
 }  // namespace lurkwell::helper

@@ -37,9 +37,10 @@ class Authorization {
   /// and what may help.
   virtual std::string FailureReason() const = 0;
   enum class Remedy {
-    kAskAgain,  ///< another answer
-    kMachine,   ///< a change of this machine, not another question
-    kNone,      ///< nothing: this program asks nobody
+    kAskAgain,   ///< another answer
+    kFreshCopy,  ///< a fresh copy in place of the one that was to be given rights
+    kMachine,    ///< a change of this machine, not another question
+    kNone,       ///< nothing: this program asks nobody
   };
   virtual Remedy FailureRemedy() const = 0;
 

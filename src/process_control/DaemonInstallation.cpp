@@ -67,6 +67,12 @@ std::string InstallHelper(const std::string& bundlePath, const std::string& supp
                : std::string();
 }
 
+std::string PutHelperAside(const std::string& path) {
+  std::error_code error;
+  fs::rename(path, path + kHelperPutAside, error);
+  return error ? "cannot rename " + path + ": " + error.message() : std::string();
+}
+
 bool EnsureThatDaemonIsInApplicationSupport(const char* bundlePath, char* out,
                                             std::int32_t capacity) {
   const auto folder = TheMachine().bundle.ApplicationSupportFolder();

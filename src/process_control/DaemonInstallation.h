@@ -18,4 +18,11 @@ std::string EscapedBundlePath();
 /// Copies the helper from the bundle into the folder, unless there is one. "" or why it failed.
 std::string InstallHelper(const std::string& bundlePath, const std::string& supportFolder);
 
+/// Behind the name of a copy that was put aside.
+inline constexpr char kHelperPutAside[] = ".unknown";
+
+/// Gives whatever has the name of the copy at `path` another one, in place of what was put aside
+/// before. "" or why it failed.
+std::string PutHelperAside(const std::string& path);
+
 }  // namespace lurkwell

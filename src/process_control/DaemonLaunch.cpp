@@ -252,8 +252,27 @@ bool DaemonLaunch::AdvancePermitting() {
   return Open(Purpose::kServeWithAuthorization);
 }
 
+/// Whether a fresh copy took the place of one that gets no rights. Once: what this program has put
+/// there itself is as good as it gets.
+bool DaemonLaunch::ReplaceCopy() {
+  if (mHasReplaced) return false;
+  mHasReplaced = true;
+  auto obstacle = PutHelperAside(mHelperPath);
+  if (obstacle.empty()) obstacle = ObstacleToInstallation();
+  if (!obstacle.empty()) {
+    std::fprintf(stderr, "lurkwell: %s\n", obstacle.c_str());
+    return false;
+  }
+  std::fprintf(stderr, "lurkwell: %s; it is %s%s now, and a fresh copy takes its place\n",
+               TheMachine().authorization.FailureReason().c_str(), mHelperPath.c_str(),
+               kHelperPutAside);
+  return true;
+}
+
 bool DaemonLaunch::StepFailed() {
   auto& machine = TheMachine();
+  if (machine.authorization.FailureRemedy() == Authorization::Remedy::kFreshCopy && ReplaceCopy())
+    return SetPermissions();
   const std::string reason = machine.authorization.FailureReason();
   if (reason != mSaidReason)
     std::fprintf(stderr, "lurkwell: the helper gets no rights: %s\n", reason.c_str());

@@ -60,6 +60,7 @@ class DaemonLaunch final : public DaemonChannelWatcher {
   bool CheckPermissions();
   bool Checked(bool hasRights);
   bool SetPermissions();
+  bool ReplaceCopy();
   bool StepFailed();
   bool ServeUnprivileged(const std::string& reason, bool mayAsk);
   bool Opened();
@@ -70,6 +71,7 @@ class DaemonLaunch final : public DaemonChannelWatcher {
   const bool mUnprivileged;
   bool mAlways = false;
   bool mWasPermitted = false;
+  bool mHasReplaced = false;
   bool mHasServed = false;
   bool mSaidLost = false;
   Phase mPhase = Phase::kBeginning;

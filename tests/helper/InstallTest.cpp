@@ -17,7 +17,9 @@
 namespace lurkwell::helper::testing {
 namespace {
 
-constexpr int kRefused = 77;
+// What a refused step ends with.
+constexpr int kBadCopy = 65, kNoHelper = 72, kCannotWrite = 73, kNoAdministrator = 77,
+              kBadFolder = 78;
 
 /// A user's data folder with the application's folder and its copy of the helper in it.
 struct Home {
@@ -63,39 +65,48 @@ TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
   // Once more over the file that it has made itself, and not by somebody who is no administrator.
   EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0);
   const Home other(kStranger);
-  EXPECT_EQ(InChild([&] {
-              BecomeUser(kStranger);
-              if (chdir(other.path.c_str()) != 0) return 98;
-              execl(StepPath().c_str(), "p", "--set_permissions_appropriately", nullptr);
-              return 97;
-            }),
-            kRefused);
+  const auto ownAttempt = [&] {
+    return InChild([&] {
+      BecomeUser(kStranger);
+      if (chdir(other.path.c_str()) != 0) return 98;
+      execl(StepPath().c_str(), "p", "--set_permissions_appropriately", nullptr);
+      return 97;
+    });
+  };
+  EXPECT_EQ(ownAttempt(), kNoAdministrator) << "and nothing else";
   EXPECT_EQ(other.Info().st_uid, kStranger);
+  WriteAll(other.copy, "no helper");
+  EXPECT_EQ(ownAttempt(), kBadCopy) << "which no administrator can mend";
   EXPECT_EQ(InChild([] { return execl(StepPath().c_str(), "p", nullptr); }), 64);
 }
 
 TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
   // Each spoils a copy L in its folder D below the data folder A.
-  const std::pair<const char*, const char*> cases[] = {
-      {"other bytes", "echo '#!/bin/sh' > $L"},
-      {"one byte more", "printf x >> $L"},
-      {"no copy", "rm $L"},
-      {"link", "mv $L $D/real; ln -s real $L"},
-      {"second name", "ln $L $D/second"},
-      {"pipe", "rm $L; mkfifo $L"},
-      {"folder", "rm $L; mkdir $L"},
-      {"stranger's copy", "chown 61002 $L"},
-      {"stranger's folder", "chown 61002 $D"},
-      {"stranger above", "chown 61002 $A"},
-      {"group may write", "chmod 0770 $D"},
-      {"all may write", "chmod 0777 $D"},
-      {"group may write above", "chmod 0770 $A; chgrp 61002 $A"},
+  struct Case {
+    const char* name;
+    const char* spoil;
+    int status;
   };
-  for (const auto& [name, spoil] : cases) {
+  const Case cases[] = {
+      {"other bytes", "echo '#!/bin/sh' > $L", kBadCopy},
+      {"one byte more", "printf x >> $L", kBadCopy},
+      {"no copy", "rm $L", kBadCopy},
+      {"link", "mv $L $D/real; ln -s real $L", kBadCopy},
+      {"second name", "ln $L $D/second", kBadCopy},
+      {"pipe", "rm $L; mkfifo $L", kBadCopy},
+      {"folder", "rm $L; mkdir $L", kBadCopy},
+      {"stranger's copy", "chown 61002 $L", kBadCopy},
+      {"stranger's folder", "chown 61002 $D", kBadFolder},
+      {"stranger above", "chown 61002 $A", kBadFolder},
+      {"group may write", "chmod 0770 $D", kBadFolder},
+      {"all may write", "chmod 0777 $D", kBadFolder},
+      {"group may write above", "chmod 0770 $A; chgrp 61002 $A", kBadFolder},
+  };
+  for (const auto& [name, spoil, status] : cases) {
     const Home home(kUser);
     Shell("A=" + home.data.Path() + " D=" + home.path + " L=" + home.copy + "; " + spoil);
     const struct stat before = home.Info();
-    EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), kRefused) << name;
+    EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), status) << name;
     const struct stat after = home.Info();
     EXPECT_EQ(before.st_ino, after.st_ino) << name;
     EXPECT_EQ(before.st_mode, after.st_mode) << name;
@@ -103,14 +114,14 @@ TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
     EXPECT_FALSE(std::filesystem::exists(home.path + "/.Lurkwell_helper.new")) << name;
   }
   const Home home(kUser);
-  EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kStranger), kRefused) << "another's folder";
+  EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kStranger), kBadFolder) << "another's folder";
   // The user's copy cannot give rights to itself.
   Install(StepPath(), home.path + "/Lurkwell_permissions", 0, 0, 0755);
-  EXPECT_EQ(RunPermissionStep(home.path + "/Lurkwell_permissions", home.path, kUser), kRefused);
+  EXPECT_EQ(RunPermissionStep(home.path + "/Lurkwell_permissions", home.path, kUser), kBadFolder);
   // A step without a helper beside it.
   const Folder alone(0, 0755);
   Install(StepPath(), alone / "Lurkwell_permissions", 0, 0, 0755);
-  EXPECT_EQ(RunPermissionStep(alone / "Lurkwell_permissions", home.path, kUser), kRefused);
+  EXPECT_EQ(RunPermissionStep(alone / "Lurkwell_permissions", home.path, kUser), kNoHelper);
   EXPECT_EQ(home.Info().st_uid, kUser);
 }
 
@@ -120,7 +131,7 @@ TEST(InstallTest, AFileSystemThatIgnoresTheRightsIsRefused) {
   for (const std::string flag : {"nosuid", "noexec", "ro"}) {
     const Home home(kUser);
     Shell("D=" + home.path + "; mount --bind $D $D && mount -o remount,bind," + flag + " $D");
-    EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), kRefused) << flag;
+    EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), kBadFolder) << flag;
     EXPECT_EQ(home.Info().st_uid, kUser);
     Shell("umount " + home.path);
     EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0) << flag;
@@ -178,7 +189,7 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
   for (int round = 0; round < 500; ++round) {
     const int status = RunPermissionStep(StepPath(), home.path, kUser);
     done += status == 0;
-    refused += status == kRefused;
+    refused += status == kBadCopy || status == kCannotWrite;
     if (round % 20 == 0) {
       kill(swapper, SIGSTOP);
       ASSERT_TRUE(OnlyHelpersAreBlessed(home.path, bytes)) << round;
@@ -252,6 +263,7 @@ class PackagedTest : public ::testing::Test {
   const std::string mProgram = LURKWELL_TEST_PACKAGED_HELPER;
   const std::string mStep = LURKWELL_TEST_PACKAGED_STEP;
   const std::string mList = std::string(kFolder) + "/helper-digests";
+  const std::string mReplaced = std::string(kFolder) + "/replaced-helpers";
   const std::string mOther = std::string(64, 'a') + '\n';
 
   void SetUp() override {
@@ -260,10 +272,11 @@ class PackagedTest : public ::testing::Test {
     WriteList(mOther + HexDigest(mProgram) + '\n');
   }
 
-  void WriteList(const std::string& text) {
-    unlink(mList.c_str());
-    WriteAll(mList, text);
-    chmod(mList.c_str(), 0644);
+  void WriteList(const std::string& text) { WriteList(mList, text); }
+  static void WriteList(const std::string& path, const std::string& text) {
+    unlink(path.c_str());
+    WriteAll(path, text);
+    chmod(path.c_str(), 0644);
   }
 };
 
@@ -284,7 +297,21 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
     Shell("L=" + mList + "; " + spoil);
     EXPECT_FALSE(keepsRights()) << spoil;
   }
+  // The machine's list of replaced helpers counts as well, but not by itself, and never against a
+  // mark.
+  WriteList(mReplaced, own);
+  EXPECT_FALSE(keepsRights()) << "a removed package";
+  WriteList(mOther);
+  EXPECT_TRUE(keepsRights()) << "replaced";
+  WriteList("- " + own);
+  EXPECT_FALSE(keepsRights()) << "withdrawn later";
+  WriteList(mOther);
+  Shell("chown 61001 " + mReplaced);
+  EXPECT_FALSE(keepsRights()) << "a user's list";
+  WriteList(mReplaced, "- " + own);
   WriteList(own);
+  EXPECT_FALSE(keepsRights()) << "withdrawn before";
+  unlink(mReplaced.c_str());
   ASSERT_TRUE(keepsRights());
   Shell("ln " + home.copy + ' ' + home.path + "/second");
   EXPECT_FALSE(keepsRights()) << "two names";
@@ -296,7 +323,7 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
 TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
   Home home(kUser, mProgram);
   WriteAll(home.copy, "an older version");
-  EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), kRefused);
+  EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), kBadCopy);
   for (const char* mark : {"", "- "}) {
     WriteAll(home.copy, "an older version");
     WriteList(HexDigest(mProgram) + '\n' + mark + HexDigest(home.copy) + '\n');
@@ -319,7 +346,7 @@ TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
   for (const uid_t owner : {kUser, uid_t{0}}) {
     Install(mProgram, folder / "Lurkwell_helper", owner, 0, 0755);
     EXPECT_EQ(RunPermissionStep(folder / "Lurkwell_permissions", home.path, kUser),
-              owner == 0 ? 0 : kRefused);
+              owner == 0 ? 0 : kNoHelper);
   }
 }
 

@@ -133,6 +133,34 @@ TEST_F(RealLaunchTest, WithoutConsentTheHelperHasTheUsersRights) {
   EXPECT_EQ(ModeOf(Installed()), 0755u);
 }
 
+TEST_F(RealLaunchTest, WhatNoPasswordMendsIsMendedOrSaidAndNobodyAskedInVain) {
+  // As another installation left it, with rights or without.
+  for (const mode_t mode : {04750u, 0755u}) {
+    AdministratorSays("yes");
+    std::filesystem::remove_all(folder / "data/Lurkwell");
+    std::filesystem::remove(folder / "bin/asked");
+    folder.Make("data/Lurkwell", 0700, kUser);
+    WriteFile(Installed(), "an unknown version");
+    EXPECT_EQ(::chown(Installed().c_str(), mode == 0755 ? kUser : 0, kUser), 0);
+    EXPECT_EQ(::chmod(Installed().c_str(), mode), 0);
+    const std::string launched = Launched();
+    EXPECT_EQ(
+        launched,
+        "0\nlurkwell: the helper in $/data/Lurkwell is not one that this Lurkwell knows; it is "
+        "$/data/Lurkwell/Lurkwell_helper.unknown now, and a fresh copy takes its place\n");
+    EXPECT_EQ(Asked(), kStep) << "once";
+    EXPECT_TRUE(ReadFile(Installed()) == ReadFile(LURKWELL_TEST_HELPER));
+    EXPECT_EQ(ReadFile(Installed() + ".unknown"), "an unknown version");
+  }
+  // The folder is nothing that the program mends by itself.
+  std::filesystem::remove(Installed());
+  std::filesystem::remove(folder / "bin/asked");
+  EXPECT_EQ(::chmod((folder / "data/Lurkwell").c_str(), 0770), 0);
+  EXPECT_EQ(Launched(),
+            Refused("the folder $/data/Lurkwell is not yours alone, or is reached over a link"));
+  EXPECT_EQ(Asked(), "");
+}
+
 TEST_F(RealLaunchTest, NobodyIsAskedForAProgramThatOthersThanRootCanChange) {
   AdministratorSays("yes");
   const std::string resources = folder / "lib/lurkwell/Contents/Resources";
@@ -140,7 +168,7 @@ TEST_F(RealLaunchTest, NobodyIsAskedForAProgramThatOthersThanRootCanChange) {
   const auto spoilt = [&](const std::function<void()>& spoil) {
     spoil();
     const std::string launched = Launched();
-    EXPECT_NE(launched.find("./package makes can get rights$"), std::string::npos) << launched;
+    EXPECT_NE(launched.find("./package makes can get rights"), std::string::npos) << launched;
     EXPECT_EQ(::chown(resources.c_str(), 0, 0), 0);
     EXPECT_EQ(::chmod(resources.c_str(), 0755), 0);
     EXPECT_EQ(::chown(step.c_str(), 0, 0), 0);

@@ -1,5 +1,6 @@
 #include "platform/linux/PolkitAuthorization.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
@@ -28,6 +29,15 @@ constexpr char kPermissionStep[] = "/Contents/Resources/Lurkwell_permissions";
 // What pkexec itself ends with.
 constexpr int kDismissed = 126;
 constexpr int kNotAuthorized = 127;
+// What the permission step ends with where more than rights is missing, or only these.
+constexpr int kBadCopy = 65;
+constexpr int kNoHelper = 72;
+constexpr int kCannotWrite = 73;
+constexpr int kNotPermitted = 77;
+constexpr int kBadFolder = 78;
+// No status of a process.
+constexpr int kKilled = -1;
+constexpr int kUnknown = -2;
 
 bool IsRoot() {
   return ::geteuid() == 0;
@@ -67,18 +77,39 @@ std::string WhatForbidsRights(const std::string& folder) {
   return names;
 }
 
-std::string WhatStatusMeans(int status) {
-  if (!IsRoot() && status == kDismissed) return "the question was dismissed";
+using Remedy = Authorization::Remedy;
+
+/// What the step's status means, and what may help.
+std::pair<Remedy, std::string> WhatStatusMeans(int status, const std::string& folder) {
+  if (!IsRoot() && status == kDismissed) return {Remedy::kAskAgain, "the question was dismissed"};
   if (!IsRoot() && status == kNotAuthorized)
-    return "the authorisation was refused, or there is no agent to ask for it";
-  return "the permission step ended with status " + std::to_string(status);
+    return {Remedy::kAskAgain, "the authorisation was refused, or there is no agent to ask for it"};
+  switch (status) {
+    case kKilled:
+      return {Remedy::kAskAgain, "the permission step was killed"};
+    case kBadCopy:
+      return {Remedy::kFreshCopy,
+              "the helper in " + folder + " is not one that this Lurkwell knows"};
+    case kNoHelper:
+      return {Remedy::kMachine,
+              "the installed helper is missing, or others than root can change it"};
+    case kCannotWrite:
+      return {Remedy::kMachine, "the helper in " + folder + " cannot be replaced"};
+    case kBadFolder:
+      return {Remedy::kMachine,
+              "the folder " + folder + " is not yours alone, or is reached over a link"};
+    default:
+      return {Remedy::kAskAgain, "the permission step ended with status " + std::to_string(status)};
+  }
 }
 
 /// A working folder, fresh signals, and no descriptors but the standard three.
 class SpawnSettings {
  public:
-  explicit SpawnSettings(const std::string& folder) {
+  explicit SpawnSettings(const std::string& folder, bool isSilent) {
     ::posix_spawn_file_actions_init(&actions);
+    if (isSilent)
+      ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     ::posix_spawn_file_actions_addchdir_np(&actions, folder.c_str());
     ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
     ::posix_spawnattr_init(&attributes);
@@ -131,17 +162,31 @@ bool PolkitAuthorization::ExecuteWithPrivileges(AuthorizationReference&, const s
   const bool isStep = arguments.size() == 1;
   const std::string program = mBundle.Path() + (isStep ? kPermissionStep : kHelper);
   if (!MayStart(program, folder, isStep)) return false;
-  std::vector<std::string> all;
+  std::vector<std::string> command{program};
+  command.insert(command.end(), arguments.begin(), arguments.end());
+  if (!isStep) return StartAsRoot(folder, std::move(command));
+  mStepFolder = folder;
+  mStepCommand = std::move(command);
+  mIsTrying = !IsRoot();
+  return mIsTrying ? Start(folder, mStepCommand, Says::kNothing) && StepStarted() : AskForStep();
+}
+
+bool PolkitAuthorization::StartAsRoot(const std::string& folder, std::vector<std::string> command) {
   // Without the question in the terminal: who started the program there may not even look at it.
-  if (!IsRoot()) all = {mPkexec, "--disable-internal-agent", "--keep-cwd"};
-  all.push_back(program);
-  all.insert(all.end(), arguments.begin(), arguments.end());
-  if (!Start(folder, all)) return false;
-  if (isStep) {
-    mStepState = Step::kRunning;
-    mStep = mChildren.back().pid;
-    mStepEnd = steady_clock::now() + kLongestStep;
-  }
+  if (!IsRoot())
+    command.insert(command.begin(), {mPkexec, "--disable-internal-agent", "--keep-cwd"});
+  return Start(folder, command);
+}
+
+bool PolkitAuthorization::AskForStep() {
+  mIsTrying = false;
+  return StartAsRoot(mStepFolder, mStepCommand) && StepStarted();
+}
+
+bool PolkitAuthorization::StepStarted() {
+  mStepState = Step::kRunning;
+  mStep = mChildren.back().pid;
+  mStepEnd = steady_clock::now() + kLongestStep;
   return true;
 }
 
@@ -165,8 +210,8 @@ bool PolkitAuthorization::MayStart(const std::string& program, const std::string
 }
 
 bool PolkitAuthorization::Start(const std::string& folder,
-                                const std::vector<std::string>& arguments) {
-  const SpawnSettings settings(folder);
+                                const std::vector<std::string>& arguments, Says says) {
+  const SpawnSettings settings(folder, says == Says::kNothing);
   const auto vector = ArgumentVector(arguments);
   Child child{-1, {}};
   const int error = ::posix_spawn(&child.pid, vector.front(), &settings.actions,
@@ -192,14 +237,25 @@ Authorization::Step PolkitAuthorization::StepState() {
     return mStepState;
   }
   ReapEnded();
-  mStepState = Step::kDone;
   // Where the program was started with SIGCHLD ignored, nobody learns how a child ended. Whether
   // the helper has its rights now is looked at in any case.
-  if (!isKnown) return mStepState;
-  if (end.si_code != CLD_EXITED)
-    Fail(Remedy::kAskAgain, "the permission step was killed");
-  else if (end.si_status != 0)
-    Fail(Remedy::kAskAgain, WhatStatusMeans(end.si_status));
+  const int status = !isKnown ? kUnknown : end.si_code == CLD_EXITED ? end.si_status : kKilled;
+  return mIsTrying ? StepTried(status) : StepEnded(status);
+}
+
+Authorization::Step PolkitAuthorization::StepTried(int status) {
+  if (status == kNotPermitted || status == kUnknown) {
+    AskForStep();
+    return mStepState;
+  }
+  return StepEnded(status);
+}
+
+Authorization::Step PolkitAuthorization::StepEnded(int status) {
+  mStepState = Step::kDone;
+  if (status == 0 || status == kUnknown) return mStepState;
+  auto [remedy, reason] = WhatStatusMeans(status, mStepFolder);
+  Fail(remedy, std::move(reason));
   return mStepState;
 }
 

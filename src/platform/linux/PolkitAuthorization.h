@@ -15,7 +15,8 @@ namespace lurkwell {
 /// What the user owns is never run as root: whichever copy of the helper is asked for, a program of
 /// the application's own in Contents/Resources runs in its place, in the folder of the copy, with
 /// the same arguments: the helper, or for a step Lurkwell_permissions. Nobody is asked where that
-/// one could be changed by others than root.
+/// one could be changed by others than root, or where a step that is tried with the user's own
+/// rights finds more in its way than these.
 class PolkitAuthorization final : public Authorization {
  public:
   enum class Consent {
@@ -48,7 +49,14 @@ class PolkitAuthorization final : public Authorization {
 
   bool Fail(Remedy remedy, std::string reason);
   bool MayStart(const std::string& program, const std::string& folder, bool isStep);
-  bool Start(const std::string& folder, const std::vector<std::string>& arguments);
+  enum class Says { kToCaller, kNothing };
+  bool Start(const std::string& folder, const std::vector<std::string>& arguments,
+             Says says = Says::kToCaller);
+  bool StartAsRoot(const std::string& folder, std::vector<std::string> command);
+  bool AskForStep();
+  bool StepStarted();
+  Step StepTried(int status);
+  Step StepEnded(int status);
   void ReapEnded();
 
   const Bundle& mBundle;
@@ -57,6 +65,10 @@ class PolkitAuthorization final : public Authorization {
   std::string mReason;
   Remedy mRemedy = Remedy::kNone;
   Step mStepState = Step::kFailed;
+  /// The step, while it is tried with the user's own rights.
+  bool mIsTrying = false;
+  std::string mStepFolder;
+  std::vector<std::string> mStepCommand;
   pid_t mStep = -1;
   std::chrono::steady_clock::time_point mStepEnd;
   std::vector<Child> mChildren;
