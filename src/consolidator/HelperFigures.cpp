@@ -1,15 +1,18 @@
 #include "consolidator/HelperFigures.h"
 
 #include <cstdio>
+#include <optional>
+#include <variant>
 #include <vector>
 
 #include "consolidator/HelperQueries.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/PropertyNeeds.h"
+#include "consolidator/SourceNeeds.h"
 #include "platform/Machine.h"
+#include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
-#include "process_control/DaemonCommunication.h"
 #include "process_control/ProcessActions.h"
 
 namespace lurkwell {
@@ -40,6 +43,7 @@ class HelperPass {
     NoteKernelState(entry.pid, entry.state == RunState::kStopped, entry.nice);
     const unsigned groups = GroupsFor(all);
     if (groups != 0) ReportUsage(entry, groups);
+    ReportUnhelped(entry, all);
   }
 
  private:
@@ -65,12 +69,28 @@ class HelperPass {
     const auto& figures = TheMachine().processTable.FiguresOf(entry);
     unsigned reported = 0;
     PidReport report(entry.pid);
-    for (const auto& row : BuiltInProperties()) {
-      if ((row.group & groups) == 0 || !row.figure || !figures.IsKnown(*row.figure)) continue;
-      report.Figure(row, figures.Get(*row.figure));
-      reported |= row.group;
+    for (std::size_t i = 0; i < kFigureCount; ++i) {
+      const auto figure = static_cast<Figure>(i);
+      if ((kFigures[i].group & groups) == 0 || figures.StateOf(figure) != FigureState::kKnown)
+        continue;
+      report.TableFigure(figure, figures);
+      reported |= kFigures[i].group;
     }
     return reported;
+  }
+
+  /// What no helper tells is the table's.
+  void ReportUnhelped(const ProcessTableEntry& entry, bool all) {
+    PidReport report(entry.pid);
+    for (const auto& need : mUnhelped) {
+      if (!all && !need.By(mNeeds)) continue;
+      const auto figure = std::get<Figure>(need.Row().field);
+      if (mIsTableOpen) {
+        report.TableFigure(figure, TheMachine().processTable.FiguresOf(entry));
+      } else {
+        report.NoValue(need.Row(), Missing::kNotCounted);
+      }
+    }
   }
 
   unsigned GroupsFor(bool all) const {
@@ -78,17 +98,17 @@ class HelperPass {
     // A need for any of its sources is one for the CPU time.
     if (all || mActiveTime.By(mNeeds)) groups |= kThreadTime | kBasicInfo;
     // The helper gives figures by the group; one that is needed brings the others.
-    for (const auto& need : mFigures) {
+    for (const auto& need : mHelped) {
       const auto group = need.Row().group;
       if ((groups & group) == 0 && (all || need.By(mNeeds))) groups |= group;
     }
     return groups;
   }
 
-  static std::vector<PropertyNeed> FiguresOfGroups(TimeValue now) {
+  static std::vector<PropertyNeed> NeedsOfFigures(bool areHelped, TimeValue now) {
     std::vector<PropertyNeed> needs;
-    for (const auto& row : BuiltInProperties())
-      if (row.group != kNoGroup) needs.emplace_back(row.name.data(), now);
+    for (const auto& row : FigureProperties())
+      if ((row.group != kNoGroup) == areHelped) needs.emplace_back(row.name.data(), now);
     return needs;
   }
 
@@ -102,7 +122,9 @@ class HelperPass {
   PropertyNeed mStartTime{"pid_p_starttime", mNow};
 
   PropertyNeed mActiveTime{"meta_active_time", mNow};
-  std::vector<PropertyNeed> mFigures = FiguresOfGroups(mNow);
+  std::vector<PropertyNeed> mHelped = NeedsOfFigures(true, mNow);
+  std::vector<PropertyNeed> mUnhelped = NeedsOfFigures(false, mNow);
+  const bool mIsTableOpen = TheMachine().processTable.OpenSources() != 0;
   HelperQueries mQueries;
 };
 
@@ -110,17 +132,17 @@ class HelperPass {
 
 void FeedHelperFigures(TimeValue now) {
   BeginProcessInformationIteration(kInformationKindPID);
-  {
-    const DaemonConversation conversation;
-    // The pass asks for the highest pid, which the table knows as of its last reading.
-    const auto entries =
-        TheMachine().processTable.Read([](std::int32_t) { return kFromStat | kFromScheduler; });
-    HelperPass pass(now);
-    for (const auto& entry : entries) {
-      pass.Feed(entry);
-      // The kernel's own entry ends the list.
-      if (entry.pid == 0) break;
-    }
+  auto& table = TheMachine().processTable;
+  std::optional<SourceNeeds> needs;
+  if (table.OpenSources() != 0) needs.emplace(now);
+  const auto entries = table.Read(
+      [&](std::int32_t pid) { return kFromStat | kFromScheduler | (needs ? needs->Of(pid) : 0); });
+  // The pass asks for the highest pid, which the table knows as of its last reading.
+  HelperPass pass(now);
+  for (const auto& entry : entries) {
+    pass.Feed(entry);
+    // The kernel's own entry ends the list.
+    if (entry.pid == 0) break;
   }
   EndProcessInformationIteration(kInformationKindPID);
 }

@@ -39,7 +39,7 @@ unsigned gLateGroups = 0;
 
 void MarkUnknown(std::int32_t pid, unsigned groups) {
   PidReport report(pid);
-  for (const auto& row : BuiltInProperties())
+  for (const auto& row : FigureProperties())
     if ((row.group & groups) != 0) report.NoValue(row, Missing::kNotYetKnown);
 }
 
@@ -97,9 +97,8 @@ unsigned HelperQueries::AskNow(std::int32_t pid, unsigned groups) {
 
 void HelperQueries::AppendLine(std::int32_t pid, unsigned groups) {
   AppendToQuery("pid_internal");
-  if (groups & kThreadTime) AppendToQuery("_thread_time");
-  if (groups & kBasicInfo) AppendToQuery("_basic_info");
-  if (groups & kEventsInfo) AppendToQuery("_events_info");
+  for (const auto& [group, word] : kFigureGroupWords)
+    if ((groups & group) != 0) AppendToQuery(word);
   char number[16] = {' '};
   char* end = std::to_chars(number + 1, std::end(number) - 1, pid).ptr;
   *end++ = '\n';

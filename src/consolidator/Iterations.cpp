@@ -15,6 +15,9 @@ namespace lurkwell {
 namespace {
 
 constexpr std::string_view kClassicEnvironmentPrefix = "TruBlue";
+constexpr Figure kCPUTimes[] = {FigureCalled("pid_user_time"), FigureCalled("pid_system_time"),
+                                FigureCalled("pid_terminated_user_time"),
+                                FigureCalled("pid_terminated_system_time")};
 
 bool OwnedByKind(const MetaProcessInformation& record, int kind) {
   switch (kind) {
@@ -28,9 +31,8 @@ bool OwnedByKind(const MetaProcessInformation& record, int kind) {
 }
 
 void DeriveActiveTime(MetaProcessInformation& record) {
-  const PidBlock& block = *record.pidInfo;
-  const TimeValue time =
-      (block.userTime + block.systemTime) + (block.terminatedUserTime + block.terminatedSystemTime);
+  TimeValue time;
+  for (const Figure figure : kCPUTimes) time = time + TimeOfMicroseconds((*record.pidInfo)[figure]);
   if (std::exchange(record.activeTime, time) != time) record.NoteValueChange();
 }
 

@@ -12,6 +12,7 @@
 #include "consolidator/PropertyTypes.h"
 #include "consolidator/TextScan.h"
 #include "consolidator/TypedValue.h"
+#include "platform/ProcessFigures.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/ProcessManager.h"
 #include "platform/ProcessTable.h"
@@ -31,25 +32,10 @@ struct PidBlock {
   char commandName[kCommandNameCapacity] = {};
   std::int32_t priority = 0;
   std::int32_t parentPid = kInvalidPID;
-  TimeValue userTime;
-  TimeValue systemTime;
   std::int32_t nice = 0;
   TimeValue startTime;
-  std::int64_t virtualSize = 0;
-  std::int64_t residentSize = 0;
-  std::int32_t suspendCount = 0;
-  TimeValue terminatedUserTime;
-  TimeValue terminatedSystemTime;
-  std::int32_t policy = 0;
-  // Counters run past 32 bits on machines that stay up.
-  std::int64_t faults = 0;
-  std::int64_t pageins = 0;
-  std::int64_t copyOnWriteFaults = 0;
-  std::int64_t messagesSent = 0;
-  std::int64_t messagesReceived = 0;
-  std::int64_t machSystemCalls = 0;
-  std::int64_t unixSystemCalls = 0;
-  std::int64_t contextSwitches = 0;
+  /// By their places in kFigures.
+  std::array<std::int64_t, kFigureCount> figures{};
   /// The kernel's stamp of the process's start, which tells it from a later holder of its pid; 0
   /// while the kernel's table has not named it.
   std::uint64_t startStamp = 0;
@@ -58,8 +44,11 @@ struct PidBlock {
   FigureSources reportedSources = 0;
   /// The iteration in which the CPU times came last.
   std::int32_t timesGeneration = 0;
-  /// Which of the figures above are figures.
+  /// Which of the values above are values.
   ValueStates states;
+
+  std::int64_t& operator[](Figure figure) { return figures[static_cast<std::size_t>(figure)]; }
+  std::int64_t operator[](Figure figure) const { return figures[static_cast<std::size_t>(figure)]; }
 };
 
 /// What the desktop says of an application.

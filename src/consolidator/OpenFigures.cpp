@@ -7,6 +7,7 @@
 #include "consolidator/ProcessReports.h"
 #include "consolidator/SourceNeeds.h"
 #include "platform/Machine.h"
+#include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
 #include "process_control/ProcessActions.h"
 
@@ -93,17 +94,14 @@ class OpenPass {
 
   static void ReportFigures(const ProcessFigures& figures, FigureSources sources,
                             PidReport& report) {
-    for (const auto& row : BuiltInProperties()) {
-      if (!row.figure || (row.sources & sources) == 0) continue;
-      if (figures.IsRefused(*row.figure)) report.NoValue(row, Missing::kNotAllowed);
-      if (!figures.IsKnown(*row.figure)) continue;
-      report.Figure(row, figures.Get(*row.figure));
-    }
+    for (std::size_t i = 0; i < kFigureCount; ++i)
+      if ((SourcesOf(kFigures[i]) & sources) != 0)
+        report.TableFigure(static_cast<Figure>(i), figures);
   }
 
   static void ReportUncounted(PidReport& report) {
-    for (const auto& row : BuiltInProperties())
-      if (row.group != kNoGroup && !row.figure) report.NoValue(row, Missing::kNotCounted);
+    for (const auto& row : FigureProperties())
+      if (row.sources == 0) report.NoValue(row, Missing::kNotCounted);
   }
 
   ProcessTable& mTable = TheMachine().processTable;

@@ -17,6 +17,8 @@
 namespace lurkwell {
 namespace {
 
+constexpr Figure kVirtualSize = FigureCalled("pid_vsz");
+
 /// A virtual size as it was reported, less the region that every process maps.
 std::int64_t AdjustedVirtualSize(std::int64_t reported) {
   // Senders that count in 32 bits show sizes above 2 GiB as negative numbers.
@@ -50,9 +52,8 @@ struct StoreInteger {
     if constexpr (std::is_same_v<Field, std::int32_t PidBlock::*>) {
       if (std::in_range<std::int32_t>(value))
         return Put(block.*field, static_cast<std::int32_t>(value));
-    } else if constexpr (std::is_same_v<Field, std::int64_t PidBlock::*>) {
-      const bool isVirtualSize = field == &PidBlock::virtualSize;
-      return Put(block.*field, isVirtualSize ? AdjustedVirtualSize(value) : value);
+    } else if constexpr (std::is_same_v<Field, Figure>) {
+      return Put(block[field], field == kVirtualSize ? AdjustedVirtualSize(value) : value);
     }
     return std::nullopt;
   }
@@ -71,8 +72,13 @@ struct StoreFromText {
   std::optional<bool> operator()(TimeValue PidBlock::*field) const {
     return Put(block.*field, ReadTime(value));
   }
-  template <typename Integer>
-  std::optional<bool> operator()(Integer PidBlock::*) const {
+  std::optional<bool> operator()(Figure figure) const {
+    if (row.type != kPropertyTypeTime) return Number();
+    return Put(block[figure], MicrosecondsOf(ReadTime(value)));
+  }
+  std::optional<bool> operator()(std::int32_t PidBlock::*) const { return Number(); }
+
+  std::optional<bool> Number() const {
     std::string_view rest = value;
     const auto number = ScanInteger(rest);
     // What does not fit is left out; what is no number at all counts as none.
@@ -89,6 +95,7 @@ struct Forget {
   bool operator()(char (PidBlock::*field)[kCommandNameCapacity]) const {
     return PutText(block.*field, {});
   }
+  bool operator()(Figure figure) const { return Put(block[figure], std::int64_t{0}); }
   template <typename T>
   bool operator()(T PidBlock::*field) const {
     return Put(block.*field, T{});
@@ -125,11 +132,17 @@ void PidReport::Time(const CatalogueRow& row, TimeValue value) {
     NoteKnown(row, Put(mBlock.**field, value));
 }
 
-void PidReport::Figure(const CatalogueRow& row, std::int64_t value) {
-  if (row.type == kPropertyTypeTime) {
-    Time(row, {value / 1'000'000, static_cast<std::int32_t>(value % 1'000'000)});
-  } else {
-    Integer(row, value);
+void PidReport::TableFigure(Figure figure, const ProcessFigures& figures) {
+  const auto& row = FigureProperties()[static_cast<std::size_t>(figure)];
+  switch (figures.StateOf(figure)) {
+    case FigureState::kUnread:
+      return;
+    case FigureState::kKnown:
+      return Integer(row, figures.Get(figure));
+    case FigureState::kRefused:
+      return NoValue(row, Missing::kNotAllowed);
+    case FigureState::kUncounted:
+      return NoValue(row, Missing::kNotCounted);
   }
 }
 

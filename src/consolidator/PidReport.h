@@ -21,8 +21,8 @@ class PidReport {
   /// A number too large for the field is left out.
   void Integer(const CatalogueRow& row, std::int64_t value);
   void Time(const CatalogueRow& row, TimeValue value);
-  /// A figure of the process table, whose times are microseconds.
-  void Figure(const CatalogueRow& row, std::int64_t value);
+  /// A figure as the process table has it; one that has not been read changes nothing.
+  void TableFigure(Figure figure, const ProcessFigures& figures);
   void State(RunState state);
   /// There is no value, and why. What was known before is forgotten: its text is that of 0.
   void NoValue(const CatalogueRow& row, Missing why);

@@ -36,25 +36,8 @@ constexpr CatalogueRow Listed(std::string_view name, PropertyType type, PidField
           .sources = sources};
 }
 
-/// What only some helpers count, and nobody here.
-constexpr CatalogueRow Uncounted(std::string_view name, PropertyType type, PidField field,
-                                 FigureGroup group, std::size_t minimumLength = kUsualLength) {
-  auto row = Listed(name, type, field, minimumLength, 0);
-  row.group = group;
-  return row;
-}
-
-/// A figure of the table or of the helper.
-constexpr CatalogueRow Counted(std::string_view name, PropertyType type, PidField field,
-                               Figure figure, FigureGroup group,
-                               std::size_t minimumLength = kUsualLength) {
-  auto row = Uncounted(name, type, field, group, minimumLength);
-  row.figure = figure;
-  row.sources = SourcesOf(figure);
-  return row;
-}
-
-constexpr std::array kRows = {
+/// All but the figures.
+constexpr std::array kOtherRows = {
     Other("meta_pid", kPropertyTypeInteger, kStays, RenderMetaPid, ReadMetaPid),
     Other("meta_name", kPropertyTypeString, kChanges, RenderMetaName),
     Other("meta_active_time", kPropertyTypeTime, kChanges, RenderMetaActiveTime,
@@ -82,34 +65,35 @@ constexpr std::array kRows = {
     Listed("pid_p_nice", kPropertyTypeInteger, &PidBlock::nice, kUsualLength,
            kFromStat | kFromScheduler),
     Listed("pid_p_starttime", kPropertyTypeDate, &PidBlock::startTime),
-    Counted("pid_user_time", kPropertyTypeTime, &PidBlock::userTime, Figure::kUserTime, kThreadTime,
-            14),
-    Counted("pid_system_time", kPropertyTypeTime, &PidBlock::systemTime, Figure::kSystemTime,
-            kThreadTime),
-    Counted("pid_vsz", kPropertyTypeMemory, &PidBlock::virtualSize, Figure::kVirtualSize,
-            kBasicInfo),
-    Counted("pid_rsz", kPropertyTypeMemory, &PidBlock::residentSize, Figure::kResidentSize,
-            kBasicInfo),
-    Counted("pid_suspend_count", kPropertyTypeInteger, &PidBlock::suspendCount,
-            Figure::kSuspendCount, kBasicInfo),
-    Uncounted("pid_terminated_user_time", kPropertyTypeTime, &PidBlock::terminatedUserTime,
-              kBasicInfo, 14),
-    Uncounted("pid_terminated_system_time", kPropertyTypeTime, &PidBlock::terminatedSystemTime,
-              kBasicInfo, 14),
-    Counted("pid_policy", kPropertyTypeInteger, &PidBlock::policy, Figure::kPolicy, kBasicInfo),
-    Counted("pid_faults", kPropertyTypeInteger, &PidBlock::faults, Figure::kFaults, kEventsInfo),
-    Counted("pid_pageins", kPropertyTypeInteger, &PidBlock::pageins, Figure::kPageins, kEventsInfo),
-    Uncounted("pid_cow_faults", kPropertyTypeInteger, &PidBlock::copyOnWriteFaults, kEventsInfo),
-    Uncounted("pid_messages_sent", kPropertyTypeInteger, &PidBlock::messagesSent, kEventsInfo),
-    Uncounted("pid_messages_received", kPropertyTypeInteger, &PidBlock::messagesReceived,
-              kEventsInfo),
-    Uncounted("pid_syscalls_mach", kPropertyTypeInteger, &PidBlock::machSystemCalls, kEventsInfo),
-    Counted("pid_syscalls_unix", kPropertyTypeInteger, &PidBlock::unixSystemCalls, Figure::kCalls,
-            kEventsInfo),
-    Counted("pid_csw", kPropertyTypeInteger, &PidBlock::contextSwitches, Figure::kSwitches,
-            kEventsInfo),
 };
-static_assert(kRows.size() == 38 && kRows.size() <= ValueStates::kCapacity);
+
+constexpr PropertyType TypeOf(FigureKind kind) {
+  switch (kind) {
+    case FigureKind::kBytes:
+      return kPropertyTypeMemory;
+    case FigureKind::kMicroseconds:
+      return kPropertyTypeTime;
+    case FigureKind::kNumber:
+      break;
+  }
+  return kPropertyTypeInteger;
+}
+
+constexpr CatalogueRow OfFigure(Figure figure) {
+  const FigureRow& its = RowOf(figure);
+  auto row = Listed(its.property, TypeOf(its.kind), figure, its.minimumLength, SourcesOf(its));
+  row.group = its.group;
+  return row;
+}
+
+constexpr auto kRows = [] {
+  std::array<CatalogueRow, kOtherRows.size() + kFigureCount> rows{};
+  std::ranges::copy(kOtherRows, rows.begin());
+  for (std::size_t i = 0; i < kFigureCount; ++i)
+    rows[kOtherRows.size() + i] = OfFigure(static_cast<Figure>(i));
+  return rows;
+}();
+static_assert(kRows.size() <= ValueStates::kCapacity);
 
 /// FNV-1a; the key set is fixed, so that a table of 128 places built by the compiler does.
 constexpr std::size_t kPlaces = 128;
@@ -137,6 +121,10 @@ constexpr auto kRowAtPlace = BuildPlaces();
 
 std::span<const CatalogueRow> BuiltInProperties() {
   return kRows;
+}
+
+std::span<const CatalogueRow> FigureProperties() {
+  return std::span(kRows).subspan(kOtherRows.size());
 }
 
 std::size_t PlaceOf(const CatalogueRow& row) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -28,7 +27,6 @@ PropertyType GetProcPropertyType(const char* name, int* changes);
 /// Whether there is such a property, built-in or a ps column that was found at start-up.
 bool IsKnownProcProperty(const char* name);
 
-/// 38.
 int CountBuiltInProcPropertyHeaders();
 
 /// The built-in properties and the ps columns together.
@@ -40,23 +38,14 @@ bool GetNthProcPropertyHeader(int n, char* dest, int length);
 
 // ---- The rows, for the consolidator itself ------------------------------------------------------
 
-using PidField =
-    std::variant<std::monostate, char (PidBlock::*)[kCommandNameCapacity], std::int32_t PidBlock::*,
-                 std::int64_t PidBlock::*, TimeValue PidBlock::*>;
+using PidField = std::variant<std::monostate, char (PidBlock::*)[kCommandNameCapacity],
+                              std::int32_t PidBlock::*, TimeValue PidBlock::*, Figure>;
 
 /// Writes a value that does not lie in the per-pid block; false leaves `dest` an empty text.
 using PropertyRenderer = bool (*)(const MetaProcessInformation& record, std::span<char> dest);
 
 /// The same as a value, of a record that has the part in which the property lies.
 using TypedPropertyReader = TypedValue (*)(const MetaProcessInformation& record);
-
-/// What the helper can tell of a process, in groups that are asked for as a whole.
-enum FigureGroup : unsigned {
-  kNoGroup = 0,
-  kThreadTime = 1,  ///< CPU time of live threads
-  kBasicInfo = 2,   ///< sizes, suspend count, CPU time of ended threads, scheduling policy
-  kEventsInfo = 4,  ///< counters of faults, messages, system calls, context switches
-};
 
 /// One built-in property: everything the program knows of it.
 struct CatalogueRow {
@@ -67,8 +56,6 @@ struct CatalogueRow {
   std::size_t minimumLength;  ///< the smallest buffer a "pid_" value is written to, in bytes
   PropertyRenderer render;    ///< all others
   TypedPropertyReader read;   ///< of those, all that are no plain texts
-  /// What the process table says of it, if that is a figure.
-  std::optional<Figure> figure = std::nullopt;
   /// Which of the table's sources have to be those of now for its value to be.
   FigureSources sources = 0;
   /// In which of the helper's groups it is, if it is in one.
@@ -76,6 +63,9 @@ struct CatalogueRow {
 };
 
 std::span<const CatalogueRow> BuiltInProperties();
+
+/// Those of the figures, in the order of kFigures.
+std::span<const CatalogueRow> FigureProperties();
 
 /// The row's place among the built-in properties, from 0.
 std::size_t PlaceOf(const CatalogueRow& row);

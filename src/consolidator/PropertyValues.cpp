@@ -28,8 +28,13 @@ struct RenderField {
     return true;
   }
   bool operator()(std::int32_t PidBlock::*field) const { return RenderInteger(dest, block.*field); }
-  bool operator()(std::int64_t PidBlock::*field) const { return RenderInteger(dest, block.*field); }
   bool operator()(TimeValue PidBlock::*field) const { return RenderTime(dest, block.*field); }
+  bool operator()(Figure figure) const {
+    const std::int64_t value = block[figure];
+    return RowOf(figure).kind == FigureKind::kMicroseconds
+               ? RenderTime(dest, TimeOfMicroseconds(value))
+               : RenderInteger(dest, value);
+  }
 };
 
 bool RenderPidProperty(const MetaProcessInformation& record, const CatalogueRow* row,
@@ -83,9 +88,11 @@ struct ReadField {
     return std::string(block.*field);
   }
   TypedValue operator()(TimeValue PidBlock::*field) const { return block.*field; }
-  template <typename Integer>
-  TypedValue operator()(Integer PidBlock::*field) const {
-    return std::int64_t{block.*field};
+  TypedValue operator()(std::int32_t PidBlock::*field) const { return std::int64_t{block.*field}; }
+  TypedValue operator()(Figure figure) const {
+    const std::int64_t value = block[figure];
+    if (RowOf(figure).kind == FigureKind::kMicroseconds) return TimeOfMicroseconds(value);
+    return value;
   }
 };
 

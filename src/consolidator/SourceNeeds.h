@@ -4,7 +4,8 @@
 #include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
-#include "platform/ProcessFigures.h"
+#include "platform/FigureSources.h"
+#include "platform/TimeValue.h"
 
 namespace lurkwell {
 

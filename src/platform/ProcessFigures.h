@@ -1,104 +1,170 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
+
+#include "platform/FigureSources.h"
+#include "platform/TimeValue.h"
 
 namespace lurkwell {
 
-/// What a machine counts for a process. Sizes are bytes, times microseconds.
-enum class Figure : std::uint8_t {
-  kUserTime,
-  kSystemTime,
-  kVirtualSize,
-  kResidentSize,
-  kSuspendCount,
-  kPolicy,
-  kFaults,   ///< page faults of both kinds
-  kPageins,  ///< those of them that waited for the disk
-  kSwitches,
-  kCalls,  ///< system calls that read or write
-};
-inline constexpr std::size_t kFigureCount = 10;
+/// What a figure counts; its property is shown and sorted as such.
+enum class FigureKind : std::uint8_t { kNumber, kBytes, kMicroseconds };
 
-/// Where figures stand. One reading of a source brings all that stands there; the figures change
-/// only while the process runs, but for those of the last one, which others change, too.
-enum FigureSource : unsigned {
-  kFromStat = 1,    ///< the process's line in the kernel's table, name and parent included
-  kFromStatus = 2,  ///< the kernel's longer description
-  kFromIO = 4,      ///< reading and writing; the owner's and root's alone
-  kFromScheduler = 8,
-};
-/// Any of them together.
-using FigureSources = unsigned;
-inline constexpr FigureSources kAllFigureSources = 15;
-
-/// What the kernel's number counts.
-enum class FigureUnit : std::uint8_t { kOnes, kTicks, kPages, kStateLetter };
+/// What the number at the source counts.
+enum class SourceUnit : std::uint8_t { kOnes, kTicks, kPages, kStateLetter };
 
 /// How a figure is taken from its source: the number of one field, or the sum of two. The fields of
 /// kFromStat have numbers, from 1 as proc(5) counts them, those of the others names.
 struct FigureOrigin {
-  Figure figure;
-  FigureSource source;
-  FigureUnit unit;
+  /// None: this machine does not count it.
+  FigureSources source = 0;
+  SourceUnit unit = SourceUnit::kOnes;
   std::size_t field = 0;
   std::size_t otherField = 0;
   std::string_view name = {};
   std::string_view otherName = {};
+  /// What has to be of now beside the source, since others change the figure.
+  FigureSources with = 0;
 };
 
-inline constexpr std::array<FigureOrigin, kFigureCount> kFigureOrigins = {{
-    {Figure::kUserTime, kFromStat, FigureUnit::kTicks, 14},
-    {Figure::kSystemTime, kFromStat, FigureUnit::kTicks, 15},
-    {Figure::kVirtualSize, kFromStat, FigureUnit::kOnes, 23},
-    {Figure::kResidentSize, kFromStat, FigureUnit::kPages, 24},
-    {Figure::kSuspendCount, kFromStat, FigureUnit::kStateLetter, 3},
-    {Figure::kPolicy, kFromStat, FigureUnit::kOnes, 41},
-    {Figure::kFaults, kFromStat, FigureUnit::kOnes, 10, 12},
-    {Figure::kPageins, kFromStat, FigureUnit::kOnes, 12},
-    {Figure::kSwitches, kFromStatus, FigureUnit::kOnes, 0, 0, "voluntary_ctxt_switches",
-     "nonvoluntary_ctxt_switches"},
-    {Figure::kCalls, kFromIO, FigureUnit::kOnes, 0, 0, "syscr", "syscw"},
-}};
+/// What the helper can tell of a process, in groups that are asked for as a whole.
+enum FigureGroup : unsigned {
+  kNoGroup = 0,     ///< it does not tell
+  kThreadTime = 1,  ///< CPU time of live threads
+  kBasicInfo = 2,   ///< sizes, suspend count, CPU time of ended threads, scheduling policy
+  kEventsInfo = 4,  ///< counters of faults, messages, system calls, context switches
+};
 
-/// The sources of a figure: where it stands, and the scheduler for what others change there.
-constexpr FigureSources SourcesOf(Figure figure) {
-  for (const auto& origin : kFigureOrigins)
-    if (origin.figure == figure)
-      return origin.source | (figure == Figure::kPolicy ? FigureSources{kFromScheduler} : 0);
-  return 0;
+/// The words by which groups are asked for, in this order.
+struct FigureGroupWord {
+  FigureGroup group;
+  std::string_view word;
+};
+inline constexpr FigureGroupWord kFigureGroupWords[] = {
+    {kThreadTime, "_thread_time"}, {kBasicInfo, "_basic_info"}, {kEventsInfo, "_events_info"}};
+
+/// One figure that a machine may count for a process: all that the program knows of it but its
+/// texts, and the only place where it stands. It may change for as long as the process lives.
+struct FigureRow {
+  /// The property's name.
+  std::string_view property;
+  FigureKind kind;
+  FigureGroup group;
+  FigureOrigin origin;
+  /// The smallest buffer that its text is written to, in bytes; by default for a 32-bit number.
+  std::size_t minimumLength = 11;
+};
+
+namespace figure_origins {
+
+constexpr FigureOrigin Stat(std::size_t field, SourceUnit unit = SourceUnit::kOnes) {
+  return {.source = kFromStat, .unit = unit, .field = field};
+}
+constexpr FigureOrigin StatSum(std::size_t field, std::size_t other) {
+  return {.source = kFromStat, .field = field, .otherField = other};
+}
+constexpr FigureOrigin Named(FigureSource source, std::string_view name,
+                             std::string_view other = {}) {
+  return {.source = source, .name = name, .otherName = other};
+}
+constexpr FigureOrigin AlsoFrom(FigureSource with, FigureOrigin origin) {
+  origin.with = with;
+  return origin;
+}
+inline constexpr FigureOrigin kUncounted{};
+
+using enum FigureKind;
+using enum SourceUnit;
+
+/// In the order in which properties are listed and helpers answer.
+inline constexpr FigureRow kRows[] = {
+    {"pid_user_time", kMicroseconds, kThreadTime, Stat(14, kTicks), 14},
+    {"pid_system_time", kMicroseconds, kThreadTime, Stat(15, kTicks)},
+    {"pid_vsz", kBytes, kBasicInfo, Stat(23)},
+    {"pid_rsz", kBytes, kBasicInfo, Stat(24, kPages)},
+    {"pid_suspend_count", kNumber, kBasicInfo, Stat(3, kStateLetter)},
+    {"pid_terminated_user_time", kMicroseconds, kBasicInfo, kUncounted, 14},
+    {"pid_terminated_system_time", kMicroseconds, kBasicInfo, kUncounted, 14},
+    {"pid_policy", kNumber, kBasicInfo, AlsoFrom(kFromScheduler, Stat(41))},
+    {"pid_faults", kNumber, kEventsInfo, StatSum(10, 12)},
+    {"pid_pageins", kNumber, kEventsInfo, Stat(12)},
+    {"pid_cow_faults", kNumber, kEventsInfo, kUncounted},
+    {"pid_messages_sent", kNumber, kEventsInfo, kUncounted},
+    {"pid_messages_received", kNumber, kEventsInfo, kUncounted},
+    {"pid_syscalls_mach", kNumber, kEventsInfo, kUncounted},
+    {"pid_syscalls_unix", kNumber, kEventsInfo, Named(kFromIO, "syscr", "syscw")},
+    {"pid_csw", kNumber, kEventsInfo,
+     Named(kFromStatus, "voluntary_ctxt_switches", "nonvoluntary_ctxt_switches")},
+};
+
+}  // namespace figure_origins
+
+inline constexpr std::size_t kFigureCount = std::size(figure_origins::kRows);
+inline constexpr auto kFigures = std::to_array(figure_origins::kRows);
+
+/// A figure by its place among kFigures.
+enum class Figure : std::uint8_t {};
+
+constexpr const FigureRow& RowOf(Figure figure) {
+  return kFigures[static_cast<std::size_t>(figure)];
 }
 
-/// The figures of one process as they were last read: each known, refused or not read yet.
+/// The figure of a property; what is none does not compile.
+consteval Figure FigureCalled(std::string_view property) {
+  std::size_t place = 0;
+  while (kFigures[place].property != property) ++place;
+  return static_cast<Figure>(place);
+}
+
+/// What has to be read for the figure to be that of now; 0 where it is not counted.
+constexpr FigureSources SourcesOf(const FigureRow& row) {
+  return row.origin.source | row.origin.with;
+}
+
+// Times of more than 280,000 years are cut.
+constexpr std::int64_t MicrosecondsOf(TimeValue time) {
+  constexpr std::int64_t kLongest = 9'000'000'000'000;
+  return std::clamp(time.seconds, -kLongest, kLongest) * 1'000'000 + time.microseconds;
+}
+constexpr TimeValue TimeOfMicroseconds(std::int64_t count) {
+  const std::int64_t rest = (count % 1'000'000 + 1'000'000) % 1'000'000;
+  return {(count - rest) / 1'000'000, static_cast<std::int32_t>(rest)};
+}
+
+/// What is known of a figure.
+enum class FigureState : std::uint8_t {
+  kUnread,
+  kKnown,
+  kRefused,    ///< the machine would tell, but not us
+  kUncounted,  ///< the machine does not count it
+};
+
+/// The figures of one process as they were last read.
 class ProcessFigures {
  public:
-  bool IsKnown(Figure figure) const { return (mKnown & Bit(figure)) != 0; }
-  /// Whether the machine would tell, but not us.
-  bool IsRefused(Figure figure) const { return (mRefused & Bit(figure)) != 0; }
+  FigureState StateOf(Figure figure) const { return mStates[Place(figure)]; }
   /// 0 unless it is known.
-  std::int64_t Get(Figure figure) const { return mValues[static_cast<std::size_t>(figure)]; }
+  std::int64_t Get(Figure figure) const { return mValues[Place(figure)]; }
 
   void Set(Figure figure, std::int64_t value) {
-    mValues[static_cast<std::size_t>(figure)] = value;
-    mKnown |= Bit(figure);
-    mRefused &= ~Bit(figure);
+    mValues[Place(figure)] = value;
+    mStates[Place(figure)] = FigureState::kKnown;
   }
-  void Refuse(Figure figure) {
-    mValues[static_cast<std::size_t>(figure)] = 0;
-    mKnown &= ~Bit(figure);
-    mRefused |= Bit(figure);
+  void SetMissing(Figure figure, FigureState why) {
+    mValues[Place(figure)] = 0;
+    mStates[Place(figure)] = why;
   }
 
  private:
-  static constexpr std::uint32_t Bit(Figure figure) {
-    return std::uint32_t{1} << static_cast<unsigned>(figure);
-  }
+  static constexpr std::size_t Place(Figure figure) { return static_cast<std::size_t>(figure); }
 
   std::array<std::int64_t, kFigureCount> mValues{};
-  std::uint32_t mKnown = 0;
-  std::uint32_t mRefused = 0;
+  std::array<FigureState, kFigureCount> mStates{};
 };
 
 }  // namespace lurkwell

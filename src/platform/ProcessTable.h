@@ -6,12 +6,14 @@
 #include <span>
 #include <vector>
 
+#include "platform/FigureSources.h"
 #include "platform/ProcessDescription.h"
-#include "platform/ProcessFigures.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
+
+class ProcessFigures;
 
 /// Run state of a process, with the kernel's classic numbers.
 enum class RunState : std::uint8_t {

@@ -164,7 +164,7 @@ TEST_F(AnimatedClient, CPUUseBecomesWeight) {
   EXPECT_DOUBLE_EQ(Of(104).targetWeight, 2 * 0.45 * 3 + 0.5);
   EXPECT_DOUBLE_EQ(Of(105).targetWeight, 2 * 0.45 + 0.5);
   EXPECT_DOUBLE_EQ(Of(106).targetWeight, 2 * 0.45 * 3 + 0.5) << "in a build tree";
-  machine.processTable.Find(101)->userTime = {};
+  (*machine.processTable.Find(101))["pid_user_time"] = 0;
   machine.runLoop.RunFor(1000);
   EXPECT_DOUBLE_EQ(Of(101).targetWeight, 0.5) << "time that went back";
 

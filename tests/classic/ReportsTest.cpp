@@ -137,7 +137,7 @@ TEST_F(ClassicReports, OneEnvironmentIsMeasuredAtATime) {
   EXPECT_NEAR(usedAfter(2), 30 * kSecond, 0.001);
   EXPECT_NEAR(usedAfter(10), 40 * kSecond, 0.001);
   // Misread once: neither taken back nor counted.
-  machine.processTable.Find(302)->userTime = {0, 1};
+  (*machine.processTable.Find(302))["pid_user_time"] = 1;
   EXPECT_NEAR(usedAfter(2), 42 * kSecond, 0.001);
 }
 

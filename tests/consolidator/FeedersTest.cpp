@@ -1,5 +1,4 @@
 // What the feeders ask of the machine and of the helper, and what they make of the answers.
-#include <numeric>
 #include <set>
 
 #include "consolidator/PSValues.h"
@@ -100,10 +99,12 @@ TEST_F(FeedersTest, AnswersThatWereNotAskedForChangeNothing) {
 
 TEST_F(FeedersTest, TheHelperIsAskedWhereTheMachineTellsNothingOrThePreferenceSaysSo) {
   auto& process = machine.processTable.Birth(45, "busy");
-  process.virtualSize = 0x20000005;
-  process.residentSize = 4096;
-  process.policy = 3;
-  std::iota(std::begin(process.events), std::end(process.events), 10);
+  process["pid_vsz"] = 0x20000005;
+  process["pid_rsz"] = 4096;
+  process["pid_policy"] = 3;
+  process["pid_faults"] = 10;
+  process["pid_pageins"] = 11;
+  process["pid_csw"] = 17;
   Start();
   Add("client", 1000).NeedsEverything();
   const auto figures = [&] {
@@ -124,8 +125,8 @@ TEST_F(FeedersTest, TheHelperIsAskedWhereTheMachineTellsNothingOrThePreferenceSa
   });
   EXPECT_EQ(figures(), "old: 0.000000 5 17 0 3 0 0 0 ");
   machine.processTable.TellFigures(true);
-  ++process.events[1];
-  ++process.events[7];
+  ++process["pid_pageins"];
+  ++process["pid_csw"];
   asked = 0;
   EXPECT_EQ(figures(), "2.500000 5 4096 0 3 10 12 18 ");
   EXPECT_EQ(asked, 0);
@@ -141,7 +142,7 @@ TEST_F(FeedersTest, TheHelperIsAskedWhereTheMachineTellsNothingOrThePreferenceSa
 
 TEST_F(FeedersTest, ASlowHelperIsAskedForOthersInEachBeat) {
   for (int pid = 5000; pid > 0; --pid)
-    if (pid != 1) machine.processTable.Birth(pid, "p").residentSize = 4096;
+    if (pid != 1) machine.processTable.Birth(pid, "p")["pid_rsz"] = 4096;
   Start();
   Add("client", 1000).Needs({"pid_rsz"});
   // Each answer takes a millisecond of the hundred that a beat has.

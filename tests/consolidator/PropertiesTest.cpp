@@ -8,6 +8,7 @@
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
+#include "preferences/PreferencesRetrieval.h"
 #include "support/ConsolidatorTest.h"
 
 namespace lurkwell {
@@ -21,12 +22,14 @@ class PropertiesTest : public ConsolidatorTest {
     EndProcessInformationIteration(kInformationKindPID);
   }
 
-  /// Every property of a process, a line each.
+  /// Every property of a process that is known where a helper tells the figures, a line each.
   static std::string Dump(std::int32_t pid) {
     std::string dump;
-    char name[64];
-    for (int i = 0; GetNthProcPropertyHeader(i, name, sizeof name); ++i)
-      dump += std::string(name) + "=" + Value(pid, name) + "\n";
+    for (const auto& row : BuiltInProperties()) {
+      const bool isHelped = row.group != kNoGroup || !std::holds_alternative<Figure>(row.field);
+      const auto name = std::string(row.name);
+      if (isHelped) dump += name + "=" + Value(pid, name.c_str()) + "\n";
+    }
     return dump;
   }
 
@@ -47,9 +50,9 @@ class PropertiesTest : public ConsolidatorTest {
 
 TEST_F(PropertiesTest, TheCatalogueHasAnEnd) {
   Start();
-  EXPECT_EQ(CountBuiltInProcPropertyHeaders(), 38);
   char untouched[] = "untouched";
-  EXPECT_FALSE(GetNthProcPropertyHeader(38, untouched, sizeof untouched));
+  const int count = CountBuiltInProcPropertyHeaders();
+  EXPECT_FALSE(GetNthProcPropertyHeader(count, untouched, sizeof untouched));
   EXPECT_FALSE(GetNthProcPropertyHeader(-1, untouched, sizeof untouched));
   EXPECT_STREQ(untouched, "untouched");
 }
@@ -76,16 +79,15 @@ TEST_F(PropertiesTest, EveryFigureOfAKernelProcessIsShown) {
   auto& process = machine.processTable.Birth(321, "sixteen letters!", 1);
   process.entry.nice = -5;
   process.entry.startTime = {1'000'000'000, 42};
-  process.userTime = {12, 5};
-  process.systemTime = {3, 999'999};
-  process.terminatedUserTime = {100, 500'000};
-  process.terminatedSystemTime = {0, 600'000};
-  process.virtualSize = 6'000'000'000;
-  process.residentSize = 5'000'000'000;
-  process.policy = 2;
+  for (std::size_t i = 0; i < kFigureCount; ++i) process.figures[i] = static_cast<std::int64_t>(i);
+  process["pid_user_time"] = 12'000'005;
+  process["pid_system_time"] = 3'999'999;
+  process["pid_terminated_user_time"] = 100'500'000;
+  process["pid_terminated_system_time"] = 600'000;
+  process["pid_vsz"] = 6'000'000'000;
+  process["pid_rsz"] = 5'000'000'000;
+  process["pid_faults"] = 3'000'000'000;
   process.entry.state = RunState::kStopped;
-  for (int i = 0; i < 8; ++i) process.events[i] = 10 + i;
-  process.events[0] = 3'000'000'000;
   Start();
   Add("all", 1000).NeedsEverything();
   machine.runLoop.RunFor(15'000);
@@ -100,13 +102,49 @@ TEST_F(PropertiesTest, EveryFigureOfAKernelProcessIsShown) {
             "pid_p_starttime=1000000000.000042\npid_user_time=12.000005\n"
             "pid_system_time=3.999999\npid_vsz=5463129088\npid_rsz=5000000000\n"
             "pid_suspend_count=1\npid_terminated_user_time=100.500000\n"
-            "pid_terminated_system_time=0.600000\npid_policy=2\npid_faults=3000000000\n"
-            "pid_pageins=11\npid_cow_faults=12\npid_messages_sent=13\npid_messages_received=14\n"
-            "pid_syscalls_mach=15\npid_syscalls_unix=16\npid_csw=17\n");
+            "pid_terminated_system_time=0.600000\npid_policy=7\npid_faults=3000000000\n"
+            "pid_pageins=9\npid_cow_faults=10\npid_messages_sent=11\npid_messages_received=12\n"
+            "pid_syscalls_mach=13\npid_syscalls_unix=14\npid_csw=15\n");
+}
+
+TEST_F(PropertiesTest, AFigureIsWhatItsRowSaysWhereverItComesFrom) {
+  auto& process = machine.processTable.Birth(321, "worker", 1);
+  for (std::size_t i = 0; i < kFigureCount; ++i)
+    process.figures[i] = 3'000'000'000 + static_cast<std::int64_t>(i);
+  machine.preferenceDomain.SetValue("MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT", 0);
+  Start();
+  auto& client = Add("client", 1000);
+  const auto expect = [&](bool isTold, const FigureRow& row) {
+    const auto value = GetPIDPropertyTypedValue(321, row.property.data());
+    const auto figure = static_cast<Figure>(&row - kFigures.data());
+    SCOPED_TRACE(row.property);
+    if (!isTold) {
+      EXPECT_EQ(value, TypedValue(Missing::kNotCounted));
+    } else if (row.kind == FigureKind::kMicroseconds) {
+      EXPECT_EQ(value, TypedValue(TimeOfMicroseconds(process.Tell(figure))));
+    } else {
+      EXPECT_EQ(value, TypedValue(process.Tell(figure)));
+    }
+  };
+  // One at a time, so that nothing comes with another's need.
+  for (const bool isOpen : {false, true}) {
+    machine.processTable.TellFigures(isOpen);
+    for (const auto& row : kFigures) {
+      client.Needs({row.property.data()});
+      machine.runLoop.RunFor(1000);
+      expect(isOpen ? row.origin.source != 0 : row.group != kNoGroup, row);
+    }
+  }
+  // The helper's word counts where it has one, the table's else.
+  SetPrefInt("FIGURES_FROM_HELPER", 1);
+  client.NeedsEverything();
+  for (auto& value : process.figures) ++value;
+  machine.runLoop.RunFor(1000);
+  for (const auto& row : kFigures) expect(row.group != kNoGroup || row.origin.source != 0, row);
 }
 
 TEST_F(PropertiesTest, ValuesComeAsValuesOrSayWhyThereAreNone) {
-  machine.processTable.Birth(321, "worker", 1).residentSize = 5'000'000'000;
+  machine.processTable.Birth(321, "worker", 1)["pid_rsz"] = 5'000'000'000;
   machine.processTable.Birth(322, "ended", 1).entry.state = RunState::kZombie;
   Start();
   const auto value = [](const char* name) { return GetPIDPropertyTypedValue(321, name); };
@@ -418,8 +456,9 @@ TEST_F(PropertiesTest, ThePsColumnsOfAProcessKeepTheirNewestText) {
   Start();
   machine.runLoop.RunFor(0);
   char text[64];
-  EXPECT_EQ(CountProcPropertyHeaders(), 39);
-  EXPECT_TRUE(GetNthProcPropertyHeader(38, text, sizeof text));
+  const int count = CountBuiltInProcPropertyHeaders();
+  EXPECT_EQ(CountProcPropertyHeaders(), count + 1);
+  EXPECT_TRUE(GetNthProcPropertyHeader(count, text, sizeof text));
   EXPECT_STREQ(text, "TT");
   EXPECT_EQ(GetNthPSHeadersGeneratingOptionCount(0), 2);
   GetNthPSHeadersNthGeneratingOption(0, 0, text, sizeof text);

@@ -10,11 +10,13 @@
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "consolidator/ProcessInformationFeederPS.h"
+#include "platform/ProcessFigures.h"
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxTools.h"
@@ -151,15 +153,47 @@ TEST_F(RealMachineTest, WithoutAHelperTheKernelsFiguresAreShown) {
   EXPECT_GE(seconds(0, "pid_user_time"), idle);
   EXPECT_NEAR(seconds(0, "pid_user_time"),
               std::stod(OutputOf("awk '/^cpu /{print $5/100}' /proc/stat")), 30);
-  const auto stat = [&](int field) {
-    return Trimmed(OutputOf("cut -d' ' -f" + std::to_string(field) + " /proc/" +
-                            std::to_string(sleeper.Pid()) + "/stat"));
+}
+
+/// How a shell takes a figure from the process's folder, which it stands in.
+struct TakenByShell {
+  const char* property;
+  const char* command;
+};
+
+TEST_F(RealMachineTest, EveryFigureIsWhatItsFileSays) {
+  const TakenByShell table[] = {
+      {"pid_user_time", "awk '{printf \"%.6f\", $14 / '$(getconf CLK_TCK)'}' stat"},
+      {"pid_system_time", "awk '{printf \"%.6f\", $15 / '$(getconf CLK_TCK)'}' stat"},
+      {"pid_vsz", "awk '{print $23}' stat"},
+      {"pid_rsz", "awk '{print $24 * '$(getconf PAGESIZE)'}' stat"},
+      {"pid_suspend_count", "awk '{print $3 == \"T\"}' stat"},
+      {"pid_policy", "awk '{print $41}' stat"},
+      {"pid_faults", "awk '{print $10 + $12}' stat"},
+      {"pid_pageins", "awk '{print $12}' stat"},
+      {"pid_syscalls_unix", "awk '/^sysc/{n += $2} END{print n}' io"},
+      {"pid_csw", "awk '/ctxt_switches/{n += $2} END{print n}' status"},
   };
-  EXPECT_EQ(Value(sleeper.Pid(), "pid_vsz"), stat(23));
-  EXPECT_EQ(Value(sleeper.Pid(), "pid_rsz"),
-            std::to_string(std::stoll(stat(24)) * sysconf(_SC_PAGESIZE)));
-  EXPECT_EQ(Value(sleeper.Pid(), "pid_faults"),
-            std::to_string(std::stoll(stat(10)) + std::stoll(stat(12))));
+  // Figures of different sizes, at rest.
+  const Child worker({"sh", "-c",
+                      "i=0; while [ $i -lt 300000 ]; do i=$((i+1)); done;"
+                      "head -c 1000000 /etc/services /proc/self/maps > /dev/null; kill -STOP $$"});
+  waitid(P_PID, static_cast<id_t>(worker.Pid()), nullptr, WSTOPPED | WNOWAIT);
+  Start();
+  QuitHelperDaemon();
+  auto& client = Add("client", 1000);
+  machine.runLoop.RunFor(1000);
+  std::set<std::string> tested;
+  for (const auto& [property, command] : table) {
+    client.Needs({property});
+    machine.runLoop.RunFor(1000);
+    EXPECT_EQ(Value(worker.Pid(), property),
+              Trimmed(OutputOf("cd /proc/" + std::to_string(worker.Pid()) + " && " + command)))
+        << property;
+    tested.insert(property);
+  }
+  for (const auto& row : kFigures)
+    EXPECT_EQ(tested.contains(std::string(row.property)), row.origin.source != 0) << row.property;
 }
 
 TEST_F(RealMachineTest, ShortLivedChildrenAreAnnouncedOnceOrNotAtAll) {

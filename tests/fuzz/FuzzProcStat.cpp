@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(reinterpret_cast<const char*>(data), size);
   const auto stat = ParseProcStat(text);
   static_cast<void>(ParseIdleTicks(text));
-  for (const auto& origin : kFigureOrigins) static_cast<void>(ParseNamedField(text, origin.name));
+  for (const auto& row : kFigures) static_cast<void>(ParseNamedField(text, row.origin.name));
   if (!stat) return 0;
   static_cast<void>(ParseProcStatFields(*stat));
   if (stat->pid < 1 || stat->parentPid < 0) std::abort();

@@ -9,6 +9,7 @@
 #include "helper/RecordingSystem.h"
 #include "helper/ReferenceReader.h"
 #include "helper/Session.h"
+#include "platform/ProcessFigures.h"
 
 namespace lurkwell::helper::testing {
 namespace {
@@ -140,6 +141,18 @@ TEST_F(SessionTest, FiguresComeFromTheFilesOfTheAskedGroups) {
             "pid_faults 0 0\npid_pageins 0 0\npid_cow_faults 0 0\npid_messages_sent 0 0\n"
             "pid_messages_received 0 0\npid_syscalls_mach 0 0\npid_syscalls_unix 0 0\n"
             "pid_csw 0 0\n");
+  // Each group has the figures whose rows name it.
+  for (const auto& [group, word] : kFigureGroupWords) {
+    std::istringstream answer(Figures("pid_internal" + std::string(word) + " 70\n"));
+    std::string property, rest;
+    for (const auto& row : kFigures) {
+      if (row.group != group) continue;
+      answer >> property;
+      std::getline(answer, rest);
+      EXPECT_EQ(property, row.property);
+    }
+    EXPECT_FALSE(answer >> property) << property;
+  }
   // What may not be read is 0, and a pid without a process is nothing.
   mMachine.processes[70].io.clear();
   mMachine.processes[70].status.clear();

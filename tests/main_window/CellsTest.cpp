@@ -111,6 +111,19 @@ TEST_F(CellsTest, WhyThereIsNoFigureIsToldApartFromNothing) {
   EXPECT_EQ(Pids().substr(8), "302 301 300");
 }
 
+TEST_F(CellsTest, HexadecimalFiguresAreShownAsTheDesktopTellsThem) {
+  machine.processManager.Launch({1, 301}, 301, "An application");
+  OpenWith({300, 301});
+  controller().addToKeysWeTrackForUI(InternKey("carbonpsn_mode"));
+  Turn();
+  const auto mode = [this](int pid) {
+    return Cell(controller().rows().Find(pid)->shownIndex, ColumnOf("carbonpsn_mode"))
+        .toStdString();
+  };
+  EXPECT_EQ(mode(301), "0x00000040");
+  EXPECT_EQ(mode(300), "") << "there is none, which is not 0";
+}
+
 TEST_F(CellsTest, TheIdleTaskAndZombiesAreNoWorkingProcesses) {
   machine.processTable.Birth(300, "ended").entry.state = RunState::kZombie;
   Open();

@@ -32,8 +32,8 @@ TEST_F(SortingTest, TheIdleTaskCountsAsNothingUnlessTheUserWantsIt) {
   table.Birth(30, "busy");
   table.Birth(31, "busier");
   for (const int pid : {0, 30, 31}) table.Find(pid)->UseCPU(1);
-  table.Find(0)->virtualSize = 0x7000000000;
-  table.Find(30)->virtualSize = 0x20000000 + 5000;
+  (*table.Find(0))["pid_vsz"] = 0x7000000000;
+  (*table.Find(30))["pid_vsz"] = 0x20000000 + 5000;
   Open();
   const auto work = [&] {
     table.Find(0)->UseCPU(1900);
@@ -62,9 +62,9 @@ TEST_F(SortingTest, NumbersTimesAndSizesSortAsWhatTheyAre) {
   table.Birth(30, "a").UseCPU(100'000);
   table.Birth(31, "b").UseCPU(9'000);
   table.Birth(32, "c").UseCPU(20'500);
-  table.Find(30)->residentSize = 900;
-  table.Find(31)->residentSize = 2LL << 20;
-  table.Find(32)->residentSize = 5LL << 32;
+  (*table.Find(30))["pid_rsz"] = 900;
+  (*table.Find(31))["pid_rsz"] = 2LL << 20;
+  (*table.Find(32))["pid_rsz"] = 5LL << 32;
   table.Find(30)->entry.nice = 9;
   table.Find(31)->entry.nice = 10;
   table.Find(32)->entry.nice = -5;

@@ -37,8 +37,8 @@ TEST_F(TableTest, ANewUserSeesSevenColumnsAndSharesFromTheSecondTurnOn) {
   auto& busy = table.Birth(300, "busy");
   table.Birth(301, "idle");
   busy.UseCPU(5000);
-  busy.residentSize = 3 << 20;
-  busy.virtualSize = 0x20000000 + (8 << 20);
+  busy["pid_rsz"] = 3 << 20;
+  busy["pid_vsz"] = 0x20000000 + (8 << 20);
   Open();
   EXPECT_EQ(Keys(),
             "meta_pid internal_Icon internal_Indicator meta_name meta_active_time "
@@ -248,7 +248,7 @@ TEST_F(TableTest, AClosedWindowHasNoRowsAndStartsAfreshWhenShownAgain) {
 
 TEST_F(TableTest, PreferencesShowAtOnce) {
   auto& process = machine.processTable.Birth(300, "p");
-  process.residentSize = 3 << 20;
+  process["pid_rsz"] = 3 << 20;
   Open();
   ClickHeader("meta_pid");
   EXPECT_TRUE(Cell(2, 6).startsWith("3.0 M"));

@@ -31,10 +31,10 @@ TEST_F(LoggingWindowTest, RowsComeWithChangesAndGoIntoTheFile) {
   Turn();
   QSignalSpy inserted(&log, &QAbstractItemModel::rowsInserted);
   process.UseCPU(250);
-  process.residentSize = 8192;
+  process["pid_rsz"] = 8192;
   Turn(3000);
   EXPECT_EQ(inserted.count(), 1);
-  process.residentSize = 2000;
+  process["pid_rsz"] = 2000;
   Turn();
   std::string rows = Table(log);
   for (auto at = rows.find("Sep"); at != std::string::npos; at = rows.find("Sep"))

@@ -11,8 +11,7 @@ namespace {
 
 constexpr std::size_t kLastField = [] {
   std::size_t last = 0;
-  for (const auto& origin : kFigureOrigins)
-    last = std::max({last, origin.field, origin.otherField});
+  for (const auto& row : kFigures) last = std::max({last, row.origin.field, row.origin.otherField});
   return last;
 }();
 static_assert(kLastField < std::tuple_size_v<ProcStatFields>);

@@ -131,9 +131,10 @@ ProcessReader::Outcome ProcessReader::Read(ProcessTableEntry& entry, KnownProces
     return Outcome::kGone;
   }
   Take(*stat, entry, known);
-  for (const auto& origin : kFigureOrigins) {
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto& origin = kFigures[i].origin;
     if (origin.source != kFromStat) continue;
-    known.figures.Set(origin.figure,
+    known.figures.Set(static_cast<Figure>(i),
                       FigureOf(origin, Sum((*fields)[origin.field], (*fields)[origin.otherField])));
   }
   Note(entry, known, kFromStat, runTime);
@@ -163,23 +164,25 @@ void ProcessReader::ReadNamed(const FileDescriptor& folder, FigureSource source,
   const auto bytes = mFiles->ReadIn(folder.Get(), file, mBuffer);
   const bool isRefused = bytes < 0 && (errno == EACCES || errno == EPERM);
   const auto text = BufferText(bytes);
-  for (const auto& origin : kFigureOrigins) {
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto figure = static_cast<Figure>(i);
+    const auto& origin = kFigures[i].origin;
     if (origin.source != source) continue;
-    if (isRefused) known.figures.Refuse(origin.figure);
+    if (isRefused) known.figures.SetMissing(figure, FigureState::kRefused);
     const auto number = ParseNamedField(text, origin.name);
     const auto other = origin.otherName.empty() ? 0 : ParseNamedField(text, origin.otherName);
-    if (number && other) known.figures.Set(origin.figure, FigureOf(origin, Sum(*number, *other)));
+    if (number && other) known.figures.Set(figure, FigureOf(origin, Sum(*number, *other)));
   }
 }
 
 std::int64_t ProcessReader::FigureOf(const FigureOrigin& origin, std::int64_t number) const {
   switch (origin.unit) {
-    case FigureUnit::kTicks:
+    case SourceUnit::kTicks:
       return number / mTicksPerSecond * 1'000'000 +
              number % mTicksPerSecond * 1'000'000 / mTicksPerSecond;
-    case FigureUnit::kPages:
+    case SourceUnit::kPages:
       return number * mPageSize;
-    case FigureUnit::kStateLetter:
+    case SourceUnit::kStateLetter:
       return number == 'T' || number == 't';
     default:
       return number;
@@ -227,8 +230,8 @@ void ProcessReader::ReadIdleTask(ProcessTableEntry& entry, KnownProcess& known) 
     const TimeValue time = TimeOf(count);
     return time.seconds * 1'000'000 + time.microseconds;
   };
-  known.figures.Set(Figure::kUserTime, microseconds(ticks->idle));
-  known.figures.Set(Figure::kSystemTime, microseconds(ticks->waiting));
+  known.figures.Set(FigureCalled("pid_user_time"), microseconds(ticks->idle));
+  known.figures.Set(FigureCalled("pid_system_time"), microseconds(ticks->waiting));
   entry.known = entry.read = entry.current = kFromStat;
 }
 

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
 #include "platform/linux/CommandName.h"
 #include "platform/linux/FileDescriptor.h"

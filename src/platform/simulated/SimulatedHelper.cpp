@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <sstream>
 
 namespace lurkwell {
@@ -23,52 +24,23 @@ std::string Escaped(std::string_view text) {
 }
 
 /// Lines of property, pid and value for one process.
-class FigureLines {
- public:
-  explicit FigureLines(std::int32_t pid) : mPid(std::to_string(pid)) {}
-
-  void Add(const char* property, std::int64_t value) { AddText(property, std::to_string(value)); }
-  void Add(const char* property, TimeValue time) {
-    AddText(property, std::to_string(time.seconds) + "." + std::to_string(time.microseconds));
-  }
-  const std::string& Text() const { return mText; }
-
- private:
-  void AddText(const char* property, const std::string& value) {
-    mText += property;
-    mText += ' ' + mPid + ' ' + value + '\n';
-  }
-
-  std::string mPid;
-  std::string mText;
-};
-
 std::string FiguresOf(const SimulatedProcess& process, std::string_view groups) {
-  FigureLines lines(process.entry.pid);
-  if (groups.find("_thread_time") != std::string_view::npos) {
-    lines.Add("pid_user_time", process.userTime);
-    lines.Add("pid_system_time", process.systemTime);
+  std::string lines;
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto& row = kFigures[i];
+    const auto* word = std::ranges::find(kFigureGroupWords, row.group, &FigureGroupWord::group);
+    if (word == std::end(kFigureGroupWords) || groups.find(word->word) == std::string_view::npos)
+      continue;
+    const std::int64_t value = process.Tell(static_cast<Figure>(i));
+    lines += std::string(row.property) + ' ' + std::to_string(process.entry.pid) + ' ';
+    if (row.kind == FigureKind::kMicroseconds) {
+      const auto time = TimeOfMicroseconds(value);
+      lines += std::to_string(time.seconds) + '.' + std::to_string(time.microseconds) + '\n';
+    } else {
+      lines += std::to_string(value) + '\n';
+    }
   }
-  if (groups.find("_basic_info") != std::string_view::npos) {
-    lines.Add("pid_vsz", process.virtualSize);
-    lines.Add("pid_rsz", process.residentSize);
-    lines.Add("pid_suspend_count", process.entry.state == RunState::kStopped ? 1 : 0);
-    lines.Add("pid_terminated_user_time", process.terminatedUserTime);
-    lines.Add("pid_terminated_system_time", process.terminatedSystemTime);
-    lines.Add("pid_policy", process.policy);
-  }
-  if (groups.find("_events_info") != std::string_view::npos) {
-    constexpr const char* kEvents[] = {"pid_faults",
-                                       "pid_pageins",
-                                       "pid_cow_faults",
-                                       "pid_messages_sent",
-                                       "pid_messages_received",
-                                       "pid_syscalls_mach",
-                                       "pid_syscalls_unix",
-                                       "pid_csw"};
-    for (std::size_t i = 0; i < std::size(kEvents); ++i) lines.Add(kEvents[i], process.events[i]);
-  }
-  return lines.Text();
+  return lines;
 }
 
 }  // namespace

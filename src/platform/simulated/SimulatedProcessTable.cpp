@@ -14,7 +14,18 @@ void SimulatedProcess::SetName(std::string_view name) {
 }
 
 void SimulatedProcess::UseCPU(std::int64_t milliseconds) {
-  userTime = AddMilliseconds(userTime, milliseconds);
+  (*this)["pid_user_time"] += milliseconds * 1000;
+}
+
+std::int64_t SimulatedProcess::Tell(Figure figure) const {
+  if (figure == FigureCalled("pid_suspend_count")) return entry.state == RunState::kStopped ? 1 : 0;
+  return figures[static_cast<std::size_t>(figure)];
+}
+
+std::array<std::int64_t, kFigureCount> SimulatedProcess::StartFigures() {
+  std::array<std::int64_t, kFigureCount> figures{};
+  figures[static_cast<std::size_t>(FigureCalled("pid_policy"))] = 1;
+  return figures;
 }
 
 SimulatedProcessTable::SimulatedProcessTable(Clock& clock, AccessLog& log)
@@ -90,18 +101,15 @@ const ProcessFigures& SimulatedProcessTable::FiguresOf(const ProcessTableEntry& 
   mFigures = {};
   const auto* process = mTellsFigures ? Find(entry.pid) : nullptr;
   if (process == nullptr) return mFigures;
-  const auto microseconds = [](TimeValue time) {
-    return time.seconds * 1'000'000 + time.microseconds;
-  };
-  mFigures.Set(Figure::kUserTime, microseconds(process->userTime));
-  mFigures.Set(Figure::kSystemTime, microseconds(process->systemTime));
-  mFigures.Set(Figure::kVirtualSize, process->virtualSize);
-  mFigures.Set(Figure::kResidentSize, process->residentSize);
-  mFigures.Set(Figure::kSuspendCount, process->entry.state == RunState::kStopped ? 1 : 0);
-  mFigures.Set(Figure::kPolicy, process->policy);
-  constexpr std::pair<Figure, int> kEvents[] = {
-      {Figure::kFaults, 0}, {Figure::kPageins, 1}, {Figure::kCalls, 6}, {Figure::kSwitches, 7}};
-  for (const auto& [figure, event] : kEvents) mFigures.Set(figure, process->events[event]);
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto figure = static_cast<Figure>(i);
+    const auto source = kFigures[i].origin.source;
+    if (source == kFromIO && process->owner != "user") {
+      mFigures.SetMissing(figure, FigureState::kRefused);
+    } else if (source != 0) {
+      mFigures.Set(figure, process->Tell(figure));
+    }
+  }
   return mFigures;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <list>
 #include <string>
@@ -8,31 +9,39 @@
 #include <vector>
 
 #include "platform/Clock.h"
+#include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
 #include "platform/simulated/AccessLog.h"
 
 namespace lurkwell {
 
+/// The name of a figure's property; what is none does not compile.
+struct FigureName {
+  consteval FigureName(const char* property) : figure(FigureCalled(property)) {}
+  Figure figure;
+};
+
 /// One process of a simulated machine, to be changed at will between two readings.
 struct SimulatedProcess {
   ProcessTableEntry entry;
-  TimeValue userTime;
-  TimeValue systemTime;
-  TimeValue terminatedUserTime;
-  TimeValue terminatedSystemTime;
-  std::int64_t virtualSize = 0;
-  std::int64_t residentSize = 0;
-  std::int32_t policy = 1;
+  /// But for the suspend count, which follows from its state. The policy is 1.
+  std::array<std::int64_t, kFigureCount> figures = StartFigures();
   /// "user" is this program's.
   std::string owner = "user";
   std::string commandLine;
   bool isKernelThread = false;
-  /// Faults, pageins, copy-on-write faults, messages sent and received, Mach and Unix system calls,
-  /// context switches.
-  std::int64_t events[8] = {};
 
+  /// A figure to be changed; times are microseconds.
+  std::int64_t& operator[](FigureName name) {
+    return figures[static_cast<std::size_t>(name.figure)];
+  }
+  /// A figure as the machine tells it.
+  std::int64_t Tell(Figure figure) const;
   void SetName(std::string_view name);
   void UseCPU(std::int64_t milliseconds);
+
+ private:
+  static std::array<std::int64_t, kFigureCount> StartFigures();
 };
 
 /// The process table of a simulated machine: newest process first, the kernel's own entry last,
