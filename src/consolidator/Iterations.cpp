@@ -40,7 +40,7 @@ void DeriveName(MetaProcessInformation& record) {
   const char* commandName = record.pidInfo->commandName;
   if (std::strncmp(record.name, commandName, kCommandNameCapacity) == 0) return;
   if (record.name[0] != '\0' && record.carbonInfo == nullptr) record.changedAppreciably = true;
-  StoreText(record.name, commandName);
+  StoreText(record.name, std::string_view(commandName));
   record.NoteValueChange();
 }
 
