@@ -307,6 +307,14 @@
         <source></source>
         <translation>How often a CPU was switched away from the process's main thread, voluntarily or not. From /proc/PID/status.</translation>
     </message>
+    <message id="pid_processor">
+        <source></source>
+        <translation>Last CPU</translation>
+    </message>
+    <message id="pid_processor_tip">
+        <source></source>
+        <translation>The number of the processor that the process's main thread ran on last, from 0. From /proc/PID/stat.</translation>
+    </message>
     <message id="internal_Icon">
         <source></source>
         <translation>Icon</translation>

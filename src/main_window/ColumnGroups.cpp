@@ -52,8 +52,8 @@ constexpr Members kMembers[] = {
      "pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS PSS USS LIM MAJFLT MINFLT PAGEIN "
      "OOM OOMADJ HTPRV HTSHR STACKP"},
     {kScheduling,
-     "pid_p_priority pid_p_nice pid_policy pid_suspend_count pid_csw "
-     "S STAT NI PRI PRIORITY OPRI API RTPRIO CLS SCH PSR NUMA NLWP LWP WCHAN AGID AGNI P"},
+     "pid_p_priority pid_p_nice pid_policy pid_suspend_count pid_csw pid_processor "
+     "S STAT NI PRI PRIORITY OPRI API RTPRIO CLS SCH NUMA NLWP LWP WCHAN AGID AGNI P"},
     {kInputOutput, "pid_syscalls_unix RBYTES WBYTES WCBYTES RCHARS WCHARS ROPS WOPS"},
     {kUsers,
      "USER UID GROUP GID EUSER EUID EGROUP EGID RUSER RUID RGROUP RGID SUSER SUID SGROUP SGID "
@@ -65,7 +65,8 @@ constexpr Members kMembers[] = {
      "CGROUPNS IPCNS MNTNS NETNS PIDNS TIMENS USERNS UTSNS"},
     {kDesktop, "meta_psn"},
     {kRepeated,
-     "BSDTIME CMD UCMD STIME RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL CPUID LASTCPU TGID "
+     "BSDTIME CMD UCMD STIME RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL PSR CPUID LASTCPU "
+     "TGID "
      "SPID TID "
      "THCNT POL FSUSER FSUID FSGROUP FSGID SVUSER SVUID SVGROUP SVGID"},
     {kNotCounted,

@@ -100,6 +100,7 @@ inline constexpr FigureRow kRows[] = {
     {"pid_syscalls_unix", kNumber, kEventsInfo, Named(kFromIO, "syscr", "syscw")},
     {"pid_csw", kNumber, kEventsInfo,
      Named(kFromStatus, "voluntary_ctxt_switches", "nonvoluntary_ctxt_switches")},
+    {"pid_processor", kNumber, kNoGroup, Stat(39)},
 };
 
 }  // namespace figure_origins

@@ -168,6 +168,7 @@ TEST_F(RealMachineTest, EveryFigureIsWhatItsFileSays) {
       {"pid_vsz", "awk '{print $23}' stat"},
       {"pid_rsz", "awk '{print $24 * '$(getconf PAGESIZE)'}' stat"},
       {"pid_suspend_count", "awk '{print $3 == \"T\"}' stat"},
+      {"pid_processor", "awk '{print $39}' stat"},
       {"pid_policy", "awk '{print $41}' stat"},
       {"pid_faults", "awk '{print $10 + $12}' stat"},
       {"pid_pageins", "awk '{print $12}' stat"},
