@@ -297,7 +297,7 @@
     </message>
     <message id="pid_syscalls_unix_tip">
         <source></source>
-        <translation>System calls that read or write, added up; other calls are not counted. From /proc/PID/io; 0 where it may not be read.</translation>
+        <translation>System calls that read or write, added up; other calls are not counted. From /proc/PID/io, which only its user and root may read.</translation>
     </message>
     <message id="pid_csw">
         <source></source>
@@ -314,6 +314,62 @@
     <message id="pid_processor_tip">
         <source></source>
         <translation>The number of the processor that the process's main thread ran on last, from 0. From /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_cpu_wait">
+        <source></source>
+        <translation>Waiting for a CPU</translation>
+    </message>
+    <message id="pid_cpu_wait_tip">
+        <source></source>
+        <translation>How long the threads of the process were ready to run and had to wait for a processor, in seconds, all of them together. Threads that have ended are missing. From /proc/PID/task/TID/schedstat.</translation>
+    </message>
+    <message id="pid_disk_read">
+        <source></source>
+        <translation>Read from disk</translation>
+    </message>
+    <message id="pid_disk_read_tip">
+        <source></source>
+        <translation>Bytes that the storage devices had to deliver for the process since it started. From /proc/PID/io, which only its user and root may read.</translation>
+    </message>
+    <message id="pid_disk_written">
+        <source></source>
+        <translation>Written to disk</translation>
+    </message>
+    <message id="pid_disk_written_tip">
+        <source></source>
+        <translation>Bytes that the process has given to the storage devices to write since it started; what it wrote to files that were deleted soon is counted, too. From /proc/PID/io, which only its user and root may read.</translation>
+    </message>
+    <message id="pid_bytes_read">
+        <source></source>
+        <translation>Bytes read</translation>
+    </message>
+    <message id="pid_bytes_read_tip">
+        <source></source>
+        <translation>Bytes that the process got from its read calls since it started, whether they came from a disk, a cache or a terminal. From /proc/PID/io, which only its user and root may read.</translation>
+    </message>
+    <message id="pid_bytes_written">
+        <source></source>
+        <translation>Bytes written</translation>
+    </message>
+    <message id="pid_bytes_written_tip">
+        <source></source>
+        <translation>Bytes that the process passed to its write calls since it started, whether they went to a disk, a cache or a terminal. From /proc/PID/io, which only its user and root may read.</translation>
+    </message>
+    <message id="pid_unit_disk_read">
+        <source></source>
+        <translation>Read from disk by the unit</translation>
+    </message>
+    <message id="pid_unit_disk_read_tip">
+        <source></source>
+        <translation>Bytes that the storage devices have delivered to the unit (control group) of the process: to all processes in it together, ended ones included. From its io.stat, which everybody may read; most desktops count it for services only.</translation>
+    </message>
+    <message id="pid_unit_disk_written">
+        <source></source>
+        <translation>Written to disk by the unit</translation>
+    </message>
+    <message id="pid_unit_disk_written_tip">
+        <source></source>
+        <translation>Bytes that the unit (control group) of the process has given to the storage devices to write: all processes in it together, ended ones included. From its io.stat, which everybody may read; most desktops count it for services only.</translation>
     </message>
     <message id="internal_Icon">
         <source></source>

@@ -54,7 +54,9 @@ constexpr Members kMembers[] = {
     {kScheduling,
      "pid_p_priority pid_p_nice pid_policy pid_suspend_count pid_csw pid_processor "
      "S STAT NI PRI PRIORITY OPRI API RTPRIO CLS SCH NUMA NLWP LWP WCHAN AGID AGNI P"},
-    {kInputOutput, "pid_syscalls_unix RBYTES WBYTES WCBYTES RCHARS WCHARS ROPS WOPS"},
+    {kInputOutput,
+     "pid_disk_read pid_disk_written pid_bytes_read pid_bytes_written pid_syscalls_unix "
+     "pid_unit_disk_read pid_unit_disk_written WCBYTES ROPS WOPS"},
     {kUsers,
      "USER UID GROUP GID EUSER EUID EGROUP EGID RUSER RUID RGROUP RGID SUSER SUID SGROUP SGID "
      "FUSER FUID FGROUP FGID SUPGRP SUPGID LUID"},
@@ -65,7 +67,8 @@ constexpr Members kMembers[] = {
      "CGROUPNS IPCNS MNTNS NETNS PIDNS TIMENS USERNS UTSNS"},
     {kDesktop, "meta_psn"},
     {kRepeated,
-     "BSDTIME CMD UCMD STIME RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL PSR CPUID LASTCPU "
+     "BSDTIME CMD UCMD STIME RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL PSR RBYTES WBYTES "
+     "RCHARS WCHARS CPUID LASTCPU "
      "TGID "
      "SPID TID "
      "THCNT POL FSUSER FSUID FSGROUP FSGID SVUSER SVUID SVGROUP SVGID"},

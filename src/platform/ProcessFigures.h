@@ -16,10 +16,11 @@ namespace lurkwell {
 enum class FigureKind : std::uint8_t { kNumber, kBytes, kMicroseconds };
 
 /// What the number at the source counts.
-enum class SourceUnit : std::uint8_t { kOnes, kTicks, kPages, kStateLetter };
+enum class SourceUnit : std::uint8_t { kOnes, kTicks, kPages, kNanoseconds, kStateLetter };
 
 /// How a figure is taken from its source: the number of one field, or the sum of two. The fields of
-/// kFromStat have numbers, from 1 as proc(5) counts them, those of the others names.
+/// kFromStat have numbers, from 1 as proc(5) counts them, and so have those of kFromThreads, which
+/// are added up; those of the others have names.
 struct FigureOrigin {
   /// None: this machine does not count it.
   FigureSources source = 0;
@@ -72,6 +73,9 @@ constexpr FigureOrigin Named(FigureSource source, std::string_view name,
                              std::string_view other = {}) {
   return {.source = source, .name = name, .otherName = other};
 }
+constexpr FigureOrigin OfThreads(std::size_t field, SourceUnit unit) {
+  return {.source = kFromThreads, .unit = unit, .field = field};
+}
 constexpr FigureOrigin AlsoFrom(FigureSource with, FigureOrigin origin) {
   origin.with = with;
   return origin;
@@ -101,6 +105,13 @@ inline constexpr FigureRow kRows[] = {
     {"pid_csw", kNumber, kEventsInfo,
      Named(kFromStatus, "voluntary_ctxt_switches", "nonvoluntary_ctxt_switches")},
     {"pid_processor", kNumber, kNoGroup, Stat(39)},
+    {"pid_cpu_wait", kMicroseconds, kNoGroup, OfThreads(2, kNanoseconds)},
+    {"pid_disk_read", kBytes, kNoGroup, Named(kFromIO, "read_bytes")},
+    {"pid_disk_written", kBytes, kNoGroup, Named(kFromIO, "write_bytes")},
+    {"pid_bytes_read", kBytes, kNoGroup, Named(kFromIO, "rchar")},
+    {"pid_bytes_written", kBytes, kNoGroup, Named(kFromIO, "wchar")},
+    {"pid_unit_disk_read", kBytes, kNoGroup, Named(kFromUnit, "rbytes")},
+    {"pid_unit_disk_written", kBytes, kNoGroup, Named(kFromUnit, "wbytes")},
 };
 
 }  // namespace figure_origins

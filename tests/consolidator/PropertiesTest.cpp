@@ -8,6 +8,7 @@
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
+#include "consolidator/SourceNeeds.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "support/ConsolidatorTest.h"
 
@@ -131,6 +132,8 @@ TEST_F(PropertiesTest, AFigureIsWhatItsRowSaysWhereverItComesFrom) {
     machine.processTable.TellFigures(isOpen);
     for (const auto& row : kFigures) {
       client.Needs({row.property.data()});
+      const auto whenDue = AddMilliseconds(machine.clock.Now(), 1000);
+      EXPECT_EQ(SourceNeeds(whenDue).Of(321), SourcesOf(row)) << "and of no other";
       machine.runLoop.RunFor(1000);
       expect(isOpen ? row.origin.source != 0 : row.group != kNoGroup, row);
     }

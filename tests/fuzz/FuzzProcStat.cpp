@@ -7,6 +7,7 @@
 #include "platform/ProcessFigures.h"
 #include "platform/StatText.h"
 #include "platform/linux/ProcStat.h"
+#include "platform/linux/UnitFiles.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace lurkwell;
@@ -14,7 +15,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(reinterpret_cast<const char*>(data), size);
   const auto stat = ParseProcStat(text);
   static_cast<void>(ParseIdleTicks(text));
-  for (const auto& row : kFigures) static_cast<void>(ParseNamedField(text, row.origin.name));
+  for (const auto& row : kFigures) {
+    static_cast<void>(ParseNamedField(text, row.origin.name));
+    if (row.origin.source == kFromThreads)
+      static_cast<void>(ParseNthNumber(text, row.origin.field));
+    if (row.origin.source == kFromUnit) static_cast<void>(SumOfNamed(text, row.origin.name));
+  }
   if (!stat) return 0;
   static_cast<void>(ParseProcStatFields(*stat));
   if (stat->pid < 1 || stat->parentPid < 0) std::abort();

@@ -1,4 +1,5 @@
 // The process table and signals on the real machine.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
@@ -13,6 +14,7 @@
 
 #include "platform/Children.h"
 #include "platform/MadeUpTree.h"
+#include "platform/ProcessFigures.h"
 #include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxSignals.h"
@@ -139,6 +141,71 @@ TEST(LiveProcesses, ShowTheirStateNiceValueAndStart) {
   EXPECT_FALSE(table.CurrentIdentity(0));
   ::waitpid(zombie, nullptr, 0);
   EXPECT_FALSE(Find(table.Read(), zombie));
+}
+
+/// What a table that is made anew tells of the figures that /proc/PID/io has.
+std::string DiskFigures(pid_t pid) {
+  LinuxProcessTable table;
+  const auto entries = table.Read([](std::int32_t) { return FigureSources{kFromIO}; });
+  const auto entry = std::ranges::find(entries, pid, &ProcessTableEntry::pid);
+  if (entry == entries.end()) return "no process";
+  const auto& figures = table.FiguresOf(*entry);
+  std::string text;
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto figure = static_cast<Figure>(i);
+    if (kFigures[i].origin.source != kFromIO) continue;
+    const auto state = figures.StateOf(figure);
+    text += state == FigureState::kRefused ? "refused "
+            : state != FigureState::kKnown ? "unknown "
+                                           : std::to_string(figures.Get(figure)) + ' ';
+  }
+  return text;
+}
+
+constexpr std::int64_t kWritten = 8 << 20;
+
+/// In the current folder, which is on a disk more likely than a temporary one.
+void WriteToDisk() {
+  const std::string name = "written." + std::to_string(::getpid());
+  const FileDescriptor file(::open(name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600));
+  ::unlink(name.c_str());
+  const std::vector<char> block(1 << 20, 'x');
+  for (std::int64_t written = 0; written < kWritten;) {
+    const auto bytes = ::write(file.Get(), block.data(), block.size());
+    if (bytes <= 0) ::_exit(1);
+    written += bytes;
+  }
+  ::fsync(file.Get());
+}
+
+TEST(LiveProcesses, TellTheirUserWhatTheyHaveReadAndWritten) {
+  const Child writer(WriteToDisk);
+  std::ifstream file("/proc/" + std::to_string(writer.Pid()) + "/io");
+  std::map<std::string, std::int64_t> io;
+  std::string name;
+  for (std::int64_t number = 0; file >> name >> number;) io[name] = number;
+  EXPECT_GE(io["wchar:"], kWritten);
+  std::string expected;
+  for (const std::int64_t number : {io["syscr:"] + io["syscw:"], io["read_bytes:"],
+                                    io["write_bytes:"], io["rchar:"], io["wchar:"]})
+    expected += std::to_string(number) + ' ';
+  EXPECT_EQ(DiskFigures(writer.Pid()), expected);
+}
+
+TEST(LiveProcesses, DoNotTellOthersWhatTheyHaveReadAndWritten) {
+  const Child writer(WriteToDisk);
+  EXPECT_EQ(RunForked([&]() -> std::string {
+              if (::setresgid(61001, 61001, 61001) != 0 || ::setresuid(61001, 61001, 61001) != 0)
+                return "no other user";
+              return DiskFigures(writer.Pid());
+            }),
+            "refused refused refused refused refused ");
+  // Root is told of everybody.
+  const Child other([] {
+    WriteToDisk();
+    if (::setresuid(61001, 61001, 61001) != 0) ::_exit(1);
+  });
+  EXPECT_GE(std::stoll(DiskFigures(other.Pid())), 8) << "calls";
 }
 
 TEST(LiveProcesses, HaveNoUnknownParentsWhereOthersAreHidden) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/MadeUpTree.h"
+#include "platform/ProcessFigures.h"
 #include "platform/ScriptedProc.h"
 #include "platform/linux/LinuxProcessTable.h"
 
@@ -50,6 +51,52 @@ TEST(MadeUpProcTree, ShowsEveryStateAndTheIdleTask) {
   EXPECT_STREQ(entries[8].commandName, "swapper");
   EXPECT_EQ(entries[8].startTime, (TimeValue{1'700'000'000, 0}));
   EXPECT_EQ(table.MaximumPid(), 4'194'304);
+}
+
+/// Figures that no single file of the process has.
+TEST(MadeUpProcTree, AddsUpThreadsAndTellsWhatUnitsCount) {
+  const MadeUpTree tree, units;
+  const auto start = [&](std::int32_t pid, std::int64_t threads, const std::string& unit) {
+    const auto folder = std::to_string(pid) + '/';
+    tree.Write(folder + "stat", StatText{.pid = pid, .threads = threads}.Text());
+    tree.Write(folder + "cgroup", "9:blkio:/other.service\n0::" + unit + "\n");
+  };
+  start(10, 1, "/a.slice/x.service");
+  tree.Write("10/schedstat", "900000000 1500000 3\n");
+  start(11, 4, "/a.slice/x.service");
+  tree.Write("11/schedstat", "5 1000999 1\n");
+  tree.Write("11/task/11/schedstat", "5 1000999 1\n");
+  tree.Write("11/task/12/schedstat", "5 18446744073709551 7\n");
+  // It ends between the listing and its turn.
+  std::filesystem::create_directories(tree.Root() + "/11/task/13");
+  // Out of our sight, and not accounted.
+  start(12, 1, "/../beside");
+  start(13, 1, "/b.slice");
+  const auto count = [&](const char* text) { units.Write("a.slice/x.service/io.stat", text); };
+  count("8:0 rbytes=1000 wbytes=50 rios=1 dbytes=9\n8:16 rbytes=24 wbytes=7\n");
+
+  LinuxProcessTable table(tree.Root(), units.Root());
+  const auto figures = [&] {
+    std::string text;
+    for (const auto& entry : table.Read([](std::int32_t) { return kFromThreads | kFromUnit; })) {
+      const auto& its = table.FiguresOf(entry);
+      text += std::to_string(entry.pid) + ':';
+      for (const auto figure : {FigureCalled("pid_cpu_wait"), FigureCalled("pid_unit_disk_read"),
+                                FigureCalled("pid_unit_disk_written")})
+        text += its.StateOf(figure) == FigureState::kKnown ? ' ' + std::to_string(its.Get(figure))
+                                                           : " none";
+      text += '\n';
+    }
+    return text;
+  };
+  EXPECT_EQ(figures(),
+            "10: 1500 1024 57\n11: 18446744074710 1024 57\n12: none none none\n"
+            "13: none none none\n0: none none none\n");
+  count("");
+  start(10, 1, "/b.slice");
+  EXPECT_EQ(figures(),
+            "10: 1500 none none\n11: 18446744074710 0 0\n12: none none none\n"
+            "13: none none none\n0: none none none\n");
 }
 
 TEST(MadeUpProcTree, IsNotHeldUpByANameThatCannotBeRead) {

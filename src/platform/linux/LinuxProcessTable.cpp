@@ -34,11 +34,13 @@ ProcessTableEntry IdleTask(TimeValue bootTime) {
 
 }  // namespace
 
-LinuxProcessTable::LinuxProcessTable(const std::string& root)
-    : LinuxProcessTable(std::make_shared<ProcFiles>(root)) {}
+LinuxProcessTable::LinuxProcessTable(const std::string& root, const std::string& units)
+    : LinuxProcessTable(std::make_shared<ProcFiles>(root), units) {}
 
-LinuxProcessTable::LinuxProcessTable(std::shared_ptr<ProcFiles> files)
-    : mFiles(std::move(files)), mReader(mFiles, [this] { return GiveBackDescriptors(); }) {
+LinuxProcessTable::LinuxProcessTable(std::shared_ptr<ProcFiles> files, const std::string& units)
+    : mFiles(std::move(files)),
+      mReader(
+          mFiles, [this] { return GiveBackDescriptors(); }, units) {
   SetMaximumPid();
 }
 
@@ -166,8 +168,7 @@ bool LinuxProcessTable::LookAtAll(const Wanted& wanted) {
     mIsUnfinished |= isUnread;
     areAllThere = false;
   }
-  if (count > 0 && (wanted(0) & kFromStat) != 0)
-    mReader.ReadIdleTask(mPass.entries.back(), mPass.known.back());
+  if (count > 0 && wanted(0) != 0) mReader.ReadIdleTask(mPass.entries.back(), mPass.known.back());
   return areAllThere;
 }
 

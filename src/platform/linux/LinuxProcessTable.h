@@ -35,9 +35,9 @@ namespace lurkwell {
 /// a thread of its own and is mostly over within the same pass.
 class LinuxProcessTable final : public ProcessTable {
  public:
-  /// `root` as in ProcFiles.
-  explicit LinuxProcessTable(const std::string& root = "/proc");
-  explicit LinuxProcessTable(std::shared_ptr<ProcFiles> files);
+  /// `root` as in ProcFiles, `units` as in UnitFiles.
+  explicit LinuxProcessTable(const std::string& root = "/proc", const std::string& units = {});
+  explicit LinuxProcessTable(std::shared_ptr<ProcFiles> files, const std::string& units = {});
 
   FigureSources OpenSources() const override { return kAllFigureSources; }
   std::span<const ProcessTableEntry> Read(const Wanted& wanted) override;

@@ -77,12 +77,25 @@ ProcFiles::ProcFiles(const std::string& root)
 bool ProcFiles::List(std::vector<ListedProcess>& processes) {
   processes.clear();
   if (::lseek(mRoot.Get(), 0, SEEK_SET) < 0) return false;
+  return ListFolder(mRoot, processes);
+}
+
+bool ProcFiles::ListFolder(const FileDescriptor& folder, std::vector<ListedProcess>& listed) {
   for (;;) {
-    const auto bytes = ::syscall(SYS_getdents64, mRoot.Get(), mListing.data(),
+    const auto bytes = ::syscall(SYS_getdents64, folder.Get(), mListing.data(),
                                  static_cast<unsigned>(mListing.size()));
     if (bytes <= 0) return bytes == 0;
-    AppendProcesses(std::span(mListing).first(static_cast<std::size_t>(bytes)), processes);
+    AppendProcesses(std::span(mListing).first(static_cast<std::size_t>(bytes)), listed);
   }
+}
+
+bool ProcFiles::ListThreads(int folder, std::vector<std::int32_t>& threads) {
+  threads.clear();
+  mListedThreads.clear();
+  const FileDescriptor tasks(::openat(folder, "task", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!ListFolder(tasks, mListedThreads)) return false;
+  for (const auto& thread : mListedThreads) threads.push_back(thread.pid);
+  return true;
 }
 
 std::optional<std::int32_t> ProcFiles::LastPid() {
@@ -125,7 +138,7 @@ std::ptrdiff_t ProcFiles::Read(int file, std::span<char> buffer) {
 
 std::ptrdiff_t ProcFiles::ReadIn(int folder, const char* name, std::span<char> buffer) {
   const FileDescriptor file(::openat(folder, name, O_RDONLY | O_CLOEXEC));
-  return ::read(file.Get(), buffer.data(), buffer.size());
+  return file.IsOpen() ? ::read(file.Get(), buffer.data(), buffer.size()) : -1;
 }
 
 std::ptrdiff_t ProcFiles::ReadLinkIn(int folder, const char* name, std::span<char> buffer) {

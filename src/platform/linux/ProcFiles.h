@@ -70,14 +70,21 @@ class ProcFiles {
   virtual std::ptrdiff_t ReadIn(int folder, const char* name, std::span<char> buffer);
   virtual std::ptrdiff_t ReadLinkIn(int folder, const char* name, std::span<char> buffer);
 
+  /// Replaces `threads` by those of the process whose folder is open. False when they cannot be
+  /// listed.
+  virtual bool ListThreads(int folder, std::vector<std::int32_t>& threads);
+
   /// A whole file below the root, at most 4 MiB of it; empty on failure.
   virtual std::string ReadText(const char* path);
 
  private:
+  bool ListFolder(const FileDescriptor& folder, std::vector<ListedProcess>& listed);
+
   FileDescriptor mRoot;
   bool mIsKernelTree = false;
   bool mHasOwnPids = false;
   std::vector<char> mListing;
+  std::vector<ListedProcess> mListedThreads;
 };
 
 /// The start, in ticks since boot, of the process that has `pid` now; 0 when there is none or it

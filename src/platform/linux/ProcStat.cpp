@@ -107,6 +107,14 @@ std::optional<std::int64_t> ParseNamedField(std::string_view text, std::string_v
   return std::nullopt;
 }
 
+std::optional<std::int64_t> ParseNthNumber(std::string_view line, std::size_t n) {
+  Fields fields(line);
+  fields.Skip(static_cast<int>(n) - 1);
+  std::uint64_t number = 0;
+  if (!fields.Read(number)) return std::nullopt;
+  return static_cast<std::int64_t>(number);
+}
+
 std::optional<IdleTicks> ParseIdleTicks(std::string_view text) {
   // Two blanks behind the name, then the times of users, nice ones, the system, and idle.
   Fields fields(text);

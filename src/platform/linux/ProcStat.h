@@ -46,6 +46,9 @@ std::optional<ProcStatFields> ParseProcStatFields(const ProcStat& stat);
 /// line.
 std::optional<std::int64_t> ParseNamedField(std::string_view text, std::string_view name);
 
+/// The n-th number of a line, from 1; nothing when there are fewer.
+std::optional<std::int64_t> ParseNthNumber(std::string_view line, std::size_t n);
+
 /// Reads the first line of the machine's own stat file.
 std::optional<IdleTicks> ParseIdleTicks(std::string_view text);
 

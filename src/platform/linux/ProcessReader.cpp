@@ -21,7 +21,8 @@ constexpr std::size_t kMostKeptAtAll = 16'384;
 // A name is looked up in two readings, as the first may fall into the middle of an exec.
 constexpr std::uint8_t kNamings = 2;
 constexpr std::int64_t kFarFuture = 1'000'000'000'000;
-constexpr FigureSource kFiles[] = {kFromStat, kFromStatus, kFromIO};
+constexpr FigureSource kFiles[] = {kFromStat, kFromStatus, kFromIO, kFromThreads, kFromUnit};
+constexpr std::size_t kThreadCountField = 20;
 
 KnownProcess::Reading& ReadingOf(KnownProcess& known, FigureSource source) {
   return known.readings[static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(source)))];
@@ -68,10 +69,12 @@ bool IsShortage(int error) {
   return error == EMFILE || error == ENFILE || error == ENOMEM;
 }
 
-ProcessReader::ProcessReader(std::shared_ptr<ProcFiles> files, std::function<bool()> giveBack)
+ProcessReader::ProcessReader(std::shared_ptr<ProcFiles> files, std::function<bool()> giveBack,
+                             const std::string& units)
     : mFiles(std::move(files)),
       mGiveBack(std::move(giveBack)),
       mNames(mFiles),
+      mUnits(units),
       mTicksPerSecond(std::max(1L, ::sysconf(_SC_CLK_TCK))),
       mPageSize(std::max(1L, ::sysconf(_SC_PAGESIZE))) {
   SetBootTime();
@@ -83,6 +86,7 @@ void ProcessReader::BeginPass() {
   mHaveParentsChanged = false;
   mLostParents.clear();
   mUnnamed.clear();
+  mUnits.BeginPass();
 }
 
 ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProcess& known,
@@ -107,6 +111,7 @@ ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProces
     const auto outcome = Read(entry, known, stale, runTime);
     if (outcome != Outcome::kCurrent) return outcome;
   }
+  if ((sources & kFromUnit) != 0) TakeUnitFigures(entry, known);
   entry.current |= sources;
   return Outcome::kCurrent;
 }
@@ -146,6 +151,14 @@ ProcessReader::Outcome ProcessReader::Read(ProcessTableEntry& entry, KnownProces
     ReadNamed(*folder, kFromIO, "io", known);
     Note(entry, known, kFromIO, runTime);
   }
+  if ((sources & kFromThreads) != 0) {
+    ReadThreads(*folder, (*fields)[kThreadCountField], known);
+    Note(entry, known, kFromThreads, runTime);
+  }
+  if ((sources & kFromUnit) != 0) {
+    ReadUnit(*folder, known);
+    Note(entry, known, kFromUnit, runTime);
+  }
   return Outcome::kCurrent;
 }
 
@@ -163,16 +176,74 @@ void ProcessReader::ReadNamed(const FileDescriptor& folder, FigureSource source,
                               KnownProcess& known) {
   const auto bytes = mFiles->ReadIn(folder.Get(), file, mBuffer);
   const bool isRefused = bytes < 0 && (errno == EACCES || errno == EPERM);
+  // Out of descriptors, say: no word on the figures.
+  if (bytes < 0 && !isRefused && errno != ENOENT) return;
+  const auto why = isRefused ? FigureState::kRefused : FigureState::kUncounted;
   const auto text = BufferText(bytes);
   for (std::size_t i = 0; i < kFigureCount; ++i) {
     const auto figure = static_cast<Figure>(i);
     const auto& origin = kFigures[i].origin;
     if (origin.source != source) continue;
-    if (isRefused) known.figures.SetMissing(figure, FigureState::kRefused);
+    known.figures.SetMissing(figure, why);
     const auto number = ParseNamedField(text, origin.name);
     const auto other = origin.otherName.empty() ? 0 : ParseNamedField(text, origin.otherName);
     if (number && other) known.figures.Set(figure, FigureOf(origin, Sum(*number, *other)));
   }
+}
+
+/// A process of one thread has its figures in a file of its own.
+void ProcessReader::ReadThreads(const FileDescriptor& folder, std::int64_t count,
+                                KnownProcess& known) {
+  constexpr const char* kFile = "schedstat";
+  mThreadSums = {};
+  const auto bytes = mFiles->ReadIn(folder.Get(), kFile, mBuffer);
+  const bool isCounted = bytes > 0;
+  if (count <= 1 && isCounted) AddThread(BufferText(bytes));
+  if (count > 1 && isCounted && mFiles->ListThreads(folder.Get(), mThreads)) {
+    for (const std::int32_t thread : mThreads) {
+      const auto path = "task/" + std::to_string(thread) + '/' + kFile;
+      AddThread(BufferText(mFiles->ReadIn(folder.Get(), path.c_str(), mBuffer)));
+    }
+  }
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto& origin = kFigures[i].origin;
+    if (origin.source != kFromThreads) continue;
+    const auto figure = static_cast<Figure>(i);
+    if (isCounted) {
+      known.figures.Set(figure, FigureOf(origin, mThreadSums[i]));
+    } else {
+      known.figures.SetMissing(figure, FigureState::kUncounted);
+    }
+  }
+}
+
+void ProcessReader::AddThread(std::string_view text) {
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto& origin = kFigures[i].origin;
+    if (origin.source != kFromThreads) continue;
+    const auto line = text.substr(0, text.find('\n'));
+    mThreadSums[i] = Sum(mThreadSums[i], ParseNthNumber(line, origin.field).value_or(0));
+  }
+}
+
+void ProcessReader::ReadUnit(const FileDescriptor& folder, KnownProcess& known) {
+  known.unit = mUnits.Find(BufferText(mFiles->ReadIn(folder.Get(), "cgroup", mBuffer)));
+}
+
+/// Others of the unit may have run.
+void ProcessReader::TakeUnitFigures(ProcessTableEntry& entry, KnownProcess& known) {
+  const auto* figures = known.unit != nullptr ? &mUnits.FiguresOf(*known.unit) : nullptr;
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    if (kFigures[i].origin.source != kFromUnit) continue;
+    const auto figure = static_cast<Figure>(i);
+    const auto state = figures != nullptr ? figures->StateOf(figure) : FigureState::kUncounted;
+    if (state == FigureState::kKnown) {
+      known.figures.Set(figure, figures->Get(figure));
+    } else {
+      known.figures.SetMissing(figure, state);
+    }
+  }
+  entry.read |= kFromUnit;
 }
 
 std::int64_t ProcessReader::FigureOf(const FigureOrigin& origin, std::int64_t number) const {
@@ -180,6 +251,8 @@ std::int64_t ProcessReader::FigureOf(const FigureOrigin& origin, std::int64_t nu
     case SourceUnit::kTicks:
       return number / mTicksPerSecond * 1'000'000 +
              number % mTicksPerSecond * 1'000'000 / mTicksPerSecond;
+    case SourceUnit::kNanoseconds:
+      return number / 1000;
     case SourceUnit::kPages:
       return number * mPageSize;
     case SourceUnit::kStateLetter:
@@ -232,7 +305,12 @@ void ProcessReader::ReadIdleTask(ProcessTableEntry& entry, KnownProcess& known) 
   };
   known.figures.Set(FigureCalled("pid_user_time"), microseconds(ticks->idle));
   known.figures.Set(FigureCalled("pid_system_time"), microseconds(ticks->waiting));
-  entry.known = entry.read = entry.current = kFromStat;
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto figure = static_cast<Figure>(i);
+    if (known.figures.StateOf(figure) == FigureState::kUnread)
+      known.figures.SetMissing(figure, FigureState::kUncounted);
+  }
+  entry.known = entry.read = entry.current = kAllFigureSources;
 }
 
 /// What was read, empty after a failure.

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -16,6 +17,7 @@
 #include "platform/linux/NameReader.h"
 #include "platform/linux/ProcFiles.h"
 #include "platform/linux/ProcStat.h"
+#include "platform/linux/UnitFiles.h"
 
 namespace lurkwell {
 
@@ -36,8 +38,9 @@ struct KnownProcess {
   std::int32_t parentPid = kInvalidPID;
   /// Another process may have the pid by now.
   bool isInDoubt = true;
-  /// Of stat, status and io.
-  std::array<Reading, 3> readings;
+  /// Of stat, status, io, the threads and which group is its unit.
+  std::array<Reading, 5> readings;
+  std::shared_ptr<ControlGroup> unit;
   std::optional<Scheduling> scheduling;
   ProcessFigures figures;
   std::array<char, kKernelNameLength> kernelName{};
@@ -53,7 +56,9 @@ class ProcessReader {
   static constexpr std::int64_t kLongestKept = 10'000;
 
   /// `giveBack` closes some of the kept files and gives false when there are none left.
-  ProcessReader(std::shared_ptr<ProcFiles> files, std::function<bool()> giveBack);
+  /// `units` is where control groups are, see UnitFiles.
+  ProcessReader(std::shared_ptr<ProcFiles> files, std::function<bool()> giveBack,
+                const std::string& units = {});
 
   /// A pass begins.
   void BeginPass();
@@ -94,6 +99,10 @@ class ProcessReader {
   std::optional<FileDescriptor> OpenFolderFor(std::int32_t pid, FigureSources sources);
   void ReadNamed(const FileDescriptor& folder, FigureSource source, const char* file,
                  KnownProcess& known);
+  void ReadThreads(const FileDescriptor& folder, std::int64_t count, KnownProcess& known);
+  void AddThread(std::string_view text);
+  void ReadUnit(const FileDescriptor& folder, KnownProcess& known);
+  void TakeUnitFigures(ProcessTableEntry& entry, KnownProcess& known);
   void Take(const ProcStat& stat, ProcessTableEntry& entry, KnownProcess& known);
   void Name(const ProcStat& stat, KnownProcess& known, bool isSame, ProcessTableEntry& entry);
   void Note(ProcessTableEntry& entry, KnownProcess& known, FigureSource source,
@@ -106,6 +115,7 @@ class ProcessReader {
   const std::shared_ptr<ProcFiles> mFiles;
   const std::function<bool()> mGiveBack;
   NameReader mNames;
+  UnitFiles mUnits;
   TimeValue mBootTime;
   std::int64_t mTicksPerSecond;
   std::int64_t mPageSize;
@@ -115,6 +125,9 @@ class ProcessReader {
   bool mHaveParentsChanged = false;
   std::vector<std::int32_t> mLostParents;
   std::vector<std::int32_t> mUnnamed;
+  std::vector<std::int32_t> mThreads;
+  /// Of the threads that have been read, by the figures' places.
+  std::array<std::int64_t, kFigureCount> mThreadSums{};
   std::array<char, 8192> mBuffer{};
 };
 
