@@ -131,8 +131,8 @@ class FollowedProgram(Desktop):
         self.victim_program = self.home + "/lkwvictim"
         shutil.copy(shutil.which("sleep"), self.victim_program)
 
-    def start_victim(self):
-        victim = subprocess.Popen([self.victim_program, "1000"])
+    def start_victim(self, command=None):
+        victim = subprocess.Popen(command or [self.victim_program, "1000"])
         self.addCleanup(victim.wait)
         self.addCleanup(victim.kill)
         return victim

@@ -46,7 +46,8 @@ class Following(FollowedProgram):
         self.end_victim(again)
         time.sleep(2)
         self.assertEqual(self.places(other.pid), {}, "it did not start just now")
-        third = self.start_victim()
+        # A script may start the program long after its own beginning.
+        third = self.start_victim(["sh", "-c", f"sleep 1.5; exec {self.victim_program} 1000"])
         self.wait_for(lambda: self.places(third.pid) == placed,
                       tell=lambda: f"{placed} {self.windows()}")
 

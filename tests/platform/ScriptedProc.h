@@ -36,6 +36,7 @@ class ScriptedProc final : public ProcFiles {
   std::function<int(std::int32_t pid)> beforeAccess = [](std::int32_t) { return 0; };
 
   bool listingFails = false;
+  int listings = 0;
   std::optional<std::int32_t> lastPid;
   std::int64_t milliseconds = 0;
 
@@ -61,6 +62,7 @@ class ScriptedProc final : public ProcFiles {
   bool NeverBlocks() const override { return true; }
   bool List(std::vector<ListedProcess>& processes) override {
     processes.clear();
+    ++listings;
     if (listingFails) {
       errno = ENOMEM;
       return false;

@@ -33,6 +33,14 @@ class RecordingClient : public ProcessInformationClient {
     return *this;
   }
 
+  /// New processes are all that matters.
+  RecordingClient& WaitsForBirths() {
+    mWaitsForBirths = true;
+    return *this;
+  }
+
+  bool NeedsEnds() override { return !mWaitsForBirths; }
+  bool NeedsRenamings() override { return !mWaitsForBirths; }
   void NotifyPidHasBeenAdded(int pid) override { Tell("added", pid); }
   void NotifyPidHasBeenRemoved(int pid) override {
     Tell("removed", pid);
@@ -76,6 +84,7 @@ class RecordingClient : public ProcessInformationClient {
   std::set<int> mPids;
   bool mAllPids = true;
   bool mEverything = false;
+  bool mWaitsForBirths = false;
 };
 
 }  // namespace lurkwell
