@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unistd.h>
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -26,6 +28,13 @@ class MadeUpProcesses {
   }
   void End(int pid) const {
     std::filesystem::remove_all(mTree.Root() + "/proc/" + std::to_string(pid));
+  }
+  /// As the kernel tells those of its own pid namespace.
+  void TellLastPid(int pid) const {
+    mTree.Write("proc/loadavg", "0.00 0.01 0.05 1/200 " + std::to_string(pid) + '\n');
+    const auto self = mTree.Root() + "/proc/self";
+    std::filesystem::remove(self);
+    std::filesystem::create_symlink(std::to_string(::getpid()), self);
   }
   void WriteEntry(const std::string& id, const std::string& lines) const {
     mTree.Write("applications/" + id + ".desktop", "[Desktop Entry]\nType=Application\n" + lines);

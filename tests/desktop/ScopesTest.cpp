@@ -87,6 +87,20 @@ TEST(Scopes, WithoutAnXServerTheFirstProcessOfAGroupIsTheApplication) {
   processes.End(21);
   EXPECT_TRUE(ComesTrue([&] { return Walk(manager) == std::vector{40, 19}; }));
   EXPECT_FALSE(manager.GetProcessInformation(psn).has_value());
+
+  // Where the kernel tells whether somebody was born, nobody is listed before.
+  processes.TellLastPid(40);
+  EXPECT_EQ(Walk(manager), (std::vector{40, 19}));
+  processes.Write(50, 950, slice + "app-new-4.scope");
+  EXPECT_EQ(Walk(manager), (std::vector{40, 19}));
+  processes.TellLastPid(50);
+  EXPECT_EQ(Walk(manager), (std::vector{40, 19, 50}));
+  // The next of a group takes its first one's place all the same.
+  processes.Write(51, 951, slice + "app-new-4.scope");
+  processes.TellLastPid(51);
+  EXPECT_EQ(Walk(manager), (std::vector{40, 19, 50}));
+  processes.End(50);
+  EXPECT_TRUE(ComesTrue([&] { return Walk(manager) == std::vector{40, 19, 51}; }));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace lurkwell {
 namespace {
 
 constexpr std::chrono::seconds kTimeToSettle{3};
+constexpr std::chrono::seconds kTimeBetweenLooks{1};
 constexpr int kLooksPerRefresh = 32;
 
 /// "\x2d" and the like as the bytes they stand for.
@@ -89,17 +90,36 @@ void ApplicationScopes::Read(Process& process, std::int32_t pid) {
 
 std::vector<ApplicationScopes::Application> ApplicationScopes::Refresh() {
   const auto now = Clock::now();
+  // Asked for before the listing: whoever is born in between counts as not listed.
+  const auto lastPid = mFolder.LastPid();
+  if (!lastPid || lastPid != mLastPid) List(now);
+  mLastPid = lastPid;
+  for (auto& [pid, process] : mProcesses)
+    if (process.settled > now) Read(process, pid);
+  if (mHasLooked && now >= mNextLook) {
+    mNextLook = now + kTimeBetweenLooks;
+    LookAtSomeKnown();
+  }
+  mHasLooked = true;
+  return FirstOfEach();
+}
+
+void ApplicationScopes::NoteEnd(std::int32_t pid) {
+  mProcesses.erase(pid);
+  mLastPid.reset();
+}
+
+/// Those that are new have to settle, and are read as long as they do.
+void ApplicationScopes::List(Clock::time_point now) {
   const auto pids = mFolder.Pids();
   const std::unordered_set<std::int32_t> present(pids.begin(), pids.end());
   std::erase_if(mProcesses, [&](const auto& known) { return !present.contains(known.first); });
   for (const std::int32_t pid : pids) {
     const auto [known, isNew] = mProcesses.try_emplace(pid);
-    if (isNew) known->second.settled = mHasLooked ? now + kTimeToSettle : now;
-    if (isNew || known->second.settled > now) Read(known->second, pid);
+    if (!isNew) continue;
+    known->second.settled = mHasLooked ? now + kTimeToSettle : now;
+    if (!mHasLooked) Read(known->second, pid);
   }
-  if (mHasLooked) LookAtSomeKnown();
-  mHasLooked = true;
-  return FirstOfEach();
 }
 
 /// A pid may have come round between two refreshes, or a process may have been moved late.

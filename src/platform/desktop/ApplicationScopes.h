@@ -26,7 +26,8 @@ std::optional<ApplicationScope> ScopeOfControlGroups(std::string_view text);
 
 /// The applications of a session as the session manager keeps them. Files are read once for each
 /// new process, and again for a while because a process is moved to its group after its start; of
-/// the others a few per refresh, in turn, so that none is wrong for ever. Main thread only.
+/// the others a few per second, in turn, so that none is wrong for ever. Nobody is listed while
+/// nobody was born. Main thread only.
 class ApplicationScopes {
  public:
   struct Application {
@@ -37,8 +38,12 @@ class ApplicationScopes {
 
   explicit ApplicationScopes(const ProcFolder& processes) : mFolder(processes) {}
 
-  /// The present applications, first started first.
+  /// The present applications, first started first; one that has ended since somebody was born
+  /// may be among them.
   std::vector<Application> Refresh();
+
+  /// The process of an application has ended: the next refresh lists.
+  void NoteEnd(std::int32_t pid);
 
   /// The group of a process as of the last refresh; "" for none.
   std::string NameOfScope(std::int32_t pid) const;
@@ -51,12 +56,15 @@ class ApplicationScopes {
     Clock::time_point settled;
   };
 
+  void List(Clock::time_point now);
   void LookAtSomeKnown();
   void Read(Process& process, std::int32_t pid);
   std::vector<Application> FirstOfEach() const;
 
   const ProcFolder& mFolder;
   bool mHasLooked = false;
+  std::optional<std::int32_t> mLastPid;
+  Clock::time_point mNextLook;
   std::unordered_map<std::int32_t, Process> mProcesses;
   /// Who is looked at next, from the back.
   std::vector<std::int32_t> mTurn;

@@ -152,8 +152,10 @@ void DesktopProcessManager::Desktop::TakeScopes() {
     taken.insert(mScopes->NameOfScope(known->process.pid));
   }
   for (const auto& found : present) {
-    if (taken.contains(found.scope.name) || mApplications.FindPid(found.process.pid) != nullptr ||
-        !mProcesses.IsThere(found.process)) {
+    if (taken.contains(found.scope.name) || mApplications.FindPid(found.process.pid) != nullptr)
+      continue;
+    if (!mProcesses.IsThere(found.process)) {
+      mScopes->NoteEnd(found.process.pid);
       continue;
     }
     auto& added = mApplications.Add(found.process);

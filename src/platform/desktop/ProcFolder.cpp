@@ -69,6 +69,18 @@ std::vector<std::int32_t> ProcFolder::Pids() const {
   return pids;
 }
 
+std::optional<std::int32_t> ProcFolder::LastPid() const {
+  std::array<char, 16> self;
+  const auto length = ::readlink((mRoot + "/self").c_str(), self.data(), self.size());
+  if (length <= 0 || WholeNumber<std::int32_t>({self.data(), static_cast<std::size_t>(length)}) !=
+                         static_cast<std::int32_t>(::getpid()))
+    return {};
+  auto text = ReadStart(mRoot + "/loadavg").value_or("");
+  if (!text.ends_with('\n')) return {};
+  text.pop_back();
+  return WholeNumber<std::int32_t>(std::string_view(text).substr(text.rfind(' ') + 1));
+}
+
 std::optional<ProcessIdentity> ProcFolder::Identify(std::int32_t pid) const {
   const auto text = Read(pid, "stat");
   const auto start = StartStampOfStat(text.value_or(""));
