@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that every file includes only its own floor and lower ones.
+"""Checks that every file includes only its own floor and lower ones, and prints through
+platform/Diagnostics.h alone.
 
 check-includes.py ROOT      exit status 1, a line per violation, when a file of ROOT/src does not
 """
@@ -29,6 +30,10 @@ WITHOUT_TOOLKIT = {"platform", "platform/linux", "platform/simulated", "preferen
 
 # Settings by any text for a key; all others name them by the table's.
 UNCHECKED_SETTINGS = "preferences/PreferencesRetrieval.h"
+
+# Lines for people go through one function; what is printed on purpose is data, by the clients for it.
+PRINTING = re.compile(r"\bstd::(printf|puts|putchar|cout)\b|\bf(printf|puts)\(\s*stderr|, stderr\)")
+MAY_PRINT = {"platform/Diagnostics.cpp", "platform/Assertion.cpp"}
 
 
 def folder_of(path):
@@ -73,6 +78,8 @@ def violations(source):
         for number, line in enumerate(path.read_text(errors="replace").splitlines(), 1):
             if TOOLKIT.match(line) and folder in WITHOUT_TOOLKIT:
                 yield f"{file}:{number}: {folder} must link without the toolkit"
+            if PRINTING.search(line) and folder not in PROGRAMS and file not in MAY_PRINT:
+                yield f"{file}:{number}: lines for people go through platform/Diagnostics.h"
             match = INCLUDE.match(line)
             if match is None:
                 continue

@@ -10,6 +10,7 @@ GOOD = {
     "platform/Clock.h": "",
     "platform/linux/LinuxClock.h": '#include "platform/Clock.h"\n',
     "preferences/Store.h": '#include "platform/Clock.h"\n',
+    "preferences/PreferencesRetrieval.h": "",
     "consolidator/Records.h": '#include "process_control/Actions.h"\n',
     "process_control/Actions.h": '#include "consolidator/Records.h"\n#include "preferences/Store.h"\n',
     "app/main.cpp": '#include "platform/linux/LinuxClock.h"\n#include "consolidator/Records.h"\n',
@@ -26,6 +27,9 @@ BAD = {
     "helper/Reaches.cpp": '#include "platform/Clock.h"\n',
     "consolidator/Reaches.cpp": '#include "helper/Request.h"\n',
     "consolidator/Relative.cpp": '#include "Records.h"\n',
+    "consolidator/Prints.cpp": '  std::puts("odd");\n',
+    "app/Prints.cpp": '  std::fprintf(stderr, "odd");\n',
+    "consolidator/Unchecked.cpp": '#include "preferences/PreferencesRetrieval.h"\n',
 }
 
 

@@ -4,7 +4,8 @@
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
 #include <algorithm>
-#include <cstdio>
+
+#include "platform/Diagnostics.h"
 
 namespace lurkwell {
 namespace {
@@ -26,7 +27,7 @@ std::uint32_t Compile(QOpenGLExtraFunctions& gl, GLenum kind, const char* head,
   if (compiled != 0) return shader;
   char log[512] = "";
   gl.glGetShaderInfoLog(shader, sizeof log, nullptr, log);
-  std::fprintf(stderr, "lurkwell: the display's driver refuses a shader: %s\n", log);
+  Diagnose("the display's driver refuses a shader: %s", log);
   gl.glDeleteShader(shader);
   return 0;
 }

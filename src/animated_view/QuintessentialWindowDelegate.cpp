@@ -1,10 +1,10 @@
 #include "animated_view/QuintessentialWindowDelegate.h"
 
-#include <cstdio>
 #include <utility>
 
 #include "animated_view/QuintessentialSupport.h"
 #include "platform/ApplicationQuitting.h"
+#include "platform/Diagnostics.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -57,7 +57,7 @@ void QuintessentialWindowDelegate::unhookConsolidatorIfNecessary() {
 }
 
 void QuintessentialWindowDelegate::windowDidExpose() {
-  std::puts("exposed");
+  DiagnoseVerbatim("exposed");
 }
 
 QSize QuintessentialWindowDelegate::windowWillResize(const QSize& proposed) {
@@ -73,7 +73,7 @@ void QuintessentialWindowDelegate::windowDidResize(const std::function<void()>& 
   if (takeSize) {
     takeSize();
   } else {
-    std::puts("D'oh!");
+    DiagnoseVerbatim("D'oh!");
   }
   gQuintessentialWindowIsBeingResized = false;
 }

@@ -14,6 +14,7 @@
 #include "consolidator/PrintfOutputClient.h"
 #include "consolidator/ProcessInformationFeederPS.h"
 #include "platform/ApplicationQuitting.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
 #include "process_control/DaemonCommunication.h"
@@ -74,8 +75,7 @@ class EndOfPrinting {
     if (std::ferror(mOut) != 0) {
       // A reader that has seen enough is no failure.
       mStatus = errno == EPIPE ? kExitSuccess : kExitFailure;
-      if (mStatus == kExitFailure)
-        std::fprintf(stderr, "lurkwell: cannot write: %s\n", std::strerror(errno));
+      if (mStatus == kExitFailure) Diagnose("cannot write: %s", std::strerror(errno));
       TheMachine().runLoop.Stop();
     }
     if (mCount && --*mCount == 0) TheMachine().runLoop.Stop();
@@ -103,7 +103,7 @@ int RunPrintMode(const CommandLine& commandLine) {
   InitializeProcessInformationConsolidator();
   AwaitPSColumns(kPatienceForColumns);
   if (const auto complaint = ComplaintAboutColumns(commandLine.columns)) {
-    std::fprintf(stderr, "lurkwell: %s\n", complaint->c_str());
+    Diagnose("%s", complaint->c_str());
     DestroyProcessInformationConsolidator();
     return kExitUsage;
   }

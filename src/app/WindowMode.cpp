@@ -8,13 +8,13 @@
 #include <QStyleFactory>
 #include <QThread>
 #include <QTimer>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
 #include "app/SplashScreen.h"
 #include "app/appDelegate.h"
 #include "consolidator/PI_Consolidator.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
 #include "platform/Uuid.h"
@@ -123,7 +123,7 @@ class Photographer : public QObject {
   }
 
   static bool Fail(const std::string& why) {
-    std::fprintf(stderr, "lurkwell: %s\n", why.c_str());
+    Diagnose("%s", why.c_str());
     return false;
   }
 

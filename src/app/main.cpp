@@ -15,6 +15,7 @@
 #include "app/SessionRestart.h"
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/desktop/ClassicProcessManager.h"
 #include "platform/desktop/DBusEventBus.h"
@@ -119,7 +120,7 @@ int ToggleOverlay(int& argc, char** argv) {
   const QCoreApplication application(argc, argv);
   if (RunningInstance(BusAddress()).ToggleOverlay() == RunningInstance::Answer::kDone)
     return kExitSuccess;
-  std::fputs("lurkwell: no running instance answers, so there is no overlay to toggle\n", stderr);
+  Diagnose("no running instance answers, so there is no overlay to toggle");
   return kExitFailure;
 }
 
@@ -127,7 +128,7 @@ int ToggleOverlay(int& argc, char** argv) {
 RunningInstance::Answer AskTheInstance(RunningInstance& instance) {
   const auto answer = instance.BringToFront();
   if (answer == RunningInstance::Answer::kSilent)
-    std::fputs("lurkwell: an instance that is running does not answer; starting another\n", stderr);
+    Diagnose("an instance that is running does not answer; starting another");
   return answer;
 }
 
@@ -153,8 +154,8 @@ bool BecomeTheInstance(RunningInstance& instance) {
 
 int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   if (commandLine.count || !commandLine.columns.empty()) {
-    std::fprintf(stderr, "lurkwell: %s needs --print\nTry 'lurkwell --help'.\n",
-                 commandLine.count ? "--count" : "--columns");
+    Diagnose("%s needs --print\nTry 'lurkwell --help'.",
+             commandLine.count ? "--count" : "--columns");
     return kExitUsage;
   }
   // Qt takes away what it knows of the others.
@@ -188,7 +189,7 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
 int Say(const char* text) {
   errno = 0;
   if (std::fputs(text, stdout) >= 0 && std::fflush(stdout) == 0) return kExitSuccess;
-  std::fprintf(stderr, "lurkwell: cannot write: %s\n", std::strerror(errno));
+  Diagnose("cannot write: %s", std::strerror(errno));
   return kExitFailure;
 }
 
@@ -199,10 +200,9 @@ int Run(const CommandLine& commandLine, int& argc, char** argv) {
   const bool platformIsChosen = platform != nullptr && *platform != '\0';
   if (!platformIsChosen && !IsDisplayReachable()) {
     if (!commandLine.screenshot) {
-      std::fputs(
-          "lurkwell: no display; printing the processes. Start it in a graphical session, or "
-          "with DISPLAY set, to see the window.\n",
-          stderr);
+      Diagnose(
+          "no display; printing the processes. Start it in a graphical session, or "
+          "with DISPLAY set, to see the window.");
       return RunInTerminal(commandLine);
     }
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);

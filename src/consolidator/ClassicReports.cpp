@@ -1,7 +1,6 @@
 #include "consolidator/ClassicReports.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <span>
 #include <utility>
@@ -10,6 +9,7 @@
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/ProcessReports.h"
 #include "platform/ClassicEvents.h"
+#include "platform/Diagnostics.h"
 #include "platform/EventBus.h"
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
@@ -33,8 +33,7 @@ bool IsWelcome(ProcessSerialNumber psn) {
   if (TheMachine().processManager.GetProcessPID(psn)) return false;
   if (gRecords.CountWithoutKernelPid() < kMostClassicApplications) return true;
   if (!std::exchange(hasTold, true))
-    std::fprintf(stderr, "lurkwell: more than %zu Classic applications; others are left out\n",
-                 kMostClassicApplications);
+    Diagnose("more than %zu Classic applications; others are left out", kMostClassicApplications);
   return false;
 }
 
@@ -59,7 +58,7 @@ void ClassicPSNSetupProcessExtractionAppleEvent() {
 void HandleProcessInformationReport(const Event& event) {
   const auto* data = event.Find<std::vector<std::byte>>(classic_events::kRecords);
   if (data == nullptr) {
-    std::printf("Apple Event Handler got an error! %d\n", EventBus::kNoSuchParameter);
+    DiagnoseVerbatim("Apple Event Handler got an error! %d", EventBus::kNoSuchParameter);
     return;
   }
   BeginProcessInformationIteration(kInformationKindClassicPSN);

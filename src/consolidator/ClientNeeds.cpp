@@ -1,7 +1,6 @@
 // What the clients need, taken together.
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <span>
 #include <string_view>
 
@@ -9,6 +8,7 @@
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 
 namespace lurkwell {
 namespace {
@@ -37,7 +37,7 @@ bool AskAlongDerivations(const char* property, const char* complaint, Ask ask) {
   if (name.starts_with("meta_")) {
     const auto* derivation = std::ranges::find(kDerivations, name, &Derivation::derived);
     if (derivation == std::end(kDerivations)) {
-      std::puts(complaint);
+      DiagnoseVerbatim("%s", complaint);
     } else if (std::ranges::any_of(derivation->sources, ask)) {
       return true;
     }
@@ -69,7 +69,7 @@ NeedLevel ProcessInformationClient::AggregateNeedLevels(NeedLevel need1, NeedLev
     Require(IsPropertyLevel(need2), kClientUnit,
             "(need2 >= kNeedNoProcProperties) && (need2 <= kNeedAllProcProperties)");
   } else {
-    std::puts("got to a bad place!!! ProcessInformationClient::AggregateNeedLevels");
+    DiagnoseVerbatim("got to a bad place!!! ProcessInformationClient::AggregateNeedLevels");
     return kNeedNoPids;
   }
   return std::max(need1, need2);

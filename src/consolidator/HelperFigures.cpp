@@ -1,6 +1,5 @@
 #include "consolidator/HelperFigures.h"
 
-#include <cstdio>
 #include <optional>
 #include <variant>
 #include <vector>
@@ -10,6 +9,7 @@
 #include "consolidator/ProcessReports.h"
 #include "consolidator/PropertyNeeds.h"
 #include "consolidator/SourceNeeds.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
@@ -27,7 +27,7 @@ class HelperPass {
 
   void Feed(const ProcessTableEntry& entry) {
     if (entry.pid > mMaximumPid) {
-      std::puts("BAD pid! (?)");
+      DiagnoseVerbatim("BAD pid! (?)");
       return;
     }
     // The pid has passed to another process: its last holder retires in this heartbeat, the new one

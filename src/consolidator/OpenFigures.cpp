@@ -1,11 +1,10 @@
 #include "consolidator/OpenFigures.h"
 
-#include <cstdio>
-
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/SourceNeeds.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
@@ -51,7 +50,7 @@ class OpenPass {
 
   void Feed(const ProcessTableEntry& entry) {
     if (entry.pid > mTable.MaximumPid()) {
-      std::puts("BAD pid! (?)");
+      DiagnoseVerbatim("BAD pid! (?)");
       return;
     }
     if (!NoteStartStamp(entry.pid, entry.startStamp)) {

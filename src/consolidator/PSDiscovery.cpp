@@ -1,7 +1,6 @@
 #include "consolidator/PSDiscovery.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <string_view>
 #include <utility>
 
@@ -9,6 +8,7 @@
 #include "consolidator/ProcessInformationFeederPS.h"
 #include "consolidator/TextScan.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 
 namespace lurkwell {
@@ -101,8 +101,7 @@ void PSDiscovery::TakeHeaders() {
 void PSDiscovery::Fail(TimeValue now) {
   mTools.clear();
   mStage = Stage::kKeywords;
-  std::fprintf(stderr, "lurkwell: ps does not tell its columns; asking again in %d s\n",
-               mRest.Begin(now));
+  Diagnose("ps does not tell its columns; asking again in %d s", mRest.Begin(now));
 }
 
 }  // namespace lurkwell

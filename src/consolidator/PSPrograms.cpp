@@ -1,10 +1,10 @@
 #include "consolidator/PSPrograms.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/PrintableText.h"
 
@@ -44,7 +44,7 @@ void PSPrograms::StartWaiting(TimeValue now) {
     if (run.tool == nullptr) {
       // Others would fare no better. The next heartbeat tries again.
       if (!std::exchange(mSaidNothingStarts, true))
-        std::fputs("lurkwell: ps cannot be started; trying again with each update\n", stderr);
+        Diagnose("ps cannot be started; trying again with each update");
       std::erase_if(mRuns, [this](Run& waiting) {
         if (waiting.tool == nullptr) mEnded.push_back({waiting.header, {}});
         return waiting.tool == nullptr;
@@ -74,8 +74,8 @@ void PSPrograms::NoteEnd(Run& run, TimeValue now) {
     return;
   }
   const int seconds = mRests[run.header].Begin(now);
-  std::fprintf(stderr, "lurkwell: ps did not finish the column %s; asking again in %d s\n",
-               PrintableText(run.header).c_str(), seconds);
+  Diagnose("ps did not finish the column %s; asking again in %d s",
+           PrintableText(run.header).c_str(), seconds);
 }
 
 void PSPrograms::Await(std::chrono::milliseconds limit) {

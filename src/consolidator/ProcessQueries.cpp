@@ -1,12 +1,12 @@
 #include "consolidator/ProcessQueries.h"
 
-#include <cstdio>
 #include <vector>
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 
 namespace lurkwell {
 namespace {
@@ -31,6 +31,7 @@ std::vector<std::int32_t> ValidPids(int kind, std::int32_t argument) {
 }  // namespace
 
 bool PidIsParent(std::int32_t pid, std::int32_t candidate) {
+  const ConsolidatorGuard guard;
   const auto* record = gRecords.GetExistingPIDInformation(pid);
   Require(record != nullptr, kUnit, "mpi");
   return record->pidInfo != nullptr && record->pidInfo->parentPid == candidate;
@@ -39,11 +40,12 @@ bool PidIsParent(std::int32_t pid, std::int32_t candidate) {
 bool PidIsAncestor(std::int32_t pid, std::int32_t candidate) {
   Require(pid != kInvalidPID, kUnit, "pid != kInvalidPID");
   Require(candidate != kInvalidPID, kUnit, "potentialAncestorPid != kInvalidPID");
+  const ConsolidatorGuard guard;
   for (std::size_t depth = 0; depth <= gRecords.Size(); ++depth) {
     const auto* record = gRecords.GetExistingPIDInformation(pid);
     if (record == nullptr) {
-      std::printf("PidIsAncestor problem! pid %d doesn't exist! (potential ancestor %d)\n", pid,
-                  candidate);
+      DiagnoseVerbatim("PidIsAncestor problem! pid %d doesn't exist! (potential ancestor %d)", pid,
+                       candidate);
       Require(false, kUnit, "mpi");
     }
     const std::int32_t parent = ParentOf(*record);
@@ -55,11 +57,13 @@ bool PidIsAncestor(std::int32_t pid, std::int32_t candidate) {
 }
 
 std::int32_t GetPidsKillCount(std::int32_t pid) {
+  const ConsolidatorGuard guard;
   const auto* record = gRecords.GetExistingPIDInformation(pid);
   return record == nullptr ? 0 : record->killCount;
 }
 
 void IncrementPidsKillCount(std::int32_t pid) {
+  const ConsolidatorGuard guard;
   if (auto* record = gRecords.GetExistingPIDInformation(pid)) ++record->killCount;
 }
 

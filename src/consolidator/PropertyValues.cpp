@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,6 +13,7 @@
 #include "consolidator/PropertyRendering.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 
 namespace lurkwell {
 namespace {
@@ -66,7 +66,7 @@ bool RenderProperty(const MetaProcessInformation& record, std::string_view name,
   const CatalogueRow* row = FindBuiltInProperty(name);
   if (name.starts_with("meta_")) {
     if (row != nullptr) return row->render(record, dest);
-    std::printf("unsupported property kind! %.*s\n", static_cast<int>(name.size()), name.data());
+    DiagnoseVerbatim("unsupported property kind! %.*s", static_cast<int>(name.size()), name.data());
     return false;
   }
   if (name.starts_with("pid_")) return RenderPidProperty(record, row, dest);

@@ -1,10 +1,10 @@
 #include "main_window/SystemFigures.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"
 
@@ -18,10 +18,10 @@ constexpr std::int64_t kUsualPageSize = 4096;
 SystemFigures ReadSystemFigures() {
   const auto& host = TheMachine().hostStatistics;
   const auto pageSize = host.PageSize();
-  if (!pageSize) std::puts("didn't get pagesize so defaulting to 4K");
+  if (!pageSize) DiagnoseVerbatim("didn't get pagesize so defaulting to 4K");
   VirtualMemoryStatistics memory;
   const bool isRead = host.ReadVirtualMemory(memory);
-  if (!isRead) std::puts("error: failed to get stats");
+  if (!isRead) DiagnoseVerbatim("error: failed to get stats");
   const auto bytes = [size = pageSize.value_or(kUsualPageSize)](std::int64_t pages) {
     return pages * size;
   };
@@ -42,7 +42,7 @@ double MachineUsage::Take() {
       std::max(0.01, static_cast<double>(MillisecondsBetween(mLastUpdate, now)) / 1000.0);
   const auto idle = ActiveTimeOf(0);
   if (!idle) {
-    std::puts("perhaps the permissions aren't set 'cuz I'm not seeing pid zero.");
+    DiagnoseVerbatim("perhaps the permissions aren't set 'cuz I'm not seeing pid zero.");
     return 0.0;
   }
   if (!AreCPUTimesFresh(0)) return mUsage;

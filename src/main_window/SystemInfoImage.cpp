@@ -1,10 +1,10 @@
 #include "main_window/SystemInfoImage.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "main_window/SystemFigures.h"
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 
 namespace lurkwell {
 namespace {
@@ -34,7 +34,7 @@ int ColumnBehind(double share) {
 void SetPixel(std::uint8_t* rawPixels, int x, int y, Segment segment, const Colour& colour) {
   const int index = (y * kSystemInfoImageWidth + x) * 4;
   const bool isInside = index >= 0 && index < kSystemInfoImageWidth * kSystemInfoImageHeight * 4;
-  if (!isInside) std::printf("%d ==> x == %d; y == %d; index == %d\n", segment, x, y, index);
+  if (!isInside) DiagnoseVerbatim("%d ==> x == %d; y == %d; index == %d", segment, x, y, index);
   Require(isInside, kGaugeUnit,
           "indexIntoPixels >= 0 && indexIntoPixels < kSystemInfoImageWidth * "
           "kSystemInfoImageHeight * 4");

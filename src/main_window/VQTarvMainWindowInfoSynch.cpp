@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <cstring>
 #include <limits>
 
@@ -12,6 +11,7 @@
 #include "main_window/Preferences.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
@@ -172,7 +172,7 @@ void VQTarvMainWindowInfoSynch::RefreshBars() {
 void VQTarvMainWindowInfoSynch::RefreshRow(RowDictionary& row, TimeValue now) {
   const auto glance = GlanceAt(row.Pid());
   if (glance.changeStamp == 0) {
-    std::printf("ACK! %d DOES NOT EXIST OR SOMETHING!!!\n", row.Pid());
+    DiagnoseVerbatim("ACK! %d DOES NOT EXIST OR SOMETHING!!!", row.Pid());
     return;
   }
   // Without a reading the share stays, and the next one is of all the time since the last.

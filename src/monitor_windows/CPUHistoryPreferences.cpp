@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "platform/Diagnostics.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -70,7 +70,7 @@ void ReadFlag(IntegerSetting setting, Reading reading, bool& value) {
 void ReadUseRelative(Reading reading, bool& value) {
   ReadFlag(kUseRelativeKey, reading, value);
   const auto stored = StoredInt(kUseRelativeKey);
-  if (stored && *stored != 0 && *stored != 1) std::puts("XXX SHOULD ONLY BE ONE OR ZERO!");
+  if (stored && *stored != 0 && *stored != 1) DiagnoseVerbatim("XXX SHOULD ONLY BE ONE OR ZERO!");
 }
 
 void ReadAll(CPUHistoryPreferences& preferences, Reading reading) {

@@ -1,7 +1,6 @@
 #include "monitor_windows/ClassicWatchdog.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <limits>
 #include <string_view>
@@ -11,6 +10,7 @@
 #include "platform/Assertion.h"
 #include "platform/Bundle.h"
 #include "platform/ClassicEvents.h"
+#include "platform/Diagnostics.h"
 #include "platform/EventBus.h"
 #include "platform/Machine.h"
 #include "platform/Tools.h"
@@ -138,7 +138,7 @@ void ClassicWatchdog::LaunchNub() {
   if (mLaunch.joinable()) mLaunch.join();
   const std::string path = TheMachine().bundle.Path() + "/Contents/Resources/ClassicProcessInfoNub";
   if (TheMachine().tools.Stat(path) != 0) {
-    std::printf("error %d when looking for ClassicProcessInfoNub!\n", kFileNotFound);
+    DiagnoseVerbatim("error %d when looking for ClassicProcessInfoNub!", kFileNotFound);
     return;
   }
   mLaunchBlock = {path, "--bus", TheMachine().eventBus.Address()};
@@ -152,13 +152,13 @@ void ClassicWatchdog::LaunchNub() {
     gClassicWatchdogState = kClassicNubLaunched;
   } catch (const std::system_error& error) {
     mIsLaunching = false;
-    std::printf("error %d when launching!\n", error.code().value());
+    DiagnoseVerbatim("error %d when launching!", error.code().value());
   }
 }
 
 void ClassicWatchdog::LaunchClassicNubEntryPoint(const std::vector<std::string>& block) {
   if (!TheMachine().tools.StartInBackground(block))
-    std::printf("error %d when launching!\n", kLaunchFailed);
+    DiagnoseVerbatim("error %d when launching!", kLaunchFailed);
 }
 
 void TurnOnClassicNub() {

@@ -9,7 +9,6 @@
 #include <QUiLoader>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
 #include "consolidator/PI_Consolidator.h"
@@ -24,6 +23,7 @@
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
@@ -81,7 +81,7 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   interval = ReadLoggingInterval(somePrefIndex, interval);
   state.millisecondsInterval = interval;
   if (!controller->loadInterface()) {
-    std::fprintf(stderr, "Failed to load LoggingUI.nib\n");
+    DiagnoseVerbatim("Failed to load LoggingUI.nib");
     return nullptr;
   }
   controller->awakeFromNib();

@@ -1,7 +1,6 @@
 #include "monitor_windows/ProcessWatchdog.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <set>
 #include <string_view>
@@ -12,6 +11,7 @@
 #include "consolidator/ProcessQueries.h"
 #include "monitor_windows/FollowedProcess.h"
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 #include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
@@ -133,8 +133,8 @@ void ProcessWatchdog::OpenWindowsOf(int pid, Claim claim) {
 bool ProcessWatchdog::MayOpen() {
   if (mKinds.CountOpenWindows() < MonitorWindowKinds::kMostOpenWindows) return true;
   if (!mHasSaidTooMany)
-    std::fprintf(stderr, "lurkwell: %d windows are open; remembered ones stay closed\n",
-                 MonitorWindowKinds::kMostOpenWindows);
+    Diagnose("%d windows are open; remembered ones stay closed",
+             MonitorWindowKinds::kMostOpenWindows);
   mHasSaidTooMany = true;
   return false;
 }

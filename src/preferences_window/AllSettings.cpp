@@ -8,10 +8,10 @@
 #include <QUiLoader>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cstdio>
 
 #include "main_window/CustomCells.h"
 #include "main_window/FrontmostWindow.h"
+#include "platform/Diagnostics.h"
 #include "preferences_window/SettingTexts.h"
 #include "preferences_window/SettingTitleCell.h"
 #include "resources/Resources.h"
@@ -41,7 +41,7 @@ AllSettings* AllSettings::ShowOver(QWidget& parent) {
   if (window == nullptr) {
     window = new AllSettings(parent);
     if (!window->loadInterface()) {
-      std::fprintf(stderr, "lurkwell: the form %s cannot be loaded\n", kFormPath);
+      Diagnose("the form %s cannot be loaded", kFormPath);
       delete window;
       return nullptr;
     }

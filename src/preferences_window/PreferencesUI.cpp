@@ -10,7 +10,6 @@
 #include <QUiLoader>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 #include <memory>
 #include <utility>
@@ -19,6 +18,7 @@
 #include "main_window/ControllerAssertion.h"
 #include "main_window/FrontmostWindow.h"
 #include "platform/Alerts.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "preferences/Settings.h"
 #include "preferences_window/AllSettings.h"
@@ -56,7 +56,7 @@ void vqPreferencesUI::runWithTab(int tab, const QString& form) {
   auto* controller = new vqPreferencesUI(*window);
   controller->initWithTabShowing(tab);
   if (!controller->loadInterface(form)) {
-    std::fprintf(stderr, "MainWindowCocoa.nib failed to load\n");
+    DiagnoseVerbatim("MainWindowCocoa.nib failed to load");
     window.reset();
     TheMachine().alerts.RunAlertPanel(
         LocalizedString("preferences_form_missing").toStdString(),

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <span>
 #include <utility>
 
 #include "platform/Authorization.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/NamedPipes.h"
 #include "platform/PrintableText.h"
@@ -220,7 +220,7 @@ std::ptrdiff_t DaemonChannelOpening::Receive(std::span<char> answer) {
 }
 
 void DaemonChannelOpening::ReportMissingGreeting() const {
-  if (mReadError != 0) std::printf("read error: %d\n", mReadError);
+  if (mReadError != 0) DiagnoseVerbatim("read error: %d", mReadError);
 }
 
 void DaemonChannelOpening::Take() {

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <span>
 #include <string_view>
 #include <utility>
 
 #include "platform/Bundle.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "preferences/Settings.h"
 #include "process_control/DaemonInstallation.h"
@@ -181,7 +181,7 @@ bool DaemonLaunch::OpeningFailed() {
 }
 
 bool DaemonLaunch::OpenOwnHelper(const std::string& obstacle) {
-  std::fprintf(stderr, "lurkwell: the helper runs with your own rights: %s\n", obstacle.c_str());
+  Diagnose("the helper runs with your own rights: %s", obstacle.c_str());
   mHelperPath = TheMachine().bundle.Path() + kHelperInBundle;
   return ServeUnprivileged("The helper cannot be given rights: " + obstacle, false);
 }
@@ -260,12 +260,12 @@ bool DaemonLaunch::ReplaceCopy() {
   auto obstacle = PutHelperAside(mHelperPath);
   if (obstacle.empty()) obstacle = ObstacleToInstallation();
   if (!obstacle.empty()) {
-    std::fprintf(stderr, "lurkwell: %s\n", obstacle.c_str());
+    Diagnose("%s", obstacle.c_str());
     return false;
   }
-  std::fprintf(stderr, "lurkwell: %s; it is %s%s now, and a fresh copy takes its place\n",
-               TheMachine().authorization.FailureReason().c_str(), mHelperPath.c_str(),
-               kHelperPutAside);
+  Diagnose("%s; it is %s%s now, and a fresh copy takes its place",
+           TheMachine().authorization.FailureReason().c_str(), mHelperPath.c_str(),
+           kHelperPutAside);
   return true;
 }
 
@@ -274,8 +274,7 @@ bool DaemonLaunch::StepFailed() {
   if (machine.authorization.FailureRemedy() == Authorization::Remedy::kFreshCopy && ReplaceCopy())
     return SetPermissions();
   const std::string reason = machine.authorization.FailureReason();
-  if (reason != mSaidReason)
-    std::fprintf(stderr, "lurkwell: the helper gets no rights: %s\n", reason.c_str());
+  if (reason != mSaidReason) Diagnose("the helper gets no rights: %s", reason.c_str());
   mSaidReason = reason;
   const auto remedy = machine.authorization.FailureRemedy();
   if (remedy == Authorization::Remedy::kNone) return ServeUnprivileged(Sentence(reason), false);
@@ -326,8 +325,7 @@ void DaemonLaunch::LeftOutstanding() {
 }
 
 void DaemonLaunch::Lost() {
-  if (!std::exchange(mSaidLost, true))
-    std::fputs("lurkwell: the helper does not answer; starting another\n", stderr);
+  if (!std::exchange(mSaidLost, true)) Diagnose("the helper does not answer; starting another");
   // What an administrator started is gone, and nobody is asked again.
   if (mPurpose == Purpose::kServeWithAuthorization)
     mServed = {DaemonRights::kOwn, "The helper that an administrator started has ended", true};

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 #include "preferences/Settings.h"
 #include "process_control/Unit.h"
 
@@ -115,7 +116,7 @@ void FormatDateString(char* out, std::int32_t maxlen, std::int64_t seconds,
   } else if (format == 2) {
     text = PreciseText({seconds, microseconds}, width);
   } else {
-    if (format != 0) std::printf("BAD preferred date format preference! %d\n", format);
+    if (format != 0) DiagnoseVerbatim("BAD preferred date format preference! %d", format);
     text = CutCalendarText(CalendarText(seconds), width);
   }
   const std::size_t length = std::min(text.size(), static_cast<std::size_t>(maxlen) - 1);

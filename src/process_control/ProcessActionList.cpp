@@ -1,10 +1,10 @@
 #include <algorithm>
-#include <cstdio>
 #include <unordered_map>
 #include <vector>
 
 #include "consolidator/ProcessQueries.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "process_control/ProcessActions.h"
 
@@ -94,7 +94,7 @@ void NoteKernelState(std::int32_t pid, bool isStopped, std::int32_t nice) {
   auto* deeds = FindDeeds(pid);
   if (deeds == nullptr && !isStopped) return;
   if (isStopped && !GetProcessAction(pid, kProcessActionHalt, nullptr)) {
-    std::printf("detected a surreptitiously-halted process %d!\n", pid);
+    DiagnoseVerbatim("detected a surreptitiously-halted process %d!", pid);
     AddProcessAction(pid, kProcessActionHalt, 0);
     deeds = FindDeeds(pid);
   }

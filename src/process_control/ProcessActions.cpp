@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstdio>
 #include <string>
 #include <utility>
 
 #include "consolidator/ProcessQueries.h"
 #include "consolidator/SyntheticPids.h"
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/PrintableText.h"
 #include "platform/ProcessManager.h"
@@ -199,7 +199,7 @@ ActionOutcome ActuallyReniceProcessPID(std::int32_t pid, std::int32_t niceValue)
   Require(niceValue <= 20, kActionsUnit, "niceValue <= 20");
   auto [answer, outcome] =
       AskForAction(pid, "renice " + std::to_string(pid) + " " + std::to_string(niceValue));
-  std::printf("Renice returns %s\n", PrintableText(WithoutNewline(answer)).c_str());
+  DiagnoseVerbatim("Renice returns %s", PrintableText(WithoutNewline(answer)).c_str());
   return outcome;
 }
 
@@ -245,7 +245,7 @@ ActionOutcome SetLowPriority(std::int32_t pid) {
 
 ActionOutcome HaltProcess(std::int32_t pid) {
   const bool isHalted = GetProcessAction(pid, kProcessActionHalt, nullptr);
-  if (isHalted) std::fputs("Not really expecting this pid to be in the halted list\n", stderr);
+  if (isHalted) DiagnoseVerbatim("Not really expecting this pid to be in the halted list");
   auto outcome = HaltProcessPID(pid);
   if (outcome == ActionResult::kDone && !isHalted) AddProcessAction(pid, kProcessActionHalt, 0);
   return outcome;
@@ -253,7 +253,7 @@ ActionOutcome HaltProcess(std::int32_t pid) {
 
 ActionOutcome ContinueProcess(std::int32_t pid) {
   if (!GetProcessAction(pid, kProcessActionHalt, nullptr))
-    std::fputs("unexpected: this pid should be in the halted list\n", stderr);
+    DiagnoseVerbatim("unexpected: this pid should be in the halted list");
   auto outcome = ContProcessPID(pid);
   if (outcome == ActionResult::kDone) RemoveProcessAction(pid, kProcessActionHalt);
   return outcome;

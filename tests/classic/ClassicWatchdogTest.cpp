@@ -122,11 +122,11 @@ TEST_F(ClassicWatchdogTest, AMissingProgramIsSaidAndLookedForAgain) {
   machine.tools.SetMissing(path);
   TurnOn();
   Guest();
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   EXPECT_EQ(Look(), kClassicNubMissing);
   EXPECT_EQ(Look(), kClassicNubMissing);
   std::fflush(stdout);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "error -43 when looking for ClassicProcessInfoNub!\n"
             "error -43 when looking for ClassicProcessInfoNub!\n");
   EXPECT_EQ(Launches(), 0U);
@@ -141,7 +141,7 @@ TEST_F(ClassicWatchdogTest, AStartThatFailsOrHangsHoldsNobodyUp) {
     return false;
   });
   Guest();
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   const auto start = std::chrono::steady_clock::now();
   machine.runLoop.RunFor(20000);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
@@ -149,7 +149,7 @@ TEST_F(ClassicWatchdogTest, AStartThatFailsOrHangsHoldsNobodyUp) {
   mayEnd = true;
   TurnOffClassicNub();
   std::fflush(stdout);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "error -10810 when launching!\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "error -10810 when launching!\n");
 }
 
 TEST_F(ClassicWatchdogTest, ANubThatDiesUnseenIsLaunchedAgainEverMoreRarely) {

@@ -19,10 +19,10 @@ class ClassicReports : public ConsolidatorTest {
   }
   void Report(const Bytes& records) { EXPECT_TRUE(machine.eventBus.Deliver(ReportOf(records))); }
   std::string Output(const std::function<void()>& action) {
-    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
     action();
     std::fflush(stdout);
-    return testing::internal::GetCapturedStdout();
+    return testing::internal::GetCapturedStderr();
   }
 };
 

@@ -19,10 +19,10 @@ TEST_F(ClientsTest, LevelsAggregateWithinTheirFamily) {
                "`\\(need2 >= kNeedNoPids\\) && \\(need2 <= kNeedAllPids\\)'\n$");
   EXPECT_DEATH(Client::AggregateNeedLevels(Client::kNeedAllProcProperties, Client::kNeedAllPids),
                "`\\(need2 >= kNeedNoProcProperties\\) && \\(need2 <= kNeedAllProcProperties\\)'");
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   EXPECT_EQ(Client::AggregateNeedLevels(static_cast<Client::NeedLevel>(6), Client::kNeedAllPids),
             Client::kNeedNoPids);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "got to a bad place!!! ProcessInformationClient::AggregateNeedLevels\n");
 }
 
@@ -49,10 +49,10 @@ TEST_F(ClientsTest, ANeedForADerivedPropertyIsANeedForItsSourcesAndBack) {
     EXPECT_EQ(level(source), 1) << source;
     EXPECT_TRUE(needed(source)) << source;
   }
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   level("meta_kind");
   needed("meta_psn");
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "uh-oh. Unhandled meta type!\n"
             "uh-oh. Unhandled meta type in NeedAnyPidProcProperty!\n");
 }

@@ -183,9 +183,9 @@ TEST_F(FeedersTest, AProcessThatSomebodyElseStoppedIsShownAsHalted) {
   machine.processTable.Stop(50);
   Start();
   Add("client", 1000).Needs({"meta_name"});
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   machine.runLoop.RunFor(3000);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "detected a surreptitiously-halted process 50!\n");
   EXPECT_TRUE(GetProcessAction(50, kProcessActionHalt, nullptr));
   EXPECT_FALSE(GetProcessAction(1, kProcessActionAny, nullptr));
@@ -196,9 +196,9 @@ TEST_F(FeedersTest, APidAboveTheMachinesLimitIsPassedOver) {
   machine.processTable.Birth(65536, "beyond");
   Start();
   Add("client", 1000).Needs({"meta_name"});
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   machine.runLoop.RunFor(1000);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "BAD pid! (?)\nBAD pid! (?)\n")
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "BAD pid! (?)\nBAD pid! (?)\n")
       << "in both beats";
   EXPECT_EQ(Value(65535, "meta_name"), "last");
   EXPECT_EQ(Value(65536, "meta_name"), "[]");

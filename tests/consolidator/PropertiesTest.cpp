@@ -263,9 +263,9 @@ TEST_F(PropertiesTest, ShortBuffersGiveNoValueRatherThanHalfOfOne) {
   Report(77, "pid_parent_pid", "4194304");
   EXPECT_EQ(Value(77, "pid_parent_pid", 6), "()") << "does not fit, although the buffer is allowed";
   EXPECT_EQ(Value(78, "meta_pid"), "[]");
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   EXPECT_EQ(Value(77, "meta_nonsense"), "()");
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "unsupported property kind! meta_nonsense\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "unsupported property kind! meta_nonsense\n");
 }
 
 TEST_F(PropertiesTest, ReportedTextsAreReadTheWayTheirPropertiesWant) {

@@ -157,9 +157,9 @@ TEST_F(GaugesTest, WhatTheMachineDoesNotTellIsPrintedAndSurvived) {
   Open();
   machine.hostStatistics.pageSize.reset();
   machine.hostStatistics.virtualMemory.reset();
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   Turn();
-  const auto printed = testing::internal::GetCapturedStdout();
+  const auto printed = testing::internal::GetCapturedStderr();
   EXPECT_NE(printed.find("didn't get pagesize so defaulting to 4K\n"), std::string::npos);
   EXPECT_NE(printed.find("error: failed to get stats\n"), std::string::npos);
   EXPECT_EQ(PixelsOf(kToolbarMemory, 0xffaaaaaa), 0) << "nothing is known to be free";

@@ -37,9 +37,9 @@ TEST_F(SystemWideInfoTest, ShowsMemoryUsageAndPageoutsAndKeepsItsPlace) {
   EXPECT_EQ(info.UsageLine(), QLatin1String("cpu usage: -50.00  ")) << "not bounded";
   host.pageSize.reset();
   host.virtualMemory.reset();
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   machine.runLoop.RunFor(1000);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "didn't get pagesize so defaulting to 4K\nerror: failed to get stats\n");
   EXPECT_EQ(info.MemoryLine(), QLatin1String("MB used: 2048/2048   "));
   EXPECT_EQ(info.ContentBounds(), (WindowRect{100, 300, 290, 350}));

@@ -162,10 +162,10 @@ TEST_F(ActionsTest, BadgesFollowTheProcessAndTheKernel) {
   EXPECT_EQ(badge(77), "process_niced_low");
   EXPECT_TRUE(GetProcessAction(77, kProcessActionHalt, nullptr));
   EXPECT_EQ(badge(77, 20'000), "");
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   machine.processTable.Stop(78);
   EXPECT_EQ(badge(78), "process_halted");
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "detected a surreptitiously-halted process 78!\n");
 }
 
@@ -212,15 +212,15 @@ TEST_F(ActionsTest, TheFirstProcessesAreLeftAlone) {
     EXPECT_EQ(Killed(pid, 4), "");
     HaltProcessPID(pid);
     ContProcessPID(pid);
-    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
     ReniceProcessPID(pid, 20);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Renice returns \n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Renice returns \n");
     EXPECT_EQ(Log(), "");
   }
 }
 
 TEST_F(ActionsTest, PrioritiesAreRequestedAndRemembered) {
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   SetHighPriority(kFaceless);
   EXPECT_STREQ(ProcessIndicatorImageName(kFaceless), "process_niced_high");
   SetLowPriority(kFaceless);
@@ -233,7 +233,7 @@ TEST_F(ActionsTest, PrioritiesAreRequestedAndRemembered) {
   ReniceProcessPID(kFaceless, -20);
   AnswerActionsWith("!Error refused");
   ReniceProcessPID(kFaceless, 20);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "Renice returns done\nRenice returns done\nRenice returns done\n"
             "Renice returns \\033[2J is dangerous\nRenice returns \n");
   EXPECT_DEATH(ReniceProcessPID(kFaceless, -21),

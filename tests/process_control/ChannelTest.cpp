@@ -73,12 +73,12 @@ TEST_F(ChannelTest, AHelperThatDoesNotComeLeavesNothingBehind) {
   SetHelperUnprivileged(true);
   for (const auto behaviour : {Behaviour::kDoesNotOpen, Behaviour::kDoesNotGreet}) {
     machine.namedPipes.SetBehaviour(behaviour);
-    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
     LaunchHelperDaemon();
     EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kStarting);
     machine.runLoop.RunFor(5500);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              behaviour == Behaviour::kDoesNotGreet ? "read error: 110\n" : "");
+    const auto said = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(said.starts_with("read error: 110\n"), behaviour == Behaviour::kDoesNotGreet) << said;
     EXPECT_EQ(QuitHelperDaemon(), -1);
     EXPECT_EQ(machine.namedPipes.OpenCount(), 0u);
     EXPECT_EQ(machine.namedPipes.NameCount(), 0u);

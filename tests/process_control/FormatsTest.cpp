@@ -139,9 +139,9 @@ TEST_F(FormatsTest, DatesAsNumbers) {
   EXPECT_EQ(Date(1234567890, 0, 7), "1234567890.000007");
   EXPECT_EQ(Date(1234567890, 4), "1234567890") << "a part of it would be another time";
   PreferDate(7);
-  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
   EXPECT_EQ(Date(0, 8).size(), 8u);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "BAD preferred date format preference! 7\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "BAD preferred date format preference! 7\n");
 }
 
 TEST_F(FormatsTest, TooSmallBuffersAreErrors) {

@@ -2,8 +2,8 @@
 
 #include <QDBusMessage>
 #include <algorithm>
-#include <cstdio>
 
+#include "platform/Diagnostics.h"
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/EventMessage.h"
 
@@ -66,7 +66,7 @@ EventBus::Status DBusEventBus::Send(const EventAddress& address, const Event& ev
 
 void DBusEventBus::InstallEventHandler(FourCharCode eventClass, FourCharCode id, Handler handler) {
   if (!mBus.isConnected() && mHandlers.empty())
-    std::fputs("lurkwell: no session bus, so no events from other programs\n", stderr);
+    Diagnose("no session bus, so no events from other programs");
   mHandlers[{eventClass, id}] = std::move(handler);
 }
 
@@ -100,7 +100,7 @@ void DBusEventBus::HandleFrom(const QDBusMessage& message, bool isOurs) {
 void DBusEventBus::Drop(const char* why) {
   ++mDropped;
   if (std::exchange(mHasToldOfDrops, true)) return;
-  std::fprintf(stderr, "lurkwell: dropped an event (%s); further ones are dropped silently\n", why);
+  Diagnose("dropped an event (%s); further ones are dropped silently", why);
 }
 
 /// A second's worth may come at once.

@@ -2,10 +2,10 @@
 
 #include <QGuiApplication>
 #include <cctype>
-#include <cstdio>
 #include <string>
 #include <utility>
 
+#include "platform/Diagnostics.h"
 #include "platform/desktop/GlobalShortcutsPortal.h"
 #include "platform/desktop/KeyCodes.h"
 #include "platform/desktop/XKeyGrabs.h"
@@ -49,7 +49,7 @@ std::string ServerNameOf(std::uint32_t symbol, bool withSuper) {
 }
 
 void Complain(const std::string& key, const std::string& reason) {
-  std::fprintf(stderr, "lurkwell: no hot key %s: %s\n", key.c_str(), reason.c_str());
+  Diagnose("no hot key %s: %s", key.c_str(), reason.c_str());
 }
 
 }  // namespace

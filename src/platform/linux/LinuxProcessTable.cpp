@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <string_view>
 #include <utility>
 
+#include "platform/Diagnostics.h"
 #include "platform/linux/ParentClosure.h"
 #include "platform/linux/ProcStat.h"
 
@@ -100,7 +100,7 @@ std::span<const ProcessTableEntry> LinuxProcessTable::LastPassAgain() {
   const int error = errno;
   mLastPid.reset();
   if (mPass.entries.empty() || ++mFailures <= kMostFailures) return mPass.entries;
-  std::fprintf(stderr, "lurkwell: the processes cannot be listed: %s\n", std::strerror(error));
+  Diagnose("the processes cannot be listed: %s", std::strerror(error));
   for (auto& known : mPass.known) mReader.Forget(known);
   mPass = {};
   return {};

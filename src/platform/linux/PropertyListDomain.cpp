@@ -5,10 +5,10 @@
 
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
+#include "platform/Diagnostics.h"
 #include "platform/linux/PropertyListScan.h"
 
 namespace lurkwell {
@@ -217,7 +217,7 @@ void PropertyListDomain::Complain(const char* what, const FileFault& fault) {
 }
 
 void PropertyListDomain::Say(const std::string& complaint) {
-  std::fprintf(stderr, "Lurkwell: %s\n", complaint.c_str());
+  Diagnose("%s", complaint.c_str());
   mComplaint += (mComplaint.empty() ? "" : "; ") + complaint;
 }
 

@@ -1,6 +1,6 @@
 #include "platform/linux/TerminalAlerts.h"
 
-#include <cstdio>
+#include "platform/Diagnostics.h"
 
 namespace lurkwell {
 
@@ -25,7 +25,7 @@ void TerminalAlerts::Print(const std::string& title, const std::string& message,
   if (message.find_first_not_of(' ') != std::string::npos) text += " " + message;
   if (!mPrinted.insert(text).second) return;
   if (!otherButton.empty()) text += " (" + otherButton + ")";
-  std::fprintf(stderr, "%s\n", text.c_str());
+  DiagnoseVerbatim("%s", text.c_str());
 }
 
 }  // namespace lurkwell
