@@ -7,6 +7,7 @@
 #include "animated_view/QuintessentialInformationProcessInfo.h"
 #include "animated_view/RandomSource.h"
 #include "consolidator/ProcessInformationClient.h"
+#include "consolidator/WholeNames.h"
 
 namespace lurkwell {
 
@@ -78,6 +79,9 @@ class QuintessentialInformationClient final : public ProcessInformationClient {
   /// Moves the records and has the current view drawn.
   void InternalDraw();
 
+  /// Makes the labels anew, as for another scale; who calls has seen to their textures.
+  void MakeLabelsAnew();
+
   QipiList& qipiList() { return mQipiList; }
   const QuintessentialDrawingSettings& DrawingSettings() const { return mDrawing; }
   /// Milliseconds from the beginning of one frame to that of the next.
@@ -104,6 +108,9 @@ class QuintessentialInformationClient final : public ProcessInformationClient {
 
   /// Gives the new records that are ready to be shown places and names.
   void PlaceNewRecords(QipiList& ready);
+  /// Gives a record that has no name yet the one of its process.
+  void NameIfNameless(Info& info);
+  void LearnNames();
   void StabilizeOnce();
   /// Takes over what the preferences say now. Inside the mutex.
   void ReadSettings();
@@ -116,6 +123,7 @@ class QuintessentialInformationClient final : public ProcessInformationClient {
   QipiList mQipiList;
   /// Main thread only.
   QipiList mNewQipiList;
+  NamesToLearn mNames;
   QuintessentialHelperCPUWatcher* mWatcher = nullptr;
   QuintessentialDrawingSettings mDrawing;
   AnimationIntervals mIntervals;

@@ -11,6 +11,7 @@
 #include "animated_view/QuintessentialLayout.h"
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PropertyValues.h"
+#include "consolidator/WholeNames.h"
 #include "platform/PrintableText.h"
 #include "preferences/Settings.h"
 
@@ -41,18 +42,12 @@ void ReleaseTextures(Info& info) {
 }
 
 void MakeLabel(Info& info) {
+  const auto whole = WholeNameOf(info.pid);
   // Names come from outside.
-  info.labelImage = gQuintessentialHost != nullptr
-                        ? gQuintessentialHost->LabelImage(PrintableText(info.name))
-                        : nullptr;
-}
-
-/// Gives a record that has no name yet the one of its process.
-void NameIfNameless(Info& info) {
-  if (info.name[0] != '\0' || !ReadName(info)) return;
-  if (info.labelTexture != 0) ReleaseTextures(info);
-  info.texturesReady = false;
-  MakeLabel(info);
+  info.labelImage =
+      gQuintessentialHost != nullptr
+          ? gQuintessentialHost->LabelImage(PrintableText(whole.empty() ? info.name : whole))
+          : nullptr;
 }
 
 }  // namespace
@@ -90,6 +85,7 @@ void QuintessentialInformationClient::NotifyPidHasChangedAppreciably(int pid) {
   mQipiList.ForEach(pid, [this](Info& info) {
     // Nameless, the first record asks for its name again in the coming update.
     if (!ReadName(info)) mQipiList.front().name[0] = '\0';
+    mNames.Add(info.pid);
     ReleaseTextures(info);
     TakeIcon(info);
     MakeLabel(info);
@@ -100,10 +96,41 @@ void QuintessentialInformationClient::NotifyProcessesHaveBeenUpdated() {
   if (!gQuintessentialViewIsCurrentlyShown) return;
   QipiList ready;
   if (!mNewQipiList.empty()) PlaceNewRecords(ready);
+  {
+    const Guard guard(gQuintessentialMutex);
+    for (auto record = ready.begin(); record != ready.end();)
+      record = mQipiList.Take(ready, record);
+    for (auto& info : mQipiList) NameIfNameless(info);
+    StabilizeOnce();
+  }
+  // The machine is waited for outside the mutex, so that the drawing goes on.
+  LearnNames();
+}
+
+void QuintessentialInformationClient::NameIfNameless(Info& info) {
+  if (info.name[0] != '\0' || !ReadName(info)) return;
+  mNames.Add(info.pid);
+  if (info.labelTexture != 0) ReleaseTextures(info);
+  info.texturesReady = false;
+  MakeLabel(info);
+}
+
+void QuintessentialInformationClient::LearnNames() {
+  const auto pids = mNames.LearnSome();
+  if (pids.empty()) return;
   const Guard guard(gQuintessentialMutex);
-  for (auto record = ready.begin(); record != ready.end();) record = mQipiList.Take(ready, record);
-  for (auto& info : mQipiList) NameIfNameless(info);
-  StabilizeOnce();
+  for (const auto pid : pids)
+    mQipiList.ForEach(pid, [](Info& info) {
+      ReleaseTextures(info);
+      MakeLabel(info);
+    });
+}
+
+void QuintessentialInformationClient::MakeLabelsAnew() {
+  for (auto& info : mQipiList) {
+    info.texturesReady = false;
+    MakeLabel(info);
+  }
 }
 
 void QuintessentialInformationClient::PlaceNewRecords(QipiList& ready) {

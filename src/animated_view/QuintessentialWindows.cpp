@@ -172,11 +172,8 @@ void QuintessentialWindows::UsePixelRatio(double ratio) {
   mLabels.clear();
   mDrawing.renderer.SetLabelHeight(LabelHeight(ratio));
   if (gQuintessentialInformationClient == nullptr) return;
-  for (auto& info : gQuintessentialInformationClient->qipiList()) {
-    info.labelTexture = 0;
-    info.labelImage = LabelImage(info.name);
-    info.texturesReady = false;
-  }
+  for (auto& info : gQuintessentialInformationClient->qipiList()) info.labelTexture = 0;
+  gQuintessentialInformationClient->MakeLabelsAnew();
 }
 
 // ---- What the engine asks -----------------------------------------------------------------------

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/CommandLine.h"
+#include "app/DataOutput.h"
 #include "app/PrintMode.h"
 #include "app/SessionRestart.h"
 #include "app/WindowMode.h"
@@ -167,6 +168,8 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   auto withoutDisplay = std::make_unique<WithoutDisplayInstead>(arguments.data());
   QApplication application(argc, argv);
   withoutDisplay.reset();
+  // There are no data here, whatever standard output leads to.
+  const DataOutput output;
   // Qt takes the user's language for texts; numbers are read and written with a point.
   std::setlocale(LC_NUMERIC, "C");
   const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot;

@@ -1,5 +1,8 @@
 #include "consolidator/WholeNames.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/TextScan.h"
 #include "platform/Machine.h"
@@ -54,6 +57,19 @@ void LearnWholeNames(std::span<const std::int32_t> pids) {
   }
   for (const auto pid : pids)
     if (MayNameGoOn(pid)) LeaveAsItIs(*gRecords.GetExistingPIDInformation(pid));
+}
+
+void NamesToLearn::Add(std::int32_t pid) {
+  if (MayNameGoOn(pid)) mPids.push_back(pid);
+}
+
+std::vector<std::int32_t> NamesToLearn::LearnSome() {
+  constexpr std::size_t kMostAtOnce = 200;
+  const auto first = mPids.size() - std::min(mPids.size(), kMostAtOnce);
+  std::vector<std::int32_t> pids(mPids.begin() + static_cast<std::ptrdiff_t>(first), mPids.end());
+  mPids.resize(first);
+  if (!pids.empty()) LearnWholeNames(pids);
+  return pids;
 }
 
 std::string_view CompletedName(std::string_view name, std::string_view commandLine) {

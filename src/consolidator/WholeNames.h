@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lurkwell {
 
@@ -21,6 +22,19 @@ bool MayNameGoOn(std::int32_t pid);
 /// Finds the names of several processes out. Asks the machine once for all of them and waits for it
 /// half a second at most; names that it does not tell stay as they are.
 void LearnWholeNames(std::span<const std::int32_t> pids);
+
+/// Processes whose names are to be found out by and by: a turn has an end however many are born at
+/// once. Main thread only.
+class NamesToLearn {
+ public:
+  /// Notes a process if its name may go on.
+  void Add(std::int32_t pid);
+  /// Finds some of the names out, of the latest ones first, and says whose.
+  std::vector<std::int32_t> LearnSome();
+
+ private:
+  std::vector<std::int32_t> mPids;
+};
 
 /// What a name that was cut goes on with in a command line: the rest of the first of its words'
 /// last components that begins with the name. The name itself when there is none. Pure.

@@ -138,7 +138,7 @@ void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyI
   }
   if (type == kPropertyTypeDate && pid < 0) return;
   if (key == kMetaName) {
-    if (MayNameGoOn(pid)) mNamesToLearn.push_back(pid);
+    mNamesToLearn.Add(pid);
     Set(row, key, WholeNameOf(pid));
     return;
   }
@@ -183,15 +183,7 @@ void VQTarvMainWindowInfoSynch::RefreshRow(RowDictionary& row, TimeValue now) {
 }
 
 void VQTarvMainWindowInfoSynch::LearnNames() {
-  // However many are born at once, a turn has an end.
-  constexpr std::size_t kMostAtOnce = 200;
-  const auto first = mNamesToLearn.size() - std::min(mNamesToLearn.size(), kMostAtOnce);
-  const std::vector<std::int32_t> pids(mNamesToLearn.begin() + static_cast<std::ptrdiff_t>(first),
-                                       mNamesToLearn.end());
-  if (pids.empty()) return;
-  mNamesToLearn.resize(first);
-  LearnWholeNames(pids);
-  for (const auto pid : pids)
+  for (const auto pid : mNamesToLearn.LearnSome())
     if (auto* row = mOwner.rows().Find(pid)) Set(*row, kMetaName, WholeNameOf(pid));
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "consolidator/WholeNames.h"
 #include "main_window/RowDictionary.h"
 #include "main_window/SystemFigures.h"
 #include "platform/RunLoop.h"
@@ -112,7 +113,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   /// A hexadecimal property was asked for; they are not shown, and the user hears it once a turn.
   bool mHexadecimalWasMet = false;
   /// Whose names may go on; those that came last are the first.
-  std::vector<std::int32_t> mNamesToLearn;
+  NamesToLearn mNamesToLearn;
   /// The value that the rows are sorted by; see Set.
   KeyId mSortedBy = kNoKey;
 

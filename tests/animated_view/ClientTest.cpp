@@ -193,6 +193,15 @@ TEST_F(AnimatedClient, ChangesAreTakenOver) {
   machine.processTable.Find(100)->SetName("gnp\xe2\x80\xae.exe");
   machine.runLoop.RunFor(500);
   EXPECT_EQ(info.labelImage->width, static_cast<int>(std::strlen("gnp\\xe2\\x80\\xae.exe")));
+  machine.processTable.Find(100)->commandLine = "/usr/libexec/desktop-portal-gtk --replace";
+  machine.processTable.Find(100)->SetName("desktop-portal-g");
+  machine.runLoop.RunFor(500);
+  EXPECT_EQ(info.labelImage->width, static_cast<int>(std::strlen("desktop-portal-gtk")));
+  {
+    const CriticalRegion::Guard guard(gQuintessentialMutex);
+    client->MakeLabelsAnew();
+  }
+  EXPECT_EQ(info.labelImage->width, static_cast<int>(std::strlen("desktop-portal-gtk")));
   info.iconTexture = info.labelTexture = 7;
   info.texturesReady = true;
   machine.processTable.Find(100)->SetName("afterwards");

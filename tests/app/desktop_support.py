@@ -148,8 +148,9 @@ class FollowedProgram(Desktop):
 
     def end_program(self, program):
         program.send_signal(signal.SIGTERM)
-        _, errors = program.communicate(timeout=20)
+        output, errors = program.communicate(timeout=20)
         self.assertEqual(program.returncode, 0, errors)
+        self.assertEqual(output, "", "that is for data")
         return errors
 
     def places(self, pid):
