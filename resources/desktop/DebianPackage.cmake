@@ -36,7 +36,7 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # ps and kill, while renice is essential; what reads SVG pictures, which early packages of the library had.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "procps, qt6-svg-plugins | libqt6svg6 (<< 6.6)")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pkexec | policykit-1")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pkexec")
 lurkwell_maintainer_scripts(${CMAKE_INSTALL_PREFIX} ${CMAKE_CURRENT_BINARY_DIR}/package)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/package/preinst
   ${CMAKE_CURRENT_BINARY_DIR}/package/postrm)

@@ -55,7 +55,7 @@ TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
   EXPECT_EQ(after.st_uid, 0u);
   EXPECT_EQ(after.st_gid, kUser);
   EXPECT_EQ(after.st_mode, mode_t{S_IFREG | 04750});
-  EXPECT_EQ(ReadAll(home.copy), ReadAll(HelperPath()));
+  EXPECT_TRUE(ReadAll(home.copy) == ReadAll(HelperPath()));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path), {}), 1);
   HelperProcess helper(kUser, home.copy);
   EXPECT_EQ(helper.Ask("geteuid"), "0");
@@ -219,7 +219,7 @@ TEST(InstallTest, AFileHeldOpenBeforeTheStepNeverBecomesTheHelper) {
     ASSERT_EQ(pwrite(file, "evil", 4, 5000), 4);
     munmap(mapping, 4096);
     close(file);
-    ASSERT_EQ(ReadAll(home.copy), bytes);
+    ASSERT_TRUE(ReadAll(home.copy) == bytes);
     ASSERT_EQ(home.Info().st_mode & 07777, mode_t{04750});
   }
 }
@@ -260,8 +260,8 @@ std::string HexDigest(const std::string& path) {
 class PackagedTest : public ::testing::Test {
  protected:
   static constexpr char kFolder[] = LURKWELL_TEST_PACKAGE;
-  const std::string mProgram = LURKWELL_TEST_PACKAGED_HELPER;
-  const std::string mStep = LURKWELL_TEST_PACKAGED_STEP;
+  const std::string mProgram = std::string(kFolder) + "/Lurkwell_helper";
+  const std::string mStep = std::string(kFolder) + "/Lurkwell_permissions";
   const std::string mList = std::string(kFolder) + "/helper-digests";
   const std::string mReplaced = std::string(kFolder) + "/replaced-helpers";
   const std::string mOther = std::string(64, 'a') + '\n';
@@ -269,6 +269,9 @@ class PackagedTest : public ::testing::Test {
   void SetUp() override {
     ASSERT_EQ(unshare(CLONE_NEWNS), 0);
     Shell(std::string("mount --make-rprivate / && mount -t tmpfs -o mode=755 none ") + kFolder);
+    // Root's, whoever has built them.
+    Install(LURKWELL_TEST_PACKAGED_HELPER, mProgram, 0, 0, 0755);
+    Install(LURKWELL_TEST_PACKAGED_STEP, mStep, 0, 0, 0755);
     WriteList(mOther + HexDigest(mProgram) + '\n');
   }
 
@@ -328,7 +331,7 @@ TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
     WriteAll(home.copy, "an older version");
     WriteList(HexDigest(mProgram) + '\n' + mark + HexDigest(home.copy) + '\n');
     EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
-    EXPECT_EQ(ReadAll(home.copy), ReadAll(mProgram));
+    EXPECT_TRUE(ReadAll(home.copy) == ReadAll(mProgram));
   }
   // A version that served is withdrawn: it serves no more, but a new one takes its place.
   WriteAll(home.copy, ReadAll(mProgram) + "older");
