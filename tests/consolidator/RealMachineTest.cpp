@@ -1,16 +1,23 @@
 // The engine on this machine's processes and its ps; only time is simulated.
+#include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
-#include <atomic>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <memory>
+#include <random>
 #include <set>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -269,38 +276,81 @@ TEST_F(ScriptedMachineTest, ABeatForBirthsAloneIsNoListingWhereTheKernelTellsOfN
   EXPECT_GE(proc->listings, 2);
 }
 
+/// A number of the environment, for a run that is to last longer.
+int FromEnvironment(const char* name, int usual) {
+  const char* text = getenv(name);
+  return text != nullptr ? std::stoi(text) : usual;
+}
+
+double ResidentMiB() {
+  long pages = 0, resident = 0;
+  std::ifstream("/proc/self/statm") >> pages >> resident;
+  return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
+}
+
+/// Bears so many children, 2,000 a second, and ends when all of them have ended: each lives for a
+/// moment, and one of ten becomes another program.
+[[noreturn]] void BearChildren(int count) {
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
+  auto next = std::chrono::steady_clock::now();
+  for (int i = 0; i < count; ++i) {
+    std::this_thread::sleep_until(next += std::chrono::microseconds(500));
+    while (waitpid(-1, nullptr, WNOHANG) > 0) {
+    }
+    if (fork() != 0) continue;
+    if (i % 10 == 0) execlp("true", "true", nullptr);
+    std::this_thread::sleep_for(std::chrono::milliseconds(i % 4));
+    _exit(0);
+  }
+  while (wait(nullptr) > 0) {
+  }
+  _exit(0);
+}
+
+/// With LURKWELL_BIRTHS=120000 for a minute. Every process that is announced leaves again, and with
+/// it what it took.
 TEST_F(RealMachineTest, ShortLivedChildrenAreAnnouncedOnceOrNotAtAll) {
+  const int births = FromEnvironment("LURKWELL_BIRTHS", 2000);
   Start();
   Add("client", 20).Needs({"pid_p_comm"});
   machine.runLoop.RunFor(20);
-  std::atomic<bool> done{false};
-  std::thread mother([&] {
-    for (int i = 0; i < 2000; ++i) {
-      Child child({"true"});
-      child.Wait();
-    }
-    done = true;
-  });
-  std::map<std::string, bool> alive;
+  std::set<std::string> alive;
+  std::size_t announced = 0;
   const auto follow = [&] {
     for (const auto& line : told.Lines()) {
       if (line.starts_with("client added ")) {
-        EXPECT_FALSE(std::exchange(alive[line.substr(13)], true)) << line;
+        EXPECT_TRUE(alive.insert(line.substr(13)).second) << line;
+        ++announced;
       } else if (line.starts_with("client removed ")) {
-        EXPECT_TRUE(std::exchange(alive[line.substr(15)], false)) << line;
+        EXPECT_EQ(alive.erase(line.substr(15)), 1U) << line;
       }
     }
     told.Clear();
   };
-  while (!done) {
+  follow();
+  const auto there = alive.size();
+  const pid_t mother = fork();
+  if (mother == 0) BearChildren(births);
+  const auto took = [begun = std::chrono::steady_clock::now()] {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
+  };
+  double before = 0;
+  while (waitpid(mother, nullptr, WNOHANG) == 0) {
     machine.runLoop.RunFor(20);
     follow();
+    if (before == 0 && took() * 4000 > births) before = ResidentMiB();
   }
-  mother.join();
+  const double seconds = took();
+  machine.runLoop.RunFor(40);
+  follow();
+  EXPECT_NEAR(static_cast<double>(alive.size()), static_cast<double>(there), 100);
+  EXPECT_LE(ResidentMiB(), before + 2);
+  std::printf("%.0f births a second for %.1f s, %zu announced, resident %.1f MiB, then %.1f\n",
+              births / seconds, seconds, announced - there, before, ResidentMiB());
   const Child lasting({"sleep", "1000"});
   machine.runLoop.RunFor(40);
   follow();
-  EXPECT_TRUE(alive[std::to_string(lasting.Pid())]);
+  EXPECT_TRUE(alive.contains(std::to_string(lasting.Pid())));
   EXPECT_EQ(Value(lasting.Pid(), "pid_parent_pid"), std::to_string(getpid()));
   // No record is left of anything that has gone.
   for (const auto pid : PidBlob()) {
@@ -308,6 +358,145 @@ TEST_F(RealMachineTest, ShortLivedChildrenAreAnnouncedOnceOrNotAtAll) {
     GetPIDPropertyValue(pid, "pid_p_comm", name, sizeof name, nullptr);
     EXPECT_STRNE(name, "true") << pid;
   }
+}
+
+void RunFor(std::chrono::microseconds time) {
+  const auto end = std::chrono::steady_clock::now() + time;
+  while (std::chrono::steady_clock::now() < end) {
+  }
+}
+
+/// What a child of the test does until it is killed: next to nothing, a lot, something now and
+/// then, for itself or in the kernel, in its first thread or in others.
+enum class Load { kNone, kAlways, kOften, kSeldom, kBarely, kInKernel, kInThreads, kByChildren };
+
+void RestlesslyRun(std::chrono::microseconds most, std::chrono::microseconds rest) {
+  std::minstd_rand random(static_cast<unsigned>(gettid()));
+  for (;;) {
+    RunFor(most * (random() % 100) / 100);
+    std::this_thread::sleep_for(rest / 2 + rest * (random() % 100) / 100);
+  }
+}
+
+[[noreturn]] void Bear(Load load) {
+  using std::chrono::milliseconds, std::chrono::microseconds;
+  switch (load) {
+    case Load::kNone:
+      for (;;) pause();
+    case Load::kAlways:
+      for (;;) RunFor(milliseconds(100));
+    case Load::kOften:
+      RestlesslyRun(milliseconds(8), milliseconds(40));
+      break;
+    case Load::kSeldom:
+      RestlesslyRun(milliseconds(40), milliseconds(2500));
+      break;
+    case Load::kBarely:
+      RestlesslyRun(microseconds(100), milliseconds(10));
+      break;
+    case Load::kInKernel: {
+      std::array<char, 65536> zeros;
+      const int file = open("/dev/zero", O_RDONLY | O_CLOEXEC);
+      for (;; std::this_thread::sleep_for(milliseconds(20)))
+        for (int i = 0; i < 200; ++i)
+          if (read(file, zeros.data(), zeros.size()) < 0) _exit(1);
+    }
+    case Load::kInThreads:
+      std::thread([] { RestlesslyRun(milliseconds(8), milliseconds(300)); }).detach();
+      std::thread([] { RestlesslyRun(milliseconds(1), milliseconds(5)); }).detach();
+      for (;;) pause();
+    case Load::kByChildren:
+      for (;; std::this_thread::sleep_for(milliseconds(5))) {
+        const pid_t child = fork();
+        if (child == 0) RunFor(milliseconds(1)), _exit(0);
+        waitpid(child, nullptr, 0);
+      }
+  }
+  _exit(0);
+}
+
+/// A child with such a load, at the lowest priority; it goes with this object.
+class Laden {
+ public:
+  explicit Laden(Load load) : mPid(fork()) {
+    if (mPid != 0) return;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (nice(19) == -1) _exit(1);
+    Bear(load);
+  }
+  ~Laden() {
+    if (mPid <= 0) return;
+    kill(mPid, SIGKILL);
+    waitpid(mPid, nullptr, 0);
+  }
+  Laden(const Laden&) = delete;
+  Laden& operator=(const Laden&) = delete;
+  pid_t Pid() const { return mPid; }
+
+  /// User and system time in ticks as a second reader of the stat file sees them.
+  std::array<long, 2> Ticks() const {
+    std::ifstream file("/proc/" + std::to_string(mPid) + "/stat");
+    std::string text(std::istreambuf_iterator<char>(file), {});
+    std::istringstream fields(text.substr(text.rfind(')') + 2));
+    std::string word;
+    for (int field = 3; field < 14; ++field) fields >> word;
+    std::array<long, 2> ticks{};
+    fields >> ticks[0] >> ticks[1];
+    return ticks;
+  }
+
+ private:
+  pid_t mPid;
+};
+
+/// LURKWELL_ACCURACY_SECONDS lets it go on for longer than some seconds.
+TEST_F(RealMachineTest, TimesAreThoseOfTheKernelToATickAndNobodyRunsUnseen) {
+  std::vector<std::unique_ptr<Laden>> children;
+  const std::pair<Load, int> loads[] = {
+      {Load::kNone, 100}, {Load::kAlways, 1},   {Load::kOften, 3},     {Load::kSeldom, 30},
+      {Load::kBarely, 5}, {Load::kInKernel, 1}, {Load::kInThreads, 3}, {Load::kByChildren, 1}};
+  for (const auto& [load, count] : loads)
+    for (int i = 0; i < count; ++i) children.push_back(std::make_unique<Laden>(load));
+  Start();
+  QuitHelperDaemon();
+  Add("client", 1000).Needs({"pid_user_time", "pid_system_time"});
+  machine.runLoop.RunFor(1000);
+
+  struct Seen {
+    std::array<long, 2> shown{}, after{};
+  };
+  std::vector<Seen> seen(children.size());
+  const double tick = 1.0 / static_cast<double>(sysconf(_SC_CLK_TCK));
+  long readings = 0, runs = 0, late = 0;
+  std::minstd_rand random(16);
+  const auto end = std::chrono::steady_clock::now() +
+                   std::chrono::seconds(FromEnvironment("LURKWELL_ACCURACY_SECONDS", 12));
+  for (bool isFirst = true; std::chrono::steady_clock::now() < end; isFirst = false) {
+    std::vector<std::array<long, 2>> before;
+    for (const auto& child : children) before.push_back(child->Ticks());
+    machine.runLoop.RunFor(1000);
+    for (std::size_t i = 0; i < children.size(); ++i, ++readings) {
+      auto& last = seen[i];
+      const auto pid = children[i]->Pid();
+      const Seen now{{std::lround(std::stod(Value(pid, "pid_user_time")) / tick),
+                      std::lround(std::stod(Value(pid, "pid_system_time")) / tick)},
+                     children[i]->Ticks()};
+      for (const std::size_t kind : {0u, 1u}) {
+        late += now.shown[kind] < before[i][kind];
+        ASSERT_GE(now.shown[kind], before[i][kind] - 1) << pid << ", child " << i;
+        ASSERT_LE(now.shown[kind], now.after[kind] + 1) << pid << ", child " << i;
+      }
+      const auto sum = [](const std::array<long, 2>& ticks) { return ticks[0] + ticks[1]; };
+      if (!isFirst && sum(before[i]) > sum(last.after)) {
+        ++runs;
+        ASSERT_GT(sum(now.shown), sum(last.shown)) << pid << " ran, child " << i;
+      }
+      last = now;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(50 + random() % 300));
+  }
+  EXPECT_GT(runs, 100);
+  std::printf("%ld readings, %ld after runs, %ld a tick late\n", readings, runs, late);
 }
 
 }  // namespace
