@@ -15,7 +15,7 @@ struct DaemonLimits {
   std::chrono::milliseconds opening{5000};
   std::chrono::milliseconds answering{250};
   /// For all that one beat asks.
-  std::chrono::milliseconds beat{100};
+  std::chrono::milliseconds beat{60};
   /// For the administrator, while the question is open.
   std::chrono::milliseconds asking{120'000};
   /// Between two looks at whether the helper is still there.

@@ -68,7 +68,7 @@ inline constexpr std::ptrdiff_t kDaemonNotAsked = -3;
 std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity,
                            std::string* refusal = nullptr);
 
-/// The requests of one beat, which wait for the helper 100 ms at most together. Not nested.
+/// The requests of one beat, which wait for the helper 60 ms at most together. Not nested.
 class DaemonConversation {
  public:
   DaemonConversation() = default;

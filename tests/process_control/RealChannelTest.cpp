@@ -237,7 +237,7 @@ TEST_F(RealChannelTest, QuittingInTheMiddleOfAStartLeavesNothing) {
   QuitHelperDaemon();
 }
 
-TEST_F(RealChannelTest, ABeatWaitsAHundredMillisecondsWhateverTheHelperDoes) {
+TEST_F(RealChannelTest, ABeatWaitsNoLongerThanItsLimitWhateverTheHelperDoes) {
   LaunchHelperDaemon();
   RunUntilOpen();
   const pid_t helper = HelperPid();
@@ -263,7 +263,7 @@ TEST_F(RealChannelTest, ABeatWaitsAHundredMillisecondsWhateverTheHelperDoes) {
   EXPECT_FALSE(IsOpen()) << "overdue";
   EXPECT_EQ(GetDaemonStatus().rights, DaemonRights::kNone);
   Signal(helper, SIGCONT);
-  // "slow" takes 30 ms for each answer.
+  // "slow" takes 25 ms for each answer.
   UseStandIn("slow");
   OpenChannel(Installed());
   ASSERT_TRUE(IsOpen());

@@ -1,6 +1,6 @@
 // Takes the place of a program that the application starts, and misbehaves as a file beside it
 // says. In the place of the helper: "absent", "half" (opens one end only), "mute" (opens both),
-// "brief" (greets and goes), "noise", "slow" (30 ms an answer), "twice" (answers each request two
+// "brief" (greets and goes), "noise", "slow" (25 ms an answer), "twice" (answers each request two
 // times). In the place of
 // pkexec: the status it ends with, or "yes", upon which root runs what was asked for.
 #include <fcntl.h>
@@ -43,7 +43,7 @@ int Help(const std::string& mode, char** pipes) {
       Answer(answers, "Hello.\n");
       if (mode == "brief") return 0;
     } else if (mode == "slow") {
-      ::usleep(30'000);
+      ::usleep(25'000);
       Answer(answers, mode);
     } else if (mode == "noise") {
       Answer(answers, Noise(random));
