@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "app/CommandLine.h"
-#include "app/DataOutput.h"
 #include "app/PrintMode.h"
 #include "app/SessionRestart.h"
 #include "app/WindowMode.h"
@@ -168,8 +167,6 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   auto withoutDisplay = std::make_unique<WithoutDisplayInstead>(arguments.data());
   QApplication application(argc, argv);
   withoutDisplay.reset();
-  // There are no data here, whatever standard output leads to.
-  const DataOutput output;
   // Qt takes the user's language for texts; numbers are read and written with a point.
   std::setlocale(LC_NUMERIC, "C");
   const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot;

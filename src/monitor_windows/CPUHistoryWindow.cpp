@@ -10,6 +10,7 @@
 #include "consolidator/ProcessQueries.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
+#include "monitor_windows/LoggingWindowUI.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
@@ -46,9 +47,9 @@ WindowRect PlaceOf(const CPUHistoryWindowInformationClient& client) {
   return client.Window() != nullptr ? client.ContentBounds() : client.Bounds();
 }
 
-/// With their title bars.
-std::vector<QRect> PlacesOfHistories() {
-  std::vector<QRect> places;
+/// What a new history is not to lie on: others, with their title bars, and logs.
+std::vector<QRect> TakenPlaces() {
+  auto places = LoggingWindowUI::Places();
   for (const auto* client : gClients) {
     const auto bounds = PlaceOf(*client);
     places.emplace_back(
@@ -210,10 +211,11 @@ void CPUHistoryWindowInformationClient::UglyHookCalledImmediatelyBeforeOverlayWi
     font.setBold(bold);
     return font;
   };
+  // Below the texts, which it is large enough to reach.
+  mIconWindow = new Satellite(group, {}, group.font(), {});
   mNameWindow = new Satellite(group, {}, fontOf(12, false), {5, 18});
   mIdentityWindow = new Satellite(group, {}, fontOf(9, false), {5, 9});
   mHighWaterMarkWindow = new Satellite(group, {}, fontOf(9, false), {1, 8});
-  mIconWindow = new Satellite(group, {}, group.font(), {});
   mCurrentPercentageWindow = new Satellite(group, {}, fontOf(9, true), {2, 9});
   PlaceLabels();
   SetLabelColours();
@@ -336,7 +338,7 @@ void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid, const Uuid*
   const QSize size(bounds.right - bounds.left, bounds.bottom - bounds.top);
   if (rect == nullptr && !AreaForNewWindow(size).isNull()) {
     LocateRectangleForNewWindow(&bounds);
-    bounds = PlaceApart(bounds, PlacesOfHistories(), Overlap::kNone);
+    bounds = PlaceApart(bounds, TakenPlaces(), Overlap::kNone);
   }
   auto* client = new CPUHistoryWindowInformationClient(uuid, interval, pid, bounds,
                                                        CPUHistoryTracksDescendants());

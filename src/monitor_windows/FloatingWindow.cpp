@@ -59,6 +59,8 @@ FloatingWindow::FloatingWindow(const QRect& contentBounds, std::uint32_t attribu
   setAttribute(Qt::WA_ShowWithoutActivating);
   setAttribute(Qt::WA_QuitOnClose, false);
   setAttribute(Qt::WA_Hover);
+  // It is never the active window, which alone has tooltips otherwise.
+  setAttribute(Qt::WA_AlwaysShowToolTips);
   setFocusPolicy(Qt::NoFocus);
   const int bar = TitlebarWidth(attributes);
   setFixedSize(contentBounds.width() + bar, contentBounds.height());

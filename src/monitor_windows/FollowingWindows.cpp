@@ -11,6 +11,15 @@
 #include "preferences/PreferenceBatch.h"
 
 namespace lurkwell {
+namespace {
+
+std::vector<QRect> PlacesOf(const std::vector<MonitorWindows::OpenWindow>& windows) {
+  std::vector<QRect> places;
+  for (const auto& window : windows) places.push_back(window.place);
+  return places;
+}
+
+}  // namespace
 
 FollowingWindows::FollowingWindows(LogFiles& logFiles, Histories histories)
     : mLogFiles(logFiles), mHistories(std::move(histories)) {}
@@ -38,13 +47,12 @@ void FollowingWindows::CreateLoggingWindow(std::int32_t interval, std::int32_t p
     return log->follow(mLogFiles, pid);
   const auto place = rect != nullptr ? Apart(*rect, OpenLogs()) : WindowRect{};
   LoggingWindowUI::CreateLoggingWindowWithInterval(mLogFiles, interval, pid, uuid,
-                                                   rect != nullptr ? &place : nullptr, prefsIndex);
+                                                   rect != nullptr ? &place : nullptr, prefsIndex,
+                                                   PlacesOf(OpenWindows()));
 }
 
 WindowRect FollowingWindows::Apart(const WindowRect& rect, const std::vector<OpenWindow>& others) {
-  std::vector<QRect> places;
-  for (const auto& window : others) places.push_back(window.place);
-  return PlaceApart(rect, places);
+  return PlaceApart(rect, PlacesOf(others));
 }
 
 std::vector<MonitorWindows::OpenWindow> FollowingWindows::OpenWindows() const {

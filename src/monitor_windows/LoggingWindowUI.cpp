@@ -71,7 +71,7 @@ const char* TitleId(LoggingColumn column) {
 
 LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
     LogFiles& logFiles, std::int32_t interval, std::int32_t thePid, const Uuid* theUuid,
-    const WindowRect* windowSize, std::int32_t somePrefIndex) {
+    const WindowRect* windowSize, std::int32_t somePrefIndex, const std::vector<QRect>& others) {
   auto window = std::make_unique<ControlledWindow>();
   auto* controller = new LoggingWindowUI(*window);
   controller->initWithPrefIndex(somePrefIndex);
@@ -87,7 +87,7 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   controller->awakeFromNib();
   if (state.logToFile) controller->openLogFile(logFiles);
   controller->setTitle();
-  controller->placeWindow(windowSize);
+  controller->placeWindow(windowSize, others);
   WatchWindowOrder(*window);
   // A window that comes back must not take the keyboard from another program.
   const bool isActive = QApplication::applicationState() == Qt::ApplicationActive;
@@ -147,6 +147,7 @@ bool LoggingWindowUI::loadInterface() {
 void LoggingWindowUI::awakeFromNib() {
   fWindow->setWindowIcon(NamedImage("logging"));
   fNote->hide();
+  fIdentity->installEventFilter(this);
   fTable->setModel(this);
   fTable->setAccessibleName(LocalizedString("logging_table"));
   fTable->verticalHeader()->hide();
@@ -207,18 +208,28 @@ void LoggingWindowUI::setTitle() {
              LocalizedString("logging_title_file").arg(PlainText(mStateInfo.logFileName));
   fWindow->setWindowTitle(title);
   const auto process = DescribeFollowed(mStateInfo.pid);
-  const auto identity =
-      LocalizedString("logging_identity").arg(process.ownerText, process.commandText);
-  fIdentity->setText(identity);
-  fIdentity->setToolTip(Qt::convertFromPlainText(identity));
+  fIdentityText = LocalizedString("logging_identity").arg(process.ownerText, process.commandText);
+  fIdentity->setToolTip(Qt::convertFromPlainText(fIdentityText));
+  fIdentity->setAccessibleName(fIdentityText);
   fIdentity->setVisible(!process.owner.empty());
+  showIdentity();
   const bool hasFile = mStateInfo.logFile != nullptr;
   fShowFile->setEnabled(hasFile);
   fShowFile->setToolTip(hasFile ? PlainText(mStateInfo.logFileName)
                                 : LocalizedString("logging_show_file_none"));
 }
 
-void LoggingWindowUI::placeWindow(const WindowRect* windowSize) {
+void LoggingWindowUI::showIdentity() {
+  const int room = fIdentity->width() - 2 * fIdentity->margin();
+  fIdentity->setText(fIdentity->fontMetrics().elidedText(fIdentityText, Qt::ElideRight, room));
+}
+
+bool LoggingWindowUI::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == fIdentity && event->type() == QEvent::Resize) showIdentity();
+  return vqTableController::eventFilter(watched, event);
+}
+
+void LoggingWindowUI::placeWindow(const WindowRect* windowSize, const std::vector<QRect>& others) {
   fWindow->setMinimumSize(kSmallest);
   if (windowSize != nullptr) {
     const QRect place = PlaceOnScreen(*windowSize, kSmallest);
@@ -229,7 +240,17 @@ void LoggingWindowUI::placeWindow(const WindowRect* windowSize) {
   const QSize size =
       FitOnScreens(QSize(mStateInfo.desiredWidth + kBesideColumns, fWindow->height()));
   fWindow->resize(size);
-  fWindow->move(CascadeTopLeftFromPoint(sLastLoggingWindowOriginForCascading, size));
+  const auto place = CascadeTopLeftFromPoint(sLastLoggingWindowOriginForCascading, size);
+  const auto apart = PlaceApart({place.x(), place.y(), place.x() + size.width() + kBorders.width(),
+                                 place.y() + size.height() + kBorders.height()},
+                                others, Overlap::kNone);
+  fWindow->move(apart.left, apart.top);
+}
+
+std::vector<QRect> LoggingWindowUI::Places() {
+  std::vector<QRect> places;
+  for (const auto* log : sOpenWindows) places.push_back(log->fWindow->frameGeometry());
+  return places;
 }
 
 WindowRect LoggingWindowUI::frame() const {

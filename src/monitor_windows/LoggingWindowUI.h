@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPoint>
 #include <QPushButton>
+#include <QRect>
 #include <QScrollBar>
 #include <deque>
 #include <memory>
@@ -51,17 +52,21 @@ class LoggingWindowUI final : public vqTableController {
 
   /// Opens a window, the only way to do it; null, and nothing opened, when its form is missing.
   /// `interval` in milliseconds; without `theUuid` the window is a new one and is remembered from
-  /// now on; without `windowSize` it goes where new ones go; `somePrefIndex` is a remembered
-  /// window's element or -1. `logFiles` is asked during the call only.
+  /// now on; without `windowSize` it goes where new ones go, but not below `others`;
+  /// `somePrefIndex` is a remembered window's element or -1. `logFiles` is asked during the call
+  /// only.
   static LoggingWindowUI* CreateLoggingWindowWithInterval(LogFiles& logFiles, std::int32_t interval,
                                                           std::int32_t thePid, const Uuid* theUuid,
                                                           const WindowRect* windowSize,
-                                                          std::int32_t somePrefIndex);
+                                                          std::int32_t somePrefIndex,
+                                                          const std::vector<QRect>& others = {});
   /// How many there are.
   static int CountOpenWindows() { return static_cast<int>(sOpenWindows.size()); }
   /// The window of that identifier; null when there is none.
   static LoggingWindowUI* Find(const Uuid& uuid);
   static const std::set<LoggingWindowUI*>& OpenWindows() { return sOpenWindows; }
+  /// Where they are, with their frames.
+  static std::vector<QRect> Places();
   /// Tells those that follow a process of that pid, unless it is still there, that it has ended.
   static void ProcessHasEnded(std::int32_t pid);
   /// Has all of them write their places into their records, as far as they were moved.
@@ -122,6 +127,7 @@ class LoggingWindowUI final : public vqTableController {
 
  protected:
   int columnIndexOf(KeyId key) const override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   explicit LoggingWindowUI(QWidget& window);
@@ -135,7 +141,8 @@ class LoggingWindowUI final : public vqTableController {
   int widthForColumn(LoggingColumn column) const;
   void openLogFile(LogFiles& logFiles);
   void setTitle();
-  void placeWindow(const WindowRect* windowSize);
+  void placeWindow(const WindowRect* windowSize, const std::vector<QRect>& others);
+  void showIdentity();
   void addAction(const char* id, const QKeySequence& key, void (LoggingWindowUI::*does)());
   void selectAll();
   /// What the window's files are called, as far as it is not said by where they are.
@@ -158,6 +165,8 @@ class LoggingWindowUI final : public vqTableController {
   std::vector<LoggingColumn> fColumns;
   QPointer<QLabel> fNote;
   QPointer<QLabel> fIdentity;
+  /// All of what the label has no room for.
+  QString fIdentityText;
   QPointer<QPushButton> fShowFile;
   QPointer<QPushButton> fSave;
   QScrollBar* mScrollView = nullptr;

@@ -64,7 +64,8 @@ WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others
   const auto consider = [&](int left, int top) {
     const QRect place(left, top, frame.width(), frame.height());
     if (!free.contains(place) || (!best.isNull() && distance(best) <= distance(place))) return;
-    if (std::ranges::none_of(others, [&](const QRect& other) { return place.intersects(other); }))
+    const QRect around = place.adjusted(-kGap, -kGap, kGap, kGap);
+    if (std::ranges::none_of(others, [&](const QRect& other) { return around.intersects(other); }))
       best = place;
   };
   for (const auto& other : others) {
@@ -77,6 +78,8 @@ WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others
       consider(left, other.top() - kGap - frame.height());
     }
   }
+  // What may cover nothing is in a cascade already.
+  if (best.isNull() && allowed == Overlap::kNone) return wanted;
   if (best.isNull()) best = frame.translated(kCascadeStep, kCascadeStep);
   return {best.left(), best.top(), best.left() + best.width(), best.top() + best.height()};
 }

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTest>
+#include <QToolTip>
 
 #include "main_window/FrontmostWindow.h"
 #include "monitor_windows/ProcessInformationWindow.h"
@@ -183,6 +184,18 @@ TEST_F(FloatingWindowTest, AClickGivesTheMainWindowTheKeyboardUnlessItIsPutAway)
   QApplication::processEvents();
   EXPECT_TRUE(mainWindow.isMinimized()) << "its user has put it away";
   EXPECT_TRUE(other.isActiveWindow());
+}
+
+TEST_F(FloatingWindowTest, ItsTooltipComesAlthoughItIsNeverActive) {
+  QWidget other;
+  other.show();
+  Recorder recorder;
+  Open(recorder);
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  recorder.Window()->setToolTip(QStringLiteral("whose it is"));
+  QTest::mouseMove(recorder.Window()->windowHandle(), QPoint(60, 30));
+  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text() == QLatin1String("whose it is"); }));
 }
 
 TEST_F(FloatingWindowTest, ItIsDraggedAnywhereAndClosedByItsBox) {

@@ -139,7 +139,6 @@ TEST_F(LoggingWindowTest, ClosedWhileItsProcessRunsAWindowIsForgotten) {
   auto& first = Log(300);
   auto& second = Log(301);
   EXPECT_EQ(GetPrefArrayCount(kLoggingWindowKind), 2);
-  EXPECT_NE(first.window()->pos(), second.window()->pos()) << "they cascade";
   Close(first);
   EXPECT_EQ(GetPrefArrayCount(kLoggingWindowKind), 1);
   EXPECT_EQ(LoggingWindowUI::CountOpenWindows(), 1);
@@ -148,6 +147,9 @@ TEST_F(LoggingWindowTest, ClosedWhileItsProcessRunsAWindowIsForgotten) {
   EXPECT_EQ(opened.Take(), "history of 300 every 250\n");
   EXPECT_EQ(windows.CountOpenWindows(), 3);
   EXPECT_EQ(GetPrefArrayCount(kLoggingWindowKind), 2);
+  const auto places = LoggingWindowUI::Places();
+  ASSERT_EQ(places.size(), 2U);
+  EXPECT_FALSE(places[0].intersects(places[1])) << "there is room";
   second.window()->deleteLater();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   Turn(3000);
@@ -192,6 +194,7 @@ TEST_F(LoggingWindowTest, ALogIsSavedWhereItsUserWantsIt) {
 TEST_F(LoggingWindowTest, ALogIsNamedByTheWholeNameAndItsFileIsShown) {
   SetPrefInt("LOG_WINDOW_LOG_TO_FILE", 1);
   auto& process = machine.processTable.Birth(300, "a-rather-long-na");
+  process.owner = "ann";
   process.commandLine = "/opt/a-rather-long-name-of-a-program --fast";
   auto& log = Log(300);
   const auto path = log.stateInfo().logFileName;
@@ -205,6 +208,11 @@ TEST_F(LoggingWindowTest, ALogIsNamedByTheWholeNameAndItsFileIsShown) {
   log.showFile();
   EXPECT_EQ(machine.log.Take(), "ShowFile " + path + "\n");
   EXPECT_EQ(log.note(), QString());
+  const auto* identity = log.window()->findChild<QLabel*>(QStringLiteral("identityLabel"));
+  log.window()->resize(900, 200);
+  EXPECT_EQ(identity->text(), identity->accessibleName());
+  log.window()->resize(200, 200);
+  EXPECT_TRUE(identity->text().endsWith(QChar(0x2026))) << identity->text().toStdString();
   machine.processManager.hasFileManager = false;
   log.showFile();
   EXPECT_EQ(log.note().toStdString(),
