@@ -7,6 +7,7 @@ import gzip
 import os
 import pathlib
 import re
+import shutil
 import struct
 import subprocess
 import sys
@@ -21,6 +22,36 @@ SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 
 def words(*command, **more):
     return subprocess.run(command, capture_output=True, text=True, check=False, timeout=60, **more)
+
+
+class Digests(unittest.TestCase):
+    """The check in front of ./package, in a repository of its own."""
+
+    def test_a_released_version_without_a_digest_stops_the_package(self):
+        with tempfile.TemporaryDirectory(prefix="lurkwell-test-") as folder:
+            root = pathlib.Path(folder)
+            (root / "scripts").mkdir()
+            check = shutil.copy(pathlib.Path(SOURCE, "scripts/check-digests"), root / "scripts")
+            digests = root / "resources/desktop/helper-digests"
+            digests.parent.mkdir(parents=True)
+            shutil.copy(pathlib.Path(SOURCE, "resources/desktop/helper-digests"), digests)
+
+            def git(*arguments):
+                done = words("git", "-C", folder, "-c", "user.name=n", "-c", "user.email=e",
+                             *arguments)
+                self.assertEqual(done.returncode, 0, done.stderr)
+
+            git("init", "--quiet")
+            git("commit", "--quiet", "--allow-empty", "--message=one")
+            git("tag", "v98.0.0")
+            self.assertEqual(words(check).returncode, 0, "the version that is being made")
+            git("commit", "--quiet", "--allow-empty", "--message=two")
+            done = words(check)
+            self.assertEqual(done.returncode, 1)
+            self.assertIn("v98.0.0", done.stderr)
+            for line, status in ("0" * 63, 1), ("- " + "0" * 64, 0), ("0" * 64, 0):
+                digests.write_text(f"# v98.0.0\n{line}\n# v97.0.0\n{'1' * 64}\n")
+                self.assertEqual(words(check).returncode, status, line)
 
 
 class Installation(unittest.TestCase):

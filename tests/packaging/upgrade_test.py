@@ -131,7 +131,7 @@ class Upgrade(unittest.TestCase):
                            PKEXEC_UID=str(USER)).returncode
 
     def consent(self):
-        """The question is one that can be answered, and the answer gives the present helper its rights."""
+        """The question can be answered, and the answer gives the present helper its rights."""
         self.assertEqual(self.step(USER), NO_ADMINISTRATOR)
         self.assertEqual(self.step(), 0)
         self.assertTrue(self.has_rights())
