@@ -361,7 +361,7 @@
     </message>
     <message id="pid_unit_disk_read_tip">
         <source></source>
-        <translation>Bytes that the storage devices have delivered to the unit (control group) of the process: to all processes in it together, ended ones included. From its io.stat, which everybody may read; most desktops count it for services only.</translation>
+        <translation>Bytes that the storage devices have delivered to the unit (control group) of the process: to all processes in it together, ended ones included. From its io.stat, which everybody may read; units whose input and output is not accounted have none.</translation>
     </message>
     <message id="pid_unit_disk_written">
         <source></source>
@@ -369,7 +369,7 @@
     </message>
     <message id="pid_unit_disk_written_tip">
         <source></source>
-        <translation>Bytes that the unit (control group) of the process has given to the storage devices to write: all processes in it together, ended ones included. From its io.stat, which everybody may read; most desktops count it for services only.</translation>
+        <translation>Bytes that the unit (control group) of the process has given to the storage devices to write: all processes in it together, ended ones included. From its io.stat, which everybody may read; units whose input and output is not accounted have none.</translation>
     </message>
     <message id="internal_Icon">
         <source></source>

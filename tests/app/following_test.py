@@ -15,6 +15,8 @@ from desktop_support import FollowedProgram
 class Following(FollowedProgram):
     def test_windows_come_back_with_their_program(self):
         self.open_display()
+        # So that no table reads the names, too.
+        self.write_preferences({"MAIN_WINDOW_INTERVAL": 60000})
         victim = self.start_victim()
         program = self.start_program()
         self.open_both(victim.pid)
@@ -29,7 +31,8 @@ class Following(FollowedProgram):
         self.end_victim(victim)
         self.wait_for(lambda: "history" not in self.places(victim.pid))
 
-        again = self.start_victim()
+        # A script may start the program long after its own beginning.
+        again = self.start_victim(["sh", "-c", f"sleep 1.5; exec {self.victim_program} 1000"])
         self.wait_for(lambda: self.places(again.pid) == placed,
                       tell=lambda: f"{placed} {self.windows()}")
         self.assertEqual(self.active_window(), "another")
@@ -46,8 +49,7 @@ class Following(FollowedProgram):
         self.end_victim(again)
         time.sleep(2)
         self.assertEqual(self.places(other.pid), {}, "it did not start just now")
-        # A script may start the program long after its own beginning.
-        third = self.start_victim(["sh", "-c", f"sleep 1.5; exec {self.victim_program} 1000"])
+        third = self.start_victim()
         self.wait_for(lambda: self.places(third.pid) == placed,
                       tell=lambda: f"{placed} {self.windows()}")
 
