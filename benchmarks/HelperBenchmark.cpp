@@ -13,6 +13,7 @@
 
 #include "IdleProcesses.h"
 #include "TableLikeClient.h"
+#include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
 #include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxClock.h"
@@ -23,7 +24,6 @@
 #include "platform/linux/NoProcessManager.h"
 #include "platform/linux/PropertyListDomain.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "process_control/DaemonCommunication.h"
 #include "support/OpenChannel.h"
 
 namespace lurkwell {

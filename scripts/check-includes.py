@@ -12,7 +12,9 @@ import sys
 FLOORS = [
     {"platform"},
     {"preferences"},
-    {"process_control", "consolidator"},
+    {"channel"},
+    {"consolidator"},
+    {"process_control"},
     {"resources"},  # beside src
     {"main_window", "monitor_windows", "animated_view", "preferences_window"},
     {"app"},
@@ -25,7 +27,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
 # The engine links without the toolkit.
 TOOLKIT = re.compile(r'^\s*#\s*include\s*<(Q[A-Za-z]+|Qt[A-Za-z]*/.*)>')
 WITHOUT_TOOLKIT = {"platform", "platform/linux", "platform/simulated", "preferences", "consolidator",
-                   "process_control", "helper", "permission_step"}
+                   "channel", "process_control", "helper", "permission_step"}
 
 
 # Settings by any text for a key; all others name them by the table's.

@@ -11,13 +11,16 @@ GOOD = {
     "platform/linux/LinuxClock.h": '#include "platform/Clock.h"\n',
     "preferences/Store.h": '#include "platform/Clock.h"\n',
     "preferences/PreferencesRetrieval.h": "",
-    "consolidator/Records.h": '#include "process_control/Actions.h"\n',
+    "channel/Channel.h": '#include "preferences/Store.h"\n',
+    "consolidator/Records.h": '#include "channel/Channel.h"\n',
     "process_control/Actions.h": '#include "consolidator/Records.h"\n#include "preferences/Store.h"\n',
     "app/main.cpp": '#include "platform/linux/LinuxClock.h"\n#include "consolidator/Records.h"\n',
     "helper/Channel.cpp": '#include "helper/Request.h"\n',
     "helper/Request.h": "",
 }
 BAD = {
+    "consolidator/Acts.h": '#include "process_control/Actions.h"\n',
+    "channel/Up.h": '#include "consolidator/Records.h"\n',
     "platform/Up.h": '#include "preferences/Store.h"\n',
     "platform/linux/Sideways.h": '#include "consolidator/Records.h"\n',
     "preferences/Names.cpp": '#include "platform/linux/LinuxClock.h"\n',

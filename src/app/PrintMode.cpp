@@ -9,6 +9,7 @@
 
 #include "app/ColumnsOutputClient.h"
 #include "app/DataOutput.h"
+#include "channel/DaemonCommunication.h"
 #include "consolidator/KernelFeeder.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/PrintfOutputClient.h"
@@ -17,7 +18,6 @@
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
-#include "process_control/DaemonCommunication.h"
 
 namespace lurkwell {
 namespace {

@@ -13,6 +13,7 @@
 
 #include "app/SplashScreen.h"
 #include "app/appDelegate.h"
+#include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
@@ -20,7 +21,6 @@
 #include "platform/Uuid.h"
 #include "preferences_window/AllSettings.h"
 #include "preferences_window/PreferencesUI.h"
-#include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {

@@ -9,6 +9,7 @@
 #include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/flowcontrolfsm.h"
 #include "app/SplashScreen.h"
+#include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/WayBack.h"
@@ -29,7 +30,6 @@
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "preferences_window/PreferencesUI.h"
-#include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {

@@ -6,6 +6,7 @@
 
 #include "consolidator/HelperQueries.h"
 #include "consolidator/PidReport.h"
+#include "consolidator/ProcessActionList.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/PropertyNeeds.h"
 #include "consolidator/SourceNeeds.h"
@@ -13,7 +14,6 @@
 #include "platform/Machine.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
-#include "process_control/ProcessActions.h"
 
 namespace lurkwell {
 namespace {

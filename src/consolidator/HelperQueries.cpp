@@ -5,10 +5,10 @@
 #include <cstring>
 #include <utility>
 
+#include "channel/DaemonCommunication.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/TextScan.h"
-#include "process_control/DaemonCommunication.h"
 
 namespace lurkwell {
 namespace {

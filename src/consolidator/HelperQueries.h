@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "process_control/DaemonCommunication.h"
+#include "channel/DaemonCommunication.h"
 
 namespace lurkwell {
 

@@ -2,13 +2,13 @@
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
+#include "consolidator/ProcessActionList.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/SourceNeeds.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
-#include "process_control/ProcessActions.h"
 
 namespace lurkwell {
 namespace {

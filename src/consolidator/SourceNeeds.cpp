@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "consolidator/ProcessActionList.h"
 #include "consolidator/PropertyCatalogue.h"
-#include "process_control/ProcessActions.h"
 
 namespace lurkwell {
 

@@ -7,11 +7,11 @@
 #include <QPointer>
 #include <memory>
 
+#include "channel/DaemonCommunication.h"
 #include "main_window/MainMenus.h"
 #include "main_window/StripedTableView.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Alerts.h"
-#include "process_control/DaemonCommunication.h"
 
 namespace lurkwell {
 

@@ -143,13 +143,4 @@ std::string TimeString(TimeValue time) {
   return text;
 }
 
-void EscapePathQuotes(char* path) {
-  const std::string plain = path;
-  for (const char c : plain) {
-    if (c == '"') *path++ = '\\';
-    *path++ = c;
-  }
-  *path = '\0';
-}
-
 }  // namespace lurkwell

@@ -39,7 +39,4 @@ std::string DateString(TimeValue time, std::int32_t width);
 /// Seconds, a point, and six digits of microseconds.
 std::string TimeString(TimeValue time);
 
-/// Puts a backslash before every double quote, in place: the buffer has a byte more for each.
-void EscapePathQuotes(char* path);
-
 }  // namespace lurkwell

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "channel/DaemonCommunication.h"
 #include "consolidator/ProcessQueries.h"
 #include "consolidator/SyntheticPids.h"
 #include "platform/Assertion.h"
@@ -14,7 +15,6 @@
 #include "platform/ProcessManager.h"
 #include "platform/ProcessTable.h"
 #include "platform/Signals.h"
-#include "process_control/DaemonCommunication.h"
 #include "process_control/Unit.h"
 
 namespace lurkwell {

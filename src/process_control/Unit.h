@@ -2,8 +2,7 @@
 
 namespace lurkwell {
 
-/// The sources that this folder's assertions name, in whichever of its files they stand.
-inline constexpr char kDaemonUnit[] = "DaemonCommunication";
+/// The source that this folder's assertions name, in whichever of its files they stand.
 inline constexpr char kActionsUnit[] = "ProcessActions";
 
 }  // namespace lurkwell

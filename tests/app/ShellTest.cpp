@@ -12,12 +12,12 @@
 #include "app/SplashScreen.h"
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
+#include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
 #include "monitor_windows/FloatingWindow.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
-#include "process_control/DaemonCommunication.h"
 #include "resources/Resources.h"
 #include "support/RecordingClient.h"
 

@@ -10,6 +10,7 @@
 #include <limits>
 #include <sstream>
 
+#include "channel/DaemonCommunication.h"
 #include "consolidator/ClassicReports.h"
 #include "consolidator/PI_Consolidator.h"
 #include "desktop/TestBus.h"
@@ -26,7 +27,6 @@
 #include "platform/linux/NoProcessManager.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
-#include "process_control/DaemonCommunication.h"
 #include "process_control/ProcessActions.h"
 #include "support/ChildProgram.h"
 #include "support/EventLoop.h"

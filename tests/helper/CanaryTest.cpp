@@ -15,10 +15,10 @@
 #include <thread>
 #include <utility>
 
+#include "channel/DaemonCommunication.h"
 #include "consolidator/PidReport.h"
 #include "helper/HelperProcess.h"
 #include "helper/ReferenceReader.h"
-#include "process_control/DaemonCommunication.h"
 #include "process_control/ProcessActions.h"
 #include "process_control/RealMachine.h"
 #include "support/OpenChannel.h"

@@ -2,9 +2,9 @@
 #include <QLabel>
 #include <QScreen>
 
+#include "channel/DaemonChannel.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/MainWindowTest.h"
-#include "process_control/DaemonChannel.h"
 
 namespace lurkwell {
 namespace {

@@ -1,4 +1,4 @@
-#include "process_control/DaemonChannel.h"
+#include "channel/DaemonChannel.h"
 #include "process_control/SimulatedControl.h"
 
 namespace lurkwell {

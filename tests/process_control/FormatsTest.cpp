@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 
+#include "channel/DaemonInstallation.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/DisplayFormats.h"
 #include "process_control/SimulatedControl.h"

@@ -1,8 +1,8 @@
 #include <cstring>
 
+#include "channel/DaemonChannel.h"
+#include "channel/DaemonInstallation.h"
 #include "preferences/PreferencesRetrieval.h"
-#include "process_control/DaemonChannel.h"
-#include "process_control/DaemonInstallation.h"
 #include "process_control/SimulatedControl.h"
 
 namespace lurkwell {

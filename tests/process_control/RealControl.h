@@ -18,8 +18,8 @@
 #include <string>
 #include <thread>
 
-#include "process_control/DaemonChannel.h"
-#include "process_control/DaemonCommunication.h"
+#include "channel/DaemonChannel.h"
+#include "channel/DaemonCommunication.h"
 #include "process_control/RealMachine.h"
 #include "process_control/TemporaryFolder.h"
 #include "support/OpenChannel.h"

@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "channel/DaemonCommunication.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "process_control/DaemonCommunication.h"
 #include "process_control/TemporaryFolder.h"
 #include "support/OpenChannel.h"
 

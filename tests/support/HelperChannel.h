@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "channel/DaemonCommunication.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "process_control/DaemonCommunication.h"
 #include "support/OpenChannel.h"
 
 namespace lurkwell {

@@ -4,7 +4,7 @@
 #include <string>
 #include <thread>
 
-#include "process_control/DaemonChannel.h"
+#include "channel/DaemonChannel.h"
 
 namespace lurkwell {
 

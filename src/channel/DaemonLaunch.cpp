@@ -1,4 +1,4 @@
-#include "process_control/DaemonLaunch.h"
+#include "channel/DaemonLaunch.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -6,12 +6,12 @@
 #include <string_view>
 #include <utility>
 
+#include "channel/DaemonInstallation.h"
 #include "platform/Bundle.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "preferences/Settings.h"
-#include "process_control/DaemonInstallation.h"
 
 namespace lurkwell {
 namespace {

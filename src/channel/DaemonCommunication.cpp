@@ -1,10 +1,10 @@
-#include "process_control/DaemonCommunication.h"
+#include "channel/DaemonCommunication.h"
 
 #include <memory>
 
+#include "channel/DaemonChannel.h"
+#include "channel/DaemonLaunch.h"
 #include "preferences/Settings.h"
-#include "process_control/DaemonChannel.h"
-#include "process_control/DaemonLaunch.h"
 
 namespace lurkwell {
 namespace {

@@ -5,12 +5,12 @@
 #include <optional>
 #include <string>
 
+#include "channel/DaemonChannel.h"
+#include "channel/DaemonCommunication.h"
 #include "platform/Alerts.h"
 #include "platform/Authorization.h"
 #include "platform/RunLoop.h"
 #include "platform/TimeValue.h"
-#include "process_control/DaemonChannel.h"
-#include "process_control/DaemonCommunication.h"
 
 namespace lurkwell {
 

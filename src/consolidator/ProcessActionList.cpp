@@ -1,3 +1,5 @@
+#include "consolidator/ProcessActionList.h"
+
 #include <algorithm>
 #include <unordered_map>
 #include <vector>
@@ -6,7 +8,6 @@
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
-#include "process_control/ProcessActions.h"
 
 namespace lurkwell {
 namespace {

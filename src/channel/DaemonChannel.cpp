@@ -1,10 +1,11 @@
-#include "process_control/DaemonChannel.h"
+#include "channel/DaemonChannel.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <span>
 #include <utility>
 
+#include "channel/DaemonCommunication.h"
 #include "platform/Authorization.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
@@ -12,7 +13,6 @@
 #include "platform/NamedPipes.h"
 #include "platform/PrintableText.h"
 #include "platform/Tools.h"
-#include "process_control/DaemonCommunication.h"
 
 namespace lurkwell {
 

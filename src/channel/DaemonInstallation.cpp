@@ -1,15 +1,14 @@
-#include "process_control/DaemonInstallation.h"
+#include "channel/DaemonInstallation.h"
 
 #include <cstring>
 #include <filesystem>
 #include <random>
 
+#include "channel/DaemonCommunication.h"
+#include "channel/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
-#include "process_control/DaemonCommunication.h"
-#include "process_control/DisplayFormats.h"
-#include "process_control/Unit.h"
 
 namespace lurkwell {
 namespace {
@@ -44,6 +43,15 @@ void Copy(const fs::path& source, const fs::path& target, std::error_code& error
 }
 
 }  // namespace
+
+void EscapePathQuotes(char* path) {
+  const std::string plain = path;
+  for (const char c : plain) {
+    if (c == '"') *path++ = '\\';
+    *path++ = c;
+  }
+  *path = '\0';
+}
 
 std::string EscapedBundlePath() {
   std::string path = TheMachine().bundle.Path().substr(0, kLongestPath);

@@ -15,6 +15,9 @@ inline constexpr std::size_t kLongestPath = 1023;
 /// quotes escaped. A bundle with a double quote in its path therefore has no helper to install.
 std::string EscapedBundlePath();
 
+/// Puts a backslash before every double quote, in place: the buffer has a byte more for each.
+void EscapePathQuotes(char* path);
+
 /// Copies the helper from the bundle into the folder, unless there is one. "" or why it failed.
 std::string InstallHelper(const std::string& bundlePath, const std::string& supportFolder);
 
