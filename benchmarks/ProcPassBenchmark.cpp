@@ -96,12 +96,40 @@ void ProcessTablePass(benchmark::State& state) {
   state.counters["kept"] = static_cast<double>(table.KeptDescriptors());
 }
 
-void FirstProcessTablePass(benchmark::State& state) {
+/// The first pass reads the files of everybody.
+void FirstPass(benchmark::State& state, FigureSources sources) {
   RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));
+  const auto wanted = [sources](std::int32_t) { return sources; };
   std::size_t entries = 0;
-  for (auto _ : state) entries = LinuxProcessTable().Read().size();
+  for (auto _ : state) entries = LinuxProcessTable().Read(wanted).size();
   state.counters["processes"] = static_cast<double>(entries - 1);
+}
+
+void FirstProcessTablePass(benchmark::State& state) {
+  FirstPass(state, kFromStat | kFromScheduler);
+}
+
+void FirstPassWithIO(benchmark::State& state) {
+  FirstPass(state, kFromStat | kFromIO);
+}
+
+void FirstPassWithThreads(benchmark::State& state) {
+  FirstPass(state, kFromStat | kFromThreads);
+}
+
+void FirstPassWithUnits(benchmark::State& state) {
+  FirstPass(state, kFromStat | kFromUnit);
+}
+
+/// Those of the units are read in every pass.
+void NextPassWithUnits(benchmark::State& state) {
+  RaiseDescriptorLimit();
+  const IdleProcesses idle(state.range(0));
+  LinuxProcessTable table;
+  const auto wanted = [](std::int32_t) { return kFromStat | kFromUnit; };
+  table.Read(wanted);
+  for (auto _ : state) benchmark::DoNotOptimize(table.Read(wanted).size());
 }
 
 BENCHMARK(BareListing)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
@@ -109,6 +137,10 @@ BENCHMARK(BareOpenReadClose)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BareReadOfKept)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ProcessTablePass)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
 BENCHMARK(FirstProcessTablePass)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(FirstPassWithIO)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(FirstPassWithThreads)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(FirstPassWithUnits)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(NextPassWithUnits)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace lurkwell
