@@ -357,7 +357,7 @@
     </message>
     <message id="pid_unit_disk_read">
         <source></source>
-        <translation>Read from disk by the unit</translation>
+        <translation>Read from disk (unit)</translation>
     </message>
     <message id="pid_unit_disk_read_tip">
         <source></source>
@@ -365,7 +365,7 @@
     </message>
     <message id="pid_unit_disk_written">
         <source></source>
-        <translation>Written to disk by the unit</translation>
+        <translation>Written to disk (unit)</translation>
     </message>
     <message id="pid_unit_disk_written_tip">
         <source></source>
