@@ -16,7 +16,7 @@ namespace {
 
 /// Some machines have the old hierarchies there and the unified one in a folder of its own.
 constexpr const char* kMountPoints[] = {"/sys/fs/cgroup", "/sys/fs/cgroup/unified"};
-constexpr std::size_t kLongestText = 1 << 20;
+constexpr std::size_t kLongestUnitFile = 1 << 20;
 
 FileDescriptor OpenHierarchy(const std::string& path) {
   return FileDescriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
@@ -38,7 +38,7 @@ std::optional<std::string> ReadAll(const FileDescriptor& root, const std::string
   if (!file.IsOpen()) return std::nullopt;
   std::string text;
   std::array<char, 4096> piece;
-  while (text.size() < kLongestText) {
+  while (text.size() < kLongestUnitFile) {
     const auto bytes = ::read(file.Get(), piece.data(), piece.size());
     if (bytes < 0) return std::nullopt;
     if (bytes == 0) break;
