@@ -3,11 +3,12 @@
 
 window_managers_test.py BINARY [unittest arguments]
 """
+import pathlib
 import re
 import time
 import unittest
 
-from desktop_support import FollowedProgram
+from desktop_support import BINARY, FollowedProgram
 
 
 class WindowManagers(FollowedProgram):
@@ -21,6 +22,13 @@ class WindowManagers(FollowedProgram):
 
     def check_windows_stay_in_sight(self, manager):
         self.open_display(manager)
+        # One that starts nothing: what it starts would outlive it.
+        settings = pathlib.Path(self.home, "bus.conf")
+        settings.write_text(f"""<busconfig><type>session</type><listen>unix:dir={self.run_folder}</listen>
+<policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy>
+</busconfig>""")
+        bus = self.start(["dbus-daemon", f"--config-file={settings}", "--nofork", "--print-address"])
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
         victim = self.start_victim()
         program = self.start_program()
         self.open_both(victim.pid)
@@ -50,13 +58,39 @@ class WindowManagers(FollowedProgram):
         time.sleep(1)
         self.assertEqual(self.active_window(), "another")
         self.assertIn("Iconic", self.property(main, "WM_STATE"))
+        self.check_overlay_takes_no_keyboard(main)
         self.end_program(program)
+
+    def view_is_shown(self, kind):
+        """Whether one of the animated view's two windows is: the one that fills the screen, or the other."""
+        return any(("1000x800" in line) == (kind == "full screen")
+                   for line in self.windows().splitlines() if '"Animated View"' in line and
+                   "IsViewable" in self.output("xwininfo", "-id", line.split()[0]))
+
+    def check_overlay_takes_no_keyboard(self, main):
+        """The hot key and the command, from another program and from the main window."""
+        for way in (["xdotool", "key", "F7"], [BINARY, "--toggle-overlay"]):
+            self.output(*way)
+            self.wait_for(lambda: self.view_is_shown("full screen"), tell=self.windows)
+            self.assertEqual(self.active_window(), "another")
+            self.output(*way)
+            self.wait_for(lambda: not self.view_is_shown("full screen"), tell=self.windows)
+            time.sleep(0.5)
+            self.assertEqual(self.active_window(), "another")
+            self.assertFalse(self.view_is_shown("window"), "there was none before")
+            self.assertIn("Iconic", self.property(main, "WM_STATE"))
+        self.type_keys("key", "F7")
+        self.wait_for(lambda: self.view_is_shown("full screen"))
+        self.output("xdotool", "key", "F7")
+        self.wait_for(lambda: not self.view_is_shown("full screen"))
+        time.sleep(0.5)
+        self.assertFalse(self.view_is_shown("window"))
 
     def test_kwin(self):
         self.check_windows_stay_in_sight(["kwin_x11"])
 
     def test_xfwm4(self):
-        self.check_windows_stay_in_sight(["dbus-run-session", "--", "xfwm4"])
+        self.check_windows_stay_in_sight(["env", "NO_AT_BRIDGE=1", "dbus-run-session", "--", "xfwm4"])
 
     def test_openbox(self):
         self.check_windows_stay_in_sight(["openbox"])
