@@ -13,6 +13,7 @@
 #include "main_window/vqMainTableController.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
+#include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -170,6 +171,7 @@ void MainMenus::BuildOpenWindows(QMenu& menu) {
     if (auto* windows = mController.monitorWindows()) windows->ShowRememberedWindows(&mWindow);
   }));
   auto* closeAll = Make("menu_window_close_all", MenuCommand::kOther, [this] {
+    const PreferenceBatch batch;
     if (auto* windows = mController.monitorWindows())
       for (const auto& window : windows->OpenWindows()) window.close();
   });

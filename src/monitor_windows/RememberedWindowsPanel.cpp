@@ -9,6 +9,7 @@
 #include "consolidator/ProcessQueries.h"
 #include "main_window/FrontmostWindow.h"
 #include "main_window/PropertyText.h"
+#include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/RememberedWindows.h"
 #include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
@@ -30,12 +31,19 @@ QString TextAt(const char* array, std::int32_t index, const char* key) {
   return PlainText(text);
 }
 
-/// Which process the window follows, as the record has it; "" when that one has ended.
-QString FollowedAt(const char* array, std::int32_t index) {
+/// Which process the window follows, as the record has it; -1 when that one has ended.
+std::int32_t FollowedAt(const char* array, std::int32_t index) {
   const auto pid = ReadRememberedInt(array, index, kRememberedPidKey, -1);
-  const bool runs = pid >= 0 && IsRememberedProcess(array, index, pid);
-  return runs ? LocalizedString("remembered_follows").arg(pid)
-              : LocalizedString("remembered_waits");
+  return pid >= 0 && IsRememberedProcess(array, index, pid) ? pid : -1;
+}
+
+/// The whole name is known of a process that runs only.
+void ShowProcess(QTreeWidgetItem& item, const char* array, std::int32_t index) {
+  const auto pid = FollowedAt(array, index);
+  const auto name = pid >= 0 ? FollowedName(pid) : QString();
+  item.setText(kProgram, name.isEmpty() ? TextAt(array, index, "PROCESS_NAME") : name);
+  item.setText(kFollows, pid >= 0 ? LocalizedString("remembered_follows").arg(pid)
+                                  : LocalizedString("remembered_waits"));
 }
 
 }  // namespace
@@ -99,12 +107,11 @@ void RememberedWindowsPanel::Fill() {
         auto* item = new QTreeWidgetItem(mList);
         item->setData(0, kUuidRole, key);
         item->setData(0, kArrayRole, QLatin1String(array));
-        item->setText(kProgram, TextAt(array, index, "PROCESS_NAME"));
         item->setText(kOwner, TextAt(array, index, kRememberedOwnerKey));
         item->setText(kWindow, LocalizedString(array == kLoggingWindowKind ? "remembered_log"
                                                                            : "remembered_history"));
       }
-      mList->topLevelItem(row++)->setText(kFollows, FollowedAt(array, index));
+      ShowProcess(*mList->topLevelItem(row++), array, index);
     }
   }
   while (row < mList->topLevelItemCount()) delete mList->takeTopLevelItem(row);

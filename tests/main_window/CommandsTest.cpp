@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -313,6 +314,16 @@ TEST_F(CommandsTest, WindowsThatFollowAProcessOpenForEachSelectedOne) {
       SetPrefInt("remembered", pid);
     }
     int CountRoom() const override { return room; }
+    std::vector<OpenWindow> OpenWindows() const override {
+      std::vector<OpenWindow> list;
+      for (const char* title : {"Log of b & c", "CPU history of a"})
+        list.push_back({QString::fromLatin1(title), {}, {}, [this, title] {
+                          SetPrefInt(title, 1);
+                          ++closed;
+                        }});
+      return list;
+    }
+    mutable int closed = 0;
     std::string opened;
     int room = 200;
   } windows;
@@ -323,6 +334,19 @@ TEST_F(CommandsTest, WindowsThatFollowAProcessOpenForEachSelectedOne) {
   Choose("menu_file_new_logging");
   Choose("menu_file_new_cpu_history");
   EXPECT_EQ(windows.opened, "log 1000 300\nlog 1000 301\nhistory 250 300\nhistory 250 301\n");
+  QMenu* menu = nullptr;
+  for (auto* place : Action("menu_window_close_all").associatedObjects())
+    if (auto* found = qobject_cast<QMenu*>(place)) menu = found;
+  ASSERT_NE(menu, nullptr);
+  Q_EMIT menu->aboutToShow();
+  const auto items = menu->actions();
+  Q_EMIT menu->aboutToHide();
+  EXPECT_EQ(items.at(items.size() - 2)->text(), QLatin1String("CPU history of a"));
+  EXPECT_EQ(items.constLast()->text(), QLatin1String("Log of b && c"));
+  auto before = machine.preferenceDomain.SynchronizeCount();
+  Choose("menu_window_close_all");
+  EXPECT_EQ(windows.closed, 2);
+  EXPECT_EQ(machine.preferenceDomain.SynchronizeCount(), before + 1) << "all of them at once";
   for (int pid = 400; pid < 430; ++pid) machine.processTable.Birth(pid, "many");
   Turn();
   windows.opened.clear();

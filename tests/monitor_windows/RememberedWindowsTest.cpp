@@ -1,5 +1,6 @@
 // Records of windows in the preferences, damaged ones among them.
 #include "monitor_windows/FollowingTest.h"
+#include "monitor_windows/RememberedWindowsPanel.h"
 
 namespace lurkwell {
 namespace {
@@ -34,6 +35,39 @@ TEST_F(RememberedWindowsTest, RecordsAreMadeWholeChangedInPartAndRemovedWherever
   writes = machine.preferenceDomain.SynchronizeCount();
   SetPersistentClientInfo("LOGGING_WINDOW", "b", "OS X", &moved, &mSecond);
   EXPECT_EQ(machine.preferenceDomain.SynchronizeCount(), writes) << "nothing was new";
+}
+
+TEST_F(RememberedWindowsTest, AWindowIsForgottenWhetherItsProgramRunsOrNot) {
+  auto& process = machine.processTable.Birth(300, "a-rather-long-na");
+  process.commandLine = "/opt/a-rather-long-name --fast";
+  auto& log = Log(300, "a-rather-long-na");
+  Remember(kCPUHistoryWindowKind, "sleeper", mFirst);
+  Remember(kLoggingWindowKind, "sleeper", mSecond);
+  RememberedWindowsPanel panel(nullptr);
+  const auto text = [&panel] {
+    QString rows;
+    for (int row = 0; row < panel.List()->topLevelItemCount(); ++row)
+      rows += panel.List()->topLevelItem(row)->text(0) + QLatin1Char('|') +
+              panel.List()->topLevelItem(row)->text(2) + QLatin1Char('|') +
+              panel.List()->topLevelItem(row)->text(3) + QLatin1Char('\n');
+    return rows.toStdString();
+  };
+  EXPECT_EQ(text(),
+            "sleeper|CPU history|waits for the program to start\n"
+            "a-rather-long-name|Log|pid 300\n"
+            "sleeper|Log|waits for the program to start\n");
+  panel.List()->topLevelItem(0)->setSelected(true);
+  panel.List()->topLevelItem(1)->setSelected(true);
+  panel.ForgetSelected();
+  EXPECT_EQ(text(), "sleeper|Log|waits for the program to start\n");
+  EXPECT_EQ(GetPrefArrayCount(kCPUHistoryWindowKind), 0);
+  EXPECT_EQ(GetAppropriateIndexForUUID(kLoggingWindowKind, &mSecond), 0);
+  EXPECT_TRUE(log.window()->isVisible()) << "until it is closed";
+  machine.processTable.Birth(301, "sleeper");
+  StartWatchdog();
+  Turn();
+  EXPECT_EQ(opened.Take(), "main\n") << "the history is forgotten";
+  EXPECT_EQ(windows.CountOpenWindows(), 2) << "two logs";
 }
 
 TEST_F(RememberedWindowsTest, NothingIsAFatalAssertion) {
