@@ -20,7 +20,8 @@ class IdleProcesses {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         for (;;) ::pause();
       }
-      if (pid > 0) mPids.push_back(pid);
+      if (pid < 0) break;
+      mPids.push_back(pid);
     }
   }
   ~IdleProcesses() {

@@ -1,13 +1,17 @@
 #!/usr/bin/env python3
 """What one update of a process monitor's window costs, in CPU time, beside idle processes.
 
-window-cost.py [-n 250,1000,5000] [-s SECONDS] [--interval SECONDS] NAME=COMMAND [NAME=COMMAND ...]
+window-cost.py [-n 250,1000,5000] [-s SECONDS] [--interval SECONDS] [--state shown,minimised,keys]
+               NAME=COMMAND [NAME=COMMAND ...]
 
 Each command runs alone on a private X server (Xvfb, openbox, 1280x900), N idle processes of
 different names beside it. After a warm-up the CPU time of its processes (known by a mark in
 their environment) and of the helper, which clears its own, is taken over some seconds and
 divided by the number of intervals. One Markdown row each; root sees all. Start-up is the time
-until the window's pixels have stopped changing.
+until the window's pixels have stopped changing, where there is xwd to tell. Beside it stand what a
+bare pass over every stat file takes, and the longest time for which the window did not answer a ping.
+A state is "shown", "minimised", or keys for xdotool to open what else is to be seen, joined by
+"+then+".
 """
 import argparse
 import os
@@ -19,17 +23,44 @@ import sys
 import tempfile
 import time
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "app"))
+from window_ping import WindowPing  # pylint: disable=wrong-import-position
+
 MARK = "LURKWELL_WINDOW_COST"
 IDLER = r"""
+#include <dirent.h>
+#include <fcntl.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 #include <sys/prctl.h>
+#include <time.h>
 #include <unistd.h>
+/* The processor time of a pass over all stat files, in milliseconds. */
+static double floor_of_a_pass(void) {
+  enum { kPasses = 10 };
+  DIR* const folder = opendir("/proc");
+  for (int pass = 0; pass < kPasses; ++pass) {
+    rewinddir(folder);
+    for (struct dirent* entry; (entry = readdir(folder)) != NULL;) {
+      if (entry->d_name[0] < '1' || entry->d_name[0] > '9') continue;
+      char text[4096];
+      snprintf(text, sizeof text, "%s/stat", entry->d_name);
+      const int file = openat(dirfd(folder), text, O_RDONLY);
+      if (file >= 0 && read(file, text, sizeof text) >= 0) close(file);
+    }
+  }
+  struct timespec used;
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+  return ((double)used.tv_sec * 1e3 + (double)used.tv_nsec / 1e6) / kPasses;
+}
 int main(int argc, char** argv) {
+  if (argc > 1 && strcmp(argv[1], "floor") == 0) return printf("%.3f\n", floor_of_a_pass()) < 0;
   const int count = argc > 1 ? atoi(argv[1]) : 0;
   for (int i = 0; i < count; ++i) {
-    if (fork() == 0) {
+    const pid_t pid = fork();
+    if (pid < 0) return 1;
+    if (pid == 0) {
       char name[16];
       snprintf(name, sizeof name, "idler-%05d", i);
       prctl(PR_SET_NAME, name);
@@ -91,6 +122,25 @@ class Screen:
         time.sleep(0.5)
         return self
 
+    def output(self, *command):
+        return subprocess.run(command, env=dict(os.environ, DISPLAY=self.display), text=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
+
+    def window(self):
+        """The program's first window, None where there is none."""
+        words = self.output("xprop", "-root", "_NET_CLIENT_LIST").replace(",", " ").split()
+        return next((int(word, 16) for word in words if word.startswith("0x")), None)
+
+    def bring_about(self, state):
+        window = str(self.window())
+        if state == "minimised":
+            self.output("xdotool", "windowminimize", window)
+        elif state != "shown":
+            self.output("xdotool", "windowactivate", "--sync", window)
+            for keys in state.split("+then+"):
+                self.output("xdotool", "key", "--delay", "300", *keys.split())
+                time.sleep(1)
+
     def pixels(self):
         shot = subprocess.run(["xwd", "-root", "-silent", "-display", self.display],
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False)
@@ -104,6 +154,9 @@ class Screen:
 
 def settle(screen, patience=60.0):
     """Seconds until two looks in a row, a tenth apart, show the same picture that is not empty."""
+    if shutil.which("xwd") is None:
+        time.sleep(5)
+        return float("nan")
     empty = screen.pixels()
     start = time.monotonic()
     last, changed = empty, start
@@ -117,7 +170,17 @@ def settle(screen, patience=60.0):
     return changed - start
 
 
-def measure(name, command, count, options):
+def longest_silence(screen, seconds):
+    """Behind the other figures, because a window that answers all the time has work to do."""
+    window = screen.window()
+    if window is None:
+        return float("nan")
+    ping = WindowPing(screen.display, window)
+    time.sleep(seconds)
+    return max(ping.stop())
+
+
+def measure(name, command, count, state, floor, options):
     with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as home, Screen() as screen:
         environment = dict(os.environ, DISPLAY=screen.display, HOME=home,
                            XDG_CONFIG_HOME=home + "/config", XDG_DATA_HOME=home + "/data",
@@ -129,6 +192,7 @@ def measure(name, command, count, options):
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
             start_up = settle(screen)
+            screen.bring_about(state)
             time.sleep(options.warm_up)
             found = monitored(name, before)
             total = lambda kind: sum(cpu_seconds(pid) for pid in found[kind])
@@ -138,6 +202,7 @@ def measure(name, command, count, options):
             app, helper = total("app") - app, total("helper") - helper
             x_server = cpu_seconds(screen.server.pid) - x_before
             updates = (time.monotonic() - start) / options.interval
+            longest = 1000.0 * longest_silence(screen, options.seconds / 2)
         finally:
             os.killpg(monitor.pid, signal.SIGTERM)
             try:
@@ -146,8 +211,9 @@ def measure(name, command, count, options):
                 os.killpg(monitor.pid, signal.SIGKILL)
                 monitor.wait()
     milliseconds = [1000.0 * value / updates for value in (app + helper, app, helper, x_server)]
-    print(f"| {count} | {name} | " + " | ".join(f"{value:.1f}" for value in milliseconds) +
-          f" | {start_up:.2f} |", flush=True)
+    print(f"| {count} | {name} | {state} | " + " | ".join(f"{value:.1f}" for value in milliseconds) +
+          f" | {floor:.1f} | {milliseconds[0] / floor:.2f} | {longest:.0f} | {start_up:.2f} |",
+          flush=True)
 
 
 def main():
@@ -156,23 +222,30 @@ def main():
     parser.add_argument("-s", "--seconds", type=float, default=20.0)
     parser.add_argument("--warm-up", type=float, default=6.0)
     parser.add_argument("--interval", type=float, default=2.0)
+    parser.add_argument("--state", default="shown")
     parser.add_argument("monitors", nargs="+", metavar="NAME=COMMAND")
     options = parser.parse_args()
-    for tool in ("Xvfb", "openbox", "xwd", "cc"):
+    for tool in ("Xvfb", "openbox", "xprop", "xdotool", "cc"):
         if shutil.which(tool) is None:
             sys.exit(f"{tool} is not installed")
-    print("| idle processes | program | CPU ms per update | application | helper | X server |"
-          " start-up s |\n| ---: | --- | ---: | ---: | ---: | ---: | ---: |", flush=True)
+    columns = ("idle processes", "program", "state", "CPU ms per update", "application", "helper",
+               "X server", "bare stat pass ms", "× that", "longest silence ms", "start-up s")
+    print("| " + " | ".join(columns) + " |\n| ---: | --- | --- |" + " ---: |" * 8, flush=True)
     with tempfile.TemporaryDirectory() as folder:
         source = pathlib.Path(folder, "idler.c")
         source.write_text(IDLER)
         subprocess.run(["cc", "-O1", "-o", folder + "/idler", source], check=True)
         for count in options.n.split(","):
             idlers = subprocess.Popen([folder + "/idler", count], stdout=subprocess.PIPE)
-            idlers.stdout.readline()
-            for monitor in options.monitors:
-                name, command = monitor.split("=", 1)
-                measure(name, command, count, options)
+            if idlers.stdout.readline() != b"ready\n":
+                print(f"| {count} | not that many processes are allowed here |" + " |" * 9)
+            else:
+                floor = float(subprocess.run([folder + "/idler", "floor"], check=True,
+                                             stdout=subprocess.PIPE).stdout)
+                for monitor in options.monitors:
+                    name, command = monitor.split("=", 1)
+                    for state in options.state.split(","):
+                        measure(name, command, count, state, floor, options)
             idlers.kill()
             idlers.wait()
 

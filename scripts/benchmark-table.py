@@ -17,18 +17,28 @@ def main():
     context = report["context"]
     print(f"{context['num_cpus']} processors of {context['mhz_per_cpu']} MHz,"
           f" load {context['load_avg'][0]:.2f}\n")
-    print("| benchmark | time | CPU | helper's CPU | per process |")
-    print("| --- | ---: | ---: | ---: | ---: |")
+    print("| benchmark | time | CPU | helper's CPU | per process | longest | × bare stat pass |")
+    print("| --- | ---: | ---: | ---: | ---: | ---: | ---: |")
+    used = {}
     for row in report["benchmarks"]:
-        name = row["name"].removeprefix("BM_")
+        # "BeatForTheTable/32000/iterations:20"
+        name = "/".join(row["name"].removeprefix("BM_").split("/")[:2])
         if row.get("error_occurred"):
-            print(f"| {name} | {row['error_message']} | | | |")
+            print(f"| {name} | {row['error_message']} | | | | | |")
             continue
         unit = SECONDS[row["time_unit"]]
-        helper, item = (spelled(row[key]) if key in row else ""
-                        for key in ("helper_cpu", "per_process"))
+        helper, item, longest = (spelled(row[key]) if key in row else ""
+                                 for key in ("helper_cpu", "per_process", "longest"))
+        used[name] = row["cpu_time"] * unit
+        floor = used.get("BareStatPass/" + name.partition("/")[2])
+        ratio = f"{used[name] / floor:.2f}" if floor and name.startswith("Beat") else ""
         print(f"| {name} | {spelled(row['real_time'] * unit)} |"
-              f" {spelled(row['cpu_time'] * unit)} | {helper} | {item} |")
+              f" {spelled(row['cpu_time'] * unit)} | {helper} | {item} |"
+              f" {longest} | {ratio} |")
+    few, many = (used.get(f"BeatForTheTable/{count}") for count in (5000, 20000))
+    if few and many:
+        print(f"\nA beat for the table over 20,000 processes takes {many / few:.2f} times that over"
+              " 5,000.")
 
 
 main()
