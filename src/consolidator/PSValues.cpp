@@ -161,11 +161,11 @@ std::optional<TypedValue> ReadAs(const PSColumnFacts& facts, std::string_view te
 
 PSColumnFacts FactsOfPSColumn(std::string_view name) {
   if (const auto column = TheMachine().tools.ColumnNamed(name))
-    return {TypeOf(column->kind), true, column->unit};
+    return {TypeOf(column->kind), true, column->unit, column->isPrivate};
   const auto* known = std::ranges::find(kPSColumnTypes, name, &PSColumnType::header);
   const bool stays =
       std::ranges::find(kPSColumnsThatStay, name) != std::ranges::end(kPSColumnsThatStay);
-  return {known != std::end(kPSColumnTypes) ? known->type : kPropertyTypeString, !stays, 1};
+  return {known != std::end(kPSColumnTypes) ? known->type : kPropertyTypeString, !stays};
 }
 
 TypedValue ReadPSValue(const PSColumnFacts& facts, std::string_view text) {

@@ -15,6 +15,8 @@ struct PSColumnFacts {
   bool changes = true;
   /// Of a memory size: bytes that a printed 1 stands for.
   std::int64_t unit = 1;
+  /// Of a process that ps may not look into, it prints 0 or "-".
+  bool isPrivate = false;
 };
 
 /// Any thread.

@@ -31,6 +31,8 @@ struct ToolColumn {
   Kind kind = Kind::kText;
   /// Of a size: bytes.
   std::int64_t unit = 1;
+  /// Of a process that it may not look into, ps prints 0 or "-" there.
+  bool isPrivate = false;
 };
 
 /// A program that was started for what it prints. Destroying it kills it. Main thread only.
@@ -61,6 +63,9 @@ class Tools {
   /// What is known of a column of ps under this header, which the header's line gives; nothing when
   /// it is nothing, or when ps prints what the properties' own table says. Any thread.
   virtual std::optional<ToolColumn> ColumnNamed(std::string_view) const { return std::nullopt; }
+
+  /// Whether ps may look into the process. Any thread.
+  virtual bool MayLookInto(std::int32_t) const { return true; }
 
   /// Serves them until all have ended, for `limit` at most.
   virtual void Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) = 0;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -137,6 +138,14 @@ TEST(PsDialect, KnowsWhatTheColumnsHold) {
     }
   }
   if (!unknown.empty()) std::printf("columns that are shown as texts: %s\n", unknown.c_str());
+}
+
+TEST(LinuxTools, KnowsWhomPsMayLookInto) {
+  const LinuxTools tools;
+  EXPECT_TRUE(tools.MayLookInto(::getpid()));
+  std::string line;
+  EXPECT_EQ(tools.MayLookInto(1),
+            static_cast<bool>(std::getline(std::ifstream("/proc/1/io"), line)));
 }
 
 TEST(PsDialect, OtherKeywordsOfAColumnPrintTheSame) {

@@ -1,9 +1,15 @@
 #include "platform/linux/LinuxTools.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <string>
 
 #include "platform/linux/BackgroundStart.h"
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/ProcpsColumns.h"
 
 namespace lurkwell {
@@ -70,6 +76,15 @@ std::unique_ptr<RunningTool> LinuxTools::StartProgram(const std::vector<std::str
 
 std::optional<ToolColumn> LinuxTools::ColumnNamed(std::string_view header) const {
   return ProcpsColumnNamed(header);
+}
+
+bool LinuxTools::MayLookInto(std::int32_t pid) const {
+  const auto file = "/proc/" + std::to_string(pid) + "/io";
+  const FileDescriptor open(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  char byte = 0;
+  // Not even root may look into every process.
+  if (open.IsOpen() && ::read(open.Get(), &byte, 1) == 1) return true;
+  return errno != EACCES && errno != EPERM;
 }
 
 void LinuxTools::Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) {

@@ -16,6 +16,7 @@ class LinuxTools final : public Tools {
 
   std::unique_ptr<RunningTool> Start(const std::string& commandLine) override;
   std::optional<ToolColumn> ColumnNamed(std::string_view header) const override;
+  bool MayLookInto(std::int32_t pid) const override;
   void Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) override;
   bool StartInBackground(const std::vector<std::string>& arguments) override;
   int Stat(const std::string& path) override;

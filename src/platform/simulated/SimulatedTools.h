@@ -38,6 +38,8 @@ class SimulatedTools final : public Tools {
     return found == mColumns.end() ? std::nullopt : std::optional(found->second);
   }
 
+  bool MayLookInto(std::int32_t pid) const override { return !mClosed.contains(pid); }
+
   int Stat(const std::string& path) override {
     mLog.Add("Tools.Stat " + path);
     return mMissingFiles.contains(path) ? -1 : 0;
@@ -57,6 +59,8 @@ class SimulatedTools final : public Tools {
   }
   /// What is known of a column of ps; nothing unless told.
   void SetColumn(const std::string& header, ToolColumn column) { mColumns[header] = column; }
+  /// Has ps print of this process as of one that it may not look into.
+  void SetClosed(std::int32_t pid) { mClosed.insert(pid); }
   /// Whether nothing can be started.
   void SetShort(bool isShort) { mIsShort = isShort; }
   void SetMissing(const std::string& path) { mMissingFiles.insert(path); }
@@ -84,6 +88,7 @@ class SimulatedTools final : public Tools {
   std::map<std::string, ToolColumn, std::less<>> mColumns;
   std::set<std::string> mStuckCommands;
   std::set<std::string> mMissingFiles;
+  std::set<std::int32_t> mClosed;
   bool mIsShort = false;
   std::function<bool(const std::vector<std::string>&)> mStarting = [](const auto&) { return true; };
 };
