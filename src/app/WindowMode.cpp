@@ -183,6 +183,7 @@ void EndAfterLostDisplay() {
 int RunWindowMode(const CommandLine& commandLine) {
   QApplication::setQuitOnLastWindowClosed(false);
   InstallResources(*qApp);
+  QApplication::setWindowIcon(NamedImage("lurkwell"));
   ApplyTheme(commandLine.theme);
   SetHelperUnprivileged(commandLine.unprivileged);
   const bool picture = commandLine.screenshot.has_value();

@@ -1,5 +1,6 @@
 // The columns of the main table: which there are, how wide, and how they are remembered.
 #include <QHeaderView>
+#include <QScrollBar>
 #include <algorithm>
 #include <span>
 #include <utility>
@@ -24,6 +25,7 @@ constexpr int kSmallestPidWidth = 45;
 /// Names and bars need more room than their titles take.
 constexpr int kSmallestNameWidth = 220;
 constexpr int kSmallestBarWidth = 110;
+constexpr int kWidestFirstName = 440;
 
 /// Of sizes, times and shares one wants to see the largest.
 char DefaultDirection(std::string_view key) {
@@ -109,7 +111,8 @@ void vqMainTableController::readColumnPrefs() {
     if (i == sortIndex) fRememberedSortKey = text;
   }
   const auto known = fKeysWeTrackForUI.size();
-  if (count == 0)
+  fHasUsualColumns = count == 0;
+  if (fHasUsualColumns)
     for (const KeyId key :
          {kMetaPid, kInternalIcon, kMetaName, kMetaActiveTime, kInternalCPUPercent})
       track(key, DefaultDirection(KeyText(key)));
@@ -255,6 +258,15 @@ int vqMainTableController::widthForColumn(KeyId key, const QString& title) const
   if (key == kMetaName) return std::max(width, kSmallestNameWidth);
   const bool isBar = key == kInternalCPUPercent || key == kInternalMemGraph;
   return isBar ? std::max(width, kSmallestBarWidth) : width;
+}
+
+void vqMainTableController::fillWidth(int width) {
+  auto& header = *fTable->horizontalHeader();
+  const int besideColumns = fTable->verticalScrollBar()->sizeHint().width() + fTable->frameWidth();
+  const int rest = width - header.length() - besideColumns;
+  const int name = columnIndexOf(kMetaName);
+  if (!fHasUsualColumns || name < 0 || rest <= 0) return;
+  header.resizeSection(name, std::min(header.sectionSize(name) + rest, kWidestFirstName));
 }
 
 void vqMainTableController::chooseInitialSortColumn() {

@@ -75,6 +75,7 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);
   connect(mMenus.get(), &MainMenus::closeRequested, this, &QWidget::close);
   RestoreFrame();
+  mController->fillWidth(width());
   WatchWindowOrder(*this);
 }
 
@@ -105,6 +106,10 @@ void MainWindow::BuildContents() {
   setCentralWidget(contents);
   mCounts = AddLabel(*statusBar(), 1);
   mHelper = AddLabel(*statusBar(), 0);
+  // A message takes the place of the counts alone.
+  statusBar()->removeWidget(mHelper);
+  statusBar()->addPermanentWidget(mHelper);
+  mHelper->show();
   mHelper->setTextFormat(Qt::RichText);
   mHelper->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   connect(mHelper, &QLabel::linkActivated, this, &MainWindow::AskAboutHelper);

@@ -78,6 +78,9 @@ class vqMainTableController final : public vqTableController, private ProcessRow
 
   /// Takes its view and window, builds columns, menus and toolbar, and sorts as last time. Once.
   void awakeFromNib(QMainWindow& window, StripedTableView& table);
+  /// At a first start, whose columns nobody has arranged, names get the room that a window of that
+  /// width has left.
+  void fillWidth(int width);
 
   // ---- The window's life ------------------------------------------------------------------------
 
@@ -301,6 +304,8 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   ProcessRows fRows{*this};
   /// In the order of the columns.
   std::vector<KeyId> fKeysWeTrackForUI;
+  /// Nothing was remembered of them.
+  bool fHasUsualColumns = false;
   std::unordered_set<std::string_view> fTracked;
   std::unordered_map<KeyId, char> fColumnSortDirection;
   std::unordered_map<KeyId, int> fColumnWidths;

@@ -13,6 +13,10 @@ using WindowTest = MainWindowTest;
 
 TEST_F(WindowTest, ComesBackWhereItWasIfThatCanBeSeen) {
   Open();
+  auto& header = *window->table().horizontalHeader();
+  EXPECT_LE(header.length(), window->table().viewport()->width());
+  EXPECT_GT(header.length() + 40, window->table().viewport()->width()) << "the first start's";
+  header.resizeSection(ColumnOf("meta_name"), 120);
   window->setGeometry(100, 80, 500, 400);
   QApplication::processEvents();
   const auto place = window->pos();
@@ -21,6 +25,7 @@ TEST_F(WindowTest, ComesBackWhereItWasIfThatCanBeSeen) {
   Open();
   EXPECT_EQ(window->size(), QSize(500, 400));
   EXPECT_EQ(window->pos(), place);
+  EXPECT_EQ(window->table().columnWidth(ColumnOf("meta_name")), 120);
   const QRect free = window->screen()->availableGeometry();
   for (const char* frame :
        {"90000 90000 500 400", "0 0 9 9", "rubbish", "0 0 -5 2000000000", "700 20 500 400",
