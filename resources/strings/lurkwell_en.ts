@@ -673,7 +673,7 @@
     </message>
     <message id="EXE_tip">
         <source></source>
-        <translation>The path of the program file; a dash where it may not be read, and for kernel threads.</translation>
+        <translation>The path of the program file; a dash for kernel threads, a cross where it may not be read.</translation>
     </message>
     <message id="F">
         <source></source>
@@ -1065,7 +1065,7 @@
     </message>
     <message id="PSS_tip">
         <source></source>
-        <translation>Memory in RAM with each shared page divided among those who share it. Slow to find out; 0 where it may not be read.</translation>
+        <translation>Memory in RAM with each shared page divided among those who share it. Slow to find out; a cross where it may not be read.</translation>
     </message>
     <message id="RBYTES">
         <source></source>
@@ -1073,7 +1073,7 @@
     </message>
     <message id="RBYTES_tip">
         <source></source>
-        <translation>Bytes that the storage devices had to deliver for the process. From /proc/PID/io; 0 where that may not be read.</translation>
+        <translation>Bytes that the storage devices had to deliver for the process. From /proc/PID/io; a cross where that may not be read.</translation>
     </message>
     <message id="RCHARS">
         <source></source>
@@ -1081,7 +1081,7 @@
     </message>
     <message id="RCHARS_tip">
         <source></source>
-        <translation>Bytes that the process asked for in its read calls, whether they came from a disk, a cache or a terminal. From /proc/PID/io; 0 where that may not be read.</translation>
+        <translation>Bytes that the process asked for in its read calls, whether they came from a disk, a cache or a terminal. From /proc/PID/io; a cross where that may not be read.</translation>
     </message>
     <message id="RGID">
         <source></source>
@@ -1105,7 +1105,7 @@
     </message>
     <message id="ROPS_tip">
         <source></source>
-        <translation>How many system calls for reading the process has made. From /proc/PID/io; 0 where that may not be read.</translation>
+        <translation>How many system calls for reading the process has made. From /proc/PID/io; a cross where that may not be read.</translation>
     </message>
     <message id="RSS">
         <source></source>
@@ -1497,7 +1497,7 @@
     </message>
     <message id="USS_tip">
         <source></source>
-        <translation>Memory in RAM that the process shares with no other: what would be free if it ended. Slow to find out; 0 where it may not be read.</translation>
+        <translation>Memory in RAM that the process shares with no other: what would be free if it ended. Slow to find out; a cross where it may not be read.</translation>
     </message>
     <message id="UTSNS">
         <source></source>
@@ -1529,7 +1529,7 @@
     </message>
     <message id="WBYTES_tip">
         <source></source>
-        <translation>Bytes that the process caused to be sent to the storage devices. From /proc/PID/io; 0 where that may not be read.</translation>
+        <translation>Bytes that the process caused to be sent to the storage devices. From /proc/PID/io; a cross where that may not be read.</translation>
     </message>
     <message id="WCBYTES">
         <source></source>
@@ -1537,7 +1537,7 @@
     </message>
     <message id="WCBYTES_tip">
         <source></source>
-        <translation>Bytes that the process wrote to files that were deleted or shortened before they reached the storage device. From /proc/PID/io; 0 where that may not be read.</translation>
+        <translation>Bytes that the process wrote to files that were deleted or shortened before they reached the storage device. From /proc/PID/io; a cross where that may not be read.</translation>
     </message>
     <message id="WCHAN">
         <source></source>
@@ -1553,7 +1553,7 @@
     </message>
     <message id="WCHARS_tip">
         <source></source>
-        <translation>Bytes that the process passed to its write calls, whether they went to a disk, a cache or a terminal. From /proc/PID/io; 0 where that may not be read.</translation>
+        <translation>Bytes that the process passed to its write calls, whether they went to a disk, a cache or a terminal. From /proc/PID/io; a cross where that may not be read.</translation>
     </message>
     <message id="WOPS">
         <source></source>
@@ -1561,7 +1561,7 @@
     </message>
     <message id="WOPS_tip">
         <source></source>
-        <translation>How many system calls for writing the process has made. From /proc/PID/io; 0 where that may not be read.</translation>
+        <translation>How many system calls for writing the process has made. From /proc/PID/io; a cross where that may not be read.</translation>
     </message>
     <message id="ZONE">
         <source></source>
@@ -1919,9 +1919,13 @@
         <source></source>
         <translation>Close</translation>
     </message>
+    <message id="help_title">
+        <source></source>
+        <translation>Lurkwell Help</translation>
+    </message>
     <message id="main_window_help_missing">
         <source></source>
-        <translation>Nothing could be started that shows the help page, %1.</translation>
+        <translation>The help page cannot be read: %1</translation>
     </message>
     <message id="value_not_yet_known">
         <source></source>

@@ -12,6 +12,7 @@
 
 #include "main_window/AskForPid.h"
 #include "main_window/FrontmostWindow.h"
+#include "main_window/HelpWindow.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/PropertyText.h"
 #include "main_window/ToolbarCustomiseDialog.h"
@@ -69,7 +70,7 @@ MainWindow::MainWindow(ApplicationCommands& commands)
     Report(LocalizedString("main_window_not_revealed").arg(PlainText(file)));
   });
   connect(mMenus.get(), &MainMenus::helpIsMissing, this, [this](const QString& page) {
-    Report(LocalizedString("main_window_help_missing").arg(page));
+    if (!ShowHelpWindow(page, *this)) Report(LocalizedString("main_window_help_missing").arg(page));
   });
   connect(mMenus.get(), &MainMenus::pidRequested, this, &MainWindow::FindByPid);
   connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);

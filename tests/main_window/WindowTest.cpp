@@ -1,6 +1,9 @@
 // The window as a whole, and the order of windows.
 #include <QLabel>
 #include <QScreen>
+#include <QStatusBar>
+#include <QTemporaryFile>
+#include <QTextBrowser>
 
 #include "channel/DaemonChannel.h"
 #include "main_window/FrontmostWindow.h"
@@ -69,6 +72,23 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   ASSERT_NE(label, nullptr);
   EXPECT_TRUE(label->text().contains(QLatin1String("not running")));
   QuitHelperDaemon();
+}
+
+TEST_F(WindowTest, HelpNeedsNoBrowser) {
+  Open();
+  QTemporaryFile page;
+  ASSERT_TRUE(page.open());
+  page.write("<html><body><h1>Heading</h1></body></html>");
+  page.close();
+  const auto browsers = [this] { return window->findChildren<QTextBrowser*>(); };
+  for (int time = 0; time < 2; ++time) Q_EMIT window->menus().helpIsMissing(page.fileName());
+  ASSERT_EQ(browsers().size(), 1) << "one window";
+  EXPECT_EQ(browsers().first()->toPlainText(), QLatin1String("Heading"));
+  browsers().first()->window()->close();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return browsers().isEmpty(); }));
+  Q_EMIT window->menus().helpIsMissing(QStringLiteral("/nonexistent/page.html"));
+  EXPECT_TRUE(browsers().isEmpty());
+  EXPECT_TRUE(window->statusBar()->currentMessage().contains("/nonexistent/page.html"));
 }
 
 TEST_F(WindowTest, OutOfSightItIsServedATenthAsOften) {
