@@ -26,6 +26,10 @@ constexpr int kSmallestPidWidth = 45;
 constexpr int kSmallestNameWidth = 220;
 constexpr int kSmallestBarWidth = 110;
 constexpr int kWidestFirstName = 440;
+constexpr QLatin1String kLongestKind("Kernel thread");
+/// "Nov 22 09:00:00 2026", in characters as wide as they are counted when a date is fitted.
+constexpr int kDateLength = 20;
+constexpr int kPointsPerDateCharacter = 6;
 
 /// Of sizes, times and shares one wants to see the largest.
 char DefaultDirection(std::string_view key) {
@@ -256,6 +260,14 @@ int vqMainTableController::widthForColumn(KeyId key, const QString& title) const
                              stripedTable()->header().widthForTitle(title));
   if (key == kMetaPid) return std::max(width, kSmallestPidWidth);
   if (key == kMetaName) return std::max(width, kSmallestNameWidth);
+  // Most of their texts would be cut.
+  const auto name = KeyText(key);
+  if (name == "meta_kind")
+    return std::max(width, metrics.horizontalAdvance(kLongestKind) + kWidthBesideTitle);
+  if (GetProcPropertyType(name.data(), nullptr) == kPropertyTypeDate)
+    return std::max(width, kDateLength * std::max(metrics.horizontalAdvance(QLatin1Char('0')),
+                                                  kPointsPerDateCharacter) +
+                               kWidthBesideTitle);
   const bool isBar = key == kInternalCPUPercent || key == kInternalMemGraph;
   return isBar ? std::max(width, kSmallestBarWidth) : width;
 }
