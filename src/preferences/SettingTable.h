@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -242,11 +244,17 @@ inline constexpr Setting kRows[] = {
 /// Every setting there is, by subject. Any thread.
 inline constexpr auto& kSettings = setting_rows::kRows;
 
+/// The place of a key in the table; the table's size when there is no such key. Any thread.
+constexpr std::size_t PlaceOfSetting(std::string_view key) {
+  std::size_t place = 0;
+  while (place < std::size(kSettings) && key != kSettings[place].key) ++place;
+  return place;
+}
+
 /// Null when there is no such key. Any thread.
 constexpr const Setting* FindSetting(std::string_view key) {
-  for (const auto& setting : kSettings)
-    if (key == setting.key) return &setting;
-  return nullptr;
+  const auto place = PlaceOfSetting(key);
+  return place < std::size(kSettings) ? &kSettings[place] : nullptr;
 }
 
 }  // namespace lurkwell

@@ -34,15 +34,16 @@ constexpr bool IsAnySetting(const Setting&) {
 template <bool (*kFits)(const Setting&)>
 class SettingKey {
  public:
-  consteval SettingKey(const char* key) : mRow(FindSetting(key)) {
+  consteval SettingKey(const char* key) : mPlace(PlaceOfSetting(key)) {
     // Neither may be reached: the call is an error then.
-    if (mRow == nullptr) throw "no such setting";
-    if (!kFits(*mRow)) throw "a setting of another type";
+    if (mPlace == std::size(kSettings)) throw "no such setting";
+    if (!kFits(kSettings[mPlace])) throw "a setting of another type";
   }
-  constexpr const Setting& Row() const { return *mRow; }
+  constexpr const Setting& Row() const { return kSettings[mPlace]; }
 
  private:
-  const Setting* mRow;
+  /// No pointer: the undefined-behaviour sanitizer keeps the compiler from comparing those.
+  std::size_t mPlace;
 };
 using IntegerSetting = SettingKey<&IsIntegerSetting>;
 using RealSetting = SettingKey<&IsRealSetting>;
@@ -52,15 +53,16 @@ using AnySetting = SettingKey<&IsAnySetting>;
 /// A colour, named by its red component's key; the other two rows follow.
 class ColourSetting {
  public:
-  consteval ColourSetting(const char* redKey) : mRed(FindSetting(redKey)) {
-    if (mRed == nullptr || !std::string_view(redKey).ends_with("_RED")) throw "no such colour";
+  consteval ColourSetting(const char* redKey) : mRed(PlaceOfSetting(redKey)) {
+    if (mRed + 2 >= std::size(kSettings) || !std::string_view(redKey).ends_with("_RED"))
+      throw "no such colour";
     for (std::size_t i = 0; i < 3; ++i)
-      if (mRed[i].kind != SettingKind::kColour) throw "a colour has three components";
+      if (Component(i).kind != SettingKind::kColour) throw "a colour has three components";
   }
-  constexpr const Setting& Component(std::size_t i) const { return mRed[i]; }
+  constexpr const Setting& Component(std::size_t i) const { return kSettings[mRed + i]; }
 
  private:
-  const Setting* mRed;
+  std::size_t mRed;
 };
 
 /// The value that counts. A default that does is stored, so that the file shows what there is.
