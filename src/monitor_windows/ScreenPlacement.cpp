@@ -14,6 +14,7 @@ constexpr int kCascadeStep = 24;
 /// Between windows that are moved apart, with room for the narrow title bars of histories.
 constexpr int kGap = 20;
 constexpr int kLargestApart = 10'000;
+constexpr std::int32_t kFarthest = 100'000;
 
 }  // namespace
 
@@ -34,10 +35,11 @@ QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
     return static_cast<int>(
         std::clamp<std::int64_t>(std::int64_t{to} - from, least, kLargestApart));
   };
-  return FitOnScreens(
-      {remembered.left, remembered.top, span(remembered.left, remembered.right, smallest.width()),
-       span(remembered.top, remembered.bottom, smallest.height())},
-      QSize(0, 0));
+  const auto corner = [](std::int32_t place) { return std::clamp(place, -kFarthest, kFarthest); };
+  return FitOnScreens({corner(remembered.left), corner(remembered.top),
+                       span(remembered.left, remembered.right, smallest.width()),
+                       span(remembered.top, remembered.bottom, smallest.height())},
+                      QSize(0, 0));
 }
 
 WindowRect PlaceApart(const WindowRect& wanted, const std::vector<QRect>& others, Overlap allowed) {

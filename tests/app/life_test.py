@@ -70,10 +70,10 @@ class Life(FollowedProgram):
     def answer_alert(self):
         def has_keyboard():
             # The view that it is about may come up over it.
-            self.output("xdotool", "search", "--onlyvisible", "--name", "^lurkwell$",
+            self.output("xdotool", "search", "--onlyvisible", "--name", "^Lurkwell$",
                         "windowactivate")
             time.sleep(0.2)
-            return self.active_window() == "lurkwell"
+            return self.active_window() == "Lurkwell"
         self.wait_for(has_keyboard, tell=self.windows)
         self.output("xdotool", "key", "Return")
 
@@ -205,7 +205,7 @@ class Life(FollowedProgram):
             self.skipTest("no file system may be mounted here")
         self.open_display()
         program = self.start([*command, BINARY])
-        self.wait_for(lambda: self.active_window() == "lurkwell")
+        self.wait_for(lambda: self.active_window() == "Lurkwell")
         self.assertFalse(self.is_shown("Processes"))
         self.answer_alert()
         _, errors = program.communicate(timeout=20)

@@ -17,7 +17,7 @@
 namespace lurkwell {
 namespace {
 
-/// Writes down what it is asked to show, and answers nobody.
+/// Writes down what it is asked to show.
 class FakeFileManager final : public QDBusVirtualObject {
  public:
   explicit FakeFileManager(const std::string& address)
@@ -30,12 +30,13 @@ class FakeFileManager final : public QDBusVirtualObject {
   void Leave() { EXPECT_TRUE(mBus.unregisterService("org.freedesktop.FileManager1")); }
 
   QString introspect(const QString&) const override { return {}; }
-  bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
     EXPECT_EQ(message.interface(), "org.freedesktop.FileManager1");
     EXPECT_EQ(message.member(), "ShowItems");
     EXPECT_EQ(message.signature(), "ass");
     shown = message.arguments().value(0).toStringList();
-    return true;
+    // A call that is still open when the bus ends fails then.
+    return bus.send(message.createReply());
   }
 
   QStringList shown;
@@ -88,20 +89,25 @@ class FakeOpener {
   FakeOpener() { ::setenv("PATH", folder.path().toUtf8().constData(), 1); }
   ~FakeOpener() { ::setenv("PATH", mPath.c_str(), 1); }
 
+  /// One that still runs keeps its own file, and what it tells is there as a whole.
   void Answer(int status) const {
-    QFile script(folder.filePath(QStringLiteral("xdg-open")));
+    QFile::remove(Path("xdg-open"));
+    QFile script(Path("xdg-open"));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\nprintf '%s' \"$1\" > \"${0%/*}/opened\"\nexit " +
-                 QByteArray::number(status) + "\n");
+    script.write(
+        "#!/bin/sh\nprintf '%s' \"$1\" > \"${0%/*}/part\"; "
+        "/bin/mv \"${0%/*}/part\" \"${0%/*}/opened\"; exit " +
+        QByteArray::number(status) + "\n");
     script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
   }
   std::string Opened() const {
-    QFile file(folder.filePath(QStringLiteral("opened")));
+    QFile file(Path("opened"));
     const bool isThere = file.open(QIODevice::ReadOnly);
     const auto opened = isThere ? file.readAll().toStdString() : std::string();
     file.remove();
     return opened;
   }
+  QString Path(const char* name) const { return folder.filePath(QLatin1String(name)); }
 
   QTemporaryDir folder;
 
@@ -134,8 +140,8 @@ TEST(Reveal, AFileIsShownOrElseItsFolderOrElseItIsSaid) {
   EXPECT_EQ(failures, 0);
   opener.Answer(3);
   EXPECT_TRUE(comesTo([&] { return failures == 1; })) << "it has found nothing that shows folders";
-  QFile::remove(opener.folder.filePath(QStringLiteral("xdg-open")));
-  EXPECT_TRUE(comesTo([&] { return failures == 2; }));
+  QFile::remove(opener.Path("xdg-open"));
+  EXPECT_TRUE(comesTo([&] { return failures == 2; })) << failures;
 }
 
 }  // namespace
