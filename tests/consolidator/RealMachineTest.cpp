@@ -24,7 +24,6 @@
 
 #include "consolidator/ProcessInformationFeederPS.h"
 #include "platform/ProcessFigures.h"
-#include "platform/ScriptedProc.h"
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxTools.h"
@@ -230,50 +229,6 @@ TEST_F(RealMachineTest, EveryFigureIsWhatItsFileSays) {
   }
   for (const auto& row : kFigures)
     EXPECT_EQ(tested.contains(std::string(row.property)), row.origin.source != 0) << row.property;
-}
-
-/// The same on a proc file system in memory.
-class ScriptedMachineTest : public ConsolidatorTest {
- protected:
-  std::shared_ptr<ScriptedProc> proc = std::make_shared<ScriptedProc>();
-  LinuxProcessTable processTable{proc};
-  Machine scripted{machine.clock,          machine.runLoop,        machine.preferenceDomain,
-                   processTable,           machine.processManager, machine.iconServices,
-                   machine.hostStatistics, machine.tools,          machine.signals,
-                   machine.namedPipes,     machine.authorization,  machine.bundle,
-                   machine.alerts,         machine.logFiles,       machine.hotKeys,
-                   machine.screen,         machine.eventBus};
-  MachineInstallation scriptedInstallation{scripted};
-};
-
-TEST_F(ScriptedMachineTest, ABeatForBirthsAloneIsNoListingWhereTheKernelTellsOfNone) {
-  for (const int pid : {10, 40}) proc->Start(pid);
-  proc->lastPid = 40;
-  int looks = 0;
-  proc->beforeAccess = [&](std::int32_t) { return ++looks, 0; };
-  Start();
-  Add("watchdog", 1000).Needs({"meta_name"}).WaitsForBirths();
-  machine.runLoop.RunFor(3000);
-  const auto after = [&](std::int64_t milliseconds) {
-    told.Clear();
-    proc->listings = looks = 0;
-    machine.runLoop.RunFor(milliseconds);
-    return told.Take();
-  };
-  EXPECT_EQ(after(3000), "watchdog updated\nwatchdog updated\nwatchdog updated\n");
-  EXPECT_EQ(proc->listings + looks, 0);
-  proc->Start(41);
-  proc->lastPid = 41;
-  EXPECT_EQ(after(1000), "watchdog added 41\nwatchdog updated\n");
-  EXPECT_EQ(proc->listings, 1);
-  after(1000);
-  // Nobody waits for ends, until somebody does.
-  proc->End(41);
-  EXPECT_EQ(after(2000), "watchdog updated\nwatchdog updated\n");
-  EXPECT_EQ(proc->listings, 0);
-  Add("table", 1000).Needs({"meta_name"});
-  EXPECT_NE(after(2000).find("watchdog removed 41"), std::string::npos);
-  EXPECT_GE(proc->listings, 2);
 }
 
 /// A number of the environment, for a run that is to last longer.
