@@ -79,7 +79,8 @@ bool RestrictFiles() {
   if (version < 1) return version < 0 && (errno == ENOSYS || errno == EOPNOTSUPP);
   const View view = ViewOfProcesses();
   if (view != View::kAll) return view == View::kOwn;
-  const landlock_ruleset_attr attributes{(1ull << kRights[version < 5 ? version : 5]) - 1};
+  landlock_ruleset_attr attributes{};
+  attributes.handled_access_fs = (1ull << kRights[version < 5 ? version : 5]) - 1;
   const long rules = syscall(SYS_landlock_create_ruleset, &attributes, sizeof attributes, 0);
   const int folder = open("/proc", O_PATH | O_DIRECTORY | O_CLOEXEC);
   const landlock_path_beneath_attr beneath{kRead, folder};

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QTest>
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 
 #include "app/SplashScreen.h"
