@@ -10,6 +10,8 @@ namespace lurkwell {
 /// with the picture at its own size, and does not answer to clicks. Its figure is in the tooltip
 /// and in what is spoken of it. Main thread only.
 class ToolbarGauge final : public QToolButton {
+  Q_OBJECT
+
  public:
   /// `size` is the picture's, in points; `iconHeight` that of the buttons beside it.
   ToolbarGauge(QSize size, int iconHeight, const QString& label, const QString& tip);
