@@ -1699,25 +1699,33 @@
         <source></source>
         <translation>&amp;ps Columns</translation>
     </message>
-    <message id="column_group_process">
+    <message id="column_group_identity">
         <source></source>
-        <translation>Process and Command</translation>
+        <translation>Identity</translation>
     </message>
-    <message id="column_group_time">
+    <message id="column_group_cpu">
         <source></source>
-        <translation>CPU and Time</translation>
+        <translation>CPU</translation>
     </message>
     <message id="column_group_memory">
         <source></source>
         <translation>Memory</translation>
     </message>
-    <message id="column_group_scheduling">
+    <message id="column_group_network">
         <source></source>
-        <translation>State and Priority</translation>
+        <translation>Network</translation>
     </message>
-    <message id="column_group_io">
+    <message id="column_group_gpu">
         <source></source>
-        <translation>Input and Output</translation>
+        <translation>GPU</translation>
+    </message>
+    <message id="column_group_security">
+        <source></source>
+        <translation>Security</translation>
+    </message>
+    <message id="column_group_disk">
+        <source></source>
+        <translation>Disk</translation>
     </message>
     <message id="column_group_users">
         <source></source>
@@ -1731,9 +1739,9 @@
         <source></source>
         <translation>Signals</translation>
     </message>
-    <message id="column_group_containers">
+    <message id="column_group_belonging">
         <source></source>
-        <translation>Control Groups and Namespaces</translation>
+        <translation>Belonging</translation>
     </message>
     <message id="column_group_other">
         <source></source>

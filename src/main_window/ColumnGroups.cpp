@@ -12,15 +12,17 @@ namespace lurkwell {
 namespace {
 
 enum GroupIndex : std::size_t {
-  kProcess,
-  kTime,
+  kIdentity,
+  kCPU,
   kMemory,
-  kScheduling,
-  kInputOutput,
+  kDisk,
+  kNetwork,
+  kGPU,
+  kBelonging,
+  kSecurity,
   kUsers,
   kTerminal,
   kSignals,
-  kContainers,
   kOther,
   kDesktop,
   kRepeated,
@@ -29,11 +31,12 @@ enum GroupIndex : std::size_t {
 };
 
 constexpr ColumnGroup kGroups[] = {
-    {"column_group_process"},    {"column_group_time"},        {"column_group_memory"},
-    {"column_group_scheduling"}, {"column_group_io"},          {"column_group_users"},
-    {"column_group_terminal"},   {"column_group_signals"},     {"column_group_containers"},
-    {"column_group_other"},      {"column_group_desktop"},     {"column_group_repeated"},
-    {"column_group_classic"},    {"column_group_not_counted"},
+    {"column_group_identity"},    {"column_group_cpu"},      {"column_group_memory"},
+    {"column_group_disk"},        {"column_group_network"},  {"column_group_gpu"},
+    {"column_group_belonging"},   {"column_group_security"}, {"column_group_users"},
+    {"column_group_terminal"},    {"column_group_signals"},  {"column_group_other"},
+    {"column_group_desktop"},     {"column_group_repeated"}, {"column_group_classic"},
+    {"column_group_not_counted"},
 };
 static_assert(std::size(kGroups) == kNotCounted + 1);
 
@@ -44,27 +47,31 @@ struct Members {
 };
 
 constexpr Members kMembers[] = {
-    {kProcess,
-     "meta_pid meta_name meta_kind pid_p_comm pid_parent_pid pid_p_starttime "
-     "PPID COMMAND COMM FNAME EXE START STARTED LSTART ELAPSED ETIMES F"},
-    {kTime, "%CPU %CUC %CUU C CP TIME CPUTIMES"},
+    {kIdentity,
+     "meta_pid meta_name meta_kind pid_p_comm pid_parent_pid pid_p_starttime pid_suspend_count "
+     "PPID COMMAND COMM FNAME EXE START STARTED LSTART ELAPSED ETIMES S STAT NLWP LWP F"},
+    {kCPU,
+     "meta_active_time pid_user_time pid_system_time pid_cpu_wait pid_processor "
+     "pid_p_priority pid_p_nice pid_policy pid_csw "
+     "%CPU %CUC %CUU C CP TIME CPUTIMES "
+     "NI PRI PRIORITY OPRI API RTPRIO CLS SCH NUMA WCHAN AGID AGNI P"},
     {kMemory,
-     "pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS PSS USS LIM MAJFLT MINFLT PAGEIN "
-     "OOM OOMADJ HTPRV HTSHR STACKP"},
-    {kScheduling,
-     "pid_p_priority pid_p_nice pid_policy pid_suspend_count pid_csw pid_processor "
-     "S STAT NI PRI PRIORITY OPRI API RTPRIO CLS SCH NUMA NLWP LWP WCHAN AGID AGNI P"},
-    {kInputOutput,
+     "pid_rsz pid_vsz pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS PSS USS LIM "
+     "MAJFLT MINFLT PAGEIN OOM OOMADJ HTPRV HTSHR STACKP"},
+    {kDisk,
      "pid_disk_read pid_disk_written pid_bytes_read pid_bytes_written pid_syscalls_unix "
      "pid_unit_disk_read pid_unit_disk_written WCBYTES ROPS WOPS"},
+    {kNetwork, ""},
+    {kGPU, ""},
+    {kBelonging,
+     "CGROUP CGNAME SLICE UNIT UUNIT MACHINE LXC "
+     "CGROUPNS IPCNS MNTNS NETNS PIDNS TIMENS USERNS UTSNS"},
+    {kSecurity, "LABEL CONTEXT"},
     {kUsers,
      "USER UID GROUP GID EUSER EUID EGROUP EGID RUSER RUID RGROUP RGID SUSER SUID SGROUP SGID "
      "FUSER FUID FGROUP FGID SUPGRP SUPGID LUID"},
     {kTerminal, "TTY TTY4 TPGID PGID SID SESSION SEAT OWNER"},
     {kSignals, "BLOCKED CAUGHT IGNORED PENDING TSIG"},
-    {kContainers,
-     "CGROUP CGNAME SLICE UNIT UUNIT MACHINE LXC LABEL CONTEXT "
-     "CGROUPNS IPCNS MNTNS NETNS PIDNS TIMENS USERNS UTSNS"},
     {kDesktop, "meta_psn"},
     {kRepeated,
      "BSDTIME CMD UCMD STIME RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL PSR RBYTES WBYTES "
@@ -95,7 +102,7 @@ std::size_t GroupOfOthers(std::string_view key) {
       return kMemory;
     case kPropertyTypeTime:
     case kPropertyTypeClock:
-      return kTime;
+      return kCPU;
     default:
       return kOther;
   }

@@ -262,9 +262,9 @@ TEST_F(ColumnsTest, ColumnsAreFoundByGroupAndByWhatIsTyped) {
   Open();
   window->menus().ValidateAll();
   auto& ps = Menus().PSAvailableMenu();
-  EXPECT_EQ(Offered(ps), "Process and Command|Memory|Other");
+  EXPECT_EQ(Offered(ps), "Identity|Memory|Other");
   const auto builtIn = Offered(Menus().BuiltInMenu());
-  EXPECT_TRUE(builtIn.starts_with("Process and Command|CPU and Time|Memory|")) << builtIn;
+  EXPECT_TRUE(builtIn.starts_with("Identity|CPU|Memory|")) << builtIn;
   EXPECT_TRUE(builtIn.ends_with("Classic Environment|Not Counted on This System")) << builtIn;
   // A column that nobody here has heard of still says what it is.
   EXPECT_EQ(ColumnItem(ps, "QQ")->text(), "QQ");
@@ -280,7 +280,7 @@ TEST_F(ColumnsTest, ColumnsAreFoundByGroupAndByWhatIsTyped) {
   const auto tip = controller().headerData(ColumnOf("QQ"), Qt::Horizontal, Qt::ToolTipRole);
   EXPECT_FALSE(tip.toString().contains("_tip")) << tip.toString().toStdString();
   ps.popup({0, 0});
-  EXPECT_EQ(Offered(ps), "Process and Command|Memory|Other") << "what was typed is gone";
+  EXPECT_EQ(Offered(ps), "Identity|Memory|Other") << "what was typed is gone";
   QTest::keyClicks(&ps, "xyzzy");
   EXPECT_TRUE(Offered(ps).starts_with("No column")) << Offered(ps);
   // Typed while a group is open, too.
