@@ -1,9 +1,9 @@
 #include "animated_view/HotKey.h"
 
 #include "animated_view/flowcontrolfsm.h"
-#include "main_window/OverlayKey.h"
 #include "platform/HotKeys.h"
 #include "platform/Machine.h"
+#include "windows/OverlayKey.h"
 
 namespace lurkwell {
 void SetUpHotKey() {

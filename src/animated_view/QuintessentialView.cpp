@@ -9,12 +9,8 @@
 #include <optional>
 
 #include "animated_view/QuintessentialGlobals.h"
-#include "animated_view/QuintessentialViewWindow.h"
+#include "animated_view/ViewCommands.h"
 #include "animated_view/ViewDrawing.h"
-#include "main_window/Preferences.h"
-#include "main_window/StripedTableView.h"
-#include "main_window/VQTarvMainWindowInfoSynch.h"
-#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
@@ -23,10 +19,9 @@ constexpr std::int32_t kFramesAfterExposure = 3;
 
 }  // namespace
 
-QuintessentialView::QuintessentialView(QuintessentialViewWindow& window, ViewDrawing& drawing)
-    : mWindow(window), mDrawing(drawing) {
-  gQuintessentialWindow = &window;
-}
+QuintessentialView::QuintessentialView(QWindow& window, ViewDrawing& drawing,
+                                       const ViewCommands& commands)
+    : mWindow(window), mDrawing(drawing), mCommands(commands) {}
 
 void QuintessentialView::drawRect() {
   const CriticalRegion::Guard inside(gQuintessentialMutex);
@@ -85,21 +80,15 @@ void QuintessentialView::mouseMoved(const QPointF& place) {
 }
 
 void QuintessentialView::handleMouseDownStuff(const QMouseEvent& event, bool isRightClick) {
-  if (gNSMainWindow == nullptr || gQuintessentialInformationClient == nullptr) return;
-  if (StoredInt(kShowProcessListKey).value_or(0) == 0) return;
-  const auto place = event.position();
-  bool isSelected = false;
+  std::int32_t pid = -1;
   {
     const CriticalRegion::Guard inside(gQuintessentialMutex);
-    const auto pid = gQuintessentialInformationClient->GetClosestPidToPoint(
+    if (gQuintessentialInformationClient == nullptr) return;
+    const auto place = event.position();
+    pid = gQuintessentialInformationClient->GetClosestPidToPoint(
         {place.x(), mSize.height - place.y()});
-    isSelected = VQTarvMainWindowInfoSynch::SelectPID(pid);
   }
-  auto* table = gTheStripedTableView;
-  if (!isSelected || table == nullptr) return;
-  table->showTheSpecialContextMenu(
-      table->viewport()->mapFromGlobal(event.globalPosition().toPoint()), isRightClick, false,
-      false);
+  mCommands.choose(pid, event.globalPosition().toPoint(), isRightClick);
 }
 
 }  // namespace lurkwell

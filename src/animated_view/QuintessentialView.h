@@ -8,17 +8,18 @@
 #include "animated_view/QuintessentialHost.h"
 
 class QMouseEvent;
+class QWindow;
 
 namespace lurkwell {
 
-class QuintessentialViewWindow;
+struct ViewCommands;
 struct ViewDrawing;
 
 /// The animated view inside one window. Main thread, unless a function says otherwise.
 class QuintessentialView {
  public:
-  /// Both outlive the view.
-  QuintessentialView(QuintessentialViewWindow& window, ViewDrawing& drawing);
+  /// All outlive the view.
+  QuintessentialView(QWindow& window, ViewDrawing& drawing, const ViewCommands& commands);
 
   /// Has the whole view drawn again, soon.
   void drawRect();
@@ -54,8 +55,9 @@ class QuintessentialView {
   bool DrawFrame();
   void NoteLimits();
 
-  QuintessentialViewWindow& mWindow;
+  QWindow& mWindow;
   ViewDrawing& mDrawing;
+  const ViewCommands& mCommands;
   ViewSize mSize;
   ViewMode mMode = ViewMode::kWindow;
   float mOpacity = 1.0F;

@@ -3,13 +3,13 @@
 
 #include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/QuintessentialViewWindow.h"
-#include "main_window/OverlayKey.h"
 #include "platform/Alerts.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/OverlayKey.h"
 
 namespace lurkwell {
 namespace {

@@ -12,12 +12,12 @@
 #include "animated_view/QuintessentialSupport.h"
 #include "animated_view/QuintessentialWindowDelegate.h"
 #include "animated_view/ViewDrawing.h"
-#include "main_window/FrontmostWindow.h"
-#include "main_window/OverlayKey.h"
-#include "main_window/WindowFrame.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
 #include "resources/Resources.h"
+#include "windows/FrontmostWindow.h"
+#include "windows/OverlayKey.h"
+#include "windows/WindowFrame.h"
 
 namespace lurkwell {
 namespace {
@@ -39,7 +39,11 @@ QuintessentialViewWindow* gQuintessentialWindow = nullptr;
 QuintessentialViewWindow::QuintessentialViewWindow(QuintessentialWindowDelegate& delegate,
                                                    ViewDrawing& drawing,
                                                    const ViewCommands& commands)
-    : mDelegate(delegate), mCommands(commands), mView(*this, drawing), mToggleKey(OverlayKey()) {
+    : mDelegate(delegate),
+      mCommands(commands),
+      mView(*this, drawing, commands),
+      mToggleKey(OverlayKey()) {
+  gQuintessentialWindow = this;
   setSurfaceType(QSurface::OpenGLSurface);
   setFormat(drawing.context.Format());
   setTitle(LocalizedString("quintessential_window_title"));

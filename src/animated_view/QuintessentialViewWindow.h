@@ -3,27 +3,15 @@
 #include <QBackingStore>
 #include <QMenu>
 #include <QWindow>
-#include <functional>
 #include <memory>
 
 #include "animated_view/QuintessentialView.h"
+#include "animated_view/ViewCommands.h"
 #include "platform/RunLoop.h"
 
 namespace lurkwell {
 
 class QuintessentialWindowDelegate;
-
-/// What a window of the animated view asks of the application as a whole.
-struct ViewCommands {
-  std::function<void()> doShowQuintessentialView;
-  std::function<void()> doToggleQuintessentialViewFullScreen;
-  std::function<void()> doShowMainWindow;
-  std::function<void()> doQuit;
-  /// The user has closed the view; nothing else of the program may be left to see.
-  std::function<void()> viewWasClosed;
-  /// Whether a window of the program other than the view's is there.
-  std::function<bool()> isSomethingElseThere;
-};
 
 /// The ordinary window of the animated view, the view and nothing else: a native window that is
 /// drawn into with OpenGL. It is hidden when it is closed, and kept. Main thread.

@@ -11,8 +11,6 @@
 #include "app/SplashScreen.h"
 #include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
-#include "main_window/FrontmostWindow.h"
-#include "main_window/WayBack.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "monitor_windows/ClassicWatchdog.h"
 #include "monitor_windows/FloatingWindow.h"
@@ -31,6 +29,8 @@
 #include "preferences/Settings.h"
 #include "preferences_window/PreferencesUI.h"
 #include "resources/Resources.h"
+#include "windows/FrontmostWindow.h"
+#include "windows/WayBack.h"
 
 namespace lurkwell {
 
@@ -80,7 +80,10 @@ void vqAppDelegate::init() {
       [this] {
         if (!IsAnythingVisibleBut(nullptr)) doQuit();
       },
-      [this] { return IsWidgetVisibleBut(nullptr); }});
+      [this] { return IsWidgetVisibleBut(nullptr); },
+      [this](std::int32_t pid, const QPoint& place, bool wantsMenu) {
+        fMainWindow->ChooseProcess(pid, place, wantsMenu);
+      }});
   connect(&fMainWindow->controller(), &vqMainTableController::contentsChanged, this, [this] {
     // Nobody sees what is selected in a window that is not there.
     const auto& main = *fMainWindow;

@@ -12,8 +12,8 @@
 #include <algorithm>
 
 #include "main_window/ActionTexts.h"
-#include "main_window/PropertyText.h"
 #include "resources/Resources.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {

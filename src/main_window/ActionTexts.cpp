@@ -9,8 +9,8 @@
 #include <string>
 #include <utility>
 
-#include "main_window/PropertyText.h"
 #include "resources/Resources.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {

@@ -6,9 +6,9 @@
 
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/ColumnGroups.h"
-#include "main_window/ControllerAssertion.h"
 #include "main_window/vqMainTableController.h"
 #include "resources/Resources.h"
+#include "windows/ControllerAssertion.h"
 
 namespace lurkwell {
 namespace {

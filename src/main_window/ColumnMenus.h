@@ -5,7 +5,7 @@
 #include <QObject>
 
 #include "main_window/FilterMenu.h"
-#include "main_window/Keys.h"
+#include "windows/Keys.h"
 
 namespace lurkwell {
 

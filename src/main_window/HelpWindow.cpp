@@ -7,10 +7,10 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "main_window/ControlledWindow.h"
-#include "main_window/FrontmostWindow.h"
-#include "main_window/WindowFrame.h"
 #include "resources/Resources.h"
+#include "windows/ControlledWindow.h"
+#include "windows/FrontmostWindow.h"
+#include "windows/WindowFrame.h"
 
 namespace lurkwell {
 

@@ -9,12 +9,12 @@
 
 #include "main_window/ColumnGroups.h"
 #include "main_window/MainToolbar.h"
-#include "main_window/OverlayKey.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
 #include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
+#include "windows/OverlayKey.h"
 
 namespace lurkwell {
 

@@ -6,25 +6,11 @@
 #include <functional>
 
 #include "main_window/MenuCommands.h"
+#include "windows/ApplicationCommands.h"
 
 namespace lurkwell {
 
 class vqMainTableController;
-
-/// What menu items of the main window ask of the application as a whole; implemented above this
-/// floor.
-class ApplicationCommands {
- public:
-  virtual ~ApplicationCommands() = default;
-  virtual void doThePrefs() = 0;
-  virtual void doAboutPanel() = 0;
-  virtual void doShowMainWindow() = 0;
-  virtual void doShowQuintessentialView() {}
-  virtual void doToggleQuintessentialViewFullScreen() {}
-  virtual void doQuit() = 0;
-  /// Whether nothing of the program would be seen without this window; closing it then quits.
-  virtual bool isLastWindow(const QWidget& window) const = 0;
-};
 
 /// The main window's menus: every command, its shortcut, and whether it may be chosen, which is
 /// looked at again whenever a menu opens and whenever the selection changes. While one of the menus

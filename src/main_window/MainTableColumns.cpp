@@ -7,13 +7,13 @@
 
 #include "consolidator/PSHeaders.h"
 #include "consolidator/PropertyCatalogue.h"
-#include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
 #include "main_window/vqMainTableController.h"
 #include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/ControllerAssertion.h"
 
 namespace lurkwell {
 namespace {

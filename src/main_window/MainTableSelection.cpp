@@ -4,8 +4,9 @@
 #include <unordered_set>
 
 #include "consolidator/WholeNames.h"
-#include "main_window/PropertyText.h"
 #include "main_window/vqMainTableController.h"
+#include "windows/PropertyText.h"
+#include "windows/RowSorting.h"
 
 namespace lurkwell {
 

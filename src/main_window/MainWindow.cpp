@@ -11,16 +11,18 @@
 #include <algorithm>
 
 #include "main_window/AskForPid.h"
-#include "main_window/FrontmostWindow.h"
 #include "main_window/HelpWindow.h"
 #include "main_window/MainToolbar.h"
-#include "main_window/PropertyText.h"
+#include "main_window/Preferences.h"
 #include "main_window/ToolbarCustomiseDialog.h"
-#include "main_window/WindowFrame.h"
 #include "platform/Machine.h"
 #include "platform/PreferenceDomain.h"
 #include "platform/ProcessManager.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/FrontmostWindow.h"
+#include "windows/PropertyText.h"
+#include "windows/WindowFrame.h"
 
 namespace lurkwell {
 namespace {
@@ -266,6 +268,15 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   // On this desktop nothing but windows leads back to the program.
   if (mCommands.isLastWindow(*this)) return mCommands.doQuit();
   mController->windowWillClose();
+}
+
+void MainWindow::ChooseProcess(std::int32_t pid, const QPoint& place, bool wantsMenu) {
+  auto* table = gTheStripedTableView;
+  if (gNSMainWindow == nullptr || table == nullptr) return;
+  if (StoredInt(kShowProcessListKey).value_or(0) == 0) return;
+  if (!VQTarvMainWindowInfoSynch::SelectPID(pid)) return;
+  table->showTheSpecialContextMenu(table->viewport()->mapFromGlobal(place), wantsMenu, false,
+                                   false);
 }
 
 }  // namespace lurkwell

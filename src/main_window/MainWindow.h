@@ -9,9 +9,9 @@
 
 #include "channel/DaemonCommunication.h"
 #include "main_window/MainMenus.h"
-#include "main_window/StripedTableView.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Alerts.h"
+#include "windows/StripedTableView.h"
 
 namespace lurkwell {
 
@@ -34,6 +34,11 @@ class MainWindow : public QMainWindow {
   void SaveFrame();
   /// The remembered size, or the first one, which the screen may be too small for.
   QSize WantedSize() const { return mWantedSize; }
+
+  /// Selects a process that was chosen in another window, while the list of processes is there, and
+  /// opens its context menu if `wantsMenu`; `place` is one of the whole desktop. Nothing happens to
+  /// a process without a row.
+  void ChooseProcess(std::int32_t pid, const QPoint& place, bool wantsMenu);
 
   /// For a right click beside the table: what can be done to the toolbar.
   QMenu* createPopupMenu() override;

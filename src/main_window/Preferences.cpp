@@ -8,10 +8,6 @@ std::int32_t MainWindowInterval() {
   return ReadInt(kMainWindowIntervalKey);
 }
 
-bool IgnoresPidZero() {
-  return ReadSwitch("MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE");
-}
-
 bool DrawsVSZText() {
   return ReadSwitch("MEM_GRAPH_DRAW_VSZ");
 }

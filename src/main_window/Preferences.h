@@ -9,9 +9,6 @@ namespace lurkwell {
 /// Milliseconds between two updates of the table.
 std::int32_t MainWindowInterval();
 
-/// Whether the idle task's CPU share and size count as 0 where they would hide all others'.
-bool IgnoresPidZero();
-
 /// Whether memory bars carry the virtual size as text.
 bool DrawsVSZText();
 

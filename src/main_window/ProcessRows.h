@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "main_window/RowDictionary.h"
+#include "windows/RowDictionary.h"
 
 namespace lurkwell {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "main_window/SystemFigures.h"
 #include "platform/Assertion.h"
 #include "platform/Diagnostics.h"
+#include "windows/SystemFigures.h"
 
 namespace lurkwell {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <cmath>
 
-#include "main_window/SystemFigures.h"
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
+#include "windows/SystemFigures.h"
 
 namespace lurkwell {
 namespace {

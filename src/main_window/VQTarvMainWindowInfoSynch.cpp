@@ -7,7 +7,6 @@
 #include <limits>
 
 #include "consolidator/PI_Consolidator.h"
-#include "main_window/ControllerAssertion.h"
 #include "main_window/Preferences.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Clock.h"
@@ -15,12 +14,13 @@
 #include "platform/Machine.h"
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
+#include "windows/ControllerAssertion.h"
+#include "windows/CustomCells.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 
 QPointer<QWidget> gNSMainWindow;
-std::int64_t gBiggestVSZ = 0;
-bool gDrawVSZText = false;
 bool gNewColumnWasAddedRecently = false;
 VQTarvMainWindowInfoSynch* VQTarvMainWindowInfoSynch::zm_MainWindow = nullptr;
 

@@ -9,10 +9,10 @@
 
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/WholeNames.h"
-#include "main_window/RowDictionary.h"
-#include "main_window/SystemFigures.h"
 #include "platform/RunLoop.h"
 #include "platform/TimeValue.h"
+#include "windows/RowDictionary.h"
+#include "windows/SystemFigures.h"
 
 namespace lurkwell {
 
@@ -20,13 +20,6 @@ class vqMainTableController;
 
 /// The main window while its table is served, null otherwise.
 extern QPointer<QWidget> gNSMainWindow;
-
-/// The largest virtual size among all processes in the last update, in bytes; what memory bars are
-/// measured by.
-extern std::int64_t gBiggestVSZ;
-
-/// Whether memory bars carry their size as text; as of the last update.
-extern bool gDrawVSZText;
 
 /// A column was added since the last update, so that even what never changes has to be read.
 extern bool gNewColumnWasAddedRecently;

@@ -11,7 +11,6 @@
 #include "main_window/ColumnGroups.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/Preferences.h"
-#include "main_window/PropertyText.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
@@ -19,6 +18,8 @@
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
 #include "resources/Resources.h"
+#include "windows/PropertyText.h"
+#include "windows/RowSorting.h"
 
 namespace lurkwell {
 namespace {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QRect>
 #include <QString>
 #include <cstdint>
 #include <functional>
@@ -13,14 +12,15 @@
 
 #include "consolidator/PropertyTypes.h"
 #include "main_window/ColumnMenus.h"
-#include "main_window/CustomCells.h"
 #include "main_window/MenuCommands.h"
 #include "main_window/ProcessRows.h"
-#include "main_window/StripedTableView.h"
 #include "main_window/ToolbarItems.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
-#include "main_window/vqTableController.h"
 #include "process_control/ActionPlan.h"
+#include "windows/CustomCells.h"
+#include "windows/MonitorWindows.h"
+#include "windows/StripedTableView.h"
+#include "windows/vqTableController.h"
 
 class QAction;
 class QMainWindow;
@@ -28,29 +28,6 @@ class QMainWindow;
 namespace lurkwell {
 
 class MainToolbar;
-
-/// Opens the windows that follow a process. Implemented above this floor.
-class MonitorWindows {
- public:
-  virtual ~MonitorWindows() = default;
-  /// `interval` in milliseconds.
-  virtual void CreateCPUHistoryWindow(std::int32_t interval, std::int32_t pid) = 0;
-  virtual void CreateLoggingWindow(std::int32_t interval, std::int32_t pid) = 0;
-  /// How many more may be opened.
-  virtual int CountRoom() const = 0;
-
-  /// One that is open. The functions do nothing once it is closed.
-  struct OpenWindow {
-    QString title;
-    QRect place;
-    std::function<void()> show;
-    /// As its user would: it is not remembered any more if its process runs.
-    std::function<void()> close;
-  };
-  virtual std::vector<OpenWindow> OpenWindows() const { return {}; }
-  /// Shows what is remembered, to be forgotten or looked for, beside `parent`.
-  virtual void ShowRememberedWindows(QWidget* parent) { static_cast<void>(parent); }
-};
 
 /// The process table: its rows and columns as the view's model, the column menus, and what can be
 /// done to the selected processes. Main thread only.
@@ -61,17 +38,6 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   Q_OBJECT
 
  public:
-  /// What cells draw from, besides the usual roles: the CPU share, resident and virtual size,
-  /// whether a figure is an old one, an ended process's or missing, and whether the row is the idle
-  /// task's.
-  enum Role {
-    kCpuShareRole = Qt::UserRole,
-    kResidentSizeRole,
-    kVirtualSizeRole,
-    kIsFaintRole,
-    kIsIdleTaskRole
-  };
-
   /// Reads the columns from the preferences, adding what must be there, and makes the synchroniser.
   vqMainTableController();
   ~vqMainTableController() override;

@@ -3,12 +3,12 @@
 
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PropertyValues.h"
-#include "main_window/PropertyText.h"
-#include "main_window/WayBack.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
 #include "resources/Resources.h"
+#include "windows/PropertyText.h"
+#include "windows/WayBack.h"
 
 namespace lurkwell {
 namespace {

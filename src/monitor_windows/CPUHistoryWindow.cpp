@@ -8,8 +8,6 @@
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/ProcessQueries.h"
-#include "main_window/FrontmostWindow.h"
-#include "main_window/PropertyText.h"
 #include "monitor_windows/LoggingWindowUI.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "monitor_windows/Unit.h"
@@ -17,6 +15,8 @@
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"
+#include "windows/FrontmostWindow.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
-#include "main_window/vqMainTableController.h"
 #include "monitor_windows/CPUHistoryGraph.h"
 #include "monitor_windows/CPUHistoryPreferences.h"
 #include "monitor_windows/FollowedProcess.h"
@@ -13,6 +12,7 @@
 #include "monitor_windows/RememberedWindows.h"
 #include "monitor_windows/Satellite.h"
 #include "platform/TimeValue.h"
+#include "windows/MonitorWindows.h"
 
 namespace lurkwell {
 

@@ -3,9 +3,9 @@
 #include <span>
 
 #include "consolidator/WholeNames.h"
-#include "main_window/PropertyText.h"
 #include "platform/Machine.h"
 #include "platform/ProcessTable.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "main_window/FrontmostWindow.h"
 #include "monitor_windows/LoggingWindowUI.h"
 #include "monitor_windows/RememberedWindowsPanel.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "preferences/PreferenceBatch.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {

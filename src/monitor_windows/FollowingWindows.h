@@ -3,9 +3,9 @@
 #include <functional>
 #include <vector>
 
-#include "main_window/vqMainTableController.h"
 #include "monitor_windows/MonitorWindowKinds.h"
 #include "platform/LogFiles.h"
+#include "windows/MonitorWindows.h"
 
 namespace lurkwell {
 

@@ -4,7 +4,6 @@
 #include <QPointer>
 #include <utility>
 
-#include "main_window/PropertyText.h"
 #include "monitor_windows/LogFileName.h"
 #include "monitor_windows/LogSaving.h"
 #include "monitor_windows/LoggingWindowUI.h"
@@ -12,6 +11,7 @@
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
 #include "resources/Resources.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 

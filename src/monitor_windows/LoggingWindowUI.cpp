@@ -13,10 +13,6 @@
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/ProcessQueries.h"
-#include "main_window/ControlledWindow.h"
-#include "main_window/FrontmostWindow.h"
-#include "main_window/PropertyText.h"
-#include "main_window/WindowFrame.h"
 #include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/LoggingPreferences.h"
 #include "monitor_windows/LoggingWindowInformationClient2.h"
@@ -27,6 +23,10 @@
 #include "platform/Machine.h"
 #include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
+#include "windows/ControlledWindow.h"
+#include "windows/FrontmostWindow.h"
+#include "windows/PropertyText.h"
+#include "windows/WindowFrame.h"
 
 namespace lurkwell {
 

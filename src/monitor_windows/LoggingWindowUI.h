@@ -11,11 +11,11 @@
 #include <string>
 #include <vector>
 
-#include "main_window/vqTableController.h"
 #include "monitor_windows/LoggingRecord.h"
 #include "monitor_windows/RememberedWindows.h"
 #include "platform/LogFiles.h"
 #include "platform/Uuid.h"
+#include "windows/vqTableController.h"
 
 namespace lurkwell {
 

@@ -3,13 +3,13 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include "main_window/FrontmostWindow.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
 #include "preferences/Settings.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {

@@ -7,13 +7,13 @@
 #include <QVBoxLayout>
 
 #include "consolidator/ProcessQueries.h"
-#include "main_window/FrontmostWindow.h"
-#include "main_window/PropertyText.h"
 #include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/RememberedWindows.h"
 #include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
+#include "windows/FrontmostWindow.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {

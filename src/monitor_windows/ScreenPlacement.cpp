@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "main_window/WindowFrame.h"
+#include "windows/WindowFrame.h"
 
 namespace lurkwell {
 namespace {

@@ -4,8 +4,8 @@
 #include <cstdint>
 
 #include "consolidator/ProcessInformationClient.h"
-#include "main_window/SystemFigures.h"
 #include "monitor_windows/ProcessInformationWindow.h"
+#include "windows/SystemFigures.h"
 
 namespace lurkwell {
 

@@ -9,12 +9,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "main_window/CustomCells.h"
-#include "main_window/FrontmostWindow.h"
 #include "platform/Diagnostics.h"
 #include "preferences_window/SettingTexts.h"
 #include "preferences_window/SettingTitleCell.h"
 #include "resources/Resources.h"
+#include "windows/CustomCells.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {

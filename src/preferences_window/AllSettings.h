@@ -7,8 +7,8 @@
 #include <QTableView>
 #include <QTimer>
 
-#include "main_window/ControlledWindow.h"
 #include "preferences_window/SettingsModel.h"
+#include "windows/ControlledWindow.h"
 
 namespace lurkwell {
 

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "main_window/ControllerAssertion.h"
 #include "resources/Resources.h"
+#include "windows/ControllerAssertion.h"
 
 namespace lurkwell {
 namespace {

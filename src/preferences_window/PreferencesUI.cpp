@@ -14,9 +14,6 @@
 #include <memory>
 #include <utility>
 
-#include "main_window/ControlledWindow.h"
-#include "main_window/ControllerAssertion.h"
-#include "main_window/FrontmostWindow.h"
 #include "platform/Alerts.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
@@ -24,6 +21,9 @@
 #include "preferences_window/AllSettings.h"
 #include "preferences_window/PreferenceChanges.h"
 #include "resources/Resources.h"
+#include "windows/ControlledWindow.h"
+#include "windows/ControllerAssertion.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 

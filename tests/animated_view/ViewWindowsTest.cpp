@@ -37,7 +37,10 @@ class ViewWindows : public OnADisplay, public ApplicationCommands {
     CreateFlowControlFSMMgr();
     windows = std::make_unique<QuintessentialWindows>(
         ViewCommands{[this] { windows->ShowCurrentWindow(); }, [] { HotKeyFunc(); }, [] {}, [] {},
-                     [] {}, [this] { return mainWindow != nullptr && mainWindow->isVisible(); }});
+                     [] {}, [this] { return mainWindow != nullptr && mainWindow->isVisible(); },
+                     [this](std::int32_t pid, const QPoint& place, bool wantsMenu) {
+                       if (mainWindow != nullptr) mainWindow->ChooseProcess(pid, place, wantsMenu);
+                     }});
   }
   ~ViewWindows() override {
     gApplicationQuitting = true;

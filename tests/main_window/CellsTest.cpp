@@ -4,10 +4,10 @@
 
 #include "consolidator/PidReport.h"
 #include "consolidator/TextScan.h"
-#include "main_window/CustomCells.h"
 #include "main_window/MainWindowTest.h"
-#include "main_window/PropertyText.h"
 #include "resources/Resources.h"
+#include "windows/CustomCells.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {
@@ -104,7 +104,7 @@ TEST_F(CellsTest, WhyThereIsNoFigureIsToldApartFromNothing) {
   EXPECT_TRUE(tips[1].contains("only root")) << tips[1].toStdString();
   EXPECT_TRUE(tips[2].contains("no such figure")) << tips[2].toStdString();
   EXPECT_EQ(tips[3], QString());
-  EXPECT_EQ(cells(vqMainTableController::kIsFaintRole), "true|true|true|false");
+  EXPECT_EQ(cells(kIsFaintRole), "true|true|true|false");
   ClickHeader("pid_faults");
   EXPECT_EQ(Pids().substr(8), "300 301 302");
   ClickHeader("pid_faults");
@@ -136,8 +136,8 @@ TEST_F(CellsTest, TheIdleTaskAndZombiesAreNoWorkingProcesses) {
   };
   EXPECT_EQ(cell(300, "meta_kind").data().toString(), "Zombie");
   EXPECT_EQ(cell(1, "meta_kind").data().toString(), "Process");
-  EXPECT_TRUE(cell(300, "meta_name").data(vqMainTableController::kIsFaintRole).toBool());
-  EXPECT_FALSE(cell(1, "meta_name").data(vqMainTableController::kIsFaintRole).toBool());
+  EXPECT_TRUE(cell(300, "meta_name").data(kIsFaintRole).toBool());
+  EXPECT_FALSE(cell(1, "meta_name").data(kIsFaintRole).toBool());
   EXPECT_TRUE(cell(300, "meta_name")
                   .data(Qt::ToolTipRole)
                   .toString()

@@ -49,7 +49,7 @@ TEST_F(ColumnsTest, WhatIsChosenComesBack) {
   EXPECT_EQ(ColumnItem(Menus().PSAvailableMenu(), "PID"), nullptr) << "there already";
   const auto isOld = [this] {
     const auto cell = controller().index(2, ColumnOf("UID"));
-    const bool isGrey = cell.data(vqMainTableController::kIsFaintRole).toBool();
+    const bool isGrey = cell.data(kIsFaintRole).toBool();
     EXPECT_EQ(!cell.data(Qt::ToolTipRole).toString().isEmpty(), isGrey);
     return isGrey;
   };

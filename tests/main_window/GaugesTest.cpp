@@ -1,10 +1,10 @@
 // The toolbar's gauges: their pictures by the pixel, and what they show of the machine.
 #include "main_window/MainToolbar.h"
 #include "main_window/MainWindowTest.h"
-#include "main_window/SystemFigures.h"
 #include "main_window/SystemInfoImage.h"
 #include "main_window/ToolbarGauge.h"
 #include "support/OpenChannel.h"
+#include "windows/SystemFigures.h"
 
 namespace lurkwell {
 namespace {

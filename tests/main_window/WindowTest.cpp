@@ -6,8 +6,8 @@
 #include <QTextBrowser>
 
 #include "channel/DaemonChannel.h"
-#include "main_window/FrontmostWindow.h"
 #include "main_window/MainWindowTest.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {

@@ -8,11 +8,11 @@
 #include <QTest>
 #include <QToolTip>
 
-#include "main_window/FrontmostWindow.h"
 #include "monitor_windows/ProcessInformationWindow.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {

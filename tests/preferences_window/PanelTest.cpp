@@ -4,7 +4,7 @@
 #include <QScreen>
 #include <QTabBar>
 
-#include "main_window/FrontmostWindow.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {

@@ -1,13 +1,14 @@
-#include "main_window/RowSorting.h"
+#include "windows/RowSorting.h"
 
 #include <QApplication>
 #include <algorithm>
 #include <utility>
 
 #include "consolidator/PI_Consolidator.h"
-#include "main_window/ControllerAssertion.h"
-#include "main_window/Preferences.h"
+#include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
+#include "windows/ControllerAssertion.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {
@@ -206,6 +207,10 @@ RowComparison SortingComparisonForColumn(std::string_view key) {
   if (IsInternalKey(key)) return InternalComparison(key);
   const auto compare = ComparisonForColumn(key);
   return compare == hexCompare ? nullptr : compare;
+}
+
+bool IgnoresPidZero() {
+  return ReadSwitch("MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE");
 }
 
 void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,

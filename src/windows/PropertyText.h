@@ -34,4 +34,8 @@ QString MissingText(const TypedValue& value);
 /// A sentence about it, with what would be needed to see a figure; empty for a value.
 QString MissingTip(const TypedValue& value);
 
+/// The value as a number; 0 for texts and nothing.
+double NumberOf(const TypedValue& value);
+std::int64_t IntegerOf(const TypedValue& value);
+
 }  // namespace lurkwell

@@ -1,4 +1,4 @@
-#include "main_window/WayBack.h"
+#include "windows/WayBack.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "main_window/TableHeader.h"
+#include "windows/TableHeader.h"
 
 #include <QPainter>
 #include <QStyleOptionHeader>

@@ -1,4 +1,4 @@
-#include "main_window/ControlledWindow.h"
+#include "windows/ControlledWindow.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

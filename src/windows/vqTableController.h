@@ -6,8 +6,8 @@
 #include <QWidget>
 #include <string_view>
 
-#include "main_window/Keys.h"
-#include "main_window/RowSorting.h"
+#include "windows/Keys.h"
+#include "windows/RowSorting.h"
 
 namespace lurkwell {
 

@@ -1,4 +1,4 @@
-#include "main_window/FrontmostWindow.h"
+#include "windows/FrontmostWindow.h"
 
 #include <QEvent>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "main_window/StripedTableView.h"
+#include "windows/StripedTableView.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -8,7 +8,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "main_window/CustomCells.h"
+#include "windows/CustomCells.h"
 
 namespace lurkwell {
 

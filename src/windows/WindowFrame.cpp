@@ -1,4 +1,4 @@
-#include "main_window/WindowFrame.h"
+#include "windows/WindowFrame.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,4 +1,4 @@
-#include "main_window/Keys.h"
+#include "windows/Keys.h"
 
 #include <deque>
 #include <string>

@@ -1,4 +1,4 @@
-#include "main_window/vqTableController.h"
+#include "windows/vqTableController.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>

@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QTableView>
 
-#include "main_window/TableHeader.h"
+#include "windows/TableHeader.h"
 
 namespace lurkwell {
 

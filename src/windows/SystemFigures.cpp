@@ -1,4 +1,4 @@
-#include "main_window/SystemFigures.h"
+#include "windows/SystemFigures.h"
 
 #include <algorithm>
 

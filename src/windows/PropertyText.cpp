@@ -1,6 +1,5 @@
-#include "main_window/PropertyText.h"
+#include "windows/PropertyText.h"
 
-#include "main_window/RowDictionary.h"
 #include "platform/PrintableText.h"
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
@@ -39,6 +38,18 @@ const char* IdOfMissing(const TypedValue& value) {
 }
 
 }  // namespace
+
+double NumberOf(const TypedValue& value) {
+  if (const auto* integer = std::get_if<std::int64_t>(&value)) return static_cast<double>(*integer);
+  if (const auto* real = std::get_if<double>(&value)) return *real;
+  if (const auto* time = std::get_if<TimeValue>(&value)) return InSeconds(*time);
+  return 0.0;
+}
+
+std::int64_t IntegerOf(const TypedValue& value) {
+  if (const auto* integer = std::get_if<std::int64_t>(&value)) return *integer;
+  return 0;
+}
 
 QString MissingText(const TypedValue& value) {
   const auto* id = IdOfMissing(value);

@@ -1,4 +1,4 @@
-#include "main_window/OverlayKey.h"
+#include "windows/OverlayKey.h"
 
 #include <QString>
 

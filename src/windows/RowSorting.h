@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "main_window/RowDictionary.h"
+#include "windows/RowDictionary.h"
 
 namespace lurkwell {
 
@@ -67,6 +67,9 @@ RowComparison ComparisonForColumn(std::string_view key);
 /// The same, but null where sorting changes nothing: hexadecimal properties and unknown keys that
 /// begin with "internal_".
 RowComparison SortingComparisonForColumn(std::string_view key);
+
+/// Whether the idle task's CPU share and size count as 0 where they would hide all others'.
+bool IgnoresPidZero();
 
 /// Sorts with n log n comparisons; n when the rows are in order already.
 void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,

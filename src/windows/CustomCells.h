@@ -8,6 +8,24 @@ namespace lurkwell {
 /// The drawing of the table's cells; one of each kind serves all rows. Values are set right before
 /// drawing. Colours follow the palette where it is dark. Main thread only.
 
+/// What cells draw from, besides the usual roles: the CPU share, resident and virtual size,
+/// whether a figure is an old one, an ended process's or missing, and whether the row is the idle
+/// task's.
+enum CellRole {
+  kCpuShareRole = Qt::UserRole,
+  kResidentSizeRole,
+  kVirtualSizeRole,
+  kIsFaintRole,
+  kIsIdleTaskRole
+};
+
+/// The largest virtual size among all processes in the last update, in bytes; what memory bars are
+/// measured by.
+inline std::int64_t gBiggestVSZ = 0;
+
+/// Whether memory bars carry their size as text; as of the last update.
+inline bool gDrawVSZText = false;
+
 /// One line of text, cut at the end, with the selection behind it; what is old, ended or missing
 /// stands in a fainter colour.
 class TextCell final : public QStyledItemDelegate {

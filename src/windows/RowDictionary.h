@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "consolidator/TypedValue.h"
-#include "main_window/Keys.h"
 #include "platform/ProcessTable.h"
 #include "platform/TimeValue.h"
+#include "windows/Keys.h"
 
 namespace lurkwell {
 
@@ -104,9 +104,5 @@ class RowDictionary {
   RunState mRunState = RunState::kSleeping;
   bool mChanged = true;
 };
-
-/// The value as a number; 0 for texts and nothing.
-double NumberOf(const RowValue& value);
-std::int64_t IntegerOf(const RowValue& value);
 
 }  // namespace lurkwell

@@ -1,4 +1,4 @@
-#include "main_window/CustomCells.h"
+#include "windows/CustomCells.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -7,8 +7,6 @@
 #include <cmath>
 #include <utility>
 
-#include "main_window/VQTarvMainWindowInfoSynch.h"
-#include "main_window/vqMainTableController.h"
 #include "process_control/DisplayFormats.h"
 
 namespace lurkwell {
@@ -55,7 +53,7 @@ void TextCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const auto rect = option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
   const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
   painter->setFont(option.font);
-  const bool isFaint = index.data(vqMainTableController::kIsFaintRole).toBool();
+  const bool isFaint = index.data(kIsFaintRole).toBool();
   painter->setPen(
       option.palette.color(isFaint ? QPalette::Disabled : GroupOf(option),
                            IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
@@ -93,9 +91,9 @@ void CPUCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool 
 void CPUCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                     const QModelIndex& index) const {
   DrawBackground(*painter, option);
-  mCpuPercentage = index.data(vqMainTableController::kCpuShareRole).toDouble();
+  mCpuPercentage = index.data(kCpuShareRole).toDouble();
   drawInteriorWithFrame(*painter, option.rect, IsDark(option.palette),
-                        index.data(vqMainTableController::kIsIdleTaskRole).toBool());
+                        index.data(kIsIdleTaskRole).toBool());
 }
 
 void MemGraphCell::DrawText(QPainter& painter, const QRect& frame, const QPalette& palette) const {
@@ -133,8 +131,8 @@ void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
 void MemGraphCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   DrawBackground(*painter, option);
-  mRSZ = index.data(vqMainTableController::kResidentSizeRole).toLongLong();
-  mVSZ = index.data(vqMainTableController::kVirtualSizeRole).toLongLong();
+  mRSZ = index.data(kResidentSizeRole).toLongLong();
+  mVSZ = index.data(kVirtualSizeRole).toLongLong();
   painter->setFont(option.font);
   drawInteriorWithFrame(*painter, option.rect, option.palette);
 }
