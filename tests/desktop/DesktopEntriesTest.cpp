@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/MadeUpTree.h"
 #include "platform/desktop/DesktopEntries.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -70,8 +70,8 @@ class DesktopEntryFolders : public ::testing::Test {
     return NameOf(mEntries.Match(windowClass, instance, program));
   }
 
-  MadeUpTree mTree;
-  DesktopEntries mEntries{{mTree.Root() + "/home", mTree.Root() + "/none", mTree.Root() + "/usr"},
+  TemporaryFolder mTree;
+  DesktopEntries mEntries{{mTree.Path() + "/home", mTree.Path() + "/none", mTree.Path() + "/usr"},
                           "en",
                           milliseconds(0)};
 };
@@ -117,10 +117,10 @@ TEST_F(DesktopEntryFolders, HostileFilesAreLeftOut) {
   Write("usr/good.desktop", "Name=Good\n");
   mTree.Write("usr/big.desktop", Entry("Name=Big\n") + std::string(600 * 1024, '#'));
   mTree.Write("usr/line.desktop", Entry("Name=Line\nExec=") + std::string(500 * 1024, '"'));
-  ASSERT_EQ(::mkfifo((mTree.Root() + "/usr/pipe.desktop").c_str(), 0600), 0);
-  fs::create_symlink("/dev/zero", mTree.Root() + "/usr/zero.desktop");
-  fs::create_symlink(mTree.Root() + "/usr", mTree.Root() + "/usr/loop");
-  fs::create_directory(mTree.Root() + "/usr/folder.desktop");
+  ASSERT_EQ(::mkfifo((mTree.Path() + "/usr/pipe.desktop").c_str(), 0600), 0);
+  fs::create_symlink("/dev/zero", mTree.Path() + "/usr/zero.desktop");
+  fs::create_symlink(mTree.Path() + "/usr", mTree.Path() + "/usr/loop");
+  fs::create_directory(mTree.Path() + "/usr/folder.desktop");
   std::string deep = "usr";
   for (int i = 0; i < 30; ++i) deep += "/d";
   Write(deep + "/deep.desktop", "Name=Deep\n");

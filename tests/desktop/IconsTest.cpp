@@ -51,9 +51,9 @@ class EntryIcons : public ::testing::Test {
     mFiles.Write("icons/made/scalable/drawn.svg",
                  "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'>"
                  "<rect width='10' height='10' fill='#ff0000' fill-opacity='0.5'/></svg>");
-    std::filesystem::create_directories(mFiles.Root() + "/icons/made/8");
-    Paint(mFiles.Root() + "/icons/made/8/small.png", 8, 8, Qt::blue);
-    QIcon::setThemeSearchPaths({QString::fromStdString(mFiles.Root() + "/icons")});
+    std::filesystem::create_directories(mFiles.Path() + "/icons/made/8");
+    Paint(mFiles.Path() + "/icons/made/8/small.png", 8, 8, Qt::blue);
+    QIcon::setThemeSearchPaths({QString::fromStdString(mFiles.Path() + "/icons")});
     QIcon::setThemeName("made");
   }
   static void Paint(const std::string& path, int width, int height, const QColor& colour) {
@@ -71,7 +71,7 @@ class EntryIcons : public ::testing::Test {
     return DesktopIconServices(manager).ApplicationIcon({1, static_cast<std::uint32_t>(pid)}, size);
   }
 
-  MadeUpTree mFiles;
+  TemporaryFolder mFiles;
   MadeUpProcesses mProcesses;
   int mNextPid = 100;
 };
@@ -88,24 +88,24 @@ TEST_F(EntryIcons, ComeFromTheThemeOrFromFiles) {
   EXPECT_EQ(Middle(grown), 0xff0000ff);
   EXPECT_EQ(grown ? grown->pixels.front() : 0, 0xff0000ff);
   // A wide one leaves room above and below.
-  Paint(mFiles.Root() + "/wide", 40, 10, Qt::green);
-  const auto wide = Icon(mFiles.Root() + "/wide", 20);
+  Paint(mFiles.Path() + "/wide", 40, 10, Qt::green);
+  const auto wide = Icon(mFiles.Path() + "/wide", 20);
   EXPECT_EQ(Middle(wide), 0xff00ff00);
   EXPECT_EQ(wide ? wide->pixels.front() : 1, 0U);
-  const auto big = Icon(mFiles.Root() + "/icons/made/scalable/drawn.svg", 512);
+  const auto big = Icon(mFiles.Path() + "/icons/made/scalable/drawn.svg", 512);
   EXPECT_NEAR(static_cast<int>(Middle(big) >> 24), 0x80, 1);
 }
 
 TEST_F(EntryIcons, HostileOnesAreNone) {
-  const std::string pipe = mFiles.Root() + "/pipe";
+  const std::string pipe = mFiles.Path() + "/pipe";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
   mFiles.Write("not.png", "not a picture");
   // A huge picture of which nothing is there.
   mFiles.Write("huge.ppm", "P6 60000 60000 255\n");
   for (const std::string& icon :
        {std::string(), std::string("unknown"), std::string("../made/8/small"), pipe,
-        std::string("/dev/zero"), std::string("/"), mFiles.Root() + "/not.png",
-        mFiles.Root() + "/huge.ppm", mFiles.Root() + "/missing", std::string("\xff\xfe")}) {
+        std::string("/dev/zero"), std::string("/"), mFiles.Path() + "/not.png",
+        mFiles.Path() + "/huge.ppm", mFiles.Path() + "/missing", std::string("\xff\xfe")}) {
     EXPECT_EQ(Icon(icon, 16), nullptr) << icon;
   }
 }

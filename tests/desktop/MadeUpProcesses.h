@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/MadeUpTree.h"
 #include "platform/desktop/DesktopSettings.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 
@@ -24,15 +24,15 @@ class MadeUpProcesses {
     mTree.Write(folder + "/comm", name + '\n');
     mTree.Write(folder + "/cgroup", "0::" + group + '\n');
     if (executable.empty()) return;
-    std::filesystem::create_symlink(executable, mTree.Root() + '/' + folder + "/exe");
+    std::filesystem::create_symlink(executable, mTree.Path() + '/' + folder + "/exe");
   }
   void End(int pid) const {
-    std::filesystem::remove_all(mTree.Root() + "/proc/" + std::to_string(pid));
+    std::filesystem::remove_all(mTree.Path() + "/proc/" + std::to_string(pid));
   }
   /// As the kernel tells those of its own pid namespace.
   void TellLastPid(int pid) const {
     mTree.Write("proc/loadavg", "0.00 0.01 0.05 1/200 " + std::to_string(pid) + '\n');
-    const auto self = mTree.Root() + "/proc/self";
+    const auto self = mTree.Path() + "/proc/self";
     std::filesystem::remove(self);
     std::filesystem::create_symlink(std::to_string(::getpid()), self);
   }
@@ -40,19 +40,19 @@ class MadeUpProcesses {
     mTree.Write("applications/" + id + ".desktop", "[Desktop Entry]\nType=Application\n" + lines);
   }
   std::string EntryPath(const std::string& id) const {
-    return mTree.Root() + "/applications/" + id + ".desktop";
+    return mTree.Path() + "/applications/" + id + ".desktop";
   }
 
   DesktopSettings Settings() const {
     DesktopSettings settings;
     settings.usesScopes = true;
-    settings.procFolder = mTree.Root() + "/proc";
-    settings.applicationFolders = {mTree.Root() + "/applications"};
+    settings.procFolder = mTree.Path() + "/proc";
+    settings.applicationFolders = {mTree.Path() + "/applications"};
     return settings;
   }
 
  private:
-  MadeUpTree mTree;
+  TemporaryFolder mTree;
 };
 
 inline constexpr const char* kAppSlice = "/user.slice/user-1000.slice/user@1000.service/app.slice/";

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/MadeUpTree.h"
 #include "platform/desktop/DesktopProcessManager.h"
 #include "platform/desktop/XConnection.h"
 #include "support/ChildProgram.h"
+#include "support/TemporaryFolder.h"
 #include "support/TestDisplay.h"
 
 namespace lurkwell {
@@ -29,7 +29,7 @@ class TestDesktop {
     auto settings = DesktopSettings::FromEnvironment();
     settings.display = display.Name();
     settings.usesScopes = false;
-    settings.applicationFolders = {files.Root() + "/applications"};
+    settings.applicationFolders = {files.Path() + "/applications"};
     settings.retryInterval = settings.entriesInterval = std::chrono::milliseconds(0);
     settings.sessionBusAddress.clear();
     settings.locale = "de_AT.UTF-8";
@@ -93,7 +93,7 @@ class TestDesktop {
   }
 
   TestDisplay display;
-  MadeUpTree files;
+  TemporaryFolder files;
   std::unique_ptr<DesktopProcessManager> manager;
   /// The first window of the client that was started last.
   xcb_window_t lastWindow = 0;

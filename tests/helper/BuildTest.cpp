@@ -8,9 +8,9 @@ namespace lurkwell::helper::testing {
 namespace {
 
 std::string OutputOf(const std::string& command) {
-  const Folder folder(0);
+  const TemporaryFolder folder;
   Shell(command + " > " + (folder / "output"));
-  return ReadAll(folder / "output");
+  return ReadFile(folder / "output");
 }
 
 TEST(BuildTest, IsStaticPositionIndependentBoundAndHardened) {

@@ -1,19 +1,14 @@
 #include "helper/HelperProcess.h"
 
 #include <fcntl.h>
-#include <grp.h>
 #include <poll.h>
 #include <signal.h>
-#include <stdlib.h>
-#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <thread>
 
@@ -47,52 +42,6 @@ int OpenInTime(const std::string& path, int flags, pid_t pid) {
 
 }  // namespace
 
-Folder::Folder(uid_t user, mode_t mode) {
-  char path[] = "/tmp/lurkwell-helper-XXXXXX";
-  Check(mkdtemp(path) != nullptr, "mkdtemp");
-  mPath = path;
-  Check((geteuid() != 0 || chown(path, user, user) == 0) && chmod(path, mode) == 0, "folder");
-}
-
-void Folder::Remove() const {
-  std::error_code ignored;
-  std::filesystem::remove_all(mPath, ignored);
-}
-
-int WaitFor(pid_t pid, int seconds) {
-  Check(pid > 0, "no process");
-  int status = 0;
-  for (int passed = 0; waitpid(pid, &status, WNOHANG) == 0; ++passed) {
-    if (passed == seconds * 1000) kill(pid, SIGKILL);
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
-
-pid_t Fork() {
-  const pid_t child = fork();
-  Check(child >= 0, "fork");
-  return child;
-}
-
-int InChild(const std::function<int()>& body, int seconds) {
-  const pid_t child = Fork();
-  if (child == 0) try {
-      _exit(body());
-    } catch (...) {
-      _exit(96);
-    }
-  return WaitFor(child, seconds);
-}
-
-void BecomeUser(uid_t user) {
-  if (setgroups(0, nullptr) != 0 || setresgid(user, user, user) != 0 ||
-      setresuid(user, user, user) != 0)
-    _exit(99);
-  // As after an exec, from which a real application of the user comes.
-  prctl(PR_SET_DUMPABLE, 1);
-}
-
 std::string HelperPath() {
   return LURKWELL_TEST_HELPER;
 }
@@ -124,18 +73,9 @@ void Shell(const std::string& command) {
   Check(std::system(command.c_str()) == 0, command.c_str());
 }
 
-std::string ReadAll(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void WriteAll(const std::string& path, std::string_view text) {
-  std::ofstream(path, std::ios::binary) << text;
-}
-
 HelperProcess::HelperProcess(uid_t user, const std::string& program,
                              const std::function<void()>& prepare, bool asRoot)
-    : mFolder(user) {
+    : mFolder(0700, user) {
   signal(SIGPIPE, SIG_IGN);
   const std::string requests = mFolder / "requests", answers = mFolder / "answers";
   for (const std::string& path : {requests, answers})
@@ -196,22 +136,8 @@ int HelperProcess::Close() {
   return WaitFor(pid, 5);
 }
 
-Canary::Canary(uid_t user) : mPid(Fork()) {
-  if (mPid != 0) return;
-  prctl(PR_SET_PDEATHSIG, SIGKILL);
-  if (user != 0) BecomeUser(user);
-  prctl(PR_SET_PDEATHSIG, SIGKILL);
-  for (;;) pause();
-}
-
-Canary::~Canary() {
-  if (EndedBy() != 0) return;
-  kill(mPid, SIGKILL);
-  WaitFor(mPid);
-}
-
 char Canary::State() const {
-  const std::string stat = ReadAll("/proc/" + std::to_string(mPid) + "/stat");
+  const std::string stat = ReadFile("/proc/" + std::to_string(Pid()) + "/stat");
   const std::size_t end = stat.rfind(')');
   return end == std::string::npos ? '-' : stat[end + 2];
 }
@@ -222,15 +148,6 @@ bool Canary::Becomes(std::string_view states) const {
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   return false;
-}
-
-int Canary::EndedBy() {
-  int status = 0;
-  if (!mEnded && waitpid(mPid, &status, WNOHANG) == mPid) {
-    mEnded = true;
-    mSignal = WIFSIGNALED(status) ? WTERMSIG(status) : -1;
-  }
-  return mSignal;
 }
 
 }  // namespace lurkwell::helper::testing

@@ -23,7 +23,7 @@ constexpr int kBadCopy = 65, kNoHelper = 72, kCannotWrite = 73, kNoAdministrator
 
 /// A user's data folder with the application's folder and its copy of the helper in it.
 struct Home {
-  explicit Home(uid_t user, const std::string& program = HelperPath()) : data(user) {
+  explicit Home(uid_t user, const std::string& program = HelperPath()) : data(0700, user) {
     path = data / "Lurkwell";
     copy = path + "/Lurkwell_helper";
     std::filesystem::create_directory(path);
@@ -37,7 +37,7 @@ struct Home {
     return info;
   }
 
-  Folder data;
+  TemporaryFolder data;
   std::string path, copy;
 };
 
@@ -55,7 +55,7 @@ TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
   EXPECT_EQ(after.st_uid, 0u);
   EXPECT_EQ(after.st_gid, kUser);
   EXPECT_EQ(after.st_mode, mode_t{S_IFREG | 04750});
-  EXPECT_TRUE(ReadAll(home.copy) == ReadAll(HelperPath()));
+  EXPECT_TRUE(ReadFile(home.copy) == ReadFile(HelperPath()));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path), {}), 1);
   HelperProcess helper(kUser, home.copy);
   EXPECT_EQ(helper.Ask("geteuid"), "0");
@@ -75,7 +75,7 @@ TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
   };
   EXPECT_EQ(ownAttempt(), kNoAdministrator) << "and nothing else";
   EXPECT_EQ(other.Info().st_uid, kStranger);
-  WriteAll(other.copy, "no helper");
+  WriteFile(other.copy, "no helper");
   EXPECT_EQ(ownAttempt(), kBadCopy) << "which no administrator can mend";
   EXPECT_EQ(InChild([] { return execl(StepPath().c_str(), "p", nullptr); }), 64);
 }
@@ -119,7 +119,7 @@ TEST(InstallTest, WhatIsNotAsItShouldBeIsRefusedAndLeftAlone) {
   Install(StepPath(), home.path + "/Lurkwell_permissions", 0, 0, 0755);
   EXPECT_EQ(RunPermissionStep(home.path + "/Lurkwell_permissions", home.path, kUser), kBadFolder);
   // A step without a helper beside it.
-  const Folder alone(0, 0755);
+  const TemporaryFolder alone;
   Install(StepPath(), alone / "Lurkwell_permissions", 0, 0, 0755);
   EXPECT_EQ(RunPermissionStep(alone / "Lurkwell_permissions", home.path, kUser), kNoHelper);
   EXPECT_EQ(home.Info().st_uid, kUser);
@@ -143,7 +143,7 @@ bool OnlyHelpersAreBlessed(const std::string& path, const std::string& bytes) {
   for (const auto& entry : std::filesystem::directory_iterator(path)) {
     struct stat info {};
     if (lstat(entry.path().c_str(), &info) == 0 && S_ISREG(info.st_mode) &&
-        (info.st_mode & S_ISUID) != 0 && info.st_uid == 0 && ReadAll(entry.path()) != bytes)
+        (info.st_mode & S_ISUID) != 0 && info.st_uid == 0 && ReadFile(entry.path()) != bytes)
       return false;
   }
   return true;
@@ -182,7 +182,7 @@ bool OnlyHelpersAreBlessed(const std::string& path, const std::string& bytes) {
 TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
   const Home home(kUser);
   Install(HelperPath(), home.path + "/original", kUser, kUser, 0755);
-  const std::string bytes = ReadAll(HelperPath());
+  const std::string bytes = ReadFile(HelperPath());
   const pid_t swapper = Fork();
   if (swapper == 0) SwapForEver(home.path);
   int done = 0, refused = 0;
@@ -208,7 +208,7 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
 }
 
 TEST(InstallTest, AFileHeldOpenBeforeTheStepNeverBecomesTheHelper) {
-  const std::string bytes = ReadAll(HelperPath());
+  const std::string bytes = ReadFile(HelperPath());
   for (int round = 0; round < 50; ++round) {
     const Home home(kUser);
     const int file = open(home.copy.c_str(), O_RDWR | O_CLOEXEC);
@@ -219,7 +219,7 @@ TEST(InstallTest, AFileHeldOpenBeforeTheStepNeverBecomesTheHelper) {
     ASSERT_EQ(pwrite(file, "evil", 4, 5000), 4);
     munmap(mapping, 4096);
     close(file);
-    ASSERT_TRUE(ReadAll(home.copy) == bytes);
+    ASSERT_TRUE(ReadFile(home.copy) == bytes);
     ASSERT_EQ(home.Info().st_mode & 07777, mode_t{04750});
   }
 }
@@ -229,7 +229,7 @@ TEST(InstallTest, OnlyTheUserWhoseFolderItIsIsServedWithPrivilege) {
   for (const mode_t mode : {04750u, 04710u, 04755u})
     for (const char* place : {"own", "stranger's", "root's"}) {
       const uid_t owner = *place == 'o' ? kUser : *place == 's' ? kStranger : 0;
-      const Folder folder(owner, 0755);
+      const TemporaryFolder folder(0755, owner);
       const std::string program = folder / "Lurkwell_helper";
       Install(HelperPath(), program, 0, kUser, mode);
       // The user, a stranger in the user's group, a stranger outside, nobody.
@@ -251,9 +251,9 @@ TEST(InstallTest, OnlyTheUserWhoseFolderItIsIsServedWithPrivilege) {
 
 /// From another hand than the helper's.
 std::string HexDigest(const std::string& path) {
-  const Folder folder(0);
+  const TemporaryFolder folder;
   Shell("sha256sum < " + path + " > " + (folder / "digest"));
-  return ReadAll(folder / "digest").substr(0, 64);
+  return ReadFile(folder / "digest").substr(0, 64);
 }
 
 /// A helper built for a package, whose list lies in a folder that this test has to itself.
@@ -278,7 +278,7 @@ class PackagedTest : public ::testing::Test {
   void WriteList(const std::string& text) { WriteList(mList, text); }
   static void WriteList(const std::string& path, const std::string& text) {
     unlink(path.c_str());
-    WriteAll(path, text);
+    WriteFile(path, text);
     chmod(path.c_str(), 0644);
   }
 };
@@ -318,23 +318,23 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
   ASSERT_TRUE(keepsRights());
   Shell("ln " + home.copy + ' ' + home.path + "/second");
   EXPECT_FALSE(keepsRights()) << "two names";
-  const Folder elsewhere(0, 0755);
+  const TemporaryFolder elsewhere;
   Shell("rm " + home.path + "/second; mv " + home.copy + ' ' + (elsewhere / "h"));
   EXPECT_EQ(EffectiveUser(kUser, elsewhere / "h"), std::to_string(kUser)) << "moved";
 }
 
 TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
   Home home(kUser, mProgram);
-  WriteAll(home.copy, "an older version");
+  WriteFile(home.copy, "an older version");
   EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), kBadCopy);
   for (const char* mark : {"", "- "}) {
-    WriteAll(home.copy, "an older version");
+    WriteFile(home.copy, "an older version");
     WriteList(HexDigest(mProgram) + '\n' + mark + HexDigest(home.copy) + '\n');
     EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
-    EXPECT_TRUE(ReadAll(home.copy) == ReadAll(mProgram));
+    EXPECT_TRUE(ReadFile(home.copy) == ReadFile(mProgram));
   }
   // A version that served is withdrawn: it serves no more, but a new one takes its place.
-  WriteAll(home.copy, ReadAll(mProgram) + "older");
+  WriteFile(home.copy, ReadFile(mProgram) + "older");
   chmod(home.copy.c_str(), 04750);
   const std::string own = HexDigest(mProgram) + '\n', older = HexDigest(home.copy) + '\n';
   WriteList(own + older);
@@ -344,7 +344,7 @@ TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
   EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
   EXPECT_EQ(EffectiveUser(kUser, home.copy), "0");
   // The helper that is copied has to be root's.
-  const Folder folder(0, 0755);
+  const TemporaryFolder folder;
   Install(mStep, folder / "Lurkwell_permissions", 0, 0, 0755);
   for (const uid_t owner : {kUser, uid_t{0}}) {
     Install(mProgram, folder / "Lurkwell_helper", owner, 0, 0755);

@@ -191,9 +191,10 @@ std::string LinesOf(const std::string& text, const Words& keys) {
 /// All that a process could have inherited, as text.
 std::string StateOf(pid_t pid) {
   const std::string folder = "/proc/" + std::to_string(pid) + '/';
-  std::string state = LinesOf(ReadAll(folder + "status"), {"Umask", "Sig", "Shd", "Groups", "Cap"});
+  std::string state =
+      LinesOf(ReadFile(folder + "status"), {"Umask", "Sig", "Shd", "Groups", "Cap"});
   state = state.substr(0, state.find("SigQ")) + state.substr(state.find("SigPnd"));
-  state += LinesOf(ReadAll(folder + "limits"), {"Max open", "Max file", "Max cpu", "Max core"});
+  state += LinesOf(ReadFile(folder + "limits"), {"Max open", "Max file", "Max cpu", "Max core"});
   state += std::filesystem::read_symlink(folder + "cwd").string();
   std::multiset<std::string> files;
   for (const auto& entry : std::filesystem::directory_iterator(folder + "fd")) {

@@ -1,13 +1,13 @@
 // The machine's memory, from a made-up proc file system and from the real one.
-#include "MadeUpTree.h"
 #include "platform/linux/LinuxHostStatistics.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
 
 TEST(HostStatistics, AreReadByNameAndMissOnesAreTold) {
-  const MadeUpTree tree;
-  const LinuxHostStatistics host(tree.Root());
+  const TemporaryFolder tree;
+  const LinuxHostStatistics host(tree.Path());
   const std::int64_t page = host.PageSize().value() / 1024;
   VirtualMemoryStatistics statistics{7, 7, 7, 7};
   EXPECT_FALSE(host.ReadVirtualMemory(statistics));

@@ -12,12 +12,12 @@
 #include <string>
 #include <vector>
 
-#include "platform/Children.h"
-#include "platform/MadeUpTree.h"
 #include "platform/ProcessFigures.h"
 #include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxSignals.h"
+#include "support/PidNamespace.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -80,8 +80,8 @@ TEST(LiveProcesses, AreFoundUnderTheirPidWhateverTheirName) {
 }
 
 TEST(LiveProcesses, HaveNamesOfSixteenCharacters) {
-  const MadeUpTree folder;
-  const std::string program = folder.Root() + "/sixteen-or-more-characters";
+  const TemporaryFolder folder;
+  const std::string program = folder.Path() + "/sixteen-or-more-characters";
   std::filesystem::copy_file("/bin/sleep", program);
   // By its path; under another name, which leaves the executable's; and before the exec, when it
   // has this program's name, from the beginning of the table.
@@ -178,20 +178,6 @@ void WriteToDisk() {
   ::fsync(file.Get());
 }
 
-TEST(LiveProcesses, TellTheirUserWhatTheyHaveReadAndWritten) {
-  const Child writer(WriteToDisk);
-  std::ifstream file("/proc/" + std::to_string(writer.Pid()) + "/io");
-  std::map<std::string, std::int64_t> io;
-  std::string name;
-  for (std::int64_t number = 0; file >> name >> number;) io[name] = number;
-  EXPECT_GE(io["wchar:"], kWritten);
-  std::string expected;
-  for (const std::int64_t number : {io["syscr:"] + io["syscw:"], io["read_bytes:"],
-                                    io["write_bytes:"], io["rchar:"], io["wchar:"]})
-    expected += std::to_string(number) + ' ';
-  EXPECT_EQ(DiskFigures(writer.Pid()), expected);
-}
-
 TEST(LiveProcesses, DoNotTellOthersWhatTheyHaveReadAndWritten) {
   const Child writer(WriteToDisk);
   EXPECT_EQ(RunForked([&]() -> std::string {
@@ -209,8 +195,8 @@ TEST(LiveProcesses, DoNotTellOthersWhatTheyHaveReadAndWritten) {
 }
 
 TEST(LiveProcesses, HaveNoUnknownParentsWhereOthersAreHidden) {
-  const MadeUpTree folder;
-  const auto complaint = RunInPidNamespace(folder.Root(), "hidepid=2", [&]() -> std::string {
+  const TemporaryFolder folder;
+  const auto complaint = RunInPidNamespace(folder.Path(), "hidepid=2", [&]() -> std::string {
     // Process 1 is root's and hidden from the other user, whose child and grandchild look on.
     return RunForked([&]() -> std::string {
       if (::setresgid(61001, 61001, 61001) != 0 || ::setresuid(61001, 61001, 61001) != 0) {
@@ -219,7 +205,7 @@ TEST(LiveProcesses, HaveNoUnknownParentsWhereOthersAreHidden) {
       // What has changed its user is not dumpable, and so hidden from itself.
       ::prctl(PR_SET_DUMPABLE, 1);
       const Child grandchild;
-      LinuxProcessTable table(folder.Root());
+      LinuxProcessTable table(folder.Path());
       for (int pass = 0; pass < 200; ++pass) {
         const auto entries = table.Read();
         if (const auto wrong = Complaint(entries); !wrong.empty()) return wrong;
@@ -236,12 +222,12 @@ TEST(LiveProcesses, HaveNoUnknownParentsWhereOthersAreHidden) {
 }
 
 TEST(LiveProcesses, AreNotMixedUpWhenAPidComesRound) {
-  const MadeUpTree folder;
-  const auto complaint = RunInPidNamespace(folder.Root(), "", [&]() -> std::string {
-    LinuxProcessTable table(folder.Root());
-    LinuxSignals signals(folder.Root());
+  const TemporaryFolder folder;
+  const auto complaint = RunInPidNamespace(folder.Path(), "", [&]() -> std::string {
+    LinuxProcessTable table(folder.Path());
+    LinuxSignals signals(folder.Path());
     const auto start = [&](const char* name) {
-      std::ofstream(folder.Root() + "/sys/kernel/ns_last_pid") << 299;
+      std::ofstream(folder.Path() + "/sys/kernel/ns_last_pid") << 299;
       return Child([name] { ::prctl(PR_SET_NAME, name); });
     };
     Child first = start("first");

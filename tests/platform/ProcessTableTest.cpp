@@ -6,10 +6,10 @@
 #include <set>
 #include <string>
 
-#include "platform/MadeUpTree.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ScriptedProc.h"
 #include "platform/linux/LinuxProcessTable.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -22,7 +22,7 @@ std::size_t OpenDescriptors() {
 }
 
 TEST(MadeUpProcTree, ShowsEveryStateAndTheIdleTask) {
-  const MadeUpTree tree;
+  const TemporaryFolder tree;
   tree.Write("stat", "cpu 1 2 3\nintr 5 0 0\nbtime 1700000000\nprocesses 7\n");
   tree.Write("sys/kernel/pid_max", "4194304\n");
   for (std::int32_t i = 0; i < 8; ++i) {
@@ -36,7 +36,7 @@ TEST(MadeUpProcTree, ShowsEveryStateAndTheIdleTask) {
                         .startStamp = static_cast<std::uint64_t>(100 + i)}
                    .Text());
   }
-  LinuxProcessTable table(tree.Root());
+  LinuxProcessTable table(tree.Path());
   const auto entries = table.Read();
   ASSERT_EQ(entries.size(), 9u);
   using enum RunState;
@@ -55,7 +55,7 @@ TEST(MadeUpProcTree, ShowsEveryStateAndTheIdleTask) {
 
 /// Figures that no single file of the process has.
 TEST(MadeUpProcTree, AddsUpThreadsAndTellsWhatUnitsCount) {
-  const MadeUpTree tree, units;
+  const TemporaryFolder tree, units;
   const auto start = [&](std::int32_t pid, std::int64_t threads, const std::string& unit) {
     const auto folder = std::to_string(pid) + '/';
     tree.Write(folder + "stat", StatText{.pid = pid, .threads = threads}.Text());
@@ -68,14 +68,14 @@ TEST(MadeUpProcTree, AddsUpThreadsAndTellsWhatUnitsCount) {
   tree.Write("11/task/11/schedstat", "5 1000999 1\n");
   tree.Write("11/task/12/schedstat", "5 18446744073709551 7\n");
   // It ends between the listing and its turn.
-  std::filesystem::create_directories(tree.Root() + "/11/task/13");
+  std::filesystem::create_directories(tree.Path() + "/11/task/13");
   // Out of our sight, and not accounted.
   start(12, 1, "/../beside");
   start(13, 1, "/b.slice");
   const auto count = [&](const char* text) { units.Write("a.slice/x.service/io.stat", text); };
   count("8:0 rbytes=1000 wbytes=50 rios=1 dbytes=9\n8:16 rbytes=24 wbytes=7\n");
 
-  LinuxProcessTable table(tree.Root(), units.Root());
+  LinuxProcessTable table(tree.Path(), units.Path());
   const auto figures = [&] {
     std::string text;
     for (const auto& entry : table.Read([](std::int32_t) { return kFromThreads | kFromUnit; })) {
@@ -101,16 +101,16 @@ TEST(MadeUpProcTree, AddsUpThreadsAndTellsWhatUnitsCount) {
 
 TEST(MadeUpProcTree, IsNotHeldUpByANameThatCannotBeRead) {
   using Clock = std::chrono::steady_clock;
-  const MadeUpTree tree;
+  const TemporaryFolder tree;
   const auto add = [&](std::int32_t pid) {
     tree.Write(std::to_string(pid) + "/stat",
                StatText{.pid = pid, .name = "lkw_helper_daem"}.Text());
-    return tree.Root() + '/' + std::to_string(pid) + "/cmdline";
+    return tree.Path() + '/' + std::to_string(pid) + "/cmdline";
   };
   std::ofstream(add(1)) << "lkw_helper_daemon";
   // Nobody ever writes into it.
   ASSERT_EQ(::mkfifo(add(2).c_str(), 0600), 0);
-  LinuxProcessTable table(tree.Root());
+  LinuxProcessTable table(tree.Path());
   const auto names = [&] {
     const auto before = Clock::now();
     std::string text;
@@ -129,7 +129,7 @@ TEST(MadeUpProcTree, IsNotHeldUpByANameThatCannotBeRead) {
 }
 
 TEST(MadeUpProcTree, LeavesOutWhatIsNotAProcess) {
-  const MadeUpTree tree;
+  const TemporaryFolder tree;
   for (int i = 1; i <= 200; ++i) {
     const auto pid = std::to_string(i);
     const std::string right = StatText{.pid = i, .name = "n", .parentPid = i / 2}.Text();
@@ -140,7 +140,7 @@ TEST(MadeUpProcTree, LeavesOutWhatIsNotAProcess) {
                                  StatText{.pid = i + 1, .name = "other"}.Text(),
                                  std::string(100'000, '\0')};
     if (i % 7 == 6) {
-      std::filesystem::create_directories(tree.Root() + '/' + pid + "/stat");
+      std::filesystem::create_directories(tree.Path() + '/' + pid + "/stat");
     } else {
       tree.Write(pid + "/stat", texts[i % 7]);
     }
@@ -148,7 +148,7 @@ TEST(MadeUpProcTree, LeavesOutWhatIsNotAProcess) {
   for (const char* folder : {"0", "-1", "007", "99999999999", "self", "8 ", "9x"}) {
     tree.Write(folder + std::string("/stat"), StatText{.pid = 7}.Text());
   }
-  LinuxProcessTable table(tree.Root());
+  LinuxProcessTable table(tree.Path());
   std::set<std::int32_t> pids;
   for (const auto& entry : table.Read()) {
     EXPECT_TRUE(pids.insert(entry.pid).second);
@@ -156,7 +156,7 @@ TEST(MadeUpProcTree, LeavesOutWhatIsNotAProcess) {
   }
   EXPECT_EQ(pids.size(), 29u);
   EXPECT_EQ(table.MaximumPid(), 4'194'304);
-  EXPECT_TRUE(LinuxProcessTable(tree.Root() + "/nowhere").Read().empty());
+  EXPECT_TRUE(LinuxProcessTable(tree.Path() + "/nowhere").Read().empty());
 }
 
 /// Every pass has to show whole processes: each entry is one that ran under that pid, nothing of it

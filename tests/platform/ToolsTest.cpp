@@ -16,10 +16,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/Children.h"
-#include "platform/MadeUpTree.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/ProcpsColumns.h"
+#include "support/PidNamespace.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -220,7 +220,7 @@ TEST(PsDialect, LeavesOutWhatCannotBeAProperty) {
 }
 
 TEST(Tools, GiveProgramsNothingOfOurs) {
-  const MadeUpTree folder;
+  const TemporaryFolder folder;
   const int leaked = ::open("/dev/null", O_RDONLY);
   ::signal(SIGPIPE, SIG_IGN);
   sigset_t blocked;
@@ -240,7 +240,7 @@ TEST(Tools, GiveProgramsNothingOfOurs) {
   const auto errors = RunOne({"/bin/ls", "/nowhere"}, Ample());
   EXPECT_TRUE(errors.complete && errors.text.empty());
 
-  const std::string path = folder.Root() + "/answer";
+  const std::string path = folder.Path() + "/answer";
   LinuxTools tools;
   ASSERT_TRUE(tools.StartInBackground(
       {"/bin/sh", "-c",
@@ -267,8 +267,8 @@ TEST(Tools, GiveProgramsNothingOfOurs) {
 }
 
 TEST(Tools, RunAtTheSameTimeAndNotBeyondTheirTime) {
-  const MadeUpTree folder;
-  const std::string fifo = folder.Root() + "/fifo";
+  const TemporaryFolder folder;
+  const std::string fifo = folder.Path() + "/fifo";
   ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
   // The reader can only end while the writer runs too.
   const auto pair = RunAll({{"/bin/cat", fifo}, {"/bin/cp", "/proc/version", fifo}}, Ample());

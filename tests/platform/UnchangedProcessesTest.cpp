@@ -14,8 +14,8 @@
 #include <thread>
 #include <vector>
 
-#include "platform/Children.h"
 #include "platform/linux/LinuxProcessTable.h"
+#include "support/PidNamespace.h"
 
 namespace lurkwell {
 namespace {

@@ -145,7 +145,7 @@ SupervisedEnd Supervise(const std::function<int()>& body,
     }
     Reply(listener.Get(), asked, verdict);
   }
-  end.exit = ExitOf(child);
+  end.exit = WaitFor(child);
   return end;
 }
 

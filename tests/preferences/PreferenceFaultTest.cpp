@@ -16,9 +16,9 @@
 namespace lurkwell {
 namespace {
 
-std::int64_t OnDisk(const TemporaryFolder& folder, const std::string& key) {
+std::int64_t OnDisk(const PreferenceFolder& folder, const std::string& key) {
   const char* why = nullptr;
-  const auto document = PropertyListDocument::Parse(Contents(folder.PreferenceFile()), why);
+  const auto document = PropertyListDocument::Parse(ReadFile(folder.PreferenceFile()), why);
   if (!document) return -2;
   const auto value = document->Value(key);
   const auto* integer = value ? std::get_if<std::int64_t>(&*value) : nullptr;
@@ -30,14 +30,15 @@ std::ptrdiff_t Lines(const std::string& text) {
 }
 
 // A disk in memory on the folder, seen by this process and its children alone.
-bool MountDisk(const TemporaryFolder& folder, const char* options) {
+bool MountDisk(const PreferenceFolder& folder, const char* options) {
   return unshare(CLONE_NEWNS) == 0 &&
          mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
          mount("disk", folder.Path().c_str(), "tmpfs", 0, options) == 0;
 }
 
-// Four sets, of which any may fail; then the machine is well again. Says what went wrong.
-int SetUnderFaults(const TemporaryFolder& folder, bool hasOld, int allowedFailures) {
+// Four sets, of which any may fail; then the machine is well again. How many failed, or 10 and more
+// for what went wrong.
+int SetUnderFaults(const PreferenceFolder& folder, bool hasOld, int allowedFailures) {
   ToggleSupervision();
   testing::internal::CaptureStderr();
   ToggleSupervision();
@@ -61,21 +62,22 @@ int SetUnderFaults(const TemporaryFolder& folder, bool hasOld, int allowedFailur
   const std::string said = testing::internal::GetCapturedStderr();
   if (!isSaved || failures > allowedFailures) return 14;
   // One fault gives one message at most, or two when the file cannot even be moved aside.
-  return Lines(said) <= 2 && (failures == 0 || Lines(said) >= 1) ? 0 : 15;
+  if (Lines(said) > 2 || (failures > 0 && Lines(said) == 0)) return 15;
+  return failures;
 }
 
 enum class Before { kNothing, kFile, kLink };
 
-void Prepare(const TemporaryFolder& folder, Before before, const std::string& old) {
-  if (before == Before::kFile) Fill(folder.PreferenceFile(), old);
+void Prepare(const PreferenceFolder& folder, Before before, const std::string& old) {
+  if (before == Before::kFile) WriteFile(folder.PreferenceFile(), old);
   if (before != Before::kLink) return;
-  std::filesystem::create_directory(folder.Path() / "elsewhere");
-  Fill(folder.Path() / "elsewhere" / "real", old);
+  std::filesystem::create_directory(folder / "elsewhere");
+  WriteFile(folder / "elsewhere/real", old);
   std::filesystem::create_symlink("elsewhere/real", folder.PreferenceFile());
 }
 
 // After the run: nothing lost, nothing left over, and an old file used on or kept aside.
-void Examine(const TemporaryFolder& folder, Before before, const std::string& old, int error) {
+void Examine(const PreferenceFolder& folder, Before before, const std::string& old, int error) {
   PropertyListDomain after(folder.Path());
   ASSERT_EQ(IntegerAt(after, "K"), 4);
   ASSERT_EQ(folder.CountOf(".new"), 0);
@@ -89,12 +91,12 @@ void Examine(const TemporaryFolder& folder, Before before, const std::string& ol
   }
   // A file that this user may not open is out of use, but still there.
   ASSERT_TRUE(error == EACCES || error == EPERM);
-  ASSERT_EQ(Contents(aside), old);
+  ASSERT_EQ(ReadFile(aside), old);
 }
 
 TEST(PreferenceFault, EachErrorAtEachCall) {
   // Some 15,000 synchronised writes: on a disk that does not make the test wait.
-  const TemporaryFolder disk;
+  const PreferenceFolder disk;
   ASSERT_TRUE(MountDisk(disk, "size=64m"));
   std::size_t runs = 0;
   const std::string old =
@@ -108,7 +110,7 @@ TEST(PreferenceFault, EachErrorAtEachCall) {
       bool isReached = true;
       for (std::size_t point = 0; isReached; ++point, ++runs) {
         SCOPED_TRACE("error " + std::to_string(error) + " at call " + std::to_string(point));
-        const TemporaryFolder folder(disk.Path());
+        const PreferenceFolder folder(disk.Path());
         Prepare(folder, before, old);
         int kindOfCall = -1;
         const SupervisedEnd end = Supervise(
@@ -118,7 +120,11 @@ TEST(PreferenceFault, EachErrorAtEachCall) {
               return index == point ? error : kLetItPass;
             });
         isReached = point < end.calls;
-        ASSERT_EQ(end.exit, 0) << "kind of call " << kindOfCall;
+        ASSERT_LE(end.exit, allowedFailures) << "kind of call " << kindOfCall;
+        // What never reached the disk is not saved.
+        if (kindOfCall == SYS_fsync && allowedFailures > 0) {
+          ASSERT_EQ(end.exit, 1);
+        }
         ASSERT_NO_FATAL_FAILURE(Examine(folder, before, old, error));
       }
     }
@@ -126,27 +132,6 @@ TEST(PreferenceFault, EachErrorAtEachCall) {
   EXPECT_EQ(umount(disk.Path().c_str()), 0);
   RecordProperty("runs", std::to_string(runs));
   EXPECT_GT(runs, 1000U);
-}
-
-TEST(PreferenceFault, AFailedSyncAbandonsTheNewFile) {
-  const TemporaryFolder folder;
-  Fill(folder.PreferenceFile(), PropertyList("<key>K</key><integer>1</integer>"));
-  bool hasFailed = false;
-  const SupervisedEnd end = Supervise(
-      [&] {
-        PropertyListDomain domain(folder.Path());
-        domain.SetValue("K", std::int64_t{2});
-        return domain.Synchronize() ? 1 : 0;
-      },
-      [&](std::size_t, int kind) {
-        const bool fails = kind == SYS_fsync && !hasFailed;
-        hasFailed = hasFailed || fails;
-        return fails ? EIO : +kLetItPass;
-      });
-  EXPECT_TRUE(hasFailed);
-  EXPECT_EQ(end.exit, 0);
-  EXPECT_EQ(OnDisk(folder, "K"), 1);
-  EXPECT_EQ(folder.CountOf(".new"), 0);
 }
 
 constexpr const char* kSmall = "size=64k,mode=755";
@@ -159,13 +144,13 @@ void FillUp(const std::filesystem::path& path) {
 }
 
 TEST(PreferenceFault, AFullDiskKeepsTheOldFileAndTheSessionsValues) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   const pid_t child = Fork([&] {
     if (!MountDisk(folder, kSmall)) return 1;
     PropertyListDomain domain(folder.Path());
     domain.SetValue("K", std::int64_t{1});
     if (!domain.Synchronize()) return 2;
-    FillUp(folder.Path() / "filler");
+    FillUp(folder / "filler");
     testing::internal::CaptureStderr();
     for (std::int64_t number = 2; number < 50; ++number) {
       domain.SetValue("K", number);
@@ -173,14 +158,14 @@ TEST(PreferenceFault, AFullDiskKeepsTheOldFileAndTheSessionsValues) {
       if (OnDisk(folder, "K") != 1 || folder.CountOf(".new") != 0) return 4;
     }
     if (Lines(testing::internal::GetCapturedStderr()) != 1) return 5;
-    std::filesystem::remove(folder.Path() / "filler");
+    std::filesystem::remove(folder / "filler");
     return domain.Synchronize() && OnDisk(folder, "K") == 49 ? 0 : 6;
   });
-  EXPECT_EQ(ExitOf(child), 0);
+  EXPECT_EQ(WaitFor(child), 0);
 }
 
 TEST(PreferenceFault, AReadOnlyDiskIsSurvivedAndUsedAgainWhenItBecomesWritable) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   const pid_t child = Fork([&] {
     if (!MountDisk(folder, kSmall)) return 1;
     {
@@ -188,9 +173,7 @@ TEST(PreferenceFault, AReadOnlyDiskIsSurvivedAndUsedAgainWhenItBecomesWritable) 
       earlier.SetValue("K", std::int64_t{1});
       if (!earlier.Synchronize()) return 2;
     }
-    Fill(folder.Path() /
-             (std::string(".") + PropertyListDomain::kFileName + ".0123456789abcdef.new"),
-         "");
+    folder.Write(std::string(".") + PropertyListDomain::kFileName + ".0123456789abcdef.new", "");
     const auto remount = [&](unsigned long flags) {
       return mount("disk", folder.Path().c_str(), "tmpfs", MS_REMOUNT | flags, "size=64k") == 0;
     };
@@ -206,7 +189,7 @@ TEST(PreferenceFault, AReadOnlyDiskIsSurvivedAndUsedAgainWhenItBecomesWritable) 
     if (!remount(0)) return 7;
     return domain.Synchronize() && OnDisk(folder, "K") == 4 ? 0 : 8;
   });
-  EXPECT_EQ(ExitOf(child), 0);
+  EXPECT_EQ(WaitFor(child), 0);
 }
 
 TEST(PreferenceFault, AUserWithoutRightsToTheFolderKeepsTheSessionsValues) {
@@ -219,12 +202,12 @@ TEST(PreferenceFault, AUserWithoutRightsToTheFolderKeepsTheSessionsValues) {
                {"folder that cannot be made", 0755, "missing/deeper"}};
   for (const auto& example : cases) {
     SCOPED_TRACE(example.name);
-    const TemporaryFolder folder;
+    const PreferenceFolder folder;
     ASSERT_EQ(chmod(folder.Path().c_str(), example.mode), 0);
     const pid_t child = Fork([&] {
       if (setgid(61001) != 0 || setuid(61001) != 0) return 1;
       testing::internal::CaptureStderr();
-      PropertyListDomain domain(folder.Path() / example.inside);
+      PropertyListDomain domain(folder / example.inside);
       for (std::int64_t number = 0; number < 5; ++number) {
         domain.SetValue("K", number);
         if (domain.Synchronize() || IntegerAt(domain, "K") != number) return 2;
@@ -232,7 +215,7 @@ TEST(PreferenceFault, AUserWithoutRightsToTheFolderKeepsTheSessionsValues) {
       const auto lines = Lines(testing::internal::GetCapturedStderr());
       return lines >= 1 && lines <= 2 ? 0 : 3;
     });
-    EXPECT_EQ(ExitOf(child), 0);
+    EXPECT_EQ(WaitFor(child), 0);
     EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
   }
 }

@@ -28,7 +28,7 @@ class PreferencesRetrieval : public testing::TestWithParam<Backing> {
     mMachine = std::make_unique<PreferenceMachine>(*mDomain);
   }
 
-  TemporaryFolder mFolder;
+  PreferenceFolder mFolder;
   std::unique_ptr<PreferenceDomain> mDomain;
   std::unique_ptr<PreferenceMachine> mMachine;
 };
@@ -248,11 +248,11 @@ TEST(PreferencesRetrievalOnDamagedValues, NoCallThatAsksFirstIsFatal) {
       "<array><dict><key>F</key><real>3</real></dict><dict><key>F</key><date>2020-01-01T00:00:00Z"
       "</date></dict><dict><key>F</key><string>x</string></dict></array>"};
   for (int round = 0; round < 1000; ++round) {
-    const TemporaryFolder folder;
+    const PreferenceFolder folder;
     std::string entries;
     for (const char* key : {"K0", "K1", "K2", "K3"})
       entries += std::string("<key>") + key + "</key>" + kinds[random() % std::size(kinds)];
-    Fill(folder.PreferenceFile(), PropertyList(entries));
+    WriteFile(folder.PreferenceFile(), PropertyList(entries));
     PropertyListDomain domain(folder.Path());
     const PreferenceMachine machine(domain);
     for (const char* key : {"K0", "K1", "K2", "K3"}) {

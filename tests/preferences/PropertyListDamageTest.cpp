@@ -9,7 +9,7 @@ namespace {
 
 // A file as the program leaves it.
 std::string RealFile() {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   PropertyListDomain domain(folder.Path());
   for (int i = 0; i < 60; ++i) domain.SetValue("SETTING_" + std::to_string(i), std::int64_t{i});
   domain.SetValue("ALPHA", 0.7);
@@ -18,7 +18,7 @@ std::string RealFile() {
     windows.push_back({{"NAME", "proc <" + std::to_string(i)}, {"LEFT", std::int64_t{i}}});
   domain.SetValue("LOGGING_WINDOW", windows);
   EXPECT_TRUE(domain.Synchronize());
-  return Contents(folder.PreferenceFile());
+  return ReadFile(folder.PreferenceFile());
 }
 
 bool IsAccepted(const std::string& text) {
@@ -54,8 +54,8 @@ TEST(PropertyListDamage, AByteChangedAnywhereNeitherCrashesNorIsOverwritten) {
       refused += isAccepted ? 0 : 1;
       // Through the whole way on disk, now and then.
       if (count % 97 != 0) continue;
-      const TemporaryFolder folder;
-      Fill(folder.PreferenceFile(), damaged);
+      const PreferenceFolder folder;
+      WriteFile(folder.PreferenceFile(), damaged);
       testing::internal::CaptureStderr();
       PropertyListDomain domain(folder.Path());
       domain.SetValue("NEW", std::int64_t{1});
@@ -67,7 +67,7 @@ TEST(PropertyListDamage, AByteChangedAnywhereNeitherCrashesNorIsOverwritten) {
       ASSERT_EQ(folder.CountOf(".damaged-"), isAccepted ? 0 : 1);
       for (const auto& name : folder.Names()) {
         if (name.find(".damaged-") != std::string::npos) {
-          ASSERT_EQ(Contents(folder.Path() / name), damaged);
+          ASSERT_EQ(ReadFile(folder / name), damaged);
         }
       }
       PropertyListDomain again(folder.Path());
@@ -108,9 +108,9 @@ TEST(PropertyListDamage, HostileFilesAreRefusedBeforeTheParserSeesThem) {
 }
 
 TEST(PropertyListDamage, AnUnusableFileThatCannotBeMovedIsNeverWrittenOver) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   const std::string damaged = "<plist><dict>";
-  Fill(folder.PreferenceFile(), damaged);
+  WriteFile(folder.PreferenceFile(), damaged);
   ASSERT_EQ(chmod(folder.Path().c_str(), 0755), 0);
   ASSERT_EQ(chmod(folder.PreferenceFile().c_str(), 0644), 0);
   const pid_t child = Fork([&] {
@@ -124,16 +124,16 @@ TEST(PropertyListDamage, AnUnusableFileThatCannotBeMovedIsNeverWrittenOver) {
     const std::string said = testing::internal::GetCapturedStderr();
     return std::count(said.begin(), said.end(), '\n') == 2 ? 0 : 4;
   });
-  EXPECT_EQ(ExitOf(child), 0);
-  EXPECT_EQ(Contents(folder.PreferenceFile()), damaged);
+  EXPECT_EQ(WaitFor(child), 0);
+  EXPECT_EQ(ReadFile(folder.PreferenceFile()), damaged);
 }
 
 TEST(PropertyListDamage, DamageDuringARunCostsNothing) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   PropertyListDomain domain(folder.Path());
   domain.SetValue("K", std::int64_t{1});
   ASSERT_TRUE(domain.Synchronize());
-  Fill(folder.PreferenceFile(), "half an edi");
+  WriteFile(folder.PreferenceFile(), "half an edi");
   domain.SetValue("L", std::int64_t{2});
   EXPECT_TRUE(domain.Synchronize());
   EXPECT_EQ(folder.CountOf(".damaged-"), 1);

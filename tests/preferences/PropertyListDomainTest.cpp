@@ -13,13 +13,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::perms ModeOf(const fs::path& path) {
-  return fs::status(path).permissions();
-}
-constexpr fs::perms kPrivate = fs::perms::owner_read | fs::perms::owner_write;
-
 TEST(PropertyListDomain, EveryKindOfValueComesBackFromDisk) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   const std::vector<std::pair<std::string, PreferenceValue>> values = {
       {"INT_MIN", std::numeric_limits<std::int64_t>::min()},
       {"INT_MAX", std::numeric_limits<std::int64_t>::max()},
@@ -36,7 +31,7 @@ TEST(PropertyListDomain, EveryKindOfValueComesBackFromDisk) {
       {"NO_ELEMENTS", PreferenceArray{}},
   };
   // The folders above do not exist yet.
-  const fs::path deep = folder.Path() / "a" / "b";
+  const fs::path deep = folder / "a/b";
   {
     PropertyListDomain domain(deep);
     for (const auto& [key, value] : values) {
@@ -49,12 +44,12 @@ TEST(PropertyListDomain, EveryKindOfValueComesBackFromDisk) {
     ASSERT_NE(again.Value(key), nullptr) << key;
     EXPECT_EQ(*again.Value(key), value) << key;
   }
-  EXPECT_EQ(ModeOf(deep / PropertyListDomain::kFileName), kPrivate);
-  EXPECT_EQ(ModeOf(folder.Path() / "a"), fs::perms::owner_all);
+  EXPECT_EQ(ModeOf(deep / PropertyListDomain::kFileName), 0600u);
+  EXPECT_EQ(ModeOf(folder / "a"), 0700u);
 }
 
 TEST(PropertyListDomain, WhatIsRemovedIsGoneOnDiskWhateverAnotherInstanceStoresBesideIt) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   PropertyListDomain one(folder.Path());
   one.SetValue("KEPT", std::int64_t{1});
   one.SetValue("REMOVED", std::int64_t{2});
@@ -80,9 +75,9 @@ TEST(PropertyListDomain, WhatIsRemovedIsGoneOnDiskWhateverAnotherInstanceStoresB
 }
 
 TEST(PropertyListDomain, NumbersDoNotDependOnTheUsersLanguage) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   const std::string compile =
-      "localedef -i de_DE -f UTF-8 '" + (folder.Path() / "de_DE.UTF-8").string() + "' >/dev/null";
+      "localedef -i de_DE -f UTF-8 '" + folder / "de_DE.UTF-8" + "' >/dev/null";
   ASSERT_EQ(system(compile.c_str()), 0) << "the locale sources (package locales) are needed";
   setenv("LOCPATH", folder.Path().c_str(), 1);
   ASSERT_NE(setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
@@ -94,18 +89,19 @@ TEST(PropertyListDomain, NumbersDoNotDependOnTheUsersLanguage) {
   domain.SetValue("QUARTER", 0.25);
   EXPECT_TRUE(domain.Synchronize());
   EXPECT_EQ(*PropertyListDomain(folder.Path()).Value("QUARTER"), PreferenceValue(0.25));
-  EXPECT_NE(Contents(folder.PreferenceFile()).find("<real>0.25</real>"), std::string::npos);
+  EXPECT_NE(ReadFile(folder.PreferenceFile()).find("<real>0.25</real>"), std::string::npos);
 }
 
 TEST(PropertyListDomain, WhatIsNoPreferenceSurvivesARewrite) {
-  const TemporaryFolder folder;
-  Fill(folder.PreferenceFile(),
-       PropertyList("<key>WHEN</key><date>2020-01-01T00:00:00Z</date>"
-                    "<key>NESTED</key><dict><key>x</key><data>AAEC</data></dict>"
-                    "<key>FLAG</key><true/><key>HUGE</key><integer>18446744073709551615</integer>"
-                    "<key>A</key><array><dict><key>I</key><integer>0</integer></dict><string>stray"
-                    "</string><dict><key>I</key><integer>2</integer><key>SEEN</key>"
-                    "<date>2021-02-03T04:05:06Z</date></dict></array>"));
+  const PreferenceFolder folder;
+  WriteFile(
+      folder.PreferenceFile(),
+      PropertyList("<key>WHEN</key><date>2020-01-01T00:00:00Z</date>"
+                   "<key>NESTED</key><dict><key>x</key><data>AAEC</data></dict>"
+                   "<key>FLAG</key><true/><key>HUGE</key><integer>18446744073709551615</integer>"
+                   "<key>A</key><array><dict><key>I</key><integer>0</integer></dict><string>stray"
+                   "</string><dict><key>I</key><integer>2</integer><key>SEEN</key>"
+                   "<date>2021-02-03T04:05:06Z</date></dict></array>"));
   PropertyListDomain domain(folder.Path());
   EXPECT_EQ(domain.Value("WHEN"), nullptr);
   EXPECT_EQ(IntegerAt(domain, "FLAG"), 1);
@@ -117,7 +113,7 @@ TEST(PropertyListDomain, WhatIsNoPreferenceSurvivesARewrite) {
   ASSERT_TRUE(domain.Synchronize());
   domain.SetValue("A", PreferenceArray{{{"J", 0.5}}, {{"I", std::int64_t{3}}}, {}});
   ASSERT_TRUE(domain.Synchronize());
-  const std::string text = Contents(folder.PreferenceFile());
+  const std::string text = ReadFile(folder.PreferenceFile());
   for (const char* kept :
        {"2020-01-01T00:00:00Z", "AAEC", "<true/>", "18446744073709551615", "2021-02-03T04:05:06Z"})
     EXPECT_NE(text.find(kept), std::string::npos) << kept;
@@ -132,18 +128,18 @@ TEST(PropertyListDomain, LinksAreFollowedAndStay) {
   } cases[] = {
       {"absolute",
        [](const auto& link, const auto& elsewhere) {
-         Fill(elsewhere / "real", PropertyList("<key>OLD</key><integer>1</integer>"));
+         WriteFile(elsewhere / "real", PropertyList("<key>OLD</key><integer>1</integer>"));
          fs::create_symlink(elsewhere / "real", link);
        }},
       {"relative and to others readable",
        [](const auto& link, const auto& elsewhere) {
-         Fill(elsewhere / "real", PropertyList("<key>OLD</key><integer>1</integer>"));
+         WriteFile(elsewhere / "real", PropertyList("<key>OLD</key><integer>1</integer>"));
          fs::permissions(elsewhere / "real", fs::perms::all);
          fs::create_symlink("../elsewhere/real", link);
        }},
       {"two links",
        [](const auto& link, const auto& elsewhere) {
-         Fill(elsewhere / "real", PropertyList("<key>OLD</key><integer>1</integer>"));
+         WriteFile(elsewhere / "real", PropertyList("<key>OLD</key><integer>1</integer>"));
          fs::create_symlink("real", elsewhere / "second");
          fs::create_symlink(elsewhere / "second", link);
        }},
@@ -154,9 +150,9 @@ TEST(PropertyListDomain, LinksAreFollowedAndStay) {
   };
   for (const auto& example : cases) {
     SCOPED_TRACE(example.name);
-    const TemporaryFolder folder;
-    const fs::path config = folder.Path() / "config";
-    const fs::path elsewhere = folder.Path() / "elsewhere";
+    const PreferenceFolder folder;
+    const fs::path config = folder / "config";
+    const fs::path elsewhere = folder / "elsewhere";
     fs::create_directories(config);
     fs::create_directories(elsewhere);
     const fs::path link = config / PropertyListDomain::kFileName;
@@ -168,7 +164,7 @@ TEST(PropertyListDomain, LinksAreFollowedAndStay) {
     EXPECT_TRUE(domain.Synchronize());
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_TRUE(fs::is_regular_file(link));
-    EXPECT_EQ(ModeOf(link), kPrivate);
+    EXPECT_EQ(ModeOf(link), 0600u);
     PropertyListDomain again(config);
     EXPECT_EQ(IntegerAt(again, "NEW"), 2);
     EXPECT_EQ(IntegerAt(again, "OLD"), hasOld ? 1 : -1);
@@ -188,7 +184,7 @@ TEST(PropertyListDomain, WhatIsNoFileIsMovedAsideAndItsTargetLeftAlone) {
   };
   for (const auto& example : cases) {
     SCOPED_TRACE(example.name);
-    const TemporaryFolder folder;
+    const PreferenceFolder folder;
     example.prepare(folder.PreferenceFile());
     testing::internal::CaptureStderr();
     PropertyListDomain domain(folder.Path());
@@ -203,29 +199,29 @@ TEST(PropertyListDomain, WhatIsNoFileIsMovedAsideAndItsTargetLeftAlone) {
 }
 
 TEST(PropertyListDomain, StraysOfKilledRunsGoAndNothingElse) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   const std::string name = PropertyListDomain::kFileName;
   const std::vector<std::string> kept = {name + ".new", "." + name + ".short.new",
                                          "." + name + ".0123456789abcdeg.new",
                                          "." + name + ".0123456789abcdef.old"};
   const std::vector<std::string> strays = {"." + name + ".0123456789abcdef.new",
                                            "." + name + ".ffffffffffffffff.new"};
-  for (const auto& file : kept) Fill(folder.Path() / file, "x");
-  for (const auto& file : strays) Fill(folder.Path() / file, "x");
+  for (const auto& file : kept) WriteFile(folder / file, "x");
+  for (const auto& file : strays) WriteFile(folder / file, "x");
   {
     // While another instance writes, its temporary file stays.
-    const FileLock other(folder.PreferenceFile().string() + ".lock", std::chrono::seconds(0));
+    const FileLock other(folder.PreferenceFile() + ".lock", std::chrono::seconds(0));
     ASSERT_EQ(other.Outcome(), FileLock::State::kHeld);
     const PropertyListDomain domain(folder.Path());
-    EXPECT_TRUE(fs::exists(folder.Path() / strays[0]));
+    EXPECT_TRUE(fs::exists(folder / strays[0]));
   }
   const PropertyListDomain domain(folder.Path());
-  for (const auto& file : kept) EXPECT_TRUE(fs::exists(folder.Path() / file)) << file;
-  for (const auto& file : strays) EXPECT_FALSE(fs::exists(folder.Path() / file)) << file;
+  for (const auto& file : kept) EXPECT_TRUE(fs::exists(folder / file)) << file;
+  for (const auto& file : strays) EXPECT_FALSE(fs::exists(folder / file)) << file;
 }
 
 TEST(PropertyListDomain, AnotherInstancesWritesAreSeenAndMerged) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   PropertyListDomain mine(folder.Path());
   PropertyListDomain other(folder.Path());
   mine.SetValue("MINE", std::int64_t{1});
@@ -254,7 +250,7 @@ TEST(PropertyListDomain, AnotherInstancesWritesAreSeenAndMerged) {
 }
 
 TEST(PropertyListDomain, AnUnchangedSetDoesNotWrite) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   PropertyListDomain domain(folder.Path());
   domain.SetValue("K", std::int64_t{1});
   ASSERT_TRUE(domain.Synchronize());
@@ -268,7 +264,7 @@ TEST(PropertyListDomain, AnUnchangedSetDoesNotWrite) {
 }
 
 TEST(PropertyListDomain, NothingLargerIsWrittenThanCanBeReadBack) {
-  const TemporaryFolder folder;
+  const PreferenceFolder folder;
   PropertyListDomain domain(folder.Path());
   domain.SetValue("K", std::int64_t{1});
   ASSERT_TRUE(domain.Synchronize());

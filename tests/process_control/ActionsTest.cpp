@@ -293,15 +293,5 @@ TEST_F(ActionsTest, ApplicationsAreShownHiddenAndRevealed) {
             "ProcessManager.SetFrontProcess 3 1\nProcessManager.Quit 8 8\n");
 }
 
-TEST_F(ActionsTest, TheHelperClientNeedsNothing) {
-  auto* client = new ProcessActionHelper(2000, 7, nullptr);
-  AddProcessInformationClient(client);
-  EXPECT_EQ(client->Interval(), 2000);
-  EXPECT_EQ(client->Number(), 7);
-  EXPECT_EQ(client->NeedProcPropertiesForPid(60), 3);
-  EXPECT_EQ(client->NeedPidsForProcProperty("pid_rsz"), 0);
-  EXPECT_FALSE(client->NeedPidProcProperty(60, "pid_rsz"));
-}
-
 }  // namespace
 }  // namespace lurkwell

@@ -13,15 +13,6 @@ class ChannelTest : public SimulatedControl {
   }
 };
 
-TEST_F(ChannelTest, OneWriteIsARequestAndOneReadItsAnswer) {
-  Open();
-  machine.namedPipes.RecordExchanges(true);
-  EXPECT_EQ(Query("Lkw Action Request:\nkill_halt 12"), "done (4)");
-  EXPECT_EQ(Log(),
-            "NamedPipes.Write \"Lkw Action Request:\\nkill_halt 12\"\n"
-            "Helper Lkw Action Request:\\nkill_halt 12\nNamedPipes.Read \"done\"\n");
-}
-
 TEST_F(ChannelTest, AnErrorIsAnEmptyAnswer) {
   Open();
   for (const auto& [answer, seen] :

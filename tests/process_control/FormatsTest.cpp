@@ -40,25 +40,14 @@ class FormatsTest : public SimulatedControl {
 };
 
 TEST_F(FormatsTest, MemoryByMagnitude) {
-  for (const auto& [value, text] :
-       std::initializer_list<std::pair<std::int32_t, const char*>>{{0, "0"},
-                                                                   {5119, "5119"},
-                                                                   {-5119, "-5119"},
-                                                                   {5120, "5 K"},
-                                                                   {-5120, "-4 K"},
-                                                                   {5631, "5 K"},
-                                                                   {5632, "6 K"},
-                                                                   {1048575, "1024 K"},
-                                                                   {-1048575, "-1023 K"},
-                                                                   {1048576, "1.0 M"},
-                                                                   {-1048576, "-1.0 M"},
-                                                                   {1073741823, "1024.0 M"},
-                                                                   {-1073741823, "-1024.0 M"},
-                                                                   {1073741824, "1.00 G"},
-                                                                   {kHighest, "2.00 G"},
-                                                                   {kLowest, "-2.00 G"}}) {
-    EXPECT_EQ(Memory(value), text) << value;
-  }
+  std::string texts;
+  for (const std::int32_t value :
+       {0, 5119, -5119, 5120, -5120, 5631, 5632, 1048575, -1048575, 1048576, -1048576, 1073741823,
+        -1073741823, 1073741824, kHighest, kLowest})
+    texts += Memory(value) + "|";
+  EXPECT_EQ(texts,
+            "0|5119|-5119|5 K|-4 K|5 K|6 K|1024 K|-1023 K|1.0 M|-1.0 M|1024.0 M|-1024.0 M|"
+            "1.00 G|2.00 G|-2.00 G|");
   EXPECT_EQ(Memory(-2048, true), "- 2048");
   EXPECT_EQ(Memory(0, true), "  0");
   EXPECT_EQ(Memory(3 << 20, true), "+ 3.0 M");

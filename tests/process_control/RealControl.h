@@ -2,7 +2,6 @@
 
 #include <dirent.h>
 #include <fcntl.h>
-#include <grp.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/prctl.h>
@@ -21,19 +20,18 @@
 #include "channel/DaemonChannel.h"
 #include "channel/DaemonCommunication.h"
 #include "process_control/RealMachine.h"
-#include "process_control/TemporaryFolder.h"
+#include "support/Child.h"
 #include "support/OpenChannel.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
-
-/// A user that the tests make up.
-inline constexpr uid_t kUser = 61001;
 
 /// A test whose helpers, orphans by design, become its children and can be found and counted.
 /// Pipes and data stand in folders of the test.
 class RealControl : public testing::Test {
  protected:
   RealControl() {
+    gDaemonLimits = {};
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
     ::setenv("TMPDIR", folder.Make("pipes", 01777).c_str(), 1);
     ::unsetenv("XDG_RUNTIME_DIR");
@@ -43,6 +41,8 @@ class RealControl : public testing::Test {
   ~RealControl() override {
     EXPECT_TRUE(std::filesystem::is_empty(folder / "pipes")) << "pipes are left";
     EXPECT_TRUE(AllHelpersEnd()) << "a helper is left";
+    SetHelperUnprivileged(false);
+    ::unsetenv("TMPDIR");
   }
 
   std::string Installed() const { return folder / "data/Lurkwell/Lurkwell_helper"; }
@@ -120,20 +120,5 @@ class RealControl : public testing::Test {
 
   TemporaryFolder folder;
 };
-
-/// Runs `body` as the user in a child and gives its exit status, or minus the signal that ended it.
-inline int AsUser(uid_t user, const std::function<int()>& body) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    if (user != 0 && (::setgroups(0, nullptr) != 0 || ::setresgid(user, user, user) != 0 ||
-                      ::setresuid(user, user, user) != 0)) {
-      ::_exit(99);
-    }
-    ::_exit(body());
-  }
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
 
 }  // namespace lurkwell

@@ -14,7 +14,7 @@
 #include "platform/linux/PolkitAuthorization.h"
 #include "platform/linux/PollRunLoop.h"
 #include "platform/linux/TerminalAlerts.h"
-#include "platform/simulated/SimulatedMachine.h"
+#include "support/MachineOf.h"
 
 namespace lurkwell {
 
@@ -54,23 +54,8 @@ class RealMachineWith {
   LinuxBundle bundle;
   PolkitAuthorization authorization;
   TerminalAlerts alerts;
-  Machine services{clock,
-                   runLoop,
-                   simulated.preferenceDomain,
-                   processTable,
-                   simulated.processManager,
-                   simulated.iconServices,
-                   simulated.hostStatistics,
-                   tools,
-                   signals,
-                   namedPipes,
-                   authorization,
-                   bundle,
-                   alerts,
-                   simulated.logFiles,
-                   simulated.hotKeys,
-                   simulated.screen,
-                   simulated.eventBus};
+  Machine services = MachineOf(simulated, clock, runLoop, processTable, tools, signals, namedPipes,
+                               authorization, bundle, alerts);
   MachineInstallation installation{services};
 };
 using RealMachine = RealMachineWith<LinuxNamedPipes>;

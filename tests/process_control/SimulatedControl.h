@@ -6,8 +6,8 @@
 
 #include "channel/DaemonCommunication.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "process_control/TemporaryFolder.h"
 #include "support/OpenChannel.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 
@@ -23,7 +23,10 @@ class SimulatedControl : public testing::Test {
     machine.namedPipes.SetHelper(
         [this](std::string_view request) { return machine.helper.Answer(request); });
   }
-  ~SimulatedControl() override { QuitHelperDaemon(); }
+  ~SimulatedControl() override {
+    QuitHelperDaemon();
+    SetHelperUnprivileged(false);
+  }
 
   /// Opens a channel and forgets how.
   void Open() {
