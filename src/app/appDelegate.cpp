@@ -72,7 +72,7 @@ void vqAppDelegate::init() {
   gAppDelegate = this;
   qApp->installEventFilter(this);
   fMainWindow = std::make_unique<MainWindow>(*this);
-  fMainWindow->controller().setMonitorWindows(&mFollowingWindows);
+  fMainWindow->controller().processCommands().SetMonitorWindows(&mFollowingWindows);
   SetWayBack([this] { doShowMainWindow(); });
   fQuintessentialWindows = std::make_unique<QuintessentialWindows>(ViewCommands{
       [this] { doShowQuintessentialView(); }, [this] { doToggleQuintessentialViewFullScreen(); },

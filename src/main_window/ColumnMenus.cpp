@@ -174,10 +174,10 @@ void ColumnMenus::processPSAvailableMenuItem(QAction* item) {
 void ColumnMenus::Validate() {
   AddItems();
   // Columns do not depend on what is selected.
-  const bool builtIn = mController.validateMenuItem(MenuCommand::kBuiltInColumn, {});
-  const bool ps = mController.validateMenuItem(MenuCommand::kPSAvailableColumn, {});
-  for (auto* item : mBuiltInMenu.Items()) item->setEnabled(builtIn);
-  for (auto* item : mPSAvailableMenu.Items()) item->setEnabled(ps);
+  const auto* window = mController.window();
+  const bool isKey = window != nullptr && window->isActiveWindow();
+  for (const auto* menu : {&mBuiltInMenu, &mPSAvailableMenu})
+    for (auto* item : menu->Items()) item->setEnabled(isKey);
 }
 
 }  // namespace lurkwell

@@ -14,11 +14,12 @@ class vqMainTableController;
 /// The menu items that say which columns are shown: five of their own, and one for every built-in
 /// property and every ps column in two submenus, by groups. Items are ticked while their column is
 /// shown.
-/// Belongs to the table's controller; main thread only.
+/// Main thread only.
 class ColumnMenus : public QObject {
   Q_OBJECT
 
  public:
+  /// The controller outlives this.
   explicit ColumnMenus(vqMainTableController& controller);
 
   /// Makes the items, when the properties are known. Once.

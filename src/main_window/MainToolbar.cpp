@@ -8,6 +8,8 @@
 #include <QMouseEvent>
 #include <QStyleHints>
 #include <QTimer>
+#include <QWidgetAction>
+#include <algorithm>
 #include <utility>
 
 #include "main_window/ToolbarDrag.h"
@@ -39,10 +41,38 @@ Qt::ToolButtonStyle StyleOf(MainToolbar::DisplayMode mode) {
   return mode == MainToolbar::kLabelOnly ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextUnderIcon;
 }
 
+constexpr QSize kLightSize(20, 20);
+constexpr int kSpaceWidth = 32;
+
+QWidgetAction* MakeWidgetAction(QWidget* widget) {
+  auto* action = new QWidgetAction(nullptr);
+  action->setDefaultWidget(widget);
+  return action;
+}
+
+QAction* MakeGauge(const ToolbarItem& item, const QToolBar& toolbar, const QString& label,
+                   const QString& tip) {
+  const bool isGauge = item.kind == ToolbarItem::kGauge;
+  const QSize size = isGauge ? QSize(kSystemInfoImageWidth, kSystemInfoImageHeight) : kLightSize;
+  auto* gauge = new ToolbarGauge(size, toolbar.iconSize().height(), label, tip);
+  gauge->ShowNamedImage(item.image);
+  gauge->setToolButtonStyle(toolbar.toolButtonStyle());
+  QObject::connect(&toolbar, &QToolBar::toolButtonStyleChanged, gauge,
+                   &QToolButton::setToolButtonStyle);
+  return MakeWidgetAction(gauge);
+}
+
+QAction* MakeSpace(bool isFlexible) {
+  auto* space = new QWidget;
+  space->setMinimumWidth(isFlexible ? 0 : kSpaceWidth);
+  space->setSizePolicy(isFlexible ? QSizePolicy::Expanding : QSizePolicy::Fixed,
+                       QSizePolicy::Preferred);
+  return MakeWidgetAction(space);
+}
+
 }  // namespace
 
-MainToolbar::MainToolbar(QWidget* parent, std::function<QAction*(const ToolbarItem&)> makeItem)
-    : QToolBar(LocalizedString("toolbar_title"), parent), mMakeItem(std::move(makeItem)) {
+MainToolbar::MainToolbar(QWidget* parent) : QToolBar(LocalizedString("toolbar_title"), parent) {
   setObjectName(QStringLiteral("vqMainTableToolbarIdentifierTarvikTemp14"));
   setMovable(false);
   setFloatable(false);
@@ -88,13 +118,52 @@ void MainToolbar::Rebuild(const QStringList& identifiers) {
   for (auto* action : std::exchange(mItems, {})) action->deleteLater();
   mIdentifiers = identifiers;
   for (const auto& identifier : mIdentifiers) {
-    auto* action = mMakeItem(*FindToolbarItem(identifier));
+    auto* action = MakeItem(*FindToolbarItem(identifier));
     action->setParent(this);
     addAction(action);
     mItems.append(action);
   }
   WatchItems(mCustomising);
   Q_EMIT itemsChanged();
+}
+
+QAction* MainToolbar::MakeItem(const ToolbarItem& item) {
+  const auto label = LocalizedString(item.labelKey);
+  const auto tip = LocalizedString((QByteArray(item.labelKey) + "_tip").constData());
+  QAction* action = nullptr;
+  switch (item.kind) {
+    case ToolbarItem::kGauge:
+    case ToolbarItem::kLight:
+      action = MakeGauge(item, *this, label, tip);
+      break;
+    case ToolbarItem::kSpace:
+    case ToolbarItem::kFlexibleSpace:
+      action = MakeSpace(item.kind == ToolbarItem::kFlexibleSpace);
+      break;
+    case ToolbarItem::kSeparator:
+      action = new QAction;
+      action->setSeparator(true);
+      break;
+    case ToolbarItem::kButton:
+    case ToolbarItem::kCustomize:
+      action = new QAction(NamedImage(item.image), label);
+      connect(action, &QAction::triggered, this,
+              [this, command = item.command] { Q_EMIT chosen(*command); });
+      break;
+  }
+  action->setText(label);
+  action->setToolTip(tip);
+  action->setObjectName(QLatin1String(item.identifier));
+  return action;
+}
+
+void MainToolbar::Validate(const SelectionFacts& facts) {
+  for (qsizetype place = 0; place < mItems.size(); ++place) {
+    // The platform's own items and what only shows something need no permission.
+    if (FindToolbarItem(mIdentifiers[place])->kind != ToolbarItem::kButton) continue;
+    const auto identifier = mIdentifiers[place].toStdString();
+    mItems[place]->setEnabled(mCustomising || IsToolbarButtonEnabled(identifier, facts));
+  }
 }
 
 void MainToolbar::SetItems(const QStringList& identifiers) {

@@ -2,7 +2,6 @@
 
 #include <QStringList>
 #include <QToolBar>
-#include <functional>
 
 #include "main_window/SystemInfoImage.h"
 #include "main_window/ToolbarItems.h"
@@ -23,8 +22,7 @@ class MainToolbar final : public QToolBar {
   /// More than any window has room for.
   static constexpr qsizetype kMostItems = 64;
 
-  /// `makeItem` makes an item's action; the toolbar takes it over.
-  MainToolbar(QWidget* parent, std::function<QAction*(const ToolbarItem& item)> makeItem);
+  explicit MainToolbar(QWidget* parent);
 
   /// Makes the items that are remembered, but for unknown ones and those that are there already, or
   /// the default ones.
@@ -33,6 +31,12 @@ class MainToolbar final : public QToolBar {
   const QStringList& itemIdentifiers() const { return mIdentifiers; }
   /// The items' actions, in the same order.
   const QList<QAction*>& items() const { return mItems; }
+
+  /// Makes an item; its owner is the caller.
+  QAction* MakeItem(const ToolbarItem& item);
+
+  /// Enables the buttons that can be used.
+  void Validate(const SelectionFacts& facts);
 
   /// Change what there is, and remember it. Items that cannot be there are left out.
   void SetItems(const QStringList& identifiers);
@@ -57,6 +61,8 @@ class MainToolbar final : public QToolBar {
   /// There are other items, or they are shown again, so that they lack pictures and validation.
   void itemsChanged();
   void shownChanged(bool shown);
+  /// A button was pressed.
+  void chosen(const Command& command);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -73,7 +79,6 @@ class MainToolbar final : public QToolBar {
   template <typename Show>
   void ForGauges(const char* identifier, Show show);
 
-  std::function<QAction*(const ToolbarItem&)> mMakeItem;
   QStringList mIdentifiers;
   QList<QAction*> mItems;
   DisplayMode mDisplayMode = kDefault;

@@ -1,11 +1,14 @@
 #include "main_window/MainWindow.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -15,9 +18,11 @@
 #include "main_window/MainToolbar.h"
 #include "main_window/Preferences.h"
 #include "main_window/ToolbarCustomiseDialog.h"
+#include "platform/Bundle.h"
 #include "platform/Machine.h"
 #include "platform/PreferenceDomain.h"
 #include "platform/ProcessManager.h"
+#include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
@@ -46,7 +51,8 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   setWindowIcon(NamedImage("lurkwell"));
   BuildContents();
   mController->awakeFromNib(*this, *mTable);
-  mMenus = std::make_unique<MainMenus>(*this, *mController, commands);
+  mMenus = std::make_unique<MainMenus>(
+      *this, *mController, CommandScope{mController->processCommands(), *this, commands});
   mTable->setContextMenu(&mMenus->ContextMenu());
   auto* header = mTable->horizontalHeader();
   header->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -59,8 +65,6 @@ MainWindow::MainWindow(ApplicationCommands& commands)
           &MainWindow::UpdateStatus);
   connect(mController.get(), &vqMainTableController::preferencesRequested, this,
           [this] { mCommands.doThePrefs(); });
-  connect(mController.get(), &vqMainTableController::customisingRequested, this,
-          &MainWindow::CustomiseToolbar);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
   connect(mController.get(), &vqMainTableController::updated, this, [this] {
     const auto complaint = TheMachine().preferenceDomain.TakeComplaint();
@@ -71,12 +75,6 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   TheMachine().processManager.WhenRevealFails([this](const std::string& file) {
     Report(LocalizedString("main_window_not_revealed").arg(PlainText(file)));
   });
-  connect(mMenus.get(), &MainMenus::helpIsMissing, this, [this](const QString& page) {
-    if (!ShowHelpWindow(page, *this)) Report(LocalizedString("main_window_help_missing").arg(page));
-  });
-  connect(mMenus.get(), &MainMenus::pidRequested, this, &MainWindow::FindByPid);
-  connect(mMenus.get(), &MainMenus::filterRequested, this, &MainWindow::ShowFilter);
-  connect(mMenus.get(), &MainMenus::closeRequested, this, &QWidget::close);
   RestoreFrame();
   mController->fillWidth(width());
   WatchWindowOrder(*this);
@@ -129,7 +127,7 @@ void MainWindow::BuildContents() {
 
 // ---- Filter -------------------------------------------------------------------------------------
 
-void MainWindow::ShowFilter() {
+void MainWindow::showFilter() {
   mFilterField->show();
   mFilterField->setFocus();
   mFilterField->selectAll();
@@ -141,9 +139,52 @@ void MainWindow::EndFilter() {
   mTable->setFocus();
 }
 
+// ---- Commands -----------------------------------------------------------------------------------
+
+void MainWindow::copySelection() {
+  const auto text = mController->selectionAsText();
+  // Processes may have ended in sight; what was copied before is worth more than nothing.
+  if (!text.isEmpty()) QApplication::clipboard()->setText(text);
+}
+
+void MainWindow::selectAll() {
+  mTable->selectAll();
+}
+
+void MainWindow::updateNow() {
+  mController->updateNow();
+}
+
+void MainWindow::changeSortColumn(int places, int points) {
+  mController->changeSortColumn(places, points);
+}
+
+void MainWindow::showRememberedWindows() {
+  if (auto* windows = mController->processCommands().GetMonitorWindows())
+    windows->ShowRememberedWindows(this);
+}
+
+void MainWindow::closeFollowingWindows() {
+  const PreferenceBatch batch;
+  if (auto* windows = mController->processCommands().GetMonitorWindows())
+    for (const auto& window : windows->OpenWindows()) window.close();
+}
+
+void MainWindow::showHelp() {
+  const auto page = QString::fromStdString(TheMachine().bundle.Path() +
+                                           "/Contents/Resources/Documentation/Documentation.html");
+  if (QDesktopServices::openUrl(QUrl::fromLocalFile(page))) return;
+  if (!ShowHelpWindow(page, *this)) Report(LocalizedString("main_window_help_missing").arg(page));
+}
+
+void MainWindow::toggleToolbar() {
+  auto& toolbar = *mController->toolbar();
+  toolbar.SetShown(toolbar.isHidden());
+}
+
 // ---- The toolbar --------------------------------------------------------------------------------
 
-void MainWindow::CustomiseToolbar() {
+void MainWindow::customiseToolbar() {
   auto& toolbar = *mController->toolbar();
   toolbar.SetShown(true);
   if (mCustomising == nullptr) {
@@ -195,7 +236,7 @@ void MainWindow::AskAboutHelper() {
   });
 }
 
-void MainWindow::FindByPid() {
+void MainWindow::findByPid() {
   const auto pid = AskForPid(
       this, [this](std::int32_t asked) { return mController->rows().Find(asked) != nullptr; });
   if (pid == kInvalidPID) return;

@@ -17,7 +17,7 @@ namespace lurkwell {
 
 /// The window with the process table: menus, the filter's field, the table, and a line that counts
 /// rows and tells how the helper is. Remembers its size and place. Main thread only.
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, private WindowCommands {
   Q_OBJECT
 
  public:
@@ -49,14 +49,24 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void closeWindow() override { close(); }
+  void copySelection() override;
+  void selectAll() override;
+  void showFilter() override;
+  void findByPid() override;
+  void updateNow() override;
+  void toggleToolbar() override;
+  void customiseToolbar() override;
+  void changeSortColumn(int places, int points) override;
+  void showRememberedWindows() override;
+  void closeFollowingWindows() override;
+  void showHelp() override;
+
   void BuildContents();
   void RestoreFrame();
-  void ShowFilter();
   void EndFilter();
   /// Shows a text in the status line for a while.
   void Report(const QString& text);
-  void FindByPid();
-  void CustomiseToolbar();
   void LookAtHelper();
   void LookWhetherSeen();
   void AskAboutHelper();

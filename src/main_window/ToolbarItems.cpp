@@ -1,78 +1,75 @@
 #include "main_window/ToolbarItems.h"
 
 #include <algorithm>
-#include <iterator>
-
-#include "main_window/vqMainTableController.h"
+#include <vector>
 
 namespace lurkwell {
 namespace {
 
-using Controller = vqMainTableController;
-using Command = MenuCommand;
 using Item = ToolbarItem;
 
-constexpr char kHistory[] = "vqToolbarOpenCPUHistoryWindow";
-constexpr char kLogging[] = "vqToolbarOpenLoggingWindow";
-constexpr char kPreferences[] = "vqToolbarShowPreferences";
+constexpr char kCustomizeIdentifier[] = "NSToolbarCustomizeToolbarItemIdentifier";
 
-/// In the order of the palette.
-constexpr Item kItems[] = {
-    {kToolbarCPU, Item::kGauge, "toolbar_system_cpu", "headercpu"},
-    {kToolbarMemory, Item::kGauge, "toolbar_system_ram", "headermemory"},
-    {kToolbarPageouts, Item::kLight, "toolbar_vm_thrashing", "vm_green"},
-    {kHistory, Item::kButton, "toolbar_usage_history", "cpu_hist", Command::kNewCPUHistoryWindow,
-     &Controller::newCPUHistoryWindow},
-    {kLogging, Item::kButton, "toolbar_log", "logging", Command::kNewLoggingWindow,
-     &Controller::newLoggingWindow},
-    {"vqToolbarBringToFront", Item::kButton, "toolbar_bring_to_front", "bring_to_front",
-     Command::kBringToFront, &Controller::processBringToFrontMenuItem},
-    {"vqToolbarKill", Item::kButton, "toolbar_kill", "kill", Command::kKill,
-     &Controller::processKillMenuItem},
-    {"vqToolbarHideProcess", Item::kButton, "toolbar_hide_process", "hide_process", Command::kHide,
-     &Controller::processHideMenuItem},
-    {"vqToolbarRevealInFinder", Item::kButton, "toolbar_reveal", "reveal_in_finder",
-     Command::kReveal, &Controller::processRevealInFinderMenuItem},
-    {"vqToolbarHighPriority", Item::kButton, "toolbar_high", "high_priority",
-     Command::kHighPriority, &Controller::processHighPriorityMenuItem},
-    {"vqToolbarMediumPriority", Item::kButton, "toolbar_medium", "medium_priority",
-     Command::kNormalPriority, &Controller::processNormalPriorityMenuItem},
-    {"vqToolbarLowPriority", Item::kButton, "toolbar_low", "low_priority", Command::kLowPriority,
-     &Controller::processLowPriorityMenuItem},
-    {"vqToolbarProcessHalt", Item::kButton, "toolbar_halt", "processhalt", Command::kHalt,
-     &Controller::processHaltMenuItem},
-    {"vqToolbarProcessContinue", Item::kButton, "toolbar_cont", "processcont", Command::kContinue,
-     &Controller::processContMenuItem},
-    {kPreferences, Item::kButton, "toolbar_prefs", "show_preferences", Command::kOther,
-     &Controller::doThePreferences},
-    {"NSToolbarSeparatorItemIdentifier", Item::kSeparator, "toolbar_separator",
-     "toolbar_separator"},
-    {"NSToolbarSpaceItemIdentifier", Item::kSpace, "toolbar_space", "toolbar_space"},
+/// Buttons stand between these.
+constexpr Item kFixedItems[] = {
+    {kToolbarCPU, Item::kGauge, "toolbar_system_cpu", "headercpu", 0},
+    {kToolbarMemory, Item::kGauge, "toolbar_system_ram", "headermemory", 1},
+    {kToolbarPageouts, Item::kLight, "toolbar_vm_thrashing", "vm_green", 2},
+    {"NSToolbarSeparatorItemIdentifier", Item::kSeparator, "toolbar_separator", "toolbar_separator",
+     90},
+    {"NSToolbarSpaceItemIdentifier", Item::kSpace, "toolbar_space", "toolbar_space", 91},
     {"NSToolbarFlexibleSpaceItemIdentifier", Item::kFlexibleSpace, "toolbar_flexible_space",
-     "toolbar_flexible_space"},
-    {kToolbarCustomize, Item::kCustomize, "toolbar_customise", "customise"},
+     "toolbar_flexible_space", 92},
 };
+
+std::vector<Item> MakeItems() {
+  std::vector<Item> items(std::begin(kFixedItems), std::end(kFixedItems));
+  items.push_back({kCustomizeIdentifier, Item::kCustomize, "toolbar_customise", "customise", 93,
+                   FindCommand("menu_view_customise_toolbar")});
+  for (const auto& command : Commands()) {
+    const auto& button = command.button;
+    if (command.HasButton())
+      items.push_back(
+          {button.identifier, Item::kButton, button.text, button.picture, button.place, &command});
+  }
+  std::ranges::stable_sort(items, {}, &Item::place);
+  return items;
+}
+
+const std::vector<Item>& Items() {
+  static const auto items = MakeItems();
+  return items;
+}
 
 }  // namespace
 
 const ToolbarItem* FindToolbarItem(std::string_view identifier) {
-  const auto* item = std::ranges::find(kItems, identifier, [](const Item& candidate) {
+  const auto item = std::ranges::find(Items(), identifier, [](const Item& candidate) {
     return std::string_view(candidate.identifier);
   });
-  return item != std::end(kItems) ? item : nullptr;
+  return item != Items().end() ? &*item : nullptr;
 }
 
 QStringList AllowedToolbarItems() {
   QStringList identifiers;
-  for (const auto& item : kItems) identifiers.append(QLatin1String(item.identifier));
+  for (const auto& item : Items()) identifiers.append(QLatin1String(item.identifier));
   return identifiers;
 }
 
 QStringList DefaultToolbarItems() {
-  return {QLatin1String(kToolbarCPU),      QLatin1String(kToolbarMemory),
-          QLatin1String(kToolbarPageouts), QLatin1String(kHistory),
-          QLatin1String(kLogging),         QLatin1String(kPreferences),
-          QLatin1String(kToolbarCustomize)};
+  QStringList identifiers;
+  for (const char* identifier :
+       {kToolbarCPU, kToolbarMemory, kToolbarPageouts, "vqToolbarOpenCPUHistoryWindow",
+        "vqToolbarOpenLoggingWindow", "vqToolbarShowPreferences", kCustomizeIdentifier})
+    identifiers.append(QLatin1String(identifier));
+  return identifiers;
+}
+
+bool IsToolbarButtonEnabled(std::string_view identifier, const SelectionFacts& facts) {
+  const auto* item = FindToolbarItem(identifier);
+  if (item == nullptr || item->kind != ToolbarItem::kButton) return false;
+  const auto& command = *item->command;
+  return IsMet(command.needs, facts) && IsMet(command.button.alsoNeeds, facts);
 }
 
 }  // namespace lurkwell

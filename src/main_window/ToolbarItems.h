@@ -3,19 +3,17 @@
 #include <QStringList>
 #include <string_view>
 
-#include "main_window/MenuCommands.h"
+#include "main_window/CommandTable.h"
 
 namespace lurkwell {
-
-class vqMainTableController;
 
 inline constexpr char kToolbarCPU[] = "vqToolbarShowTopHeaderStuffCPU";
 inline constexpr char kToolbarMemory[] = "vqToolbarShowTopHeaderStuffMemory";
 inline constexpr char kToolbarPageouts[] = "vqToolbarShowTopHeaderStuffPageouts";
-inline constexpr char kToolbarCustomize[] = "NSToolbarCustomizeToolbarItemIdentifier";
 
-/// What the main window's toolbar can hold. Texts are those of `labelKey` and `labelKey`_tip,
-/// pictures those of `image`.
+/// What the main window's toolbar can hold: the commands that have a button, and a few things of
+/// its own. Texts are those of `labelKey` and `labelKey`_tip, pictures those of `image`. Main
+/// thread.
 struct ToolbarItem {
   /// Of the last three there may be any number in a toolbar, of the others one each.
   enum Kind { kGauge, kLight, kButton, kCustomize, kSeparator, kSpace, kFlexibleSpace };
@@ -24,9 +22,10 @@ struct ToolbarItem {
   Kind kind;
   const char* labelKey;
   const char* image;
-  /// Of buttons: what it does, and what decides whether it can be used.
-  MenuCommand command = MenuCommand::kOther;
-  void (vqMainTableController::*action)() = nullptr;
+  /// Items are offered in this order.
+  int place;
+  /// What it does, of buttons and of the item that opens the dialog; null for all others.
+  const Command* command = nullptr;
 
   bool IsRepeatable() const { return kind >= kSeparator; }
 };
@@ -39,5 +38,8 @@ inline const ToolbarItem* FindToolbarItem(const QString& identifier) {
 
 QStringList AllowedToolbarItems();
 QStringList DefaultToolbarItems();
+
+/// Whether a button can be used; false for what is no button of a command.
+bool IsToolbarButtonEnabled(std::string_view identifier, const SelectionFacts& facts);
 
 }  // namespace lurkwell

@@ -9,7 +9,6 @@
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/ColumnGroups.h"
-#include "main_window/MainToolbar.h"
 #include "main_window/Preferences.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
@@ -62,7 +61,20 @@ void vqMainTableController::awakeFromNib(QMainWindow& window, StripedTableView& 
           &vqMainTableController::contentsChanged);
   chooseInitialSortColumn();
   setupToolbar(window);
-  fColumnMenus.Build();
+}
+
+void vqMainTableController::setupToolbar(QMainWindow& window) {
+  fToolbar = new MainToolbar(&window);
+  window.addToolBar(fToolbar);
+  fToolbar->RestoreItems();
+  connect(fToolbar, &MainToolbar::itemsChanged, this, [this] {
+    fToolbar->Validate(selectionFacts());
+    if (fInfoSynchronizer != nullptr) fInfoSynchronizer->ShowSystemInfo();
+  });
+}
+
+MainToolbar* vqMainTableController::visibleToolbar() const {
+  return fToolbar != nullptr && !fToolbar->isHidden() ? fToolbar : nullptr;
 }
 
 // ---- The window's life -------------------------------------------------------------------------
@@ -143,6 +155,12 @@ void vqMainTableController::arrangeRows() {
 void vqMainTableController::triggerReload() {
   fFactsHaveChanged = true;
   commitChanges();
+}
+
+void vqMainTableController::processesHaveChanged(const std::vector<std::int32_t>& pids) {
+  for (const auto pid : pids)
+    if (auto* row = fRows.Find(pid)) row->SetChanged(true);
+  triggerReload();
 }
 
 void vqMainTableController::resortTable() {

@@ -11,14 +11,12 @@
 #include <vector>
 
 #include "consolidator/PropertyTypes.h"
-#include "main_window/ColumnMenus.h"
-#include "main_window/MenuCommands.h"
+#include "main_window/CommandTable.h"
+#include "main_window/MainToolbar.h"
+#include "main_window/ProcessCommands.h"
 #include "main_window/ProcessRows.h"
-#include "main_window/ToolbarItems.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
-#include "process_control/ActionPlan.h"
 #include "windows/CustomCells.h"
-#include "windows/MonitorWindows.h"
 #include "windows/StripedTableView.h"
 #include "windows/vqTableController.h"
 
@@ -27,14 +25,14 @@ class QMainWindow;
 
 namespace lurkwell {
 
-class MainToolbar;
-
-/// The process table: its rows and columns as the view's model, the column menus, and what can be
-/// done to the selected processes. Main thread only.
+/// The process table: its rows and columns as the view's model, its sorting and selection. What can
+/// be done to processes is ProcessCommands', the toolbar MainToolbar's. Main thread only.
 ///
 /// Rows change while the consolidator talks to the synchroniser; the view hears of all of it in one
 /// commit at the end of the turn.
-class vqMainTableController final : public vqTableController, private ProcessRows::Announcer {
+class vqMainTableController final : public vqTableController,
+                                    private ProcessRows::Announcer,
+                                    private ProcessSelection {
   Q_OBJECT
 
  public:
@@ -42,7 +40,7 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   vqMainTableController();
   ~vqMainTableController() override;
 
-  /// Takes its view and window, builds columns, menus and toolbar, and sorts as last time. Once.
+  /// Takes its view and window, builds columns and toolbar, and sorts as last time. Once.
   void awakeFromNib(QMainWindow& window, StripedTableView& table);
   /// At a first start, whose columns nobody has arranged, names get the room that a window of that
   /// width has left.
@@ -90,7 +88,7 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void resortTable();
 
   /// While something holds the order (an open menu, a question), rows stay where they are.
-  void holdOrder(const QObject* holder, bool hold);
+  void holdOrder(const QObject* holder, bool hold) override;
 
   /// Shows only processes with this text in their name, their pid, or a text column, whatever its
   /// case; all for an empty text.
@@ -113,7 +111,6 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void removeFromKeysWeTrackForUI(KeyId key);
   /// Keys, widths, directions and the sort column, as they stand on the screen.
   void saveColumnPrefs();
-  ColumnMenus& columnMenus() { return fColumnMenus; }
 
   // ---- Sorting and selection --------------------------------------------------------------------
 
@@ -127,50 +124,41 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void rememberSelection();
   void restoreSelection();
   /// In the order of the rows, without those whose processes have ended.
-  std::vector<std::int32_t> selectedPids() const;
+  std::vector<std::int32_t> selectedPids() const override;
   /// A process's name on one line, whether names are shown or not.
   static QString nameOf(std::int32_t pid);
   bool selectPid(std::int32_t pid);
 
   // ---- Commands on the selected processes -------------------------------------------------------
 
-  void processKillMenuItem();
-  void processHighPriorityMenuItem();
-  void processNormalPriorityMenuItem();
-  void processLowPriorityMenuItem();
-  void processHaltMenuItem();
-  void processContMenuItem();
-  void processHideMenuItem();
-  void processBringToFrontMenuItem();
-  void processRevealInFinderMenuItem();
+  ProcessCommands& processCommands() { return fCommands; }
+
+  void processKillMenuItem() { fCommands.Kill(); }
+  void processHighPriorityMenuItem() { fCommands.GiveHighPriority(); }
+  void processNormalPriorityMenuItem() { fCommands.GiveNormalPriority(); }
+  void processLowPriorityMenuItem() { fCommands.GiveLowPriority(); }
+  void processHaltMenuItem() { fCommands.Halt(); }
+  void processContMenuItem() { fCommands.Continue(); }
+  void processHideMenuItem() { fCommands.Hide(); }
+  void processBringToFrontMenuItem() { fCommands.BringToFront(); }
+  void processRevealInFinderMenuItem() { fCommands.Reveal(); }
   void doubleClickAction() { processBringToFrontMenuItem(); }
-  /// These do nothing before setMonitorWindows.
-  void newCPUHistoryWindow();
-  void newLoggingWindow();
-  void setMonitorWindows(MonitorWindows* windows) { fMonitorWindows = windows; }
-  /// Null before.
-  MonitorWindows* monitorWindows() const { return fMonitorWindows; }
+  void newCPUHistoryWindow() { fCommands.NewCPUHistoryWindow(); }
+  void newLoggingWindow() { fCommands.NewLoggingWindow(); }
+  void doThePreferences() { Q_EMIT preferencesRequested(); }
   /// The selected rows as lines of tab-separated cells, columns as on the screen.
   QString selectionAsText() const;
   /// Reads and shows everything now instead of at the next turn.
   void updateNow();
 
-  bool anyPIDsInSelection() const;
-  bool anyPSNsInSelection() const;
-  bool anyActionListItemsInSelection(std::int32_t kind) const;
-  /// What commands depend on, asked once for all of them.
-  struct SelectionFacts {
-    bool any;
-    bool anyPIDs;
-    bool anyPSNs;
-    bool anyHalted;
-    /// One that the kernel knows and that can be halted yet.
-    bool anyGoing;
-  };
-  SelectionFacts selectionFacts() const;
-  bool validateMenuItem(MenuCommand command, const SelectionFacts& facts) const;
-  bool validateMenuItem(MenuCommand command) const {
-    return validateMenuItem(command, selectionFacts());
+  bool anyPIDsInSelection() const { return fCommands.AnyPIDs(); }
+  bool anyPSNsInSelection() const { return fCommands.AnyPSNs(); }
+  bool anyActionListItemsInSelection(std::int32_t kind) const {
+    return fCommands.AnyActionListItems(kind);
+  }
+  SelectionFacts selectionFacts() const { return fCommands.Facts(); }
+  static bool validateMenuItem(const Command& command, const SelectionFacts& facts) {
+    return IsMet(command.needs, facts);
   }
 
   // ---- The toolbar ------------------------------------------------------------------------------
@@ -179,18 +167,15 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   MainToolbar* toolbar() const { return fToolbar; }
   /// Null while it is hidden.
   MainToolbar* visibleToolbar() const;
-  static QStringList toolbarDefaultItemIdentifiers();
+  static QStringList toolbarDefaultItemIdentifiers() { return DefaultToolbarItems(); }
   /// In the order of the palette.
-  static QStringList toolbarAllowedItemIdentifiers();
-  /// Makes an item for the toolbar, which takes it over.
-  QAction* itemForItemIdentifier(const ToolbarItem& item);
+  static QStringList toolbarAllowedItemIdentifiers() { return AllowedToolbarItems(); }
+  /// Makes an item for the toolbar; its owner is the caller.
+  QAction* itemForItemIdentifier(const ToolbarItem& item) { return fToolbar->MakeItem(item); }
   /// By the toolbar's identifiers; those that are no buttons of ours are disabled.
-  bool validateToolbarItem(std::string_view identifier, const SelectionFacts& facts) const;
   bool validateToolbarItem(std::string_view identifier) const {
-    return validateToolbarItem(identifier, selectionFacts());
+    return IsToolbarButtonEnabled(identifier, selectionFacts());
   }
-  void validateToolbarItems(const SelectionFacts& facts);
-  void doThePreferences() { Q_EMIT preferencesRequested(); }
 
   // ---- The model --------------------------------------------------------------------------------
 
@@ -209,8 +194,6 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   /// What became of a command, to be said in passing.
   void reported(const QString& text);
   void preferencesRequested();
-  /// The toolbar is to be arranged.
-  void customisingRequested();
 
  protected:
   int columnIndexOf(KeyId key) const override;
@@ -231,6 +214,11 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   void EndRemove() override { endRemoveRows(); }
   void Reorder(const std::function<void()>& change) override;
   void CellsChanged(int firstRow, int lastRow) override;
+
+  bool isAnyRowSelected() const override { return hasSelection(); }
+  QWidget* parentOfQuestions() const override { return window(); }
+  void processesHaveChanged(const std::vector<std::int32_t>& pids) override;
+  void report(const QString& text) override { Q_EMIT reported(text); }
 
   void noteAgeOfColumns(bool mayAge);
   void putAwayColumnsThatDidNotCome();
@@ -255,15 +243,6 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   /// The process's arguments on one line, as they are now; empty when they are not known.
   static QString commandLineOf(std::int32_t pid);
   QString tooltipOf(const RowDictionary& row, const Column& column) const;
-  /// Carries out a command on the selected processes, once the user has agreed where he must.
-  void act(ProcessCommand command);
-  bool confirm(const ActionPlan& plan);
-  template <typename Action>
-  void forSelectedPSNs(Action action);
-  /// Has a window opened for each selected process, as far as its user and the room agree.
-  void followSelectedPids(void (MonitorWindows::*open)(std::int32_t, std::int32_t),
-                          std::int32_t interval);
-  bool confirmFollowing(std::size_t windows);
   StripedTableView* stripedTable() const { return static_cast<StripedTableView*>(table()); }
 
   VQTarvMainWindowInfoSynch* fInfoSynchronizer = nullptr;
@@ -293,8 +272,7 @@ class vqMainTableController final : public vqTableController, private ProcessRow
   bool fNeedsResort = false;
   bool fCommitIsQueued = false;
   std::unordered_set<const QObject*> fHolders;
-  MonitorWindows* fMonitorWindows = nullptr;
-  ColumnMenus fColumnMenus{*this};
+  ProcessCommands fCommands{*this};
   /// The window's, which outlives this.
   MainToolbar* fToolbar = nullptr;
   TextCell fTextCell;

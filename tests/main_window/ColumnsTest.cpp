@@ -25,7 +25,7 @@ class ColumnsTest : public MainWindowTest {
     item->trigger();
   }
 
-  ColumnMenus& Menus() { return controller().columnMenus(); }
+  ColumnMenus& Menus() { return window->menus().columnMenus(); }
   int Width(const char* key) { return window->table().columnWidth(ColumnOf(key)); }
 };
 

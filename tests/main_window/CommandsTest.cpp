@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSet>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTableWidget>
@@ -13,6 +14,7 @@
 
 #include "main_window/MainWindowTest.h"
 #include "process_control/ProcessActions.h"
+#include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {
@@ -269,6 +271,27 @@ TEST_F(CommandsTest, ApplicationCommandsReachApplicationsAlone) {
   EXPECT_EQ(Done(), "ProcessManager.SetFrontProcess 5 301\n");
 }
 
+TEST_F(CommandsTest, EveryRowOfTheTableHasItsTextsItsPictureAndAKeyOfItsOwn) {
+  Open();
+  QStringList keys;
+  QList<int> places;
+  for (const auto& command : Commands()) {
+    EXPECT_TRUE(HasLocalizedString(command.text)) << command.text;
+    EXPECT_EQ(FindCommand(command.text), &command) << "the text is another command's";
+    EXPECT_FALSE(Action(command.text).associatedObjects().isEmpty());
+    if (!command.Shortcut().isEmpty()) keys += command.Shortcut().toString();
+    if (!command.HasButton()) continue;
+    const auto& button = command.button;
+    places += button.place;
+    for (const auto& id : {std::string(button.text), std::string(button.text) + "_tip"})
+      EXPECT_TRUE(HasLocalizedString(id.c_str())) << id;
+    EXPECT_FALSE(NamedImage(button.picture).isNull()) << button.picture;
+    EXPECT_EQ(FindToolbarItem(std::string_view(button.identifier))->command, &command);
+  }
+  EXPECT_EQ(keys.removeDuplicates(), 0);
+  EXPECT_EQ(QSet(places.begin(), places.end()).size(), places.size());
+}
+
 TEST_F(CommandsTest, WithoutASelectionNothingCanBeDone) {
   OpenWith({300});
   window->table().clearSelection();
@@ -292,6 +315,14 @@ TEST_F(CommandsTest, CopyTakesTheSelectedRowsAsTheyAreShown) {
   EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
             "300\t\tp300\t0.00\t0.0 %\t0 / 0\n"
             "301\t\tp301\t1.50\t0.0 %\t0 / 0\n");
+  QObject menu;
+  controller().holdOrder(&menu, true);
+  for (const int pid : {300, 301}) machine.processTable.Death(pid);
+  Turn();
+  Choose("menu_edit_copy");
+  EXPECT_NE(QApplication::clipboard()->text(), QString())
+      << "nothing to copy is no reason to forget";
+  controller().holdOrder(&menu, false);
 }
 
 TEST_F(CommandsTest, UpdateNowDoesNotWaitForTheInterval) {
@@ -330,7 +361,7 @@ TEST_F(CommandsTest, WindowsThatFollowAProcessOpenForEachSelectedOne) {
   OpenWith({300, 301});
   Select({300, 301});
   Choose("menu_file_new_logging");
-  controller().setMonitorWindows(&windows);
+  controller().processCommands().SetMonitorWindows(&windows);
   Choose("menu_file_new_logging");
   Choose("menu_file_new_cpu_history");
   EXPECT_EQ(windows.opened, "log 1000 300\nlog 1000 301\nhistory 250 300\nhistory 250 301\n");

@@ -199,7 +199,7 @@ TEST_F(TableTest, EveryMenuLetsTheRowsGoAgain) {
   table.Birth(300, "p");
   Open();
   QList<QMenu*> menus{&window->menus().HeaderMenu(0), &window->menus().ContextMenu(),
-                      &controller().columnMenus().BuiltInMenu()};
+                      &window->menus().columnMenus().BuiltInMenu()};
   for (const auto* action : window->menuBar()->actions()) menus.append(action->menu());
   ASSERT_GT(menus.size(), 8);
   int pid = 400;

@@ -1,0 +1,238 @@
+#include "main_window/CommandTable.h"
+
+#include <algorithm>
+
+#include "windows/OverlayKey.h"
+
+namespace lurkwell {
+namespace {
+
+using Menu = CommandMenu;
+using Scope = const CommandScope&;
+
+template <void (ProcessCommands::*Function)()>
+void Processes(Scope scope) {
+  (scope.processes.*Function)();
+}
+
+template <void (WindowCommands::*Function)()>
+void Window(Scope scope) {
+  (scope.window.*Function)();
+}
+
+template <void (ApplicationCommands::*Function)()>
+void Application(Scope scope) {
+  (scope.application.*Function)();
+}
+
+/// Moves the sort column by so many places, or makes it so many points wider.
+template <int places, int points>
+void SortColumn(Scope scope) {
+  scope.window.changeSortColumn(places, points);
+}
+
+constexpr CommandKeys Keys(QKeyCombination keys) {
+  return {.keys = keys};
+}
+constexpr CommandKeys Keys(Qt::Key key) {
+  return {.keys = QKeyCombination(key)};
+}
+constexpr CommandKeys Standard(QKeySequence::StandardKey key) {
+  return {.standard = key};
+}
+
+constexpr Command kCommands[] = {
+    {.text = "menu_application_about",
+     .menu = Menu::kApplication,
+     .run = Application<&ApplicationCommands::doAboutPanel>},
+    {.text = "menu_application_preferences",
+     .menu = Menu::kApplication,
+     .keys = Keys(Qt::CTRL | Qt::Key_Comma),
+     .run = Application<&ApplicationCommands::doThePrefs>,
+     .button = {"vqToolbarShowPreferences", "toolbar_prefs", "show_preferences", 80}},
+    {.text = "menu_application_quit",
+     .menu = Menu::kApplication,
+     .beginsGroup = true,
+     .keys = {.keys = Qt::CTRL | Qt::Key_Q, .standard = QKeySequence::Quit},
+     .run = Application<&ApplicationCommands::doQuit>},
+
+    {.text = "menu_file_new_cpu_history",
+     .menu = Menu::kFile,
+     .isInContextMenu = true,
+     .keys = Keys(Qt::CTRL | Qt::Key_N),
+     .needs = Need::kSelection,
+     .run = Processes<&ProcessCommands::NewCPUHistoryWindow>,
+     .button = {"vqToolbarOpenCPUHistoryWindow", "toolbar_usage_history", "cpu_hist", 10}},
+    {.text = "menu_file_new_logging",
+     .menu = Menu::kFile,
+     .isInContextMenu = true,
+     .keys = Keys(Qt::CTRL | Qt::Key_L),
+     .needs = Need::kSelection,
+     .run = Processes<&ProcessCommands::NewLoggingWindow>,
+     .button = {"vqToolbarOpenLoggingWindow", "toolbar_log", "logging", 11}},
+    {.text = "menu_file_close_window",
+     .menu = Menu::kFile,
+     .beginsGroup = true,
+     .keys = Keys(Qt::CTRL | Qt::Key_W),
+     .run = Window<&WindowCommands::closeWindow>},
+
+    {.text = "menu_edit_copy",
+     .menu = Menu::kEdit,
+     .keys = Standard(QKeySequence::Copy),
+     .needs = Need::kSelection,
+     .run = Window<&WindowCommands::copySelection>},
+    {.text = "menu_edit_select_all",
+     .menu = Menu::kEdit,
+     .keys = Standard(QKeySequence::SelectAll),
+     .run = Window<&WindowCommands::selectAll>},
+    {.text = "menu_edit_filter",
+     .menu = Menu::kEdit,
+     .keys = Standard(QKeySequence::Find),
+     .run = Window<&WindowCommands::showFilter>},
+    {.text = "menu_process_by_id",
+     .menu = Menu::kEdit,
+     .keys = Keys(Qt::CTRL | Qt::Key_G),
+     .run = Window<&WindowCommands::findByPid>},
+
+    {.text = "menu_view_update_now",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::Key_F5),
+     .run = Window<&WindowCommands::updateNow>},
+    {.text = "menu_view_overlay",
+     .menu = Menu::kView,
+     .keys = {.isOverlayKey = true},
+     .run = Application<&ApplicationCommands::doToggleQuintessentialViewFullScreen>},
+    {.text = "menu_view_show_toolbar",
+     .menu = Menu::kView,
+     .beginsGroup = true,
+     .run = Window<&WindowCommands::toggleToolbar>},
+    {.text = "menu_view_customise_toolbar",
+     .menu = Menu::kView,
+     .run = Window<&WindowCommands::customiseToolbar>},
+    {.text = "menu_view_column_left",
+     .menu = Menu::kView,
+     .beginsGroup = true,
+     .keys = Keys(Qt::ALT | Qt::SHIFT | Qt::Key_Left),
+     .run = SortColumn<-1, 0>},
+    {.text = "menu_view_column_right",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::ALT | Qt::SHIFT | Qt::Key_Right),
+     .run = SortColumn<1, 0>},
+    {.text = "menu_view_column_wider",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::ALT | Qt::SHIFT | Qt::Key_Up),
+     .run = SortColumn<0, 20>},
+    {.text = "menu_view_column_narrower",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::ALT | Qt::SHIFT | Qt::Key_Down),
+     .run = SortColumn<0, -20>},
+
+    {.text = "menu_process_quit_or_kill",
+     .keys = Keys(Qt::Key_Delete),
+     .needs = Need::kSelection,
+     .run = Processes<&ProcessCommands::Kill>,
+     .button = {"vqToolbarKill", "toolbar_kill", "kill", 13}},
+    {.text = "menu_process_halt",
+     .beginsGroup = true,
+     .keys = Keys(Qt::CTRL | Qt::Key_H),
+     .needs = Need::kGoing,
+     .run = Processes<&ProcessCommands::Halt>,
+     .button = {"vqToolbarProcessHalt", "toolbar_halt", "processhalt", 19}},
+    {.text = "menu_process_continue",
+     .keys = Keys(Qt::CTRL | Qt::SHIFT | Qt::Key_H),
+     .needs = Need::kHalted,
+     .run = Processes<&ProcessCommands::Continue>,
+     // A halted application without a kernel pid can be continued from the menu alone.
+     .button = {"vqToolbarProcessContinue", "toolbar_cont", "processcont", 20, Need::kKernelPid}},
+    {.text = "menu_process_high_priority",
+     .beginsGroup = true,
+     .keys = Keys(Qt::CTRL | Qt::Key_Plus),
+     .needs = Need::kKernelPid,
+     .run = Processes<&ProcessCommands::GiveHighPriority>,
+     .button = {"vqToolbarHighPriority", "toolbar_high", "high_priority", 16}},
+    {.text = "menu_process_normal_priority",
+     .keys = Keys(Qt::CTRL | Qt::Key_0),
+     .needs = Need::kKernelPid,
+     .run = Processes<&ProcessCommands::GiveNormalPriority>,
+     .button = {"vqToolbarMediumPriority", "toolbar_medium", "medium_priority", 17}},
+    {.text = "menu_process_low_priority",
+     .keys = Keys(Qt::CTRL | Qt::Key_Minus),
+     .needs = Need::kKernelPid,
+     .run = Processes<&ProcessCommands::GiveLowPriority>,
+     .button = {"vqToolbarLowPriority", "toolbar_low", "low_priority", 18}},
+    {.text = "menu_process_bring_to_front",
+     .beginsGroup = true,
+     .keys = Keys(Qt::CTRL | Qt::Key_B),
+     .needs = Need::kApplication,
+     .run = Processes<&ProcessCommands::BringToFront>,
+     .button = {"vqToolbarBringToFront", "toolbar_bring_to_front", "bring_to_front", 12}},
+    {.text = "menu_process_hide",
+     .keys = Keys(Qt::CTRL | Qt::Key_J),
+     .needs = Need::kApplication,
+     .run = Processes<&ProcessCommands::Hide>,
+     .button = {"vqToolbarHideProcess", "toolbar_hide_process", "hide_process", 14}},
+    {.text = "menu_process_reveal",
+     .keys = Keys(Qt::CTRL | Qt::Key_R),
+     .needs = Need::kApplication,
+     .run = Processes<&ProcessCommands::Reveal>,
+     .button = {"vqToolbarRevealInFinder", "toolbar_reveal", "reveal_in_finder", 15}},
+
+    {.text = "menu_window_show_main",
+     .menu = Menu::kWindow,
+     .run = Application<&ApplicationCommands::doShowMainWindow>},
+    {.text = "menu_window_show_animated_view",
+     .menu = Menu::kWindow,
+     .run = Application<&ApplicationCommands::doShowQuintessentialView>},
+    {.text = "menu_window_remembered",
+     .menu = Menu::kWindow,
+     .beginsGroup = true,
+     .run = Window<&WindowCommands::showRememberedWindows>},
+    {.text = "menu_window_close_all",
+     .menu = Menu::kWindow,
+     .run = Window<&WindowCommands::closeFollowingWindows>},
+
+    {.text = "menu_help_help",
+     .menu = Menu::kHelp,
+     .keys = Keys(Qt::Key_F1),
+     .run = Window<&WindowCommands::showHelp>},
+};
+
+}  // namespace
+
+bool IsMet(Need need, const SelectionFacts& facts) {
+  switch (need) {
+    case Need::kNothing:
+      return true;
+    case Need::kSelection:
+      return facts.any;
+    case Need::kKernelPid:
+      return facts.anyPIDs;
+    case Need::kApplication:
+      return facts.anyPSNs;
+    case Need::kGoing:
+      return facts.anyGoing;
+    case Need::kHalted:
+      return facts.anyHalted;
+  }
+  return true;
+}
+
+QKeySequence Command::Shortcut() const {
+  if (keys.isOverlayKey) return OverlayKey();
+  // Not every desktop has all of the standard ones.
+  const QKeySequence standard(keys.standard);
+  if (!standard.isEmpty()) return standard;
+  return keys.keys.key() != Qt::Key_unknown ? QKeySequence(keys.keys) : QKeySequence();
+}
+
+std::span<const Command> Commands() {
+  return kCommands;
+}
+
+const Command* FindCommand(std::string_view text) {
+  const auto* found = std::ranges::find(
+      kCommands, text, [](const Command& command) { return std::string_view(command.text); });
+  return found != std::end(kCommands) ? found : nullptr;
+}
+
+}  // namespace lurkwell

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+#include "process_control/ActionPlan.h"
+#include "windows/MonitorWindows.h"
+
+class QObject;
+class QWidget;
+
+namespace lurkwell {
+
+/// The list of processes that commands work on. Main thread.
+class ProcessSelection {
+ public:
+  virtual ~ProcessSelection() = default;
+  /// Whether a row is selected, if only that of a process that has ended.
+  virtual bool isAnyRowSelected() const = 0;
+  /// In the order of the rows, without those whose processes have ended.
+  virtual std::vector<std::int32_t> selectedPids() const = 0;
+  virtual QWidget* parentOfQuestions() const = 0;
+  /// While something holds the order, rows stay where they are.
+  virtual void holdOrder(const QObject* holder, bool hold) = 0;
+  /// These are to be drawn again, and what can be done to them may be something else.
+  virtual void processesHaveChanged(const std::vector<std::int32_t>& pids) = 0;
+  /// Says in passing what became of a command; nothing for an empty text.
+  virtual void report(const QString& text) = 0;
+};
+
+/// What commands depend on, asked once for all of them.
+struct SelectionFacts {
+  bool any = false;
+  bool anyPIDs = false;
+  bool anyPSNs = false;
+  bool anyHalted = false;
+  /// One that the kernel knows and that can be halted yet.
+  bool anyGoing = false;
+};
+
+/// What can be done to the selected processes. Questions are asked where they must be, and what
+/// became of it is reported. Main thread only.
+class ProcessCommands {
+ public:
+  /// The selection outlives this.
+  explicit ProcessCommands(ProcessSelection& selection) : mSelection(selection) {}
+
+  /// Opens the windows that follow processes; null, as at first: commands for these do nothing.
+  void SetMonitorWindows(MonitorWindows* windows) { mMonitorWindows = windows; }
+  MonitorWindows* GetMonitorWindows() const { return mMonitorWindows; }
+
+  SelectionFacts Facts() const;
+  bool AnyPIDs() const;
+  bool AnyPSNs() const;
+  /// Of a kind of GetProcessAction.
+  bool AnyActionListItems(std::int32_t kind) const;
+
+  void Kill() { Act(ProcessCommand::kKill); }
+  void Halt() { Act(ProcessCommand::kHalt); }
+  void Continue() { Act(ProcessCommand::kContinue); }
+  void GiveHighPriority() { Act(ProcessCommand::kHighPriority); }
+  void GiveNormalPriority() { Act(ProcessCommand::kNormalPriority); }
+  void GiveLowPriority() { Act(ProcessCommand::kLowPriority); }
+  void Hide();
+  void BringToFront();
+  void Reveal();
+  void NewCPUHistoryWindow();
+  void NewLoggingWindow();
+
+ private:
+  /// Carries out a command, once the user has agreed where needed.
+  void Act(ProcessCommand command);
+  bool Confirm(const ActionPlan& plan);
+  template <typename Action>
+  void ForSelectedPSNs(Action action);
+  /// Has a window opened for each selected process, as far as the user and the room agree.
+  void Follow(void (MonitorWindows::*open)(std::int32_t, std::int32_t), std::int32_t interval);
+  bool ConfirmFollowing(std::size_t windows);
+
+  ProcessSelection& mSelection;
+  MonitorWindows* mMonitorWindows = nullptr;
+};
+
+}  // namespace lurkwell

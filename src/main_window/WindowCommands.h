@@ -1,0 +1,24 @@
+#pragma once
+
+namespace lurkwell {
+
+/// What commands ask of the main window itself. Main thread.
+class WindowCommands {
+ public:
+  virtual ~WindowCommands() = default;
+  virtual void closeWindow() = 0;
+  virtual void copySelection() = 0;
+  virtual void selectAll() = 0;
+  virtual void showFilter() = 0;
+  virtual void findByPid() = 0;
+  virtual void updateNow() = 0;
+  virtual void toggleToolbar() = 0;
+  virtual void customiseToolbar() = 0;
+  /// Moves the sort column by so many places to the right and makes it so many points wider.
+  virtual void changeSortColumn(int places, int points) = 0;
+  virtual void showRememberedWindows() = 0;
+  virtual void closeFollowingWindows() = 0;
+  virtual void showHelp() = 0;
+};
+
+}  // namespace lurkwell
