@@ -1,8 +1,11 @@
 #include "app/CommandLine.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <ostream>
 #include <string_view>
+#include <utility>
 
 namespace lurkwell {
 namespace {
@@ -24,8 +27,18 @@ Watches the processes of this machine.
   --print              print the processes in the terminal, once a second
   --count N            end after N updates (with --print)
   --columns KEY,...    print these properties instead of the usual five
-                       (with --print); keys are properties such as pid_rsz and
-                       the column headers of ps such as %CPU
+                       (with --print); keys are properties such as pid_rsz,
+                       the column headers of ps such as %CPU, and the short
+                       words that filters have, such as user
+  --format FORM        text, json, jsonl or csv (with --print)
+  --filter QUERY       print the processes that a query is true of (with --print):
+                       'ssh' (a part of what is shown), 'name:post',
+                       'user:root,mail', 'mem>500M', 'name:/^k.*d$/', '-name:sh'
+                       (not), 'a b' (both), 'a | b' (one of them)
+  --sort KEY           in this order (with --print); -KEY has the largest first
+  --limit N            print N processes at most (with --print)
+  --tree               print children below their parents (with --print)
+  --interval SECONDS   time between two updates (with --print); 1 without it
   --unprivileged       never ask for an administrator's password; other users'
                        processes then show and obey only as far as your own
                        rights go
@@ -41,6 +54,15 @@ make no sense.
 constexpr const char* kWindows[] = {"main",     "history",  "logging", "preferences",
                                     "settings", "animated", "about"};
 
+constexpr double kShortestInterval = 0.1;
+constexpr double kLongestInterval = 86'400;
+
+bool IsForPrinting(std::string_view option) {
+  constexpr std::string_view kOptions[] = {"--count", "--columns", "--format",   "--filter",
+                                           "--sort",  "--limit",   "--interval", "--tree"};
+  return std::ranges::find(kOptions, option) != std::end(kOptions);
+}
+
 /// Walks over the arguments; an option's value follows it or stands behind "=".
 class Reader {
  public:
@@ -52,6 +74,7 @@ class Reader {
       const std::string_view argument = Take();
       const auto equals = argument.find('=');
       mOption = argument.substr(0, equals);
+      if (IsForPrinting(mOption)) mLine.printingOption = mOption;
       mValue.reset();
       if (equals != std::string_view::npos) mValue = argument.substr(equals + 1);
       if (!ReadOption()) return std::nullopt;
@@ -85,15 +108,22 @@ class Reader {
   }
 
   bool ReadOption() {
-    if (mOption == "--count") return ReadCount();
+    if (mOption == "--count") return ReadCountInto(mLine.count);
     if (mOption == "--columns") return ReadColumns();
+    if (mOption == "--format") return ReadForm();
+    if (mOption == "--filter") return ReadText(mLine.filter);
+    if (mOption == "--sort") return ReadText(mLine.sort);
+    if (mOption == "--limit") return ReadCountInto(mLine.limit);
+    if (mOption == "--interval") return ReadInterval();
     if (mOption == "--screenshot") return ReadScreenshot();
     if (mOption == "--window") return ReadWindow();
     if (mOption == "--theme") return ReadTheme();
     // Of a session manager; Qt reads it.
     if (mOption == "-session") return TakeValue();
     if (mValue) return Complain(std::string(mOption) + " takes no value");
-    if (mOption == "--print") {
+    if (mOption == "--tree") {
+      mLine.isTree = true;
+    } else if (mOption == "--print") {
       mLine.action = CommandLine::Action::kPrint;
     } else if (mOption == "--help" || mOption == "-h") {
       mLine.action = CommandLine::Action::kHelp;
@@ -117,15 +147,48 @@ class Reader {
     return true;
   }
 
-  bool ReadCount() {
+  bool ReadCountInto(std::optional<std::int32_t>& result) {
     if (!TakeValue()) return false;
     std::int32_t count = 0;
     const char* end = mValue->data() + mValue->size();
     const auto [at, error] = std::from_chars(mValue->data(), end, count);
-    if (error != std::errc{} || at != end || count < 1)
-      return Complain("--count needs a number from 1 up, not '" + std::string(*mValue) + "'");
-    mLine.count = count;
+    if (error != std::errc{} || at != end || count < 1) {
+      return Complain(std::string(mOption) + " needs a number from 1 up, not '" +
+                      std::string(*mValue) + "'");
+    }
+    result = count;
     return true;
+  }
+
+  bool ReadInterval() {
+    if (!TakeValue()) return false;
+    double seconds = 0;
+    const char* end = mValue->data() + mValue->size();
+    const auto [at, error] = std::from_chars(mValue->data(), end, seconds);
+    if (error != std::errc{} || at != end || !(seconds >= kShortestInterval) ||
+        seconds > kLongestInterval)
+      return Complain("--interval needs seconds from 0.1 to 86400, not '" + std::string(*mValue) +
+                      "'");
+    mLine.intervalInMilliseconds = static_cast<std::int32_t>(seconds * 1000 + 0.5);
+    return true;
+  }
+
+  bool ReadForm() {
+    if (!TakeValue()) return false;
+    constexpr std::pair<std::string_view, ListingForm> kForms[] = {
+        {"text", ListingForm::kText},
+        {"json", ListingForm::kJson},
+        {"jsonl", ListingForm::kJsonLines},
+        {"csv", ListingForm::kCsv}};
+    for (const auto& [name, form] : kForms)
+      if (*mValue == name) return mLine.form = form, true;
+    return Complain("--format is text, json, jsonl or csv, not '" + std::string(*mValue) + "'");
+  }
+
+  bool ReadText(std::string& text) {
+    if (!TakeValue()) return false;
+    text = *mValue;
+    return !text.empty() || Complain(std::string(mOption) + " needs a value");
   }
 
   bool ReadColumns() {

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "app/ListingFormat.h"
+
 namespace lurkwell {
 
 /// What the command line asks for.
@@ -19,6 +21,16 @@ struct CommandLine {
   std::optional<std::int32_t> count;
   /// Properties to print instead of the usual five.
   std::vector<std::string> columns;
+  ListingForm form = ListingForm::kText;
+  /// A query; empty for all processes.
+  std::string filter;
+  /// A property, with "-" in front for the largest first; empty for no order.
+  std::string sort;
+  bool isTree = false;
+  std::optional<std::int32_t> limit;
+  std::optional<std::int32_t> intervalInMilliseconds;
+  /// The last option that holds for printed processes alone; empty without one.
+  std::string printingOption;
   /// Start the helper with the user's own rights.
   bool unprivileged = false;
   /// A file to write a window's picture to, instead of running on.

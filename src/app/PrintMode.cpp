@@ -1,28 +1,39 @@
 #include "app/PrintMode.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <iterator>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
-#include "app/ColumnsOutputClient.h"
 #include "app/DataOutput.h"
+#include "app/ListingClient.h"
 #include "channel/DaemonCommunication.h"
 #include "consolidator/KernelFeeder.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/PrintfOutputClient.h"
 #include "consolidator/ProcessInformationFeederPS.h"
+#include "consolidator/PropertyCatalogue.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
+#include "platform/PrintableText.h"
 #include "platform/RunLoop.h"
+#include "query/NearNames.h"
+#include "query/QueryKeys.h"
 
 namespace lurkwell {
 namespace {
 
-constexpr std::int32_t kIntervalInMilliseconds = 1000;
+/// Where a listing is to have other columns, or none are named.
+constexpr const char* kUsualColumns[] = {"meta_name", "meta_active_time", "pid_parent_pid",
+                                         "pid_rsz", "pid_vsz"};
 constexpr auto kPatienceForColumns = std::chrono::seconds(5);
 
 /// The usual five columns, all of them filled, below a heading; sizes are in kibibytes, as ps
@@ -96,13 +107,71 @@ void ShutDown() {
   DestroyProcessInformationConsolidator();
 }
 
+bool IsUsualListing(const CommandLine& commandLine) {
+  return commandLine.columns.empty() && commandLine.form == ListingForm::kText &&
+         commandLine.filter.empty() && commandLine.sort.empty() && !commandLine.isTree &&
+         !commandLine.limit && !commandLine.intervalInMilliseconds;
+}
+
+/// What is wrong with the options.
+using Complaint = std::string;
+
+std::optional<Complaint> FindProperty(const std::string& word, std::string& property) {
+  // An exact name comes before a short word of the query's, which may mean another one.
+  auto found = IsKnownProcProperty(word.c_str()) ? word : PropertyOfQueryKey(word);
+  if (!found) {
+    const auto near = NearQueryKeys(word);
+    return "no property or ps column '" + PrintableText(word) + "'" +
+           (near.empty() ? "" : "; there is " + near);
+  }
+  property = std::move(*found);
+  return std::nullopt;
+}
+
+std::optional<Complaint> MakePlan(const CommandLine& commandLine, ListingPlan& plan) {
+  plan = {};
+  auto words = commandLine.columns;
+  if (words.empty()) words.assign(std::begin(kUsualColumns), std::end(kUsualColumns));
+  for (const auto& word : words) {
+    ListingColumn column;
+    if (const auto complaint = FindProperty(word, column.key)) return complaint;
+    column.type = GetProcPropertyType(column.key.c_str(), nullptr);
+    plan.columns.push_back(std::move(column));
+  }
+  plan.isDescending = commandLine.sort.starts_with('-');
+  if (const auto key = commandLine.sort.substr(plan.isDescending ? 1 : 0); !key.empty())
+    if (const auto complaint = FindProperty(key, plan.sortKey)) return complaint;
+  auto query = Query::Read(commandLine.filter);
+  if (const auto* error = std::get_if<QueryError>(&query))
+    return "--filter: " + PrintableText(error->Text());
+  plan.query = std::move(std::get<Query>(query));
+  plan.form = commandLine.form;
+  plan.isTree = commandLine.isTree;
+  plan.limit = commandLine.limit;
+  plan.intervalInMilliseconds = commandLine.intervalInMilliseconds.value_or(1000);
+  return std::nullopt;
+}
+
+bool AreBuiltIn(const ListingPlan& plan) {
+  const auto isBuiltIn = [](const std::string& key) {
+    return key.empty() || FindBuiltInProperty(key) != nullptr;
+  };
+  return isBuiltIn(plan.sortKey) && std::ranges::all_of(plan.query.Properties(), isBuiltIn) &&
+         std::ranges::all_of(plan.columns, isBuiltIn, &ListingColumn::key);
+}
+
 }  // namespace
 
 int RunPrintMode(const CommandLine& commandLine) {
   const DataOutput output;
+  ListingPlan plan;
+  const bool isUsual = IsUsualListing(commandLine);
+  // Starting ps takes longer than everything else.
+  const bool needsPS = isUsual || MakePlan(commandLine, plan).has_value() || !AreBuiltIn(plan);
+  LeavePSOut(!needsPS);
   InitializeProcessInformationConsolidator();
-  AwaitPSColumns(kPatienceForColumns);
-  if (const auto complaint = ComplaintAboutColumns(commandLine.columns)) {
+  if (needsPS) AwaitPSColumns(kPatienceForColumns);
+  if (const auto complaint = MakePlan(commandLine, plan)) {
     Diagnose("%s", complaint->c_str());
     DestroyProcessInformationConsolidator();
     return kExitUsage;
@@ -115,13 +184,13 @@ int RunPrintMode(const CommandLine& commandLine) {
   EndOfPrinting end(output.Stream(), commandLine.count);
   const auto afterUpdate = [&end] { end.AfterUpdate(); };
   ProcessInformationClient* client = nullptr;
-  if (commandLine.columns.empty()) {
+  if (isUsual) {
     client = new Watched<UsualColumnsClient>(afterUpdate, output.Stream());
   } else {
-    client = new Watched<ColumnsOutputClient>(afterUpdate, commandLine.columns,
-                                              kIntervalInMilliseconds, output.Stream());
+    client = new Watched<ListingClient>(afterUpdate, std::move(plan), output.Stream());
   }
   AddProcessInformationClient(client);
+  RequestUpdate(client);
   TheMachine().runLoop.Run();
   ShutDown();
   return end.Status();

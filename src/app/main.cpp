@@ -153,9 +153,8 @@ bool BecomeTheInstance(RunningInstance& instance) {
 }
 
 int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
-  if (commandLine.count || !commandLine.columns.empty()) {
-    Diagnose("%s needs --print\nTry 'lurkwell --help'.",
-             commandLine.count ? "--count" : "--columns");
+  if (!commandLine.printingOption.empty()) {
+    Diagnose("%s needs --print\nTry 'lurkwell --help'.", commandLine.printingOption.c_str());
     return kExitUsage;
   }
   // Qt takes away what it knows of the others.

@@ -33,6 +33,7 @@ constexpr std::size_t kLongestValue = 1023;
 
 /// For how long a pass waits for the runs that it has begun.
 std::chrono::milliseconds gPatience{0};
+bool gPSIsLeftOut = false;
 
 /// Splits at single blanks: two in a row yield an empty word between them.
 void AppendWords(std::string_view line, std::vector<std::string>& list) {
@@ -171,7 +172,12 @@ void GetPSAvailableThings(std::string_view listing, std::vector<std::string>& li
   while (const auto line = ScanLine(listing)) AppendWords(*line, list);
 }
 
+void LeavePSOut(bool leaveOut) {
+  gPSIsLeftOut = leaveOut;
+}
+
 void DiscoverPSHeaders() {
+  if (gPSIsLeftOut) return;
   gPSDiscovery.GoOn(TheMachine().clock.Now());
   KeepServing();
 }
@@ -185,6 +191,7 @@ void SetPSPatience(std::chrono::milliseconds patience) {
 }
 
 void PSExtractProcessInformation(TimeValue now) {
+  if (gPSIsLeftOut) return;
   if (gPSDiscovery.GoOn(now)) gPSHasNews = true;
   if (FeedWhatHasEnded()) gPSHasNews = true;
   StartNeededColumns(now, &now);

@@ -23,6 +23,10 @@ void DiscoverPSHeaders();
 /// meanwhile.
 void AwaitPSColumns(std::chrono::milliseconds limit);
 
+/// Has ps never be started, so that it has no columns; before the consolidator is started. For
+/// programs that show none of them.
+void LeavePSOut(bool leaveOut);
+
 /// For how long a pass waits for the runs of ps that it begins; not at all unless told. For
 /// programs that nobody operates meanwhile.
 void SetPSPatience(std::chrono::milliseconds patience);

@@ -3,6 +3,9 @@
 
 program_test.py BINARY [unittest arguments]
 """
+import csv
+import datetime
+import json
 import os
 import pathlib
 import re
@@ -13,10 +16,13 @@ import subprocess
 import time
 import unittest
 
+import jsonschema
+
 from desktop_support import BINARY, Desktop, helpers
 
 TICK = os.sysconf("SC_CLK_TCK")
 PAGE = os.sysconf("SC_PAGE_SIZE")
+SOURCES = pathlib.Path(__file__).resolve().parents[2]
 HEADING = "  PID:                   NAME    CPU-TIME  PPID   RSZ/KiB     VSZ/KiB"
 # ps knows no idle task, and not yet what was born after it.
 LINE = re.compile(r"^ *(-?\d+): +(.*?) +(\d+\.\d{6}) +(-?\d+)(?: +(\d+) +(\d+))? *$")
@@ -25,6 +31,11 @@ LINE = re.compile(r"^ *(-?\d+): +(.*?) +(\d+\.\d{6}) +(-?\d+)(?: +(\d+) +(\d+))?
 def process_lines(text):
     """The lines for processes, matched; None for one that is neither that nor the heading."""
     return [LINE.match(line) for line in text.splitlines() if line != HEADING]
+
+
+def complaints(errors):
+    """Without what is said of other processes of the machine."""
+    return [line for line in errors.splitlines() if "surreptitiously" not in line]
 
 
 class Program(Desktop):
@@ -107,6 +118,12 @@ class CommandLine(Program):
                 (["--window", "main"], "--window needs --screenshot"),
                 (["--print", "--columns", "pid_rzs"], "there is pid_rsz"),
                 (["--print", "--columns", "RSZ,%CPUU"], "there is %CPU"),
+                (["--print", "--filter", "mem>5x"], "'5x' is no number"),
+                (["--print", "--filter", "usr:root"], "there is user"),
+                (["--print", "--sort", "pid_rzs"], "there is pid_rsz"),
+                (["--print", "--format", "xml"], "--format is text, json, jsonl or csv"),
+                (["--print", "--interval", "0"], "--interval needs seconds"),
+                (["--print", "--limit", "0"], "--limit needs a number"),
                 (["--print", "--columns", "zzzzzzzzzzzz"],
                  "no property or ps column 'zzzzzzzzzzzz'\n")):
             with self.subTest(arguments):
@@ -116,7 +133,7 @@ class CommandLine(Program):
 
     def test_what_is_for_printing_is_refused_where_there_are_windows(self):
         self.environment["QT_QPA_PLATFORM"] = "offscreen"
-        for option in "--count=1", "--columns=pid_rsz":
+        for option in "--count=1", "--columns=pid_rsz", "--tree", "--filter=ssh":
             status, out, errors = self.run_to_end(option)
             self.assertEqual((status, out), (2, ""))
             self.assertIn(option.split("=")[0] + " needs --print", errors)
@@ -148,7 +165,7 @@ class Printing(Program):
             process.terminate()
             _, errors = process.communicate(timeout=10)
             if not figures_from_helper:
-                self.assertEqual(errors, "")
+                self.assertEqual(complaints(errors), [])
 
     def test_it_ends_in_order_by_signal_and_leaves_nothing(self):
         for number in signal.SIGTERM, signal.SIGINT, signal.SIGHUP:
@@ -176,6 +193,73 @@ class Printing(Program):
                                     "meta_name,pid_parent_pid")
         self.assertIn(" schl\u00e4fer ", out)
         self.assertEqual(len({len(line) for line in out.splitlines()}), 1, out)
+
+    def hostile_program(self):
+        """A child whose name a terminal, a spreadsheet and a careless writer would trip over."""
+        program = self.home + '/=1+"2,\u202e\x1b[m'
+        shutil.copy(shutil.which("sleep"), program)
+        return self.child(program, "1000")
+
+    def test_forms_for_other_programs(self):
+        child = self.hostile_program()
+        shown = '=1+"2,\\u202e\\x1b[m'
+        schema = json.loads(
+            (SOURCES / "resources/schema/processes.schema.json").read_text())
+        jsonschema.Draft202012Validator.check_schema(schema)
+        validate = jsonschema.Draft202012Validator(schema).validate
+        plan = ["--print", "--count=2", "--interval=0.2", f"--filter=pid:{child.pid}",
+                "--columns=name,mem,meta_active_time,started,nice,carbonpsn_name,pid_messages_sent"]
+
+        status, out, errors = self.run_to_end(*plan, "--format=jsonl")
+        self.assertEqual((status, complaints(errors)), (0, []))
+        head, *lines = [json.loads(line) for line in out.splitlines()]
+        for document in head, *lines:
+            validate(document)
+        self.assertEqual([column["type"] for column in head["columns"]],
+                         ["text", "bytes", "seconds", "date", "integer", "text", "integer"])
+        self.assertEqual([line["pid"] for line in lines], [child.pid] * 2)
+        values = lines[1]["values"]
+        self.assertEqual(values["meta_name"], shown)
+        self.assertEqual(values["pid_rsz"], int(pathlib.Path(
+            f"/proc/{child.pid}/statm").read_text().split()[1]) * PAGE)
+        started = datetime.datetime.fromisoformat(values["pid_p_starttime"].replace("Z", "+00:00"))
+        self.assertLess(abs(started.timestamp() - time.time()), 60)
+        self.assertIsNone(values["carbonpsn_name"])
+        self.assertEqual(lines[1]["missing"], {"pid_messages_sent": "not counted"})
+
+        _, out, _ = self.run_to_end(*plan, "--format=json", "--count=1")
+        validate(json.loads(out))
+        self.assertEqual(json.loads(out)["processes"][0]["values"].keys(), values.keys())
+
+        _, out, _ = self.run_to_end(*plan, "--format=csv")
+        heading, *rows = csv.reader(out.splitlines(keepends=True))
+        self.assertEqual(heading[:3], ["time", "pid", "meta_name"])
+        self.assertEqual([row[1:3] for row in rows], [[str(child.pid), "'" + shown]] * 2)
+        self.assertEqual([row[-2:] for row in rows], [["", "not counted"]] * 2)
+
+    def test_filters_order_limits_and_trees(self):
+        shells = [self.child("sh", "-c", "sleep 1000 & sleep 1000 & read line") for _ in range(2)]
+        own = " | ".join(f"parent:{pid}" for pid in [os.getpid(), *(s.pid for s in shells)])
+        deadline = time.monotonic() + 20
+        while True:
+            _, out, errors = self.run_to_end("--print", "--count=1", "--format=csv", "--tree",
+                                             "--sort=-pid", "--columns=name,parent",
+                                             f"--filter={own}")
+            rows = [row for row in csv.DictReader(out.splitlines()) if row["meta_name"] in
+                    ("sh", "sleep")]
+            if len(rows) == 6 or time.monotonic() > deadline:
+                break
+        later, earlier = sorted((s.pid for s in shells), reverse=True)
+        self.assertEqual([(row["depth"], row["pid_parent_pid"]) for row in rows],
+                         [("0", str(os.getpid())), ("1", str(later)), ("1", str(later)),
+                          ("0", str(os.getpid())), ("1", str(earlier)), ("1", str(earlier))],
+                         errors)
+        for first in 1, 4:
+            self.assertGreater(int(rows[first]["pid"]), int(rows[first + 1]["pid"]))
+        _, out, _ = self.run_to_end("--print", "--count=1", "--sort=-mem", "--limit=3",
+                                    "--columns=mem", "--format=csv", "--filter=mem>0")
+        sizes = [int(row["pid_rsz"]) for row in csv.DictReader(out.splitlines())]
+        self.assertEqual((len(sizes), sizes), (3, sorted(sizes, reverse=True)))
 
     def test_without_a_home_it_still_prints(self):
         for name in "HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR":

@@ -1,0 +1,149 @@
+#include "app/ListingClient.h"
+
+#include <algorithm>
+#include <compare>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include "consolidator/ProcessQueries.h"
+#include "consolidator/PropertyValues.h"
+#include "consolidator/WholeNames.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+#include "query/TextPattern.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr char kParent[] = "pid_parent_pid";
+
+class ListedSubject final : public QuerySubject {
+ public:
+  ListedSubject(std::int32_t pid, const std::vector<ListingColumn>& columns)
+      : mPid(pid), mColumns(columns) {}
+
+  TypedValue ValueOf(const std::string& property) const override {
+    return GetPIDPropertyTypedValue(mPid, property.c_str());
+  }
+  bool ShowsTextLike(const TextPattern& pattern) const override {
+    if (pattern.Matches(std::to_string(mPid)) || pattern.Matches(WholeNameOf(mPid))) return true;
+    return std::ranges::any_of(mColumns, [&](const ListingColumn& column) {
+      const auto value = ValueOf(column.key);
+      const auto* text = std::get_if<std::string>(&value);
+      return text != nullptr && pattern.Matches(*text);
+    });
+  }
+
+ private:
+  std::int32_t mPid;
+  const std::vector<ListingColumn>& mColumns;
+};
+
+/// Values of one column: numbers before texts, which are there instead of one.
+std::partial_ordering Compare(const TypedValue& a, const TypedValue& b) {
+  if (a.index() != b.index()) return a.index() <=> b.index();
+  return std::visit(
+      [&b](const auto& value) -> std::partial_ordering {
+        return value <=> std::get<std::decay_t<decltype(value)>>(b);
+      },
+      a);
+}
+
+}  // namespace
+
+struct ListingClient::Candidate {
+  std::int32_t pid;
+  int depth = 0;
+  TypedValue sortValue;
+};
+
+ListingClient::ListingClient(ListingPlan plan, std::FILE* out)
+    : ProcessInformationClient(nullptr, plan.intervalInMilliseconds),
+      mPlan(std::move(plan)),
+      mFormat(MakeListingFormat(mPlan.form, mPlan.columns, mPlan.isTree)),
+      mOut(out) {}
+
+ProcessInformationClient::NeedLevel ListingClient::NeedPidsForProcProperty(const char* property) {
+  return NeedPidProcProperty(kInvalidPID, property) ? kNeedAllPids : kNeedNoPids;
+}
+
+bool ListingClient::NeedPidProcProperty(int, const char* property) {
+  const std::string_view its(property);
+  return std::ranges::find(mPlan.columns, its, &ListingColumn::key) != mPlan.columns.end() ||
+         std::ranges::find(mPlan.query.Properties(), its) != mPlan.query.Properties().end() ||
+         its == mPlan.sortKey || (mPlan.isTree && its == kParent);
+}
+
+std::vector<ListingClient::Candidate> ListingClient::Candidates() const {
+  std::vector<Candidate> candidates;
+  for (const auto pid : PidBlob(kPidBlobAll)) {
+    if (!mPlan.query.IsFulfilledBy(ListedSubject(pid, mPlan.columns))) continue;
+    auto& candidate = candidates.emplace_back(Candidate{.pid = pid, .sortValue = Missing::kNone});
+    if (!mPlan.sortKey.empty())
+      candidate.sortValue = GetPIDPropertyTypedValue(pid, mPlan.sortKey.c_str());
+  }
+  if (mPlan.sortKey.empty()) return candidates;
+  std::ranges::stable_sort(candidates, [this](const Candidate& a, const Candidate& b) {
+    const bool isAKnown = IsKnown(a.sortValue);
+    if (!isAKnown || !IsKnown(b.sortValue)) return isAKnown && !IsKnown(b.sortValue);
+    const auto order = Compare(a.sortValue, b.sortValue);
+    return mPlan.isDescending ? order > 0 : order < 0;
+  });
+  return candidates;
+}
+
+std::vector<ListingClient::Candidate> ListingClient::AsTree(std::vector<Candidate> sorted) const {
+  std::unordered_map<std::int32_t, bool> isListed;
+  for (const auto& candidate : sorted) isListed[candidate.pid] = true;
+  const auto parentOf = [](std::int32_t pid) -> std::int32_t {
+    const auto value = GetPIDPropertyTypedValue(pid, kParent);
+    const auto* parent = std::get_if<std::int64_t>(&value);
+    return parent == nullptr ? kInvalidPID : static_cast<std::int32_t>(*parent);
+  };
+  std::unordered_map<std::int32_t, std::vector<std::size_t>> children;
+  std::vector<std::size_t> open;
+  for (std::size_t i = 0; i < sorted.size(); ++i) {
+    // The nearest ancestor that is listed; a table that contradicts itself may have no end.
+    std::int32_t parent = parentOf(sorted[i].pid);
+    for (int steps = 0; parent > 0 && !isListed.contains(parent) && steps < 100; ++steps)
+      parent = parentOf(parent);
+    if (isListed.contains(parent) && parent != sorted[i].pid) {
+      children[parent].push_back(i);
+    } else {
+      open.push_back(i);
+    }
+  }
+  std::ranges::reverse(open);
+  std::vector<Candidate> tree;
+  while (!open.empty()) {
+    const auto i = open.back();
+    open.pop_back();
+    tree.push_back(sorted[i]);
+    const auto its = children.find(sorted[i].pid);
+    if (its == children.end()) continue;
+    for (auto child = its->second.rbegin(); child != its->second.rend(); ++child) {
+      sorted[*child].depth = sorted[i].depth + 1;
+      open.push_back(*child);
+    }
+  }
+  return tree;
+}
+
+void ListingClient::NotifyProcessesHaveBeenUpdated() {
+  auto candidates = Candidates();
+  if (mPlan.isTree) candidates = AsTree(std::move(candidates));
+  if (mPlan.limit && candidates.size() > static_cast<std::size_t>(*mPlan.limit))
+    candidates.resize(static_cast<std::size_t>(*mPlan.limit));
+  Listing listing{.time = TheMachine().clock.Now(), .processes = {}};
+  for (const auto& candidate : candidates) {
+    auto& process = listing.processes.emplace_back(
+        PrintedProcess{.pid = candidate.pid, .depth = candidate.depth, .values = {}});
+    for (const auto& column : mPlan.columns)
+      process.values.push_back(GetPIDPropertyTypedValue(candidate.pid, column.key.c_str()));
+  }
+  mFormat->Write(listing, mOut);
+  std::fflush(mOut);
+}
+
+}  // namespace lurkwell

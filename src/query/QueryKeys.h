@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace lurkwell {
+
+/// A short word that a query has for a property, as in "user:root".
+struct QueryKey {
+  std::string_view word;
+  std::string_view property;
+};
+
+/// All of them, in the order in which help shows them.
+std::span<const QueryKey> QueryKeys();
+
+/// The property that a query means by `word`: one of the short words, the name of a property, or
+/// the header of a ps column, in any case. Nothing when there is none. Main thread.
+std::optional<std::string> PropertyOfQueryKey(std::string_view word);
+
+/// The words and names that come nearest to what was typed, separated by commas; empty when none
+/// does.
+std::string NearQueryKeys(std::string_view word);
+
+}  // namespace lurkwell
