@@ -25,11 +25,11 @@
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/NoProcessManager.h"
-#include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/ProcessActions.h"
 #include "support/ChildProgram.h"
 #include "support/EventLoop.h"
+#include "support/MachineOf.h"
 #include "support/RecordingClient.h"
 
 namespace lurkwell {
@@ -112,23 +112,8 @@ class ClassicPrograms : public testing::Test {
   NoProcessManager desktop;
   DBusEventBus eventBus{{bus.Address(), QStringLiteral("application"), QString()}};
   ClassicProcessManager processManager{desktop, eventBus, eventBus.Connection()};
-  Machine services{clock,
-                   runLoop,
-                   simulated.preferenceDomain,
-                   processTable,
-                   processManager,
-                   simulated.iconServices,
-                   simulated.hostStatistics,
-                   tools,
-                   simulated.signals,
-                   namedPipes,
-                   simulated.authorization,
-                   bundle,
-                   simulated.alerts,
-                   simulated.logFiles,
-                   simulated.hotKeys,
-                   simulated.screen,
-                   eventBus};
+  Machine services = MachineOf(simulated, clock, runLoop, processTable, processManager, tools,
+                               namedPipes, bundle, eventBus);
   MachineInstallation installation{services};
   AccessLog told;
 };

@@ -138,16 +138,14 @@ TEST_F(ClientsTest, EveryClientHasAnIdentityOfItsOwnOrTheGivenOne) {
   EXPECT_EQ(uuid->Text(), "0123ABCD-4567-89EF-8123-456789ABCDEF");
   EXPECT_FALSE(Uuid::FromText("0123ABCD-4567-89ef-8123-456789abcdeX"));
   EXPECT_FALSE(Uuid::FromText("0123ABCD04567-89ef-8123-456789abcdef"));
-  class Named : public RecordingClient {
-   public:
-    Named(const Uuid* its, AccessLog& log) : RecordingClient("named", 1, log) {
-      mGiven = its != nullptr ? *its : Identifier();
-    }
-    Uuid mGiven;
+  struct Nameless : ProcessInformationClient {
+    explicit Nameless(const Uuid* its) : ProcessInformationClient(its, 1000) {}
+    bool NeedPidProcProperty(int, const char*) override { return false; }
+    void NotifyProcessesHaveBeenUpdated() override {}
   };
-  Named one(nullptr, told);
-  Named two(nullptr, told);
-  EXPECT_FALSE(one.Identifier() == two.Identifier());
+  const Nameless given(&*uuid), one(nullptr), other(nullptr);
+  EXPECT_EQ(given.Identifier(), *uuid);
+  EXPECT_FALSE(one.Identifier() == other.Identifier());
   EXPECT_EQ(Uuid::FromText(one.Identifier().Text()), one.Identifier());
 }
 

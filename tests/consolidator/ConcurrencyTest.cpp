@@ -15,6 +15,7 @@ TEST_F(ConcurrencyTest, AReaderOnAnotherThreadSeesWholeProcessesOnly) {
   Add("client", 20).Needs({"pid_p_comm", "meta_name"});
   std::atomic<bool> stop{false};
   std::atomic<int> complete{0};
+  int counted = 0;
   std::thread reader([&] {
     while (!stop) {
       for (const auto pid : PidBlob()) {
@@ -31,6 +32,7 @@ TEST_F(ConcurrencyTest, AReaderOnAnotherThreadSeesWholeProcessesOnly) {
         }
         // None of these may be the one that looks a record up beside the heart.
         IncrementPidsKillCount(pid);
+        if (pid == 1) ++counted;
         if (GetPidsStartStamp(pid) != 0) {
           EXPECT_GE(GetPidsKillCount(pid), 0);
         }
@@ -38,16 +40,19 @@ TEST_F(ConcurrencyTest, AReaderOnAnotherThreadSeesWholeProcessesOnly) {
       }
     }
   });
-  for (int beat = 0; beat < 500 || (complete < 1000 && beat < 100'000); ++beat) {
+  int beat = 0;
+  for (; beat < 500 || (complete < 1000 && beat < 100'000); ++beat) {
     machine.processTable.Churn(30);
     machine.runLoop.RunFor(20);
+    IncrementPidsKillCount(1);
     told.Clear();
     machine.log.Clear();
     std::this_thread::yield();
   }
   stop = true;
   reader.join();
-  EXPECT_GE(complete, 1000) << "the reader hardly ever came in";
+  EXPECT_GT(counted, 0) << "the reader never came in";
+  EXPECT_EQ(GetPidsKillCount(1), counted + beat) << "each counted, on whatever thread";
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include "consolidator/PSValues.h"
 #include "consolidator/PrintfOutputClient.h"
 #include "preferences/PreferencesRetrieval.h"
-#include "process_control/ProcessActions.h"
 #include "support/ConsolidatorTest.h"
 
 namespace lurkwell {
@@ -176,19 +175,6 @@ TEST_F(FeedersTest, FiguresThatStayTheSameForABeatAreFreshInTheNext) {
   process.UseCPU(1500);
   Accesses(1000);
   EXPECT_EQ(Value(45, "meta_active_time"), "1.500000");
-}
-
-TEST_F(FeedersTest, AProcessThatSomebodyElseStoppedIsShownAsHalted) {
-  machine.processTable.Birth(50, "stopped");
-  machine.processTable.Stop(50);
-  Start();
-  Add("client", 1000).Needs({"meta_name"});
-  testing::internal::CaptureStderr();
-  machine.runLoop.RunFor(3000);
-  EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "detected a surreptitiously-halted process 50!\n");
-  EXPECT_TRUE(GetProcessAction(50, kProcessActionHalt, nullptr));
-  EXPECT_FALSE(GetProcessAction(1, kProcessActionAny, nullptr));
 }
 
 TEST_F(FeedersTest, APidAboveTheMachinesLimitIsPassedOver) {

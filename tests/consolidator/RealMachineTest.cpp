@@ -1,7 +1,6 @@
 // The engine on this machine's processes and its ps; only time is simulated.
 #include <fcntl.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -27,34 +26,13 @@
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxTools.h"
+#include "support/Child.h"
+#include "support/ChildProgram.h"
 #include "support/ConsolidatorTest.h"
+#include "support/MachineOf.h"
 
 namespace lurkwell {
 namespace {
-
-/// A program that runs until this goes out of scope.
-class Child {
- public:
-  explicit Child(std::vector<std::string> arguments) {
-    std::vector<char*> pointers;
-    for (auto& argument : arguments) pointers.push_back(argument.data());
-    pointers.push_back(nullptr);
-    posix_spawnp(&mPid, pointers[0], nullptr, nullptr, pointers.data(), environ);
-  }
-  ~Child() {
-    // Never kill(-1, ...): that means everybody.
-    if (mPid > 0) kill(mPid, SIGKILL);
-    Wait();
-  }
-  void Wait() {
-    if (mPid > 0) waitpid(mPid, nullptr, 0);
-    mPid = -1;
-  }
-  pid_t Pid() const { return mPid; }
-
- private:
-  pid_t mPid = -1;
-};
 
 std::string OutputOf(const std::string& command) {
   const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
@@ -76,17 +54,12 @@ class RealMachineTest : public ConsolidatorTest {
   LinuxProcessTable processTable;
   LinuxHostStatistics hostStatistics;
   LinuxTools tools;
-  Machine real{
-      machine.clock,          machine.runLoop,      machine.preferenceDomain, processTable,
-      machine.processManager, machine.iconServices, hostStatistics,           tools,
-      machine.signals,        machine.namedPipes,   machine.authorization,    machine.bundle,
-      machine.alerts,         machine.logFiles,     machine.hotKeys,          machine.screen,
-      machine.eventBus};
+  Machine real = MachineOf(machine, processTable, hostStatistics, tools);
   MachineInstallation realInstallation{real};
 };
 
 TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
-  const Child sleeper({"sleep", "1000"});
+  const ChildProgram sleeper({"sleep", "1000"});
   Start();
   EXPECT_EQ(GetPSHeaderCount(), 0) << "nobody waits for ps";
   AwaitPSColumns(std::chrono::seconds(20));
@@ -141,27 +114,6 @@ TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
   }
 }
 
-TEST_F(RealMachineTest, WithoutAHelperTheKernelsFiguresAreShown) {
-  const Child sleeper({"sleep", "1000"});
-  const Child busy({"sh", "-c", "while :; do :; done"});
-  Start();
-  QuitHelperDaemon();
-  Add("client", 1000).NeedsEverything();
-  const auto seconds = [](std::int32_t pid, const char* property = "meta_active_time") {
-    return std::stod(Value(pid, property));
-  };
-  machine.runLoop.RunFor(1000);
-  const double idle = seconds(0, "pid_user_time"), before = seconds(busy.Pid());
-  std::this_thread::sleep_for(std::chrono::seconds(1));
-  machine.runLoop.RunFor(1000);
-  EXPECT_GE(seconds(busy.Pid()), before + 0.05);
-  EXPECT_LE(seconds(busy.Pid()), 60);
-  EXPECT_LE(seconds(sleeper.Pid()), 0.5);
-  EXPECT_GE(seconds(0, "pid_user_time"), idle);
-  EXPECT_NEAR(seconds(0, "pid_user_time"),
-              std::stod(OutputOf("awk '/^cpu /{print $5/100}' /proc/stat")), 30);
-}
-
 // Nothing where this machine does not count it.
 #define UNIT_SUM(name)                                                          \
   "s=/sys/fs/cgroup; [ -e $s/cgroup.procs ] || s=$s/unified;"                   \
@@ -198,9 +150,10 @@ TEST_F(RealMachineTest, EveryFigureIsWhatItsFileSays) {
       {"pid_csw", "awk '/ctxt_switches/{n += $2} END{print n}' status"},
   };
   // Figures of different sizes, at rest.
-  const Child worker({"sh", "-c",
-                      "i=0; while [ $i -lt 300000 ]; do i=$((i+1)); done;"
-                      "head -c 1000000 /etc/services /proc/self/maps > /dev/null; kill -STOP $$"});
+  const ChildProgram worker(
+      {"sh", "-c",
+       "i=0; while [ $i -lt 300000 ]; do i=$((i+1)); done;"
+       "head -c 1000000 /etc/services /proc/self/maps > /dev/null; kill -STOP $$"});
   waitid(P_PID, static_cast<id_t>(worker.Pid()), nullptr, WSTOPPED | WNOWAIT);
   Start();
   QuitHelperDaemon();
@@ -284,8 +237,7 @@ TEST_F(RealMachineTest, ShortLivedChildrenAreAnnouncedOnceOrNotAtAll) {
   };
   follow();
   const auto there = alive.size();
-  const pid_t mother = fork();
-  if (mother == 0) BearChildren(births);
+  const pid_t mother = Fork([births]() -> int { BearChildren(births); });
   const auto took = [begun = std::chrono::steady_clock::now()] {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
   };
@@ -302,7 +254,7 @@ TEST_F(RealMachineTest, ShortLivedChildrenAreAnnouncedOnceOrNotAtAll) {
   EXPECT_LE(ResidentMiB(), before + 2);
   std::printf("%.0f births a second for %.1f s, %zu announced, resident %.1f MiB, then %.1f\n",
               births / seconds, seconds, announced - there, before, ResidentMiB());
-  const Child lasting({"sleep", "1000"});
+  const ChildProgram lasting({"sleep", "1000"});
   machine.runLoop.RunFor(40);
   follow();
   EXPECT_TRUE(alive.contains(std::to_string(lasting.Pid())));
@@ -373,16 +325,15 @@ void RestlesslyRun(std::chrono::microseconds most, std::chrono::microseconds res
 /// A child with such a load, at the lowest priority; it goes with this object.
 class Laden {
  public:
-  explicit Laden(Load load) : mPid(fork()) {
-    if (mPid != 0) return;
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (nice(19) == -1) _exit(1);
-    Bear(load);
-  }
+  explicit Laden(Load load)
+      : mPid(Fork([load]() -> int {
+          prctl(PR_SET_PDEATHSIG, SIGKILL);
+          if (nice(19) == -1) return 1;
+          Bear(load);
+        })) {}
   ~Laden() {
-    if (mPid <= 0) return;
     kill(mPid, SIGKILL);
-    waitpid(mPid, nullptr, 0);
+    WaitFor(mPid);
   }
   Laden(const Laden&) = delete;
   Laden& operator=(const Laden&) = delete;

@@ -4,6 +4,7 @@
 #include "platform/ScriptedProc.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "support/ConsolidatorTest.h"
+#include "support/MachineOf.h"
 
 namespace lurkwell {
 namespace {
@@ -13,12 +14,7 @@ class ScriptedMachineTest : public ConsolidatorTest {
  protected:
   std::shared_ptr<ScriptedProc> proc = std::make_shared<ScriptedProc>();
   LinuxProcessTable processTable{proc};
-  Machine scripted{machine.clock,          machine.runLoop,        machine.preferenceDomain,
-                   processTable,           machine.processManager, machine.iconServices,
-                   machine.hostStatistics, machine.tools,          machine.signals,
-                   machine.namedPipes,     machine.authorization,  machine.bundle,
-                   machine.alerts,         machine.logFiles,       machine.hotKeys,
-                   machine.screen,         machine.eventBus};
+  Machine scripted = MachineOf(machine, processTable);
   MachineInstallation scriptedInstallation{scripted};
 };
 

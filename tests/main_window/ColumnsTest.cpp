@@ -1,11 +1,9 @@
 // Which columns there are, by menu and by preference.
-#include <unistd.h>
-
-#include <filesystem>
-
 #include "consolidator/PSHeaders.h"
 #include "main_window/MainWindowTest.h"
 #include "platform/linux/PropertyListDomain.h"
+#include "support/MachineOf.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -308,17 +306,12 @@ TEST_F(ColumnsTest, ColumnsAreFoundByGroupAndByWhatIsTyped) {
 }
 
 TEST_F(ColumnsTest, AnotherInstanceMayHaveStoredFewerColumns) {
-  const auto folder = std::filesystem::path(testing::TempDir()) / std::to_string(::getpid());
-  PropertyListDomain mine(folder), theirs(folder);
-  Machine shared{machine.clock,          machine.runLoop,        mine,
-                 machine.processTable,   machine.processManager, machine.iconServices,
-                 machine.hostStatistics, machine.tools,          machine.signals,
-                 machine.namedPipes,     machine.authorization,  machine.bundle,
-                 machine.alerts,         machine.logFiles,       machine.hotKeys,
-                 machine.screen,         machine.eventBus};
+  const TemporaryFolder folder;
+  PropertyListDomain mine(folder.Path()), theirs(folder.Path());
+  Machine shared = MachineOf(machine, mine);
   const MachineInstallation sharedInstallation(shared);
   const auto stored = [&folder] {
-    PropertyListDomain domain(folder);
+    PropertyListDomain domain(folder.Path());
     const auto* value = domain.Value("MAIN_WINDOW_COLUMNS");
     return value != nullptr ? std::get<PreferenceArray>(*value).size() : 0;
   };
@@ -333,7 +326,6 @@ TEST_F(ColumnsTest, AnotherInstanceMayHaveStoredFewerColumns) {
   Open();
   EXPECT_EQ(controller().sortColumn(), kMetaActiveTime);
   window.reset();
-  std::filesystem::remove_all(folder);
 }
 
 TEST_F(ColumnsTest, WhenTheSortColumnGoesPidsTakeItsPlace) {

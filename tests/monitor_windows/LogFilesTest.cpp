@@ -3,14 +3,13 @@
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "platform/linux/LinuxLogFiles.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -19,25 +18,13 @@ namespace fs = std::filesystem;
 
 class LogFilesTest : public testing::Test {
  protected:
-  LogFilesTest() {
-    std::string pattern = "/tmp/lurkwell-XXXXXX";
-    folder = ::mkdtemp(pattern.data());
-    ::setenv("XDG_DATA_HOME", folder.c_str(), 1);
-  }
-  ~LogFilesTest() override {
-    ::unsetenv("XDG_DATA_HOME");
-    fs::remove_all(folder);
-  }
-
-  static std::string Text(const fs::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-  }
+  LogFilesTest() { ::setenv("XDG_DATA_HOME", temporary.Path().c_str(), 1); }
+  ~LogFilesTest() override { ::unsetenv("XDG_DATA_HOME"); }
 
   fs::path Logs() const { return folder / "lurkwell" / "logs"; }
 
-  fs::path folder;
+  TemporaryFolder temporary;
+  fs::path folder{temporary.Path()};
   LinuxLogFiles files;
 };
 
@@ -49,12 +36,10 @@ TEST_F(LogFilesTest, AFileIsNewPrivateAndGrowsByLines) {
   EXPECT_EQ(first.file->Path(), (Logs() / "prog-12.tsv").string());
   EXPECT_EQ(second.file->Path(), (Logs() / "prog-12-2.tsv").string());
   EXPECT_EQ(fs::status(Logs()).permissions(), fs::perms::owner_all);
-  struct stat status {};
-  ASSERT_EQ(::stat(first.file->Path().c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777U, 0600U);
+  EXPECT_EQ(ModeOf(first.file->Path()), 0600U);
   EXPECT_EQ(first.file->Append("one\t1"), "");
   EXPECT_EQ(first.file->Append("two\t2"), "");
-  EXPECT_EQ(Text(first.file->Path()), "one\t1\ntwo\t2\n");
+  EXPECT_EQ(ReadFile(first.file->Path()), "one\t1\ntwo\t2\n");
   fs::remove(first.file->Path());
   EXPECT_NE(first.file->Append("three"), "") << "the file is gone";
 }
@@ -71,8 +56,8 @@ TEST_F(LogFilesTest, WhatWaitsUnderAGuessedNameIsNotTouched) {
   ASSERT_NE(creation.file, nullptr) << creation.problem;
   EXPECT_EQ(creation.file->Path(), (Logs() / "prog-12-5.tsv").string());
   EXPECT_EQ(creation.file->Append("row"), "");
-  EXPECT_EQ(Text(victim), "mine");
-  EXPECT_EQ(Text(Logs() / "prog-12-4.tsv"), "theirs");
+  EXPECT_EQ(ReadFile(victim), "mine");
+  EXPECT_EQ(ReadFile(Logs() / "prog-12-4.tsv"), "theirs");
   EXPECT_FALSE(fs::exists(folder / "nowhere"));
   for (int number = 5; number <= 100; ++number)
     std::ofstream(Logs() / ("prog-12-" + std::to_string(number) + ".tsv"));
@@ -99,9 +84,9 @@ TEST_F(LogFilesTest, ALineThatDoesNotFitIsTakenBackWhole) {
   const auto problem = creation.file->Append("does not fit");
   ::setrlimit(RLIMIT_FSIZE, &limit);
   EXPECT_NE(problem, "");
-  EXPECT_EQ(Text(creation.file->Path()), "1234567\n");
+  EXPECT_EQ(ReadFile(creation.file->Path()), "1234567\n");
   EXPECT_EQ(creation.file->Append("again"), "");
-  EXPECT_EQ(Text(creation.file->Path()), "1234567\nagain\n");
+  EXPECT_EQ(ReadFile(creation.file->Path()), "1234567\nagain\n");
 }
 
 }  // namespace

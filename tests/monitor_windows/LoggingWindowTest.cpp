@@ -12,11 +12,6 @@ namespace {
 
 using LoggingWindowTest = FollowingTest;
 
-std::string Field(const char* key) {
-  if (!IsPrefArrayValuePresent(kLoggingWindowKind, 0, key)) return "none";
-  return std::to_string(GetPrefArrayInt(kLoggingWindowKind, 0, key, false, 0));
-}
-
 TEST_F(LoggingWindowTest, RowsComeWithChangesAndGoIntoTheFile) {
   SetPrefInt("LOG_WINDOW_LOG_TO_FILE", 1);
   SetPrefInt("LOG_WINDOW_DELTA_REAL_MEM_BOOL", 1);
@@ -109,30 +104,6 @@ TEST_F(LoggingWindowTest, FiveHundredRowsAndTheNewestInSightUnlessTheUserReadsOl
   log.window()->resize(500, 120);
   work(1);
   EXPECT_EQ(bar.value(), bar.maximum());
-}
-
-TEST_F(LoggingWindowTest, WithItsProcessTheWindowFreezesAndItsLayoutIsRemembered) {
-  auto& process = machine.processTable.Birth(300, "program");
-  const WindowRect place{60, 70, 560, 370};
-  auto& log = Log(300, "program", &place);
-  EXPECT_EQ(GetPrefArrayCount(kLoggingWindowKind), 1);
-  process.UseCPU(100);
-  Turn();
-  log.table()->setColumnWidth(1, 123);
-  log.window()->move(90, 80);
-  machine.processTable.Death(300);
-  Turn();
-  EXPECT_TRUE(log.stateInfo().pidWentAway);
-  machine.processTable.Birth(300, "stranger").UseCPU(500);
-  Turn(3000);
-  EXPECT_EQ(log.rowCount(), 1) << "a process of the same number is another one";
-  EXPECT_EQ(RectText(ReadRememberedRect(kLoggingWindowKind, 0)), "90 80 590 380");
-  EXPECT_EQ(Field("LOG_ACTIVE_COL_WIDTH"), "123");
-  EXPECT_EQ(Field("LOG_DELTA_ACTIVE_TIME"), "1");
-  EXPECT_EQ(Field("LOG_REAL_MEM_USED"), "0");
-  EXPECT_EQ(Field("CUSTOM_UPDATE_INTERVAL"), "1000");
-  Close(log);
-  EXPECT_EQ(GetPrefArrayCount(kLoggingWindowKind), 1) << "it comes back with the program";
 }
 
 TEST_F(LoggingWindowTest, ClosedWhileItsProcessRunsAWindowIsForgotten) {

@@ -70,13 +70,6 @@ TEST_F(RememberedWindowsTest, AWindowIsForgottenWhetherItsProgramRunsOrNot) {
   EXPECT_EQ(windows.CountOpenWindows(), 2) << "two logs";
 }
 
-TEST_F(RememberedWindowsTest, NothingIsAFatalAssertion) {
-  EXPECT_DEATH(GetAppropriateIndexForUUID("LOGGING_WINDOW", nullptr),
-               "ProcessWatchdog:[0-9]+: failed assertion `uuid != NULL'");
-  EXPECT_DEATH(SetPersistentClientInfo(nullptr, "a", "b", nullptr, &mFirst),
-               "ProcessWatchdog:[0-9]+: failed assertion `clientKind'");
-}
-
 TEST_F(RememberedWindowsTest, DamagedRecordsOpenNothingAndHarmNothing) {
   PreferenceArray records(8);
   records[1] = {{"PROCESS_NAME", std::string("prog")}};

@@ -12,6 +12,7 @@
 #include "platform/linux/LinuxTools.h"
 #include "resources/Resources.h"
 #include "support/ConsolidatorTest.h"
+#include "support/MachineOf.h"
 
 namespace lurkwell {
 namespace {
@@ -49,12 +50,7 @@ QStringList UnknownIds(const QString& source) {
 class RealColumnsTest : public ConsolidatorTest {
  protected:
   LinuxTools tools;
-  Machine real{
-      machine.clock,          machine.runLoop,      machine.preferenceDomain, machine.processTable,
-      machine.processManager, machine.iconServices, machine.hostStatistics,   tools,
-      machine.signals,        machine.namedPipes,   machine.authorization,    machine.bundle,
-      machine.alerts,         machine.logFiles,     machine.hotKeys,          machine.screen,
-      machine.eventBus};
+  Machine real = MachineOf(machine, tools);
   MachineInstallation realInstallation{real};
 };
 

@@ -15,6 +15,7 @@ namespace lurkwell {
 class SimulatedPreferenceDomain final : public PreferenceDomain {
  public:
   const PreferenceValue* Value(std::string_view key) override {
+    ++mLookUpCount;
     const auto at = mValues.find(key);
     return at != mValues.end() ? &at->second : nullptr;
   }
@@ -44,6 +45,9 @@ class SimulatedPreferenceDomain final : public PreferenceDomain {
   /// How often Synchronize was called, refused calls included.
   std::uint64_t SynchronizeCount() const { return mSynchronizeCount; }
 
+  /// How often Value was called.
+  std::uint64_t LookUpCount() const { return mLookUpCount; }
+
   /// How many SetValue calls no Synchronize has covered yet.
   std::uint64_t UnsynchronizedCount() const { return mUnsynchronized; }
 
@@ -52,6 +56,7 @@ class SimulatedPreferenceDomain final : public PreferenceDomain {
 
  private:
   std::map<std::string, PreferenceValue, std::less<>> mValues;
+  std::uint64_t mLookUpCount = 0;
   std::uint64_t mSynchronizeCount = 0;
   std::uint64_t mUnsynchronized = 0;
   bool mRefusesToSynchronize = false;
