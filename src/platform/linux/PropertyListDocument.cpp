@@ -132,8 +132,14 @@ std::optional<PreferenceValue> Fit(plist_t node) {
                     *std::move(scalar));
 }
 
+// Releases of the library differ in how a negative integer is made, not in how it is read.
 plist_t NodeOf(std::int64_t integer) {
-  return plist_new_uint(static_cast<std::uint64_t>(integer));
+  if (integer >= 0) return plist_new_uint(static_cast<std::uint64_t>(integer));
+  const std::string text =
+      "<plist version=\"1.0\"><integer>" + std::to_string(integer) + "</integer></plist>";
+  plist_t node = nullptr;
+  plist_from_xml(text.data(), static_cast<std::uint32_t>(text.size()), &node);
+  return node;
 }
 plist_t NodeOf(double real) {
   return plist_new_real(real);
