@@ -94,7 +94,8 @@ class RealMachine {
                     mRest.logFiles,
                     mRest.hotKeys,
                     mRest.screen,
-                    mRest.eventBus};
+                    mRest.eventBus,
+                    mRest.costlyFigures};
   MachineInstallation mInstallation{mServices};
 };
 

@@ -78,7 +78,7 @@ class RealCycle {
       machine.processManager, machine.iconServices, machine.hostStatistics,   machine.tools,
       machine.signals,        machine.namedPipes,   machine.authorization,    machine.bundle,
       machine.alerts,         machine.logFiles,     machine.hotKeys,          machine.screen,
-      machine.eventBus};
+      machine.eventBus,       machine.costlyFigures};
   MachineInstallation installation{real};
 };
 

@@ -211,6 +211,34 @@
         <source></source>
         <translation>How much of the process's memory lies in RAM, shared pages included, in bytes. From /proc/PID/stat.</translation>
     </message>
+    <message id="pid_pss">
+        <source></source>
+        <translation>Memory, its part</translation>
+    </message>
+    <message id="pid_pss_tip">
+        <source></source>
+        <translation>Proportional set size: the memory that the process has to itself, and of each page that it shares with others its part. Over all processes it adds up to what they take together. From /proc/PID/smaps_rollup, which the kernel adds up by walking through the memory: it is read in the background, rows in sight first. Swapped-out memory is left out. Of other users' processes it is not allowed.</translation>
+    </message>
+    <message id="pid_uss">
+        <source></source>
+        <translation>Memory of its own</translation>
+    </message>
+    <message id="pid_uss_tip">
+        <source></source>
+        <translation>Unique set size: the memory that nobody shares with the process, and so what its end would give back. Private_Clean and Private_Dirty of /proc/PID/smaps_rollup, read in the background, rows in sight first. Swapped-out memory and huge pages of hugetlbfs are left out. Of other users' processes it is not allowed.</translation>
+    </message>
+    <message id="pid_descriptors">
+        <source></source>
+        <translation>Open descriptors</translation>
+    </message>
+    <message id="pid_descriptors_tip">
+        <source></source>
+        <translation>How many descriptors of files, sockets, pipes and the like the process has open: the entries of /proc/PID/fd. Read in the background. Files that are only mapped into memory are left out. Of other users' processes the kernel tells it since version 6.2.</translation>
+    </message>
+    <message id="value_age_tip">
+        <source></source>
+        <translation>Read %1 seconds ago.</translation>
+    </message>
     <message id="pid_suspend_count">
         <source></source>
         <translation>Suspend count</translation>

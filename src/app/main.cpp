@@ -29,6 +29,7 @@
 #include "platform/desktop/QtRunLoop.h"
 #include "platform/desktop/RunningInstance.h"
 #include "platform/linux/DescriptorLimit.h"
+#include "platform/linux/LinuxCostlyFigures.h"
 #include "platform/linux/LinuxMachine.h"
 
 namespace lurkwell {
@@ -93,12 +94,13 @@ class DesktopMachine {
   DesktopHotKeys hotKeys{DesktopSettings::FromEnvironment()};
   DesktopScreen screen{DesktopSettings::FromEnvironment()};
   DBusEventBus eventBus;
+  LinuxCostlyFigures costlyFigures;
   ClassicProcessManager applications{processManager, eventBus, eventBus.Connection()};
 
   Machine services{
       clock,          runLoop,  preferenceDomain, processTable, applications,  iconServices,
       hostStatistics, tools,    signals,          namedPipes,   authorization, bundle,
-      alerts,         logFiles, hotKeys,          screen,       eventBus};
+      alerts,         logFiles, hotKeys,          screen,       eventBus,      costlyFigures};
 };
 
 int RunInTerminal(const CommandLine& commandLine) {

@@ -108,7 +108,8 @@ class HelperPass {
   static std::vector<PropertyNeed> NeedsOfFigures(bool areHelped, TimeValue now) {
     std::vector<PropertyNeed> needs;
     for (const auto& row : FigureProperties())
-      if ((row.group != kNoGroup) == areHelped) needs.emplace_back(row.name.data(), now);
+      if ((row.group != kNoGroup) == areHelped && (row.sources & kCostlyFigureSources) == 0)
+        needs.emplace_back(row.name.data(), now);
     return needs;
   }
 

@@ -1,12 +1,82 @@
 #include "consolidator/KernelFeeder.h"
 
+#include <cstdint>
+#include <unordered_set>
+#include <vector>
+
+#include "consolidator/ConsolidatorState.h"
 #include "consolidator/HelperFigures.h"
 #include "consolidator/OpenFigures.h"
+#include "consolidator/PidReport.h"
+#include "consolidator/ProcessInformationClient.h"
+#include "consolidator/PropertyCatalogue.h"
+#include "consolidator/SourceNeeds.h"
+#include "platform/CostlyFigures.h"
 #include "platform/Machine.h"
 #include "platform/ProcessTable.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
+namespace {
+
+using Client = ProcessInformationClient;
+
+bool IsCostly(const CatalogueRow& row) {
+  return (row.sources & kCostlyFigureSources) != 0;
+}
+
+void ReportReading(const CostlyReading& reading, TimeValue now) {
+  const auto* record = gRecords.GetExistingPIDInformation(reading.process.pid);
+  if (record == nullptr || !record->valid || record->pidInfo == nullptr ||
+      record->pidInfo->startStamp != reading.process.startStamp)
+    return;
+  PidReport report(reading.process.pid);
+  for (std::size_t i = 0; i < kFigureCount; ++i)
+    if ((kFigures[i].origin.source & reading.sources) != 0)
+      report.TableFigure(static_cast<Figure>(i), reading.figures);
+  auto& readAt = report.Block().costlyReadAt;
+  for (std::size_t i = 0; i < readAt.size(); ++i)
+    if ((reading.sources & CostlySource(i)) != 0)
+      readAt[i] = now + TimeOfMicroseconds(-reading.age * 1000);
+}
+
+/// The idle task has neither memory nor descriptors.
+void ReportIdleTask() {
+  PidReport report(0);
+  for (const auto& row : FigureProperties())
+    if (IsCostly(row)) report.NoValue(row, Missing::kNotCounted);
+}
+
+/// What all clients need, so that one with short turns does not push aside what others asked for.
+std::vector<CostlyWish> Wishes() {
+  const auto clients = Client::DueClients(nullptr);
+  const SourceNeeds needs(clients, kCostlyFigureSources);
+  std::unordered_set<std::int32_t> inSight;
+  for (auto* client : clients)
+    for (const auto pid : client->PidsInSight()) inSight.insert(pid);
+  std::vector<CostlyWish> wishes;
+  for (const auto& record : gRecords.Records()) {
+    if (!record.valid || record.pidInfo == nullptr || record.pid <= 0) continue;
+    const auto sources = needs.Of(record.pid);
+    if (sources == 0) continue;
+    wishes.push_back(
+        {{record.pid, record.pidInfo->startStamp}, sources, inSight.contains(record.pid)});
+  }
+  return wishes;
+}
+
+/// Reports the figures that were read in the background since the last beat, and has those read
+/// that clients need, processes in sight first. Nothing happens unless a due client needs one of
+/// them.
+void FeedCostlyFigures(TimeValue now) {
+  if (!SourceNeeds(Client::DueClients(&now), kCostlyFigureSources).OfFigures()) return;
+  auto& service = TheMachine().costlyFigures;
+  for (const auto& reading : service.Collect()) ReportReading(reading, now);
+  if (gRecords.GetExistingPIDInformation(0) != nullptr) ReportIdleTask();
+  service.Ask(Wishes());
+}
+
+}  // namespace
 
 bool IsHelperAskedForFigures() {
   return TheMachine().processTable.OpenSources() == 0 || ReadSwitch("FIGURES_FROM_HELPER");
@@ -18,6 +88,7 @@ void PIDExtractProcessInformation(TimeValue now) {
   } else {
     FeedOpenFigures(now);
   }
+  FeedCostlyFigures(now);
 }
 
 }  // namespace lurkwell

@@ -44,6 +44,8 @@ struct PidBlock {
   FigureSources reportedSources = 0;
   /// The iteration in which the CPU times came last.
   std::int32_t timesGeneration = 0;
+  /// When each of the costly sources was read last.
+  std::array<TimeValue, kCostlySourceCount> costlyReadAt{};
   /// Which of the values above are values.
   ValueStates states;
 

@@ -60,6 +60,9 @@ class ProcessInformationClient {
   /// Whether it matters when a process that is there changes its name.
   virtual bool NeedsRenamings() { return true; }
 
+  /// The processes that the user can see now: what takes long to read is read of these first.
+  virtual std::vector<std::int32_t> PidsInSight() { return {}; }
+
   /// The client's turn is over: all properties are as fresh as they get.
   virtual void NotifyProcessesHaveBeenUpdated() = 0;
   /// At shutdown, over and over until no client does anything more; true when it did something.

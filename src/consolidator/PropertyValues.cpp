@@ -13,6 +13,7 @@
 #include "consolidator/PropertyRendering.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
+#include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/Tools.h"
@@ -159,6 +160,21 @@ TypedValue GetPIDPropertyTypedValue(std::int32_t pid, const char* name) {
   const ConsolidatorGuard guard;
   const auto* record = ValidRecord(pid);
   return record != nullptr ? ReadProperty(*record, name) : Missing::kNone;
+}
+
+std::optional<std::int64_t> AgeOfPIDProperty(std::int32_t pid, const char* name) {
+  const auto* row = FindBuiltInProperty(name);
+  if (row == nullptr || (row->sources & kCostlyFigureSources) == 0) return std::nullopt;
+  const ConsolidatorGuard guard;
+  const auto* record = ValidRecord(pid);
+  if (record == nullptr || record->pidInfo == nullptr) return std::nullopt;
+  std::optional<std::int64_t> age;
+  for (std::size_t i = 0; i < kCostlySourceCount; ++i) {
+    const TimeValue readAt = record->pidInfo->costlyReadAt[i];
+    if ((row->sources & CostlySource(i)) == 0 || readAt.IsZero()) continue;
+    age = std::max(age.value_or(0), MillisecondsBetween(readAt, TheMachine().clock.Now()));
+  }
+  return age;
 }
 
 std::optional<TimeValue> ActiveTimeOf(std::int32_t pid) {

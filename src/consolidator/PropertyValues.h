@@ -23,6 +23,10 @@ bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::in
 /// none ("-", a mask of signals) is ps's own text. Any thread.
 TypedValue GetPIDPropertyTypedValue(std::int32_t pid, const char* name);
 
+/// How long ago a figure was read that is read in the background, in milliseconds; nothing for one
+/// that is as old as its client's turn. Any thread.
+std::optional<std::int64_t> AgeOfPIDProperty(std::int32_t pid, const char* name);
+
 /// The CPU time of a process, "meta_active_time"; nothing when there is no such process. Any
 /// thread.
 std::optional<TimeValue> ActiveTimeOf(std::int32_t pid);

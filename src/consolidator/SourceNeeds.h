@@ -9,16 +9,21 @@
 
 namespace lurkwell {
 
-/// Which of the process table's sources the due clients need, asked of each client once for all
-/// processes and, only where it answers "some", for each. Lives for one pass, on the main thread.
+/// Which sources of figures clients need, asked of each client once for all processes and, only
+/// where it answers "some", for each. Lives for one pass, on the main thread.
 class SourceNeeds {
  public:
+  /// Of the process table's sources, by the clients that are due.
   explicit SourceNeeds(TimeValue now);
+  /// Of these sources, by these clients.
+  SourceNeeds(const ProcessInformationClient::Clients& clients, FigureSources among);
 
   /// For one process.
   FigureSources Of(std::int32_t pid) const;
   /// Whether anybody needs a source of any process.
   bool AreThereAny() const;
+  /// Whether a figure of any process is needed.
+  bool OfFigures() const;
   /// Whether anybody needs to hear now who has ended.
   bool OfEnds() const { return mNeedsEnds; }
 
@@ -35,8 +40,9 @@ class SourceNeeds {
     std::vector<OfSome> ofSome;
   };
 
-  static OfClient NeedsOf(ProcessInformationClient* client);
+  OfClient NeedsOf(ProcessInformationClient* client) const;
 
+  FigureSources mAmong;
   std::vector<OfClient> mClients;
   bool mNeedsEnds = false;
 };

@@ -56,11 +56,12 @@ constexpr Members kMembers[] = {
      "%CPU %CUC %CUU C CP TIME CPUTIMES "
      "NI PRI PRIORITY OPRI API RTPRIO CLS SCH NUMA WCHAN AGID AGNI P"},
     {kMemory,
-     "pid_rsz pid_vsz pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS PSS USS LIM "
+     "pid_rsz pid_pss pid_uss pid_vsz pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS "
+     "LIM "
      "MAJFLT MINFLT PAGEIN OOM OOMADJ HTPRV HTSHR STACKP"},
     {kDisk,
      "pid_disk_read pid_disk_written pid_bytes_read pid_bytes_written pid_syscalls_unix "
-     "pid_unit_disk_read pid_unit_disk_written WCBYTES ROPS WOPS"},
+     "pid_unit_disk_read pid_unit_disk_written pid_descriptors WCBYTES ROPS WOPS"},
     {kNetwork, ""},
     {kGPU, ""},
     {kBelonging,
@@ -74,7 +75,8 @@ constexpr Members kMembers[] = {
     {kSignals, "BLOCKED CAUGHT IGNORED PENDING TSIG"},
     {kDesktop, "meta_psn"},
     {kRepeated,
-     "BSDTIME CMD UCMD STIME RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL PSR RBYTES WBYTES "
+     "BSDTIME CMD UCMD STIME PSS USS RSZ DSIZ TRSS TSIZ MAJFL MINFL TT CATCHED SIGNAL PSR RBYTES "
+     "WBYTES "
      "RCHARS WCHARS CPUID LASTCPU "
      "TGID "
      "SPID TID "

@@ -212,6 +212,10 @@ void VQTarvMainWindowInfoSynch::NotifyPSColumnsHaveChanged() {
   mOwner.commitChanges();
 }
 
+std::vector<std::int32_t> VQTarvMainWindowInfoSynch::PidsInSight() {
+  return mIsSeen ? mOwner.pidsInSight() : std::vector<std::int32_t>();
+}
+
 void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
   RefreshRows();
   gNewColumnWasAddedRecently = false;

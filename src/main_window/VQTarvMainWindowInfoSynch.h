@@ -41,6 +41,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void NotifyPSColumnsHaveChanged() override;
   NeedLevel NeedPidsForProcProperty(const char* key) override;
   bool NeedPidProcProperty(int pid, const char* key) override;
+  std::vector<std::int32_t> PidsInSight() override;
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "VQTarvMainWindowInfoSynch"; }
 

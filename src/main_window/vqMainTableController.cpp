@@ -304,11 +304,25 @@ QString vqMainTableController::spokenText(const RowDictionary& row, const Column
   return missing.isEmpty() ? textOf(row, column) : missing;
 }
 
+std::vector<std::int32_t> vqMainTableController::pidsInSight() const {
+  std::vector<std::int32_t> pids;
+  if (table() == nullptr || !table()->isVisible()) return pids;
+  const int first = table()->rowAt(0);
+  const int last = table()->rowAt(table()->viewport()->height() - 1);
+  const int end = last < 0 ? rowCount() : last + 1;
+  for (int row = std::max(first, 0); row < end; ++row)
+    pids.push_back(fRows.Shown()[static_cast<std::size_t>(row)]->Pid());
+  return pids;
+}
+
 QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column& column) const {
   QStringList lines;
   const bool isMissing = !column.isInternal && !IsKnown(row.Get(column.key));
   if (column.isStale) lines.append(LocalizedString("main_window_stale_tip"));
   if (isMissing) lines.append(MissingTip(row.Get(column.key)));
+  constexpr std::int64_t kWorthTelling = 5000;
+  const auto age = AgeOfPIDProperty(row.Pid(), KeyText(column.key).data());
+  if (age && *age >= kWorthTelling) lines.append(LocalizedString("value_age_tip").arg(*age / 1000));
   const bool isName = column.key == kMetaName || column.key == kPidCommandName;
   if (row.Pid() == 0 && (isName || column.key == kInternalCPUPercent))
     lines.append(LocalizedString("main_window_idle_task_tip"));

@@ -94,6 +94,9 @@ class vqMainTableController final : public vqTableController,
   /// case; all for an empty text.
   void setFilter(const QString& text);
 
+  /// Of the rows that can be seen without scrolling.
+  std::vector<std::int32_t> pidsInSight() const;
+
   // ---- Columns ----------------------------------------------------------------------------------
 
   const std::vector<KeyId>& keysWeTrackForUI() const { return fKeysWeTrackForUI; }

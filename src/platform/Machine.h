@@ -6,6 +6,7 @@ class Alerts;
 class Authorization;
 class Bundle;
 class Clock;
+class CostlyFigures;
 class EventBus;
 class HostStatistics;
 class HotKeys;
@@ -40,6 +41,7 @@ struct Machine {
   HotKeys& hotKeys;
   Screen& screen;
   EventBus& eventBus;
+  CostlyFigures& costlyFigures;
 };
 
 /// The installed machine. Any thread. It is a programming error to ask before one is installed.

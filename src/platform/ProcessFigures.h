@@ -76,6 +76,10 @@ constexpr FigureOrigin Named(FigureSource source, std::string_view name,
 constexpr FigureOrigin OfThreads(std::size_t field, SourceUnit unit) {
   return {.source = kFromThreads, .unit = unit, .field = field};
 }
+/// How it is taken stands in the reader of the source.
+constexpr FigureOrigin InBackground(FigureSource source) {
+  return {.source = source};
+}
 constexpr FigureOrigin AlsoFrom(FigureSource with, FigureOrigin origin) {
   origin.with = with;
   return origin;
@@ -112,6 +116,9 @@ inline constexpr FigureRow kRows[] = {
     {"pid_bytes_written", kBytes, kNoGroup, Named(kFromIO, "wchar")},
     {"pid_unit_disk_read", kBytes, kNoGroup, Named(kFromUnit, "rbytes")},
     {"pid_unit_disk_written", kBytes, kNoGroup, Named(kFromUnit, "wbytes")},
+    {"pid_pss", kBytes, kNoGroup, Named(kFromMemoryMap, "Pss")},
+    {"pid_uss", kBytes, kNoGroup, Named(kFromMemoryMap, "Private_Clean", "Private_Dirty")},
+    {"pid_descriptors", kNumber, kNoGroup, InBackground(kFromDescriptorCount)},
 };
 
 }  // namespace figure_origins

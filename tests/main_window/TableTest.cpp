@@ -2,6 +2,7 @@
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <set>
 
 #include "main_window/MainWindowTest.h"
 #include "main_window/ToolbarGauge.h"
@@ -333,6 +334,38 @@ TEST_F(TableTest, NamesAreShownWholeWhereTheyCanBeKnown) {
   table.Find(306)->commandLine = "another-program-of-long-name";
   Turn();
   EXPECT_EQ(name(306), "another-program-of-long-name");
+}
+
+TEST_F(TableTest, RowsInSightAreReadFirstAndOldFiguresSayHowOldTheyAre) {
+  machine.processTable.TellFigures(true);
+  for (int pid = 300; pid < 400; ++pid) machine.processTable.Birth(pid, "p");
+  Open();
+  ClickHeader("meta_pid");
+  controller().addToKeysWeTrackForUI(InternKey("pid_descriptors"));
+  Turn();
+  Turn();
+  std::set<std::int32_t> inSight, wanted;
+  for (const auto& wish : machine.costlyFigures.wishes)
+    if (wish.isInSight) inSight.insert(wish.process.pid);
+  EXPECT_GT(machine.costlyFigures.wishes.size(), 100u);
+  const auto& table = window->table();
+  for (int row = 0; row < controller().rowCount(); ++row)
+    if (table.visualRect(controller().index(row, 0)).intersects(table.viewport()->rect()))
+      wanted.insert(Cell(row, ColumnOf("meta_pid")).toInt());
+  wanted.erase(0);
+  EXPECT_GT(wanted.size(), 3u);
+  EXPECT_EQ(inSight, wanted);
+  const auto tip = [&] {
+    return controller()
+        .index(controller().rowCount() - 1, ColumnOf("pid_descriptors"))
+        .data(Qt::ToolTipRole)
+        .toString();
+  };
+  Turn();
+  EXPECT_EQ(tip(), "");
+  machine.costlyFigures.isBusy = true;
+  Turn(20'000);
+  EXPECT_TRUE(tip().contains("20 seconds")) << tip().toStdString();
 }
 
 }  // namespace

@@ -38,7 +38,8 @@ Machine MachineOf(SimulatedMachine& simulated, Own&... own) {
           ServiceOf(its.logFiles, own...),
           ServiceOf(its.hotKeys, own...),
           ServiceOf(its.screen, own...),
-          ServiceOf(its.eventBus, own...)};
+          ServiceOf(its.eventBus, own...),
+          ServiceOf(its.costlyFigures, own...)};
 }
 
 }  // namespace lurkwell

@@ -3,6 +3,7 @@
 #include "platform/Machine.h"
 #include "platform/linux/LinuxBundle.h"
 #include "platform/linux/LinuxClock.h"
+#include "platform/linux/LinuxCostlyFigures.h"
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxLogFiles.h"
 #include "platform/linux/LinuxNamedPipes.h"
@@ -42,11 +43,12 @@ class LinuxMachine {
   NoHotKeys hotKeys;
   NoScreen screen;
   NoEventBus eventBus;
+  LinuxCostlyFigures costlyFigures;
 
   Machine services{
       clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
       hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
-      alerts,         logFiles, hotKeys,          screen,       eventBus};
+      alerts,         logFiles, hotKeys,          screen,       eventBus,       costlyFigures};
 };
 
 }  // namespace lurkwell

@@ -21,6 +21,8 @@ namespace {
 // Holds about 10,000 entries of /proc, so that a listing is a call or two.
 constexpr std::size_t kListingSize = 262'144;
 constexpr std::size_t kLongestText = 4'194'304;
+// Of processes there are no more than pids, of descriptors what a process is allowed.
+constexpr std::size_t kMostListed = 4'194'304;
 
 // The kernel's linux_dirent64, whose fields lie before the name without gaps.
 constexpr std::size_t kLengthOffset = 16;
@@ -48,7 +50,7 @@ void AppendProcesses(std::span<const char> listing, std::vector<ListedProcess>& 
     std::memcpy(&length, listing.data() + kLengthOffset, sizeof length);
     if (length <= kNameOffset || length > listing.size()) return;
     const char* name = listing.data() + kNameOffset;
-    if (*name >= '1' && *name <= '9') {
+    if (*name >= '0' && *name <= '9') {
       if (const auto pid = ParsePid({name, strnlen(name, length - kNameOffset)})) {
         process.pid = *pid;
         processes.push_back(process);
@@ -86,15 +88,20 @@ bool ProcFiles::ListFolder(const FileDescriptor& folder, std::vector<ListedProce
                                  static_cast<unsigned>(mListing.size()));
     if (bytes <= 0) return bytes == 0;
     AppendProcesses(std::span(mListing).first(static_cast<std::size_t>(bytes)), listed);
+    if (listed.size() >= kMostListed) return true;
   }
 }
 
 bool ProcFiles::ListThreads(int folder, std::vector<std::int32_t>& threads) {
-  threads.clear();
-  mListedThreads.clear();
-  const FileDescriptor tasks(::openat(folder, "task", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!ListFolder(tasks, mListedThreads)) return false;
-  for (const auto& thread : mListedThreads) threads.push_back(thread.pid);
+  return ListNumbers(folder, "task", threads);
+}
+
+bool ProcFiles::ListNumbers(int folder, const char* name, std::vector<std::int32_t>& numbers) {
+  numbers.clear();
+  mListedNumbers.clear();
+  const FileDescriptor listed(::openat(folder, name, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!listed.IsOpen() || !ListFolder(listed, mListedNumbers)) return false;
+  for (const auto& number : mListedNumbers) numbers.push_back(number.pid);
   return true;
 }
 

@@ -74,6 +74,10 @@ class ProcFiles {
   /// listed.
   virtual bool ListThreads(int folder, std::vector<std::int32_t>& threads);
 
+  /// Replaces `numbers` by the entries of the folder `name` in an open folder that are numbers,
+  /// four million at most. False, and errno, when it cannot be listed.
+  virtual bool ListNumbers(int folder, const char* name, std::vector<std::int32_t>& numbers);
+
   /// A whole file below the root, at most 4 MiB of it; empty on failure.
   virtual std::string ReadText(const char* path);
 
@@ -84,7 +88,7 @@ class ProcFiles {
   bool mIsKernelTree = false;
   bool mHasOwnPids = false;
   std::vector<char> mListing;
-  std::vector<ListedProcess> mListedThreads;
+  std::vector<ListedProcess> mListedNumbers;
 };
 
 /// The start, in ticks since boot, of the process that has `pid` now; 0 when there is none or it

@@ -6,6 +6,7 @@
 #include "platform/simulated/SimulatedAuthorization.h"
 #include "platform/simulated/SimulatedBundle.h"
 #include "platform/simulated/SimulatedClock.h"
+#include "platform/simulated/SimulatedCostlyFigures.h"
 #include "platform/simulated/SimulatedEventBus.h"
 #include "platform/simulated/SimulatedHelper.h"
 #include "platform/simulated/SimulatedHotKeys.h"
@@ -44,12 +45,13 @@ class SimulatedMachine {
   SimulatedHotKeys hotKeys{log};
   SimulatedScreen screen{log};
   SimulatedEventBus eventBus{log};
+  SimulatedCostlyFigures costlyFigures{processTable, log};
   SimulatedHelper helper{processTable, log};
 
   Machine services{
       clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
       hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
-      alerts,         logFiles, hotKeys,          screen,       eventBus};
+      alerts,         logFiles, hotKeys,          screen,       eventBus,       costlyFigures};
 };
 
 }  // namespace lurkwell

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/ProcessFigures.h"
+#include "platform/ProcessIdentity.h"
+
+namespace lurkwell {
+
+/// What one process is asked for.
+struct CostlyWish {
+  ProcessIdentity process;
+  /// Of kCostlyFigureSources.
+  FigureSources sources = 0;
+  /// The user can see it now: it is read before those that are out of sight.
+  bool isInSight = false;
+};
+
+/// What was found.
+struct CostlyReading {
+  ProcessIdentity process;
+  /// The sources that were read; their figures stand in `figures`.
+  FigureSources sources = 0;
+  ProcessFigures figures;
+  /// How long ago that was, in milliseconds.
+  std::int64_t age = 0;
+};
+
+/// The figures of processes that take so long to read that no heartbeat waits for them. They are
+/// read in the background, as far as a budget allows, and collected by a later heartbeat. Nothing
+/// is read that is not asked for. Main thread only.
+class CostlyFigures {
+ public:
+  virtual ~CostlyFigures() = default;
+
+  /// Replaces what has been asked for so far. Each wish is answered once at most; one whose turn
+  /// does not come before the next call has to be repeated. Does not wait for a reading.
+  virtual void Ask(std::vector<CostlyWish> wishes) = 0;
+
+  /// What was read since the last call, oldest first. Does not wait for a reading.
+  virtual std::vector<CostlyReading> Collect() = 0;
+};
+
+}  // namespace lurkwell

@@ -1,0 +1,152 @@
+#include "platform/linux/CostlyReader.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <bit>
+#include <cerrno>
+#include <charconv>
+#include <string_view>
+
+#include "platform/linux/ProcStat.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr std::int64_t kRestFactor = 50;
+constexpr std::int64_t kLongestRest = 60'000;
+constexpr std::int64_t kRestAfterRefusal = 10'000;
+constexpr std::size_t kVirtualSizeField = 23;
+
+/// The number in the line "name:   NUMBER kB".
+std::optional<std::int64_t> KibibytesOf(std::string_view text, std::string_view name) {
+  const std::string key = '\n' + std::string(name) + ':';
+  const auto at = text.find(key);
+  if (at == std::string_view::npos) return std::nullopt;
+  auto rest = text.substr(at + key.size());
+  rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
+  std::int64_t number = 0;
+  const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+  const auto unit =
+      std::string_view(end, static_cast<std::size_t>(rest.data() + rest.size() - end));
+  constexpr std::int64_t kMost = std::int64_t{1} << 52;
+  if (error != std::errc() || number < 0 || number > kMost || !unit.starts_with(" kB"))
+    return std::nullopt;
+  return number * 1024;
+}
+
+void SetAll(ProcessFigures& figures, FigureSource source, FigureState why) {
+  for (std::size_t i = 0; i < kFigureCount; ++i)
+    if (kFigures[i].origin.source == source) figures.SetMissing(static_cast<Figure>(i), why);
+}
+
+}  // namespace
+
+CostlyReader::CostlyReader(const std::string& root) : mFiles(root) {}
+
+void CostlyReader::Keep(std::span<const CostlyWish> wishes) {
+  ++mRound;
+  for (const auto& wish : wishes) {
+    auto& known = mKnown[wish.process.pid];
+    if (known.startStamp != wish.process.startStamp) known = {};
+    known.startStamp = wish.process.startStamp;
+    known.round = mRound;
+  }
+  std::erase_if(mKnown, [this](const auto& known) { return known.second.round != mRound; });
+}
+
+CostlyReader::Due CostlyReader::DueOf(const CostlyWish& wish, std::int64_t now) const {
+  Due due;
+  due.oldest = now;
+  const auto known = mKnown.find(wish.process.pid);
+  if (known == mKnown.end()) return due;
+  for (std::size_t i = 0; i < kCostlySourceCount; ++i) {
+    const auto& source = known->second.sources[i];
+    if ((wish.sources & CostlySource(i)) == 0 || now < source.due) continue;
+    due.sources |= CostlySource(i);
+    due.hasNeverBeenRead |= !source.isRead;
+    due.oldest = std::min(due.oldest, source.readAt);
+  }
+  return due;
+}
+
+std::optional<CostlyReading> CostlyReader::Read(ProcessIdentity process, FigureSources sources) {
+  const auto known = mKnown.find(process.pid);
+  if (known == mKnown.end()) return std::nullopt;
+  const FileDescriptor folder = mFiles.OpenFolder(process.pid);
+  if (!folder.IsOpen() || !IsOf(process, folder.Get())) return std::nullopt;
+  CostlyReading reading{process, 0, {}, 0};
+  for (std::size_t i = 0; i < kCostlySourceCount; ++i) {
+    if ((sources & CostlySource(i)) == 0) continue;
+    const auto begun = Now();
+    const auto state = ReadSource(CostlySource(i), folder.Get(), reading.figures);
+    const auto ended = Now();
+    auto& source = known->second.sources[i];
+    const auto rest = state == FigureState::kRefused
+                          ? kRestAfterRefusal
+                          : std::min((ended - begun) * kRestFactor, kLongestRest);
+    source = {true, ended, ended + rest};
+    // Ended meanwhile, or nothing to open it with: no word on the figures.
+    if (state == FigureState::kUnread) continue;
+    if (state != FigureState::kKnown) SetAll(reading.figures, CostlySource(i), state);
+    reading.sources |= CostlySource(i);
+  }
+  if (reading.sources == 0) return std::nullopt;
+  return reading;
+}
+
+bool CostlyReader::IsOf(ProcessIdentity process, int folder) {
+  const auto bytes = mFiles.ReadIn(folder, "stat", mBuffer);
+  if (bytes <= 0) return false;
+  const auto stat = ParseProcStat({mBuffer.data(), static_cast<std::size_t>(bytes)});
+  if (!stat || stat->pid != process.pid || stat->startStamp != process.startStamp) return false;
+  const auto fields = ParseProcStatFields(*stat);
+  mHasMemory = !fields || (*fields)[kVirtualSizeField] != 0;
+  return true;
+}
+
+FigureState CostlyReader::ReadSource(FigureSource source, int folder, ProcessFigures& figures) {
+  errno = 0;
+  const auto state = source == kFromMemoryMap ? ReadMemoryMap(folder, figures)
+                                              : ReadDescriptorCount(folder, figures);
+  if (state != FigureState::kUnread) return state;
+  return errno == EACCES || errno == EPERM ? FigureState::kRefused : FigureState::kUnread;
+}
+
+FigureState CostlyReader::ReadMemoryMap(int folder, ProcessFigures& figures) {
+  const auto bytes = mHasMemory ? mFiles.ReadIn(folder, "smaps_rollup", mBuffer) : 0;
+  if (mHasMemory && bytes < 0 && errno == ENOENT) return FigureState::kUncounted;
+  if (mHasMemory && bytes <= 0) return FigureState::kUnread;
+  const std::string_view text(mBuffer.data(), static_cast<std::size_t>(bytes));
+  for (std::size_t i = 0; i < kFigureCount; ++i) {
+    const auto& origin = kFigures[i].origin;
+    if (origin.source != kFromMemoryMap) continue;
+    const auto figure = static_cast<Figure>(i);
+    const auto size = mHasMemory ? KibibytesOf(text, origin.name) : 0;
+    const auto other =
+        mHasMemory && !origin.otherName.empty() ? KibibytesOf(text, origin.otherName) : 0;
+    if (size && other) {
+      figures.Set(figure, *size + *other);
+    } else {
+      figures.SetMissing(figure, FigureState::kUncounted);
+    }
+  }
+  return FigureState::kKnown;
+}
+
+/// Newer kernels give it as the size of the folder, to everybody; the others have it listed.
+FigureState CostlyReader::ReadDescriptorCount(int folder, ProcessFigures& figures) {
+  struct stat status {};
+  if (::fstatat(folder, "fd", &status, 0) != 0) return FigureState::kUnread;
+  std::int64_t count = status.st_size;
+  if (count <= 0 || !mFiles.FollowsProcesses()) {
+    mNumbers.clear();
+    if (!mFiles.ListNumbers(folder, "fd", mNumbers)) return FigureState::kUnread;
+    count = static_cast<std::int64_t>(mNumbers.size());
+  }
+  figures.Set(FigureCalled("pid_descriptors"), count);
+  return FigureState::kKnown;
+}
+
+}  // namespace lurkwell

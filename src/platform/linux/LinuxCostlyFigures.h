@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/CostlyFigures.h"
+
+namespace lurkwell {
+
+/// Reads them on a thread of its own, which begins with the first wish and sleeps while there is
+/// none. Processes in sight come first, then those that were never read, then the others in the
+/// order of their last readings.
+///
+/// The thread takes 20 ms of processor time in 2 s at most, a hundredth of a processor, and for
+/// what was never read, so that a new column fills soon, 100 ms in 2 s beside it; a single reading
+/// that takes longer is made up for by waiting.
+///
+/// A process whose reading has taken more than a second, because its memory is locked or hangs on a
+/// file system that does not answer, is left alone for a minute, and as long as it hangs; another
+/// thread takes over, four times at most.
+class LinuxCostlyFigures final : public CostlyFigures {
+ public:
+  /// `root` is "/proc" or a made-up tree of the same shape.
+  explicit LinuxCostlyFigures(std::string root = "/proc");
+  /// Waits for no reading that hangs.
+  ~LinuxCostlyFigures() override;
+  LinuxCostlyFigures(const LinuxCostlyFigures&) = delete;
+  LinuxCostlyFigures& operator=(const LinuxCostlyFigures&) = delete;
+
+  void Ask(std::vector<CostlyWish> wishes) override;
+  std::vector<CostlyReading> Collect() override;
+
+  /// Processor time that all readings have taken so far, in microseconds.
+  std::int64_t TakenTime() const;
+
+ private:
+  struct Shared;
+
+  static void Serve(const std::shared_ptr<Shared>& shared, unsigned generation);
+  bool EnsureThread();
+
+  std::shared_ptr<Shared> mShared;
+};
+
+}  // namespace lurkwell
