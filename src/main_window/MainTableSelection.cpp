@@ -15,9 +15,7 @@ RowComparison vqMainTableController::sortSelectorForColumn(std::string_view key)
 }
 
 char vqMainTableController::toggleSortDirection(KeyId key) {
-  auto& direction = fColumnSortDirection[key];
-  direction = direction == 0 ? 1 : 0;
-  return direction;
+  return fLayout.ToggleDirection(key);
 }
 
 bool vqMainTableController::isSortColumn(int column) const {
@@ -37,9 +35,9 @@ void vqMainTableController::changeSortColumn(int places, int points) {
 bool vqMainTableController::shouldSelectTableColumn(int column) {
   if (column < 0 || column >= columnCount()) return false;
   const KeyId key = fColumns[static_cast<std::size_t>(column)].key;
-  fRememberedSortKey.clear();
+  fLayout.ForgetSortColumn();
   if (key == fSortColumn) toggleSortDirection(key);
-  setSortColumn(key, fColumnSortDirection[key]);
+  setSortColumn(key, fLayout.DirectionOf(key));
   fNeedsResort = true;
   commitChanges();
   return false;

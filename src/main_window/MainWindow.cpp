@@ -16,7 +16,6 @@
 #include "main_window/AskForPid.h"
 #include "main_window/HelpWindow.h"
 #include "main_window/MainToolbar.h"
-#include "main_window/Preferences.h"
 #include "main_window/ToolbarCustomiseDialog.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"

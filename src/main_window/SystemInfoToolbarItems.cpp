@@ -6,7 +6,6 @@
 #include "main_window/SystemInfoImage.h"
 #include "main_window/SystemInfoTexts.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
-#include "main_window/vqMainTableController.h"
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"

@@ -7,8 +7,6 @@
 #include <limits>
 
 #include "consolidator/PI_Consolidator.h"
-#include "main_window/Preferences.h"
-#include "main_window/vqMainTableController.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
@@ -17,6 +15,7 @@
 #include "windows/ControllerAssertion.h"
 #include "windows/CustomCells.h"
 #include "windows/PropertyText.h"
+#include "windows/RowSorting.h"
 
 namespace lurkwell {
 
@@ -27,6 +26,7 @@ VQTarvMainWindowInfoSynch* VQTarvMainWindowInfoSynch::zm_MainWindow = nullptr;
 namespace {
 
 constexpr char kSynchUnit[] = "VQTarvMainWindowInfoSynch";
+constexpr char kIntervalKey[] = "MAIN_WINDOW_INTERVAL";
 constexpr std::int32_t kUnseenFactor = 10;
 
 /// Read of every process, shown or not: for the bars, the filter, questions and two sorts.
@@ -46,7 +46,7 @@ KeyId SortedBy(KeyId column) {
 
 }  // namespace
 
-VQTarvMainWindowInfoSynch::VQTarvMainWindowInfoSynch(long interval, vqMainTableController& owner)
+VQTarvMainWindowInfoSynch::VQTarvMainWindowInfoSynch(long interval, SynchronisedTable& owner)
     : ProcessInformationClient(nullptr, static_cast<std::int32_t>(interval)), mOwner(owner) {
   zm_MainWindow = this;
   ReadSystemInfoPreferences();
@@ -65,12 +65,12 @@ void VQTarvMainWindowInfoSynch::HookIntoConsolidator() {
   // While nobody was served, not even what never changes was read, no change of preferences was
   // told, and what happened is no figure of one turn.
   gNewColumnWasAddedRecently = true;
-  SetSeenInterval(MainWindowInterval());
+  SetSeenInterval(ReadInt(kIntervalKey));
   mMachineUsage = {};
   mPreviousPageouts.reset();
   mFilteredPageouts = 0.0;
   AddProcessInformationClient(this);
-  gNSMainWindow = mOwner.window();
+  gNSMainWindow = mOwner.tableWindow();
   mOwner.commitChanges();
   RequestUpdate(this);
 }
@@ -90,7 +90,7 @@ void VQTarvMainWindowInfoSynch::SetSeenInterval(std::int32_t milliseconds) {
 
 void VQTarvMainWindowInfoSynch::SetSeen(bool isSeen) {
   if (std::exchange(mIsSeen, isSeen) == isSeen) return;
-  SetSeenInterval(MainWindowInterval());
+  SetSeenInterval(ReadInt(kIntervalKey));
   if (isSeen && mHooked) RequestUpdate(this);
 }
 
@@ -103,7 +103,7 @@ ProcessInformationClient::NeedLevel VQTarvMainWindowInfoSynch::NeedPidsForProcPr
 
 bool VQTarvMainWindowInfoSynch::NeedPidProcProperty(int, const char* key) {
   // Questions, the filter and two sorts want names, shown or not.
-  return mOwner.isTracked(key) || std::strcmp(key, "meta_active_time") == 0 ||
+  return mOwner.layout().Has(key) || std::strcmp(key, "meta_active_time") == 0 ||
          std::strcmp(key, "meta_name") == 0;
 }
 
@@ -148,13 +148,13 @@ void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyI
 void VQTarvMainWindowInfoSynch::UpdateAllFields(RowDictionary& row, int pid) {
   row.changeStamp = GlanceAt(pid).changeStamp;
   for (const KeyId key : AlwaysRead()) UpdateSingleFieldForPid(row, key, pid);
-  for (const KeyId key : mOwner.keysWeTrackForUI())
+  for (const KeyId key : mOwner.layout().Keys())
     if (std::ranges::find(AlwaysRead(), key) == AlwaysRead().end())
       UpdateSingleFieldForPid(row, key, pid);
 }
 
 void VQTarvMainWindowInfoSynch::RefreshBars() {
-  const bool drewText = std::exchange(gDrawVSZText, DrawsVSZText());
+  const bool drewText = std::exchange(gDrawVSZText, ReadSwitch("MEM_GRAPH_DRAW_VSZ"));
   const auto biggest = std::exchange(gBiggestVSZ, 0);
   const bool ignoresPidZero = IgnoresPidZero();
   for (auto* row : mOwner.rows().All()) {
@@ -166,7 +166,9 @@ void VQTarvMainWindowInfoSynch::RefreshBars() {
       gBiggestVSZ = std::max(gBiggestVSZ, IntegerOf(row->Get(kPidVsz)));
   }
   // Every bar is measured by the biggest.
-  if (drewText != gDrawVSZText || biggest != gBiggestVSZ) mOwner.memoryBarsHaveChanged();
+  const bool haveBarsChanged = drewText != gDrawVSZText || biggest != gBiggestVSZ;
+  if (haveBarsChanged && mOwner.layout().Has(KeyText(kInternalMemGraph)))
+    for (auto* row : mOwner.rows().All()) row->SetChanged(true);
 }
 
 void VQTarvMainWindowInfoSynch::RefreshRow(RowDictionary& row, TimeValue now) {
@@ -189,7 +191,7 @@ void VQTarvMainWindowInfoSynch::LearnNames() {
 
 void VQTarvMainWindowInfoSynch::RefreshRows() {
   const auto now = TheMachine().clock.Now();
-  mSortedBy = SortedBy(mOwner.sortColumn());
+  mSortedBy = SortedBy(mOwner.sortedBy());
   mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) RefreshRow(*row, now);
   LearnNames();
@@ -202,8 +204,8 @@ void VQTarvMainWindowInfoSynch::BeepForHexadecimals() {
 
 void VQTarvMainWindowInfoSynch::NotifyPSColumnsHaveChanged() {
   mOwner.showColumnsThatCame();
-  mSortedBy = SortedBy(mOwner.sortColumn());
-  for (const KeyId key : mOwner.keysWeTrackForUI()) {
+  mSortedBy = SortedBy(mOwner.sortedBy());
+  for (const KeyId key : mOwner.layout().Keys()) {
     const char* name = KeyText(key).data();
     if (IsInternalKey(name) || FindBuiltInProperty(name) != nullptr) continue;
     for (auto* row : mOwner.rows().All()) UpdateSingleFieldForPid(*row, key, row->Pid());
@@ -253,7 +255,7 @@ void VQTarvMainWindowInfoSynch::NotifyPidHasChangedAppreciably(int pid) {
 }
 
 void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
-  if (const auto interval = StoredInt(kMainWindowIntervalKey)) SetSeenInterval(*interval);
+  if (const auto interval = StoredInt(kIntervalKey)) SetSeenInterval(*interval);
   mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) {
     UpdateAllFields(*row, row->Pid());

@@ -9,6 +9,8 @@
 
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/WholeNames.h"
+#include "main_window/ColumnLayout.h"
+#include "main_window/ProcessRows.h"
 #include "platform/RunLoop.h"
 #include "platform/TimeValue.h"
 #include "windows/RowDictionary.h"
@@ -16,7 +18,44 @@
 
 namespace lurkwell {
 
-class vqMainTableController;
+class MainToolbar;
+
+/// What the synchroniser needs of its table. Main thread.
+class SynchronisedTable {
+ public:
+  virtual ~SynchronisedTable() = default;
+  /// Null before there is one.
+  virtual QWidget* tableWindow() const = 0;
+  virtual ProcessRows& rows() = 0;
+  virtual const ColumnLayout& layout() const = 0;
+  /// Null while it is hidden.
+  virtual MainToolbar* visibleToolbar() const = 0;
+  /// The sort column; kNoKey for none.
+  virtual KeyId sortedBy() const = 0;
+  /// The processes whose rows can be seen, in the order of the rows.
+  virtual std::vector<std::int32_t> pidsInSight() const = 0;
+
+  /// Rows came or changed so that their order may be another one; done at the next commit.
+  virtual void setNeedsResort() = 0;
+  virtual void setNeedsReload() = 0;
+  /// What commands depend on may be something else: a badge came or went.
+  virtual void noteFactsHaveChanged() = 0;
+  /// Marks the ps columns that the turn brought no figures for; what they had stays, greyed.
+  virtual void noteStaleColumns() = 0;
+  /// Between turns: takes the mark from the ps columns that have come meanwhile.
+  virtual void noteFreshColumns() = 0;
+  /// Shows the remembered columns that ps did not offer before and does now; those that it turns
+  /// out not to have go, but stay remembered.
+  virtual void showColumnsThatCame() = 0;
+  /// Lets the view have everything that has changed. While the order is held, only what cells show.
+  virtual void commitChanges() = 0;
+  virtual void triggerReload() = 0;
+  virtual void turnHasEnded() = 0;
+
+  virtual bool selectPid(std::int32_t pid) = 0;
+  virtual void saveColumnPrefs() = 0;
+  virtual void synchronizerIsGone() = 0;
+};
 
 /// The main window while its table is served, null otherwise.
 extern QPointer<QWidget> gNSMainWindow;
@@ -29,7 +68,7 @@ extern bool gNewColumnWasAddedRecently;
 class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
  public:
   /// `interval` in milliseconds; the owner outlives this.
-  VQTarvMainWindowInfoSynch(long interval, vqMainTableController& owner);
+  VQTarvMainWindowInfoSynch(long interval, SynchronisedTable& owner);
   ~VQTarvMainWindowInfoSynch() override;
 
   void NotifyPidHasBeenAdded(int pid) override;
@@ -101,7 +140,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void RefreshBars();
   void BeepForHexadecimals();
 
-  vqMainTableController& mOwner;
+  SynchronisedTable& mOwner;
   bool mHooked = false;
   bool mIsSeen = true;
   /// A hexadecimal property was asked for; they are not shown, and the user hears it once a turn.

@@ -9,7 +9,6 @@
 #include "consolidator/ApplicationIcons.h"
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/ColumnGroups.h"
-#include "main_window/Preferences.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
@@ -39,9 +38,8 @@ QPixmap PixmapOf(const Picture& picture, double scale) {
 }  // namespace
 
 vqMainTableController::vqMainTableController() {
-  fInfoSynchronizer = new VQTarvMainWindowInfoSynch(MainWindowInterval(), *this);
-  readColumnPrefs();
-  addMissingColumns();
+  fInfoSynchronizer = new VQTarvMainWindowInfoSynch(ReadInt("MAIN_WINDOW_INTERVAL"), *this);
+  fLayout.Read();
 }
 
 vqMainTableController::~vqMainTableController() {
@@ -59,7 +57,8 @@ void vqMainTableController::awakeFromNib(QMainWindow& window, StripedTableView& 
           [this](int column) { shouldSelectTableColumn(column); });
   connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &vqMainTableController::contentsChanged);
-  chooseInitialSortColumn();
+  const KeyId sortColumn = fLayout.TakeInitialSortColumn();
+  setSortColumn(sortColumn, fLayout.DirectionOf(sortColumn));
   setupToolbar(window);
 }
 
@@ -104,11 +103,6 @@ void vqMainTableController::setNeedsReload() {
   QTimer::singleShot(0, this, [this] {
     if (fCommitIsQueued) commitChanges();
   });
-}
-
-void vqMainTableController::memoryBarsHaveChanged() {
-  if (!isTracked(KeyText(kInternalMemGraph))) return;
-  for (auto* row : fRows.All()) row->SetChanged(true);
 }
 
 void vqMainTableController::noteAgeOfColumns(bool mayAge) {
@@ -168,7 +162,7 @@ void vqMainTableController::resortTable() {
   if (fSortColumn == kNoKey) return;
   const auto comparison = SortingComparisonForColumn(KeyText(fSortColumn));
   if (comparison == nullptr) return;
-  const bool ascending = fColumnSortDirection[fSortColumn] != 0;
+  const bool ascending = fLayout.DirectionOf(fSortColumn) != 0;
   SortRows(fRows.All(), comparison, {fSortColumn, ascending});
 }
 

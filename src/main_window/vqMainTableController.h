@@ -6,11 +6,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
 #include "consolidator/PropertyTypes.h"
+#include "main_window/ColumnLayout.h"
 #include "main_window/CommandTable.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/ProcessCommands.h"
@@ -25,6 +25,9 @@ class QMainWindow;
 
 namespace lurkwell {
 
+/// Whether the window comes back at the next start.
+inline constexpr char kShowProcessListKey[] = "DEFAULT_SHOW_PROCESS_LIST_WINDOW";
+
 /// The process table: its rows and columns as the view's model, its sorting and selection. What can
 /// be done to processes is ProcessCommands', the toolbar MainToolbar's. Main thread only.
 ///
@@ -32,7 +35,8 @@ namespace lurkwell {
 /// commit at the end of the turn.
 class vqMainTableController final : public vqTableController,
                                     private ProcessRows::Announcer,
-                                    private ProcessSelection {
+                                    private ProcessSelection,
+                                    private SynchronisedTable {
   Q_OBJECT
 
  public:
@@ -59,31 +63,16 @@ class vqMainTableController final : public vqTableController,
 
   // ---- Rows -------------------------------------------------------------------------------------
 
-  ProcessRows& rows() { return fRows; }
+  ProcessRows& rows() override { return fRows; }
   const ProcessRows& rows() const { return fRows; }
   /// All rows in the order of the sort, those that a filter hides among them.
   const std::vector<RowDictionary*>& pidEntries() const { return fRows.All(); }
   VQTarvMainWindowInfoSynch* synchronizer() const { return fInfoSynchronizer; }
 
-  /// Rows came or changed so that their order may be another one; done at the next commit.
-  void setNeedsResort() { fNeedsResort = true, setNeedsReload(); }
-  void setNeedsReload();
-  void memoryBarsHaveChanged();
-  /// Marks the ps columns that the turn brought no figures for; what they had stays, greyed.
-  void noteStaleColumns() { noteAgeOfColumns(true); }
-  /// Between turns: takes the mark from the ps columns that have come meanwhile.
-  void noteFreshColumns() { noteAgeOfColumns(false); }
-  /// Shows the remembered columns that ps did not offer before and does now; those that it turns
-  /// out not to have go, but stay remembered.
-  void showColumnsThatCame();
-  void synchronizerIsGone() { fInfoSynchronizer = nullptr; }
-
-  /// Lets the view have everything that has changed. While the order is held, only what cells show.
-  void commitChanges();
+  void setNeedsResort() override { fNeedsResort = true, setNeedsReload(); }
+  void setNeedsReload() override;
+  void commitChanges() override;
   void triggerReload() override;
-  /// What commands depend on may be something else: a badge came or went.
-  void noteFactsHaveChanged() { fFactsHaveChanged = true; }
-  void turnHasEnded() { Q_EMIT updated(); }
   /// Sorts the rows by the sort column; the view hears of it at the next commit.
   void resortTable();
 
@@ -95,12 +84,12 @@ class vqMainTableController final : public vqTableController,
   void setFilter(const QString& text);
 
   /// Of the rows that can be seen without scrolling.
-  std::vector<std::int32_t> pidsInSight() const;
+  std::vector<std::int32_t> pidsInSight() const override;
 
   // ---- Columns ----------------------------------------------------------------------------------
 
-  const std::vector<KeyId>& keysWeTrackForUI() const { return fKeysWeTrackForUI; }
-  bool isTracked(std::string_view key) const { return fTracked.contains(key); }
+  const std::vector<KeyId>& keysWeTrackForUI() const { return fLayout.Keys(); }
+  bool isTracked(std::string_view key) const { return fLayout.Has(key); }
   /// Of the model's column, wherever it stands on the screen; kNoKey when there is none.
   KeyId keyOfColumn(int column) const {
     return column >= 0 && column < columnCount() ? fColumns[static_cast<std::size_t>(column)].key
@@ -113,7 +102,7 @@ class vqMainTableController final : public vqTableController,
   void addToKeysWeTrackForUI(KeyId key, KeyId afterKey = kNoKey);
   void removeFromKeysWeTrackForUI(KeyId key);
   /// Keys, widths, directions and the sort column, as they stand on the screen.
-  void saveColumnPrefs();
+  void saveColumnPrefs() override;
 
   // ---- Sorting and selection --------------------------------------------------------------------
 
@@ -130,7 +119,7 @@ class vqMainTableController final : public vqTableController,
   std::vector<std::int32_t> selectedPids() const override;
   /// A process's name on one line, whether names are shown or not.
   static QString nameOf(std::int32_t pid);
-  bool selectPid(std::int32_t pid);
+  bool selectPid(std::int32_t pid) override;
 
   // ---- Commands on the selected processes -------------------------------------------------------
 
@@ -169,7 +158,7 @@ class vqMainTableController final : public vqTableController,
   /// Null before awakeFromNib.
   MainToolbar* toolbar() const { return fToolbar; }
   /// Null while it is hidden.
-  MainToolbar* visibleToolbar() const;
+  MainToolbar* visibleToolbar() const override;
   static QStringList toolbarDefaultItemIdentifiers() { return DefaultToolbarItems(); }
   /// In the order of the palette.
   static QStringList toolbarAllowedItemIdentifiers() { return AllowedToolbarItems(); }
@@ -223,13 +212,18 @@ class vqMainTableController final : public vqTableController,
   void processesHaveChanged(const std::vector<std::int32_t>& pids) override;
   void report(const QString& text) override { Q_EMIT reported(text); }
 
+  QWidget* tableWindow() const override { return window(); }
+  const ColumnLayout& layout() const override { return fLayout; }
+  KeyId sortedBy() const override { return sortColumn(); }
+  void noteStaleColumns() override { noteAgeOfColumns(true); }
+  void noteFreshColumns() override { noteAgeOfColumns(false); }
+  void showColumnsThatCame() override;
+  void noteFactsHaveChanged() override { fFactsHaveChanged = true; }
+  void turnHasEnded() override { Q_EMIT updated(); }
+  void synchronizerIsGone() override { fInfoSynchronizer = nullptr; }
+
   void noteAgeOfColumns(bool mayAge);
-  void putAwayColumnsThatDidNotCome();
   void arrangeRows();
-  void readColumnPrefs();
-  void addMissingColumns();
-  void track(KeyId key, char direction);
-  void chooseInitialSortColumn();
   void setupToolbar(QMainWindow& window);
   void adoptScreenLayout();
   int widthForColumn(KeyId key, const QString& title) const;
@@ -250,24 +244,8 @@ class vqMainTableController final : public vqTableController,
 
   VQTarvMainWindowInfoSynch* fInfoSynchronizer = nullptr;
   ProcessRows fRows{*this};
-  /// In the order of the columns.
-  std::vector<KeyId> fKeysWeTrackForUI;
-  /// Nothing was remembered of them.
-  bool fHasUsualColumns = false;
-  std::unordered_set<std::string_view> fTracked;
-  std::unordered_map<KeyId, char> fColumnSortDirection;
-  std::unordered_map<KeyId, int> fColumnWidths;
+  ColumnLayout fLayout;
   std::vector<Column> fColumns;
-  /// Remembered columns that ps does not offer this time; they are kept for the next.
-  struct AbsentColumn {
-    std::string key;
-    int width;
-    std::int32_t direction;
-  };
-  std::vector<AbsentColumn> fAbsentColumns;
-  /// The remembered sort column, while it is not the sort column: before the columns are there, and
-  /// as long as it is absent and the user has chosen no other.
-  std::string fRememberedSortKey;
   std::vector<std::int32_t> fRememberedSelectionPIDs;
   QString fFilter;
   bool fFilterHasChanged = false;
