@@ -4,25 +4,21 @@
 #include <utility>
 
 #include "animated_view/QuintessentialGlobals.h"
-#include "animated_view/QuintessentialInformationClient.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/CriticalRegion.h"
 
 namespace lurkwell {
-namespace {
 
-/// What there is to draw now, or null. Inside the mutex.
-QuintessentialInformationClient* VisibleClient() {
-  auto* client = gQuintessentialInformationClient;
-  if (client == nullptr || client->IsPaused() || !gQuintessentialViewIsCurrentlyShown)
+DrawingThread::DrawingThread(FrameSource* (*source)())
+    : mSource(source),
+      mThread([this](const std::stop_token& stop) { OpenGLDrawingThread(stop); }) {}
+
+FrameSource* DrawingThread::Visible() const {
+  auto* source = mSource();
+  if (source == nullptr || source->IsPaused() || !gQuintessentialViewIsCurrentlyShown)
     return nullptr;
-  return client;
+  return source;
 }
-
-}  // namespace
-
-DrawingThread::DrawingThread()
-    : mThread([this](const std::stop_token& stop) { OpenGLDrawingThread(stop); }) {}
 
 DrawingThread::~DrawingThread() {
   mThread.request_stop();
@@ -49,8 +45,8 @@ void DrawingThread::OpenGLDrawingThread(const std::stop_token& stop) {
   std::unique_lock inside(gQuintessentialMutex);
   while (!IsEnding(stop)) {
     const auto frameStart = Clock::now();
-    auto* client = VisibleClient();
-    if (client != nullptr && !gQuintessentialWindowIsBeingResized) client->InternalDraw();
+    auto* source = Visible();
+    if (source != nullptr && !gQuintessentialWindowIsBeingResized) source->InternalDraw();
     RestUntilNextFrame(stop, frameStart, inside);
   }
 }
@@ -65,15 +61,15 @@ void DrawingThread::RestUntilNextFrame(const std::stop_token& stop, Clock::time_
     return std::chrono::duration<double, std::milli>(Clock::now() - frameStart);
   };
   for (;;) {
-    const auto* client = VisibleClient();
+    const auto* source = Visible();
     std::optional<std::chrono::microseconds> time;
-    if (client != nullptr) time = Rest(client->GLThreadInterval(), elapsed());
+    if (source != nullptr) time = Rest(source->GLThreadInterval(), elapsed());
     inside.unlock();
     const bool woken = Sleep(stop, time);
     inside.lock();
-    client = VisibleClient();
+    source = Visible();
     if (woken || IsEnding(stop)) return;
-    if (client != nullptr && elapsed().count() >= client->GLThreadInterval()) return;
+    if (source != nullptr && elapsed().count() >= source->GLThreadInterval()) return;
   }
 }
 

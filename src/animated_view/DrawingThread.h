@@ -12,12 +12,22 @@
 
 namespace lurkwell {
 
-/// The thread that draws the animated view: a frame of gQuintessentialInformationClient, a rest
-/// outside gQuintessentialMutex, and so on. While nothing is to be seen it sleeps until it is
-/// woken.
+/// What is drawn, frame by frame. Inside gQuintessentialMutex, on the drawing thread.
+class FrameSource {
+ public:
+  virtual ~FrameSource() = default;
+  virtual void InternalDraw() = 0;
+  virtual bool IsPaused() const = 0;
+  /// Milliseconds from the beginning of one frame to that of the next.
+  virtual std::int32_t GLThreadInterval() const = 0;
+};
+
+/// The thread that draws the animated view: a frame, a rest outside gQuintessentialMutex, and so
+/// on. While nothing is to be seen it sleeps until it is woken.
 class DrawingThread {
  public:
-  DrawingThread();
+  /// `source` gives what there is to draw, or null; it is called inside the mutex.
+  explicit DrawingThread(FrameSource* (*source)());
   /// Waits for the frame under way. Not inside the mutex.
   ~DrawingThread();
   DrawingThread(const DrawingThread&) = delete;
@@ -35,11 +45,14 @@ class DrawingThread {
   using Clock = std::chrono::steady_clock;
 
   void OpenGLDrawingThread(const std::stop_token& stop);
+  /// What there is to draw now, or null. Inside the mutex.
+  FrameSource* Visible() const;
   bool IsEnding(const std::stop_token& stop) const;
   void RestUntilNextFrame(const std::stop_token& stop, Clock::time_point frameStart,
                           std::unique_lock<CriticalRegion>& inside);
   bool Sleep(const std::stop_token& stop, std::optional<std::chrono::microseconds> time);
 
+  FrameSource* (*mSource)();
   std::mutex mWakeMutex;
   std::condition_variable_any mWakeCondition;
   bool mWoken = false;

@@ -4,15 +4,26 @@
 #include <cmath>
 
 #include "animated_view/LayoutKernel.h"
-#include "animated_view/QuintessentialLayout.h"
 
 namespace lurkwell {
 namespace {
 
+constexpr double kNearest = 0.0001;
+constexpr double kNearestSquared = 1e-8;
 constexpr double kWallWeight = 2.0;
 constexpr double kPull = 30.0;
 constexpr double kPullsBeyond = 0.1;
 constexpr double kWeakestForce = 0.001;
+
+/// A coordinate difference of at least kNearest either way, and its square.
+double Apart(double difference, double& squared) {
+  if (std::fabs(difference) >= kNearest) {
+    squared = difference * difference;
+    return difference;
+  }
+  squared = kNearestSquared;
+  return difference < 0 ? -kNearest : kNearest;
+}
 
 /// The force on one target while it is added up.
 class Sum {
@@ -63,6 +74,20 @@ class Sum {
 };
 
 }  // namespace
+
+double FigureOutForce(double x1, double y1, double w1, double x2, double y2, double w2, double& fx,
+                      double& fy) {
+  double squaredX = 0;
+  double squaredY = 0;
+  const double dx = Apart(x2 - x1, squaredX);
+  const double dy = Apart(y2 - y1, squaredY);
+  const double squared = squaredX + squaredY;
+  const double r = std::sqrt(squared);
+  const double charge = w1 * w2 * 5.0;
+  fx = -(dx / r) / squared * charge;
+  fy = -(dy / r) / squared * charge;
+  return r;
+}
 
 void LayoutBodies::Reserve(std::size_t count) {
   x.reserve(count);

@@ -24,6 +24,11 @@ struct LayoutBodies {
   void Insert(std::size_t position, const QuintessentialInformationProcessInfo& info);
 };
 
+/// The force on body 1 from body 2, an inverse-square push scaled by both weights; gives the
+/// distance used. Pure, any thread.
+double FigureOutForce(double x1, double y1, double w1, double x2, double y2, double w2, double& fx,
+                      double& fy);
+
 /// What feels a force.
 struct LayoutTarget {
   double x = 0;

@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "animated_view/QuintessentialGlobals.h"
-#include "animated_view/QuintessentialInformationClient.h"
 #include "consolidator/PropertyValues.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -45,8 +44,8 @@ double TargetWeight(const QuintessentialInformationProcessInfo& info, TimeValue 
 
 }  // namespace
 
-QuintessentialHelperCPUWatcher::QuintessentialHelperCPUWatcher(
-    QuintessentialInformationClient& owner, std::int32_t interval)
+QuintessentialHelperCPUWatcher::QuintessentialHelperCPUWatcher(WatchedRecords& owner,
+                                                               std::int32_t interval)
     : ProcessInformationClient(nullptr, interval),
       mOwner(&owner),
       mPreviousPass(TheMachine().clock.Now()),
@@ -55,7 +54,7 @@ QuintessentialHelperCPUWatcher::QuintessentialHelperCPUWatcher(
 }
 
 QuintessentialHelperCPUWatcher::~QuintessentialHelperCPUWatcher() {
-  if (mOwner != nullptr) mOwner->mWatcher = nullptr;
+  if (mOwner != nullptr) mOwner->WatcherIsGone();
 }
 
 ProcessInformationClient::NeedLevel QuintessentialHelperCPUWatcher::NeedPidsForProcProperty(

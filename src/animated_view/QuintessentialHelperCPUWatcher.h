@@ -2,12 +2,21 @@
 
 #include <cstdint>
 
+#include "animated_view/QuintessentialInformationProcessInfo.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
 
-class QuintessentialInformationClient;
+/// The records whose weights follow CPU use. Main thread.
+class WatchedRecords {
+ public:
+  virtual ~WatchedRecords() = default;
+  virtual bool IsPaused() const = 0;
+  /// Changes inside gQuintessentialMutex.
+  virtual QipiList& qipiList() = 0;
+  virtual void WatcherIsGone() = 0;
+};
 
 /// Turns CPU use into the weights that the icons ease towards: 0.5 at rest, from 0.9 when busy, 8.5
 /// at four processors or more. Main thread. Made by its owner with new and deleted by the registry
@@ -15,7 +24,7 @@ class QuintessentialInformationClient;
 class QuintessentialHelperCPUWatcher final : public ProcessInformationClient {
  public:
   /// `interval` in milliseconds. Is served from now on.
-  QuintessentialHelperCPUWatcher(QuintessentialInformationClient& owner, std::int32_t interval);
+  QuintessentialHelperCPUWatcher(WatchedRecords& owner, std::int32_t interval);
   ~QuintessentialHelperCPUWatcher() override;
 
   void NotifyProcessesHaveBeenUpdated() override;
@@ -29,7 +38,7 @@ class QuintessentialHelperCPUWatcher final : public ProcessInformationClient {
  private:
   bool IsWatching() const;
 
-  QuintessentialInformationClient* mOwner;
+  WatchedRecords* mOwner;
   TimeValue mPreviousPass;
   /// How many times its activity each of the program's own two processes counts with; 0 for once.
   double mTarvikFactor = 0.0;

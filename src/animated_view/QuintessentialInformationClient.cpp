@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "animated_view/DrawingThread.h"
 #include "animated_view/QuintessentialGlobals.h"
-#include "animated_view/QuintessentialHelperCPUWatcher.h"
 #include "animated_view/QuintessentialHost.h"
 #include "animated_view/QuintessentialLayout.h"
 #include "consolidator/PI_Consolidator.h"
@@ -136,7 +134,9 @@ void QuintessentialInformationClient::SetPaused(bool paused) {
 }
 
 void QuintessentialInformationClient::CreateDrawingThreadIfNecessary() {
-  if (!zmThread) zmThread = std::make_unique<DrawingThread>();
+  if (!zmThread)
+    zmThread = std::make_unique<DrawingThread>(
+        []() -> FrameSource* { return gQuintessentialInformationClient; });
   zmThread->Wake();
 }
 

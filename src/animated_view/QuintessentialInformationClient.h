@@ -4,15 +4,14 @@
 #include <cstdint>
 #include <memory>
 
+#include "animated_view/DrawingThread.h"
+#include "animated_view/QuintessentialHelperCPUWatcher.h"
 #include "animated_view/QuintessentialInformationProcessInfo.h"
 #include "animated_view/RandomSource.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/WholeNames.h"
 
 namespace lurkwell {
-
-class DrawingThread;
-class QuintessentialHelperCPUWatcher;
 
 /// A place in the current window, in logical points from its bottom left corner.
 struct QuintessentialPoint {
@@ -46,7 +45,9 @@ double OverlayWindowAlpha();
 /// the main thread with new when the view is first shown; deleted, like every client, by the
 /// registry. Notifications come on the main thread; what the drawing thread looks at changes inside
 /// gQuintessentialMutex.
-class QuintessentialInformationClient final : public ProcessInformationClient {
+class QuintessentialInformationClient final : public ProcessInformationClient,
+                                              public FrameSource,
+                                              private WatchedRecords {
  public:
   /// `interval` in milliseconds, raised to that of the frames when it is less. Becomes
   /// gQuintessentialInformationClient; makes the CPU watcher and has it served. `random` is for
@@ -65,7 +66,7 @@ class QuintessentialInformationClient final : public ProcessInformationClient {
   /// While the view is covered or minimised: no frames, and hardly any updates. Continues where it
   /// was.
   void SetPaused(bool paused);
-  bool IsPaused() const { return mPaused; }
+  bool IsPaused() const override { return mPaused; }
 
   /// Starts the thread that draws whatever client there is, once per run of the program; in any
   /// case the next frame comes at once. Call it whenever gQuintessentialViewIsCurrentlyShown was
@@ -77,15 +78,14 @@ class QuintessentialInformationClient final : public ProcessInformationClient {
   // ---- One frame. Inside the mutex.
 
   /// Moves the records and has the current view drawn.
-  void InternalDraw();
+  void InternalDraw() override;
 
   /// Makes the labels anew, as for another scale; who calls has seen to their textures.
   void MakeLabelsAnew();
 
-  QipiList& qipiList() { return mQipiList; }
+  QipiList& qipiList() override { return mQipiList; }
   const QuintessentialDrawingSettings& DrawingSettings() const { return mDrawing; }
-  /// Milliseconds from the beginning of one frame to that of the next.
-  std::int32_t GLThreadInterval() const { return mIntervals.frame; }
+  std::int32_t GLThreadInterval() const override { return mIntervals.frame; }
 
   /// The pid of the record nearest to `point`, -1 when there is none.
   std::int32_t GetClosestPidToPoint(QuintessentialPoint point) const;
@@ -102,9 +102,9 @@ class QuintessentialInformationClient final : public ProcessInformationClient {
   const char* TypeName() const override { return "QuintessentialInformationClient"; }
 
  private:
-  friend class QuintessentialHelperCPUWatcher;
-
   using Info = QuintessentialInformationProcessInfo;
+
+  void WatcherIsGone() override { mWatcher = nullptr; }
 
   /// Gives the new records that are ready to be shown places and names.
   void PlaceNewRecords(QipiList& ready);

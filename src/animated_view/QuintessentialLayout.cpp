@@ -11,24 +11,11 @@
 namespace lurkwell {
 namespace {
 
-constexpr double kNearest = 0.0001;
-constexpr double kNearestSquared = 1e-8;
-
 constexpr double kStepPerForce = 1e-5;
 constexpr double kLongestStep = 0.01;
 constexpr double kBoost = 10.0;
 constexpr double kLowest = 0.001;
 constexpr double kHighest = 0.999;
-
-/// A coordinate difference of at least kNearest either way, and its square.
-double Apart(double difference, double& squared) {
-  if (std::fabs(difference) >= kNearest) {
-    squared = difference * difference;
-    return difference;
-  }
-  squared = kNearestSquared;
-  return difference < 0 ? -kNearest : kNearest;
-}
 
 double Moved(double from, double force, bool boost) {
   const double step = std::clamp(force * kStepPerForce, -kLongestStep, kLongestStep);
@@ -93,20 +80,6 @@ class Relatives {
 };
 
 }  // namespace
-
-double FigureOutForce(double x1, double y1, double w1, double x2, double y2, double w2, double& fx,
-                      double& fy) {
-  double squaredX = 0;
-  double squaredY = 0;
-  const double dx = Apart(x2 - x1, squaredX);
-  const double dy = Apart(y2 - y1, squaredY);
-  const double squared = squaredX + squaredY;
-  const double r = std::sqrt(squared);
-  const double charge = w1 * w2 * 5.0;
-  fx = -(dx / r) / squared * charge;
-  fy = -(dy / r) / squared * charge;
-  return r;
-}
 
 double SumOfForcesOnIndividualQIPI(const QuintessentialInformationProcessInfo& self,
                                    const QipiList& list, double& fx, double& fy) {

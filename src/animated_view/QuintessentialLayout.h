@@ -4,11 +4,6 @@
 
 namespace lurkwell {
 
-/// The force on body 1 from body 2, an inverse-square push scaled by both weights; gives the
-/// distance used. Pure, any thread.
-double FigureOutForce(double x1, double y1, double w1, double x2, double y2, double w2, double& fx,
-                      double& fy);
-
 /// The force on `self` from every placed record of `list` (but itself), its relatives' pull
 /// included, and from the four walls; gives the sum of the distances used. A linear walk: for one
 /// record, not for all.

@@ -5,7 +5,6 @@
 #include <variant>
 
 #include "consolidator/PI_Consolidator.h"
-#include "monitor_windows/LoggingWindowUI.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 
@@ -26,44 +25,45 @@ std::optional<std::int64_t> ReadSize(int pid, const char* property) {
 
 LoggingWindowInformationClient2::LoggingWindowInformationClient2(const Uuid* uuid,
                                                                  std::int32_t interval,
-                                                                 LoggingWindowUI& controller)
-    : ProcessInformationClient(uuid, interval), mController(controller) {}
+                                                                 LogOfClient& log)
+    : ProcessInformationClient(uuid, interval), mLog(log) {}
 
 LoggingWindowInformationClient2::~LoggingWindowInformationClient2() {
-  mController.clientIsGone(*this);
+  mLog.clientIsGone(*this);
 }
 
 ProcessInformationClient::NeedLevel LoggingWindowInformationClient2::NeedProcPropertiesForPid(
     int pid) {
-  return mController.logs(pid) ? kNeedSomeProcProperties : kNeedNoProcProperties;
+  return mLog.logs(pid) ? kNeedSomeProcProperties : kNeedNoProcProperties;
 }
 
 ProcessInformationClient::NeedLevel LoggingWindowInformationClient2::NeedPidsForProcProperty(
     const char* property) {
-  const bool needed = NeedPidProcProperty(mController.stateInfo().pid, property);
+  const bool needed = NeedPidProcProperty(mLog.loggedPid(), property);
   return needed ? kNeedSomePids : kNeedNoPids;
 }
 
 bool LoggingWindowInformationClient2::NeedPidProcProperty(int pid, const char* property) {
-  if (!mController.logs(pid)) return false;
+  if (!mLog.logs(pid)) return false;
   for (const char* needed : {kActiveTime, kRealSize, kVirtualSize})
     if (std::strcmp(property, needed) == 0) return true;
   return false;
 }
 
 void LoggingWindowInformationClient2::NotifyProcessesHaveBeenUpdated() {
-  const auto& state = mController.stateInfo();
-  if (state.pidWentAway) return;
+  const int pid = mLog.loggedPid();
+  if (!mLog.logs(pid)) return;
+  const auto& switches = mLog.switches();
   LoggingFigures figures;
   figures.now = TheMachine().clock.CalendarNow();
-  if (state.ActiveTime()) figures.activetime = ActiveTimeOf(state.pid);
-  if (state.RealMem()) figures.realMemUsed = ReadSize(state.pid, kRealSize);
-  if (state.VirtualMem()) figures.virtualMemUsed = ReadSize(state.pid, kVirtualSize);
-  mController.processesHaveBeenUpdated(figures);
+  if (switches.ActiveTime()) figures.activetime = ActiveTimeOf(pid);
+  if (switches.RealMem()) figures.realMemUsed = ReadSize(pid, kRealSize);
+  if (switches.VirtualMem()) figures.virtualMemUsed = ReadSize(pid, kVirtualSize);
+  mLog.processesHaveBeenUpdated(figures);
 }
 
 void LoggingWindowInformationClient2::NotifyPidHasBeenRemoved(int pid) {
-  if (mController.logs(pid)) mController.processHasEnded();
+  if (mLog.logs(pid)) mLog.processHasEnded();
 }
 
 }  // namespace lurkwell

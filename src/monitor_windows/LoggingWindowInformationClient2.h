@@ -3,18 +3,33 @@
 #include <cstdint>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "monitor_windows/LoggingRecord.h"
 
 namespace lurkwell {
 
-class LoggingWindowUI;
+class LoggingWindowInformationClient2;
+
+/// The log behind which a client stands. Main thread.
+class LogOfClient {
+ public:
+  virtual ~LogOfClient() = default;
+  /// The process that is logged, or was.
+  virtual std::int32_t loggedPid() const = 0;
+  virtual const LoggingSwitches& switches() const = 0;
+  /// Whether that process is the one, and has not ended.
+  virtual bool logs(std::int32_t pid) const = 0;
+  virtual void processesHaveBeenUpdated(const LoggingFigures& figures) = 0;
+  virtual void processHasEnded() = 0;
+  /// Called when the client ends.
+  virtual void clientIsGone(const LoggingWindowInformationClient2& client) = 0;
+};
 
 /// The consolidator's client behind a logging window: reads its process's figures. Whoever deletes
 /// it first, the window's closing or the end of the program, takes the other along. Main thread.
 class LoggingWindowInformationClient2 final : public ProcessInformationClient {
  public:
   /// `interval` in milliseconds.
-  LoggingWindowInformationClient2(const Uuid* uuid, std::int32_t interval,
-                                  LoggingWindowUI& controller);
+  LoggingWindowInformationClient2(const Uuid* uuid, std::int32_t interval, LogOfClient& log);
   ~LoggingWindowInformationClient2() override;
 
   void NotifyPidHasBeenRemoved(int pid) override;
@@ -26,7 +41,7 @@ class LoggingWindowInformationClient2 final : public ProcessInformationClient {
   const char* TypeName() const override { return "LoggingWindowInformationClient2"; }
 
  private:
-  LoggingWindowUI& mController;
+  LogOfClient& mLog;
 };
 
 }  // namespace lurkwell

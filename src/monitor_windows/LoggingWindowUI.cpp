@@ -15,7 +15,6 @@
 #include "consolidator/ProcessQueries.h"
 #include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/LoggingPreferences.h"
-#include "monitor_windows/LoggingWindowInformationClient2.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Clock.h"

@@ -12,14 +12,13 @@
 #include <vector>
 
 #include "monitor_windows/LoggingRecord.h"
+#include "monitor_windows/LoggingWindowInformationClient2.h"
 #include "monitor_windows/RememberedWindows.h"
 #include "platform/LogFiles.h"
 #include "platform/Uuid.h"
 #include "windows/vqTableController.h"
 
 namespace lurkwell {
-
-class LoggingWindowInformationClient2;
 
 /// What a logging window knows about itself.
 struct stateInfoStruct : LoggingSwitches {
@@ -44,7 +43,7 @@ struct stateInfoStruct : LoggingSwitches {
 /// A window that writes down what one process uses, a row whenever that changes, and appends the
 /// rows to a file if wanted. This is the table's model; the window owns it. The window and its
 /// client end together. Main thread only.
-class LoggingWindowUI final : public vqTableController {
+class LoggingWindowUI final : public vqTableController, private LogOfClient {
   Q_OBJECT
 
  public:
@@ -76,18 +75,19 @@ class LoggingWindowUI final : public vqTableController {
 
   const stateInfoStruct& stateInfo() const { return mStateInfo; }
   const LoggingWindowInformationClient2* client() const { return mPIC; }
-  /// Whether that process is the one, and has not ended.
-  bool logs(std::int32_t pid) const { return !mStateInfo.pidWentAway && pid == mStateInfo.pid; }
+  bool logs(std::int32_t pid) const override {
+    return !mStateInfo.pidWentAway && pid == mStateInfo.pid;
+  }
 
   // ---- What the client tells --------------------------------------------------------------------
 
-  void processesHaveBeenUpdated(const LoggingFigures& figures);
+  void processesHaveBeenUpdated(const LoggingFigures& figures) override;
   /// The window stays, and its layout is remembered for the next process of that name.
-  void processHasEnded();
+  void processHasEnded() override;
   /// Goes on with another process of that name; the one before has ended. A file is begun anew.
   void follow(LogFiles& logFiles, std::int32_t pid);
   /// Closes the window, unless that is what the client ends by.
-  void clientIsGone(const LoggingWindowInformationClient2& client);
+  void clientIsGone(const LoggingWindowInformationClient2& client) override;
 
   // ---- The log elsewhere ------------------------------------------------------------------------
 
@@ -130,6 +130,9 @@ class LoggingWindowUI final : public vqTableController {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  std::int32_t loggedPid() const override { return mStateInfo.pid; }
+  const LoggingSwitches& switches() const override { return mStateInfo; }
+
   explicit LoggingWindowUI(QWidget& window);
 
   /// Reads the switches.
