@@ -90,9 +90,8 @@ TEST_F(AnimatedClient, TheFirstShowingPlacesFamiliesAndSpreadsThem) {
   for (std::int32_t pid = 100; pid < 160; ++pid)
     machine.processTable.Birth(pid, "process" + std::to_string(pid),
                                pid % 5 == 0 ? 1 : pid / 2 + 50);
-  SetPref("QUINT_MAX_ITERATIONS_TO_STABILIZE_WHEN_FIRST_SHOWING", 0);
   MakeAndShow();
-  auto expected = ExpectedFirstShowing(0);
+  auto expected = ExpectedFirstShowing(10);
   ExpectPlaces(expected);
   for (const auto& info : client->qipiList()) {
     EXPECT_TRUE(info.locationInitialized);
@@ -107,13 +106,6 @@ TEST_F(AnimatedClient, TheFirstShowingPlacesFamiliesAndSpreadsThem) {
   Hide();
   EXPECT_TRUE(client->qipiList().empty());
   EXPECT_GE(host.released, 62);
-}
-
-TEST_F(AnimatedClient, SpreadingGoesOnWhileDistancesGrow) {
-  for (std::int32_t pid = 100; pid < 140; ++pid) machine.processTable.Birth(pid, "process");
-  MakeAndShow();
-  auto expected = ExpectedFirstShowing(10);
-  ExpectPlaces(expected);
 }
 
 TEST_F(AnimatedClient, ThousandsComeInSlicesAndLeaveAtOnce) {

@@ -297,19 +297,31 @@ class Labels : public OnADisplay {
   Labels() : OnADisplay(TestDisplay::Manager::kNone) {}
 };
 
-TEST_F(Labels, AreLegibleAtAnyRatioAndWithAnyName) {
+TEST_F(Labels, HoldTheirNamesInLightLettersOnDarkAtAnyRatio) {
+  const auto share = [](const Picture& label, bool isLight) {
+    const auto count = std::ranges::count_if(label.pixels, [isLight](std::uint32_t pixel) {
+      const auto green = pixel >> 8 & 0xff;
+      return isLight ? green > 150 : pixel >> 24 == 255 && green < 40;
+    });
+    return static_cast<double>(count) / static_cast<double>(label.pixels.size());
+  };
+  const auto make = [](const char* name, double ratio) {
+    return ConvertCStringToNSImage(name, true, ratio);
+  };
   for (const double ratio : {1.0, 1.5, 2.0, 3.0}) {
     for (const auto* name : {"sh", "kworker/u8:2-events_unbound", "\xff\xfe", "a b\nc", "日本語"}) {
-      const auto label = ConvertCStringToNSImage(name, true, ratio);
+      const auto label = make(name, ratio);
       ASSERT_NE(label, nullptr) << name;
       EXPECT_EQ(label->height, LabelHeight(ratio));
       EXPECT_LE(label->width, static_cast<int>(170 * ratio));
-      int light = 0;
-      for (const auto pixel : label->pixels) light += (pixel >> 8 & 0xff) > 150 ? 1 : 0;
-      EXPECT_GT(light, 5) << name;
+      EXPECT_GT(share(*label, true), 0.02) << name;
+      EXPECT_GT(share(*label, false), 0.4) << name;
     }
+    // Letters make the difference, and every one of a name that fits.
+    EXPECT_NE(make("abcdef", ratio)->pixels, make("abcdeg", ratio)->pixels);
+    EXPECT_GT(make("abcdefghij", ratio)->width, make("abcdef", ratio)->width);
   }
-  EXPECT_EQ(ConvertCStringToNSImage("", true, 1), nullptr);
+  EXPECT_EQ(make("", 1), nullptr);
 }
 
 }  // namespace

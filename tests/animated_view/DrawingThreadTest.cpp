@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <random>
@@ -74,20 +75,24 @@ TEST_F(Drawing, FramesBeginAnIntervalApart) {
   ASSERT_TRUE(WaitForFrames(8));
   QuintessentialInformationClient::EndDrawingThread();
   // The first wake-up may come on top of the first frame.
+  auto least = Clock::duration::max();
   for (std::size_t i = 2; i < starts.size(); ++i) {
     EXPECT_GE(starts[i] - starts[i - 1], 39ms);
-    EXPECT_LT(starts[i] - starts[i - 1], 1s);
+    least = std::min(least, starts[i] - starts[i - 1]);
   }
+  EXPECT_LT(least, 60ms) << "all of them late";
 }
 
 TEST_F(Drawing, AnOverlongFrameStillLetsOthersIn) {
   Show(20, [] { Sleep(60ms); });
   ASSERT_TRUE(WaitForFrames(2));
+  auto least = Clock::duration::max();
   for (int i = 0; i < 5; ++i) {
     const auto before = Clock::now();
     const CriticalRegion::Guard guard(gQuintessentialMutex);
-    EXPECT_LT(Clock::now() - before, 1s);
+    least = std::min(least, Clock::now() - before);
   }
+  EXPECT_LT(least, 120ms) << "two frames";
 }
 
 TEST_F(Drawing, NothingIsDrawnThatNobodySees) {

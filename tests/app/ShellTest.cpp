@@ -8,43 +8,61 @@
 #include <QTest>
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <memory>
 
+#include "animated_view/FlowControlFSMMgr.h"
 #include "app/SplashScreen.h"
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
 #include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
+#include "monitor_windows/ClassicWatchdog.h"
 #include "monitor_windows/FloatingWindow.h"
+#include "monitor_windows/SystemWideInfo.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
+#include "preferences_window/PreferencesUI.h"
 #include "resources/Resources.h"
 #include "support/RecordingClient.h"
 
 namespace lurkwell {
 namespace {
 
-/// Notes what it hears at shutdown, and what had happened by then.
+using Note = std::function<void(const std::string&)>;
+
+/// Notes what it hears at the end.
 class Witness final : private AccessLog, public RecordingClient {
  public:
-  explicit Witness(AccessLog& log)
-      : RecordingClient("client", 1000, static_cast<AccessLog&>(*this)), mLog(log) {}
-  ~Witness() override { Note("deleted"); }
-  void NotifyPidHasBeenRemoved(int pid) override { Note("removed " + std::to_string(pid)); }
+  explicit Witness(Note note)
+      : RecordingClient("client", 1000, static_cast<AccessLog&>(*this)), mNote(std::move(note)) {}
+  ~Witness() override { mNote("clients go"); }
+  void NotifyPidHasBeenRemoved(int pid) override { mNote("end of " + std::to_string(pid)); }
 
  private:
-  void Note(const std::string& what) {
-    mLog.Add("client " + what + (gApplicationQuitting ? ", quitting" : "") +
-             (gFd_a2d >= 0 ? ", helper there" : ", helper gone"));
+  Note mNote;
+};
+
+/// Notes each window that comes.
+class Doorman final : public QObject {
+ public:
+  explicit Doorman(Note note) : mNote(std::move(note)) { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* object, QEvent* event) override {
+    const auto* widget = qobject_cast<QWidget*>(object);
+    if (event->type() == QEvent::Show && widget != nullptr && widget->isWindow())
+      mNote(widget->windowTitle().toStdString() + " comes");
+    return false;
   }
 
-  AccessLog& mLog;
+ private:
+  Note mNote;
 };
 
 class ShellTest : public testing::Test {
  protected:
   ShellTest() {
+    gApplicationQuitting = false;
     machine.namedPipes.SetHelper(
         [this](std::string_view request) { return machine.helper.Answer(request); });
     machine.helper.SetRecordsFigures(false);
@@ -66,6 +84,25 @@ class ShellTest : public testing::Test {
   bool SplashIsVisible() {
     return SplashScreen::window() != nullptr && SplashScreen::window()->isVisible();
   }
+  /// Notes what happens, and what there is of the program at that moment.
+  void Tell(const std::string& what) {
+    const bool hasKeys = std::ranges::any_of(
+        machine.log.Lines(), [](const std::string& line) { return line.starts_with("HotKeys"); });
+    const std::pair<bool, const char*> parts[] = {
+        {gFCFSMMgr != nullptr, "machines"},
+        {gClassicWatchdog != nullptr, "nub"},
+        {gSystemWideInfo != nullptr, "debugging"},
+        {SplashScreen::window() != nullptr, "panel"},
+        {hasKeys, "keys"},
+        {gFd_a2d >= 0, "helper"},
+        {gThePreferencesUI != nullptr, "preferences"},
+        {machine.preferenceDomain.Values().contains("MAIN_WINDOW_FRAME"), "frame"},
+        {gApplicationQuitting, "quitting"}};
+    std::string text = what + ':';
+    for (const auto& [isThere, name] : parts)
+      if (isThere) text += std::string(" ") + name;
+    told.Add(text);
+  }
   static int Remembered() {
     return GetPrefInt("DEFAULT_SHOW_PROCESS_LIST_WINDOW", nullptr, false, -1);
   }
@@ -76,23 +113,48 @@ class ShellTest : public testing::Test {
   std::unique_ptr<vqAppDelegate> delegate;
 };
 
-TEST_F(ShellTest, ChecksToolsThenShowsTheWindowThenStartsTheHelper) {
+TEST_F(ShellTest, StartsAndEndsInOrder) {
   machine.processTable.Birth(300, "p");
-  Launch();
-  Pass(100);
-  const auto& lines = machine.log.Lines();
-  const auto at = [&](const std::string& what) {
-    return std::ranges::find_if(lines, [&](const auto& line) { return line.starts_with(what); }) -
-           lines.begin();
-  };
-  EXPECT_LT(at("Tools.Stat /bin/ps"), at("Tools.Stat /bin/kill"));
-  EXPECT_LT(at("Tools.Stat /bin/kill"), at("Tools.Stat /usr/bin/renice"));
-  EXPECT_LT(at("Tools.Stat /usr/bin/renice"), at("ProcessTable.Read"));
-  EXPECT_LT(at("ProcessTable.Read"), at("Tools.StartInBackground"));
-  EXPECT_EQ(gAppDelegate, delegate.get());
-  EXPECT_TRUE(MainWindowIsVisible());
+  SetPrefInt("QUBS_DEBUGGING_AND_TESTING", 1);
+  const auto note = [this](const std::string& what) { Tell(what); };
+  {
+    const Doorman doorman(note);
+    Launch();
+  }
+  EXPECT_EQ(told.Take(),
+            "Processes comes: machines nub\nSystem Info comes: machines nub\n"
+            "About Lurkwell comes: machines nub debugging panel\n");
+  Tell("start");
   EXPECT_EQ(delegate->mainWindow().controller().rowCount(), 3) << "filled at once";
+  Pass(100);
+  Tell("a moment later");
+  EXPECT_EQ(told.Take(),
+            "start: machines nub debugging panel keys\n"
+            "a moment later: machines nub debugging panel keys helper\n");
+  const auto& lines = machine.log.Lines();
+  std::string checks;
+  for (const auto& line : lines)
+    if (line.starts_with("Tools.Stat ")) checks += line.substr(11) + ' ';
+  EXPECT_EQ(checks, "/bin/ps /bin/kill /usr/bin/renice ");
 
+  delegate->doThePrefs();
+  AddProcessInformationClient(new Witness(note));
+  QObject::connect(SplashScreen::window(), &QObject::destroyed, [&] { Tell("panel goes"); });
+  QObject::connect(&delegate->mainWindow(), &QObject::destroyed, [&] { Tell("main window goes"); });
+  RemovePref("MAIN_WINDOW_FRAME");
+  told.Clear();
+  Tell("before");
+  delegate->applicationWillTerminate();
+  EXPECT_EQ(told.Take(),
+            "before: machines nub debugging panel keys helper preferences\n"
+            "end of 300: machines nub debugging panel keys helper frame quitting\n"
+            "end of 1: machines nub debugging panel keys helper frame quitting\n"
+            "end of 0: machines nub debugging panel keys helper frame quitting\n"
+            "clients go: machines panel keys frame quitting\n"
+            "panel goes: panel keys frame quitting\nmain window goes: keys frame quitting\n");
+  EXPECT_EQ(Remembered(), 1);
+  EXPECT_GT(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 6);
+  EXPECT_TRUE(IsPrefArrayValuePresent("MAIN_WINDOW_COLUMNS", 0, "COLUMN_WIDTH"));
   delegate->applicationWillTerminate();
 }
 
@@ -130,25 +192,6 @@ TEST_F(ShellTest, ThePanelComesByItselfOnceForAVersionOrWhereItIsWanted) {
     restart();
     EXPECT_TRUE(SplashIsVisible()) << "wanted";
   }
-  delegate->applicationWillTerminate();
-}
-
-TEST_F(ShellTest, EndsInOrderAndRemembersTheWindow) {
-  machine.processTable.Birth(300, "p");
-  Launch();
-  Pass(100);
-  auto* client = new Witness(told);
-  AddProcessInformationClient(client);
-  told.Clear();
-  machine.log.Clear();
-  delegate->applicationWillTerminate();
-  EXPECT_TRUE(gApplicationQuitting);
-  EXPECT_EQ(told.Take(),
-            "client removed 300, quitting, helper there\nclient removed 1, quitting, helper there\n"
-            "client removed 0, quitting, helper there\nclient deleted, quitting, helper gone\n");
-  EXPECT_EQ(Remembered(), 1);
-  EXPECT_GT(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 6);
-  EXPECT_TRUE(IsPrefArrayValuePresent("MAIN_WINDOW_COLUMNS", 0, "COLUMN_WIDTH"));
   delegate->applicationWillTerminate();
 }
 

@@ -1,7 +1,8 @@
 """A home, an X server with a window manager, and the program in it, for tests of the whole program.
 
-Whoever imports this takes the program's path from the first argument.
+The program's path is the first argument of each test that imports this.
 """
+import ctypes
 import os
 import pathlib
 import plistlib
@@ -17,6 +18,11 @@ import unittest
 
 BINARY = sys.argv.pop(1)
 
+# Helpers outlive those who start them, and become children of this process: so others on the machine
+# are told apart.
+PR_SET_CHILD_SUBREAPER = 36
+ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
+
 # "Logging lkwvictim pid:12" and the like; a history's title is the pid.
 GEOMETRY = re.compile(r'"(?P<title>[^"]*)": \("lurkwell" "lurkwell"\)\s+(?P<width>\d+)x(?P<height>\d+)'
                       r'\+-?\d+\+-?\d+\s+\+(?P<x>-?\d+)\+(?P<y>-?\d+)')
@@ -30,15 +36,19 @@ def png_size(path):
 
 
 def helpers():
+    """The helpers of this test's programs; those that have ended are collected."""
     found = set()
-    for entry in pathlib.Path("/proc").iterdir():
-        if not entry.name.isdigit():
-            continue
+    for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
         try:
-            if (entry / "cmdline").read_bytes().startswith(b"lkw_helper_daemon"):
-                found.add(int(entry.name))
+            name, _, rest = stat.read_text().partition("(")[2].rpartition(")")
         except OSError:
-            pass
+            continue
+        pid, (state, parent) = int(stat.parent.name), rest.split()[:2]
+        if int(parent) == os.getpid() and name.startswith("lkw_helper_daem"):
+            if state == "Z":
+                os.waitpid(pid, os.WNOHANG)
+            else:
+                found.add(pid)
     return found
 
 
@@ -56,7 +66,6 @@ class Desktop(unittest.TestCase):
             HOME=self.home, XDG_CONFIG_HOME=self.home + "/config",
             XDG_DATA_HOME=self.home + "/data", XDG_RUNTIME_DIR=str(self.run_folder),
             TMPDIR=str(self.run_folder))
-        self.helpers_before = helpers()
 
     def open_display(self, manager=("openbox",)):
         reader, writer = os.pipe()
@@ -68,7 +77,7 @@ class Desktop(unittest.TestCase):
         self.addCleanup(server.terminate)
         with os.fdopen(reader) as numbers:
             self.environment["DISPLAY"] = ":" + numbers.readline().strip()
-        # What a manager says is nobody's business, and would fill a pipe.
+        # What a manager says would fill a pipe that is not read.
         process = subprocess.Popen(list(manager), env=self.environment, stdout=subprocess.DEVNULL,
                                    stderr=subprocess.DEVNULL)
         self.addCleanup(process.wait)
@@ -120,7 +129,7 @@ class Desktop(unittest.TestCase):
         file.write_bytes(plistlib.dumps(values))
 
     def check_nothing_is_left(self):
-        self.wait_for(lambda: helpers() <= self.helpers_before)
+        self.wait_for(lambda: not helpers())
         self.assertEqual([p.name for p in self.run_folder.rglob("*") if p.is_fifo()], [])
 
 

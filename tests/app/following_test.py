@@ -25,7 +25,7 @@ class Following(FollowedProgram):
         self.wait_for(lambda: self.places(victim.pid).get("history") == (600, 500) and
                       self.places(victim.pid)["log"][1] >= 420)
         placed = self.places(victim.pid)
-        # Whoever works with another program keeps the keyboard.
+        # Another program that is in use keeps the keyboard.
         other_program = self.start(["xterm", "-T", "another"])
         self.wait_for(lambda: self.active_window() == "another")
         self.end_victim(victim)
@@ -73,24 +73,7 @@ class Following(FollowedProgram):
         window = self.output("xdotool", "search", "--name", f"^{pid}$").split()[0]
         self.output("xdotool", "mousemove", "--window", window, str(x), str(y), "click", "1")
 
-    def test_a_place_on_a_screen_that_is_gone_is_moved_onto_one_that_is_there(self):
-        self.open_display()
-        victim = self.start_victim()
-        program = self.start_program()
-        self.open_both(victim.pid)
-        self.end_program(program)
-        left = self.preferences()
-        for kind in ("CPU_HISTORY_WINDOW", "LOGGING_WINDOW"):
-            left[kind][0].update(WINDOW_RECT_LEFT=5000, WINDOW_RECT_RIGHT=5163,
-                                 WINDOW_RECT_TOP=-900, WINDOW_RECT_BOTTOM=-830)
-        self.write_preferences(left)
-        program = self.start_program()
-        self.wait_for(lambda: len(self.places(victim.pid)) == 2)
-        for x, y in self.places(victim.pid).values():
-            self.assertTrue(0 <= x < 1000 and 0 <= y < 800, (x, y))
-        self.end_program(program)
-
-    def test_whoever_closes_the_last_window_quits(self):
+    def test_closing_the_last_window_quits(self):
         self.open_display()
         victim = self.start_victim()
         program = self.start_program()

@@ -20,7 +20,6 @@ import jsonschema
 
 from desktop_support import BINARY, Desktop, helpers
 
-TICK = os.sysconf("SC_CLK_TCK")
 PAGE = os.sysconf("SC_PAGE_SIZE")
 SOURCES = pathlib.Path(__file__).resolve().parents[2]
 HEADING = "  PID:                   NAME    CPU-TIME  PPID   RSZ/KiB     VSZ/KiB"
@@ -51,20 +50,6 @@ class Program(Desktop):
         process = self.start(*arguments, **options)
         out, errors = process.communicate(timeout=60)
         return process.returncode, out, errors
-
-    def columns(self, *keys):
-        """One update of these columns: {pid: {key: value}} and what else was printed, heading
-        last. Only the last column may hold blanks."""
-        status, out, errors = self.run_to_end("--print", "--count", "1", "--columns", ",".join(keys))
-        self.assertEqual(status, 0, errors)
-        rows, others = {}, errors.splitlines()
-        for line in out.splitlines():
-            pid, colon, rest = line.partition(":")
-            if colon and pid.strip().isdigit():
-                rows[int(pid)] = dict(zip(keys, rest.split(None, len(keys) - 1)))
-            else:
-                others.append(line)
-        return rows, others
 
     def child(self, *command):
         child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stdin=subprocess.PIPE)
@@ -162,7 +147,7 @@ class Printing(Program):
             self.write_preferences({"FIGURES_FROM_HELPER": figures_from_helper})
             process = self.start("--print")
             process.stdout.readline()
-            self.assertEqual(len(helpers() - self.helpers_before), figures_from_helper)
+            self.assertEqual(len(helpers()), figures_from_helper)
             process.terminate()
             _, errors = process.communicate(timeout=10)
             if not figures_from_helper:
@@ -268,55 +253,6 @@ class Printing(Program):
         status, out, errors = self.run_to_end("--print", "--count", "1", "--unprivileged")
         self.assertEqual(status, 0, errors)
         self.assertGreater(len(out.splitlines()), 1)
-
-
-def stat_of(pid):
-    text = pathlib.Path(f"/proc/{pid}/stat").read_text()
-    return text[text.rindex(")") + 2:].split()
-
-
-def switches_of(pid):
-    text = pathlib.Path(f"/proc/{pid}/status").read_text()
-    return sum(int(n) for n in re.findall(r"ctxt_switches:\t(\d+)", text))
-
-
-class Figures(Program):
-    KEYS = ("pid_p_priority", "pid_p_nice", "pid_parent_pid", "pid_user_time", "pid_system_time",
-            "pid_vsz", "pid_rsz", "pid_faults", "pid_pageins", "pid_csw", "pid_suspend_count",
-            "pid_policy")
-
-    def read(self, pid):
-        stat = stat_of(pid)
-        return {
-            "pid_p_priority": int(stat[15]), "pid_p_nice": int(stat[16]),
-            "pid_parent_pid": int(stat[1]), "pid_user_time": int(stat[11]) / TICK,
-            "pid_system_time": int(stat[12]) / TICK, "pid_vsz": int(stat[20]),
-            "pid_rsz": int(stat[21]) * PAGE, "pid_faults": int(stat[7]) + int(stat[9]),
-            "pid_pageins": int(stat[9]), "pid_csw": switches_of(pid),
-            "pid_suspend_count": int(stat[0] in "Tt"), "pid_policy": int(stat[38])}
-
-    def test_they_equal_what_the_kernel_says_at_that_moment(self):
-        children = [self.child("sleep", "1000") for _ in range(20)]
-        children += [self.child("nice", "-n", str(n), "sleep", "1000") for n in range(1, 16)]
-        children += [self.child("sh", "-c", "i=0; while :; do i=$((i+1)); done") for _ in range(3)]
-        children += [self.child("sh", "-c", "while :; do sleep 0.01; done") for _ in range(3)]
-        children += [self.child("cat") for _ in range(9)]
-        time.sleep(0.5)
-        children[0].send_signal(signal.SIGSTOP)
-        time.sleep(0.1)
-        pids = [child.pid for child in children]
-        self.assertEqual(len(pids), 50)
-        before = {pid: self.read(pid) for pid in pids}
-        rows, others = self.columns(*self.KEYS)
-        self.assertIn(f"detected a surreptitiously-halted process {pids[0]}!", others)
-        self.assertEqual(others[-1].split(), ["pid:", *self.KEYS])
-        after = {pid: self.read(pid) for pid in pids}
-        for pid in pids:
-            for key in self.KEYS:
-                value = float(rows[pid][key])
-                low, high = sorted((before[pid][key], after[pid][key]))
-                with self.subTest(f"{key} of {pid}"):
-                    self.assertTrue(low - 1e-6 <= value <= high + 1e-6, f"{low} {value} {high}")
 
 
 if __name__ == "__main__":

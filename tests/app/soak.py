@@ -65,15 +65,14 @@ class Soak(Life):
         churn = Churn()
         self.addCleanup(churn.end)
         victim = self.start_victim()
-        before = helpers()
         program = subprocess.Popen(
             [BINARY, "--unprivileged"], env=self.environment,
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.addCleanup(program.kill)
         self.wait_for(lambda: '"Processes"' in self.windows())
-        self.wait_for(lambda: helpers() - before)
+        self.wait_for(helpers)
         self.open_everything(victim.pid)
-        helper = (helpers() - before).pop()
+        helper = helpers().pop()
         print("| minute | resident KiB | private KiB | descriptors | ms CPU a second |"
               " helper KiB | helper descriptors |\n|---:|---:|---:|---:|---:|---:|---:|", flush=True)
         samples = []

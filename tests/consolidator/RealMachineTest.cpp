@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <memory>
@@ -275,63 +276,52 @@ void RunFor(std::chrono::microseconds time) {
   }
 }
 
-/// What a child of the test does until it is killed: next to nothing, a lot, something now and
-/// then, for itself or in the kernel, in its first thread or in others.
-enum class Load { kNone, kAlways, kOften, kSeldom, kBarely, kInKernel, kInThreads, kByChildren };
+/// What a child of the test does until it is killed.
+using Load = std::function<void()>;
 
-void RestlesslyRun(std::chrono::microseconds most, std::chrono::microseconds rest) {
-  std::minstd_rand random(static_cast<unsigned>(gettid()));
-  for (;;) {
-    RunFor(most * (random() % 100) / 100);
-    std::this_thread::sleep_for(rest / 2 + rest * (random() % 100) / 100);
-  }
+void Rest() {
+  for (;;) pause();
 }
 
-[[noreturn]] void Bear(Load load) {
-  using std::chrono::milliseconds, std::chrono::microseconds;
-  switch (load) {
-    case Load::kNone:
-      for (;;) pause();
-    case Load::kAlways:
-      for (;;) RunFor(milliseconds(100));
-    case Load::kOften:
-      RestlesslyRun(milliseconds(8), milliseconds(40));
-      break;
-    case Load::kSeldom:
-      RestlesslyRun(milliseconds(40), milliseconds(2500));
-      break;
-    case Load::kBarely:
-      RestlesslyRun(microseconds(100), milliseconds(10));
-      break;
-    case Load::kInKernel: {
-      std::array<char, 65536> zeros;
-      const int file = open("/dev/zero", O_RDONLY | O_CLOEXEC);
-      for (;; std::this_thread::sleep_for(milliseconds(20)))
-        for (int i = 0; i < 200; ++i)
-          if (read(file, zeros.data(), zeros.size()) < 0) _exit(1);
+/// Runs now and then, for these times at most.
+Load Restless(std::chrono::microseconds most, std::chrono::microseconds rest) {
+  return [=] {
+    std::minstd_rand random(static_cast<unsigned>(gettid()));
+    for (;;) {
+      RunFor(most * (random() % 100) / 100);
+      std::this_thread::sleep_for(rest / 2 + rest * (random() % 100) / 100);
     }
-    case Load::kInThreads:
-      std::thread([] { RestlesslyRun(milliseconds(8), milliseconds(300)); }).detach();
-      std::thread([] { RestlesslyRun(milliseconds(1), milliseconds(5)); }).detach();
-      for (;;) pause();
-    case Load::kByChildren:
-      for (;; std::this_thread::sleep_for(milliseconds(5))) {
-        const pid_t child = fork();
-        if (child == 0) RunFor(milliseconds(1)), _exit(0);
-        waitpid(child, nullptr, 0);
-      }
-  }
-  _exit(0);
+  };
+}
+
+void RunInKernel() {
+  std::array<char, 65536> zeros;
+  const int file = open("/dev/zero", O_RDONLY | O_CLOEXEC);
+  for (;; std::this_thread::sleep_for(std::chrono::milliseconds(20)))
+    for (int i = 0; i < 200; ++i)
+      if (read(file, zeros.data(), zeros.size()) < 0) _exit(1);
+}
+
+void RunInThreads() {
+  using std::chrono::milliseconds;
+  std::thread(Restless(milliseconds(8), milliseconds(300))).detach();
+  std::thread(Restless(milliseconds(1), milliseconds(5))).detach();
+  Rest();
+}
+
+void RunByChildren() {
+  for (;; std::this_thread::sleep_for(std::chrono::milliseconds(5)))
+    WaitFor(Fork([] { return RunFor(std::chrono::milliseconds(1)), 0; }));
 }
 
 /// A child with such a load, at the lowest priority; it goes with this object.
 class Laden {
  public:
-  explicit Laden(Load load)
-      : mPid(Fork([load]() -> int {
+  explicit Laden(const Load& load)
+      : mPid(Fork([&load] {
           prctl(PR_SET_PDEATHSIG, SIGKILL);
-          if (nice(19) == -1) return 1;
-          Bear(load);
+          if (nice(19) != -1) load();
+          return 1;
         })) {}
   ~Laden() {
     kill(mPid, SIGKILL);
@@ -360,9 +350,16 @@ class Laden {
 /// LURKWELL_ACCURACY_SECONDS lets it go on for longer than some seconds.
 TEST_F(RealMachineTest, TimesAreThoseOfTheKernelToATickAndNobodyRunsUnseen) {
   std::vector<std::unique_ptr<Laden>> children;
+  using std::chrono::milliseconds;
   const std::pair<Load, int> loads[] = {
-      {Load::kNone, 100}, {Load::kAlways, 1},   {Load::kOften, 3},     {Load::kSeldom, 30},
-      {Load::kBarely, 5}, {Load::kInKernel, 1}, {Load::kInThreads, 3}, {Load::kByChildren, 1}};
+      {Rest, 100},
+      {[] { RunFor(std::chrono::hours(1)); }, 1},
+      {Restless(milliseconds(8), milliseconds(40)), 3},
+      {Restless(milliseconds(40), milliseconds(2500)), 30},
+      {Restless(std::chrono::microseconds(100), milliseconds(10)), 5},
+      {RunInKernel, 1},
+      {RunInThreads, 3},
+      {RunByChildren, 1}};
   for (const auto& [load, count] : loads)
     for (int i = 0; i < count; ++i) children.push_back(std::make_unique<Laden>(load));
   Start();

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <chrono>
-#include <fstream>
 #include <thread>
 
 #include "desktop/TestBus.h"
@@ -41,31 +40,6 @@ TEST(RunningInstance, IsFoundByTheNextOneAndDoesWhatItIsAsked) {
   first.reset();
   EXPECT_EQ(program()->ToggleOverlay(), Answer::kNobody);
 }
-
-/// A session bus that lets every user in, which usual ones do not. The folder is everybody's too.
-class OpenBus {
- public:
-  OpenBus() {
-    std::ofstream(mBase + ".conf")
-        << "<busconfig><type>session</type><listen>unix:path=" << mBase
-        << ".socket</listen><policy context='default'><allow user='*'/>"
-           "<allow send_destination='*' eavesdrop='true'/><allow own='*'/>"
-           "<allow receive_sender='*'/></policy></busconfig>";
-    mDaemon = std::make_unique<ChildProgram>(std::vector<std::string>{
-        "dbus-daemon", "--config-file=" + mBase + ".conf", "--nofork", "--print-address=1"});
-    mAddress = mDaemon->ReadLine();
-  }
-  ~OpenBus() {
-    for (const auto* ending : {".conf", ".socket"}) ::unlink((mBase + ending).c_str());
-  }
-  const std::string& Address() const { return mAddress; }
-  std::string Socket() const { return mBase + ".socket"; }
-
- private:
-  std::string mBase = "/tmp/lurkwell-instance-" + std::to_string(::getpid());
-  std::unique_ptr<ChildProgram> mDaemon;
-  std::string mAddress;
-};
 
 std::vector<std::string> As(uid_t user, std::vector<std::string> words) {
   words.insert(words.begin(), {"setpriv", "--reuid=" + std::to_string(user), "--clear-groups"});

@@ -323,35 +323,5 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
   EXPECT_EQ(EffectiveUser(kUser, elsewhere / "h"), std::to_string(kUser)) << "moved";
 }
 
-TEST_F(PackagedTest, AnOlderListedVersionIsReplacedAndAnUnknownOneIsNot) {
-  Home home(kUser, mProgram);
-  WriteFile(home.copy, "an older version");
-  EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), kBadCopy);
-  for (const char* mark : {"", "- "}) {
-    WriteFile(home.copy, "an older version");
-    WriteList(HexDigest(mProgram) + '\n' + mark + HexDigest(home.copy) + '\n');
-    EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
-    EXPECT_TRUE(ReadFile(home.copy) == ReadFile(mProgram));
-  }
-  // A version that served is withdrawn: it serves no more, but a new one takes its place.
-  WriteFile(home.copy, ReadFile(mProgram) + "older");
-  chmod(home.copy.c_str(), 04750);
-  const std::string own = HexDigest(mProgram) + '\n', older = HexDigest(home.copy) + '\n';
-  WriteList(own + older);
-  EXPECT_EQ(EffectiveUser(kUser, home.copy), "0");
-  WriteList(own + "- " + older + older);
-  EXPECT_EQ(EffectiveUser(kUser, home.copy), std::to_string(kUser));
-  EXPECT_EQ(RunPermissionStep(mStep, home.path, kUser), 0);
-  EXPECT_EQ(EffectiveUser(kUser, home.copy), "0");
-  // The helper that is copied has to be root's.
-  const TemporaryFolder folder;
-  Install(mStep, folder / "Lurkwell_permissions", 0, 0, 0755);
-  for (const uid_t owner : {kUser, uid_t{0}}) {
-    Install(mProgram, folder / "Lurkwell_helper", owner, 0, 0755);
-    EXPECT_EQ(RunPermissionStep(folder / "Lurkwell_permissions", home.path, kUser),
-              owner == 0 ? 0 : kNoHelper);
-  }
-}
-
 }  // namespace
 }  // namespace lurkwell::helper::testing

@@ -129,20 +129,5 @@ TEST_F(OracleTest, AMillionRequestsAreReadAlikeAndTouchOnlyWhomTheyName) {
   for (const int kind : seen) EXPECT_GT(kind, 20000);
 }
 
-/// Requests that ran together in the pipe, or came in pieces: nothing happens but what a piece that
-/// is a whole request by itself asks for.
-TEST_F(OracleTest, SplitAndJoinedRequestsDoNothingOfTheirOwn) {
-  std::vector<std::string> seeds(60);
-  for (std::string& seed : seeds) seed = mGenerator.Form();
-  for (const std::string& first : seeds) {
-    for (std::size_t place = 1; place < first.size(); ++place)
-      for (const std::string& piece : {first.substr(0, place), first.substr(place)}) Check(piece);
-    for (const std::string& second : seeds)
-      for (std::size_t place = 1; place <= second.size(); ++place)
-        Check(first + second.substr(0, place));
-    ASSERT_FALSE(HasFailure());
-  }
-}
-
 }  // namespace
 }  // namespace lurkwell::helper::testing

@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <filesystem>
 #include <future>
@@ -176,6 +177,24 @@ TEST(ServeTest, TellsOfProcessesWhatItReadsWithoutConfinementToo) {
   }
 }
 
+/// Two pipes of the user's.
+std::array<std::string, 2> MakePipes(const TemporaryFolder& folder) {
+  const std::array<std::string, 2> pipes = {folder / "a", folder / "b"};
+  for (const std::string& path : pipes) {
+    EXPECT_EQ(mkfifo(path.c_str(), 0600), 0);
+    EXPECT_EQ(chown(path.c_str(), kUser, kUser), 0);
+  }
+  return pipes;
+}
+
+pid_t StartWith(const std::string& one, const std::string& two) {
+  return Fork([&] {
+    BecomeUser(kUser);
+    execl(HelperPath().c_str(), "helper", one.c_str(), two.c_str(), nullptr);
+    return 97;
+  });
+}
+
 TEST(ServeTest, OpensNothingButAPrivateWidePipeOfTheUser) {
   // Each makes something at $P; the helper gets it in the place of its first or second pipe.
   const std::pair<const char*, const char*> kinds[] = {
@@ -215,14 +234,7 @@ TEST(ServeTest, OpensNothingButAPrivateWidePipeOfTheUser) {
       const int end = open(good.c_str(), O_RDWR | O_CLOEXEC);
       ASSERT_EQ(write(end, "hello\n", 6), 6);
       const auto begun = std::chrono::steady_clock::now();
-      EXPECT_EQ(InChild([&] {
-                  BecomeUser(kUser);
-                  const std::string& one = first ? bad : good;
-                  const std::string& two = first ? good : bad;
-                  execl(HelperPath().c_str(), "helper", one.c_str(), two.c_str(), nullptr);
-                  return 97;
-                }),
-                kExitChannel)
+      EXPECT_EQ(WaitFor(StartWith(first ? bad : good, first ? good : bad)), kExitChannel)
           << name << (first ? " first" : " second");
       EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(5)) << name;
       close(end);
@@ -231,24 +243,12 @@ TEST(ServeTest, OpensNothingButAPrivateWidePipeOfTheUser) {
 }
 
 TEST(ServeTest, GivesUpWhenNobodyOpensTheOtherEnds) {
-  constexpr int kRounds = 20;
-  const TemporaryFolder folder(0700, kUser);
-  std::vector<pid_t> helpers;
-  for (int round = 0; round < kRounds; ++round) {
-    const std::string one = folder / (std::to_string(round) + "a"), two = one + "b";
-    for (const std::string& path : {one, two}) {
-      ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-      ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
-    }
-    helpers.push_back(Fork());
-    if (helpers.back() != 0) continue;
-    BecomeUser(kUser);
-    // Half of them find the first pipe open, but not the second.
-    if (round % 2 == 0) open(one.c_str(), O_RDWR);
-    execl(HelperPath().c_str(), "helper", one.c_str(), two.c_str(), nullptr);
-    _exit(97);
-  }
+  const TemporaryFolder closed(0700, kUser), halfOpen(0700, kUser);
+  const auto neither = MakePipes(closed), first = MakePipes(halfOpen);
+  const int held = open(first[0].c_str(), O_RDWR | O_CLOEXEC);
+  const pid_t helpers[] = {StartWith(neither[0], neither[1]), StartWith(first[0], first[1])};
   for (const pid_t helper : helpers) EXPECT_EQ(WaitFor(helper, 20), -SIGALRM);
+  close(held);
 }
 
 TEST(ServeTest, LongAnswersComeInOneReadAndLongRequestsAreRefusedWhole) {
@@ -280,22 +280,13 @@ TEST(ServeTest, LongAnswersComeInOneReadAndLongRequestsAreRefusedWhole) {
 TEST(ServeTest, AStartThatCannotBeConfinedIsRefused) {
   for (const bool isSpoilt : {false, true}) {
     const TemporaryFolder folder(0700, kUser);
-    const std::string one = folder / "a", two = folder / "b";
-    for (const std::string& path : {one, two}) {
-      ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-      ASSERT_EQ(chown(path.c_str(), kUser, kUser), 0);
-    }
+    const auto [one, two] = MakePipes(folder);
     const int requests = open(one.c_str(), O_RDWR | O_CLOEXEC);
     const int answers = open(two.c_str(), O_RDWR | O_CLOEXEC);
-    const pid_t helper = Fork();
-    if (helper == 0) {
-      BecomeUser(kUser);
-      execl(HelperPath().c_str(), "helper", one.c_str(), two.c_str(), nullptr);
-      _exit(97);
-    }
+    const pid_t helper = StartWith(one, two);
     // It waits for its greeting, with both ends open; the user takes the descriptors from it that
     // its confinement needs.
-    const auto holdsBoth = [&] {
+    const auto holdsBoth = [&, one = one, two = two] {
       std::error_code gone;
       std::set<std::string> held;
       for (const auto& entry :
