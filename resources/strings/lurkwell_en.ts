@@ -1917,7 +1917,47 @@
     </message>
     <message id="main_window_filter_tip">
         <source></source>
-        <translation>Shows only processes that have this text in their ID or in a text column that is shown.</translation>
+        <translation>Shows only some processes, such as:&lt;br&gt;&lt;b&gt;ssh&lt;/b&gt; – with this in their ID or a text that is shown&lt;br&gt;&lt;b&gt;name:post&lt;/b&gt;, &lt;b&gt;user:root,mail&lt;/b&gt;, &lt;b&gt;name:/^k.*d$/&lt;/b&gt; – with this in one property&lt;br&gt;&lt;b&gt;mem&amp;gt;500M&lt;/b&gt;, &lt;b&gt;nice&amp;lt;0&lt;/b&gt;, &lt;b&gt;time&amp;gt;=1h&lt;/b&gt; – with more or less&lt;br&gt;&lt;b&gt;-sleep&lt;/b&gt; – without; &lt;b&gt;a b&lt;/b&gt; – both; &lt;b&gt;a | b&lt;/b&gt; – one of them</translation>
+    </message>
+    <message id="filter_last">
+        <source></source>
+        <translation>Filters that were used last</translation>
+    </message>
+    <message id="filter_none_yet">
+        <source></source>
+        <translation>No filter has been used yet</translation>
+    </message>
+    <message id="filter_unknown_key">
+        <source></source>
+        <translation>There is no “%1” to look at; in quotation marks it is a text to look for.</translation>
+    </message>
+    <message id="filter_unknown_key_near">
+        <source></source>
+        <translation>There is no “%1” to look at; there is %2.</translation>
+    </message>
+    <message id="filter_no_value">
+        <source></source>
+        <translation>Nothing stands behind “%1”.</translation>
+    </message>
+    <message id="filter_no_term">
+        <source></source>
+        <translation>Something is missing beside “%1”.</translation>
+    </message>
+    <message id="filter_no_end">
+        <source></source>
+        <translation>A quotation mark has no second one.</translation>
+    </message>
+    <message id="filter_text_is_not_compared">
+        <source></source>
+        <translation>“%1” is a text; ask for %2.</translation>
+    </message>
+    <message id="filter_no_number">
+        <source></source>
+        <translation>“%1” is no number such as %2.</translation>
+    </message>
+    <message id="filter_no_expression">
+        <source></source>
+        <translation>“%1” is no regular expression: %2.</translation>
     </message>
     <message id="main_window_status_counts">
         <source></source>
@@ -3455,6 +3495,10 @@ Free: %5</translation>
         <source></source>
         <translation>Table: sorted column</translation>
     </message>
+    <message id="setting_title_MAIN_WINDOW_RECENT_FILTERS">
+        <source></source>
+        <translation>Last filters</translation>
+    </message>
     <message id="setting_title_MAIN_WINDOW_COLUMNS">
         <source></source>
         <translation>Table: columns</translation>
@@ -3778,6 +3822,10 @@ Free: %5</translation>
     <message id="setting_MAIN_WINDOW_SORT_COLUMN_INDEX">
         <source></source>
         <translation>The remembered column that the table is sorted by, counted from 0.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_RECENT_FILTERS">
+        <source></source>
+        <translation>The filters of the process table that were used last, the latest first, with percent signs in place of other letters.</translation>
     </message>
     <message id="setting_MAIN_WINDOW_COLUMNS">
         <source></source>

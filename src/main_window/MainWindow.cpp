@@ -93,15 +93,11 @@ void MainWindow::BuildContents() {
   auto* layout = new QVBoxLayout(contents);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  mFilterField = new QLineEdit(contents);
-  mFilterField->setPlaceholderText(LocalizedString("main_window_filter_placeholder"));
-  mFilterField->setToolTip(LocalizedString("main_window_filter_tip"));
-  mFilterField->setAccessibleName(LocalizedString("main_window_filter_placeholder"));
-  mFilterField->setClearButtonEnabled(true);
-  mFilterField->hide();
+  mFilterBar =
+      new FilterBar([this](Query query) { mController->setFilter(std::move(query)); }, contents);
   mTable = new StripedTableView(contents);
   mTable->setAccessibleName(LocalizedString("main_window_title"));
-  layout->addWidget(mFilterField);
+  layout->addWidget(mFilterBar);
   layout->addWidget(mTable);
   setCentralWidget(contents);
   mCounts = AddLabel(*statusBar(), 1);
@@ -113,28 +109,13 @@ void MainWindow::BuildContents() {
   mHelper->setTextFormat(Qt::RichText);
   mHelper->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   connect(mHelper, &QLabel::linkActivated, this, &MainWindow::AskAboutHelper);
-  connect(mFilterField, &QLineEdit::textChanged, this,
-          [this](const QString& text) { mController->setFilter(text); });
-  for (auto* widget : {static_cast<QWidget*>(mFilterField), static_cast<QWidget*>(mTable)}) {
+  for (auto* widget :
+       {static_cast<QWidget*>(&mFilterBar->field()), static_cast<QWidget*>(mTable)}) {
     auto* escape = new QShortcut(Qt::Key_Escape, widget);
     escape->setContext(Qt::WidgetShortcut);
-    connect(escape, &QShortcut::activated, this, &MainWindow::EndFilter);
+    connect(escape, &QShortcut::activated, mFilterBar, &FilterBar::end);
   }
-  connect(mFilterField, &QLineEdit::returnPressed, mTable, [this] { mTable->setFocus(); });
-  mTable->setFocus();
-}
-
-// ---- Filter -------------------------------------------------------------------------------------
-
-void MainWindow::showFilter() {
-  mFilterField->show();
-  mFilterField->setFocus();
-  mFilterField->selectAll();
-}
-
-void MainWindow::EndFilter() {
-  mFilterField->clear();
-  mFilterField->hide();
+  connect(mFilterBar, &FilterBar::left, mTable, [this] { mTable->setFocus(); });
   mTable->setFocus();
 }
 
@@ -144,6 +125,10 @@ void MainWindow::copySelection() {
   const auto text = mController->selectionAsText();
   // Processes may have ended in sight; what was copied before is worth more than nothing.
   if (!text.isEmpty()) QApplication::clipboard()->setText(text);
+}
+
+void MainWindow::showFilter() {
+  mFilterBar->begin();
 }
 
 void MainWindow::selectAll() {
@@ -239,7 +224,7 @@ void MainWindow::findByPid() {
   const auto pid = AskForPid(
       this, [this](std::int32_t asked) { return mController->rows().Find(asked) != nullptr; });
   if (pid == kInvalidPID) return;
-  EndFilter();
+  mFilterBar->end();
   // It may have ended while the question was open.
   if (!VQTarvMainWindowInfoSynch::SelectPID(pid))
     Report(LocalizedString("main_window_by_id_not_found").arg(pid));

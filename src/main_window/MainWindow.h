@@ -2,12 +2,12 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QPointer>
 #include <memory>
 
 #include "channel/DaemonCommunication.h"
+#include "main_window/FilterBar.h"
 #include "main_window/MainMenus.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Alerts.h"
@@ -28,7 +28,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   vqMainTableController& controller() { return *mController; }
   StripedTableView& table() { return *mTable; }
   MainMenus& menus() { return *mMenus; }
-  QLineEdit& filterField() { return *mFilterField; }
+  QLineEdit& filterField() { return mFilterBar->field(); }
 
   /// Writes the window's size and place into the preferences.
   void SaveFrame();
@@ -64,7 +64,6 @@ class MainWindow : public QMainWindow, private WindowCommands {
 
   void BuildContents();
   void RestoreFrame();
-  void EndFilter();
   /// Shows a text in the status line for a while.
   void Report(const QString& text);
   void LookAtHelper();
@@ -75,7 +74,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   ApplicationCommands& mCommands;
   std::unique_ptr<vqMainTableController> mController;
   StripedTableView* mTable = nullptr;
-  QLineEdit* mFilterField = nullptr;
+  FilterBar* mFilterBar = nullptr;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
   DaemonRights mShownRights = DaemonRights::kStarting;

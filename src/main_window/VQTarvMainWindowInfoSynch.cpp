@@ -103,7 +103,7 @@ ProcessInformationClient::NeedLevel VQTarvMainWindowInfoSynch::NeedPidsForProcPr
 
 bool VQTarvMainWindowInfoSynch::NeedPidProcProperty(int, const char* key) {
   // Questions, the filter and two sorts want names, shown or not.
-  return mOwner.layout().Has(key) || std::strcmp(key, "meta_active_time") == 0 ||
+  return mOwner.needsProperty(key) || std::strcmp(key, "meta_active_time") == 0 ||
          std::strcmp(key, "meta_name") == 0;
 }
 

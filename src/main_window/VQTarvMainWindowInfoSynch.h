@@ -28,6 +28,8 @@ class SynchronisedTable {
   virtual QWidget* tableWindow() const = 0;
   virtual ProcessRows& rows() = 0;
   virtual const ColumnLayout& layout() const = 0;
+  /// A column shows the property, or the filter looks at it.
+  virtual bool needsProperty(const char* key) const = 0;
   /// Null while it is hidden.
   virtual MainToolbar* visibleToolbar() const = 0;
   /// The sort column; kNoKey for none.

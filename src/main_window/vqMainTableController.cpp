@@ -12,9 +12,11 @@
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
+#include "platform/PrintableText.h"
 #include "platform/ProcessTable.h"
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
+#include "query/TextPattern.h"
 #include "resources/Resources.h"
 #include "windows/PropertyText.h"
 #include "windows/RowSorting.h"
@@ -36,6 +38,34 @@ QPixmap PixmapOf(const Picture& picture, double scale) {
 }
 
 }  // namespace
+
+/// A row as a filter looks at it: plain words look at what is shown, the rest at what is known.
+class vqMainTableController::FilteredRow final : public QuerySubject {
+ public:
+  FilteredRow(const vqMainTableController& table, const RowDictionary& row)
+      : mTable(table), mRow(row) {}
+
+  TypedValue ValueOf(const std::string& property) const override {
+    // Short names would match nothing that was typed in full.
+    if (property == KeyText(kMetaName)) return mTable.nameOf(mRow.Pid()).toStdString();
+    return GetPIDPropertyTypedValue(mRow.Pid(), property.c_str());
+  }
+  bool ShowsTextLike(const TextPattern& pattern) const override {
+    if (pattern.Matches(std::to_string(mRow.Pid()))) return true;
+    // Where names are shown, the columns below have them.
+    if (!mTable.isTracked(KeyText(kMetaName)) &&
+        pattern.Matches(mTable.nameOf(mRow.Pid()).toStdString()))
+      return true;
+    return std::ranges::any_of(mTable.fColumns, [&](const Column& column) {
+      const auto* text = std::get_if<std::string>(&mRow.Get(column.key));
+      return text != nullptr && pattern.Matches(PrintableText(*text));
+    });
+  }
+
+ private:
+  const vqMainTableController& mTable;
+  const RowDictionary& mRow;
+};
 
 vqMainTableController::vqMainTableController() {
   fInfoSynchronizer = new VQTarvMainWindowInfoSynch(ReadInt("MAIN_WINDOW_INTERVAL"), *this);
@@ -122,7 +152,7 @@ void vqMainTableController::commitChanges() {
   fCommitIsQueued = false;
   // A filter's rows may be others after any change of a text.
   const bool isArranged =
-      !fNeedsResort && !fRows.HaveComeOrGone() && !fFilterHasChanged && fFilter.isEmpty();
+      !fNeedsResort && !fRows.HaveComeOrGone() && !fFilterHasChanged && fFilter.IsEmpty();
   if (!fHolders.empty() || isArranged) {
     fRows.CommitCells();
     if (std::exchange(fFactsHaveChanged, false)) Q_EMIT contentsChanged();
@@ -139,7 +169,11 @@ void vqMainTableController::arrangeRows() {
   rememberSelection();
   if (fNeedsResort) resortTable();
   std::function<bool(const RowDictionary&)> isShown;
-  if (!fFilter.isEmpty()) isShown = [this](const RowDictionary& row) { return passesFilter(row); };
+  if (!fFilter.IsEmpty()) {
+    isShown = [this](const RowDictionary& row) {
+      return fFilter.IsFulfilledBy(FilteredRow(*this, row));
+    };
+  }
   keepFocus(isShown);
   fRows.Commit(isShown);
   restoreSelection();
@@ -175,22 +209,17 @@ void vqMainTableController::holdOrder(const QObject* holder, bool hold) {
   }
 }
 
-void vqMainTableController::setFilter(const QString& text) {
-  fFilter = text;
+void vqMainTableController::setFilter(Query query) {
+  const bool looksAtMore = !query.Properties().empty();
+  fFilter = std::move(query);
   fFilterHasChanged = true;
   commitChanges();
+  if (looksAtMore) updateNow();
 }
 
-bool vqMainTableController::passesFilter(const RowDictionary& row) const {
-  if (QString::number(row.Pid()).contains(fFilter)) return true;
-  // Where names are shown, the columns below have them.
-  if (!isTracked(KeyText(kMetaName)) && nameOf(row.Pid()).contains(fFilter, Qt::CaseInsensitive))
-    return true;
-  const auto contains = [&](KeyId key) {
-    const auto* text = std::get_if<std::string>(&row.Get(key));
-    return text != nullptr && PlainText(*text).contains(fFilter, Qt::CaseInsensitive);
-  };
-  return std::ranges::any_of(fColumns, [&](const Column& column) { return contains(column.key); });
+bool vqMainTableController::needsProperty(const char* key) const {
+  const auto needed = fFilter.Properties();
+  return fLayout.Has(key) || std::ranges::find(needed, std::string_view(key)) != needed.end();
 }
 
 void vqMainTableController::updateNow() {

@@ -16,6 +16,7 @@
 #include "main_window/ProcessCommands.h"
 #include "main_window/ProcessRows.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
+#include "query/Query.h"
 #include "windows/CustomCells.h"
 #include "windows/StripedTableView.h"
 #include "windows/vqTableController.h"
@@ -79,9 +80,10 @@ class vqMainTableController final : public vqTableController,
   /// While something holds the order (an open menu, a question), rows stay where they are.
   void holdOrder(const QObject* holder, bool hold) override;
 
-  /// Shows only processes with this text in their name, their pid, or a text column, whatever its
-  /// case; all for an empty text.
-  void setFilter(const QString& text);
+  /// Shows only processes that fulfil the query; its plain words look at name, pid and the text
+  /// columns that are shown. What it looks at besides is read from the next update on, which comes
+  /// at once.
+  void setFilter(Query query);
 
   /// Of the rows that can be seen without scrolling.
   std::vector<std::int32_t> pidsInSight() const override;
@@ -214,6 +216,7 @@ class vqMainTableController final : public vqTableController,
 
   QWidget* tableWindow() const override { return window(); }
   const ColumnLayout& layout() const override { return fLayout; }
+  bool needsProperty(const char* key) const override;
   KeyId sortedBy() const override { return sortColumn(); }
   void noteStaleColumns() override { noteAgeOfColumns(true); }
   void noteFreshColumns() override { noteAgeOfColumns(false); }
@@ -228,7 +231,6 @@ class vqMainTableController final : public vqTableController,
   void adoptScreenLayout();
   int widthForColumn(KeyId key, const QString& title) const;
 
-  bool passesFilter(const RowDictionary& row) const;
   /// Gives a row the focus where it stands, if it is shown; the table does not scroll to it.
   void moveFocusTo(const RowDictionary* row);
   /// A focus that goes with its row passes to the nearest row that stays.
@@ -247,7 +249,8 @@ class vqMainTableController final : public vqTableController,
   ColumnLayout fLayout;
   std::vector<Column> fColumns;
   std::vector<std::int32_t> fRememberedSelectionPIDs;
-  QString fFilter;
+  class FilteredRow;
+  Query fFilter;
   bool fFilterHasChanged = false;
   bool fFactsHaveChanged = false;
   bool fNeedsResort = false;

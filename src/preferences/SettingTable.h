@@ -140,6 +140,7 @@ inline constexpr Setting kRows[] = {
     Switch("vqMainTableToolbarIdentifierTarvikTemp14_SHOWN", true, kNextStart),
     Record("MAIN_WINDOW_SORT_COLUMN_INDEX", 1),
     Array("MAIN_WINDOW_COLUMNS"),
+    Text("MAIN_WINDOW_RECENT_FILTERS", kAtOnce),
     Number("HAS_RUN_TWO_POINT_THREE", kAbsent, 0, 1, kNextStart),
     Number("HAS_RUN_TWO_POINT_FOUR", kAbsent, 0, 1, kNextStart),
 

@@ -86,7 +86,6 @@ Query::Query(Query&& other) noexcept = default;
 Query& Query::operator=(Query&& other) noexcept = default;
 
 std::string QueryError::Text() const {
-  const auto with = [this](std::string text) { return hint.empty() ? text : text + "; " + hint; };
   switch (kind) {
     case Kind::kUnknownKey:
       return "there is no '" + word + "' to look at" +
@@ -101,9 +100,9 @@ std::string QueryError::Text() const {
     case Kind::kTextIsNotCompared:
       return "'" + word + "' is a text; ask for " + hint;
     case Kind::kNoNumber:
-      return with("'" + word + "' is no number");
+      return "'" + word + "' is no number such as " + hint;
     case Kind::kNoExpression:
-      return with("'" + word + "' is no regular expression");
+      return "'" + word + "' is no regular expression: " + hint;
   }
   return {};
 }

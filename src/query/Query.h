@@ -33,7 +33,7 @@ struct QueryError {
     kNoTerm,             ///< nothing stands beside an "or", or behind "-"
     kNoEnd,              ///< a quotation mark without a second one
     kTextIsNotCompared,  ///< "<" or ">" with a key whose values are texts
-    kNoNumber,           ///< `word` is no number; `hint` has what one would look like
+    kNoNumber,           ///< `word` is no number; `hint` has some that would be
     kNoExpression,       ///< `word` is no regular expression; `hint` says why, in English
   };
   Kind kind;

@@ -46,13 +46,13 @@ std::optional<Scale> ScaleOf(PropertyType type) {
 std::string ExampleOf(Scale scale) {
   switch (scale) {
     case Scale::kPlain:
-      return "numbers look like 5 or 0.5";
+      return "5, 0.5";
     case Scale::kBytes:
-      return "sizes look like 500M";
+      return "500M";
     case Scale::kSeconds:
-      return "times look like 90, 5m or 2h";
+      return "90, 5m, 2h";
     case Scale::kDate:
-      return "dates look like 2026-01-31 or 2026-01-31T18:30";
+      return "2026-01-31, 2026-01-31T18:30";
   }
   return {};
 }
@@ -230,7 +230,7 @@ class QueryReader {
       ++mAt;
     }
     if (!term.patterns.empty() && !term.numbers.empty())
-      Fail(Kind::kNoNumber, mAt, 0, mText, "numbers and expressions do not mix");
+      Fail(Kind::kNoNumber, mAt, 0, mText, "5, 0.5");
     return !mError;
   }
 

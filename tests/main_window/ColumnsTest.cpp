@@ -334,7 +334,7 @@ TEST_F(ColumnsTest, WhenTheSortColumnGoesPidsTakeItsPlace) {
   ClickHeader("pid_p_nice");
   ClickHeader("pid_p_nice");
   EXPECT_EQ(Pids(), "302 301 300 1 0");
-  controller().setFilter("30");
+  Filter("30");
   Toggle(Menus().BuiltInMenu(), "pid_p_nice");
   EXPECT_EQ(controller().sortColumn(), kMetaPid);
   Turn();

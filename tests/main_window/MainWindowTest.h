@@ -42,6 +42,8 @@ class MainWindowTest : public ConsolidatorTest, public ApplicationCommands {
 
   vqMainTableController& controller() { return window->controller(); }
 
+  void Filter(const char* text) { controller().setFilter(std::get<Query>(Query::Read(text))); }
+
   /// Lets time pass and the window hear of it.
   void Turn(std::int64_t milliseconds = 2000) {
     machine.runLoop.RunFor(milliseconds);

@@ -1,4 +1,6 @@
 // Rows: what they show from turn to turn, and how little the view hears of it.
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -128,10 +130,10 @@ TEST_F(TableTest, TheTableStaysWhereItsUserLooks) {
   EXPECT_EQ(focused(), 332) << "the nearest that is left";
   EXPECT_EQ(view.verticalScrollBar()->value(), top);
   EXPECT_EQ(Selected(), "");
-  controller().setFilter("3");
-  controller().setFilter("1");
+  Filter("3");
+  Filter("1");
   EXPECT_EQ(focused(), 331 - 10);
-  controller().setFilter({});
+  Filter("");
   view.verticalScrollBar()->setValue(top);
   controller().addToKeysWeTrackForUI(InternKey("pid_p_nice"));
   EXPECT_EQ(focused(), 321);
@@ -281,6 +283,34 @@ TEST_F(TableTest, AFilterHidesRowsAndChangesNothingElse) {
   EXPECT_FALSE(window->filterField().isVisible());
   EXPECT_EQ(Pids(), "300 302 303 301 0 1 304");
   EXPECT_EQ(Selected(), "");
+}
+
+TEST_F(TableTest, AFilterLooksAtWhatNoColumnShows) {
+  auto& table = machine.processTable;
+  for (const auto& [pid, nice] : {std::pair(300, 5), std::pair(301, -5), std::pair(302, 10)})
+    table.Birth(pid, "some").entry.nice = nice;
+  Open();
+  Choose("menu_edit_filter");
+  auto& field = window->filterField();
+  auto& error = *field.parentWidget()->findChild<QLabel*>();
+  field.setText("some nice>=5");
+  Turn(0);
+  EXPECT_EQ(Pids(), "300 302");
+  field.setText("some nice>=5 -pid:302");
+  EXPECT_EQ(Pids(), "300");
+  field.setText("some nice>");
+  EXPECT_EQ(Pids(), "300") << "what was asked for last still holds";
+  EXPECT_FALSE(field.accessibleDescription().isEmpty());
+  EXPECT_FALSE(error.isVisible()) << "he may be typing still";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return error.isVisible(); }));
+  EXPECT_NE(error.text().indexOf("nice>"), -1) << error.text().toStdString();
+  QTest::keyClick(&field, Qt::Key_Escape);
+  field.setText(QString::fromUtf8("nice:10 -\xD0\xBC"));
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_TRUE(window->table().hasFocus());
+  char last[100] = "";
+  GetPrefString("MAIN_WINDOW_RECENT_FILTERS", last, sizeof last, nullptr, false, "");
+  EXPECT_STREQ(last, "nice:10%20-%D0%BC");
 }
 
 TEST_F(TableTest, TypingFindsNames) {

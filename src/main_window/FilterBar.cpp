@@ -1,0 +1,157 @@
+#include "main_window/FilterBar.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QShortcut>
+#include <QStyle>
+#include <QUrl>
+#include <utility>
+
+#include "preferences/Settings.h"
+#include "resources/Resources.h"
+
+namespace lurkwell {
+namespace {
+
+constexpr int kMostRemembered = 10;
+constexpr int kPatienceInMilliseconds = 500;
+constexpr int kRoomForRemembered = 8192;
+
+QString Words(const char* id, const QueryError& error) {
+  return LocalizedString(id)
+      .replace(QLatin1String("%1"), QString::fromStdString(error.word))
+      .replace(QLatin1String("%2"), QString::fromStdString(error.hint));
+}
+
+/// The last ones first; a word each, in letters that every preference may have.
+QStringList RememberedFilters() {
+  char text[kRoomForRemembered] = "";
+  ReadText("MAIN_WINDOW_RECENT_FILTERS", text, sizeof text);
+  QStringList filters;
+  for (const auto& filter : QByteArray(text).split(' '))
+    if (!filter.isEmpty()) filters.append(QUrl::fromPercentEncoding(filter));
+  return filters;
+}
+
+QByteArray Encoded(const QStringList& filters) {
+  QByteArray text;
+  for (const auto& filter : filters)
+    text += (text.isEmpty() ? "" : " ") + QUrl::toPercentEncoding(filter, ":<>=!/|,\"()^$*+-");
+  return text;
+}
+
+}  // namespace
+
+QString QueryErrorWords(const QueryError& error) {
+  using Kind = QueryError::Kind;
+  switch (error.kind) {
+    case Kind::kUnknownKey:
+      return Words(error.hint.empty() ? "filter_unknown_key" : "filter_unknown_key_near", error);
+    case Kind::kNoValue:
+      return Words("filter_no_value", error);
+    case Kind::kNoTerm:
+      return Words("filter_no_term", error);
+    case Kind::kNoEnd:
+      return Words("filter_no_end", error);
+    case Kind::kTextIsNotCompared:
+      return Words("filter_text_is_not_compared", error);
+    case Kind::kNoNumber:
+      return Words("filter_no_number", error);
+    case Kind::kNoExpression:
+      return Words("filter_no_expression", error);
+  }
+  return {};
+}
+
+FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
+    : QWidget(parent),
+      mOnQuery(std::move(onQuery)),
+      mField(new QLineEdit(this)),
+      mError(new QLabel(this)) {
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(mField, 1);
+  layout->addWidget(mError);
+  mError->setTextFormat(Qt::PlainText);
+  mError->setContentsMargins(6, 0, 6, 0);
+  mError->hide();
+  mField->setPlaceholderText(LocalizedString("main_window_filter_placeholder"));
+  mField->setToolTip(LocalizedString("main_window_filter_tip"));
+  mField->setAccessibleName(LocalizedString("main_window_filter_placeholder"));
+  mField->setClearButtonEnabled(true);
+  auto* last =
+      mField->addAction(style()->standardIcon(QStyle::SP_ArrowDown), QLineEdit::LeadingPosition);
+  last->setToolTip(LocalizedString("filter_last"));
+  connect(last, &QAction::triggered, this, &FilterBar::showLast);
+  auto* down = new QShortcut(Qt::Key_Down, mField);
+  down->setContext(Qt::WidgetShortcut);
+  connect(down, &QShortcut::activated, this, &FilterBar::showLast);
+  mPatience.setSingleShot(true);
+  mPatience.setInterval(kPatienceInMilliseconds);
+  connect(&mPatience, &QTimer::timeout, this, &FilterBar::tellError);
+  connect(mField, &QLineEdit::textChanged, this, &FilterBar::takeText);
+  connect(mField, &QLineEdit::returnPressed, this, [this] {
+    tellError();
+    remember();
+    if (mErrorWords.isEmpty()) Q_EMIT left();
+  });
+  hide();
+}
+
+void FilterBar::begin() {
+  show();
+  mField->setFocus();
+  mField->selectAll();
+}
+
+void FilterBar::end() {
+  remember();
+  mField->clear();
+  hide();
+  Q_EMIT left();
+}
+
+void FilterBar::takeText() {
+  const QByteArray text = mField->text().toUtf8();
+  auto query = Query::Read({text.data(), static_cast<std::size_t>(text.size())});
+  const auto* error = std::get_if<QueryError>(&query);
+  mErrorWords = error == nullptr ? QString() : QueryErrorWords(*error);
+  mField->setAccessibleDescription(mErrorWords);
+  if (error != nullptr) return mPatience.start();
+  tellError();
+  mOnQuery(std::move(std::get<Query>(query)));
+}
+
+void FilterBar::tellError() {
+  mPatience.stop();
+  mError->setText(mErrorWords);
+  mError->setVisible(!mErrorWords.isEmpty());
+}
+
+void FilterBar::remember() {
+  const QString text = mField->text().trimmed();
+  if (text.isEmpty() || !mErrorWords.isEmpty()) return;
+  auto filters = RememberedFilters();
+  if (!filters.isEmpty() && filters.constFirst() == text) return;
+  filters.removeAll(text);
+  filters.prepend(text);
+  while (filters.size() > kMostRemembered) filters.removeLast();
+  // What is too long to be read again is not written.
+  while (Encoded(filters).size() >= kRoomForRemembered) filters.removeLast();
+  StoreText("MAIN_WINDOW_RECENT_FILTERS", Encoded(filters).constData());
+}
+
+void FilterBar::showLast() {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const auto& filter : RememberedFilters()) {
+    auto* item = menu->addAction(QString(filter).replace(QLatin1Char('&'), QLatin1String("&&")));
+    connect(item, &QAction::triggered, mField, [this, filter] { mField->setText(filter); });
+  }
+  if (menu->isEmpty()) menu->addAction(LocalizedString("filter_none_yet"))->setEnabled(false);
+  menu->popup(mField->mapToGlobal(QPoint(0, mField->height())));
+}
+
+}  // namespace lurkwell

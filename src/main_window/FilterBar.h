@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+#include "query/Query.h"
+
+class QLabel;
+class QMenu;
+
+namespace lurkwell {
+
+/// What is wrong with a query, in the user's words.
+QString QueryErrorWords(const QueryError& error);
+
+/// The filter above the table: a field for a query, beside it what is wrong with the query, and a
+/// list of those that were used last. What is typed counts at once; while it is no query, the one
+/// before holds. Main thread only.
+class FilterBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `onQuery` gets each query that is typed; an empty one when the bar goes.
+  FilterBar(std::function<void(Query)> onQuery, QWidget* parent);
+
+  QLineEdit& field() { return *mField; }
+
+  void begin();
+  /// Empties and hides the bar; what was typed is among the last ones then.
+  void end();
+
+ Q_SIGNALS:
+  /// Return was pressed, or the bar has gone.
+  void left();
+
+ private:
+  void takeText();
+  void tellError();
+  void remember();
+  void showLast();
+
+  std::function<void(Query)> mOnQuery;
+  QLineEdit* mField;
+  QLabel* mError;
+  /// A word is usually wrong until it has been typed to its end.
+  QTimer mPatience;
+  QString mErrorWords;
+};
+
+}  // namespace lurkwell
