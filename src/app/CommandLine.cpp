@@ -54,8 +54,8 @@ make no sense.
 constexpr const char* kWindows[] = {"main",     "history",  "logging", "preferences",
                                     "settings", "animated", "about"};
 
-constexpr double kShortestInterval = 0.1;
-constexpr double kLongestInterval = 86'400;
+constexpr double kLeastSecondsBetween = 0.1;
+constexpr double kMostSecondsBetween = 86'400;
 
 bool IsForPrinting(std::string_view option) {
   constexpr std::string_view kOptions[] = {"--count", "--columns", "--format",   "--filter",
@@ -165,8 +165,8 @@ class Reader {
     double seconds = 0;
     const char* end = mValue->data() + mValue->size();
     const auto [at, error] = std::from_chars(mValue->data(), end, seconds);
-    if (error != std::errc{} || at != end || !(seconds >= kShortestInterval) ||
-        seconds > kLongestInterval)
+    if (error != std::errc{} || at != end || !(seconds >= kLeastSecondsBetween) ||
+        seconds > kMostSecondsBetween)
       return Complain("--interval needs seconds from 0.1 to 86400, not '" + std::string(*mValue) +
                       "'");
     mLine.intervalInMilliseconds = static_cast<std::int32_t>(seconds * 1000 + 0.5);
