@@ -104,9 +104,9 @@ std::pair<Remedy, std::string> WhatStatusMeans(int status, const std::string& fo
 }
 
 /// A working folder, fresh signals, and no descriptors but the standard three.
-class SpawnSettings {
+class ConsentSpawnSettings {
  public:
-  explicit SpawnSettings(const std::string& folder, bool isSilent) {
+  explicit ConsentSpawnSettings(const std::string& folder, bool isSilent) {
     ::posix_spawn_file_actions_init(&actions);
     if (isSilent)
       ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
@@ -120,12 +120,12 @@ class SpawnSettings {
     ::posix_spawnattr_setsigdefault(&attributes, &signals);
     ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
   }
-  ~SpawnSettings() {
+  ~ConsentSpawnSettings() {
     ::posix_spawnattr_destroy(&attributes);
     ::posix_spawn_file_actions_destroy(&actions);
   }
-  SpawnSettings(const SpawnSettings&) = delete;
-  SpawnSettings& operator=(const SpawnSettings&) = delete;
+  ConsentSpawnSettings(const ConsentSpawnSettings&) = delete;
+  ConsentSpawnSettings& operator=(const ConsentSpawnSettings&) = delete;
 
   posix_spawn_file_actions_t actions;
   posix_spawnattr_t attributes;
@@ -211,7 +211,7 @@ bool PolkitAuthorization::MayStart(const std::string& program, const std::string
 
 bool PolkitAuthorization::Start(const std::string& folder,
                                 const std::vector<std::string>& arguments, Says says) {
-  const SpawnSettings settings(folder, says == Says::kNothing);
+  const ConsentSpawnSettings settings(folder, says == Says::kNothing);
   const auto vector = ArgumentVector(arguments);
   Child child{-1, {}};
   const int error = ::posix_spawn(&child.pid, vector.front(), &settings.actions,
