@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/MachineFigures.h"
+
 namespace lurkwell {
 
 /// The machine's memory, in pages; `pageouts` counts since the machine started.
@@ -27,6 +29,10 @@ class HostStatistics {
 
   /// False when not all figures could be had; those that were are in `statistics`, others stay.
   virtual bool ReadVirtualMemory(VirtualMemoryStatistics& statistics) const = 0;
+
+  /// What the machine tells of these; nothing else is read. Files that are missing or make no sense
+  /// leave their figures out.
+  virtual MachineFigures Read(MachineSources wanted) const = 0;
 
   /// Bytes; 0 when the machine does not tell.
   virtual std::int64_t PhysicalMemory() const = 0;

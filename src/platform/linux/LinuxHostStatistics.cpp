@@ -3,30 +3,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string_view>
 
 namespace lurkwell {
-namespace {
-
-/// The number behind `name` at the beginning of a line.
-std::optional<std::int64_t> NumberOf(std::string_view text, std::string_view name) {
-  for (std::size_t at = text.find(name); at != std::string_view::npos;
-       at = text.find(name, at + 1)) {
-    if (at != 0 && text[at - 1] != '\n') continue;
-    auto rest = text.substr(at + name.size());
-    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
-    std::int64_t number = 0;
-    const auto read = std::from_chars(rest.data(), rest.data() + rest.size(), number);
-    if (read.ec != std::errc{} || number < 0) return {};
-    return number;
-  }
-  return {};
-}
-
-}  // namespace
-
 std::optional<std::int64_t> LinuxHostStatistics::PageSize() const {
   const long size = ::sysconf(_SC_PAGESIZE);
   if (size <= 0) return {};

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/HostStatistics.h"
+#include "platform/linux/MachineReader.h"
 #include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
@@ -12,8 +13,9 @@ namespace lurkwell {
 /// pages that went to swap.
 class LinuxHostStatistics final : public HostStatistics {
  public:
-  /// `root` is "/proc" or a made-up tree of the same shape.
-  explicit LinuxHostStatistics(const std::string& root = "/proc") : mFiles(root) {}
+  /// Folders like /proc and /sys.
+  explicit LinuxHostStatistics(const std::string& proc = "/proc", const std::string& sys = "/sys")
+      : mFiles(proc), mMachine(proc, sys) {}
 
   /// Nothing is mapped into every process here that would be worth subtracting.
   std::int64_t SharedTextAndDataSize() const override { return 0; }
@@ -21,9 +23,11 @@ class LinuxHostStatistics final : public HostStatistics {
   bool ReadVirtualMemory(VirtualMemoryStatistics& statistics) const override;
   std::int64_t PhysicalMemory() const override;
   int Processors() const override;
+  MachineFigures Read(MachineSources wanted) const override { return mMachine.Read(wanted); }
 
  private:
   mutable ProcFiles mFiles;
+  mutable MachineReader mMachine;
 };
 
 }  // namespace lurkwell

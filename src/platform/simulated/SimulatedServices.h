@@ -20,12 +20,14 @@ class SimulatedHostStatistics final : public HostStatistics {
   }
   std::int64_t PhysicalMemory() const override { return physicalMemory; }
   int Processors() const override { return processors; }
+  MachineFigures Read(MachineSources) const override { return machine; }
 
   std::optional<std::int64_t> pageSize = 4096;
   std::optional<VirtualMemoryStatistics> virtualMemory =
       VirtualMemoryStatistics{131'072, 65'536, 32'768, 0};
   std::int64_t physicalMemory = 1'073'741'824;
   int processors = 1;
+  MachineFigures machine;
 };
 
 /// Signals are recorded, never sent; a test may have them refused.
