@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "IdleProcesses.h"
+#include "platform/FileDescriptor.h"
 #include "platform/linux/DescriptorLimit.h"
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/LinuxProcessTable.h"
 
 namespace lurkwell {

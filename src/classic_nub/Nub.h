@@ -8,8 +8,8 @@
 #include <string>
 
 #include "platform/EventBus.h"
+#include "platform/FileDescriptor.h"
 #include "platform/desktop/DBusEventBus.h"
-#include "platform/linux/ProcessHandle.h"
 
 namespace lurkwell {
 

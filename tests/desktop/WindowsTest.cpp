@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
@@ -111,6 +113,11 @@ TEST(DesktopWindows, ApplicationsComeInOrderAndStayUntilTheirProcessEnds) {
   EXPECT_EQ(desktop.Walk(), (std::vector{first, second, third}));
   EXPECT_EQ(desktop.NameOf(first), "Schreiber");
 
+  // Its process is in the kernel's table until it has been reaped.
+  ::kill(editor->Pid(), SIGKILL);
+  siginfo_t end;
+  ::waitid(P_PID, static_cast<id_t>(editor->Pid()), &end, WEXITED | WNOWAIT);
+  EXPECT_EQ(desktop.Walk(), (std::vector{first, second, third}));
   editor->End();
   EXPECT_EQ(desktop.manager->GetProcessForPID(static_cast<std::int32_t>(first.low)), std::nullopt);
   EXPECT_EQ(desktop.Walk(), (std::vector{second, third}));

@@ -5,13 +5,14 @@
 #include <map>
 #include <tuple>
 #include <unordered_set>
+#include <utility>
 
 namespace lurkwell {
 namespace {
 
 constexpr std::chrono::seconds kTimeToSettle{3};
 constexpr std::chrono::seconds kTimeBetweenLooks{1};
-constexpr int kLooksPerRefresh = 32;
+constexpr int kLooksPerRefresh = 8;
 
 /// "\x2d" and the like as the bytes they stand for.
 std::string UnescapedUnit(std::string_view text) {
@@ -84,28 +85,41 @@ std::optional<ApplicationScope> ScopeOfControlGroups(std::string_view text) {
 }
 
 void ApplicationScopes::Read(Process& process, std::int32_t pid) {
-  process.identity = mFolder.Identify(pid).value_or(ProcessIdentity{});
-  process.scope = ScopeOfControlGroups(mFolder.ControlGroups(pid));
+  const auto identity = mFolder.Identify(pid).value_or(ProcessIdentity{});
+  auto scope = ScopeOfControlGroups(mFolder.ControlGroups(pid));
+  if (identity == process.identity && scope == process.scope) return;
+  process.identity = identity;
+  process.scope = std::move(scope);
+  mHaveChanged = true;
 }
 
-std::vector<ApplicationScopes::Application> ApplicationScopes::Refresh() {
+const std::vector<ApplicationScopes::Application>& ApplicationScopes::Refresh() {
   const auto now = Clock::now();
   // Asked for before the listing: whoever is born in between counts as not listed.
   const auto lastPid = mFolder.LastPid();
   if (!lastPid || lastPid != mLastPid) List(now);
   mLastPid = lastPid;
-  for (auto& [pid, process] : mProcesses)
-    if (process.settled > now) Read(process, pid);
+  ReadThoseThatSettle(now);
   if (mHasLooked && now >= mNextLook) {
     mNextLook = now + kTimeBetweenLooks;
     LookAtSomeKnown();
   }
   mHasLooked = true;
-  return FirstOfEach();
+  if (std::exchange(mHaveChanged, false)) mApplications = FirstOfEach();
+  return mApplications;
+}
+
+void ApplicationScopes::ReadThoseThatSettle(Clock::time_point now) {
+  std::erase_if(mSettling, [&](std::int32_t pid) {
+    const auto known = mProcesses.find(pid);
+    if (known == mProcesses.end() || known->second.settled <= now) return true;
+    Read(known->second, pid);
+    return false;
+  });
 }
 
 void ApplicationScopes::NoteEnd(std::int32_t pid) {
-  mProcesses.erase(pid);
+  mHaveChanged |= mProcesses.erase(pid) > 0;
   mLastPid.reset();
 }
 
@@ -113,12 +127,16 @@ void ApplicationScopes::NoteEnd(std::int32_t pid) {
 void ApplicationScopes::List(Clock::time_point now) {
   const auto pids = mFolder.Pids();
   const std::unordered_set<std::int32_t> present(pids.begin(), pids.end());
-  std::erase_if(mProcesses, [&](const auto& known) { return !present.contains(known.first); });
+  const auto isGone = [&](const auto& known) { return !present.contains(known.first); };
+  mHaveChanged |= std::erase_if(mProcesses, isGone) > 0;
   for (const std::int32_t pid : pids) {
     const auto [known, isNew] = mProcesses.try_emplace(pid);
     if (!isNew) continue;
     known->second.settled = mHasLooked ? now + kTimeToSettle : now;
-    if (!mHasLooked) Read(known->second, pid);
+    if (mHasLooked)
+      mSettling.push_back(pid);
+    else
+      Read(known->second, pid);
   }
 }
 

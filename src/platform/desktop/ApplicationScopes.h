@@ -18,6 +18,8 @@ struct ApplicationScope {
   std::string name;
   /// The desktop entry's id, such as "org.example.Editor".
   std::string entryId;
+
+  friend bool operator==(const ApplicationScope&, const ApplicationScope&) = default;
 };
 
 /// The application's group in the text of a cgroup file; nothing when the process is in none.
@@ -40,7 +42,7 @@ class ApplicationScopes {
 
   /// The present applications, first started first; one that has ended since somebody was born
   /// may be among them.
-  std::vector<Application> Refresh();
+  const std::vector<Application>& Refresh();
 
   /// The process of an application has ended: the next refresh lists.
   void NoteEnd(std::int32_t pid);
@@ -58,6 +60,7 @@ class ApplicationScopes {
 
   void List(Clock::time_point now);
   void LookAtSomeKnown();
+  void ReadThoseThatSettle(Clock::time_point now);
   void Read(Process& process, std::int32_t pid);
   std::vector<Application> FirstOfEach() const;
 
@@ -66,6 +69,11 @@ class ApplicationScopes {
   std::optional<std::int32_t> mLastPid;
   Clock::time_point mNextLook;
   std::unordered_map<std::int32_t, Process> mProcesses;
+  /// Those that are to be read with every refresh.
+  std::vector<std::int32_t> mSettling;
+  /// FirstOfEach of the processes as they were before mHaveChanged was set.
+  std::vector<Application> mApplications;
+  bool mHaveChanged = false;
   /// Who is looked at next, from the back.
   std::vector<std::int32_t> mTurn;
 };

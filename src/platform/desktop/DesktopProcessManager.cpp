@@ -122,7 +122,7 @@ void DesktopProcessManager::Desktop::TakeWindowsOf(
     const auto process = mProcesses.Identify(pid);
     mTakesWindowsAgain = mTakesWindowsAgain || !process;
     if (!process) return;
-    known = &mApplications.Add(*process);
+    known = &mApplications.Add(*process, mProcesses);
   }
   for (const auto* window : windows) {
     known->windows.push_back(window->id);
@@ -146,7 +146,7 @@ void DesktopProcessManager::Desktop::TakeWindowsOf(
 
 /// A group one of whose processes has windows is not counted twice.
 void DesktopProcessManager::Desktop::TakeScopes() {
-  const auto present = mScopes->Refresh();
+  const auto& present = mScopes->Refresh();
   std::unordered_set<std::string> taken;
   for (const auto& known : mApplications.All()) {
     taken.insert(mScopes->NameOfScope(known->process.pid));
@@ -158,7 +158,7 @@ void DesktopProcessManager::Desktop::TakeScopes() {
       mScopes->NoteEnd(found.process.pid);
       continue;
     }
-    auto& added = mApplications.Add(found.process);
+    auto& added = mApplications.Add(found.process, mProcesses);
     added.scopeEntryId = found.scope.entryId;
     Describe(added);
   }

@@ -1,22 +1,35 @@
 #include "platform/desktop/KnownApplications.h"
 
+#include <utility>
+
 namespace lurkwell {
 
-KnownApplication& KnownApplications::Add(const ProcessIdentity& process) {
+KnownApplication& KnownApplications::Add(const ProcessIdentity& process,
+                                         const ProcFolder& processes) {
   mPlaces[process.pid] = mOrder.size();
   auto& added = *mOrder.emplace_back(std::make_unique<KnownApplication>());
   added.process = process;
   added.psn = SerialNumberOf(process);
+  added.end = processes.Follow(process);
+  mEnds.push_back({added.end.Get(), POLLIN, 0});
   return added;
 }
 
 void KnownApplications::DropEnded(const ProcFolder& processes) {
-  if (std::erase_if(mOrder,
-                    [&](const auto& known) { return !processes.IsThere(known->process); }) == 0) {
-    return;
+  const bool areAsked = ::poll(mEnds.data(), mEnds.size(), 0) >= 0;
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < mOrder.size(); ++i) {
+    const bool mayHaveEnded = !areAsked || mEnds[i].fd < 0 || mEnds[i].revents != 0;
+    if (mayHaveEnded && !processes.IsThere(mOrder[i]->process)) {
+      mPlaces.erase(mOrder[i]->process.pid);
+      continue;
+    }
+    mPlaces[mOrder[i]->process.pid] = kept;
+    std::swap(mEnds[kept], mEnds[i]);
+    std::swap(mOrder[kept++], mOrder[i]);
   }
-  mPlaces.clear();
-  for (std::size_t i = 0; i < mOrder.size(); ++i) mPlaces[mOrder[i]->process.pid] = i;
+  mOrder.resize(kept);
+  mEnds.resize(kept);
 }
 
 KnownApplication* KnownApplications::FindPid(std::int32_t pid) {

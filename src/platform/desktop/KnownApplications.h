@@ -1,5 +1,6 @@
 #pragma once
 
+#include <poll.h>
 #include <xcb/xcb.h>
 
 #include <cstdint>
@@ -8,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/FileDescriptor.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/ProcessManager.h"
 #include "platform/desktop/DesktopEntries.h"
@@ -19,6 +21,8 @@ namespace lurkwell {
 struct KnownApplication {
   ProcessSerialNumber psn;
   ProcessIdentity process;
+  /// Readable once it has ended; none where that has to be looked for.
+  FileDescriptor end;
   ApplicationInformation information;
   /// Null when there is none.
   DesktopEntries::Entry entry;
@@ -42,9 +46,9 @@ struct KnownApplication {
 class KnownApplications {
  public:
   /// Adds a process, which must not be in.
-  KnownApplication& Add(const ProcessIdentity& process);
+  KnownApplication& Add(const ProcessIdentity& process, const ProcFolder& processes);
 
-  /// Takes out those that have ended.
+  /// Takes out those that have ended and been reaped. One call to the kernel for all that have not.
   void DropEnded(const ProcFolder& processes);
 
   /// Null when there is none. Valid until the next one is added or dropped.
@@ -58,6 +62,8 @@ class KnownApplications {
  private:
   std::vector<std::unique_ptr<KnownApplication>> mOrder;
   std::unordered_map<std::int32_t, std::size_t> mPlaces;
+  /// What the kernel is asked about them, at the same places.
+  std::vector<pollfd> mEnds;
 };
 
 }  // namespace lurkwell

@@ -2,6 +2,8 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <array>
@@ -69,12 +71,15 @@ std::vector<std::int32_t> ProcFolder::Pids() const {
   return pids;
 }
 
-std::optional<std::int32_t> ProcFolder::LastPid() const {
+bool ProcFolder::HasOwnPids() const {
   std::array<char, 16> self;
   const auto length = ::readlink((mRoot + "/self").c_str(), self.data(), self.size());
-  if (length <= 0 || WholeNumber<std::int32_t>({self.data(), static_cast<std::size_t>(length)}) !=
-                         static_cast<std::int32_t>(::getpid()))
-    return {};
+  return length > 0 && WholeNumber<std::int32_t>({self.data(), static_cast<std::size_t>(length)}) ==
+                           static_cast<std::int32_t>(::getpid());
+}
+
+std::optional<std::int32_t> ProcFolder::LastPid() const {
+  if (!HasOwnPids()) return {};
   auto text = ReadStart(mRoot + "/loadavg").value_or("");
   if (!text.ends_with('\n')) return {};
   text.pop_back();
@@ -93,6 +98,17 @@ bool ProcFolder::IsThere(const ProcessIdentity& process) const {
   const auto text = Read(process.pid, "stat");
   if (!text) return errno != ENOENT && errno != ESRCH && errno != ENOTDIR;
   return StartStampOfStat(*text) == process.startStamp;
+}
+
+FileDescriptor ProcFolder::Follow(const ProcessIdentity& process) const {
+  struct statfs system {};
+  const bool isKernelTree =
+      ::statfs(mRoot.c_str(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
+  if (!isKernelTree || !HasOwnPids()) return {};
+  auto handle = OpenProcessHandle(process.pid);
+  // The pid may have passed to another process just before.
+  if (handle.IsOpen() && !IsThere(process)) handle.Close();
+  return handle;
 }
 
 std::string ProcFolder::CommandName(std::int32_t pid) const {

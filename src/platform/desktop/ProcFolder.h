@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FileDescriptor.h"
 #include "platform/ProcessIdentity.h"
 
 namespace lurkwell {
@@ -29,6 +30,10 @@ class ProcFolder {
   /// moment (no descriptors left).
   bool IsThere(const ProcessIdentity& process) const;
 
+  /// A handle that is readable once the process has ended, before it is reaped; none when it has
+  /// been, where there are no handles, or where the folder is not the kernel's for the caller.
+  FileDescriptor Follow(const ProcessIdentity& process) const;
+
   /// The name as the kernel has it; "" when it cannot be read.
   std::string CommandName(std::int32_t pid) const;
 
@@ -40,6 +45,7 @@ class ProcFolder {
 
  private:
   std::optional<std::string> Read(std::int32_t pid, const char* file) const;
+  bool HasOwnPids() const;
 
   std::string mRoot;
 };

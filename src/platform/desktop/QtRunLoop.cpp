@@ -13,8 +13,15 @@
 namespace lurkwell {
 namespace {
 
-// A wait does not notice that the machine was asleep; the next look at the clock does.
-constexpr double kLongestWait = 1.0;
+// A wait does not notice that the machine was asleep; the next look at the clock does. What is far
+// away needs fewer looks.
+constexpr double kShortestUnbrokenWait = 5.0;
+constexpr double kLongestUnbrokenWait = 3600.0;
+
+double UnbrokenWait(double seconds) {
+  return std::clamp(seconds, 0.0,
+                    std::clamp(seconds / 10, kShortestUnbrokenWait, kLongestUnbrokenWait));
+}
 
 }  // namespace
 
@@ -57,7 +64,7 @@ class QtRunLoop::Timer final : public RunLoopTimer {
 
   void Wait() {
     if (mDate == kNever) return mTimer.stop();
-    const double seconds = std::clamp(mDate - mState->clock.AbsoluteTime(), 0.0, kLongestWait);
+    const double seconds = UnbrokenWait(mDate - mState->clock.AbsoluteTime());
     mTimer.start(static_cast<int>(std::ceil(seconds * 1000.0)));
   }
 

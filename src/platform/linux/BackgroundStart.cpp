@@ -9,7 +9,7 @@
 #include <array>
 #include <cerrno>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/linux/ToolProcess.h"
 
 namespace lurkwell {

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 
 namespace lurkwell {
 namespace {

@@ -1,6 +1,6 @@
 #include "platform/linux/LinuxSignals.h"
 
-#include "platform/linux/ProcessHandle.h"
+#include "platform/FileDescriptor.h"
 
 namespace lurkwell {
 

@@ -8,8 +8,8 @@
 #include <cerrno>
 #include <string>
 
+#include "platform/FileDescriptor.h"
 #include "platform/linux/BackgroundStart.h"
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/ProcpsColumns.h"
 
 namespace lurkwell {

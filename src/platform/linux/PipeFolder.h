@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 
 namespace lurkwell {
 

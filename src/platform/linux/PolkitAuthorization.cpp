@@ -15,7 +15,7 @@
 #include <fstream>
 #include <utility>
 
-#include "platform/linux/ProcessHandle.h"
+#include "platform/FileDescriptor.h"
 #include "platform/linux/ToolProcess.h"
 
 namespace lurkwell {

@@ -6,7 +6,7 @@
 
 #include "platform/Authorization.h"
 #include "platform/Bundle.h"
-#include "platform/linux/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 
 namespace lurkwell {
 

@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "platform/Clock.h"
+#include "platform/FileDescriptor.h"
 #include "platform/RunLoop.h"
-#include "platform/linux/FileDescriptor.h"
 
 namespace lurkwell {
 

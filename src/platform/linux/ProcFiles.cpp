@@ -74,6 +74,10 @@ ProcFiles::ProcFiles(const std::string& root)
   const auto length = ::readlinkat(mRoot.Get(), "self", self.data(), self.size());
   mHasOwnPids = mIsKernelTree && length > 0 &&
                 ParsePid({self.data(), static_cast<std::size_t>(length)}) == ::getpid();
+  if (!mHasOwnPids) return;
+  mLoad = FileDescriptor(::openat(mRoot.Get(), "loadavg", O_RDONLY | O_CLOEXEC));
+  // Something else may be mounted on it.
+  if (!IsOfKernel(mLoad)) mLoad.Close();
 }
 
 bool ProcFiles::List(std::vector<ListedProcess>& processes) {
@@ -106,11 +110,9 @@ bool ProcFiles::ListNumbers(int folder, const char* name, std::vector<std::int32
 }
 
 std::optional<std::int32_t> ProcFiles::LastPid() {
-  if (!mHasOwnPids) return std::nullopt;
-  // "0.00 0.01 0.05 RUNNABLE/ALL LAST\n"; something else may be mounted on it.
+  // "0.00 0.01 0.05 RUNNABLE/ALL LAST\n"
   std::array<char, 128> text;
-  const FileDescriptor file(::openat(mRoot.Get(), "loadavg", O_RDONLY | O_CLOEXEC));
-  const auto bytes = IsOfKernel(file) ? ::read(file.Get(), text.data(), text.size()) : -1;
+  const auto bytes = ::pread(mLoad.Get(), text.data(), text.size(), 0);
   if (bytes <= 0 || text[static_cast<std::size_t>(bytes) - 1] != '\n') return std::nullopt;
   const std::string_view line(text.data(), static_cast<std::size_t>(bytes) - 1);
   return ParsePid(line.substr(line.rfind(' ') + 1));

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/linux/RunMark.h"
 
 namespace lurkwell {
@@ -85,6 +85,8 @@ class ProcFiles {
   bool ListFolder(const FileDescriptor& folder, std::vector<ListedProcess>& listed);
 
   FileDescriptor mRoot;
+  /// Kept open: it is read before every beat.
+  FileDescriptor mLoad;
   bool mIsKernelTree = false;
   bool mHasOwnPids = false;
   std::vector<char> mListing;

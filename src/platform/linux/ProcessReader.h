@@ -10,10 +10,10 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FileDescriptor.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
 #include "platform/linux/CommandName.h"
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/NameReader.h"
 #include "platform/linux/ProcFiles.h"
 #include "platform/linux/ProcStat.h"

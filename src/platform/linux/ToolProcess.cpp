@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <utility>
 
-#include "platform/linux/ProcessHandle.h"
+#include "platform/FileDescriptor.h"
 
 namespace lurkwell {
 namespace {

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/FileDescriptor.h"
 #include "platform/Tools.h"
-#include "platform/linux/FileDescriptor.h"
 
 namespace lurkwell {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/FileDescriptor.h"
 #include "platform/ProcessFigures.h"
-#include "platform/linux/FileDescriptor.h"
 
 namespace lurkwell {
 
