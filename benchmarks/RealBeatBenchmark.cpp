@@ -18,8 +18,8 @@
 #include "IdleProcesses.h"
 #include "TableLikeClient.h"
 #include "consolidator/PI_Consolidator.h"
+#include "platform/FileDescriptor.h"
 #include "platform/linux/DescriptorLimit.h"
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/simulated/SimulatedMachine.h"
 
@@ -44,7 +44,7 @@ class BirthClient final : public ProcessInformationClient {
   }
   bool NeedPidProcProperty(int, const char*) override { return true; }
   bool NeedsEnds() override { return false; }
-  bool NeedsRenamings() override { return false; }
+  bool NeedsOnlyBirths() override { return true; }
   void NotifyProcessesHaveBeenUpdated() override {}
 };
 

@@ -19,15 +19,8 @@ constexpr Figure kCPUTimes[] = {FigureCalled("pid_user_time"), FigureCalled("pid
                                 FigureCalled("pid_terminated_user_time"),
                                 FigureCalled("pid_terminated_system_time")};
 
-bool OwnedByKind(const MetaProcessInformation& record, int kind) {
-  switch (kind) {
-    case kInformationKindPID:
-      return record.pid >= 0;
-    case kInformationKindCarbonPSN:
-      return !record.psn.IsNone();
-    default:
-      return false;
-  }
+void RetireUnlessSeen(MetaProcessInformation& record, std::size_t kind) {
+  if (record.lastSeenGeneration[kind] < gGenerationCount[kind]) gRecords.Invalidate(record);
 }
 
 void DeriveActiveTime(MetaProcessInformation& record) {
@@ -39,7 +32,8 @@ void DeriveActiveTime(MetaProcessInformation& record) {
 void DeriveName(MetaProcessInformation& record) {
   const char* commandName = record.pidInfo->commandName;
   if (std::strncmp(record.name, commandName, kCommandNameCapacity) == 0) return;
-  if (record.name[0] != '\0' && record.carbonInfo == nullptr) record.changedAppreciably = true;
+  if (record.name[0] != '\0' && record.carbonInfo == nullptr)
+    gRecords.NoteAppreciableChange(record);
   StoreText(record.name, std::string_view(commandName));
   record.NoteValueChange();
 }
@@ -83,18 +77,21 @@ void BeginProcessInformationIteration(int kind) {
 }
 
 void EndProcessInformationIteration(int kind) {
+  Require(kind >= 0 && kind < kInformationKindCount, kUnit, "false");
+  const auto index = static_cast<std::size_t>(kind);
   {
     const ConsolidatorGuard guard;
-    Require(kind >= 0 && kind < kInformationKindCount, kUnit, "false");
-    const auto generation = gGenerationCount[static_cast<std::size_t>(kind)];
-    for (auto& record : gRecords.Records()) {
-      if (OwnedByKind(record, kind) &&
-          record.lastSeenGeneration[static_cast<std::size_t>(kind)] < generation)
-        record.valid = false;
-      if (kind == kInformationKindPID && record.pid >= 0) Derive(record);
+    if (kind == kInformationKindPID) {
+      for (auto& record : gRecords.Records()) {
+        if (record.pid < 0) continue;
+        RetireUnlessSeen(record, index);
+        Derive(record);
+      }
+    } else if (kind == kInformationKindCarbonPSN) {
+      for (auto* record : gRecords.WithSerialNumber()) RetireUnlessSeen(*record, index);
     }
   }
-  gInformationKindGenerationMutex[static_cast<std::size_t>(kind)]->Exit();
+  gInformationKindGenerationMutex[index]->Exit();
 }
 
 }  // namespace lurkwell

@@ -28,6 +28,7 @@ bool AtOldRecords(RecordStore::List::iterator position) {
 /// Deletes records that were made and lost their validity within this heartbeat: for the clients
 /// they never existed. True when there were any.
 bool DeletePhantoms() {
+  if (!gRecords.AreAnyInvalid()) return false;
   bool deleted = false;
   auto previous = gRecords.Records().before_begin();
   for (auto at = std::next(previous); !AtOldRecords(at); at = std::next(previous)) {
@@ -48,14 +49,17 @@ void AnnounceNew() {
 }
 
 void AnnounceChanged() {
+  if (!gRecords.HaveAnyChanged()) return;
   for (auto& record : gRecords.Records()) {
     if (!record.changedAppreciably) continue;
     Client::NotifyAllPidHasChangedAppreciably(record.pid);
     record.changedAppreciably = false;
   }
+  gRecords.ChangesAreAnnounced();
 }
 
 bool RetireRemoved() {
+  if (!gRecords.AreAnyInvalid()) return false;
   bool removed = false;
   auto previous = gRecords.Records().before_begin();
   for (auto at = std::next(previous); at != gRecords.Records().end(); at = std::next(previous)) {

@@ -57,8 +57,9 @@ class ProcessInformationClient {
   /// Whether its turn needs to hear at once of every process that has ended. False for who follows
   /// some processes by their figures, or only those that are born: he hears of others' ends later.
   virtual bool NeedsEnds() { return true; }
-  /// Whether it matters when a process that is there changes its name.
-  virtual bool NeedsRenamings() { return true; }
+  /// Whether its turn needs nothing but who was born, with what a process has from its birth on.
+  /// Then it is not asked for anything else, and a beat for it alone costs next to nothing.
+  virtual bool NeedsOnlyBirths() { return false; }
 
   /// The processes that the user can see now: what takes long to read is read of these first.
   virtual std::vector<std::int32_t> PidsInSight() { return {}; }

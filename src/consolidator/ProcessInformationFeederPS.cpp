@@ -1,5 +1,6 @@
 #include "consolidator/ProcessInformationFeederPS.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <string_view>
@@ -47,17 +48,23 @@ void AppendWords(std::string_view line, std::vector<std::string>& list) {
 
 /// Begins a run for each column that clients need: those that are due at `dueAt`, or all for null.
 void StartNeededColumns(TimeValue now, const TimeValue* dueAt) {
+  auto clients = Client::DueClients(dueAt);
+  std::erase_if(clients, [](Client* client) { return client->NeedsOnlyBirths(); });
+  if (clients.empty()) return;
   const int count = GetPSHeaderCount();
   for (int i = 0; i < count; ++i) {
-    char header[kLongestPrintedHeader];
-    GetNthPSHeader(i, header, sizeof header, nullptr);
+    const auto& known = gPSHeaders.Nth(i);
+    const char* header = known.keyword.c_str();
+    // Nothing is derived from a column of ps, so that each client is asked for it alone.
+    const bool isNeeded = std::ranges::any_of(clients, [header](Client* client) {
+      return client->NeedPidsForProcProperty(header) != Client::kNeedNoPids;
+    });
     // The pid is the first column of every run anyway.
-    if (std::string_view(header) == "PID") continue;
-    if (Client::NeedAnyPidForProcProperty(header, dueAt) == Client::kNeedNoPids) continue;
+    if (!isNeeded || known.keyword == "PID") continue;
     Require(GetNthPSHeadersGeneratingOptionCount(i) > 0, kFeederUnit,
             "GetNthPSHeadersGeneratingOptionCount(i) > 0");
     // The values of the run before are the newest there can be.
-    if (gPSHeaders.Nth(i).hasNewestValues) EnsureThatPSProcPropertyExists(header, nullptr);
+    if (known.hasNewestValues) EnsureThatPSProcPropertyExists(header, nullptr);
     if (!gPSPrograms.MayStart(header, now)) continue;
     char option[kLongestKeyword + 1];
     GetNthPSHeadersNthGeneratingOption(i, 0, option, sizeof option);

@@ -15,6 +15,17 @@
 namespace lurkwell {
 namespace {
 
+/// Whether the application's record has all that and has been given it as this one's.
+bool IsReported(std::int32_t pid, ProcessSerialNumber psn,
+                const ApplicationInformation& information) {
+  const ConsolidatorGuard guard;
+  const auto* record = gRecords.GetExistingPIDInformation(pid);
+  if (record == nullptr || record->carbonInfo == nullptr || record->psn != psn) return false;
+  const auto& known = *record->carbonInfo;
+  return known.type == information.type && known.signature == information.signature &&
+         known.mode == information.mode && known.name == information.name;
+}
+
 void ReportApplication(ProcessSerialNumber psn, const ApplicationInformation& information) {
   const auto text = [](FourCharCode code) { return std::string(code.data(), code.size()); };
   char mode[16] = {};
@@ -45,7 +56,11 @@ void PSNExtractProcessInformation(TimeValue now) {
     if (Client::NeedAnyProcPropertyForPid(pid, &now) == Client::kNeedNoProcProperties) {
       Touch(pid, psn);
     } else if (const auto information = manager.GetProcessInformation(psn)) {
-      ReportApplication(psn, *information);
+      if (IsReported(pid, psn, *information)) {
+        Touch(pid, psn);
+      } else {
+        ReportApplication(psn, *information);
+      }
     }
   }
 }

@@ -51,7 +51,7 @@ void StoreCarbonName(MetaProcessInformation& record, const char* value) {
   StoreText(record.carbonInfo->name, value);
   // As wide as a command's.
   const auto name = WholeCharacters(value, kCommandNameCapacity - 1);
-  if (record.name[0] != '\0' && record.name != name) record.changedAppreciably = true;
+  if (record.name[0] != '\0' && record.name != name) gRecords.NoteAppreciableChange(record);
   StoreText(record.name, name);
 }
 
@@ -100,7 +100,7 @@ void ReportProcessInformationForCarbonPSN(ProcessSerialNumber psn, const char* p
   }
   if (record->carbonInfo == nullptr) {
     record->carbonInfo = std::make_unique<CarbonBlock>();
-    record->changedAppreciably = true;
+    gRecords.NoteAppreciableChange(*record);
   }
   gRecords.SetSerialNumber(*record, psn);
   record->lastSeenGeneration[kInformationKindCarbonPSN] =
@@ -123,7 +123,7 @@ void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::
   const ClassicRecord previous = std::exchange(*record.epir, ClassicRecord(bytes));
   record.previousClassicActiveTime = previous.ActiveTime();
   // Whoever shows an application has it from the desktop, often before its first report.
-  if (!record.epir->IsLike(previous)) record.changedAppreciably = true;
+  if (!record.epir->IsLike(previous)) gRecords.NoteAppreciableChange(record);
   if (pid <= -2) gClassicEstimate.Charge(record);
   record.NoteValueChange();
 }

@@ -1,6 +1,7 @@
 #include "consolidator/RecordStore.h"
 
 #include <iterator>
+#include <utility>
 
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
@@ -42,12 +43,23 @@ void RecordStore::SetSerialNumber(MetaProcessInformation& record, ProcessSerialN
   if (FindBySerialNumber(record.psn) == &record) mBySerialNumber.erase(record.psn);
   record.psn = psn;
   record.NoteValueChange();
-  if (!psn.IsNone()) mBySerialNumber[psn] = &record;
+  if (psn.IsNone()) {
+    mWithSerialNumber.erase(&record);
+    return;
+  }
+  mBySerialNumber[psn] = &record;
+  mWithSerialNumber.insert(&record);
+}
+
+void RecordStore::Invalidate(MetaProcessInformation& record) {
+  if (std::exchange(record.valid, false)) ++mInvalid;
 }
 
 RecordStore::List::iterator RecordStore::EraseAfter(List::iterator position) {
   auto& record = *std::next(position);
   if (FindBySerialNumber(record.psn) == &record) mBySerialNumber.erase(record.psn);
+  mWithSerialNumber.erase(&record);
+  if (!record.valid) --mInvalid;
   if (record.pid < 0) --mWithoutKernelPid;
   mByPid.erase(record.pid);
   mLastFound = nullptr;
@@ -57,8 +69,11 @@ RecordStore::List::iterator RecordStore::EraseAfter(List::iterator position) {
 void RecordStore::Clear() {
   mLastFound = nullptr;
   mWithoutKernelPid = 0;
+  mInvalid = 0;
+  mHaveAnyChanged = false;
   mByPid.clear();
   mBySerialNumber.clear();
+  mWithSerialNumber.clear();
   mRecords.clear();
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <forward_list>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "consolidator/MetaProcessInformation.h"
 
@@ -15,7 +16,8 @@ struct SerialNumberHash {
 };
 
 /// All records, newest first, with an index by pid and one by serial number, so that no look-up
-/// walks the list. Guarded by the consolidator's region.
+/// walks the list, and with marks that say whether a walk over all would find anything to announce.
+/// Guarded by the consolidator's region.
 class RecordStore {
  public:
   using List = std::forward_list<MetaProcessInformation>;
@@ -39,6 +41,22 @@ class RecordStore {
   MetaProcessInformation* FindBySerialNumber(ProcessSerialNumber psn);
   void SetSerialNumber(MetaProcessInformation& record, ProcessSerialNumber psn);
 
+  /// Those that carry a serial number, in no order.
+  const std::unordered_set<MetaProcessInformation*>& WithSerialNumber() const {
+    return mWithSerialNumber;
+  }
+
+  /// Clients no longer see the record, and hear of its end in this heartbeat.
+  void Invalidate(MetaProcessInformation& record);
+  bool AreAnyInvalid() const { return mInvalid > 0; }
+
+  /// Clients are told in this heartbeat that the record is not what it was.
+  void NoteAppreciableChange(MetaProcessInformation& record) {
+    record.changedAppreciably = mHaveAnyChanged = true;
+  }
+  bool HaveAnyChanged() const { return mHaveAnyChanged; }
+  void ChangesAreAnnounced() { mHaveAnyChanged = false; }
+
   /// Deletes the record after `position`; gives what then follows `position`.
   List::iterator EraseAfter(List::iterator position);
 
@@ -47,9 +65,12 @@ class RecordStore {
  private:
   List mRecords;
   std::size_t mWithoutKernelPid = 0;
+  std::size_t mInvalid = 0;
+  bool mHaveAnyChanged = false;
   std::unordered_map<std::int32_t, MetaProcessInformation*> mByPid;
   std::unordered_map<ProcessSerialNumber, MetaProcessInformation*, SerialNumberHash>
       mBySerialNumber;
+  std::unordered_set<MetaProcessInformation*> mWithSerialNumber;
   /// The record of the last look-up: reports come in runs for one pid.
   MetaProcessInformation* mLastFound = nullptr;
 };

@@ -14,6 +14,7 @@ SourceNeeds::SourceNeeds(TimeValue now)
 
 SourceNeeds::SourceNeeds(const Client::Clients& clients, FigureSources among) : mAmong(among) {
   for (auto* client : clients) {
+    if (client->NeedsOnlyBirths()) continue;
     mNeedsEnds |= client->NeedsEnds();
     mClients.push_back(NeedsOf(client));
   }
@@ -22,10 +23,8 @@ SourceNeeds::SourceNeeds(const Client::Clients& clients, FigureSources among) : 
 SourceNeeds::OfClient SourceNeeds::NeedsOf(Client* client) const {
   OfClient needs{.client = client, .itself = {client}, .ofAll = 0, .ofSome = {}};
   for (const auto& row : BuiltInProperties()) {
-    // The name of its birth is there without a look.
-    const bool isName = row.field == PidField{&PidBlock::commandName};
     const auto sources = row.sources & mAmong;
-    if (sources == 0 || (isName && !client->NeedsRenamings())) continue;
+    if (sources == 0) continue;
     const auto level = Client::NeedAnyPidForProcProperty(row.name.data(), needs.itself);
     if (level == Client::kNeedAllPids) needs.ofAll |= sources;
     if (level == Client::kNeedSomePids) needs.ofSome.push_back({row.name.data(), sources});

@@ -91,11 +91,14 @@ void VQTarvMainWindowInfoSynch::SetSeenInterval(std::int32_t milliseconds) {
 void VQTarvMainWindowInfoSynch::SetSeen(bool isSeen) {
   if (std::exchange(mIsSeen, isSeen) == isSeen) return;
   SetSeenInterval(ReadInt(kIntervalKey));
+  if (!isSeen) StopFlashing();
   if (isSeen && mHooked) RequestUpdate(this);
 }
 
 ProcessInformationClient::NeedLevel VQTarvMainWindowInfoSynch::NeedPidsForProcProperty(
     const char* key) {
+  // Out of sight it only keeps up with who is there; the first turn in sight reads the rest.
+  if (!mIsSeen) return kNeedNoPids;
   const bool needed = NeedPidProcProperty(kInvalidPID, key) || std::strcmp(key, "pid_rsz") == 0 ||
                       std::strcmp(key, "pid_vsz") == 0;
   return needed ? kNeedAllPids : kNeedNoPids;
@@ -219,6 +222,7 @@ std::vector<std::int32_t> VQTarvMainWindowInfoSynch::PidsInSight() {
 }
 
 void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
+  if (!mIsSeen) return mOwner.commitChanges();
   RefreshRows();
   gNewColumnWasAddedRecently = false;
   mOwner.noteStaleColumns();

@@ -84,6 +84,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   bool NeedPidProcProperty(int pid, const char* key) override;
   std::vector<std::int32_t> PidsInSight() override;
   void NotifyProcessesHaveBeenUpdated() override;
+  bool NeedsEnds() override { return mIsSeen; }
   const char* TypeName() const override { return "VQTarvMainWindowInfoSynch"; }
 
   /// Begins and ends being served by the consolidator; either does nothing when it is so already.

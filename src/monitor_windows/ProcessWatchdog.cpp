@@ -54,13 +54,14 @@ void ProcessWatchdog::NotifyPidHasBeenRemoved(int pid) {
   mKinds.ProcessHasEnded(pid);
 }
 
-bool ProcessWatchdog::NeedsRenamings() {
+/// While a program is waited for, each process that is there may become it.
+bool ProcessWatchdog::NeedsOnlyBirths() {
   const auto remembered =
       GetPrefArrayCount(kCPUHistoryWindowKind) + GetPrefArrayCount(kLoggingWindowKind);
   if (std::exchange(mHaveProgramsChanged, false) || remembered != mRemembered)
     mIsOneWaiting = remembered > 0 && IsOneWaiting();
   mRemembered = remembered;
-  return mIsOneWaiting;
+  return !mIsOneWaiting;
 }
 
 bool ProcessWatchdog::IsOneWaiting() {

@@ -24,7 +24,7 @@ class ProcessWatchdog final : public ProcessInformationClient {
   bool NeedPidProcProperty(int pid, const char* property) override;
   bool NeedsEnds() override { return false; }
   /// While a window waits for its program: a script starts it some time after its own birth.
-  bool NeedsRenamings() override;
+  bool NeedsOnlyBirths() override;
   void NotifyProcessesHaveBeenUpdated() override;
   const char* TypeName() const override { return "ProcessWatchdog"; }
 

@@ -40,7 +40,7 @@ class RecordingClient : public ProcessInformationClient {
   }
 
   bool NeedsEnds() override { return !mWaitsForBirths; }
-  bool NeedsRenamings() override { return !mWaitsForBirths; }
+  bool NeedsOnlyBirths() override { return mWaitsForBirths; }
   void NotifyPidHasBeenAdded(int pid) override { Tell("added", pid); }
   void NotifyPidHasBeenRemoved(int pid) override {
     Tell("removed", pid);
