@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/CostlyFigures.h"
-#include "platform/linux/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
