@@ -1999,6 +1999,46 @@
         <source></source>
         <translation>Lurkwell Help</translation>
     </message>
+    <message id="help_no_key">
+        <source></source>
+        <translation>(no key is set for it)</translation>
+    </message>
+    <message id="help_menu_process_quit_or_kill">
+        <source></source>
+        <translation>quit or kill the selected processes</translation>
+    </message>
+    <message id="help_menu_edit_filter">
+        <source></source>
+        <translation>show only processes with some text; Escape shows all</translation>
+    </message>
+    <message id="help_menu_process_by_id">
+        <source></source>
+        <translation>go to a process by its ID</translation>
+    </message>
+    <message id="help_menu_edit_copy">
+        <source></source>
+        <translation>copy the selected rows</translation>
+    </message>
+    <message id="help_menu_file_new_cpu_history">
+        <source></source>
+        <translation>a CPU history of each selected process</translation>
+    </message>
+    <message id="help_menu_file_new_logging">
+        <source></source>
+        <translation>a log of each selected process</translation>
+    </message>
+    <message id="help_menu_view_overlay">
+        <source></source>
+        <translation>the animated view over the whole screen, and away again</translation>
+    </message>
+    <message id="help_menu_file_close_window">
+        <source></source>
+        <translation>close the window; the last one quits</translation>
+    </message>
+    <message id="help_menu_application_quit">
+        <source></source>
+        <translation>quit; what is open comes back at the next start</translation>
+    </message>
     <message id="main_window_help_missing">
         <source></source>
         <translation>The help page cannot be read: %1</translation>

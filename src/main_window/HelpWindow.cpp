@@ -1,28 +1,97 @@
 #include "main_window/HelpWindow.h"
 
+#include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QPointer>
+#include <QSaveFile>
 #include <QShortcut>
+#include <QStandardPaths>
+#include <QStringList>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "main_window/CommandTable.h"
 #include "resources/Resources.h"
 #include "windows/ControlledWindow.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/OverlayKey.h"
 #include "windows/WindowFrame.h"
 
 namespace lurkwell {
+namespace {
 
-bool ShowHelpWindow(const QString& page, QWidget& owner) {
+constexpr QLatin1String kKeysMark("<!-- keys of commands -->");
+constexpr QLatin1String kOverlayKeyMark("<kbd class=\"overlay\">F7</kbd>");
+
+/// "Ctrl+Shift+H" with each key marked as one.
+QString MarkedKeys(const QKeySequence& keys) {
+  auto text = keys.toString(QKeySequence::NativeText);
+  // The key between the signs may be their own.
+  const bool endsWithPlus = text.endsWith(QLatin1String("++"));
+  if (endsWithPlus) text.chop(2);
+  auto names = text.split(QLatin1Char('+'));
+  if (endsWithPlus) names.append(QStringLiteral("+"));
+  for (auto& name : names)
+    name = QLatin1String("<kbd>") + name.toHtmlEscaped() + QLatin1String("</kbd>");
+  return names.join(QLatin1Char('+'));
+}
+
+QString PurposeOf(const Command& command) {
+  const auto id = QByteArray("help_") + command.text;
+  if (HasLocalizedString(id)) return LocalizedString(id);
+  auto title = LocalizedString(command.text);
+  return title.remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+}
+
+QString KeysOfCommands() {
+  QString rows;
+  for (const auto& command : Commands()) {
+    const auto keys = command.Shortcut();
+    if (!keys.isEmpty())
+      rows += QLatin1String("<tr><td>") + MarkedKeys(keys) + QLatin1String("</td><td>") +
+              PurposeOf(command).toHtmlEscaped() + QLatin1String("</td></tr>\n");
+  }
+  return rows;
+}
+
+/// Gives the page to the desktop's browser, in a file that is its own.
+bool ShowInBrowser(const QString& page) {
+  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+                    QLatin1String("/lurkwell"));
+  QSaveFile file(folder.filePath(QStringLiteral("Documentation.html")));
+  const auto bytes = page.toUtf8();
+  return folder.mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
+         file.write(bytes) == bytes.size() && file.commit() &&
+         QDesktopServices::openUrl(QUrl::fromLocalFile(file.fileName()));
+}
+
+}  // namespace
+
+QString FillHelpPage(QString page) {
+  const auto overlay = OverlayKey();
+  return page.replace(kKeysMark, KeysOfCommands())
+      .replace(kOverlayKeyMark,
+               overlay.isEmpty() ? LocalizedString("help_no_key") : MarkedKeys(overlay));
+}
+
+bool ShowHelp(const QString& file, QWidget& owner) {
+  QFile source(file);
+  if (!source.open(QIODevice::ReadOnly)) return false;
+  const auto page = FillHelpPage(QString::fromUtf8(source.readAll()));
+  if (!ShowInBrowser(page)) ShowHelpWindow(page, owner);
+  return true;
+}
+
+void ShowHelpWindow(const QString& page, QWidget& owner) {
   static QPointer<ControlledWindow> sWindow;
   if (sWindow == nullptr) {
-    if (!QFile(page).open(QIODevice::ReadOnly)) return false;
     sWindow = new ControlledWindow(&owner);
     sWindow->setWindowTitle(LocalizedString("help_title"));
     auto* text = new QTextBrowser(sWindow);
     text->setAccessibleName(sWindow->windowTitle());
-    text->setSource(QUrl::fromLocalFile(page));
+    text->setHtml(page);
     auto* layout = new QVBoxLayout(sWindow);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(text);
@@ -34,7 +103,6 @@ bool ShowHelpWindow(const QString& page, QWidget& owner) {
         FitOnScreens(QSize(metrics.averageCharWidth() * 80, metrics.lineSpacing() * 40)));
   }
   BringToFront(*sWindow);
-  return true;
 }
 
 }  // namespace lurkwell

@@ -6,9 +6,18 @@ class QWidget;
 
 namespace lurkwell {
 
-/// Shows the help page in a window of the program's own, for desktops without anything that shows
-/// pages. One window at a time, above its owner; closed, it deletes itself. False when the page
-/// cannot be read. Main thread.
-bool ShowHelpWindow(const QString& page, QWidget& owner);
+// The help page. Main thread.
+
+/// The page with what it says about keys filled in: those of the table of commands, and the one of
+/// the preferences that lays the animated view over the screen.
+QString FillHelpPage(QString page);
+
+/// Shows the page of that file, filled in, in the desktop's browser, and where there is none, or
+/// none can be given a page, in a window of the program's own. False when it cannot be read.
+bool ShowHelp(const QString& file, QWidget& owner);
+
+/// Shows a page in a window of the program's own. One window at a time, above its owner; closed, it
+/// deletes itself.
+void ShowHelpWindow(const QString& page, QWidget& owner);
 
 }  // namespace lurkwell

@@ -3,12 +3,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -157,8 +155,7 @@ void MainWindow::closeFollowingWindows() {
 void MainWindow::showHelp() {
   const auto page = QString::fromStdString(TheMachine().bundle.Path() +
                                            "/Contents/Resources/Documentation/Documentation.html");
-  if (QDesktopServices::openUrl(QUrl::fromLocalFile(page))) return;
-  if (!ShowHelpWindow(page, *this)) Report(LocalizedString("main_window_help_missing").arg(page));
+  if (!ShowHelp(page, *this)) Report(LocalizedString("main_window_help_missing").arg(page));
 }
 
 void MainWindow::toggleToolbar() {

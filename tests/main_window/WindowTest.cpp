@@ -1,8 +1,8 @@
 // The window as a whole, and the order of windows.
+#include <QFile>
 #include <QLabel>
 #include <QScreen>
 #include <QStatusBar>
-#include <QTemporaryFile>
 #include <QTextBrowser>
 
 #include "channel/DaemonChannel.h"
@@ -77,18 +77,33 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
 
 TEST_F(WindowTest, HelpNeedsNoBrowser) {
   Open();
-  QTemporaryFile page;
-  ASSERT_TRUE(page.open());
-  page.write("<html><body><h1>Heading</h1></body></html>");
-  page.close();
   const auto browsers = [this] { return window->findChildren<QTextBrowser*>(); };
-  for (int time = 0; time < 2; ++time) EXPECT_TRUE(ShowHelpWindow(page.fileName(), *window));
+  for (int time = 0; time < 2; ++time) ShowHelpWindow(QStringLiteral("<h1>Heading</h1>"), *window);
   ASSERT_EQ(browsers().size(), 1) << "one window";
   EXPECT_EQ(browsers().first()->toPlainText(), QLatin1String("Heading"));
   browsers().first()->window()->close();
   EXPECT_TRUE(QTest::qWaitFor([&] { return browsers().isEmpty(); }));
-  EXPECT_FALSE(ShowHelpWindow(QStringLiteral("/nonexistent/page.html"), *window));
+  Choose("menu_help_help");
   EXPECT_TRUE(browsers().isEmpty());
+  EXPECT_TRUE(window->statusBar()->currentMessage().contains("Documentation.html"))
+      << "this machine's bundle has no page";
+}
+
+TEST_F(WindowTest, TheHelpPageTellsTheKeysThatThereAre) {
+  QFile file(QStringLiteral(SOURCE_FOLDER "/resources/Documentation/Documentation.html"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const auto page = QString::fromUtf8(file.readAll());
+  const auto has = [](const QString& filled, const char* text) {
+    return filled.contains(QString::fromUtf8(text));
+  };
+  auto filled = FillHelpPage(page);
+  EXPECT_TRUE(has(filled, "<td><kbd>Ctrl</kbd>+<kbd>+</kbd></td><td>High Priority</td>"));
+  EXPECT_TRUE(has(filled, "<p><kbd>F7</kbd>, pressed"));
+  SetPrefInt("FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE", 100);
+  filled = FillHelpPage(page);
+  EXPECT_TRUE(has(filled, "<p><kbd>F12</kbd>, pressed"));
+  EXPECT_TRUE(has(filled, "<td><kbd>F12</kbd></td><td>the animated view over"));
+  EXPECT_FALSE(has(filled, "F7"));
 }
 
 TEST_F(WindowTest, OutOfSightItOnlyKeepsUpWithWhoIsThereATenthAsOften) {
