@@ -1663,6 +1663,10 @@
         <source></source>
         <translation>Select &amp;All</translation>
     </message>
+    <message id="menu_edit_select_children">
+        <source></source>
+        <translation>Select Chil&amp;dren</translation>
+    </message>
     <message id="menu_edit_filter">
         <source></source>
         <translation>&amp;Filter…</translation>
@@ -2102,6 +2106,14 @@
     <message id="main_window_nothing_to_reveal_with">
         <source></source>
         <translation>Nothing can be asked to show the file: there is no session bus, or the program has gone.</translation>
+    </message>
+    <message id="main_window_no_children">
+        <source></source>
+        <translation>None of the selected processes has a child.</translation>
+    </message>
+    <message id="main_window_hidden_children">
+        <source></source>
+        <translation>%1 of the children are hidden by the filter.</translation>
     </message>
     <message id="main_window_preferences">
         <source></source>
@@ -2606,6 +2618,14 @@ Free: %5</translation>
     <message id="toolbar_cont_tip">
         <source></source>
         <translation>Lets the selected processes that were halted go on.</translation>
+    </message>
+    <message id="toolbar_select_children">
+        <source></source>
+        <translation>Children</translation>
+    </message>
+    <message id="toolbar_select_children_tip">
+        <source></source>
+        <translation>Selects the processes that the selected ones have started, instead of these.</translation>
     </message>
     <message id="toolbar_prefs">
         <source></source>

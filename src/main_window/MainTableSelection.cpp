@@ -101,6 +101,20 @@ bool vqMainTableController::selectPid(std::int32_t pid) {
   return true;
 }
 
+std::size_t vqMainTableController::selectPids(const std::vector<std::int32_t>& pids) {
+  const auto first = std::ranges::min(pids, {}, [this](std::int32_t pid) {
+    const auto* row = fRows.Find(pid);
+    return row != nullptr && row->shownIndex >= 0 ? row->shownIndex : rowCount();
+  });
+  const auto* row = fRows.Find(first);
+  if (row == nullptr || row->shownIndex < 0) return 0;
+  fRememberedSelectionPIDs = pids;
+  restoreSelection();
+  moveFocusTo(row);
+  fTable->scrollTo(index(row->shownIndex, std::max(fTable->currentIndex().column(), 0)));
+  return selectedPids().size();
+}
+
 void vqMainTableController::moveFocusTo(const RowDictionary* row) {
   if (row == nullptr || row->shownIndex < 0) return;
   const int column = std::max(fTable->currentIndex().column(), 0);

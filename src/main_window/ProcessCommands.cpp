@@ -3,6 +3,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
+#include <unordered_set>
+#include <variant>
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/WholeNames.h"
@@ -129,6 +131,22 @@ void ProcessCommands::NewCPUHistoryWindow() {
 void ProcessCommands::NewLoggingWindow() {
   const auto interval = ReadInt("DEFAULT_LOGGING_WINDOW_INTERVAL");
   Follow(&MonitorWindows::CreateLoggingWindow, interval);
+}
+
+void ProcessCommands::SelectChildren() {
+  const auto selected = mSelection.selectedPids();
+  const std::unordered_set<std::int32_t> parents(selected.begin(), selected.end());
+  std::vector<std::int32_t> children;
+  for (const auto pid : PidBlob()) {
+    const auto value = GetPIDPropertyTypedValue(pid, "pid_parent_pid");
+    const auto* parent = std::get_if<std::int64_t>(&value);
+    if (parent != nullptr && parents.contains(static_cast<std::int32_t>(*parent)))
+      children.push_back(pid);
+  }
+  if (children.empty()) return mSelection.report(LocalizedString("main_window_no_children"));
+  const auto shown = mSelection.selectPids(children);
+  if (shown < children.size())
+    mSelection.report(LocalizedString("main_window_hidden_children").arg(children.size() - shown));
 }
 
 bool ProcessCommands::AnyPIDs() const {

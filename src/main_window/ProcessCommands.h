@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -20,6 +21,9 @@ class ProcessSelection {
   virtual bool isAnyRowSelected() const = 0;
   /// In the order of the rows, without those whose processes have ended.
   virtual std::vector<std::int32_t> selectedPids() const = 0;
+  /// Selects these and no others, as far as they have rows that can be shown, and scrolls to the
+  /// first; gives how many. None: the selection stays.
+  virtual std::size_t selectPids(const std::vector<std::int32_t>& pids) = 0;
   virtual QWidget* parentOfQuestions() const = 0;
   /// While something holds the order, rows stay where they are.
   virtual void holdOrder(const QObject* holder, bool hold) = 0;
@@ -67,6 +71,8 @@ class ProcessCommands {
   void Reveal();
   void NewCPUHistoryWindow();
   void NewLoggingWindow();
+  /// Selects the processes whose parents are selected instead of these.
+  void SelectChildren();
 
  private:
   /// Carries out a command, once the user has agreed where needed.

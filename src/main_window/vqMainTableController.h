@@ -210,6 +210,7 @@ class vqMainTableController final : public vqTableController,
   void CellsChanged(int firstRow, int lastRow) override;
 
   bool isAnyRowSelected() const override { return hasSelection(); }
+  std::size_t selectPids(const std::vector<std::int32_t>& pids) override;
   QWidget* parentOfQuestions() const override { return window(); }
   void processesHaveChanged(const std::vector<std::int32_t>& pids) override;
   void report(const QString& text) override { Q_EMIT reported(text); }

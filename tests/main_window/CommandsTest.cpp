@@ -323,6 +323,28 @@ TEST_F(CommandsTest, CopyTakesTheSelectedRowsAsTheyAreShown) {
   controller().holdOrder(&menu, false);
 }
 
+TEST_F(CommandsTest, ChildrenAreSelectedInsteadOfTheirParents) {
+  for (const auto& [pid, parent] : {std::pair(301, 300), std::pair(302, 300), std::pair(303, 301)})
+    machine.processTable.Birth(pid, "p" + std::to_string(pid), parent);
+  OpenWith({300});
+  Select({300});
+  Choose("menu_edit_select_children");
+  EXPECT_EQ(Selected(), "301 302");
+  Choose("menu_edit_select_children");
+  EXPECT_EQ(Selected(), "303");
+  Choose("menu_edit_select_children");
+  EXPECT_EQ(Selected(), "303") << "there are none";
+  EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("None of"));
+  Select({300});
+  window->filterField().setText(QStringLiteral("p30"));
+  machine.processTable.Birth(304, "hidden", 300);
+  Turn();
+  controller().toolbar()->SetItems({QStringLiteral("vqToolbarSelectChildren")});
+  controller().toolbar()->items().first()->trigger();
+  EXPECT_EQ(Selected(), "301 302");
+  EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("1 of the children"));
+}
+
 TEST_F(CommandsTest, UpdateNowDoesNotWaitForTheInterval) {
   OpenWith({300});
   machine.processTable.Birth(301, "new");

@@ -88,11 +88,11 @@ TEST_F(ToolbarTest, HoldsAllThatIsAllowedAndButtonsReachTheSelection) {
   window->table().clearSelection();
   EXPECT_EQ(Labels(),
             "CPU* Memory* Swapping* CPU History Log Bring to Front Kill Hide Show File High Normal "
-            "Low Halt Continue Preferences* Separator* Space* Flexible Space* Customise*");
+            "Low Halt Continue Children Preferences* Separator* Space* Flexible Space* Customise*");
   Select({300});
   EXPECT_EQ(Labels(),
             "CPU* Memory* Swapping* CPU History* Log* Bring to Front Kill* Hide Show File High* "
-            "Normal* Low* Halt* Continue Preferences* Separator* Space* Flexible Space* "
+            "Normal* Low* Halt* Continue Children* Preferences* Separator* Space* Flexible Space* "
             "Customise*");
   machine.log.Clear();
   Toolbar().items()[9]->trigger();
@@ -121,7 +121,7 @@ TEST_F(ToolbarTest, IsArrangedByKeyboardAndComesBackSo) {
       << "nothing is disabled while it is arranged";
   auto& available = *dialog.findChild<ToolbarItemList*>("available");
   auto& current = *dialog.findChild<ToolbarItemList*>("current");
-  EXPECT_EQ(available.count(), 19);
+  EXPECT_EQ(available.count(), 20);
   Take(current, "Swapping");
   Take(available, "Kill");
   QTest::keyClick(&available, Qt::Key_Return);
