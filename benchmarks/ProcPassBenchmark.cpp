@@ -96,7 +96,7 @@ void ProcessTablePass(benchmark::State& state) {
   state.counters["kept"] = static_cast<double>(table.KeptDescriptors());
 }
 
-/// The first pass reads the files of everybody.
+/// The first pass reads the files of all processes.
 void FirstPass(benchmark::State& state, FigureSources sources) {
   RaiseDescriptorLimit();
   const IdleProcesses idle(state.range(0));

@@ -24,7 +24,7 @@ FLOORS = [
 # A module is a header and its source. So many of a folder may include each other in a circle: a
 # number to be lowered, never raised.
 IN_CYCLES = {"channel": 4, "consolidator": 24, "query": 2}
-# Know the interfaces of platform and nobody else; only main.cpp and the tests name them.
+# Know the interfaces of platform and nothing else; only main.cpp and the tests name them.
 MACHINES = {"platform/linux", "platform/desktop", "platform/simulated"}
 # Programs of their own.
 PROGRAMS = {"helper", "permission_step", "classic_nub"}

@@ -24,7 +24,7 @@ def main(arguments):
             continue
         cases = xml.etree.ElementTree.parse(report).findall("testcase")
         failed = [case for case in cases if case.get("status") == "fail"]
-        # A program that was not built counts as a failure: nobody decided to leave it out.
+        # A program that was not built counts as a failure: it was not left out on purpose.
         odd = [case for case in cases if case.get("status") not in ("run", "fail")]
         for case in odd:
             reason = case.find("skipped")

@@ -106,7 +106,7 @@ TEST(Placement, FindsThePlainSearchsPlaces) {
       shown = Population(seed, 30);
       std::uniform_real_distribution<double> unit;
       for (int pid = 100; pid < 160; ++pid) {
-        // Parents among the shown, the new, nobody, and missing ones.
+        // Parents among the shown and the new, none at all, and missing ones.
         const int parents[] = {static_cast<int>(random() % 30),
                                100 + static_cast<int>(random()) % 60, -1, 9999};
         const int parent = parents[random() % 4];
@@ -162,7 +162,7 @@ TEST(Placement, MissingAndCircularParentsAreSurvived) {
   SumOfForcesOnIndividualQIPI(*fresh.Find(0), fresh, with, unused);
   fresh.Remove(10, [](Info&) {});
   SumOfForcesOnIndividualQIPI(*fresh.Find(0), fresh, without, unused);
-  EXPECT_EQ(with, without) << "what has no place pushes nobody";
+  EXPECT_EQ(with, without) << "what has no place pushes nothing";
 }
 
 TEST(Placement, LongAncestriesNeedNoStackAndComeInSlices) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "resources/Resources.h"
+#include "support/EventLoop.h"
 #include "support/TestDisplay.h"
 
 namespace lurkwell {
@@ -27,12 +28,7 @@ class OnADisplay : public testing::Test {
 
   /// Serves the windows until it is so.
   static bool Becomes(const std::function<bool()>& condition, double seconds = 10) {
-    return ComesTrue(
-        [&] {
-          QApplication::processEvents();
-          return condition();
-        },
-        seconds);
+    return SoonTrue(condition, seconds);
   }
   static void Serve(int milliseconds) {
     Becomes([] { return false; }, milliseconds / 1000.0);

@@ -90,7 +90,7 @@ TEST_F(ClassicWatchdogTest, LaunchesTheNubTellsItAndLaunchesItAgain) {
   EXPECT_EQ(Look(), kClassicNubTold);
   EXPECT_EQ(Sent(), kControl);
   EXPECT_EQ(gClassicNubPid, -3);
-  // Somebody else says that he is the nub, too; then the nub is another one.
+  // Another program says that it is the nub, too; then the nub is replaced.
   Nub({2, 4});
   EXPECT_EQ(Look(), kClassicNubTold);
   EXPECT_EQ(Sent(), "");

@@ -140,7 +140,7 @@ TEST(BusProbe, WaitsForOneThatIsBusyAndTriesEachAddress) {
   EXPECT_FALSE(DoesBusAnswer(none));
   EXPECT_TRUE(DoesBusAnswer(none + bus.Address()));
 
-  // As many callers as it has room for, and nobody who serves them yet.
+  // As many callers as it has room for, none of them served yet.
   const std::string name = "lurkwell-busy-bus-" + std::to_string(::getpid());
   sockaddr_un place{};
   place.sun_family = AF_UNIX;
@@ -180,9 +180,9 @@ TEST(EventBus, WithoutABusThereIsALineAndNothingElse) {
             "lurkwell: no session bus, so no events from other programs\n");
 }
 
-// Session buses let nobody else in; this one does, so that a stranger can try.
+// Session buses refuse other users; this one does not, so that a stranger can try.
 TEST(EventBus, HearsNobodyElsesPrograms) {
-  ASSERT_EQ(::geteuid(), 0U) << "needs root to become somebody else";
+  ASSERT_EQ(::geteuid(), 0U) << "needs root to become another user";
   const OpenBus bus;
   const std::string& address = bus.Address();
   Ends ends(address);

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -212,6 +213,23 @@ TEST_F(ClassicPrograms, GuestsComeRunAndEndWhateverDiesMeanwhile) {
   EXPECT_TRUE(SoonTrue([] { return PidOf("ClassicProcessInfoNub") == kInvalidPID; }));
   EXPECT_TRUE(SoonTrue([&] { return NubPids(bus).empty(); }));
   EXPECT_EQ(Value(PidOf("Guest"), "meta_kind"), "Classic");
+}
+
+TEST_F(ClassicPrograms, AFloodOfGuestsIsBoundedAndGoes) {
+  EnvironmentProgram environment(bus);
+  environment.Say("guest 2 1 FNDR MACS 1000 500 45 Finder");
+  EXPECT_TRUE(SoonTrue([] { return Value(-2, "classicpsn_size") == "1000"; }));
+  environment.Say("flood 100000 6000");
+  std::int32_t most = 0, guests = 0;
+  EXPECT_TRUE(SoonTrue([&] {
+    guests = static_cast<std::int32_t>(
+        std::ranges::count_if(PidBlob(), [](std::int32_t pid) { return pid < kInvalidPID; }));
+    most = std::max(most, guests);
+    return most > 3000 && guests < 10;
+  })) << most;
+  EXPECT_LE(most, static_cast<std::int32_t>(kMostClassicApplications));
+  environment.Say("flood 0 0");
+  EXPECT_EQ(gClassicWatchdogState, kClassicNubTold);
 }
 
 TEST_F(ClassicPrograms, TheNubEndsWithTheProgramThatItServes) {

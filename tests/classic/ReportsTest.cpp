@@ -33,7 +33,8 @@ TEST_F(ClassicReports, GuestsLiveAsLongAsTheDesktopListsThem) {
   Add("client", 1000).NeedsEverything();
   EXPECT_NE(Told(1000).find("client added -2\n"), std::string::npos);
   EXPECT_EQ(Value(-2, "classicpsn_name"), "()");
-  // One byte more than a record; a record without a number; one of an application nobody lists.
+  // One byte more than a record; a record without a number; one of an application that is not
+  // listed.
   auto report = ClassicBytes({2, 1}, "SimpleText", 77);
   report.push_back(std::byte{1});
   Report(report);
@@ -45,8 +46,8 @@ TEST_F(ClassicReports, GuestsLiveAsLongAsTheDesktopListsThem) {
   // Nor is anything known of a process of the kernel's from here.
   Report(ClassicBytes({5, 1}, "Claims", 1));
   EXPECT_EQ(Value(1, "classicpsn_name"), "()");
-  // Came and went between two heartbeats: nobody hears of it.
-  // But who has shown the other one from the desktop's list hears that there is more.
+  // Came and went between two heartbeats: no client hears of it.
+  // But a client that shows the other one, from the desktop's list, hears that there is more.
   EXPECT_EQ(Told(1000), "client changed -2\nclient updated\n");
   EXPECT_EQ(Value(-3, "meta_kind"), "[]");
   Report(ClassicBytes({2, 1}, "SimpleText", 78));
@@ -162,7 +163,7 @@ TEST_F(ClassicReports, ReportsBeyondTheTableOfMadeUpPidsKeepTheirRecords) {
   for (std::uint32_t i = 1; i <= 200; ++i)
     machine.processManager.Launch({2, i}, std::nullopt, "Guest");
   StartClassic();
-  // Nobody needs them, so they are only touched.
+  // No client needs them, so they are only touched.
   Add("client", 1000);
   Told(1000);
   EXPECT_EQ(Told(5000),

@@ -9,7 +9,7 @@
 //
 //   refuse COUNT       answers so many questions for its guests with an error
 //
-//   flood COUNT EACH   tells the nub, when it asks, of so many guests that nobody lists, in so
+//   flood COUNT EACH   tells the nub, when it asks, of so many guests that are not listed, in so
 //                      large pieces, each time others
 //
 // It answers each with "ok", and ends with its input.

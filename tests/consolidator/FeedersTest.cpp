@@ -229,13 +229,13 @@ TEST_F(PSFeederTest, ANeededColumnIsOneRunAndItsValuesKeepTheirNewline) {
   Add("client", 1000).Needs({"RSZ", "PID"});
   EXPECT_EQ(Accesses(1000),
             "ProcessTable.Read\nProcessTable.Read\nTools.Start /bin/ps -axww -o pid,rsz\n");
-  EXPECT_EQ(Value(1, "RSZ"), "()") << "nobody waits for ps";
+  EXPECT_EQ(Value(1, "RSZ"), "()") << "there is no waiting for ps";
   EXPECT_EQ(Accesses(1000), "ProcessTable.Read\nTools.Start /bin/ps -axww -o pid,rsz\n");
   EXPECT_EQ(Value(1, "RSZ"), "123\n");
   EXPECT_EQ(Value(60, "RSZ"), "45 6 \n");
   EXPECT_EQ(Value(61, "RSZ"), "");
   EXPECT_EQ(Value(0, "RSZ"), "()");
-  EXPECT_EQ(Value(60, "TT"), "()") << "known, but nobody needed it";
+  EXPECT_EQ(Value(60, "TT"), "()") << "known, but not needed";
   bool current = false;
   GetNthPSHeader(2, nullptr, 0, &current);
   EXPECT_TRUE(current);
@@ -253,7 +253,7 @@ TEST_F(PSFeederTest, WhoeverAskedIsServedWhenPsHasAnswered) {
   RequestUpdate(&client);
   std::string seen;
   client.onPSColumns = [&] { seen += ArePSColumnsKnown() ? Value(60, "TT") : "too early"; };
-  EXPECT_EQ(Told(500), "client updated\n") << "ps is waited for by nobody";
+  EXPECT_EQ(Told(500), "client updated\n") << "there is no waiting for ps";
   EXPECT_EQ(seen + std::to_string(GetPSHeaderCount()), "0");
   machine.tools.SetStuck("/bin/ps -Lww", false);
   EXPECT_EQ(Told(100), "") << "no turn is made for it";

@@ -360,7 +360,7 @@ TEST_F(PropertiesTest, ADeadParentCountsAsUnknownAndNoWalkMeetsAGap) {
   table.Birth(20, "parent");
   table.Birth(21, "child", 20);
   Start();
-  // Nobody needs the child, so its parent is not reported again after the first client has gone.
+  // No client needs the child, so its parent is not reported again after the first client has gone.
   auto& first = Add("first", 1000).Needs({"meta_name"});
   machine.runLoop.RunFor(15'000);
   EXPECT_EQ(Value(21, "pid_parent_pid"), "20");

@@ -62,7 +62,7 @@ class RealMachineTest : public ConsolidatorTest {
 TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
   const ChildProgram sleeper({"sleep", "1000"});
   Start();
-  EXPECT_EQ(GetPSHeaderCount(), 0) << "nobody waits for ps";
+  EXPECT_EQ(GetPSHeaderCount(), 0) << "there is no waiting for ps";
   AwaitPSColumns(std::chrono::seconds(20));
   ASSERT_GT(GetPSHeaderCount(), 80);
   std::map<std::string, std::string> optionOf;
@@ -101,7 +101,7 @@ TEST_F(RealMachineTest, EveryColumnOfPsHasTheValueThatPsPrints) {
         // The pid's own column is not fetched.
         if (header == "PID") return true;
         const auto value = Trimmed(Value(sleeper.Pid(), header.c_str()));
-        // What is shared or its own changes with whoever else runs the same programs, our own ps
+        // What is shared or its own changes with every process of the same programs, our own ps
         // among them.
         if (header == "PSS" || header == "USS") return std::stoi(value) > 0;
         return value == before[header] || value == direct(optionOf[header]);

@@ -39,7 +39,7 @@ TEST_F(ScriptedMachineTest, ABeatForBirthsAloneIsNoListingWhereTheKernelTellsOfN
   EXPECT_EQ(after(1000), "watchdog added 41\nwatchdog updated\n");
   EXPECT_EQ(proc->listings, 1);
   after(1000);
-  // Nobody waits for ends, until somebody does.
+  // No client waits for ends, until one does.
   proc->End(41);
   EXPECT_EQ(after(2000), "watchdog updated\nwatchdog updated\n");
   EXPECT_EQ(proc->listings, 0);

@@ -9,6 +9,7 @@
 #include "desktop/TestBus.h"
 #include "platform/desktop/DesktopHotKeys.h"
 #include "platform/desktop/XConnection.h"
+#include "support/EventLoop.h"
 #include "support/TestDisplay.h"
 
 namespace lurkwell {
@@ -19,13 +20,6 @@ constexpr std::uint32_t kF8Code = 100;
 constexpr std::uint32_t kF7Symbol = 0xffc4;
 constexpr std::uint32_t kFreeKey = 93;
 constexpr std::uint8_t kOtherFreeKey = 97;
-
-bool Becomes(const std::function<bool()>& condition) {
-  return ComesTrue([&] {
-    QCoreApplication::processEvents();
-    return condition();
-  });
-}
 
 /// A display with a window manager, nothing else on it, and keys pressed through the server's test
 /// extension.
@@ -52,20 +46,20 @@ TEST_F(HotKeysTest, ReachAProgramWithoutAWindowWhateverLocksAreOn) {
   ASSERT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++plain; }));
   ASSERT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kCommandModifier, [&] { ++super; }));
   Press("F7");
-  EXPECT_TRUE(Becomes([&] { return plain == 1; }));
+  EXPECT_TRUE(SoonTrue([&] { return plain == 1; }));
   Press("super+F7");
-  EXPECT_TRUE(Becomes([&] { return super == 1; }));
+  EXPECT_TRUE(SoonTrue([&] { return super == 1; }));
   for (const auto* lock : {"Caps_Lock", "Num_Lock"}) {
     Press(lock);
     Press("F7");
     Press("super+F7");
   }
-  EXPECT_TRUE(Becomes([&] { return plain == 3 && super == 3; })) << plain << " " << super;
+  EXPECT_TRUE(SoonTrue([&] { return plain == 3 && super == 3; })) << plain << " " << super;
   // Other keys, and other modifiers, are not ours.
   Press("F8");
   Press("ctrl+F7");
   Press("F7");
-  EXPECT_TRUE(Becomes([&] { return plain == 4; }));
+  EXPECT_TRUE(SoonTrue([&] { return plain == 4; }));
   EXPECT_EQ(super, 3);
 }
 
@@ -75,11 +69,11 @@ TEST_F(HotKeysTest, FollowAKeyboardThatIsMappedAnew) {
   ASSERT_NE(connection, nullptr);
   xcb_change_keyboard_mapping(connection->Raw(), 1, kFreeKey, 1, &kF7Symbol);
   connection->ServerTime();
-  EXPECT_TRUE(Becomes([&] {
+  EXPECT_TRUE(SoonTrue([&] {
     Press(std::to_string(kFreeKey));
     return plain > 0;
   }));
-  // Somebody else has the key that this one moves to next; only that is said, and only once.
+  // Another program has the key that this one moves to next; only that is said, and only once.
   testing::internal::CaptureStderr();
   xcb_grab_key(connection->Raw(), 0, connection->Root(), XCB_MOD_MASK_ANY, kOtherFreeKey,
                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
@@ -87,7 +81,7 @@ TEST_F(HotKeysTest, FollowAKeyboardThatIsMappedAnew) {
     xcb_change_keyboard_mapping(connection->Raw(), 1, kOtherFreeKey, 1, &kF7Symbol);
     connection->ServerTime();
     const int before = plain;
-    EXPECT_TRUE(Becomes([&] {
+    EXPECT_TRUE(SoonTrue([&] {
       Press(std::to_string(kFreeKey));
       return plain > before;
     }));
@@ -113,17 +107,12 @@ TEST_F(HotKeysTest, CountOnceWhileTheKeyIsHeld) {
     EXPECT_TRUE(tool.Ends());
   };
   say("keydown");
-  EXPECT_TRUE(Becomes([&] { return plain == 1; }));
+  EXPECT_TRUE(SoonTrue([&] { return plain == 1; }));
   // Several times the server's delay and interval.
-  EXPECT_FALSE(ComesTrue(
-      [&] {
-        QCoreApplication::processEvents();
-        return plain > 1;
-      },
-      1.5));
+  EXPECT_FALSE(SoonTrue([&] { return plain > 1; }, 1.5));
   say("keyup");
   Press("F7");
-  EXPECT_TRUE(Becomes([&] { return plain == 2; }));
+  EXPECT_TRUE(SoonTrue([&] { return plain == 2; }));
 }
 
 TEST_F(HotKeysTest, AreTakenAgainFromAServerThatDidNotAnswerForAWhile) {
@@ -134,7 +123,7 @@ TEST_F(HotKeysTest, AreTakenAgainFromAServerThatDidNotAnswerForAWhile) {
   int eights = 0;
   EXPECT_FALSE(others.RegisterEventHotKey(kF8Code, HotKeys::kNoModifiers, [&] { ++eights; }));
   display.Freeze(false);
-  EXPECT_TRUE(Becomes([&] {
+  EXPECT_TRUE(SoonTrue([&] {
     Press("F7");
     Press("super+F7");
     Press("F8");
@@ -207,26 +196,21 @@ TEST(HotKeysOfThePortal, AreBoundAndPressed) {
   DesktopHotKeys keys(settings, DesktopHotKeys::Source::kPortal);
   int presses = 0;
   EXPECT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++presses; }));
-  EXPECT_TRUE(Becomes([&] { return !portal->bound.isEmpty(); }));
+  EXPECT_TRUE(SoonTrue([&] { return !portal->bound.isEmpty(); }));
   EXPECT_EQ(portal->bound.toStdString(), "oa(sa{sv})sa{sv}");
-  EXPECT_TRUE(Becomes([&] {
+  EXPECT_TRUE(SoonTrue([&] {
     portal->Press("overlay-f7");
     return presses > 0;
   }));
   // One that is started anew knows nothing of the session.
   portal.reset();
   portal = std::make_unique<FakePortal>(bus.Address());
-  EXPECT_TRUE(Becomes([&] { return !portal->bound.isEmpty(); }));
+  EXPECT_TRUE(SoonTrue([&] { return !portal->bound.isEmpty(); }));
   testing::internal::CaptureStderr();
   portal->Close();
   const int before = presses;
   portal->Press("overlay-f7");
-  EXPECT_FALSE(ComesTrue(
-      [&] {
-        QCoreApplication::processEvents();
-        return presses > before;
-      },
-      0.5));
+  EXPECT_FALSE(SoonTrue([&] { return presses > before; }, 0.5));
   const std::string said = testing::internal::GetCapturedStderr();
   EXPECT_NE(said.find("has ended the session"), std::string::npos) << said;
   settings.sessionBusAddress.clear();

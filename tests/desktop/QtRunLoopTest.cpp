@@ -23,13 +23,13 @@ TEST_F(QtRunLoopTest, CallbacksRunOneAtATimeAlsoInNestedLoops) {
                        &nested, &QEventLoop::quit);
     nested.exec();
   };
-  // A loop of a menu's: everybody is served.
+  // In a menu's loop all timers are served.
   const auto other = mLoop.AddTimer(At(5), 0.05, Writes("t"));
   QTimer::singleShot(0, [&] {
     runNested(13);
     EXPECT_EQ(mLog, "t t ");
   });
-  // A dialog's that a callback has opened: nobody is, until it has returned.
+  // In that of a dialog which a callback has opened none is, until the callback has returned.
   const auto dialog = mLoop.AddTimer(At(20), 0, [&] {
     mLog = "";
     runNested(32);

@@ -13,6 +13,7 @@
 #include "desktop/TestBus.h"
 #include "platform/desktop/DesktopProcessManager.h"
 #include "support/ChildProgram.h"
+#include "support/EventLoop.h"
 
 namespace lurkwell {
 namespace {
@@ -59,10 +60,7 @@ TEST(Reveal, AsksTheFileManagerForTheEntryOrTheProgram) {
   const auto shows = [&](ProcessSerialNumber psn, const std::string& uri) {
     fileManager.shown.clear();
     EXPECT_TRUE(manager.Reveal(psn));
-    return ComesTrue([&] {
-      QCoreApplication::processEvents();
-      return fileManager.shown == QStringList(QString::fromStdString(uri));
-    });
+    return SoonTrue([&] { return fileManager.shown == QStringList(QString::fromStdString(uri)); });
   };
   EXPECT_TRUE(shows({1, 1}, "file://" + processes.EntryPath("known")));
   EXPECT_TRUE(shows({2, 2}, "file:///opt/a%20b/%C3%BC%23%3F"));
@@ -71,16 +69,10 @@ TEST(Reveal, AsksTheFileManagerForTheEntryOrTheProgram) {
   std::string failed;
   manager.WhenRevealFails([&failed](const std::string& file) { failed = file; });
   fileManager.Leave();
-  EXPECT_TRUE(manager.Reveal({1, 1})) << "nobody waits for the answer";
-  EXPECT_TRUE(ComesTrue([&] {
-    QCoreApplication::processEvents();
-    return failed == processes.EntryPath("known");
-  }));
+  EXPECT_TRUE(manager.Reveal({1, 1})) << "without waiting for the answer";
+  EXPECT_TRUE(SoonTrue([&] { return failed == processes.EntryPath("known"); }));
   bus.End();
-  EXPECT_TRUE(ComesTrue([&] {
-    QCoreApplication::processEvents();
-    return !manager.Reveal({1, 1});
-  }));
+  EXPECT_TRUE(SoonTrue([&] { return !manager.Reveal({1, 1}); }));
 }
 
 /// Takes the place of what opens folders.
@@ -125,10 +117,7 @@ TEST(Reveal, AFileIsShownOrElseItsFolderOrElseItIsSaid) {
   int failures = 0;
   const auto comesTo = [&](const auto& condition) {
     manager.ShowFile("/tmp/a b/log.tsv", [&failures] { ++failures; });
-    return ComesTrue([&] {
-      QCoreApplication::processEvents();
-      return condition();
-    });
+    return SoonTrue([&] { return condition(); });
   };
   EXPECT_TRUE(
       comesTo([&] { return fileManager.shown == QStringList("file:///tmp/a%20b/log.tsv"); }));

@@ -6,6 +6,7 @@
 
 #include "desktop/TestBus.h"
 #include "platform/desktop/RunningInstance.h"
+#include "support/EventLoop.h"
 #include "support/TestDisplay.h"
 
 namespace lurkwell {
@@ -26,10 +27,7 @@ TEST(RunningInstance, IsFoundByTheNextOneAndDoesWhatItIsAsked) {
     ChildProgram caller({"dbus-send", "--bus=" + bus.Address(), "--print-reply",
                          "--dest=com.velquarin.lurkwell", "/com/velquarin/lurkwell/Instance",
                          "com.velquarin.lurkwell.Instance." + method});
-    EXPECT_TRUE(ComesTrue([&] {
-      QCoreApplication::processEvents();
-      return caller.Ends(0);
-    }));
+    EXPECT_TRUE(SoonTrue([&] { return caller.Ends(0); }));
   };
   ask("Present");
   ask("Toggle");
@@ -46,7 +44,7 @@ std::vector<std::string> As(uid_t user, std::vector<std::string> words) {
   return words;
 }
 
-/// Takes the instance's name on a bus, and never answers anybody.
+/// Takes the instance's name on a bus, and never answers.
 constexpr char kHolder[] = R"(
 import os, socket, struct, sys, time
 def text(v): return struct.pack('<I', len(v)) + v + b'\0'
@@ -74,7 +72,7 @@ time.sleep(60)
 
 TEST(RunningInstance, FollowsASilentOneAndNeitherHearsNorTrustsStrangers) {
   constexpr uid_t kStranger = 65534;
-  ASSERT_EQ(::geteuid(), 0U) << "needs root to become somebody else";
+  ASSERT_EQ(::geteuid(), 0U) << "needs root to become another user";
   const OpenBus bus;
   const auto hold = [&](uid_t user) {
     auto holder = std::make_unique<ChildProgram>(
@@ -88,10 +86,7 @@ TEST(RunningInstance, FollowsASilentOneAndNeitherHearsNorTrustsStrangers) {
         As(user,
            {"dbus-send", "--bus=" + bus.Address(), "--print-reply", "--dest=com.velquarin.lurkwell",
             "/com/velquarin/lurkwell/Instance", "com.velquarin.lurkwell.Instance.Present"}));
-    EXPECT_TRUE(ComesTrue([&] {
-      QCoreApplication::processEvents();
-      return caller.Ends(0);
-    }));
+    EXPECT_TRUE(SoonTrue([&] { return caller.Ends(0); }));
     return caller.ReadLine().starts_with("method return");
   };
   auto holder = hold(0);

@@ -76,7 +76,7 @@ TEST(Scopes, WithoutAnXServerTheFirstProcessOfAGroupIsTheApplication) {
   EXPECT_FALSE(manager.Quit(psn) || manager.SetFrontProcess(psn) ||
                manager.ShowHideProcess(psn, false) || manager.Reveal(psn));
 
-  // Who is in stays, older members or not; who is new is found, also when moved after its start.
+  // What is in stays, older members or not; a new one is found, also when moved after its start.
   processes.Write(19, 400, editor);
   processes.Write(40, 700, slice);
   EXPECT_EQ(Walk(manager), (std::vector{30, 21}));
@@ -88,7 +88,7 @@ TEST(Scopes, WithoutAnXServerTheFirstProcessOfAGroupIsTheApplication) {
   EXPECT_TRUE(ComesTrue([&] { return Walk(manager) == std::vector{40, 19}; }));
   EXPECT_FALSE(manager.GetProcessInformation(psn).has_value());
 
-  // Where the kernel tells whether somebody was born, nobody is listed before.
+  // Where the kernel tells of births, there is no listing before one.
   processes.TellLastPid(40);
   EXPECT_EQ(Walk(manager), (std::vector{40, 19}));
   processes.Write(50, 950, slice + "app-new-4.scope");

@@ -62,7 +62,7 @@ TEST(InstallTest, TheStepGivesTheCopyItsRightsAndTheUserTheHelper) {
   Canary foreign(kStranger);
   EXPECT_EQ(helper.Act("renice " + std::to_string(foreign.Pid()) + " -19"), "ok");
   EXPECT_EQ(helper.Act("kill_harsh " + std::to_string(foreign.Pid())), "ok");
-  // Once more over the file that it has made itself, and not by somebody who is no administrator.
+  // Once more over the file that it has made itself, and not by a user who is no administrator.
   EXPECT_EQ(RunPermissionStep(StepPath(), home.path, kUser), 0);
   const Home other(kStranger);
   const auto ownAttempt = [&] {
@@ -232,7 +232,7 @@ TEST(InstallTest, OnlyTheUserWhoseFolderItIsIsServedWithPrivilege) {
       const TemporaryFolder folder(0755, owner);
       const std::string program = folder / "Lurkwell_helper";
       Install(HelperPath(), program, 0, kUser, mode);
-      // The user, a stranger in the user's group, a stranger outside, nobody.
+      // The user, a stranger in the user's group, a stranger outside, the user "nobody".
       for (const auto& [user, group] : std::vector<std::pair<uid_t, gid_t>>{
                {kUser, kUser}, {kStranger, kUser}, {kStranger, kStranger}, {65534, 65534}}) {
         ++cases;
@@ -269,7 +269,7 @@ class PackagedTest : public ::testing::Test {
   void SetUp() override {
     ASSERT_EQ(unshare(CLONE_NEWNS), 0);
     Shell(std::string("mount --make-rprivate / && mount -t tmpfs -o mode=755 none ") + kFolder);
-    // Root's, whoever has built them.
+    // Root's, whichever user has built them.
     Install(LURKWELL_TEST_PACKAGED_HELPER, mProgram, 0, 0, 0755);
     Install(LURKWELL_TEST_PACKAGED_STEP, mStep, 0, 0, 0755);
     WriteList(mOther + HexDigest(mProgram) + '\n');

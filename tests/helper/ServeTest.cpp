@@ -102,7 +102,7 @@ TEST(ServeTest, StartedByRootForAUserItIsThatUserWithTwoRights) {
     EXPECT_EQ(Value(status, "CapBnd"), "0000000000800020");
     EXPECT_EQ(Value(status, "CapPrm"), "0000000000800020");
   }
-  // Pipes of a user for whom nobody asked are not root's to open.
+  // Pipes of a user who was not named are not root's to open.
   EXPECT_FALSE(HelperProcess(kStranger, HelperPath(), asking("PKEXEC_UID"), true).IsOpen());
 }
 

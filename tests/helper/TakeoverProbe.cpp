@@ -1,5 +1,5 @@
 // A helper that is already in the hands of an attacker: confined as the helper is, it takes one
-// step that nobody there may take. Exit status 0: refused with an error. 42: the step was possible.
+// step that is not allowed there. Exit status 0: refused with an error. 42: the step was possible.
 #include <errno.h>
 #include <fcntl.h>
 #include <linux/landlock.h>

@@ -80,7 +80,7 @@ class CommandsTest : public MainWindowTest {
   std::string Said() { return window->statusBar()->currentMessage().toStdString(); }
 
   std::string question;
-  /// Answers that nobody asked for end with it.
+  /// Answers that are never needed end with it.
   QObject machineRoom;
 };
 

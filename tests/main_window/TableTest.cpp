@@ -274,7 +274,7 @@ TEST_F(TableTest, AFilterHidesRowsAndChangesNothingElse) {
   Choose("menu_edit_filter");
   QTest::keyClicks(&window->filterField(), "alp");
   EXPECT_EQ(Pids(), "300 302");
-  EXPECT_EQ(Selected(), "") << "nobody acts on what he cannot see";
+  EXPECT_EQ(Selected(), "") << "what is not seen is not acted upon";
   table.Birth(303, "alps");
   table.Birth(304, "other");
   Turn();

@@ -12,7 +12,7 @@ namespace {
 
 using Client = CPUHistoryWindowInformationClient;
 
-/// Somebody always wants everybody's name, as the watchdog does.
+/// A client always wants the names of all, as the watchdog does.
 class CPUHistoryWindowTest : public ConsolidatorTest {
  protected:
   void Start() {
@@ -122,12 +122,12 @@ TEST_F(CPUHistoryWindowTest, DescendantsComeAndGoWithoutJumps) {
   EXPECT_NEAR(turn(), 0.4, 1e-9);
   EXPECT_NEAR(client->Graph().OwnValues().back(), 0.1, 1e-9);
   table.Birth(303, "linker", 301).UseCPU(300);
-  EXPECT_NEAR(turn(), 0.0, 1e-9) << "nobody has asked for its figures yet";
+  EXPECT_NEAR(turn(), 0.0, 1e-9) << "its figures have not been asked for yet";
   EXPECT_NEAR(turn(), 0.3, 1e-9) << "a new one's time counts from its birth";
   table.Death(302);
   shell.UseCPU(200);
   EXPECT_NEAR(turn(), 0.2, 1e-9) << "the minute it had used is not taken back";
-  // With make gone, the linker is somebody else's.
+  // With make gone, the linker has another parent.
   table.Death(301);
   shell.UseCPU(150);
   EXPECT_NEAR(turn(), 0.15, 1e-9);

@@ -79,7 +79,7 @@ TEST(CostlyFigures, TellWhatMemoryIsItsOwnAndWhatIsShared) {
     TakeMemory();
     if (::fork() == 0) {
       ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-      // Nobody waits for what this one has open.
+      // There is no waiting for what this one has open.
       ::close_range(3, ~0u, 0);
       for (;;) ::pause();
     }
@@ -108,7 +108,7 @@ TEST(CostlyFigures, CountDescriptorsAndTellWhatIsNotAllowed) {
               if (!others) return "nothing was read";
               if (others->figures.StateOf(FigureCalled("pid_pss")) != FigureState::kRefused)
                 return "memory was not refused";
-              // Kernels of 6.2 and later tell the number to everybody.
+              // Kernels of 6.2 and later tell every user the number.
               if (others->figures.StateOf(kCount) == FigureState::kKnown &&
                   others->figures.Get(kCount) != reading->figures.Get(kCount))
                 return "another number of descriptors";

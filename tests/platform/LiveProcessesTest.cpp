@@ -186,7 +186,7 @@ TEST(LiveProcesses, DoNotTellOthersWhatTheyHaveReadAndWritten) {
               return DiskFigures(writer.Pid());
             }),
             "refused refused refused refused refused ");
-  // Root is told of everybody.
+  // Root is told of all.
   const Child other([] {
     WriteToDisk();
     if (::setresuid(61001, 61001, 61001) != 0) ::_exit(1);
@@ -260,7 +260,7 @@ TEST(LiveProcesses, AreAllShownWithFewDescriptors) {
               std::vector<Child> children;
               for (int i = 0; i < 100; ++i) children.emplace_back();
               LinuxProcessTable table;
-              // Then somebody else takes all that are left.
+              // Then other code takes all that are left.
               for (int pass = 0; pass < 4; ++pass) {
                 const auto entries = table.Read();
                 if (table.KeptDescriptors() > DescriptorLimit() / 2) return "too many kept";

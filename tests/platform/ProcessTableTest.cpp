@@ -108,7 +108,7 @@ TEST(MadeUpProcTree, IsNotHeldUpByANameThatCannotBeRead) {
     return tree.Path() + '/' + std::to_string(pid) + "/cmdline";
   };
   std::ofstream(add(1)) << "lkw_helper_daemon";
-  // Nobody ever writes into it.
+  // It is never written to.
   ASSERT_EQ(::mkfifo(add(2).c_str(), 0600), 0);
   LinuxProcessTable table(tree.Path());
   const auto names = [&] {

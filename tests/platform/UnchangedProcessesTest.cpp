@@ -151,7 +151,7 @@ class UnchangedProcesses : public ::testing::Test {
     return pid;
   }
 
-  /// From then on its pid may be anybody's.
+  /// From then on its pid may pass to another process.
   void Collect(pid_t pid) {
     int status = 0;
     if (::waitpid(pid, &status, WNOHANG) == pid && !WIFSTOPPED(status)) std::erase(mPids, pid);

@@ -15,7 +15,7 @@ std::string KeyOf(int writer, int number) {
 
 constexpr int kKeysOfAWriter = 20;
 
-/// With a pause after each set; nobody has to wait for the lock for longer than the store does.
+/// With a pause after each set; no writer waits for the lock for longer than the store does.
 int WriteAll(const PreferenceFolder& folder, int writer, int sets) {
   testing::internal::CaptureStderr();
   PropertyListDomain domain(folder.Path());

@@ -146,7 +146,7 @@ TEST_F(ActionsTest, BadgesFollowTheProcessAndTheKernel) {
   HaltProcess(76);
   EXPECT_EQ(badge(74), "process_halted");
   EXPECT_EQ(badge(75, 20'000), "process_niced_high");
-  // Somebody else acts.
+  // Another program acts.
   machine.processTable.Continue(74);
   machine.processTable.Find(75)->entry.nice = 5;
   EXPECT_EQ(badge(74), "");
@@ -204,7 +204,7 @@ TEST_F(ActionsTest, OneRuleSaysWhenTheUserIsAsked) {
     became += std::to_string(report.pid) + "=" +
               std::to_string(static_cast<int>(report.outcome.result)) + " ";
   EXPECT_EQ(became, "70=1 0=2 1=2 72=3 79=1 ");
-  EXPECT_EQ(Log(), "") << "nothing was sent to anybody";
+  EXPECT_EQ(Log(), "") << "nothing was sent";
 }
 
 TEST_F(ActionsTest, TheFirstProcessesAreLeftAlone) {

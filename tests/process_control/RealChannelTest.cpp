@@ -44,7 +44,7 @@ TEST_F(RealChannelTest, TheRealHelperAnswers) {
   LaunchHelperDaemon();
   RunUntilOpen();
   ASSERT_TRUE(IsOpen());
-  EXPECT_TRUE(std::filesystem::is_empty(folder / "pipes")) << "nobody else can join";
+  EXPECT_TRUE(std::filesystem::is_empty(folder / "pipes")) << "no other program can join";
   EXPECT_EQ(Query("geteuid"), "0");
   Child child;
   const std::string pid = std::to_string(child.Pid());
@@ -278,7 +278,7 @@ TEST_F(RealChannelTest, PipesOfAKilledProgramGoWithTheNextOnesAndNothingElse) {
     EXPECT_EQ(all.erase(std::filesystem::path(path).parent_path().filename()), 1u);
     return all;
   };
-  EXPECT_EQ(withOurs(), before) << "whoever lives keeps his pipes";
+  EXPECT_EQ(withOurs(), before) << "a living program keeps its pipes";
   EXPECT_EQ(other.End(), -SIGKILL);
   auto after = before;
   after.erase(*others.begin());

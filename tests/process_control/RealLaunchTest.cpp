@@ -64,7 +64,7 @@ class RealLaunchTest : public RealControl {
   std::function<void(RealMachine&)> whileOpen;
 };
 
-/// What is said where nobody can answer.
+/// What is said where there is no user to answer.
 std::string Refused(std::string reason) {
   const std::string clause = "lurkwell: the helper gets no rights: " + reason + "\n";
   reason[0] = static_cast<char>(std::toupper(reason[0]));

@@ -19,7 +19,7 @@
 namespace {
 
 void Answer(int pipe, const std::string& text) {
-  // Nobody listens any more: nothing to do about it.
+  // Without a reader there is nothing to do about it.
   [[maybe_unused]] const auto written = ::write(pipe, text.data(), text.size());
 }
 

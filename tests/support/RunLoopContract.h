@@ -26,7 +26,7 @@ class RunLoopContract : public ::testing::Test {
     const auto end = mLoop.AddTimer(At(hundredths), 0, [&] { mLoop.Stop(); });
     mLoop.Run();
   }
-  /// Lets the time pass without serving anybody.
+  /// Lets the time pass without serving timers.
   void Busy(int untilHundredths) {
     while (mClock.AbsoluteTime() < At(untilHundredths)) {
     }

@@ -10,11 +10,12 @@
 #include <vector>
 
 #include "support/ChildProgram.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 
 /// An X server without a screen and, if wanted, a window manager on it: this test's own, under a
-/// number that nobody else has. Both end with their owner.
+/// number of its own. Both end with their owner.
 class TestDisplay {
  public:
   enum class Manager { kNone, kOpenbox };
@@ -22,9 +23,6 @@ class TestDisplay {
   /// `serverWords` are further arguments for the server.
   explicit TestDisplay(Manager manager = Manager::kOpenbox,
                        const std::vector<std::string>& serverWords = {}) {
-    std::string pattern = (std::filesystem::temp_directory_path() / "lurkwell-XXXXXX").string();
-    EXPECT_NE(::mkdtemp(pattern.data()), nullptr);
-    mHome = pattern;
     // It writes its number to its standard output, which is us, when it is ready.
     std::vector<std::string> words = {"Xvfb",        "-displayfd", "1",   "-screen", "0",
                                       "1024x768x24", "-nolisten",  "tcp", "-noreset"};
@@ -38,16 +36,16 @@ class TestDisplay {
   ~TestDisplay() {
     mManager.reset();
     EndServer();
-    std::error_code none;
-    std::filesystem::remove_all(mHome, none);
   }
 
   /// As in $DISPLAY.
   const std::string& Name() const { return mName; }
   /// What a program needs to show its windows here and to touch nothing of the user's.
   ChildProgram::Environment Environment() const {
-    return {
-        {"DISPLAY", mName}, {"HOME", mHome}, {"XDG_CACHE_HOME", mHome}, {"QT_QPA_PLATFORM", "xcb"}};
+    return {{"DISPLAY", mName},
+            {"HOME", mHome.Path()},
+            {"XDG_CACHE_HOME", mHome.Path()},
+            {"QT_QPA_PLATFORM", "xcb"}};
   }
   /// Ends the server under the windows that are there.
   void EndServer() {
@@ -60,7 +58,7 @@ class TestDisplay {
 
  private:
   void StartManager() {
-    const std::string said = mHome + "/started";
+    const std::string said = mHome / "started";
     mManager = std::make_unique<ChildProgram>(
         std::vector<std::string>{"openbox", "--sm-disable", "--startup", "touch " + said},
         Environment());
@@ -68,7 +66,7 @@ class TestDisplay {
     EXPECT_TRUE(ComesTrue([&] { return std::filesystem::exists(said); }, 20)) << "no openbox";
   }
 
-  std::string mHome;
+  TemporaryFolder mHome;
   std::string mName;
   std::unique_ptr<ChildProgram> mServer;
   std::unique_ptr<ChildProgram> mManager;
