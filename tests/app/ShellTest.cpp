@@ -139,7 +139,6 @@ TEST_F(ShellTest, StartsAndEndsInOrder) {
 
   delegate->doThePrefs();
   AddProcessInformationClient(new Witness(note));
-  QObject::connect(gSystemWideInfo->Window(), &QObject::destroyed, [&] { Tell("debugging goes"); });
   QObject::connect(SplashScreen::window(), &QObject::destroyed, [&] { Tell("panel goes"); });
   QObject::connect(&delegate->mainWindow(), &QObject::destroyed, [&] { Tell("main window goes"); });
   RemovePref("MAIN_WINDOW_FRAME");

@@ -297,25 +297,6 @@ TEST_F(UnchangedProcesses, ShowInTheNextPassWhatWasDoneToThem) {
   }
 }
 
-TEST_F(UnchangedProcesses, HaveTheirNewParentInThePassThatMissesTheOldOne) {
-  for (const bool isCollected : {false, true}) {
-    for (int i = 0; i < 20; ++i) {
-      const pid_t parent = StartPair();
-      const pid_t child = mPids.back();
-      for (int pass = 0; pass < 3; ++pass) ExpectAsInProc("start");
-      EXPECT_NE(DescribeFile(child).text.find("parent " + std::to_string(parent) + ' '),
-                std::string::npos);
-      ::kill(parent, SIGKILL);
-      siginfo_t ended{};
-      ::waitid(P_PID, static_cast<id_t>(parent), &ended, WEXITED | WNOWAIT);
-      if (isCollected) Collect(parent);
-      ExpectAsInProc("the parent's end");
-      EXPECT_NE(DescribeFile(child).text.find("parent " + std::to_string(::getpid()) + ' '),
-                std::string::npos);
-    }
-  }
-}
-
 /// Where the kernel tells nothing of who has run, everything is read.
 TEST_F(UnchangedProcesses, AreReadInEveryPassWherePidsMeanOthers) {
   const Child child;

@@ -143,53 +143,37 @@ void FillUp(const std::filesystem::path& path) {
   }
 }
 
-TEST(PreferenceFault, AFullDiskKeepsTheOldFileAndTheSessionsValues) {
-  const PreferenceFolder folder;
-  const pid_t child = Fork([&] {
-    if (!MountDisk(folder, kSmall)) return 1;
-    PropertyListDomain domain(folder.Path());
-    domain.SetValue("K", std::int64_t{1});
-    if (!domain.Synchronize()) return 2;
-    FillUp(folder / "filler");
-    testing::internal::CaptureStderr();
-    for (std::int64_t number = 2; number < 50; ++number) {
-      domain.SetValue("K", number);
-      if (domain.Synchronize() || IntegerAt(domain, "K") != number) return 3;
-      if (OnDisk(folder, "K") != 1 || folder.CountOf(".new") != 0) return 4;
-    }
-    if (Lines(testing::internal::GetCapturedStderr()) != 1) return 5;
-    std::filesystem::remove(folder / "filler");
-    return domain.Synchronize() && OnDisk(folder, "K") == 49 ? 0 : 6;
-  });
-  EXPECT_EQ(WaitFor(child), 0);
-}
-
-TEST(PreferenceFault, AReadOnlyDiskIsSurvivedAndUsedAgainWhenItBecomesWritable) {
-  const PreferenceFolder folder;
-  const pid_t child = Fork([&] {
-    if (!MountDisk(folder, kSmall)) return 1;
-    {
-      PropertyListDomain earlier(folder.Path());
-      earlier.SetValue("K", std::int64_t{1});
-      if (!earlier.Synchronize()) return 2;
-    }
-    folder.Write(std::string(".") + PropertyListDomain::kFileName + ".0123456789abcdef.new", "");
-    const auto remount = [&](unsigned long flags) {
+TEST(PreferenceFault, AFullOrReadOnlyDiskKeepsTheOldFileAndTheSessionsValues) {
+  for (const bool isFull : {true, false}) {
+    const PreferenceFolder folder;
+    const auto remount = [&folder](unsigned long flags) {
       return mount("disk", folder.Path().c_str(), "tmpfs", MS_REMOUNT | flags, "size=64k") == 0;
     };
-    if (!remount(MS_RDONLY)) return 3;
-    testing::internal::CaptureStderr();
-    PropertyListDomain domain(folder.Path());
-    if (IntegerAt(domain, "K") != 1) return 4;
-    for (std::int64_t number = 2; number < 5; ++number) {
-      domain.SetValue("K", number);
-      if (domain.Synchronize() || IntegerAt(domain, "K") != number) return 5;
-    }
-    if (Lines(testing::internal::GetCapturedStderr()) != 1) return 6;
-    if (!remount(0)) return 7;
-    return domain.Synchronize() && OnDisk(folder, "K") == 4 ? 0 : 8;
-  });
-  EXPECT_EQ(WaitFor(child), 0);
+    const auto run = [&] {
+      if (!MountDisk(folder, kSmall)) return 1;
+      {
+        PropertyListDomain earlier(folder.Path());
+        earlier.SetValue("K", std::int64_t{1});
+        if (!earlier.Synchronize()) return 2;
+      }
+      folder.Write(std::string(".") + PropertyListDomain::kFileName + ".0123456789abcdef.new", "");
+      if (isFull) FillUp(folder / "filler");
+      if (!isFull && !remount(MS_RDONLY)) return 3;
+      testing::internal::CaptureStderr();
+      PropertyListDomain domain(folder.Path());
+      if (IntegerAt(domain, "K") != 1) return 4;
+      for (std::int64_t number = 2; number < 50; ++number) {
+        domain.SetValue("K", number);
+        if (domain.Synchronize() || IntegerAt(domain, "K") != number) return 5;
+        if (OnDisk(folder, "K") != 1 || folder.CountOf(".new") != (isFull ? 0 : 1)) return 6;
+      }
+      if (Lines(testing::internal::GetCapturedStderr()) != 1) return 7;
+      if (isFull) std::filesystem::remove(folder / "filler");
+      if (!isFull && !remount(0)) return 8;
+      return domain.Synchronize() && OnDisk(folder, "K") == 49 ? 0 : 9;
+    };
+    EXPECT_EQ(InChild(run), 0) << isFull;
+  }
 }
 
 TEST(PreferenceFault, AUserWithoutRightsToTheFolderKeepsTheSessionsValues) {
