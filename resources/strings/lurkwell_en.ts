@@ -2359,6 +2359,10 @@
         <source></source>
         <translation>the helper does not answer</translation>
     </message>
+    <message id="action_reason_no_time">
+        <source></source>
+        <translation>not tried, because the helper takes too long</translation>
+    </message>
     <message id="action_reason_nobody">
         <source></source>
         <translation>this desktop has no way to do it</translation>

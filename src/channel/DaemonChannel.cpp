@@ -47,6 +47,8 @@ bool StartHelper(const std::string& path, const std::string& requests, const std
 /// written while the one exists; the other waits for whoever asked.
 struct Outstanding {
   bool exists = false;
+  /// Somebody comes for its answer.
+  bool isWanted = true;
   TimeValue since;
   std::string late;
 } gOutstanding;
@@ -91,14 +93,14 @@ void LoseChannel() {
   if (gDaemonChannelWatcher != nullptr) gDaemonChannelWatcher->Lost();
 }
 
-bool SendRequest(std::string_view request) {
-  const auto written =
-      IsQuiet() ? TheMachine().namedPipes.Write(gFd_a2d, request, gDaemonLimits.answering) : -1;
+bool SendRequest(std::string_view request, Milliseconds limit) {
+  const auto patience = std::min(limit, gDaemonLimits.answering);
+  const auto written = IsQuiet() ? TheMachine().namedPipes.Write(gFd_a2d, request, patience) : -1;
   if (written != static_cast<std::ptrdiff_t>(request.size())) {
     LoseChannel();
     return false;
   }
-  gOutstanding.exists = true;
+  gOutstanding.exists = gOutstanding.isWanted = true;
   gOutstanding.since = TheMachine().clock.Now();
   return true;
 }
@@ -126,7 +128,7 @@ bool TakeOutstanding(Milliseconds limit) {
   const auto size = ReadAnswer({answer, kLongestAnswer}, limit);
   if (size <= 0) return false;
   EndText(answer, size, nullptr);
-  gOutstanding.late = answer;
+  if (gOutstanding.isWanted) gOutstanding.late = answer;
   return true;
 }
 
@@ -135,7 +137,7 @@ bool TakeOutstanding(Milliseconds limit) {
 std::ptrdiff_t Exchange(std::string_view request, std::span<char> answer, Milliseconds limit) {
   const auto begun = TheMachine().clock.Now();
   if (!TakeOutstanding(limit)) return gFd_a2d < 0 ? -1 : kDaemonNotAsked;
-  if (!SendRequest(request)) return -1;
+  if (!SendRequest(request, std::max(limit - Since(begun), Milliseconds(0)))) return -1;
   return ReadAnswer(answer, std::max(limit - Since(begun), Milliseconds(0)));
 }
 
@@ -229,16 +231,22 @@ void DaemonChannelOpening::Take() {
   gFd_d2a = std::exchange(mReading, -1);
 }
 
-std::ptrdiff_t DaemonConversation::Query(const char* request, char* answer, std::int32_t capacity) {
+DaemonConversation::DaemonConversation(Of of)
+    : mOf(of), mLimit(of == Of::kBeat ? gDaemonLimits.beat : gDaemonLimits.command) {}
+
+std::ptrdiff_t DaemonConversation::Query(const char* request, char* answer, std::int32_t capacity,
+                                         std::string* refusal) {
   *answer = '\0';
-  const auto left = gDaemonLimits.beat - std::chrono::floor<Milliseconds>(mWaited);
+  if (refusal != nullptr) refusal->clear();
+  const auto left = mLimit - std::chrono::floor<Milliseconds>(mWaited);
   if (gFd_a2d < 0) return -1;
   if (left <= Milliseconds(0)) return kDaemonNotAsked;
   const auto begun = TheMachine().clock.Now();
-  const auto size = lurkwell::Query(request, answer, capacity, left, nullptr);
+  const auto size = lurkwell::Query(request, answer, capacity, left, refusal);
   mWaited += std::chrono::duration<double>(SecondsBetween(begun, TheMachine().clock.Now()));
   if (size == kDaemonAnswersLater) {
-    mWaited = gDaemonLimits.beat;
+    mWaited = mLimit;
+    gOutstanding.isWanted = mOf == Of::kBeat;
     if (gDaemonChannelWatcher != nullptr) gDaemonChannelWatcher->LeftOutstanding();
   }
   return size;

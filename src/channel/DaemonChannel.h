@@ -16,6 +16,8 @@ struct DaemonLimits {
   std::chrono::milliseconds answering{250};
   /// For all that one beat asks.
   std::chrono::milliseconds beat{60};
+  /// For all that one command asks, however many processes it is for.
+  std::chrono::milliseconds command{250};
   /// For the administrator, while the question is open.
   std::chrono::milliseconds asking{120'000};
   /// Between two looks at whether the helper is still there.

@@ -68,10 +68,13 @@ inline constexpr std::ptrdiff_t kDaemonNotAsked = -3;
 std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity,
                            std::string* refusal = nullptr);
 
-/// The requests of one beat, which wait for the helper 60 ms at most together. Not nested.
+/// The requests of one beat, which wait for the helper 60 ms at most together, or of one command of
+/// the user's, for 250 ms. Not nested.
 class DaemonConversation {
  public:
-  DaemonConversation() = default;
+  /// Late answers to a command are thrown away.
+  enum class Of { kBeat, kCommand };
+  explicit DaemonConversation(Of of = Of::kBeat);
   DaemonConversation(const DaemonConversation&) = delete;
   DaemonConversation& operator=(const DaemonConversation&) = delete;
 
@@ -79,13 +82,16 @@ class DaemonConversation {
   /// outstanding until it is read whole, or 250 ms have passed and the channel is closed.
   /// kDaemonNotAsked when the request was not sent, because the time was over or an earlier answer
   /// is still to come.
-  std::ptrdiff_t Query(const char* request, char* answer, std::int32_t capacity);
+  std::ptrdiff_t Query(const char* request, char* answer, std::int32_t capacity,
+                       std::string* refusal = nullptr);
 
-  /// The answer to the last request that gave kDaemonAnswersLater, once, if it has come since then
-  /// and not too long ago; else an empty text.
+  /// The answer to the last request of a beat that gave kDaemonAnswersLater, once, if it has come
+  /// since then and not too long ago; else an empty text.
   static std::string TakeLateAnswer();
 
  private:
+  Of mOf;
+  std::chrono::milliseconds mLimit;
   std::chrono::duration<double> mWaited{0};
 };
 

@@ -93,6 +93,8 @@ const char* ReasonWord(ActionResult result) {
       return "refused";
     case ActionResult::kNoHelper:
       return "no_helper";
+    case ActionResult::kNoTime:
+      return "no_time";
     default:
       return "nobody";
   }

@@ -121,6 +121,7 @@ ActionPlan PlanAction(ProcessCommand command, std::span<const std::int32_t> pids
 std::vector<ActionReport> CarryOut(const ActionPlan& plan) {
   std::vector<ActionReport> reports;
   reports.reserve(plan.targets.size() + plan.impossible.size());
+  const CommandTime time;
   for (const auto& target : plan.targets) reports.push_back(CarryOut(plan.command, target));
   reports.insert(reports.end(), plan.impossible.begin(), plan.impossible.end());
   return reports;

@@ -57,7 +57,7 @@ struct ActionPlan {
 ActionPlan PlanAction(ProcessCommand command, std::span<const std::int32_t> pids);
 
 /// Does it, to those that still are the processes they were; what became of each, the impossible
-/// ones included.
+/// ones included. Waits for the helper no longer than CommandTime says.
 std::vector<ActionReport> CarryOut(const ActionPlan& plan);
 
 /// How many of the targets belong to another user.

@@ -20,6 +20,9 @@
 namespace lurkwell {
 namespace {
 
+/// Of the command that is being carried out; null for a single action.
+DaemonConversation* gConversation = nullptr;
+
 constexpr std::int32_t kLowestPid = 2;
 constexpr FourCharCode kFinder = {'M', 'A', 'C', 'S'};
 
@@ -45,7 +48,10 @@ Reply Ask(std::int32_t pid, const std::string& request) {
   constexpr std::int32_t kCapacity = 511;
   char answer[kCapacity + 1] = "";
   std::string words;
-  const auto size = QueryDaemon(request.c_str(), answer, kCapacity, &words);
+  const auto size = gConversation != nullptr
+                        ? gConversation->Query(request.c_str(), answer, kCapacity, &words)
+                        : QueryDaemon(request.c_str(), answer, kCapacity, &words);
+  if (size == kDaemonNotAsked) return {{}, {ActionResult::kNoTime}};
   if (size <= 0) return {{}, {ActionResult::kNoHelper}};
   if (*answer != '\0') return {answer, {ActionResult::kDone}};
   if (!IsAsShown(pid)) return {{}, {ActionResult::kGone}};
@@ -143,6 +149,14 @@ bool GoesOn(ActionResult result, KillStep step) {
 }
 
 }  // namespace
+
+CommandTime::CommandTime() {
+  gConversation = &mConversation;
+}
+
+CommandTime::~CommandTime() {
+  gConversation = nullptr;
+}
 
 bool KillProcessPSN(ProcessSerialNumber psn) {
   return TheMachine().processManager.Quit(psn);

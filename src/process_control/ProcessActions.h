@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include "channel/DaemonCommunication.h"
 #include "consolidator/ProcessActionList.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "platform/ProcessIdentity.h"
@@ -22,6 +23,7 @@ enum class ActionResult : std::uint8_t {
   kKernelThread,  ///< a part of the kernel, which takes no signals
   kRefused,       ///< the user may not do it, not even by way of the helper
   kNoHelper,      ///< there is no helper, or it did not answer
+  kNoTime,        ///< not tried: the command's time was over before its turn came
   kNobody,        ///< this desktop has nobody that could be asked
 };
 
@@ -32,6 +34,20 @@ struct ActionOutcome {
   std::string helperWords = {};
 
   bool operator==(ActionResult other) const { return result == other; }
+};
+
+/// One command to several processes: while it lives, all actions together wait for the helper 250
+/// ms at most. What the helper has not done by then is kNoHelper, what it was not asked for
+/// kNoTime. Not nested.
+class CommandTime {
+ public:
+  CommandTime();
+  ~CommandTime();
+  CommandTime(const CommandTime&) = delete;
+  CommandTime& operator=(const CommandTime&) = delete;
+
+ private:
+  DaemonConversation mConversation{DaemonConversation::Of::kCommand};
 };
 
 // ---- Single actions

@@ -1,3 +1,9 @@
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "channel/DaemonChannel.h"
 #include "consolidator/PI_Consolidator.h"
 #include "process_control/ActionPlan.h"
 #include "process_control/ProcessActions.h"
@@ -133,6 +139,37 @@ TEST_F(ActionsTest, NothingIsSentBeforeTheHelperHasSeenTheSameProcess) {
   machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kStalls);
   EXPECT_EQ(HaltProcess(77), ActionResult::kNoHelper);
   EXPECT_EQ(Log().find("Action"), std::string::npos);
+}
+
+TEST_F(ActionsTest, ACommandToManyHasAnEndHoweverSlowTheHelperIs) {
+  std::vector<std::int32_t> pids;
+  for (std::int32_t pid = 1000; pid < 1100; ++pid) {
+    machine.processTable.Birth(pid, "many");
+    pids.push_back(pid);
+  }
+  machine.runLoop.RunFor(2000);
+  machine.namedPipes.SetHelper([this](std::string_view request) {
+    machine.clock.Advance(30);
+    return machine.helper.Answer(request);
+  });
+  const auto begun = machine.clock.Now();
+  std::map<ActionResult, int> results;
+  for (const auto& report : CarryOut(PlanAction(ProcessCommand::kHalt, pids)))
+    ++results[report.outcome.result];
+  EXPECT_LE(MillisecondsBetween(begun, machine.clock.Now()), 280);
+  EXPECT_EQ(results[ActionResult::kDone], 4);
+  EXPECT_EQ(results[ActionResult::kNoTime], 96);
+
+  // An answer that is too late is nobody's.
+  machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kStalls);
+  gDaemonLimits.answering *= 2;
+  auto reports = CarryOut(PlanAction(ProcessCommand::kHalt, pids));
+  gDaemonLimits = {};
+  EXPECT_EQ(reports.front().outcome, ActionResult::kNoHelper);
+  EXPECT_EQ(reports.back().outcome, ActionResult::kNoTime);
+  machine.namedPipes.SayUnasked("late");
+  EXPECT_EQ(DaemonConversation::TakeLateAnswer(), "");
+  EXPECT_GE(gFd_a2d, 0);
 }
 
 TEST_F(ActionsTest, BadgesFollowTheProcessAndTheKernel) {
