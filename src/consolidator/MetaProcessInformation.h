@@ -106,6 +106,8 @@ class ClassicRecord {
 struct PSValue {
   int headerIndex = 0;
   std::unique_ptr<std::string> text;
+  /// ps printed this because it may not look into the process.
+  bool isHidden = false;
 };
 
 struct MetaProcessInformation {

@@ -6,10 +6,13 @@
 #include <utility>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/PSValues.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/TextScan.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"
+#include "platform/Machine.h"
+#include "platform/Tools.h"
 
 namespace lurkwell {
 namespace {
@@ -18,16 +21,25 @@ std::size_t Index(int kind) {
   return static_cast<std::size_t>(kind);
 }
 
-void StorePSValue(MetaProcessInformation& record, int headerIndex, const char* value) {
+/// Decided with the run, not with each look at its value: it costs a call to the kernel.
+bool IsHidden(std::int32_t pid, std::string_view column, std::string_view value) {
+  const auto text = value.substr(0, value.find('\n'));
+  return (text == "0" || text == "-") && FactsOfPSColumn(column).isPrivate &&
+         !TheMachine().tools.MayLookInto(pid);
+}
+
+void StorePSValue(MetaProcessInformation& record, int headerIndex, const char* value,
+                  bool isHidden) {
   if (record.psValues == nullptr) record.psValues = std::make_unique<std::vector<PSValue>>();
   for (auto& known : *record.psValues) {
     if (known.headerIndex != headerIndex) continue;
-    if (*known.text == value) return;
+    if (*known.text == value && known.isHidden == isHidden) return;
     *known.text = value;
+    known.isHidden = isHidden;
     record.NoteValueChange();
     return;
   }
-  record.psValues->push_back({headerIndex, std::make_unique<std::string>(value)});
+  record.psValues->push_back({headerIndex, std::make_unique<std::string>(value), isHidden});
   record.NoteValueChange();
 }
 
@@ -37,7 +49,7 @@ void ReportPSColumn(std::int32_t pid, const char* keyword, const char* value) {
   if (record == nullptr) return;
   const auto* header = gPSHeaders.Find(keyword);
   Require(header != nullptr, kUnit, "pipsh");
-  StorePSValue(*record, header->index, value);
+  StorePSValue(*record, header->index, value, IsHidden(pid, keyword, value));
   record->lastSeenGeneration[kInformationKindPS] = gGenerationCount[kInformationKindPS];
 }
 

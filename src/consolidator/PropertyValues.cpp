@@ -16,7 +16,6 @@
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
-#include "platform/Tools.h"
 
 namespace lurkwell {
 namespace {
@@ -113,11 +112,8 @@ TypedValue ReadPSColumn(const MetaProcessInformation& record, const char* name) 
   if (header == nullptr || record.psValues == nullptr) return Missing::kNotYetKnown;
   const auto value = std::ranges::find(*record.psValues, header->index, &PSValue::headerIndex);
   if (value == record.psValues->end() || value->text == nullptr) return Missing::kNotYetKnown;
-  const auto facts = FactsOfPSColumn(name);
-  const auto text = std::string_view(*value->text).substr(0, value->text->find('\n'));
-  const bool mayBeHidden = facts.isPrivate && (text == "0" || text == "-");
-  if (mayBeHidden && !TheMachine().tools.MayLookInto(record.pid)) return Missing::kNotAllowed;
-  return ReadPSValue(facts, text);
+  if (value->isHidden) return Missing::kNotAllowed;
+  return ReadPSValue(FactsOfPSColumn(name), *value->text);
 }
 
 bool HasPartOf(const MetaProcessInformation& record, std::string_view name) {

@@ -213,6 +213,10 @@ TEST_F(ColumnsTest, NumbersSizesAndTimesOfPsSortAsSuch) {
       EXPECT_EQ(Cell(row, ColumnOf(name.c_str())).toStdString(), shown) << name;
     }
   }
+  // Whom ps may look into is asked with its run, not with each look at what it printed.
+  tools.SetClosed(301);
+  ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType("*");
+  EXPECT_EQ(Cell(controller().rows().Find(301)->shownIndex, ColumnOf("WOPS")), "0");
 }
 
 /// Every item that can be chosen now, in the menu itself.
