@@ -77,7 +77,8 @@ class Shell(Desktop):
                 self.assertTrue(left >= 0 and top >= 0 and left + width <= 1000 and
                                 top + height <= 800, told)
                 program.terminate()
-                self.assertEqual(program.wait(20), 0)
+                _, errors = program.communicate(timeout=20)
+                self.assertEqual(program.returncode, 0, errors)
 
     def test_keys_act_on_what_was_selected_after_asking(self):
         self.open_display()
