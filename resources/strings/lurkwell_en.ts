@@ -2043,6 +2043,74 @@
         <source></source>
         <translation>quit; what is open comes back at the next start</translation>
     </message>
+    <message id="help_menu_application_preferences">
+        <source></source>
+        <translation>the preferences</translation>
+    </message>
+    <message id="help_menu_edit_select_all">
+        <source></source>
+        <translation>select all processes that are shown</translation>
+    </message>
+    <message id="help_menu_edit_select_children">
+        <source></source>
+        <translation>select the children of the selected processes instead of these</translation>
+    </message>
+    <message id="help_menu_view_update_now">
+        <source></source>
+        <translation>update now</translation>
+    </message>
+    <message id="help_menu_view_column_left">
+        <source></source>
+        <translation>move the sorted column to the left</translation>
+    </message>
+    <message id="help_menu_view_column_right">
+        <source></source>
+        <translation>move it to the right</translation>
+    </message>
+    <message id="help_menu_view_column_wider">
+        <source></source>
+        <translation>make it wider</translation>
+    </message>
+    <message id="help_menu_view_column_narrower">
+        <source></source>
+        <translation>make it narrower</translation>
+    </message>
+    <message id="help_menu_process_halt">
+        <source></source>
+        <translation>halt the selected processes</translation>
+    </message>
+    <message id="help_menu_process_continue">
+        <source></source>
+        <translation>have halted ones go on</translation>
+    </message>
+    <message id="help_menu_process_high_priority">
+        <source></source>
+        <translation>give the selected processes a high priority</translation>
+    </message>
+    <message id="help_menu_process_normal_priority">
+        <source></source>
+        <translation>give them the normal priority</translation>
+    </message>
+    <message id="help_menu_process_low_priority">
+        <source></source>
+        <translation>give them a low priority</translation>
+    </message>
+    <message id="help_menu_process_bring_to_front">
+        <source></source>
+        <translation>bring the selected applications to the front</translation>
+    </message>
+    <message id="help_menu_process_hide">
+        <source></source>
+        <translation>hide their windows</translation>
+    </message>
+    <message id="help_menu_process_reveal">
+        <source></source>
+        <translation>show their files in the file manager</translation>
+    </message>
+    <message id="help_menu_help_help">
+        <source></source>
+        <translation>this page</translation>
+    </message>
     <message id="main_window_help_missing">
         <source></source>
         <translation>The help page cannot be read: %1</translation>

@@ -48,7 +48,7 @@ bool DrawingContext::Create() {
     context->setFormat(mFormat);
     if (!context->create() || !IsEnough(*context)) continue;
     mContext = std::move(context);
-    // Nobody's, so that the thread which draws can take it.
+    // No thread's, so that the one which draws can take it.
     mContext->moveToThread(nullptr);
     return true;
   }

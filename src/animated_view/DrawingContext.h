@@ -29,7 +29,7 @@ class DrawingContext {
   void Present(QWindow& window);
   QOpenGLContext& Context() { return *mContext; }
 
-  /// Main thread, and nobody is drawing.
+  /// Main thread, while nothing is drawn.
   void Destroy();
 
  private:

@@ -13,8 +13,8 @@ class QuintessentialInformationClient;
 inline constexpr char kQuintessentialUnit[] = "QuintessentialSupport";
 
 /// Guards the view's records, positions and drawing. The drawing thread leaves it only to sleep, so
-/// whoever wants in waits for one frame at most. Whoever is inside on the drawing thread must not
-/// read process data: the main thread comes here from within a heartbeat.
+/// entering it takes one frame at most. What runs inside on the drawing thread must not read
+/// process data: the main thread comes here from within a heartbeat.
 inline CriticalRegion gQuintessentialMutex;
 
 /// The one client there is, or null. Changes on the main thread inside the mutex.

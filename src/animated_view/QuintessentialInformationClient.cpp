@@ -95,7 +95,7 @@ void QuintessentialInformationClient::HookIntoConsolidator() {
   mHooked = true;
   mPaused = false;
   {
-    // Nobody tells a client that is not served about preferences.
+    // A client that is not served does not hear of preferences.
     const Guard guard(gQuintessentialMutex);
     ReadSettings();
   }

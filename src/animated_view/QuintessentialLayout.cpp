@@ -22,7 +22,7 @@ double Moved(double from, double force, bool boost) {
   return std::clamp(from + (boost ? step * kBoost : step), kLowest, kHighest);
 }
 
-/// One of a list's records and its place among the bodies; kNoBody when it pushes nobody.
+/// One of a list's records and its place among the bodies; kNoBody when it pushes none.
 struct Member {
   QuintessentialInformationProcessInfo* info;
   std::size_t body;

@@ -26,12 +26,13 @@ class QuintessentialView {
   /// One frame. Drawing thread, inside the mutex.
   void internalDraw();
 
-  /// How many frames are still to be drawn whatever the engine's pause says.
+  /// The repaint countdown: how many of the frames after an exposure or a change of mode are still
+  /// to come. Each begins with a cleared window, as all do.
   std::int32_t kludgeCountdown() const { return mKludgeCountdown; }
   void setKludgeCountdown(std::int32_t frames) { mKludgeCountdown = frames; }
 
   /// The nearest process shows its name, whatever lies in its way. Points of the window; outside of
-  /// it nobody is near.
+  /// it no process is near.
   void mouseMoved(const QPointF& place);
   void mouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, false); }
   void rightMouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, true); }

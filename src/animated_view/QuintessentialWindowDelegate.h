@@ -33,7 +33,7 @@ class QuintessentialWindowDelegate {
 
   /// Whether the user can see the view; while not, nothing moves.
   void SetSeen(bool seen);
-  /// Nothing can be drawn: from now on nothing moves, whoever sees the view.
+  /// Nothing can be drawn: from now on nothing moves, seen or not.
   void RestForGood();
 
  private:

@@ -57,7 +57,8 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   /// After a change of the mode. Back from an overlay that came while there was no window, there is
   /// none again, as long as the user has another one of the program.
   void doShowQuintessentialView() override;
-  /// The drawing thread takes the context by itself for each frame, and nobody else has use for it.
+  /// The drawing thread takes the context by itself for each frame, and nothing else has use for
+  /// it.
   void MakeContextCurrent() override {}
   void InternalDraw() override;
   std::shared_ptr<const Picture> LabelImage(const std::string& name) override;

@@ -16,7 +16,7 @@ struct ViewDrawing {
   ViewMarks marks;
   /// Kept from frame to frame for its memory.
   std::vector<DrawnProcess> processes;
-  /// Drawing has failed; nobody draws until the main thread has dealt with it.
+  /// Drawing has failed; nothing is drawn until the main thread has dealt with it.
   bool hasFailed = false;
   /// Whether a frame has been drawn since the last failure.
   bool hasDrawn = false;

@@ -81,7 +81,7 @@ ActionQuestion::ActionQuestion(const ActionPlan& plan, QWidget* parent)
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   contents->addWidget(buttons);
-  // For whoever hears it: the title is the dialog's, the sentences what it says.
+  // For screen readers: the title is the dialog's, the sentences what it says.
   setAccessibleName(title->text());
   setAccessibleDescription(text->text());
 }

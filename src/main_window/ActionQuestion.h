@@ -8,7 +8,7 @@ namespace lurkwell {
 
 /// Asks whether to carry out a plan. Says what will happen to which process: its name, pid, owner
 /// and command line, and, for a kill, the step that is next and what has been tried; of several, a
-/// list. Whoever presses Return without looking has refused. Main thread.
+/// list. Return alone refuses. Main thread.
 class ActionQuestion final : public QDialog {
   Q_OBJECT
 

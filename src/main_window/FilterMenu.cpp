@@ -12,7 +12,7 @@
 namespace lurkwell {
 namespace {
 
-/// More would not fit the screen, and nobody reads them.
+/// More would not fit the screen.
 constexpr qsizetype kMostMatches = 20;
 constexpr const char* kWords = "words";
 constexpr int kMargin = 6;

@@ -78,7 +78,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
   DaemonRights mShownRights = DaemonRights::kStarting;
-  /// Why there are no more rights, while somebody reads it.
+  /// Why there are no more rights, while that is shown.
   std::unique_ptr<Alert> mAboutHelper;
   /// As the window manager places it and Qt sizes it, while it does not fill the screen.
   QSize mWantedSize;

@@ -62,7 +62,7 @@ VQTarvMainWindowInfoSynch::~VQTarvMainWindowInfoSynch() {
 void VQTarvMainWindowInfoSynch::HookIntoConsolidator() {
   if (mHooked) return;
   mHooked = true;
-  // While nobody was served, not even what never changes was read, no change of preferences was
+  // While this was not served, not even what never changes was read, no change of preferences was
   // told, and what happened is no figure of one turn.
   gNewColumnWasAddedRecently = true;
   SetSeenInterval(ReadInt(kIntervalKey));

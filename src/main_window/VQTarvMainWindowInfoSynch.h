@@ -92,7 +92,7 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void UnhookFromConsolidator();
   bool IsHooked() const { return mHooked; }
 
-  /// While nobody can see the window it is served a tenth as often; once somebody can, at once.
+  /// While the window cannot be seen it is served a tenth as often; once it can, at once.
   void SetSeen(bool isSeen);
 
   /// Takes a new reading of a process's CPU time and works out its share of one CPU since the one

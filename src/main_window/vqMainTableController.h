@@ -47,7 +47,7 @@ class vqMainTableController final : public vqTableController,
 
   /// Takes its view and window, builds columns and toolbar, and sorts as last time. Once.
   void awakeFromNib(QMainWindow& window, StripedTableView& table);
-  /// At a first start, whose columns nobody has arranged, names get the room that a window of that
+  /// At a first start, whose columns are the usual ones, names get the room that a window of that
   /// width has left.
   void fillWidth(int width);
 

@@ -147,7 +147,7 @@ void CPUHistoryWindowInformationClient::NotifyProcessesHaveBeenUpdated() {
     return;
   }
   if (mGraph.AreLabelsDirty()) DrawLabels();
-  // What nobody could tell now belongs to the next point, which is longer.
+  // What could not be read now belongs to the next point, which is longer.
   if (!AreCPUTimesFresh(mPid)) return;
   const double descendants = TakeDescendantsSeconds();
   const auto now = TheMachine().clock.Now();

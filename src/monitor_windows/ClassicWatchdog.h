@@ -73,7 +73,7 @@ extern std::int32_t gClassicWatchdogState;
 void TurnOnClassicNub();
 void TurnOffClassicNub();
 
-/// Tells the nub to report to this program at the preferred pace, or to nobody at all.
+/// Tells the nub to report to this program at the preferred pace, or not to report at all.
 void AdjustClassicNub(bool on);
 /// Asks the nub to quit.
 void KillClassicNub();

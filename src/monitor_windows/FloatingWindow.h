@@ -60,7 +60,7 @@ class FloatingWindow final : public QWidget {
   FloatingWindow(const QRect& contentBounds, std::uint32_t attributes);
   ~FloatingWindow() override;
 
-  /// Who hears of events; an empty function for nobody.
+  /// What hears of events; an empty function for nothing.
   void SetEventHandler(std::function<void(WindowEventKind)> handler);
 
   /// Where labels go and what they are laid over.

@@ -24,8 +24,8 @@ class LogOfClient {
   virtual void clientIsGone(const LoggingWindowInformationClient2& client) = 0;
 };
 
-/// The consolidator's client behind a logging window: reads its process's figures. Whoever deletes
-/// it first, the window's closing or the end of the program, takes the other along. Main thread.
+/// The consolidator's client behind a logging window: reads its process's figures. It and
+/// the window end together, whether the window is closed or the program ends. Main thread.
 class LoggingWindowInformationClient2 final : public ProcessInformationClient {
  public:
   /// `interval` in milliseconds.

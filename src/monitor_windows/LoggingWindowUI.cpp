@@ -305,7 +305,7 @@ void LoggingWindowUI::appendRow(LoggedRow row) {
     rows.pop_front();
     endRemoveRows();
     fTable->setAutoScroll(true);
-    // Whoever reads older rows goes on reading the same ones.
+    // A user who reads older rows goes on reading the same ones.
     if (!followed) mScrollView->setValue(mScrollView->value() - 1);
   }
   const int place = numberOfRowsInTableView();

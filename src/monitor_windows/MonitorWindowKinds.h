@@ -11,7 +11,7 @@ namespace lurkwell {
 /// thread only.
 class MonitorWindowKinds {
  public:
-  /// Nobody opens more than so many of both kinds together.
+  /// No more than so many of both kinds together are opened.
   static constexpr int kMostOpenWindows = 200;
 
   virtual ~MonitorWindowKinds() = default;

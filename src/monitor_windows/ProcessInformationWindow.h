@@ -81,7 +81,7 @@ class ProcessInformationWindow {
   WindowRect ContentBounds() const;
 
   /// Hands an event of `userData`, a window, to its operation. `dims` receives the answer to the
-  /// two size queries. A null `userData` is a fatal assertion; kinds nobody listens to are not
+  /// two size queries. A null `userData` is a fatal assertion; kinds without a listener are not
   /// handled.
   static OSStatus ProcessInformationWindowHandler(std::uint32_t kind, void* userData, Point* dims);
 

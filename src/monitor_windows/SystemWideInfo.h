@@ -21,7 +21,7 @@ class SystemWideInfo final : public ProcessInformationClient, public ProcessInfo
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
   void NotifyProcessesHaveBeenUpdated() override;
-  /// Nobody calls it: the base class's answer for a process is the one that counts.
+  /// Not called: the base class's answer for a process is the one that counts.
   virtual NeedLevel NeedProcPropertyForPid(int pid);
   const char* TypeName() const override { return "SystemWideInfo"; }
 

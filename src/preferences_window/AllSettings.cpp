@@ -22,7 +22,7 @@ namespace {
 constexpr int kRefreshMilliseconds = 1000;
 constexpr int kCellMargin = 16;
 
-/// The style draws an empty box by the ground alone, which on dark ground nobody sees.
+/// The style draws an empty box by the ground alone, which on dark ground is not seen.
 class ValueCell final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

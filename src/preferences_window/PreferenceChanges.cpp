@@ -32,7 +32,7 @@ std::set<std::string> ConcernedBy(std::span<const Setting* const> entries) {
   std::set<std::string> names;
   for (const auto* entry : entries)
     if (entry->told != nullptr) names.insert(entry->told);
-  // All of them are nobody twice.
+  // All clients are told once.
   if (names.contains("*")) names = {"*"};
   return names;
 }

@@ -35,7 +35,7 @@ void LoadControl(const QWidget& window, const Setting& setting);
 /// A slider's text for the place where it is now.
 void DescribeSlider(const QWidget& window, const Setting& setting);
 
-/// Stores what a control shows, and shows what else followed from it. Tells nobody.
+/// Stores what a control shows, and shows what else followed from it. Tells no client.
 void StoreControl(const QWidget& window, const Setting& setting);
 
 // ---- Colours.

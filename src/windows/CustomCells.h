@@ -50,7 +50,7 @@ class ImageCell final : public QStyledItemDelegate {
 };
 
 /// A share of one CPU as a bar from the left; an idle process has a sliver of one point. What the
-/// idle task has is the share that nobody wanted: faint stripes.
+/// idle task has is the share that no process wanted: faint stripes.
 class CPUCell final : public QStyledItemDelegate {
  public:
   double cpuPercent() const { return mCpuPercentage; }

@@ -64,7 +64,7 @@ bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change) {
                          title.startsWith(QLatin1String("Lurkwell Pref"));
     // A minimised one counts as visible with the toolkit; its user has put it away.
     if (!window->isVisible() || window->isMinimized() || !matches) continue;
-    // Whoever works with another program keeps the keyboard, and what is in front.
+    // A user of another program keeps the keyboard there, and what is in front.
     if (change == OrderChange::kByUser ||
         QGuiApplication::applicationState() == Qt::ApplicationActive) {
       window->raise();

@@ -47,7 +47,7 @@ StripedTableView::StripedTableView(QWidget* parent) : QTableView(parent) {
   setHorizontalScrollMode(ScrollPerPixel);
   setTabKeyNavigation(false);
   setFrameShape(NoFrame);
-  // Whoever scrolls wants to see something else.
+  // A user who scrolls wants to see something else.
   connect(verticalScrollBar(), &QAbstractSlider::actionTriggered, this,
           [this] { mFound = QPersistentModelIndex(); });
   auto& rows = *verticalHeader();

@@ -30,7 +30,7 @@ class StripedTableView : public QTableView {
 
   TableHeader& header() const;
 
-  /// The context menu; belongs to whoever made it.
+  /// The context menu; belongs to its maker.
   void setContextMenu(QMenu* menu);
 
   /// Typing finds rows by the text in this column; -1 for none.

@@ -21,7 +21,7 @@ struct SystemFigures {
 SystemFigures ReadSystemFigures();
 
 /// The CPU usage of the whole machine from one reading to the next, by the idle time, which is the
-/// CPU time of process 0; whoever uses it needs that process's "meta_active_time". Main thread.
+/// CPU time of process 0; its user needs that process's "meta_active_time". Main thread.
 class MachineUsage {
  public:
   /// The first reading counts from now.

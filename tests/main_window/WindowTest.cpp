@@ -8,7 +8,6 @@
 #include "channel/DaemonChannel.h"
 #include "main_window/HelpWindow.h"
 #include "main_window/MainWindowTest.h"
-#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {
@@ -97,7 +96,9 @@ TEST_F(WindowTest, TheHelpPageTellsTheKeysThatThereAre) {
     return filled.contains(QString::fromUtf8(text));
   };
   auto filled = FillHelpPage(page);
-  EXPECT_TRUE(has(filled, "<td><kbd>Ctrl</kbd>+<kbd>+</kbd></td><td>High Priority</td>"));
+  EXPECT_TRUE(has(
+      filled,
+      "<td><kbd>Ctrl</kbd>+<kbd>+</kbd></td><td>give the selected processes a high priority</td>"));
   EXPECT_TRUE(has(filled, "<p><kbd>F7</kbd>, pressed"));
   SetPrefInt("FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE", 100);
   filled = FillHelpPage(page);
@@ -139,29 +140,6 @@ TEST_F(WindowTest, OutOfSightItOnlyKeepsUpWithWhoIsThereATenthAsOften) {
   QApplication::processEvents();
   EXPECT_EQ(turnsIn(0), 1) << "at once";
   EXPECT_EQ(turnsIn(40), 40);
-}
-
-TEST_F(WindowTest, TheKeyboardGoesToTheFrontmostWindowOfAKnownTitle) {
-  QWidget other, process, preferences;
-  other.setWindowTitle("Other Process");
-  process.setWindowTitle("Process list");
-  preferences.setWindowTitle("Lurkwell Preferences");
-  for (auto* widget : {&other, &process, &preferences}) WatchWindowOrder(*widget);
-  EXPECT_FALSE(EnsureThatCocoaWindowIsFrontmostIfPossible()) << "none of them is visible";
-  for (auto* widget : {&process, &preferences, &other}) {
-    widget->show();
-    widget->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(widget));
-  }
-  EXPECT_EQ(orderedWindows().first(), &other);
-  EXPECT_TRUE(EnsureThatCocoaWindowIsFrontmostIfPossible());
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&preferences));
-  preferences.hide();
-  EXPECT_TRUE(EnsureThatCocoaWindowIsFrontmostIfPossible());
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&process));
-  process.hide();
-  EXPECT_FALSE(EnsureThatCocoaWindowIsFrontmostIfPossible());
-  EXPECT_TRUE(other.isVisible());
 }
 
 }  // namespace
