@@ -14,6 +14,10 @@ from desktop_support import BINARY, Desktop, png_size
 
 
 class Shell(Desktop):
+    def run_program(self, *words):
+        return subprocess.run([BINARY, *words], env=self.environment, capture_output=True, text=True,
+                              timeout=60, check=False)
+
     def test_pictures_need_no_display(self):
         picture = self.home + "/main.png"
         # A picture changes nothing of what the user left.
@@ -22,24 +26,19 @@ class Shell(Desktop):
         self.write_preferences(left)
         for scale, size in (("1", (860, 560)), ("2", (1720, 1120))):
             self.environment["QT_SCALE_FACTOR"] = scale
-            done = subprocess.run(
-                [BINARY, "--screenshot", picture, "--window", "main", "--theme", "dark"],
-                env=self.environment, capture_output=True, text=True, timeout=60, check=False)
+            done = self.run_program("--screenshot", picture, "--window", "main", "--theme", "dark")
             self.assertEqual(done.returncode, 0, done.stderr)
             self.assertEqual(png_size(picture), size)
         self.assertEqual(self.preferences(), left)
-        done = subprocess.run([BINARY, "--screenshot", picture, "--window", "about"], timeout=60,
-                              env=self.environment, capture_output=True, check=False)
+        done = self.run_program("--screenshot", picture, "--window", "about")
         self.assertEqual(done.returncode, 0, done.stderr)
         about = png_size(picture)
         self.assertLess(about[0], 1600)
         # What else the user has open is no part of it.
         self.write_preferences({"QUBS_DEBUGGING_AND_TESTING": 1})
-        done = subprocess.run([BINARY, "--screenshot", picture, "--window", "about"], timeout=60,
-                              env=self.environment, capture_output=True, check=False)
+        done = self.run_program("--screenshot", picture, "--window", "about")
         self.assertEqual((done.returncode, png_size(picture)), (0, about))
-        done = subprocess.run([BINARY, "--screenshot", "/nonexistent/x.png"], text=True,
-                              env=self.environment, capture_output=True, timeout=60, check=False)
+        done = self.run_program("--screenshot", "/nonexistent/x.png")
         self.assertEqual(done.returncode, 1)
         self.assertIn("/nonexistent/x.png", done.stderr)
         self.check_nothing_is_left()
@@ -48,8 +47,7 @@ class Shell(Desktop):
         for display in (None, ":4242"):
             if display:
                 self.environment["DISPLAY"] = display
-            done = subprocess.run([BINARY, "--count", "1"], env=self.environment, text=True,
-                                  capture_output=True, timeout=60, check=False)
+            done = self.run_program("--count", "1")
             self.assertEqual(done.returncode, 0, done.stderr)
             self.assertIn("DISPLAY", done.stderr)
             self.assertIn("    1:", done.stdout)
@@ -57,8 +55,7 @@ class Shell(Desktop):
     def test_senseless_options_are_told(self):
         for words in (["--screenshot", "x", "--window", "moon"], ["--theme", "pink"],
                       ["--screenshot"]):
-            done = subprocess.run([BINARY, *words], env=self.environment, capture_output=True,
-                                  text=True, timeout=60, check=False)
+            done = self.run_program(*words)
             self.assertEqual(done.returncode, 2, words)
             self.assertIn("--help", done.stderr)
 
