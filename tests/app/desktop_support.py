@@ -172,6 +172,8 @@ class FollowedProgram(Desktop):
         return found
 
     def open_both(self, pid):
+        # What shows itself at the start takes the keys.
+        self.wait_for(lambda: '"About Lurkwell"' not in self.windows())
         self.type_keys("key", "ctrl+g")
         self.wait_for(lambda: self.active_window() not in ("Processes", ""))
         self.output("xdotool", "key", "ctrl+a", "type", str(pid))

@@ -122,7 +122,7 @@ class Following(FollowedProgram):
             if fault == "full":
                 self.assertLessEqual(log.stat().st_size, size)
                 self.assertTrue(log.read_bytes().endswith(b"\n"), "a line is there whole or not")
-            self.assertEqual(len(self.places(busy.pid)), 2)
+            self.wait_for(lambda: len(self.places(busy.pid)) == 2, tell=self.windows)
             self.end_program(program)
 
 

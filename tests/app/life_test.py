@@ -51,8 +51,6 @@ class Life(FollowedProgram):
         self.type_keys("key", "--delay", "150", *keys)
 
     def open_everything(self, pid):
-        # What shows itself at the start takes the keys.
-        self.wait_for(lambda: not self.is_shown("About Lurkwell"))
         self.open_both(pid)
         self.choose("alt+l", "a")
         self.wait_for(lambda: self.is_shown("About Lurkwell"))
