@@ -21,7 +21,7 @@
 #include "platform/linux/LinuxNamedPipes.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxTools.h"
-#include "platform/linux/NoProcessManager.h"
+#include "platform/linux/NoDesktop.h"
 #include "platform/linux/PropertyListDomain.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "support/OpenChannel.h"

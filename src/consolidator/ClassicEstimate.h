@@ -26,9 +26,6 @@ class ClassicEstimate {
   /// report only marks it as measured.
   void Charge(MetaProcessInformation& record) const;
 
-  /// Share of one CPU that the environment uses, filtered; 0 before the first measurement.
-  double FilteredCPUUsage() const { return gTruBlueFilteredCPUUsage; }
-
  private:
   double gTruBlueFilteredCPUUsage = 0.0;
   ProcessIdentity mEnvironment;

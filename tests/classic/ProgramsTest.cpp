@@ -25,7 +25,7 @@
 #include "platform/linux/LinuxNamedPipes.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxTools.h"
-#include "platform/linux/NoProcessManager.h"
+#include "platform/linux/NoDesktop.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "process_control/ProcessActions.h"
 #include "support/ChildProgram.h"

@@ -5,7 +5,6 @@
 namespace lurkwell::classic {
 
 /// What the programs around the Classic environment call each other on the session bus.
-inline const QString kApplicationService = QStringLiteral("com.velquarin.lurkwell");
 inline const QString kNubService = QStringLiteral("com.velquarin.ClassicProcessInfoNub");
 inline const QString kEnvironmentService = QStringLiteral("com.velquarin.ClassicEnvironment");
 
