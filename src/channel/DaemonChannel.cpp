@@ -44,10 +44,10 @@ bool StartHelper(const std::string& path, const std::string& requests, const std
 }
 
 /// A request whose answer has not been read yet, and an answer that came after its beat. Nothing is
-/// written while the one exists; the other waits for whoever asked.
+/// written while the one exists; the other waits to be taken.
 struct Outstanding {
   bool exists = false;
-  /// Somebody comes for its answer.
+  /// Its answer will be taken.
   bool isWanted = true;
   TimeValue since;
   std::string late;
@@ -269,7 +269,7 @@ void SettleDaemonChannel() {
     TakeOutstanding(Milliseconds(0));
     return;
   }
-  // Whoever asked has not come for it since the last look.
+  // It has not been taken since the last look.
   gOutstanding.late.clear();
   if (!IsQuiet()) LoseChannel();
 }

@@ -82,8 +82,8 @@ class DaemonChannelWatcher {
 extern DaemonChannelWatcher* gDaemonChannelWatcher;
 
 /// A look at the open channel that waits for nothing: takes an answer that is outstanding, for
-/// whoever asked for it; loses the channel when that is overdue, when the helper has closed, or
-/// when it says what nobody asked for.
+/// the one that asked for it; loses the channel when that is overdue, when the helper has closed,
+/// or when it says what it was not asked for.
 void SettleDaemonChannel();
 
 /// Closes both ends if they are open; the result of the last close, -1 when nothing was open.

@@ -12,7 +12,7 @@
 /// Main thread only. One write is one request and one read its answer; no lengths, no ends.
 namespace lurkwell {
 
-/// The ends of the channel, -1 while it is closed. Read by whoever wants to know whether there is a
+/// The ends of the channel, -1 while it is closed. Read to find out whether there is a
 /// helper; changed only here.
 extern int gFd_a2d;
 extern int gFd_d2a;
@@ -36,7 +36,7 @@ void SetHelperUnprivileged(bool unprivileged);
 
 /// What the helper may do at present.
 enum class DaemonRights {
-  kStarting,  ///< not known yet: it is being started, or somebody is being asked
+  kStarting,  ///< not known yet: it is being started, or the user is being asked
   kFull,      ///< signals and renices every process
   kOwn,       ///< what the user may do himself
   kNone,      ///< there is none; another one is started after a while

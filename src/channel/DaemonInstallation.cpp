@@ -20,7 +20,7 @@ constexpr auto kHelperMode = fs::perms::owner_all | fs::perms::group_read | fs::
                              fs::perms::others_read | fs::perms::others_exec;
 
 /// Gives the copy its name, but never another's: a second instance may have been faster. A link
-/// that leads nowhere is nobody's.
+/// that leads nowhere belongs to no user.
 void TakeName(const fs::path& copy, const fs::path& name, std::error_code& error) {
   fs::create_hard_link(copy, name, error);
   if (error == std::errc::file_exists && fs::exists(name)) error.clear();

@@ -9,7 +9,7 @@
 namespace lurkwell {
 namespace {
 
-/// With nobody to serve the heart still beats.
+/// The heart still beats when there is no client.
 constexpr std::int64_t kLongestRest = 15000;
 
 /// Preferences are files that people edit: an interval of nothing must not keep a core busy.

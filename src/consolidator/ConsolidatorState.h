@@ -51,7 +51,7 @@ inline std::int32_t gFirstPidLastIteration = kInvalidPID;
 inline std::unique_ptr<RunLoopTimer> gHeartbeatCFTimerRef;
 
 /// Inside the consolidator's region for as long as it lives; before start-up there is no region
-/// and nobody to share with.
+/// and no other thread.
 class ConsolidatorGuard {
  public:
   ConsolidatorGuard() {

@@ -139,7 +139,7 @@ struct MetaProcessInformation {
   /// When any value became another one; see NoteValueChange. Never 0.
   std::uint64_t changeStamp = NextChangeStamp();
 
-  /// To be called whenever a value of the record has become another one, so that whoever shows it
+  /// To be called whenever a value of the record has become another one, so that what shows it
   /// reads it again.
   void NoteValueChange() { changeStamp = NextChangeStamp(); }
 

@@ -27,7 +27,7 @@ class OpenPass {
   }
 
  private:
-  /// False when somebody who is followed has ended.
+  /// False when a process that is followed has ended.
   bool Refresh() {
     if (!mNeeds.AreThereAny()) return true;
     const auto entries = mTable.Refresh(mWanted);

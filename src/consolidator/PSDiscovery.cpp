@@ -16,7 +16,7 @@ namespace {
 
 constexpr char kKeywordsCommand[] = "/bin/ps -Lww";
 constexpr char kHeaderCommand[] = "/bin/ps 0 -o ";
-// Nobody waits for it, and a machine that starts up is a busy one.
+// Nothing waits for it, and a machine that starts up is a busy one.
 constexpr std::int64_t kMostMilliseconds = 5000;
 constexpr std::size_t kLongestLine = 1023;
 constexpr std::size_t kLongestHeader = 63;

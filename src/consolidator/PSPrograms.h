@@ -43,7 +43,7 @@ class PSPrograms {
   /// Serves them until all have ended, for `limit` at most.
   void Await(std::chrono::milliseconds limit);
 
-  /// Some run, or wait for their turn; whoever started them looks for their ends with TakeEnded.
+  /// Some run, or wait for their turn; their ends are looked for with TakeEnded.
   bool AreUnderWay() const { return !mRuns.empty(); }
 
   /// What has ended, has been given up or could not be started since the last call.

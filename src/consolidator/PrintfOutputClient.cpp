@@ -16,7 +16,7 @@ namespace {
 constexpr std::int32_t kPrintIntervalInMilliseconds = 1000;
 
 // The sizes are asked for by other names than they are printed by, so that printing them costs
-// nothing unless somebody else needs them.
+// nothing unless another client needs them.
 constexpr std::string_view kNeededProperties[] = {"meta_active_time", "meta_name", "pid_parent_pid",
                                                   "rsz", "vsz"};
 

@@ -10,7 +10,7 @@
 
 namespace lurkwell {
 
-/// Whoever wants process data. On each heartbeat the consolidator asks every client whose interval
+/// A consumer of process data. On each heartbeat the consolidator asks every client whose interval
 /// has elapsed (a due client) what it needs, collects just that, and then tells it what changed.
 /// A client that is not due hears nothing; what it missed is kept for its next turn.
 ///
@@ -43,7 +43,7 @@ class ProcessInformationClient {
   virtual void NotifyPidHasChangedAppreciably(int pid);
   virtual void NotifyPreferencesHaveBeenUpdated();
 
-  /// Between turns: ps has told which columns it has, or columns that somebody needs have new
+  /// Between turns: ps has told which columns it has, or columns that a client needs have new
   /// values. Everything else is as it was at the last turn.
   virtual void NotifyPSColumnsHaveChanged();
 

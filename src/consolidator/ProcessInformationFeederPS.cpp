@@ -158,7 +158,7 @@ void KeepServing() {
                                            kSecondsBetweenLooks, Serve);
 }
 
-/// Whoever waits for a column gets it when it comes, however far away the next turn is.
+/// A column is handed out when it comes, however far away the next turn is.
 void Serve() {
   const ConsolidatorGuard guard;
   const TimeValue now = TheMachine().clock.Now();

@@ -50,11 +50,11 @@ class PidBlob {
 };
 
 /// Process and pid are two things: the start stamp of the process that holds `pid` at present, 0
-/// when it is not known. For whoever acts on a process that was shown. Any thread.
+/// when it is not known. For actions on a process that was shown. Any thread.
 std::uint64_t GetPidsStartStamp(std::int32_t pid);
 
 /// Whether the CPU times of a process were read in the latest heartbeat. Where they were not, which
-/// happens when nobody could tell them, they are those of an earlier one and no share comes out of
+/// happens when they could not be read, they are those of an earlier one and no share comes out of
 /// them. Always true of what the kernel does not know. Any thread.
 bool AreCPUTimesFresh(std::int32_t pid);
 

@@ -134,7 +134,7 @@ void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::
   if (record.epir == nullptr) record.epir = std::make_unique<ClassicRecord>();
   const ClassicRecord previous = std::exchange(*record.epir, ClassicRecord(bytes));
   record.previousClassicActiveTime = previous.ActiveTime();
-  // Whoever shows an application has it from the desktop, often before its first report.
+  // What is shown of an application comes from the desktop, often before its first report.
   if (!record.epir->IsLike(previous)) gRecords.NoteAppreciableChange(record);
   if (pid <= -2) gClassicEstimate.Charge(record);
   record.NoteValueChange();

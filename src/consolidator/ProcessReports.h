@@ -32,7 +32,7 @@ void ReportProcessInformationForCarbonPSN(ProcessSerialNumber psn, const char* p
 /// One Classic application, 396 bytes. Charges it with CPU time.
 void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::byte* record);
 
-/// The process is still there, but nobody needs its data of this kind. An unknown kernel process
+/// The process is still there, but its data of this kind are not needed. An unknown kernel process
 /// becomes known only by kind 0.
 void TouchProcessInformationForPID(std::int32_t pid, int kind);
 

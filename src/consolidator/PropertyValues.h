@@ -13,7 +13,7 @@ namespace lurkwell {
 /// terminated. True when `dest` holds a value; `found` (may be null) tells whether there is such a
 /// process at all: it must be known and valid. A process that lacks the part in which the property
 /// lies gives false and "n/a" (kernel figures), "-" (desktop) or an empty text. A ps column that
-/// nobody has ever heard of is a fatal assertion once the process has any ps value, so ask only for
+/// has never been heard of is a fatal assertion once the process has any ps value, so ask only for
 /// names that GetNthProcPropertyHeader gives. Any thread.
 bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::int32_t length,
                          bool* found);
@@ -31,7 +31,7 @@ std::optional<std::int64_t> AgeOfPIDProperty(std::int32_t pid, const char* name)
 /// thread.
 std::optional<TimeValue> ActiveTimeOf(std::int32_t pid);
 
-/// What whoever shows many processes wants to know of each in every turn.
+/// What a client that shows many processes needs of each in every turn.
 struct ProcessGlance {
   /// Another number than before when any value of the process is another one than before; 0 when
   /// there is no such process.

@@ -19,7 +19,7 @@ enum class Missing : std::uint8_t {
 };
 
 /// A property's value as a value: numbers, sizes in bytes and fractions as numbers, times and dates
-/// as times, all else as the process's own bytes, which whoever shows them makes printable first;
+/// as times, all else as the process's own bytes, to be made printable before they are shown;
 /// or why there is none.
 using TypedValue = std::variant<Missing, std::int64_t, double, TimeValue, std::string>;
 

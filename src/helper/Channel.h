@@ -14,7 +14,7 @@ struct Channel {
 
 /// Opens both pipes, which have to be `user`'s own and closed to everybody else, and takes the
 /// greeting. False when one is not as it should be or holds too little for an answer in one piece.
-/// The process ends when nobody opens the other ends within kOpeningLimit seconds.
+/// The process ends when the other ends are not opened within kOpeningLimit seconds.
 bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel& channel);
 
 /// The process that has the other end of `pipe` locked for writing, as applications do; -1 for

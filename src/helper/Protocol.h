@@ -22,7 +22,7 @@ inline constexpr std::size_t kAnswerCapacity = 8191;
 inline constexpr int kLowestPipeCapacity = 8192;
 /// Longest path of a pipe, in bytes without the terminating NUL.
 inline constexpr std::size_t kLongestPath = 1023;
-/// Seconds until the helper gives up when nobody opens the other ends.
+/// Seconds until the helper gives up when the other ends are not opened.
 inline constexpr unsigned kOpeningLimit = 10;
 
 /// The highest pid that any Linux kernel hands out.

@@ -5,7 +5,7 @@
 namespace lurkwell {
 
 /// A region that one thread at a time may be in; its owner may enter it again. Waits without a
-/// time limit, so whoever is inside must not wait for a thread that wants in.
+/// time limit, so a thread inside must not wait for one that wants in.
 class CriticalRegion {
  public:
   using Guard = std::lock_guard<CriticalRegion>;

@@ -11,7 +11,7 @@ namespace lurkwell {
 struct VirtualMemoryStatistics {
   std::int64_t freePages = 0;
   std::int64_t inactivePages = 0;  ///< could be had at once, but for what they hold
-  std::int64_t wiredPages = 0;     ///< cannot be taken from whoever has them
+  std::int64_t wiredPages = 0;     ///< cannot be taken from their owners
   std::int64_t pageouts = 0;
 };
 

@@ -17,7 +17,7 @@ struct Picture {
 };
 
 /// The pictures that the desktop shows for applications. Main thread only. A picture is shared and
-/// never changes; whoever asks may keep it.
+/// never changes; the caller may keep it.
 class IconServices {
  public:
   virtual ~IconServices() = default;

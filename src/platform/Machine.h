@@ -21,7 +21,7 @@ class Screen;
 class Signals;
 class Tools;
 
-/// The machine the program runs on, one service each. Owns nothing: whoever builds a machine keeps
+/// The machine the program runs on, one service each. Owns nothing: the builder of a machine keeps
 /// its services alive as long as it is installed.
 struct Machine {
   Clock& clock;

@@ -16,7 +16,7 @@ class NamedPipes {
   using Milliseconds = std::chrono::milliseconds;
   virtual ~NamedPipes() = default;
 
-  /// A name that nobody uses, `prefix` first, in a folder that only this user can enter; empty when
+  /// An unused name, `prefix` first, in a folder that only this user can enter; empty when
   /// there is no such folder to be had.
   virtual std::string TemporaryName(std::string_view prefix) = 0;
 
@@ -24,7 +24,7 @@ class NamedPipes {
   /// failure.
   virtual bool MakeFifo(const std::string& path, unsigned mode) = 0;
 
-  /// Opens the writing end once somebody has opened the other, the reading end at once or once
+  /// Opens the writing end once the other has been opened, the reading end at once or once
   /// there is a writer; -1 after `limit` or on failure.
   virtual int OpenForWriting(const std::string& path, Milliseconds limit) = 0;
   virtual int OpenForReading(const std::string& path, Milliseconds limit) = 0;

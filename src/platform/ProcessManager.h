@@ -66,7 +66,7 @@ class ProcessManager {
   virtual void WhenRevealFails(std::function<void(const std::string& file)> tell) = 0;
 
   /// Has the desktop show a file, selected in its folder, or at least that folder. `failed` is
-  /// called, before or after this returns, when nobody shows either; it may outlive its caller.
+  /// called, before or after this returns, when neither can be shown; it may outlive its caller.
   virtual void ShowFile(const std::string& path, std::function<void()> failed) {
     static_cast<void>(path);
     failed();

@@ -63,7 +63,7 @@ class ProcessTable {
   /// and stay as they are until the next call. Empty when the table cannot be read at all.
   virtual std::span<const ProcessTableEntry> Read(const Wanted& wanted) = 0;
 
-  /// Whether somebody may have been born since the last Read; asking costs next to nothing.
+  /// Whether a process may have been born since the last Read; asking costs next to nothing.
   virtual bool MayHaveBirths() = 0;
 
   /// The entries of the last Read, brought up to date as far as is wanted, without a look at who is

@@ -5,8 +5,8 @@
 
 namespace lurkwell {
 
-/// A timer of a run loop. Owned by whoever added it; destroying it ends it, also from within its
-/// own callback.
+/// A timer of a run loop. Owned by the caller that added it; destroying it ends it, also from
+/// within its own callback.
 class RunLoopTimer {
  public:
   virtual ~RunLoopTimer() = default;

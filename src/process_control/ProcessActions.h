@@ -17,7 +17,7 @@ namespace lurkwell {
 
 /// What became of an action.
 enum class ActionResult : std::uint8_t {
-  kDone,          ///< carried out, or asked for where nobody tells the outcome
+  kDone,          ///< carried out, or asked for where no outcome is told
   kGone,          ///< the process has ended
   kProtected,     ///< one of the system's first two processes
   kKernelThread,  ///< a part of the kernel, which takes no signals

@@ -95,7 +95,7 @@ void ApplicationScopes::Read(Process& process, std::int32_t pid) {
 
 const std::vector<ApplicationScopes::Application>& ApplicationScopes::Refresh() {
   const auto now = Clock::now();
-  // Asked for before the listing: whoever is born in between counts as not listed.
+  // Asked for before the listing: a process born in between counts as not listed.
   const auto lastPid = mFolder.LastPid();
   if (!lastPid || lastPid != mLastPid) List(now);
   mLastPid = lastPid;

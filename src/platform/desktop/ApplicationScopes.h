@@ -28,8 +28,8 @@ std::optional<ApplicationScope> ScopeOfControlGroups(std::string_view text);
 
 /// The applications of a session as the session manager keeps them. Files are read once for each
 /// new process, and again for a while because a process is moved to its group after its start; of
-/// the others a few per second, in turn, so that none is wrong for ever. Nobody is listed while
-/// nobody was born. Main thread only.
+/// the others a few per second, in turn, so that none is wrong for ever. Nothing is listed while
+/// no process was born. Main thread only.
 class ApplicationScopes {
  public:
   struct Application {
@@ -40,7 +40,7 @@ class ApplicationScopes {
 
   explicit ApplicationScopes(const ProcFolder& processes) : mFolder(processes) {}
 
-  /// The present applications, first started first; one that has ended since somebody was born
+  /// The present applications, first started first; one that has ended since a process was born
   /// may be among them.
   const std::vector<Application>& Refresh();
 

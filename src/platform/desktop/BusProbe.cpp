@@ -117,7 +117,7 @@ bool DoesBusAnswer(const std::string& addresses, std::chrono::milliseconds longe
   for (std::size_t at = 0; at < addresses.size();) {
     const auto next = std::min(addresses.find(';', at), addresses.size());
     const auto address = addresses.substr(at, next - at);
-    // The library would wait for one that is silent, whoever stands behind it.
+    // The library would wait for one that is silent, whatever stands behind it.
     if (const auto answer = address.empty() ? Answer::kRefused : Ask(address, end);
         answer != Answer::kRefused)
       return answer == Answer::kYes;

@@ -22,7 +22,7 @@ constexpr char kListSignature[] = "a(uussus)";
 /// numbers as small as guests have.
 constexpr std::uint32_t kFirstSecond = 100;
 
-/// Whoever has such a number may become an application of the desktop yet.
+/// A process with such a number may become an application of the desktop yet.
 bool IsOfLiveProcess(ProcessSerialNumber psn) {
   if (psn.high < kFirstSecond) return false;
   const auto process = ProcFolder("/proc").Identify(static_cast<std::int32_t>(psn.low));

@@ -74,7 +74,7 @@ bool DBusEventBus::handleMessage(const QDBusMessage& message, const QDBusConnect
   if (message.type() != QDBusMessage::MethodCallMessage ||
       message.member() != QLatin1String("Deliver"))
     return false;
-  // Whoever waits for an answer is there still when the bus is asked whose it is.
+  // A sender that waits for an answer is there still when the bus is asked whose it is.
   const auto answer = [this, message] {
     if (message.isReplyRequired()) mBus.send(message.createReply());
   };

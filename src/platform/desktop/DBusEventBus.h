@@ -12,7 +12,7 @@ namespace lurkwell {
 
 /// Events over the session bus. Only programs of the same user are heard, at most 20 events a
 /// second, each of at most 4,096 records; what is more is dropped and counted. Without a bus there
-/// are no events, and a line on standard error says so once somebody wants some. A bus that goes is
+/// are no events, and a line on standard error says so once some are wanted. A bus that goes is
 /// not looked for again. Main thread only; needs a QCoreApplication.
 class DBusEventBus final : public QDBusVirtualObject, public EventBus {
  public:

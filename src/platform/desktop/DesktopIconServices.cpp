@@ -79,7 +79,7 @@ std::shared_ptr<const Picture> SquarePicture(const QImage& image, int size) {
 
 DesktopIconServices::DesktopIconServices(DesktopProcessManager& applications)
     : mApplications(applications), mKept(kMostPixelsKept) {
-  // Outside a desktop nobody names a theme; this is the one that all others fall back on.
+  // Outside a desktop no theme is named; this is the one that all others fall back on.
   if (QIcon::themeName().isEmpty()) QIcon::setThemeName(QStringLiteral("hicolor"));
 }
 

@@ -265,7 +265,7 @@ bool DesktopProcessManager::SetFrontProcess(ProcessSerialNumber psn) {
   auto* known = mDesktop->FindRunning(psn);
   auto* connection = mDesktop->Connection();
   if (known == nullptr || connection == nullptr) return false;
-  // Whoever hid all its windows wants all of them back.
+  // If all its windows were hidden, all of them are wanted back.
   if (!known->hidden.empty()) ShowHideProcess(psn, true);
   return RaiseWindows(*connection, *mDesktop->Windows(), known->windows);
 }

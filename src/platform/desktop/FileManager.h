@@ -15,7 +15,7 @@ class FileManager {
   /// `busAddress` is "" when there is no session bus.
   explicit FileManager(std::string busAddress) : mBusAddress(std::move(busAddress)) {}
 
-  /// Asks it to show a file, selected, in its folder; nobody waits for the outcome. False when
+  /// Asks it to show a file, selected, in its folder; the outcome is not waited for. False when
   /// there is no bus to ask on.
   bool Show(const std::string& path) const;
 
@@ -28,7 +28,7 @@ class FileManager {
   void WhenShowingFails(Failure failure) { *mFailure = std::move(failure); }
 
  private:
-  /// False when there is nobody to ask; else `failed` may be called later.
+  /// False when there is no file manager to ask; else `failed` may be called later.
   bool Ask(const std::string& path, std::function<void()> failed) const;
 
   std::string mBusAddress;

@@ -19,8 +19,8 @@ class ProcFolder {
   /// All processes, in no order.
   std::vector<std::int32_t> Pids() const;
 
-  /// The pid that was handed out last, to a process or a thread: while it is the same nobody was
-  /// born. Nothing where the folder does not tell, or tells of another pid namespace.
+  /// The pid that was handed out last, to a process or a thread: while it is the same no
+  /// process was born. Nothing where the folder does not tell, or tells of another pid namespace.
   std::optional<std::int32_t> LastPid() const;
 
   /// The process that has this pid now; nothing when there is none.

@@ -80,7 +80,7 @@ bool RunningInstance::Become(std::function<void()> bringToFront,
                              std::function<void()> toggleOverlay) {
   mBringToFront = std::move(bringToFront);
   mToggleOverlay = std::move(toggleOverlay);
-  // First the object, so that nobody finds the name without it.
+  // First the object, so that the name is never found without it.
   return mBus.isConnected() && mBus.registerObject(kPath, this, QDBusConnection::ExportAllSlots) &&
          RequestName(kDoNotQueue);
 }

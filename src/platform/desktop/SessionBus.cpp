@@ -12,7 +12,7 @@
 namespace lurkwell {
 namespace {
 
-/// Nobody waits for it, and who is not answered for stays a stranger.
+/// It is not waited for; a sender that is not answered for stays unknown.
 constexpr int kBusAnswers = 20'000;
 /// Unique names are never given twice, so what is known stays true; only memory is bounded.
 constexpr int kMostKnown = 256;

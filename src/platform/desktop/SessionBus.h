@@ -48,7 +48,7 @@ class ServiceOwner final : public QObject {
   QDBusServiceWatcher mWatcher;
   BusUsers mUsers;
   std::function<void()> mChanged;
-  /// Whoever owns it.
+  /// Its owner.
   QString mOwner;
   QString mName;
   bool mHasHeard = false;

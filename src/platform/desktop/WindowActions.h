@@ -9,7 +9,7 @@
 
 namespace lurkwell {
 
-// What the window manager can be asked to do with windows of others. Nobody waits for the outcome;
+// What the window manager can be asked to do with windows of others. The outcome is not waited for;
 // true means that it has been asked of at least one window. Main thread only.
 
 /// Closes the windows as their own close button would.

@@ -19,7 +19,7 @@ struct DesktopWindow {
   std::int32_t pid = -1;
   /// No dock, desktop, menu, notification or the like.
   bool isOwnKind = false;
-  /// Whether having it makes a process an application: of its own kind and nobody's dialog.
+  /// Whether having it makes a process an application: of its own kind and no other's dialog.
   bool isOrdinary = false;
   bool isIconified = false;
   std::string instance;

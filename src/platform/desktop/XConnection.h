@@ -44,7 +44,7 @@ enum class XAtom : std::size_t {
   kCount
 };
 
-/// Something that has happened to a window somebody watches.
+/// Something that has happened to a window that is watched.
 struct XChange {
   xcb_window_t window = 0;
   /// The property that has changed; none when the window has gone.

@@ -45,7 +45,7 @@ bool WaitFor(int descriptor, short events, steady_clock::time_point deadline) {
   }
 }
 
-/// Whoever reads the pipe learns from the lock who writes into it.
+/// The reader of the pipe learns from the lock who writes into it.
 void SignIn(int pipe) {
   struct flock lock {};
   lock.l_type = F_WRLCK;
@@ -98,7 +98,7 @@ int LinuxNamedPipes::OpenForWriting(const std::string& path, Milliseconds limit)
       SignIn(pipe);
       return pipe;
     }
-    // ENXIO: nobody reads yet.
+    // ENXIO: there is no reader yet.
     if (errno != ENXIO && errno != EINTR) return -1;
     if (steady_clock::now() >= deadline) return -1;
     std::this_thread::sleep_for(pause);

@@ -50,7 +50,7 @@ std::span<const ProcessTableEntry> LinuxProcessTable::Read() {
 
 std::span<const ProcessTableEntry> LinuxProcessTable::Read(const Wanted& wanted) {
   BeginPass();
-  // Asked for before the listing: whoever is born in between counts as not listed.
+  // Asked for before the listing: a process born in between counts as not listed.
   mLastPid = mFiles->LastPid();
   if (!mFiles->List(mListed)) return LastPassAgain();
   mFailures = 0;
@@ -151,7 +151,7 @@ void LinuxProcessTable::Drop(const ProcessTableEntry& entry, KnownProcess& known
   mReader.Forget(known);
 }
 
-/// False when somebody is gone, whose start is none then.
+/// False when a process is gone, whose start is none then.
 bool LinuxProcessTable::LookAtAll(const Wanted& wanted) {
   bool areAllThere = true;
   const std::size_t count = mPass.known.empty() ? 0 : mPass.known.size() - 1;

@@ -17,12 +17,12 @@ namespace lurkwell {
 /// proc does not list, is made up at its end ("swapper", pid 0, started at boot).
 ///
 /// A pass lists the folders, which tells who is there and who is new. It looks at what a process
-/// has used of the processors only where somebody wants what running changes, and reads files only
-/// of those that ran, that are new, or whose files were last read kLongestKept ago; those turns are
-/// spread over the passes. What changes without running is seen all the same where it matters: the
-/// children of a process that ended are read anew in the very pass that finds its end, the
-/// scheduling class and the nice value are asked for where they are wanted. The rest (pages that
-/// were taken back, a priority while a lock is held for others) is seen with the next turn.
+/// has used of the processors only where a figure that running changes is wanted, and reads files
+/// only of those that ran, that are new, or whose files were last read kLongestKept ago; those
+/// turns are spread over the passes. What changes without running is seen all the same where it
+/// matters: the children of a process that ended are read anew in the very pass that finds its end,
+/// the scheduling class and the nice value are asked for where they are wanted. The rest (pages
+/// that were taken back, a priority while a lock is held for others) is seen with the next turn.
 ///
 /// The stat files stay open from one pass to the next, because reading one again costs two thirds
 /// of opening it anew; at most half of the limit of open files is used for this, and some are given
@@ -48,7 +48,7 @@ class LinuxProcessTable final : public ProcessTable {
   const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) override;
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
 
-  /// As of the last Read that found somebody new.
+  /// As of the last Read that found a new process.
   std::int32_t MaximumPid() const override { return mMaximumPid; }
 
   std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override {
@@ -86,7 +86,7 @@ class LinuxProcessTable final : public ProcessTable {
   std::optional<std::int32_t> mLastPid;
   /// How many listings have failed in a row.
   int mFailures = 0;
-  /// Somebody came or went in this pass.
+  /// A process came or went in this pass.
   bool mAreOthers = false;
   /// Names are still on their way.
   bool mIsUnfinished = false;

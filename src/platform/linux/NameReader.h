@@ -32,7 +32,7 @@ class NameReader {
   /// The answer, as ReadFollowingCharacter gives it, if it has come.
   std::optional<char> Take(std::int32_t pid, std::uint64_t startStamp);
 
-  /// Forgets answers that nobody has taken.
+  /// Forgets answers that were not taken.
   void DropAnswers();
 
  private:

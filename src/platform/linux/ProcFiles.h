@@ -47,8 +47,8 @@ class ProcFiles {
   /// cannot be read.
   virtual bool List(std::vector<ListedProcess>& processes);
 
-  /// The pid that was handed out last, to a process or a thread: while it is the same nobody was
-  /// born. Nothing where the tree does not tell.
+  /// The pid that was handed out last, to a process or a thread: while it is the same no
+  /// process was born. Nothing where the tree does not tell.
   virtual std::optional<std::int32_t> LastPid();
 
   /// ReadRunTime and ReadScheduling where the tree's pids are those of the calling process's

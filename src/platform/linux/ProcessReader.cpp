@@ -91,7 +91,7 @@ void ProcessReader::BeginPass() {
 
 ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProcess& known,
                                            FigureSources sources) {
-  // Taken before the files are read: whoever runs in between counts as having run since.
+  // Taken before the files are read: what runs in between counts as having run since.
   const auto runTime = mFiles->RunTime(entry.pid);
   FigureSources stale = 0;
   for (const FigureSource source : kFiles) {

@@ -98,7 +98,7 @@ FileLock PropertyListDomain::Lock() {
   return lock;
 }
 
-// Takes in what another instance has written, and moves aside what nobody can read.
+// Takes in what another instance has written, and moves aside what cannot be read.
 bool PropertyListDomain::Merge() {
   switch (TakeIn()) {
     case Intake::kDone:
@@ -194,7 +194,7 @@ bool PropertyListDomain::Write() {
       Complain(kNotSaved, fault);
       return false;
     }
-    // Somebody without the lock, or an editor, may have been at it.
+    // A program without the lock, or an editor, may have been at it.
     if (attempt < kMergeAttempts && mFile.HasChanged()) {
       if (!Merge()) return false;
       if (!BringChangesIntoDocument()) return true;

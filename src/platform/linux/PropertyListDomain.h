@@ -64,7 +64,7 @@ class PropertyListDomain final : public PreferenceDomain {
   FileFault mUnfitness;
   bool mLockWasBusy = false;
   std::set<std::pair<std::string, std::string>> mReported;
-  // Nobody has taken it yet.
+  // It has not been taken yet.
   std::string mComplaint;
 };
 

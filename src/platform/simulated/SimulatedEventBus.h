@@ -28,7 +28,7 @@ class SimulatedEventBus final : public EventBus {
   }
   std::string Address() const override { return "simulated"; }
 
-  /// False when nobody handles it.
+  /// False when it has no handler.
   bool Deliver(const Event& event) {
     const auto found = mHandlers.find({event.eventClass, event.id});
     if (found == mHandlers.end()) return false;

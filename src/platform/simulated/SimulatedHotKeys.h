@@ -25,7 +25,7 @@ class SimulatedHotKeys final : public HotKeys {
     return "F" + std::to_string(virtualKeyCode == 98 ? 7 : 12);
   }
 
-  /// Calls whoever registered that key; how many they were.
+  /// Calls all that have registered that key; how many they were.
   int Press(std::uint32_t virtualKeyCode, std::uint32_t modifiers) {
     int count = 0;
     for (const auto& key : mKeys) {

@@ -43,7 +43,7 @@ class SimulatedNamedPipes final : public NamedPipes {
 
   void SetHelper(Helper helper) { mHelper = std::move(helper); }
   void SetBehaviour(Behaviour behaviour) { mBehaviour = behaviour; }
-  /// Puts a text that nobody asked for into the open channel.
+  /// Puts a text that was not asked for into the open channel.
   void SayUnasked(std::string text) { mToRead.push_back(std::move(text)); }
   void RecordExchanges(bool records) { mRecordsExchanges = records; }
   void RefuseFifos(bool refuses) { mRefusesFifos = refuses; }
