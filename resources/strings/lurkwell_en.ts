@@ -399,6 +399,306 @@
         <source></source>
         <translation>Bytes that the unit (control group) of the process has given to the storage devices to write: all processes in it together, ended ones included. From its io.stat, which everybody may read; units whose input and output is not accounted have none.</translation>
     </message>
+    <message id="pid_owner">
+        <source></source>
+        <translation>Owner</translation>
+    </message>
+    <message id="pid_owner_tip">
+        <source></source>
+        <translation>The user whose process it is, and "as" whom it acts where that is another one. From /proc/PID/status; a user without a name is a number.</translation>
+    </message>
+    <message id="pid_state">
+        <source></source>
+        <translation>State in words</translation>
+    </message>
+    <message id="pid_state_tip">
+        <source></source>
+        <translation>What the process's main thread does: running (or ready to), sleeping, uninterruptible (mostly waiting for a disk), stopped, traced by a debugger, zombie (ended, not yet collected), idle (the kernel's own). From /proc/PID/stat. Other threads may do something else.</translation>
+    </message>
+    <message id="pid_threads">
+        <source></source>
+        <translation>Thread count</translation>
+    </message>
+    <message id="pid_threads_tip">
+        <source></source>
+        <translation>How many threads the process has. From /proc/PID/stat. Threads that have ended are not counted.</translation>
+    </message>
+    <message id="pid_terminal">
+        <source></source>
+        <translation>Controlling terminal</translation>
+    </message>
+    <message id="pid_terminal_tip">
+        <source></source>
+        <translation>The terminal that the process belongs to, by its name below /dev. From /proc/PID/stat. Empty for a process without one; a program in a terminal window has that window's.</translation>
+    </message>
+    <message id="pid_command_line">
+        <source></source>
+        <translation>Full command line</translation>
+    </message>
+    <message id="pid_command_line_tip">
+        <source></source>
+        <translation>The program and its arguments, characters that cannot be shown written as escapes. From /proc/PID/cmdline, at most some 4,000 characters, as the process has them now: it may rewrite them. Printed and written it is the program alone, unless the setting KEEP_COMMAND_LINES is on.</translation>
+    </message>
+    <message id="pid_executable">
+        <source></source>
+        <translation>Executable file</translation>
+    </message>
+    <message id="pid_executable_tip">
+        <source></source>
+        <translation>The file that the process runs, "(deleted)" once it has been replaced or removed. From /proc/PID/exe, which only its user and root may read. The kernel's threads have none.</translation>
+    </message>
+    <message id="pid_running_time">
+        <source></source>
+        <translation>Running for</translation>
+    </message>
+    <message id="pid_running_time_tip">
+        <source></source>
+        <translation>How long ago the process was started, in days, hours, minutes and seconds; the time that the machine was asleep is in it. From /proc/PID/stat and the clock.</translation>
+    </message>
+    <message id="pid_cpu_share">
+        <source></source>
+        <translation>CPU % of a core</translation>
+    </message>
+    <message id="pid_cpu_share_of_machine">
+        <source></source>
+        <translation>CPU % of all</translation>
+    </message>
+    <message id="pid_cpu_share_tip">
+        <source></source>
+        <translation>How much of one processor the process used since the last update, all its threads together: 100 is one processor all the time, four busy threads make 400. From the times in /proc/PID/stat, which count in hundredths of a second. What ended children used is not in it.</translation>
+    </message>
+    <message id="pid_user_share">
+        <source></source>
+        <translation>User % of a core</translation>
+    </message>
+    <message id="pid_user_share_of_machine">
+        <source></source>
+        <translation>User % of all</translation>
+    </message>
+    <message id="pid_user_share_tip">
+        <source></source>
+        <translation>How much of one processor the process used since the last update for its own code. From the times in /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_system_share">
+        <source></source>
+        <translation>System % of a core</translation>
+    </message>
+    <message id="pid_system_share_of_machine">
+        <source></source>
+        <translation>System % of all</translation>
+    </message>
+    <message id="pid_system_share_tip">
+        <source></source>
+        <translation>How much of one processor the kernel used for the process since the last update. From the times in /proc/PID/stat.</translation>
+    </message>
+    <message id="pid_affinity">
+        <source></source>
+        <translation>CPUs allowed</translation>
+    </message>
+    <message id="pid_affinity_tip">
+        <source></source>
+        <translation>The processors that the process's main thread may run on, by their numbers from 0. As the kernel's sched_getaffinity tells. Limits of the process's control group are in it, other threads may have others.</translation>
+    </message>
+    <message id="pid_scheduler">
+        <source></source>
+        <translation>Scheduler</translation>
+    </message>
+    <message id="pid_scheduler_tip">
+        <source></source>
+        <translation>How the kernel shares processors with the process: normal, batch, idle (only when nobody else wants them), real time, deadline. From /proc/PID/stat, for its main thread.</translation>
+    </message>
+    <message id="pid_io_priority">
+        <source></source>
+        <translation>I/O priority</translation>
+    </message>
+    <message id="pid_io_priority_tip">
+        <source></source>
+        <translation>How the process stands when it waits for a disk: its class, and its level from 0, the highest, to 7. As the kernel's ioprio_get tells. Disks without a scheduler, most NVMe ones, take no notice of it.</translation>
+    </message>
+    <message id="pid_shared_memory">
+        <source></source>
+        <translation>Shared memory</translation>
+    </message>
+    <message id="pid_shared_memory_tip">
+        <source></source>
+        <translation>Memory of the process that others may have mapped, too: parts of files and libraries, and memory that is meant to be shared. From RssFile and RssShmem in /proc/PID/status. It is part of Real memory, whether or not somebody shares it.</translation>
+    </message>
+    <message id="pid_swap">
+        <source></source>
+        <translation>Swapped out</translation>
+    </message>
+    <message id="pid_swap_tip">
+        <source></source>
+        <translation>Memory of the process that was moved to the swap space. From VmSwap in /proc/PID/status. Shared memory that was swapped out is not in it.</translation>
+    </message>
+    <message id="pid_highest_rsz">
+        <source></source>
+        <translation>Highest real memory</translation>
+    </message>
+    <message id="pid_highest_rsz_tip">
+        <source></source>
+        <translation>The most memory that the process has had at a time. From VmHWM in /proc/PID/status.</translation>
+    </message>
+    <message id="pid_memory_share">
+        <source></source>
+        <translation>Memory %</translation>
+    </message>
+    <message id="pid_memory_share_tip">
+        <source></source>
+        <translation>Real memory of the process as a share of all the machine has. From /proc/PID/stat. What is shared counts in full for everybody who has it, so that the sum may be over 100.</translation>
+    </message>
+    <message id="pid_oom_score">
+        <source></source>
+        <translation>Out-of-memory score</translation>
+    </message>
+    <message id="pid_oom_score_tip">
+        <source></source>
+        <translation>Who is ended first when memory runs out: the process with the highest score. From /proc/PID/oom_score.</translation>
+    </message>
+    <message id="pid_disk_read_rate">
+        <source></source>
+        <translation>Disk read/s</translation>
+    </message>
+    <message id="pid_disk_read_rate_tip">
+        <source></source>
+        <translation>What the storage devices had to deliver for the process, in bytes per second since the last update. From /proc/PID/io, which only its user and root may read; for others' processes see the unit's.</translation>
+    </message>
+    <message id="pid_disk_write_rate">
+        <source></source>
+        <translation>Disk write/s</translation>
+    </message>
+    <message id="pid_disk_write_rate_tip">
+        <source></source>
+        <translation>What the process gave to the storage devices to write, in bytes per second since the last update. From /proc/PID/io, which only its user and root may read; for others' processes see the unit's.</translation>
+    </message>
+    <message id="pid_read_rate">
+        <source></source>
+        <translation>Read/s</translation>
+    </message>
+    <message id="pid_read_rate_tip">
+        <source></source>
+        <translation>What the process got from its read calls, in bytes per second since the last update, from a disk, a cache, a pipe or a terminal. From /proc/PID/io, which only its user and root may read.</translation>
+    </message>
+    <message id="pid_write_rate">
+        <source></source>
+        <translation>Write/s</translation>
+    </message>
+    <message id="pid_write_rate_tip">
+        <source></source>
+        <translation>What the process passed to its write calls, in bytes per second since the last update, to a disk, a cache, a pipe or a terminal. From /proc/PID/io, which only its user and root may read.</translation>
+    </message>
+    <message id="pid_unit_read_rate">
+        <source></source>
+        <translation>Disk read/s (unit)</translation>
+    </message>
+    <message id="pid_unit_read_rate_tip">
+        <source></source>
+        <translation>What the storage devices delivered to the unit (control group) of the process, all processes in it together, in bytes per second since the last update. From its io.stat, which everybody may read; units whose input and output is not accounted have none.</translation>
+    </message>
+    <message id="pid_unit_write_rate">
+        <source></source>
+        <translation>Disk write/s (unit)</translation>
+    </message>
+    <message id="pid_unit_write_rate_tip">
+        <source></source>
+        <translation>What the unit (control group) of the process gave to the storage devices to write, all processes in it together, in bytes per second since the last update. From its io.stat, which everybody may read; units whose input and output is not accounted have none.</translation>
+    </message>
+    <message id="pid_cgroup">
+        <source></source>
+        <translation>Control group path</translation>
+    </message>
+    <message id="pid_cgroup_tip">
+        <source></source>
+        <translation>The control group of the process, from the root that this program sees. From /proc/PID/cgroup. Where there are several hierarchies, the unified one's, else the service manager's.</translation>
+    </message>
+    <message id="pid_unit">
+        <source></source>
+        <translation>Service or scope</translation>
+    </message>
+    <message id="pid_unit_tip">
+        <source></source>
+        <translation>The unit of the service manager that the process belongs to: a service, a session, an application's scope. From the path of its control group. Empty without such a manager.</translation>
+    </message>
+    <message id="pid_slice">
+        <source></source>
+        <translation>Slice of units</translation>
+    </message>
+    <message id="pid_slice_tip">
+        <source></source>
+        <translation>The group of units that the process's unit is in. From the path of its control group.</translation>
+    </message>
+    <message id="pid_app_scope">
+        <source></source>
+        <translation>Application scope</translation>
+    </message>
+    <message id="pid_app_scope_tip">
+        <source></source>
+        <translation>The application for which the session manager keeps the process, by its desktop entry. From the path of its control group. Empty for services and for desktops that do not sort their applications.</translation>
+    </message>
+    <message id="pid_container">
+        <source></source>
+        <translation>Container</translation>
+    </message>
+    <message id="pid_container_tip">
+        <source></source>
+        <translation>Kind and name or number of the container that the process is in: Docker, Podman, containerd, CRI-O, Kubernetes, LXC, systemd-nspawn, Flatpak, Snap. From the path of its control group; an engine that names its groups otherwise is not known. "own pid namespace" for what is shut off without one, such as the parts of a web browser.</translation>
+    </message>
+    <message id="pid_inner_pid">
+        <source></source>
+        <translation>Pid inside</translation>
+    </message>
+    <message id="pid_inner_pid_tip">
+        <source></source>
+        <translation>The process's number in the innermost namespace of pids that it is in, when that is not this program's. From NSpid in /proc/PID/status.</translation>
+    </message>
+    <message id="pid_namespace">
+        <source></source>
+        <translation>Pid namespace</translation>
+    </message>
+    <message id="pid_namespace_tip">
+        <source></source>
+        <translation>The number of the namespace of pids that the process is in: those with the same number see each other. From /proc/PID/ns/pid, which only its user and root may read.</translation>
+    </message>
+    <message id="pid_capabilities">
+        <source></source>
+        <translation>Effective capabilities</translation>
+    </message>
+    <message id="pid_capabilities_tip">
+        <source></source>
+        <translation>Which of root's rights the process has at present. From CapEff in /proc/PID/status, for its main thread. In a namespace of users they count for that one alone.</translation>
+    </message>
+    <message id="pid_seccomp">
+        <source></source>
+        <translation>System call filter</translation>
+    </message>
+    <message id="pid_seccomp_tip">
+        <source></source>
+        <translation>Whether the process has its own system calls filtered: off, strict (next to none are left) or filter. From Seccomp in /proc/PID/status.</translation>
+    </message>
+    <message id="pid_no_new_privileges">
+        <source></source>
+        <translation>No new privileges</translation>
+    </message>
+    <message id="pid_no_new_privileges_tip">
+        <source></source>
+        <translation>Whether programs that the process starts cannot get more rights than it has, whatever their files say. From NoNewPrivs in /proc/PID/status.</translation>
+    </message>
+    <message id="pid_label">
+        <source></source>
+        <translation>Label of the security module</translation>
+    </message>
+    <message id="pid_label_tip">
+        <source></source>
+        <translation>What AppArmor, SELinux or Smack calls the process. From /proc/PID/attr/current; not there without such a module.</translation>
+    </message>
+    <message id="pid_elevated">
+        <source></source>
+        <translation>Elevated</translation>
+    </message>
+    <message id="pid_elevated_tip">
+        <source></source>
+        <translation>Whether the process has rights that its user's others have not: root when it acts as root, capabilities when it has some of root's rights. From Uid and CapEff in /proc/PID/status.</translation>
+    </message>
     <message id="internal_Icon">
         <source></source>
         <translation>Icon</translation>
@@ -2137,7 +2437,79 @@
     </message>
     <message id="value_not_counted_tip">
         <source></source>
-        <translation>Not counted: this system has no such figure of any process.</translation>
+        <translation>Not counted: there is no such figure of this process on this system.</translation>
+    </message>
+    <message id="value_not_allowed_pid_disk_read_tip">
+        <source></source>
+        <translation>Not allowed: only the process's user and root may read it. What its unit reads and writes is in the columns of the unit; root, when it starts Lurkwell, sees it.</translation>
+    </message>
+    <message id="value_not_allowed_pid_disk_written_tip">
+        <source></source>
+        <translation>Not allowed: only the process's user and root may read it. What its unit reads and writes is in the columns of the unit; root, when it starts Lurkwell, sees it.</translation>
+    </message>
+    <message id="value_not_allowed_pid_disk_read_rate_tip">
+        <source></source>
+        <translation>Not allowed: only the process's user and root may read it. What its unit reads and writes is in the columns of the unit; root, when it starts Lurkwell, sees it.</translation>
+    </message>
+    <message id="value_not_allowed_pid_disk_write_rate_tip">
+        <source></source>
+        <translation>Not allowed: only the process's user and root may read it. What its unit reads and writes is in the columns of the unit; root, when it starts Lurkwell, sees it.</translation>
+    </message>
+    <message id="value_not_counted_pid_unit_disk_read_tip">
+        <source></source>
+        <translation>Not counted: the process's unit does not account for its input and output. IOAccounting=yes in the unit would do it.</translation>
+    </message>
+    <message id="value_not_counted_pid_unit_disk_written_tip">
+        <source></source>
+        <translation>Not counted: the process's unit does not account for its input and output. IOAccounting=yes in the unit would do it.</translation>
+    </message>
+    <message id="value_not_counted_pid_unit_read_rate_tip">
+        <source></source>
+        <translation>Not counted: the process's unit does not account for its input and output. IOAccounting=yes in the unit would do it.</translation>
+    </message>
+    <message id="value_not_counted_pid_unit_write_rate_tip">
+        <source></source>
+        <translation>Not counted: the process's unit does not account for its input and output. IOAccounting=yes in the unit would do it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_cpu_share_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_user_share_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_system_share_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_disk_read_rate_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_disk_write_rate_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_read_rate_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_write_rate_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_unit_read_rate_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_yet_known_pid_unit_write_rate_tip">
+        <source></source>
+        <translation>Not known yet: it takes two readings, one of the next updates brings it.</translation>
+    </message>
+    <message id="value_not_counted_pid_label_tip">
+        <source></source>
+        <translation>Not counted: the kernel has no security module that labels processes (AppArmor, SELinux, Smack).</translation>
     </message>
     <message id="main_window_idle_task_tip">
         <source></source>
@@ -3583,6 +3955,14 @@ Free: %5</translation>
         <source></source>
         <translation>Table: idle task counts as 0</translation>
     </message>
+    <message id="setting_title_CPU_SHARE_OF_MACHINE">
+        <source></source>
+        <translation>Columns: CPU shares are of the machine</translation>
+    </message>
+    <message id="setting_title_KEEP_COMMAND_LINES">
+        <source></source>
+        <translation>Output: whole command lines</translation>
+    </message>
     <message id="setting_title_MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT">
         <source></source>
         <translation>Table: leave out the shared region</translation>
@@ -3922,6 +4302,14 @@ Free: %5</translation>
     <message id="setting_MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE">
         <source></source>
         <translation>Show the idle task's CPU usage and size as 0, so that its bars do not hide all others.</translation>
+    </message>
+    <message id="setting_CPU_SHARE_OF_MACHINE">
+        <source></source>
+        <translation>Show CPU, user and system shares as parts of all processors together instead of one: 100 % is then the whole machine. The column headers say which.</translation>
+    </message>
+    <message id="setting_KEEP_COMMAND_LINES">
+        <source></source>
+        <translation>Write and print the arguments of programs, which may hold passwords, and not only the program, wherever a command line is asked for.</translation>
     </message>
     <message id="setting_MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT">
         <source></source>

@@ -140,7 +140,7 @@ void ListingClient::NotifyProcessesHaveBeenUpdated() {
     auto& process = listing.processes.emplace_back(
         PrintedProcess{.pid = candidate.pid, .depth = candidate.depth, .values = {}});
     for (const auto& column : mPlan.columns)
-      process.values.push_back(GetPIDPropertyTypedValue(candidate.pid, column.key.c_str()));
+      process.values.push_back(GetPIDPropertyValueForOutput(candidate.pid, column.key.c_str()));
   }
   mFormat->Write(listing, mOut);
   std::fflush(mOut);

@@ -62,8 +62,10 @@ std::string_view TypeWord(PropertyType type) {
     case kPropertyTypeInteger:
       return "integer";
     case kPropertyTypeReal:
+    case kPropertyTypeShare:
       return "number";
     case kPropertyTypeMemory:
+    case kPropertyTypeRate:
       return "bytes";
     case kPropertyTypeTime:
     case kPropertyTypeClock:

@@ -1,9 +1,11 @@
 #include "consolidator/HelperFigures.h"
 
+#include <algorithm>
 #include <optional>
 #include <variant>
 #include <vector>
 
+#include "consolidator/FigureRates.h"
 #include "consolidator/HelperQueries.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessActionList.h"
@@ -42,8 +44,10 @@ class HelperPass {
     ReportTableFigures(entry, all);
     NoteKernelState(entry.pid, entry.state == RunState::kStopped, entry.nice);
     const unsigned groups = GroupsFor(all);
-    if (groups != 0) ReportUsage(entry, groups);
+    unsigned known = 0;
+    if (groups != 0) known = ReportUsage(entry, groups);
     ReportUnhelped(entry, all);
+    if (!mRates.Wanted().empty()) DeriveRates(entry, known);
   }
 
  private:
@@ -59,10 +63,19 @@ class HelperPass {
   }
 
   /// From the helper, or else what everybody may read.
-  void ReportUsage(const ProcessTableEntry& entry, unsigned groups) {
+  unsigned ReportUsage(const ProcessTableEntry& entry, unsigned groups) {
     unsigned known = mQueries.Ask(entry.pid, groups);
     if (known != groups) known |= ReportOwnFigures(entry, groups & ~known);
     if ((known & kThreadTime) != 0) NoteTimesRead(entry.pid);
+    return known;
+  }
+
+  /// The times are those of the helper, all other counters are the table's.
+  void DeriveRates(const ProcessTableEntry& entry, unsigned known) {
+    FigureSources current = entry.current & ~FigureSources{kFromStat};
+    if ((known & kThreadTime) != 0) current |= kFromStat;
+    PidReport report(entry.pid);
+    mRates.Derive(report, current);
   }
 
   static unsigned ReportOwnFigures(const ProcessTableEntry& entry, unsigned groups) {
@@ -85,6 +98,7 @@ class HelperPass {
     for (const auto& need : mUnhelped) {
       if (!all && !need.By(mNeeds)) continue;
       const auto figure = std::get<Figure>(need.Row().field);
+      if (RowOf(figure).kind == FigureKind::kCPUShare) continue;
       if (mIsTableOpen) {
         report.TableFigure(figure, TheMachine().processTable.FiguresOf(entry));
       } else {
@@ -102,7 +116,17 @@ class HelperPass {
       const auto group = need.Row().group;
       if ((groups & group) == 0 && (all || need.By(mNeeds))) groups |= group;
     }
+    // Rates of processors' time; no other counter is the helper's.
+    const auto isOfTimes = [](Figure rate) { return RowOf(rate).kind == FigureKind::kCPUShare; };
+    if (std::ranges::any_of(mRates.Wanted(), isOfTimes)) groups |= kThreadTime;
     return groups;
+  }
+
+  static std::vector<Figure> NeededRates(TimeValue now) {
+    std::vector<Figure> rates;
+    for (const Figure rate : kRates)
+      if (PropertyNeed(RowOf(rate).property.data(), now).IsThereAny()) rates.push_back(rate);
+    return rates;
   }
 
   static std::vector<PropertyNeed> NeedsOfFigures(bool areHelped, TimeValue now) {
@@ -126,6 +150,7 @@ class HelperPass {
   std::vector<PropertyNeed> mHelped = NeedsOfFigures(true, mNow);
   std::vector<PropertyNeed> mUnhelped = NeedsOfFigures(false, mNow);
   const bool mIsTableOpen = TheMachine().processTable.OpenSources() != 0;
+  const FigureRates mRates{mNow, NeededRates(mNow)};
   HelperQueries mQueries;
 };
 

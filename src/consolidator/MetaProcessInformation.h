@@ -27,6 +27,12 @@ inline constexpr std::size_t kNameCapacity = 256;
 inline constexpr std::size_t kCommandNameCapacity = 32;
 inline constexpr std::size_t kCarbonNameCapacity = 128;
 
+/// A counter and when it was read, in microseconds of the clock; 0 for never.
+struct CounterReading {
+  std::int64_t count = 0;
+  std::int64_t when = 0;
+};
+
 /// What the kernel and the helper say of a process.
 struct PidBlock {
   char commandName[kCommandNameCapacity] = {};
@@ -36,6 +42,9 @@ struct PidBlock {
   TimeValue startTime;
   /// By their places in kFigures.
   std::array<std::int64_t, kFigureCount> figures{};
+  FigureTexts texts;
+  /// The counters behind kRates as they were last read; empty until one is needed.
+  std::vector<CounterReading> counters;
   /// The kernel's stamp of the process's start, which tells it from a later holder of its pid; 0
   /// while the kernel's table has not named it.
   std::uint64_t startStamp = 0;

@@ -1,6 +1,7 @@
 #include "consolidator/OpenFigures.h"
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/FigureRates.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessActionList.h"
 #include "consolidator/ProcessReports.h"
@@ -18,7 +19,7 @@ bool gIsBirthDue = false;
 
 class OpenPass {
  public:
-  explicit OpenPass(TimeValue now) : mNeeds(now) {}
+  explicit OpenPass(TimeValue now) : mNeeds(now), mRates(now, mNeeds.OfRates()) {}
 
   void Run() {
     const bool mustList =
@@ -76,6 +77,7 @@ class OpenPass {
     if (block.parentPid != entry.parentPid) report.Integer(mParent, entry.parentPid);
     if (sources != 0) ReportFigures(mTable.FiguresOf(entry), sources, report);
     block.reportedSources |= sources;
+    if (!mRates.Wanted().empty()) mRates.Derive(report, entry.current);
     if ((entry.current & kFromStat) != 0) NoteTimesRead(entry.pid);
     const bool isStopped = entry.state == RunState::kStopped;
     if (isStopped || (entry.current & kFromScheduler) != 0)
@@ -93,9 +95,9 @@ class OpenPass {
 
   static void ReportFigures(const ProcessFigures& figures, FigureSources sources,
                             PidReport& report) {
-    for (std::size_t i = 0; i < kFigureCount; ++i)
-      if ((SourcesOf(kFigures[i]) & sources) != 0)
-        report.TableFigure(static_cast<Figure>(i), figures);
+    ForEachSource(sources, [&](FigureSource source) {
+      for (const Figure figure : FiguresFrom(source)) report.TableFigure(figure, figures);
+    });
   }
 
   static void ReportUncounted(PidReport& report) {
@@ -105,6 +107,7 @@ class OpenPass {
 
   ProcessTable& mTable = TheMachine().processTable;
   const SourceNeeds mNeeds;
+  const FigureRates mRates;
   const ProcessTable::Wanted mWanted = [this](std::int32_t pid) { return mNeeds.Of(pid); };
   const CatalogueRow& mCommandName = *FindBuiltInProperty("pid_p_comm");
   const CatalogueRow& mPriority = *FindBuiltInProperty("pid_p_priority");

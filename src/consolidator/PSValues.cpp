@@ -152,6 +152,8 @@ std::optional<TypedValue> ReadAs(const PSColumnFacts& facts, std::string_view te
     case kPropertyTypeString:
     case kPropertyTypeHex:
     case kPropertyTypeTime:
+    case kPropertyTypeShare:
+    case kPropertyTypeRate:
       break;
   }
   return std::nullopt;

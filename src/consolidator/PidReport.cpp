@@ -73,6 +73,7 @@ struct StoreFromText {
     return Put(block.*field, ReadTime(value));
   }
   std::optional<bool> operator()(Figure figure) const {
+    if (RowOf(figure).kind == FigureKind::kText) return block.texts.Set(figure, value);
     if (row.type != kPropertyTypeTime) return Number();
     return Put(block[figure], MicrosecondsOf(ReadTime(value)));
   }
@@ -95,7 +96,10 @@ struct Forget {
   bool operator()(char (PidBlock::*field)[kCommandNameCapacity]) const {
     return PutText(block.*field, {});
   }
-  bool operator()(Figure figure) const { return Put(block[figure], std::int64_t{0}); }
+  bool operator()(Figure figure) const {
+    const bool hadText = RowOf(figure).kind == FigureKind::kText && block.texts.Set(figure, {});
+    return Put(block[figure], std::int64_t{0}) || hadText;
+  }
   template <typename T>
   bool operator()(T PidBlock::*field) const {
     return Put(block.*field, T{});
@@ -138,6 +142,8 @@ void PidReport::TableFigure(Figure figure, const ProcessFigures& figures) {
     case FigureState::kUnread:
       return;
     case FigureState::kKnown:
+      if (RowOf(figure).kind == FigureKind::kText)
+        return NoteKnown(row, mBlock.texts.Set(figure, figures.GetText(figure)));
       return Integer(row, figures.Get(figure));
     case FigureState::kRefused:
       return NoValue(row, Missing::kNotAllowed);

@@ -73,6 +73,16 @@ constexpr PropertyType TypeOf(FigureKind kind) {
       return kPropertyTypeMemory;
     case FigureKind::kMicroseconds:
       return kPropertyTypeTime;
+    case FigureKind::kElapsed:
+      return kPropertyTypeClock;
+    case FigureKind::kShare:
+    case FigureKind::kCPUShare:
+      return kPropertyTypeShare;
+    case FigureKind::kBytesPerSecond:
+      return kPropertyTypeRate;
+    case FigureKind::kWords:
+    case FigureKind::kText:
+      return kPropertyTypeString;
     case FigureKind::kNumber:
       break;
   }
@@ -83,6 +93,7 @@ constexpr CatalogueRow OfFigure(Figure figure) {
   const FigureRow& its = RowOf(figure);
   auto row = Listed(its.property, TypeOf(its.kind), figure, its.minimumLength, SourcesOf(its));
   row.group = its.group;
+  row.changes = its.changes;
   return row;
 }
 
@@ -95,8 +106,8 @@ constexpr auto kRows = [] {
 }();
 static_assert(kRows.size() <= ValueStates::kCapacity);
 
-/// FNV-1a; the key set is fixed, so that a table of 128 places built by the compiler does.
-constexpr std::size_t kPlaces = 128;
+/// FNV-1a; the key set is fixed, so that a table built by the compiler does.
+constexpr std::size_t kPlaces = 512;
 
 constexpr std::size_t Place(std::string_view name) {
   std::uint32_t hash = 2166136261u;
@@ -104,13 +115,13 @@ constexpr std::size_t Place(std::string_view name) {
   return (hash ^ hash >> 15) % kPlaces;
 }
 
-constexpr std::array<std::int8_t, kPlaces> BuildPlaces() {
-  std::array<std::int8_t, kPlaces> places{};
+constexpr std::array<std::int16_t, kPlaces> BuildPlaces() {
+  std::array<std::int16_t, kPlaces> places{};
   places.fill(-1);
   for (std::size_t row = 0; row < kRows.size(); ++row) {
     std::size_t place = Place(kRows[row].name);
     while (places[place] >= 0) place = (place + 1) % kPlaces;
-    places[place] = static_cast<std::int8_t>(row);
+    places[place] = static_cast<std::int16_t>(row);
   }
   return places;
 }

@@ -50,6 +50,8 @@ class PropertyNeed {
   /// The catalogue's row of the property; it must be a built-in one.
   const CatalogueRow& Row() const { return *mRow; }
 
+  bool IsThereAny() const { return mLevel != ProcessInformationClient::kNeedNoPids; }
+
   /// For the process that was last looked at.
   bool By(const ProcessNeeds& process) const {
     if (mLevel == ProcessInformationClient::kNeedSomePids) return process.Need(mProperty);

@@ -64,6 +64,13 @@ bool RenderTime(std::span<char> dest, TimeValue time) {
   return Finish(dest, text, at);
 }
 
+bool RenderThousandths(std::span<char> dest, std::int64_t value) {
+  char text[32];
+  const double number = static_cast<double>(value) / 1000;
+  return Finish(dest, text,
+                std::to_chars(text, std::end(text), number, std::chars_format::fixed, 3).ptr);
+}
+
 bool RenderMetaPid(const MetaProcessInformation& record, std::span<char> dest) {
   return RenderInteger(dest, record.pid);
 }

@@ -15,6 +15,8 @@ void RenderText(std::span<char> dest, std::string_view text);
 bool RenderInteger(std::span<char> dest, std::int64_t value);
 /// Seconds, a point, six digits of microseconds.
 bool RenderTime(std::span<char> dest, TimeValue time);
+/// A number of thousandths with its three digits.
+bool RenderThousandths(std::span<char> dest, std::int64_t value);
 
 // The properties outside the per-pid block, one function each; see CatalogueRow::render.
 bool RenderMetaPid(const MetaProcessInformation& record, std::span<char> dest);

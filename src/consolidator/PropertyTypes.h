@@ -12,6 +12,8 @@ enum PropertyType : int {
   kPropertyTypeTime = 5,     ///< span of time, seconds.microseconds
   kPropertyTypeDate = 6,     ///< point in time, seconds.microseconds since the epoch
   kPropertyTypeClock = 7,    ///< span of time as ps prints it: [[days-]hours:]minutes:seconds
+  kPropertyTypeShare = 8,    ///< fraction, per cent of something
+  kPropertyTypeRate = 9,     ///< bytes per second
 };
 
 /// The four sources that report into the records; each has its own generations.

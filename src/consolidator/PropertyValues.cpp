@@ -5,8 +5,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/FigureRates.h"
 #include "consolidator/PSValues.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
@@ -16,9 +18,18 @@
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
+#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
+
+constexpr Figure kCommandLine = FigureCalled("pid_command_line");
+
+/// Arguments may be secrets; what is printed and written goes to other eyes.
+std::string_view KeptOf(std::string_view commandLine) {
+  return ReadSwitch("KEEP_COMMAND_LINES") ? commandLine
+                                          : commandLine.substr(0, commandLine.find(' '));
+}
 
 struct RenderField {
   const PidBlock& block;
@@ -33,9 +44,28 @@ struct RenderField {
   bool operator()(TimeValue PidBlock::*field) const { return RenderTime(dest, block.*field); }
   bool operator()(Figure figure) const {
     const std::int64_t value = block[figure];
-    return RowOf(figure).kind == FigureKind::kMicroseconds
-               ? RenderTime(dest, TimeOfMicroseconds(value))
-               : RenderInteger(dest, value);
+    const auto& row = RowOf(figure);
+    switch (row.kind) {
+      case FigureKind::kMicroseconds:
+      case FigureKind::kElapsed:
+        return RenderTime(dest, TimeOfMicroseconds(value));
+      case FigureKind::kShare:
+        return RenderThousandths(dest, value);
+      case FigureKind::kCPUShare:
+        return RenderThousandths(dest, value / CPUShareDivisor());
+      case FigureKind::kText:
+        RenderText(dest, figure == kCommandLine ? KeptOf(block.texts.Get(figure))
+                                                : block.texts.Get(figure));
+        return true;
+      case FigureKind::kWords:
+        RenderText(dest, row.words(value));
+        return true;
+      case FigureKind::kNumber:
+      case FigureKind::kBytes:
+      case FigureKind::kBytesPerSecond:
+        break;
+    }
+    return RenderInteger(dest, value);
   }
 };
 
@@ -46,6 +76,11 @@ bool RenderPidProperty(const MetaProcessInformation& record, const CatalogueRow*
     return false;
   }
   if (row == nullptr || dest.size() < row->minimumLength) return false;
+  // Of a number that is missing 0 is printed, but no word.
+  const auto* figure = std::get_if<Figure>(&row->field);
+  if (figure != nullptr && RowOf(*figure).kind == FigureKind::kWords &&
+      !record.pidInfo->states.IsKnown(PlaceOf(*row)))
+    return false;
   return std::visit(RenderField{*record.pidInfo, dest}, row->field);
 }
 
@@ -93,8 +128,29 @@ struct ReadField {
   TypedValue operator()(std::int32_t PidBlock::*field) const { return std::int64_t{block.*field}; }
   TypedValue operator()(Figure figure) const {
     const std::int64_t value = block[figure];
-    if (RowOf(figure).kind == FigureKind::kMicroseconds) return TimeOfMicroseconds(value);
+    const auto& row = RowOf(figure);
+    switch (row.kind) {
+      case FigureKind::kMicroseconds:
+      case FigureKind::kElapsed:
+        return TimeOfMicroseconds(value);
+      case FigureKind::kShare:
+        return static_cast<double>(value) / 1000;
+      case FigureKind::kCPUShare:
+        return static_cast<double>(value) / 1000 / CPUShareDivisor();
+      case FigureKind::kText:
+        return OrNone(block.texts.Get(figure));
+      case FigureKind::kWords:
+        return OrNone(row.words(value));
+      case FigureKind::kNumber:
+      case FigureKind::kBytes:
+      case FigureKind::kBytesPerSecond:
+        break;
+    }
     return value;
+  }
+
+  static TypedValue OrNone(std::string text) {
+    return text.empty() ? TypedValue(Missing::kNone) : TypedValue(std::move(text));
   }
 };
 
@@ -171,6 +227,13 @@ std::optional<std::int64_t> AgeOfPIDProperty(std::int32_t pid, const char* name)
     age = std::max(age.value_or(0), MillisecondsBetween(readAt, TheMachine().clock.Now()));
   }
   return age;
+}
+
+TypedValue GetPIDPropertyValueForOutput(std::int32_t pid, const char* name) {
+  auto value = GetPIDPropertyTypedValue(pid, name);
+  auto* text = std::get_if<std::string>(&value);
+  if (text != nullptr && RowOf(kCommandLine).property == name) *text = std::string(KeptOf(*text));
+  return value;
 }
 
 std::optional<TimeValue> ActiveTimeOf(std::int32_t pid) {

@@ -14,18 +14,25 @@ namespace lurkwell {
 /// process at all: it must be known and valid. A process that lacks the part in which the property
 /// lies gives false and "n/a" (kernel figures), "-" (desktop) or an empty text. A ps column that
 /// has never been heard of is a fatal assertion once the process has any ps value, so ask only for
-/// names that GetNthProcPropertyHeader gives. Any thread.
+/// names that GetNthProcPropertyHeader gives. Of a command line it gives the program alone unless
+/// KEEP_COMMAND_LINES is on, as this is how values are printed and written. Any thread, but shares
+/// of CPU time and command lines the main thread's.
 bool GetPIDPropertyValue(std::int32_t pid, const char* name, char* dest, std::int32_t length,
                          bool* found);
 
 /// The same as a value, or why there is none; for a process that is not known, Missing::kNone. What
 /// GetPIDPropertyValue renders as a hexadecimal number is a text here too. A number of ps that is
-/// none ("-", a mask of signals) is ps's own text. Any thread.
+/// none ("-", a mask of signals) is ps's own text. Any thread, but shares of CPU time the main
+/// thread's.
 TypedValue GetPIDPropertyTypedValue(std::int32_t pid, const char* name);
 
 /// How long ago a figure was read that is read in the background, in milliseconds; nothing for one
 /// that is as old as its client's turn. Any thread.
 std::optional<std::int64_t> AgeOfPIDProperty(std::int32_t pid, const char* name);
+
+/// The same as GetPIDPropertyTypedValue for what is printed, written or recorded, where other eyes
+/// may see it: of a command line the program alone, unless KEEP_COMMAND_LINES is on. Main thread.
+TypedValue GetPIDPropertyValueForOutput(std::int32_t pid, const char* name);
 
 /// The CPU time of a process, "meta_active_time"; nothing when there is no such process. Any
 /// thread.

@@ -1,6 +1,7 @@
 #include "consolidator/SourceNeeds.h"
 
 #include <algorithm>
+#include <variant>
 
 #include "consolidator/ProcessActionList.h"
 #include "consolidator/PropertyCatalogue.h"
@@ -20,16 +21,24 @@ SourceNeeds::SourceNeeds(const Client::Clients& clients, FigureSources among) : 
   }
 }
 
-SourceNeeds::OfClient SourceNeeds::NeedsOf(Client* client) const {
+SourceNeeds::OfClient SourceNeeds::NeedsOf(Client* client) {
   OfClient needs{.client = client, .itself = {client}, .ofAll = 0, .ofSome = {}};
   for (const auto& row : BuiltInProperties()) {
     const auto sources = row.sources & mAmong;
     if (sources == 0) continue;
     const auto level = Client::NeedAnyPidForProcProperty(row.name.data(), needs.itself);
     if (level == Client::kNeedAllPids) needs.ofAll |= sources;
+    if (level != Client::kNeedNoPids) NoteRate(row);
     if (level == Client::kNeedSomePids) needs.ofSome.push_back({row.name.data(), sources});
   }
   return needs;
+}
+
+void SourceNeeds::NoteRate(const CatalogueRow& row) {
+  const auto* figure = std::get_if<Figure>(&row.field);
+  if (figure != nullptr && IsRate(RowOf(*figure)) &&
+      std::ranges::find(mRates, *figure) == mRates.end())
+    mRates.push_back(*figure);
 }
 
 FigureSources SourceNeeds::Of(std::int32_t pid) const {

@@ -5,9 +5,12 @@
 
 #include "consolidator/ProcessInformationClient.h"
 #include "platform/FigureSources.h"
+#include "platform/ProcessFigures.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
+
+struct CatalogueRow;
 
 /// Which sources of figures clients need, asked of each client once for all processes and, only
 /// where it answers "some", for each. Lives for one pass, on the main thread.
@@ -26,6 +29,8 @@ class SourceNeeds {
   bool OfFigures() const;
   /// Whether anybody needs to hear now who has ended.
   bool OfEnds() const { return mNeedsEnds; }
+  /// Which of kRates anybody needs.
+  const std::vector<Figure>& OfRates() const { return mRates; }
 
  private:
   struct OfSome {
@@ -40,10 +45,12 @@ class SourceNeeds {
     std::vector<OfSome> ofSome;
   };
 
-  OfClient NeedsOf(ProcessInformationClient* client) const;
+  OfClient NeedsOf(ProcessInformationClient* client);
+  void NoteRate(const CatalogueRow& row);
 
   FigureSources mAmong;
   std::vector<OfClient> mClients;
+  std::vector<Figure> mRates;
   bool mNeedsEnds = false;
 };
 

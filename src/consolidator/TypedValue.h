@@ -32,7 +32,7 @@ inline bool IsKnown(const TypedValue& value) {
 /// catalogue; "not yet known" until something is set.
 class ValueStates {
  public:
-  static constexpr std::size_t kCapacity = 128;
+  static constexpr std::size_t kCapacity = 192;
 
   bool IsKnown(std::size_t property) const { return At(property) == kKnown; }
   /// For a property that is not known.

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "consolidator/PI_Consolidator.h"
+#include "preferences/Settings.h"
 #include "resources/Resources.h"
 
 namespace lurkwell {
@@ -48,26 +49,33 @@ struct Members {
 
 constexpr Members kMembers[] = {
     {kIdentity,
-     "meta_pid meta_name meta_kind pid_p_comm pid_parent_pid pid_p_starttime pid_suspend_count "
+     "meta_pid meta_name pid_owner pid_state pid_threads pid_terminal pid_command_line "
+     "pid_executable pid_p_starttime pid_running_time meta_kind pid_p_comm pid_parent_pid "
+     "pid_suspend_count "
      "PPID COMMAND COMM FNAME EXE START STARTED LSTART ELAPSED ETIMES S STAT NLWP LWP F"},
     {kCPU,
-     "meta_active_time pid_user_time pid_system_time pid_cpu_wait pid_processor "
-     "pid_p_priority pid_p_nice pid_policy pid_csw "
+     "pid_cpu_share pid_user_share pid_system_share meta_active_time pid_user_time pid_system_time "
+     "pid_cpu_wait pid_processor "
+     "pid_affinity pid_scheduler pid_io_priority pid_p_priority pid_p_nice pid_policy pid_csw "
      "%CPU %CUC %CUU C CP TIME CPUTIMES "
      "NI PRI PRIORITY OPRI API RTPRIO CLS SCH NUMA WCHAN AGID AGNI P"},
     {kMemory,
-     "pid_rsz pid_pss pid_uss pid_vsz pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS "
-     "LIM "
+     "pid_rsz pid_pss pid_uss pid_shared_memory pid_swap pid_highest_rsz pid_memory_share "
+     "pid_oom_score pid_vsz pid_faults pid_pageins %MEM RSS VSZ SZ SIZE M_SIZE DRS TRS LIM "
      "MAJFLT MINFLT PAGEIN OOM OOMADJ HTPRV HTSHR STACKP"},
     {kDisk,
-     "pid_disk_read pid_disk_written pid_bytes_read pid_bytes_written pid_syscalls_unix "
-     "pid_unit_disk_read pid_unit_disk_written pid_descriptors WCBYTES ROPS WOPS"},
+     "pid_disk_read_rate pid_disk_write_rate pid_disk_read pid_disk_written pid_read_rate "
+     "pid_write_rate pid_bytes_read pid_bytes_written pid_syscalls_unix pid_unit_read_rate "
+     "pid_unit_write_rate pid_unit_disk_read pid_unit_disk_written pid_descriptors WCBYTES ROPS "
+     "WOPS"},
     {kNetwork, ""},
     {kGPU, ""},
     {kBelonging,
+     "pid_cgroup pid_unit pid_slice pid_app_scope pid_container pid_inner_pid pid_namespace "
      "CGROUP CGNAME SLICE UNIT UUNIT MACHINE LXC "
      "CGROUPNS IPCNS MNTNS NETNS PIDNS TIMENS USERNS UTSNS"},
-    {kSecurity, "LABEL CONTEXT"},
+    {kSecurity,
+     "pid_elevated pid_capabilities pid_seccomp pid_no_new_privileges pid_label LABEL CONTEXT"},
     {kUsers,
      "USER UID GROUP GID EUSER EUID EGROUP EGID RUSER RUID RGROUP RGID SUSER SUID SGROUP SGID "
      "FUSER FUID FGROUP FGID SUPGRP SUPGID LUID"},
@@ -136,7 +144,10 @@ QStringList KeywordsOfColumn(const char* key) {
 }
 
 QString ColumnTitle(const char* key) {
-  return LocalizedString(key);
+  const auto ofMachine = std::string(key) + "_of_machine";
+  const bool isOfMachine =
+      HasLocalizedString(ofMachine.c_str()) && ReadSwitch("CPU_SHARE_OF_MACHINE");
+  return LocalizedString(isOfMachine ? ofMachine.c_str() : key);
 }
 
 QString ColumnTip(const char* key) {

@@ -25,7 +25,8 @@ char DefaultDirection(std::string_view key) {
   if (key == KeyText(kInternalCPUPercent) || key == KeyText(kInternalMemGraph)) return 0;
   const auto type = GetProcPropertyType(std::string(key).c_str(), nullptr);
   const bool isDescending = type == kPropertyTypeMemory || type == kPropertyTypeTime ||
-                            type == kPropertyTypeClock || type == kPropertyTypeReal;
+                            type == kPropertyTypeClock || type == kPropertyTypeReal ||
+                            type == kPropertyTypeShare || type == kPropertyTypeRate;
   return isDescending ? 0 : 1;
 }
 

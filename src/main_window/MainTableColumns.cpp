@@ -2,9 +2,12 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 #include "consolidator/PropertyCatalogue.h"
+#include "main_window/ColumnGroups.h"
 #include "main_window/vqMainTableController.h"
 #include "resources/Resources.h"
 #include "windows/ControllerAssertion.h"
@@ -20,7 +23,6 @@ constexpr int kSmallestPidWidth = 45;
 constexpr int kSmallestNameWidth = 220;
 constexpr int kSmallestBarWidth = 110;
 constexpr int kWidestFirstName = 440;
-constexpr QLatin1String kLongestKind("Kernel thread");
 /// "Nov 22 09:00:00 2026", in characters as wide as they are counted when a date is fitted.
 constexpr int kDateLength = 20;
 constexpr int kPointsPerDateCharacter = 6;
@@ -32,7 +34,37 @@ bool IsPicture(KeyId key) {
 bool IsRightAligned(KeyId key, PropertyType type) {
   if (IsInternalKey(KeyText(key))) return false;
   return key == kMetaActiveTime || type == kPropertyTypeInteger || type == kPropertyTypeMemory ||
-         type == kPropertyTypeTime || type == kPropertyTypeDate || type == kPropertyTypeClock;
+         type == kPropertyTypeTime || type == kPropertyTypeDate || type == kPropertyTypeClock ||
+         type == kPropertyTypeShare || type == kPropertyTypeRate;
+}
+
+/// What columns have room for at first, where that is more than their titles take.
+struct UsualText {
+  std::string_view key, text;
+};
+constexpr UsualText kUsualTexts[] = {
+    {"meta_kind", "Kernel thread"},
+    {"pid_owner", "messagebus"},
+    {"pid_state", "uninterruptible"},
+    {"pid_command_line", "/usr/lib/systemd/systemd --user --deserialize"},
+    {"pid_executable", "/usr/lib/systemd/systemd-journald"},
+    {"pid_running_time", "100-00:00:00"},
+    {"pid_io_priority", "best effort 4"},
+    {"pid_cgroup", "/user.slice/user-1000.slice/session-2.scope"},
+    {"pid_unit", "systemd-journald.service"},
+    {"pid_slice", "user-1000.slice"},
+    {"pid_app_scope", "org.example.Editor"},
+    {"pid_container", "Docker 3f2a8c91d0be"},
+    {"pid_namespace", "4026531836"},
+    {"pid_capabilities", "net_bind_service, net_raw"},
+    {"pid_label", "unconfined_u:unconfined_r"},
+    {"pid_elevated", "capabilities"},
+};
+
+std::string_view UsualTextOf(std::string_view key, PropertyType type) {
+  const auto* usual = std::ranges::find(kUsualTexts, key, &UsualText::key);
+  if (usual != std::end(kUsualTexts)) return usual->text;
+  return type == kPropertyTypeRate ? "999.9 MB/s" : type == kPropertyTypeShare ? "1600.0" : "";
 }
 
 }  // namespace
@@ -126,7 +158,7 @@ void vqMainTableController::addColumnToMainTable(KeyId key) {
   const std::string name(KeyText(key));
   const auto type = GetProcPropertyType(name.c_str(), nullptr);
   if (fLayout.WidthOf(key) <= 0)
-    fLayout.SetWidth(key, widthForColumn(key, LocalizedString(name.c_str())));
+    fLayout.SetWidth(key, widthForColumn(key, ColumnTitle(name.c_str())));
   fColumns.push_back({key, type, IsInternalKey(name), IsRightAligned(key, type)});
 }
 
@@ -139,9 +171,12 @@ int vqMainTableController::widthForColumn(KeyId key, const QString& title) const
   if (key == kMetaName) return std::max(width, kSmallestNameWidth);
   // Most of their texts would be cut.
   const auto name = KeyText(key);
-  if (name == "meta_kind")
-    return std::max(width, metrics.horizontalAdvance(kLongestKind) + kWidthBesideTitle);
-  if (GetProcPropertyType(name.data(), nullptr) == kPropertyTypeDate)
+  const auto type = GetProcPropertyType(name.data(), nullptr);
+  if (const auto usual = UsualTextOf(name, type); !usual.empty())
+    return std::max(width, metrics.horizontalAdvance(QString::fromUtf8(
+                               usual.data(), static_cast<qsizetype>(usual.size()))) +
+                               kWidthBesideTitle);
+  if (type == kPropertyTypeDate)
     return std::max(width, kDateLength * std::max(metrics.horizontalAdvance(QLatin1Char('0')),
                                                   kPointsPerDateCharacter) +
                                kWidthBesideTitle);

@@ -181,6 +181,8 @@ void vqMainTableController::arrangeRows() {
 }
 
 void vqMainTableController::triggerReload() {
+  // Some titles say what their shares are of.
+  if (!fColumns.empty()) Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
   fFactsHaveChanged = true;
   commitChanges();
 }
@@ -342,7 +344,7 @@ QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column&
   QStringList lines;
   const bool isMissing = !column.isInternal && !IsKnown(row.Get(column.key));
   if (column.isStale) lines.append(LocalizedString("main_window_stale_tip"));
-  if (isMissing) lines.append(MissingTip(row.Get(column.key)));
+  if (isMissing) lines.append(MissingTip(KeyText(column.key), row.Get(column.key)));
   constexpr std::int64_t kWorthTelling = 5000;
   const auto age = AgeOfPIDProperty(row.Pid(), KeyText(column.key).data());
   if (age && *age >= kWorthTelling) lines.append(LocalizedString("value_age_tip").arg(*age / 1000));
@@ -407,8 +409,8 @@ QVariant vqMainTableController::headerData(int section, Qt::Orientation orientat
   const std::string key(KeyText(column.key));
   // A title has no room above a picture; the tooltip begins with it.
   const bool isPicture = column.key == kInternalIcon || column.key == kInternalIndicator;
-  if (role == Qt::AccessibleTextRole) return LocalizedString(key.c_str());
-  if (role == Qt::DisplayRole) return isPicture ? QString() : LocalizedString(key.c_str());
+  if (role == Qt::AccessibleTextRole) return ColumnTitle(key.c_str());
+  if (role == Qt::DisplayRole) return isPicture ? QString() : ColumnTitle(key.c_str());
   if (role == Qt::ToolTipRole)
     return QString(ColumnTitle(key.c_str()) + QLatin1Char('\n') + ColumnTip(key.c_str()));
   return {};

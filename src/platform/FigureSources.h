@@ -6,14 +6,23 @@
 namespace lurkwell {
 
 /// Where figures stand. One reading of a source brings all that stands there; the figures change
-/// only while the process runs, but for those of the last two, which others change, too.
+/// only while the process runs, unless it is said that others change them.
 enum FigureSource : unsigned {
-  kFromStat = 1,     ///< the process's line in the kernel's table, name and parent included
-  kFromStatus = 2,   ///< the kernel's longer description
-  kFromIO = 4,       ///< reading and writing; the owner's and root's alone
-  kFromThreads = 8,  ///< the scheduling of each thread that lives
-  kFromUnit = 16,    ///< what the control group of the process counts, for all its processes
-  kFromScheduler = 32,
+  kFromStat = 1,          ///< the process's line in the kernel's table, name and parent included
+  kFromStatus = 2,        ///< the kernel's longer description
+  kFromIO = 4,            ///< reading and writing; the owner's and root's alone
+  kFromThreads = 8,       ///< the scheduling of each thread that lives
+  kFromUnit = 16,         ///< what its control group counts for all its processes; others change it
+  kFromScheduler = 32,    ///< class and nice value; others change them
+  kFromIdentity = 64,     ///< what the longer description says of users and rights
+  kFromExecutable = 128,  ///< the owner's and root's alone
+  kFromCommandLine = 256,  ///< memory of the process
+  kFromGroup = 512,        ///< the path of its control group
+  kFromLabel = 1024,       ///< of the security module
+  kFromNamespaces = 2048,  ///< the owner's and root's alone
+  kFromOOM = 4096,         ///< what it is worth when memory runs out
+  kFromAssignment = 8192,  ///< its processors, its priority at the disks; others change them
+  kFromClock = 16384,      ///< the time that goes by
   // Those that take long to read; see CostlyFigures.
   kFromMemoryMap = 1 << 16,        ///< the sums over all mappings
   kFromDescriptorCount = 1 << 17,  ///< how many descriptors are open
@@ -21,9 +30,14 @@ enum FigureSource : unsigned {
 /// Any of them together.
 using FigureSources = unsigned;
 /// All that the process table reads.
-inline constexpr FigureSources kAllFigureSources = 63;
+inline constexpr FigureSources kAllFigureSources = 32767;
 /// All that is read in the background.
 inline constexpr FigureSources kCostlyFigureSources = kFromMemoryMap | kFromDescriptorCount;
+
+/// Those that mostly stay what they are: read when the process becomes known, when it becomes
+/// another program, and ten seconds later at the earliest if it has run, a minute if it has not.
+inline constexpr FigureSources kSeldomChanging =
+    kFromIdentity | kFromExecutable | kFromCommandLine | kFromLabel | kFromNamespaces;
 
 inline constexpr std::size_t kCostlySourceCount = std::popcount(kCostlyFigureSources);
 

@@ -2,27 +2,53 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <span>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/FigureSources.h"
+#include "platform/FigureWords.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
 
 /// What a figure counts; its property is shown and sorted as such.
-enum class FigureKind : std::uint8_t { kNumber, kBytes, kMicroseconds };
+enum class FigureKind : std::uint8_t {
+  kNumber,
+  kBytes,
+  kMicroseconds,
+  kElapsed,         ///< microseconds, whole seconds of them
+  kShare,           ///< thousandths of a per cent
+  kCPUShare,        ///< the same of one processor
+  kBytesPerSecond,  ///< of a counter's last two readings
+  kWords,           ///< a number that has a word, see FigureRow::words
+  kText,            ///< the process's own bytes, or made of them
+};
 
 /// What the number at the source counts.
-enum class SourceUnit : std::uint8_t { kOnes, kTicks, kPages, kNanoseconds, kStateLetter };
+enum class SourceUnit : std::uint8_t {
+  kOnes,
+  kTicks,
+  kPages,
+  kNanoseconds,
+  kStateLetter,
+  kKibibytes,
+  kHexadecimal,
+  kPagesOfAll,  ///< pages as a share of all there are
+};
 
 /// How a figure is taken from its source: the number of one field, or the sum of two. The fields of
 /// kFromStat have numbers, from 1 as proc(5) counts them, and so have those of kFromThreads, which
-/// are added up; those of the others have names.
+/// are added up; those of kFromStatus, kFromIdentity, kFromIO and kFromUnit have names. What stands
+/// anywhere else has a reader of its own.
 struct FigureOrigin {
-  /// None: this machine does not count it.
+  /// None: this machine does not count it, or it is made of counters.
   FigureSources source = 0;
   SourceUnit unit = SourceUnit::kOnes;
   std::size_t field = 0;
@@ -31,6 +57,9 @@ struct FigureOrigin {
   std::string_view otherName = {};
   /// What has to be of now beside the source, since others change the figure.
   FigureSources with = 0;
+  /// The counter, or the two that are added, of which this is the growth in a second.
+  std::string_view counter = {};
+  std::string_view otherCounter = {};
 };
 
 /// What the helper can tell of a process, in groups that are asked for as a whole.
@@ -50,7 +79,7 @@ inline constexpr FigureGroupWord kFigureGroupWords[] = {
     {kThreadTime, "_thread_time"}, {kBasicInfo, "_basic_info"}, {kEventsInfo, "_events_info"}};
 
 /// One figure that a machine may count for a process: all that the program knows of it but its
-/// texts, and the only place where it stands. It may change for as long as the process lives.
+/// texts, and the only place where it stands.
 struct FigureRow {
   /// The property's name.
   std::string_view property;
@@ -59,6 +88,10 @@ struct FigureRow {
   FigureOrigin origin;
   /// The smallest buffer that its text is written to, in bytes; by default for a 32-bit number.
   std::size_t minimumLength = 11;
+  /// Of kWords: what a number means; empty where there is nothing of the kind.
+  std::string (*words)(std::int64_t number) = nullptr;
+  /// While the process lives.
+  bool changes = true;
 };
 
 namespace figure_origins {
@@ -83,6 +116,33 @@ constexpr FigureOrigin InBackground(FigureSource source) {
 constexpr FigureOrigin AlsoFrom(FigureSource with, FigureOrigin origin) {
   origin.with = with;
   return origin;
+}
+/// What has a reader of its own.
+constexpr FigureOrigin Single(FigureSource source, FigureSources with = 0) {
+  return {.source = source, .with = with};
+}
+constexpr FigureOrigin InUnit(SourceUnit unit, FigureOrigin origin) {
+  origin.unit = unit;
+  return origin;
+}
+constexpr FigureOrigin PerSecond(std::string_view counter, std::string_view other = {}) {
+  return {.counter = counter, .otherCounter = other};
+}
+constexpr FigureRow Words(std::string_view property, FigureOrigin origin,
+                          std::string (*words)(std::int64_t)) {
+  return {.property = property,
+          .kind = FigureKind::kWords,
+          .group = kNoGroup,
+          .origin = origin,
+          .minimumLength = 1,
+          .words = words};
+}
+constexpr FigureRow Text(std::string_view property, FigureOrigin origin) {
+  return {.property = property,
+          .kind = FigureKind::kText,
+          .group = kNoGroup,
+          .origin = origin,
+          .minimumLength = 1};
 }
 inline constexpr FigureOrigin kUncounted{};
 
@@ -119,6 +179,50 @@ inline constexpr FigureRow kRows[] = {
     {"pid_pss", kBytes, kNoGroup, Named(kFromMemoryMap, "Pss")},
     {"pid_uss", kBytes, kNoGroup, Named(kFromMemoryMap, "Private_Clean", "Private_Dirty")},
     {"pid_descriptors", kNumber, kNoGroup, InBackground(kFromDescriptorCount)},
+
+    Text("pid_owner", Named(kFromIdentity, "Uid")),
+    Words("pid_state", Stat(3), StateInWords),
+    {"pid_threads", kNumber, kNoGroup, Stat(20)},
+    Words("pid_terminal", Stat(7), TerminalInWords),
+    Text("pid_command_line", Single(kFromCommandLine)),
+    Text("pid_executable", Single(kFromExecutable)),
+    {"pid_running_time", kElapsed, kNoGroup, Single(kFromClock), 14},
+
+    {"pid_cpu_share", kCPUShare, kNoGroup, PerSecond("pid_user_time", "pid_system_time")},
+    {"pid_user_share", kCPUShare, kNoGroup, PerSecond("pid_user_time")},
+    {"pid_system_share", kCPUShare, kNoGroup, PerSecond("pid_system_time")},
+    Text("pid_affinity", Single(kFromAssignment)),
+    Words("pid_scheduler", AlsoFrom(kFromScheduler, Stat(41)), SchedulerInWords),
+    Words("pid_io_priority", Single(kFromAssignment), IOPriorityInWords),
+
+    {"pid_shared_memory", kBytes, kNoGroup,
+     InUnit(kKibibytes, Named(kFromStatus, "RssFile", "RssShmem"))},
+    {"pid_swap", kBytes, kNoGroup, InUnit(kKibibytes, Named(kFromStatus, "VmSwap"))},
+    {"pid_highest_rsz", kBytes, kNoGroup, InUnit(kKibibytes, Named(kFromStatus, "VmHWM"))},
+    {"pid_memory_share", kShare, kNoGroup, Stat(24, kPagesOfAll)},
+    {"pid_oom_score", kNumber, kNoGroup, Single(kFromOOM)},
+
+    {"pid_disk_read_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_disk_read")},
+    {"pid_disk_write_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_disk_written")},
+    {"pid_read_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_bytes_read")},
+    {"pid_write_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_bytes_written")},
+    {"pid_unit_read_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_unit_disk_read")},
+    {"pid_unit_write_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_unit_disk_written")},
+
+    Text("pid_cgroup", Single(kFromGroup)),
+    Text("pid_unit", Single(kFromGroup)),
+    Text("pid_slice", Single(kFromGroup)),
+    Text("pid_app_scope", Single(kFromGroup)),
+    Text("pid_container", Single(kFromGroup, kFromIdentity)),
+    Text("pid_inner_pid", Named(kFromIdentity, "NSpid")),
+    {"pid_namespace", kNumber, kNoGroup, Single(kFromNamespaces)},
+
+    Words("pid_capabilities", InUnit(kHexadecimal, Named(kFromIdentity, "CapEff")),
+          CapabilitiesInWords),
+    Words("pid_seccomp", Named(kFromIdentity, "Seccomp"), SeccompInWords),
+    Words("pid_no_new_privileges", Named(kFromIdentity, "NoNewPrivs"), YesOrNo),
+    Text("pid_label", Single(kFromLabel)),
+    Words("pid_elevated", Single(kFromIdentity), ElevationInWords),
 };
 
 }  // namespace figure_origins
@@ -142,8 +246,96 @@ consteval Figure FigureCalled(std::string_view property) {
 
 /// What has to be read for the figure to be that of now; 0 where it is not counted.
 constexpr FigureSources SourcesOf(const FigureRow& row) {
-  return row.origin.source | row.origin.with;
+  FigureSources sources = row.origin.source | row.origin.with;
+  for (const auto& counter : kFigures)
+    if (counter.property == row.origin.counter || counter.property == row.origin.otherCounter)
+      sources |= counter.origin.source;
+  return sources;
 }
+
+constexpr bool IsRate(const FigureRow& row) {
+  return !row.origin.counter.empty();
+}
+
+namespace figure_lists {
+
+template <typename Chosen>
+consteval std::size_t Count(Chosen isChosen) {
+  return static_cast<std::size_t>(std::count_if(kFigures.begin(), kFigures.end(), isChosen));
+}
+template <std::size_t kCount, typename Chosen>
+consteval std::array<Figure, kCount> List(Chosen isChosen) {
+  std::array<Figure, kCount> figures{};
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < kFigureCount; ++i)
+    if (isChosen(kFigures[i])) figures[count++] = static_cast<Figure>(i);
+  return figures;
+}
+
+template <FigureSources kSource>
+inline constexpr auto kStandsThere =
+    [](const FigureRow& row) { return row.origin.source == kSource; };
+inline constexpr auto kIsText = [](const FigureRow& row) { return row.kind == FigureKind::kText; };
+
+}  // namespace figure_lists
+
+/// The figures that stand at one source.
+template <FigureSources kSource>
+inline constexpr auto kFiguresFrom =
+    figure_lists::List<figure_lists::Count(figure_lists::kStandsThere<kSource>)>(
+        figure_lists::kStandsThere<kSource>);
+
+/// The same for a source that is known later.
+constexpr std::span<const Figure> FiguresFrom(FigureSource source) {
+  constexpr auto kLists = []<std::size_t... kBits>(std::index_sequence<kBits...>) {
+    return std::array{std::span<const Figure>(kFiguresFrom<1U << kBits>)...};
+  }
+  (std::make_index_sequence<std::bit_width(kAllFigureSources | kCostlyFigureSources)>());
+  return kLists[static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(source)))];
+}
+
+/// Calls `serve` with each of the sources alone.
+template <typename Serve>
+constexpr void ForEachSource(FigureSources sources, Serve serve) {
+  for (; sources != 0; sources &= sources - 1)
+    serve(static_cast<FigureSource>(sources & (~sources + 1)));
+}
+
+/// Those that are made of counters.
+inline constexpr auto kRates = figure_lists::List<figure_lists::Count(IsRate)>(IsRate);
+
+/// Those that are texts.
+inline constexpr auto kTextFigures =
+    figure_lists::List<figure_lists::Count(figure_lists::kIsText)>(figure_lists::kIsText);
+
+/// The texts among the figures of a process; they take no room until there is one.
+class FigureTexts {
+ public:
+  const std::string& Get(Figure figure) const {
+    static const std::string kNothing;
+    return mTexts.empty() ? kNothing : mTexts[Place(figure)];
+  }
+  /// True when it was another one.
+  bool Set(Figure figure, std::string_view text) {
+    if (Get(figure) == text) return false;
+    if (mTexts.empty()) mTexts.resize(kTextFigures.size());
+    mTexts[Place(figure)] = text;
+    return true;
+  }
+
+ private:
+  static std::size_t Place(Figure figure) {
+    static constexpr auto kPlaces = [] {
+      std::array<std::uint8_t, kFigureCount> places{};
+      for (std::size_t i = 0; i < kTextFigures.size(); ++i)
+        places[static_cast<std::size_t>(kTextFigures[i])] = static_cast<std::uint8_t>(i);
+      return places;
+    }();
+    return kPlaces[static_cast<std::size_t>(figure)];
+  }
+
+  std::vector<std::string> mTexts;
+};
 
 // Times of more than 280,000 years are cut.
 constexpr std::int64_t MicrosecondsOf(TimeValue time) {
@@ -167,15 +359,21 @@ enum class FigureState : std::uint8_t {
 class ProcessFigures {
  public:
   FigureState StateOf(Figure figure) const { return mStates[Place(figure)]; }
-  /// 0 unless it is known.
+  /// 0 unless it is known, and for a text.
   std::int64_t Get(Figure figure) const { return mValues[Place(figure)]; }
+  const std::string& GetText(Figure figure) const { return mTexts.Get(figure); }
 
   void Set(Figure figure, std::int64_t value) {
     mValues[Place(figure)] = value;
     mStates[Place(figure)] = FigureState::kKnown;
   }
+  void SetText(Figure figure, std::string_view text) {
+    mTexts.Set(figure, text);
+    mStates[Place(figure)] = FigureState::kKnown;
+  }
   void SetMissing(Figure figure, FigureState why) {
     mValues[Place(figure)] = 0;
+    if (RowOf(figure).kind == FigureKind::kText) mTexts.Set(figure, {});
     mStates[Place(figure)] = why;
   }
 
@@ -184,6 +382,7 @@ class ProcessFigures {
 
   std::array<std::int64_t, kFigureCount> mValues{};
   std::array<FigureState, kFigureCount> mStates{};
+  FigureTexts mTexts;
 };
 
 }  // namespace lurkwell

@@ -127,6 +127,8 @@ inline constexpr Setting kRows[] = {
     Interval("MAIN_WINDOW_INTERVAL", 2000, kAtOnce, kTable, "mainWindowIntervalSlider"),
     Switch("MEM_GRAPH_DRAW_VSZ", false, kAtOnce, kTable, "memoryGraphCheckBox"),
     Switch("MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE", true, kAtOnce, kTable),
+    Switch("CPU_SHARE_OF_MACHINE", false, kAtOnce, kTable),
+    Switch("KEEP_COMMAND_LINES", false, kAtOnce),
     Switch("MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT", true, kAtOnce),
     Real("MAIN_WINDOW_PAGEOUT_CRITICAL_FLASH_INTERVAL", 0.25, 0.05, 10, kNextStart, kNobody,
          nullptr, kSeconds),

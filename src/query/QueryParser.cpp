@@ -28,8 +28,10 @@ std::optional<Scale> ScaleOf(PropertyType type) {
   switch (type) {
     case kPropertyTypeInteger:
     case kPropertyTypeReal:
+    case kPropertyTypeShare:
       return Scale::kPlain;
     case kPropertyTypeMemory:
+    case kPropertyTypeRate:
       return Scale::kBytes;
     case kPropertyTypeTime:
     case kPropertyTypeClock:

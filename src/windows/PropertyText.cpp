@@ -1,5 +1,7 @@
 #include "windows/PropertyText.h"
 
+#include <string>
+
 #include "platform/PrintableText.h"
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
@@ -56,9 +58,13 @@ QString MissingText(const TypedValue& value) {
   return id != nullptr ? LocalizedString(id) : QString();
 }
 
-QString MissingTip(const TypedValue& value) {
+QString MissingTip(std::string_view key, const TypedValue& value) {
   const auto* id = IdOfMissing(value);
-  return id != nullptr ? LocalizedString((std::string(id) + "_tip").c_str()) : QString();
+  if (id == nullptr) return {};
+  // Some have their own reasons: "value_not_allowed_pid_disk_read_tip".
+  const auto its = id + ('_' + std::string(key)) + "_tip";
+  const auto usual = std::string(id) + "_tip";
+  return LocalizedString(HasLocalizedString(its.c_str()) ? its.c_str() : usual.c_str());
 }
 
 QString TimeText(TimeValue time) {
@@ -93,6 +99,10 @@ QString DisplayText(PropertyType type, const TypedValue& value, int width, std::
       return QString::number(NumberOf(value), 'g', 6);
     case kPropertyTypeMemory:
       return QString::fromStdString(MemoryString(IntegerOf(value)));
+    case kPropertyTypeRate:
+      return QString::fromStdString(MemoryString(IntegerOf(value))) + QLatin1String("/s");
+    case kPropertyTypeShare:
+      return QString::number(NumberOf(value), 'f', 1);
     case kPropertyTypeTime:
       if (const auto* time = std::get_if<TimeValue>(&value)) return TimeText(*time);
       break;

@@ -31,8 +31,9 @@ QString DisplayText(PropertyType type, const TypedValue& value, int width, std::
 /// The same mark in words, for speech and copies; empty for a value.
 QString MissingText(const TypedValue& value);
 
-/// A sentence about it, with what would be needed to see a figure; empty for a value.
-QString MissingTip(const TypedValue& value);
+/// A sentence about it, with what would be needed to see the figure of this property; empty for a
+/// value.
+QString MissingTip(std::string_view key, const TypedValue& value);
 
 /// The value as a number; 0 for texts and nothing.
 double NumberOf(const TypedValue& value);

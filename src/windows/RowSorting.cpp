@@ -114,11 +114,13 @@ RowComparison ComparisonForType(PropertyType type) {
     case kPropertyTypeInteger:
       return integerCompare;
     case kPropertyTypeReal:
+    case kPropertyTypeShare:
     case kPropertyTypeClock:
       return realCompare;
     case kPropertyTypeHex:
       return hexCompare;
     case kPropertyTypeMemory:
+    case kPropertyTypeRate:
       return memoryCompare;
     case kPropertyTypeTime:
     case kPropertyTypeDate:

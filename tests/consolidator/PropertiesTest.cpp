@@ -80,6 +80,8 @@ TEST_F(PropertiesTest, AFigureIsWhatItsRowSaysWhereverItComesFrom) {
   auto& process = machine.processTable.Birth(321, "worker", 1);
   for (std::size_t i = 0; i < kFigureCount; ++i)
     process.figures[i] = 3'000'000'000 + static_cast<std::int64_t>(i);
+  for (const Figure figure : kTextFigures)
+    process.texts.Set(figure, std::string("of ") + RowOf(figure).property.data());
   machine.preferenceDomain.SetValue("MEMORY_IGNORE_SHARED_TEXT_AND_DATA_CONSTANT", 0);
   Start();
   auto& client = Add("client", 1000);
@@ -89,8 +91,14 @@ TEST_F(PropertiesTest, AFigureIsWhatItsRowSaysWhereverItComesFrom) {
     SCOPED_TRACE(row.property);
     if (!isTold) {
       EXPECT_EQ(value, TypedValue(Missing::kNotCounted));
-    } else if (row.kind == FigureKind::kMicroseconds) {
+    } else if (row.kind == FigureKind::kMicroseconds || row.kind == FigureKind::kElapsed) {
       EXPECT_EQ(value, TypedValue(TimeOfMicroseconds(process.Tell(figure))));
+    } else if (row.kind == FigureKind::kText) {
+      EXPECT_EQ(value, TypedValue("of " + std::string(row.property)));
+    } else if (row.kind == FigureKind::kWords) {
+      EXPECT_EQ(value, TypedValue(row.words(process.Tell(figure))));
+    } else if (row.kind == FigureKind::kShare) {
+      EXPECT_EQ(value, TypedValue(static_cast<double>(process.Tell(figure)) / 1000));
     } else {
       EXPECT_EQ(value, TypedValue(process.Tell(figure)));
     }
@@ -104,6 +112,7 @@ TEST_F(PropertiesTest, AFigureIsWhatItsRowSaysWhereverItComesFrom) {
       const bool isCostly = (SourcesOf(row) & kCostlyFigureSources) != 0;
       EXPECT_EQ(SourceNeeds(whenDue).Of(321), isCostly ? 0 : SourcesOf(row)) << "and of no other";
       machine.runLoop.RunFor(isCostly ? 2000 : 1000);
+      if (IsRate(row)) continue;
       expect(isOpen || isCostly ? row.origin.source != 0 : row.group != kNoGroup, row);
     }
   }
@@ -112,7 +121,68 @@ TEST_F(PropertiesTest, AFigureIsWhatItsRowSaysWhereverItComesFrom) {
   client.NeedsEverything();
   for (auto& value : process.figures) ++value;
   machine.runLoop.RunFor(2000);
-  for (const auto& row : kFigures) expect(row.group != kNoGroup || row.origin.source != 0, row);
+  for (const auto& row : kFigures)
+    if (!IsRate(row)) expect(row.group != kNoGroup || row.origin.source != 0, row);
+}
+
+TEST_F(PropertiesTest, ARateIsTheGrowthBetweenTwoReadingsOfOneProcess) {
+  auto* process = &machine.processTable.Birth(321, "worker", 1);
+  machine.processTable.TellFigures(true);
+  Start();
+  Add("client", 1000).Needs({"pid_disk_read_rate", "pid_cpu_share", "pid_user_share"});
+  const auto values = [](std::int32_t pid = 321) {
+    std::string text;
+    for (const char* name : {"pid_disk_read_rate", "pid_cpu_share", "pid_user_share"}) {
+      const auto value = GetPIDPropertyTypedValue(pid, name);
+      const auto* missing = std::get_if<Missing>(&value);
+      text += (text.empty() ? "" : " ") +
+              (missing == nullptr ? Value(pid, name)
+                                  : "missing" + std::to_string(static_cast<int>(*missing)));
+    }
+    return text;
+  };
+  const auto pass = [&](std::int64_t read, std::int64_t user, std::int64_t system, int after) {
+    (*process)["pid_disk_read"] += read;
+    (*process)["pid_user_time"] += user;
+    (*process)["pid_system_time"] += system;
+    machine.runLoop.RunFor(after);
+  };
+  const std::string kBlank = "missing1 missing1 missing1";
+  pass(7'000'000, 50'000'000, 0, 1000);
+  EXPECT_EQ(values(), kBlank) << "not a rate since its birth";
+  pass(5'000'000, 250'000, 125'000, 1000);
+  EXPECT_EQ(values(), "5000000 37.500 25.000");
+  pass(0, 0, 0, 1000);
+  EXPECT_EQ(values(), "0 0.000 0.000") << "which is not missing";
+  // Asleep for ten seconds, and then a beat at once.
+  machine.clock.Advance(10'000);
+  pass(1'000'000, 2'000'000, 0, 0);
+  EXPECT_EQ(values(), "100000 20.000 20.000");
+  pass(-1, -1, 0, 1000);
+  EXPECT_EQ(values(), kBlank) << "what goes back is no negative rate";
+  pass(10, 4'000'000, 0, 1000);
+  EXPECT_EQ(values(), "10 400.000 400.000") << "four busy threads";
+  SetPrefInt("CPU_SHARE_OF_MACHINE", 1);
+  machine.hostStatistics.processors = 8;
+  pass(10, 4'000'000, 0, 1000);
+  EXPECT_EQ(values(), "10 50.000 50.000");
+  // Beats that come too close say nothing.
+  Add("often", 20).Needs({"pid_disk_read_rate"});
+  pass(10, 0, 0, 40);
+  EXPECT_TRUE(values().starts_with("10 ")) << values();
+  process->owner = "root";
+  pass(10, 0, 0, 1000);
+  EXPECT_EQ(values(), "missing2 0.000 0.000");
+  machine.processTable.Death(321);
+  process = &machine.processTable.Birth(321, "next", 1);
+  (*process)["pid_disk_read"] = 1'000'000'000;
+  for (int beat = 0; beat < 20; ++beat) {
+    pass(0, 0, 0, 20);
+    EXPECT_TRUE(values().starts_with("missing1") || values().starts_with("missing0") ||
+                values().starts_with("0 "))
+        << values() << ": of another process";
+  }
+  EXPECT_TRUE(values().starts_with("0 ")) << values();
 }
 
 TEST_F(PropertiesTest, ValuesComeAsValuesOrSayWhyThereAreNone) {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "platform/ControlGroupPath.h"
 #include "platform/ProcessFigures.h"
 #include "platform/StatText.h"
 #include "platform/linux/ProcStat.h"
@@ -15,12 +16,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(reinterpret_cast<const char*>(data), size);
   const auto stat = ParseProcStat(text);
   static_cast<void>(ParseIdleTicks(text));
+  const NamedFields fields(text);
   for (const auto& row : kFigures) {
-    static_cast<void>(ParseNamedField(text, row.origin.name));
+    static_cast<void>(ParseWholeNumber(fields.Get(row.origin.name)));
+    if (row.words != nullptr) static_cast<void>(row.words(static_cast<std::int64_t>(size)));
     if (row.origin.source == kFromThreads)
       static_cast<void>(ParseNthNumber(text, row.origin.field));
     if (row.origin.source == kFromUnit) static_cast<void>(SumOfNamed(text, row.origin.name));
   }
+  const auto path = PathOfControlGroups(text);
+  static_cast<void>(UnitOfPath(path) + SliceOfPath(path) + ContainerOfPath(path));
+  static_cast<void>(ScopeOfControlGroups(text));
   if (!stat) return 0;
   static_cast<void>(ParseProcStatFields(*stat));
   if (stat->pid < 1 || stat->parentPid < 0) std::abort();

@@ -1,8 +1,10 @@
 // What is drawn, to the pixel.
 #include <QPaintEvent>
 #include <QPainter>
+#include <QSet>
 
 #include "consolidator/PidReport.h"
+#include "consolidator/PropertyCatalogue.h"
 #include "main_window/MainWindowTest.h"
 #include "resources/Resources.h"
 #include "windows/CustomCells.h"
@@ -15,36 +17,48 @@ using CellsTest = MainWindowTest;
 const QColor kBlue(Qt::blue);
 const QColor kGrey(Qt::lightGray);
 
-TEST_F(CellsTest, WhyThereIsNoFigureIsToldApartFromNothing) {
+TEST_F(CellsTest, WhyThereIsNoFigureIsToldApartFromNothingInEveryColumn) {
   OpenWith({300, 301, 302, 303});
-  controller().addToKeysWeTrackForUI(InternKey("pid_faults"));
-  Turn();
-  const auto& faults = *FindBuiltInProperty("pid_faults");
-  PidReport(300).NoValue(faults, Missing::kNotYetKnown);
-  PidReport(301).NoValue(faults, Missing::kNotAllowed);
-  PidReport(302).NoValue(faults, Missing::kNotCounted);
-  controller().synchronizer()->NotifyProcessesHaveBeenUpdated();
-  const auto cells = [this](int role) {
+  const auto cells = [this](const char* key, int role) {
     QStringList texts;
     for (const int pid : {300, 301, 302, 303}) {
       const int row = controller().rows().Find(pid)->shownIndex;
-      texts.append(controller().index(row, ColumnOf("pid_faults")).data(role).toString());
+      texts.append(controller().index(row, ColumnOf(key)).data(role).toString());
     }
-    return texts.join(QLatin1Char('|'));
+    return texts;
   };
-  EXPECT_EQ(cells(Qt::DisplayRole), "…|×|–|0");
-  EXPECT_EQ(cells(Qt::AccessibleTextRole),
-            "not known yet|not allowed|not counted on this system|0");
-  const auto tips = cells(Qt::ToolTipRole).split(QLatin1Char('|'));
-  EXPECT_TRUE(tips[0].contains("next updates")) << tips[0].toStdString();
-  EXPECT_TRUE(tips[1].contains("only root")) << tips[1].toStdString();
-  EXPECT_TRUE(tips[2].contains("no such figure")) << tips[2].toStdString();
-  EXPECT_EQ(tips[3], QString());
-  EXPECT_EQ(cells(kIsFaintRole), "true|true|true|false");
-  ClickHeader("pid_faults");
-  EXPECT_EQ(Pids().substr(8), "300 301 302");
-  ClickHeader("pid_faults");
-  EXPECT_EQ(Pids().substr(8), "302 301 300");
+  for (const auto& row : FigureProperties()) {
+    const char* key = row.name.data();
+    SCOPED_TRACE(key);
+    controller().addToKeysWeTrackForUI(InternKey(key));
+    Turn();
+    PidReport(300).NoValue(row, Missing::kNotYetKnown);
+    PidReport(301).NoValue(row, Missing::kNotAllowed);
+    PidReport(302).NoValue(row, Missing::kNotCounted);
+    PidReport(303).Text(row, "0");
+    controller().synchronizer()->NotifyProcessesHaveBeenUpdated();
+    auto shown = cells(key, Qt::DisplayRole);
+    EXPECT_EQ(shown.mid(0, 3).join(QLatin1Char('|')), "…|×|–");
+    EXPECT_FALSE(shown.contains(QString()) && key != std::string_view("pid_terminal"));
+    EXPECT_EQ(QSet<QString>(shown.begin(), shown.end()).size(), 4);
+    EXPECT_EQ(cells(key, Qt::AccessibleTextRole).mid(0, 3).join(QLatin1Char('|')),
+              "not known yet|not allowed|not counted on this system");
+    const auto tips = cells(key, Qt::ToolTipRole);
+    EXPECT_TRUE(tips[0].startsWith("Not known yet: ") && tips[0].contains("next updates"));
+    EXPECT_TRUE(tips[1].startsWith("Not allowed: ") && tips[1].contains("root"));
+    EXPECT_TRUE(tips[2].startsWith("Not counted: "));
+    EXPECT_FALSE(tips[3].startsWith("Not "));
+    EXPECT_EQ(cells(key, kIsFaintRole).mid(0, 3).join(QLatin1Char('|')), "true|true|true");
+    // Last in both directions; a terminal of nothing is there no more than the others.
+    const bool isNothing = shown[3].isEmpty();
+    for (int direction = 0; direction < 2; ++direction) {
+      ClickHeader(key);
+      const auto pids = Pids();
+      for (const char* missing : {"300", "301", "302"})
+        EXPECT_TRUE(isNothing || pids.find(missing) > pids.find("303")) << pids;
+    }
+    controller().removeFromKeysWeTrackForUI(InternKey(key));
+  }
 }
 
 TEST_F(CellsTest, HexadecimalFiguresAreShownAsTheDesktopTellsThem) {

@@ -1,7 +1,6 @@
 #include "platform/desktop/ApplicationScopes.h"
 
 #include <algorithm>
-#include <charconv>
 #include <map>
 #include <tuple>
 #include <unordered_set>
@@ -14,75 +13,7 @@ constexpr std::chrono::seconds kTimeToSettle{3};
 constexpr std::chrono::seconds kTimeBetweenLooks{1};
 constexpr int kLooksPerRefresh = 8;
 
-/// "\x2d" and the like as the bytes they stand for.
-std::string UnescapedUnit(std::string_view text) {
-  std::string plain;
-  while (!text.empty()) {
-    unsigned byte = 0;
-    if (text.size() >= 4 && text.starts_with("\\x") &&
-        std::from_chars(text.data() + 2, text.data() + 4, byte, 16).ptr == text.data() + 4 &&
-        byte != 0) {
-      plain += static_cast<char>(byte);
-      text.remove_prefix(4);
-    } else {
-      plain += text.front();
-      text.remove_prefix(1);
-    }
-  }
-  return plain;
-}
-
-/// "app-[LAUNCHER-]ID-RANDOM.scope" or "app-[LAUNCHER-]ID[@RANDOM].service"; nothing for any other
-/// name. Dashes within an id are escaped.
-std::optional<ApplicationScope> ScopeOfName(std::string_view name) {
-  std::string_view id = name;
-  if (name.ends_with(".scope")) {
-    id = name.substr(0, name.rfind('-'));
-  } else if (name.ends_with(".service")) {
-    id =
-        name.substr(0, std::min(name.find('@'), name.size() - std::string_view(".service").size()));
-  } else {
-    return {};
-  }
-  constexpr std::string_view kPrefix = "app-";
-  if (!id.starts_with(kPrefix)) return {};
-  id.remove_prefix(std::max(id.rfind('-') + 1, kPrefix.size()));
-  if (id.empty()) return {};
-  return ApplicationScope{std::string(name), UnescapedUnit(id)};
-}
-
-/// The first such folder below the slice of applications.
-std::optional<ApplicationScope> ScopeOfPath(std::string_view path) {
-  bool inSlice = false;
-  while (!path.empty()) {
-    const auto end = std::min(path.find('/'), path.size());
-    const auto folder = path.substr(0, end);
-    path.remove_prefix(std::min(end + 1, path.size()));
-    if (!inSlice) {
-      inSlice = folder == "app.slice";
-    } else if (auto scope = ScopeOfName(folder)) {
-      return scope;
-    }
-  }
-  return {};
-}
-
 }  // namespace
-
-std::optional<ApplicationScope> ScopeOfControlGroups(std::string_view text) {
-  while (!text.empty()) {
-    const auto end = std::min(text.find('\n'), text.size());
-    auto path = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    // "HIERARCHY:CONTROLLERS:PATH", where the path may hold colons.
-    for (int colons = 0; colons < 2; ++colons) {
-      path.remove_prefix(std::min(path.find(':'), path.size()));
-      if (!path.empty()) path.remove_prefix(1);
-    }
-    if (auto scope = ScopeOfPath(path)) return scope;
-  }
-  return {};
-}
 
 void ApplicationScopes::Read(Process& process, std::int32_t pid) {
   const auto identity = mFolder.Identify(pid).value_or(ProcessIdentity{});

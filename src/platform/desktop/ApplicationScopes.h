@@ -7,24 +7,11 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/ControlGroupPath.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/desktop/ProcFolder.h"
 
 namespace lurkwell {
-
-/// The application whose processes the session manager keeps in one control group.
-struct ApplicationScope {
-  /// The group's name, such as "app-gnome-org.example.Editor-4711.scope".
-  std::string name;
-  /// The desktop entry's id, such as "org.example.Editor".
-  std::string entryId;
-
-  friend bool operator==(const ApplicationScope&, const ApplicationScope&) = default;
-};
-
-/// The application's group in the text of a cgroup file; nothing when the process is in none.
-/// Pure; any thread.
-std::optional<ApplicationScope> ScopeOfControlGroups(std::string_view text);
 
 /// The applications of a session as the session manager keeps them. Files are read once for each
 /// new process, and again for a while because a process is moved to its group after its start; of

@@ -1,5 +1,6 @@
 #include "platform/linux/CommandName.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -14,6 +15,16 @@ using Buffer = std::array<char, 4352>;
 
 std::string_view TextOf(const Buffer& buffer, std::ptrdiff_t bytes) {
   return {buffer.data(), bytes > 0 ? static_cast<std::size_t>(bytes) : 0};
+}
+
+/// That of this very process, which fails once it has ended; not open when it is gone.
+FileDescriptor FolderOf(ProcFiles& files, std::int32_t pid, std::uint64_t startStamp,
+                        Buffer& buffer) {
+  FileDescriptor folder = files.OpenFolder(pid);
+  if (!folder.IsOpen()) return folder;
+  const auto stat = ParseProcStat(TextOf(buffer, files.ReadIn(folder.Get(), "stat", buffer)));
+  if (!stat || stat->pid != pid || stat->startStamp != startStamp) folder.Close();
+  return folder;
 }
 
 char Following(std::string_view name, std::string_view path) {
@@ -35,17 +46,23 @@ char FollowingCharacter(std::string_view name, std::string_view commandLine,
 
 char ReadFollowingCharacter(ProcFiles& files, std::int32_t pid, std::uint64_t startStamp,
                             std::string_view name) {
-  // The folder is that of one process, and fails once that has ended.
-  const FileDescriptor folder = files.OpenFolder(pid);
-  if (!folder.IsOpen()) return '\0';
   Buffer commandLine;
-  const auto stat =
-      ParseProcStat(TextOf(commandLine, files.ReadIn(folder.Get(), "stat", commandLine)));
-  if (!stat || stat->pid != pid || stat->startStamp != startStamp) return '\0';
+  const auto folder = FolderOf(files, pid, startStamp, commandLine);
+  if (!folder.IsOpen()) return '\0';
   const auto arguments = TextOf(commandLine, files.ReadIn(folder.Get(), "cmdline", commandLine));
   Buffer executable;
   return FollowingCharacter(name, arguments,
                             TextOf(executable, files.ReadLinkIn(folder.Get(), "exe", executable)));
+}
+
+std::string ReadCommandLine(ProcFiles& files, std::int32_t pid, std::uint64_t startStamp) {
+  Buffer buffer;
+  const auto folder = FolderOf(files, pid, startStamp, buffer);
+  if (!folder.IsOpen()) return {};
+  std::string text(TextOf(buffer, files.ReadIn(folder.Get(), "cmdline", buffer)));
+  text.resize(text.find_last_not_of('\0') + 1);
+  std::ranges::replace(text, '\0', ' ');
+  return text;
 }
 
 }  // namespace lurkwell

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace lurkwell {
@@ -23,5 +24,9 @@ char FollowingCharacter(std::string_view name, std::string_view commandLine,
 /// at. Never takes anything from another process that has got the pid meanwhile.
 char ReadFollowingCharacter(ProcFiles& files, std::int32_t pid, std::uint64_t startStamp,
                             std::string_view name);
+
+/// The arguments of that process with blanks between them, any bytes, at most some 4,000 of them;
+/// empty for a part of the kernel, too.
+std::string ReadCommandLine(ProcFiles& files, std::int32_t pid, std::uint64_t startStamp);
 
 }  // namespace lurkwell

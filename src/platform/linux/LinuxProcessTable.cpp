@@ -224,25 +224,37 @@ bool LinuxProcessTable::GiveBackDescriptors() {
   return left < kGivenBackAtOnce;
 }
 
-void LinuxProcessTable::CompleteNames() {
-  auto& unnamed = mReader.Unnamed();
-  if (unnamed.empty()) return;
-  std::sort(unnamed.begin(), unnamed.end());
-  unnamed.erase(std::unique(unnamed.begin(), unnamed.end()), unnamed.end());
-  mReader.Names().WaitBriefly();
-  for (const std::int32_t pid : unnamed) {
+/// Calls `serve` with the entry and what is known of each of these that is there, once.
+template <typename Serve>
+void LinuxProcessTable::ForEachOf(std::vector<std::int32_t>& pids, Serve serve) {
+  std::sort(pids.begin(), pids.end());
+  pids.erase(std::unique(pids.begin(), pids.end()), pids.end());
+  for (const std::int32_t pid : pids) {
     const auto entry = std::ranges::lower_bound(mPass.entries.begin(), mPass.entries.end() - 1, pid,
                                                 {}, &ProcessTableEntry::pid);
     if (entry == mPass.entries.end() - 1 || entry->pid != pid) continue;
-    KnownProcess& known = mPass.known[static_cast<std::size_t>(entry - mPass.entries.begin())];
-    if (const auto following = mReader.Names().Take(pid, entry->startStamp)) {
+    serve(*entry, mPass.known[static_cast<std::size_t>(entry - mPass.entries.begin())]);
+  }
+}
+
+void LinuxProcessTable::CompleteNames() {
+  if (mReader.Unnamed().empty() && mReader.Unlined().empty()) return;
+  mReader.Names().WaitBriefly();
+  ForEachOf(mReader.Unnamed(), [this](ProcessTableEntry& entry, KnownProcess& known) {
+    if (const auto following = mReader.Names().Take(
+            entry.pid, entry.startStamp, {known.kernelName.data(), known.kernelName.size()})) {
       ++known.namings;
-      entry->commandName[kKernelNameLength] = known.following = *following;
+      entry.commandName[kKernelNameLength] = known.following = *following;
     } else {
       // Read in full in the next pass, which may have it.
       known.isInDoubt = mIsUnfinished = true;
     }
-  }
+  });
+  ForEachOf(mReader.Unlined(), [this](ProcessTableEntry& entry, KnownProcess& known) {
+    // What has not come is asked for again in the next pass, which may have it.
+    if (const auto text = mReader.Names().TakeCommandLine(entry.pid, entry.startStamp))
+      mReader.TakeCommandLine(entry, known, *text);
+  });
   mReader.Names().DropAnswers();
 }
 

@@ -76,6 +76,8 @@ class LinuxProcessTable final : public ProcessTable {
   void FinishPass();
   void ReadOrphansAgain();
   bool GiveBackDescriptors();
+  template <typename Serve>
+  void ForEachOf(std::vector<std::int32_t>& pids, Serve serve);
   void CompleteNames();
   std::span<const ProcessTableEntry> LastPassAgain();
 

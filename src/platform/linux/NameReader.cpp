@@ -1,12 +1,13 @@
 #include "platform/linux/NameReader.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
+#include <compare>
 #include <condition_variable>
 #include <deque>
 #include <map>
 #include <mutex>
+#include <set>
 #include <thread>
 #include <utility>
 
@@ -24,14 +25,8 @@ using Key = std::pair<std::int32_t, std::uint64_t>;
 constexpr auto kMoment = 20ms;
 constexpr auto kLongestReading = 1s;
 constexpr auto kRest = 60s;
-constexpr std::size_t kMostQuestions = 1024;
+constexpr std::size_t kMostQuestions = 8192;
 constexpr std::size_t kMostHangingReaders = 4;
-
-struct Question {
-  Key key;
-  std::array<char, kKernelNameLength> name{};
-  std::size_t length = 0;
-};
 
 struct Shelved {
   SteadyClock::time_point until;
@@ -39,6 +34,19 @@ struct Shelved {
 };
 
 }  // namespace
+
+struct NameReader::Question {
+  Key key;
+  /// Which name is to be completed; without one the command line is asked for.
+  std::string name;
+
+  auto operator<=>(const Question&) const = default;
+
+  std::string Answer(ProcFiles& files) const {
+    if (name.empty()) return ReadCommandLine(files, key.first, key.second);
+    return std::string(1, ReadFollowingCharacter(files, key.first, key.second, name));
+  }
+};
 
 /// What the main thread and the readers share; the last of them frees it.
 struct NameReader::Mailbox {
@@ -58,10 +66,12 @@ struct NameReader::Mailbox {
   std::mutex mutex;
   std::condition_variable news;
   std::deque<Question> questions;
-  std::map<Key, char> answers;
+  /// The same, to be found.
+  std::set<Question> asked;
+  std::map<Question, std::string> answers;
   std::map<Key, Shelved> shelf;
   /// What the reader reads, and since when.
-  std::optional<Key> reading;
+  std::optional<Question> reading;
   SteadyClock::time_point since;
   unsigned generation = 0;
   /// Main thread's.
@@ -76,6 +86,7 @@ NameReader::~NameReader() {
   if (!box.reader.joinable()) return;
   std::unique_lock lock(box.mutex);
   box.questions.clear();
+  box.asked.clear();
   if (box.news.wait_for(lock, kMoment, [&] { return !box.reading; })) {
     ++box.generation;
     box.news.notify_all();
@@ -87,25 +98,30 @@ NameReader::~NameReader() {
 }
 
 bool NameReader::Ask(std::int32_t pid, std::uint64_t startStamp, std::string_view name) {
+  return Ask({{pid, startStamp}, std::string(name)});
+}
+
+bool NameReader::AskForCommandLine(std::int32_t pid, std::uint64_t startStamp) {
+  return Ask({{pid, startStamp}, {}});
+}
+
+bool NameReader::Ask(Question question) {
   auto& box = *mMailbox;
-  const Key key{pid, startStamp};
   if (box.files->NeverBlocks()) {
-    box.answers[key] = ReadFollowingCharacter(*box.files, pid, startStamp, name);
+    box.answers[question] = question.Answer(*box.files);
     return true;
   }
   const std::lock_guard lock(box.mutex);
   if (!EnsureReader()) return false;
-  if (const auto shelved = box.shelf.find(key); shelved != box.shelf.end()) {
+  if (const auto shelved = box.shelf.find(question.key); shelved != box.shelf.end()) {
     if (shelved->second.hangs || SteadyClock::now() < shelved->second.until) return false;
     box.shelf.erase(shelved);
   }
-  if (box.answers.contains(key) || box.reading == key ||
-      std::ranges::find(box.questions, key, &Question::key) != box.questions.end())
+  if (box.answers.contains(question) || box.reading == question || box.asked.contains(question))
     return true;
   if (box.questions.size() >= kMostQuestions) return false;
-  Question question{key};
-  question.length = name.copy(question.name.data(), question.name.size());
-  box.questions.push_back(question);
+  box.asked.insert(question);
+  box.questions.push_back(std::move(question));
   box.news.notify_all();
   return true;
 }
@@ -118,7 +134,7 @@ bool NameReader::EnsureReader() {
     std::erase_if(box.shelf, [now](const auto& shelved) {
       return !shelved.second.hangs && shelved.second.until <= now;
     });
-    box.shelf[*box.reading] = {now + kRest};
+    box.shelf[box.reading->key] = {now + kRest};
     box.GiveUpReader();
   }
   if (box.reader.joinable()) return true;
@@ -138,12 +154,11 @@ void NameReader::Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generat
     if (generation != box.generation) return;
     const Question question = box.questions.front();
     box.questions.pop_front();
-    box.reading = question.key;
+    box.asked.erase(question);
+    box.reading = question;
     box.since = SteadyClock::now();
     lock.unlock();
-    const char following =
-        ReadFollowingCharacter(*box.files, question.key.first, question.key.second,
-                               {question.name.data(), question.length});
+    auto answer = question.Answer(*box.files);
     lock.lock();
     if (generation != box.generation) {
       // Given up meanwhile.
@@ -152,7 +167,7 @@ void NameReader::Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generat
       return;
     }
     box.reading.reset();
-    box.answers[question.key] = following;
+    box.answers[question] = std::move(answer);
     if (box.questions.empty()) box.news.notify_all();
   }
 }
@@ -164,10 +179,20 @@ void NameReader::WaitBriefly() {
   box.news.wait_for(lock, kMoment, [&] { return box.IsIdle(); });
 }
 
-std::optional<char> NameReader::Take(std::int32_t pid, std::uint64_t startStamp) {
+std::optional<char> NameReader::Take(std::int32_t pid, std::uint64_t startStamp,
+                                     std::string_view name) {
+  const auto answer = Take({{pid, startStamp}, std::string(name)});
+  return answer ? std::optional(answer->front()) : std::nullopt;
+}
+
+std::optional<std::string> NameReader::TakeCommandLine(std::int32_t pid, std::uint64_t startStamp) {
+  return Take({{pid, startStamp}, {}});
+}
+
+std::optional<std::string> NameReader::Take(const Question& question) {
   const std::lock_guard lock(mMailbox->mutex);
-  const auto answer = mMailbox->answers.extract({pid, startStamp});
-  return answer ? std::optional(answer.mapped()) : std::nullopt;
+  auto answer = mMailbox->answers.extract(question);
+  return answer ? std::optional(std::move(answer.mapped())) : std::nullopt;
 }
 
 void NameReader::DropAnswers() {

@@ -126,6 +126,16 @@ std::optional<Scheduling> ProcFiles::SchedulingOf(std::int32_t pid) {
   return mHasOwnPids ? ReadScheduling(pid) : std::nullopt;
 }
 
+std::optional<Assignment> ProcFiles::AssignmentOf(std::int32_t pid) {
+  return mHasOwnPids ? ReadAssignment(pid) : std::nullopt;
+}
+
+std::int64_t ProcFiles::SecondsSinceBoot() const {
+  timespec time{};
+  ::clock_gettime(CLOCK_BOOTTIME, &time);
+  return time.tv_sec;
+}
+
 std::int64_t ProcFiles::Milliseconds() const {
   timespec time{};
   ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);

@@ -51,13 +51,17 @@ class ProcFiles {
   /// process was born. Nothing where the tree does not tell.
   virtual std::optional<std::int32_t> LastPid();
 
-  /// ReadRunTime and ReadScheduling where the tree's pids are those of the calling process's
-  /// namespace, else nothing.
+  /// ReadRunTime, ReadScheduling and ReadAssignment where the tree's pids are those of the calling
+  /// process's namespace, else nothing.
   virtual std::optional<std::uint64_t> RunTime(std::int32_t pid);
   virtual std::optional<Scheduling> SchedulingOf(std::int32_t pid);
+  virtual std::optional<Assignment> AssignmentOf(std::int32_t pid);
 
   /// Milliseconds from some beginning, while the machine is awake.
   virtual std::int64_t Milliseconds() const;
+
+  /// Seconds since the start of the machine, asleep or awake.
+  virtual std::int64_t SecondsSinceBoot() const;
 
   /// PID/stat, and the folder PID, for what follows.
   virtual FileDescriptor OpenStat(std::int32_t pid);

@@ -92,19 +92,34 @@ std::optional<ProcStatFields> ParseProcStatFields(const ProcStat& stat) {
   return numbers;
 }
 
-std::optional<std::int64_t> ParseNamedField(std::string_view text, std::string_view name) {
-  while (!text.empty()) {
-    auto line = text.substr(0, text.find('\n'));
+NamedFields::NamedFields(std::string_view text) {
+  while (!text.empty() && mCount < kMostLines) {
+    const auto line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
-    if (!line.starts_with(name) || !line.substr(name.size()).starts_with(':')) continue;
-    line.remove_prefix(name.size() + 1);
-    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-    std::int64_t number = 0;
-    const char* const last = line.data() + line.size();
-    const auto [end, error] = std::from_chars(line.data(), last, number);
-    return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
+    const auto colon = line.find(':');
+    if (colon == std::string_view::npos) continue;
+    auto value = line.substr(colon + 1);
+    value.remove_prefix(std::min(value.find_first_not_of(" \t"), value.size()));
+    mLines[mCount++] = {line.substr(0, colon), value};
   }
-  return std::nullopt;
+}
+
+std::string_view NamedFields::Get(std::string_view name) const {
+  const auto* const last = mLines.data() + mCount;
+  const auto* const line =
+      std::find_if(mLines.data(), last, [name](const Line& known) { return known.name == name; });
+  return line == last ? std::string_view() : line->value;
+}
+
+std::optional<std::int64_t> ParseWholeNumber(std::string_view text, int base) {
+  const char* const last = text.data() + text.size();
+  std::int64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), last, number, base);
+  if (error == std::errc() && end == last) return number;
+  std::uint64_t large = 0;
+  const auto [largeEnd, largeError] = std::from_chars(text.data(), last, large, base);
+  if (largeError != std::errc() || largeEnd != last) return std::nullopt;
+  return static_cast<std::int64_t>(large);
 }
 
 std::optional<std::int64_t> ParseNthNumber(std::string_view line, std::size_t n) {

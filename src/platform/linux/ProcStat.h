@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -42,9 +43,28 @@ using ProcStatFields = std::array<std::int64_t, 53>;
 /// read from is there.
 std::optional<ProcStatFields> ParseProcStatFields(const ProcStat& stat);
 
-/// The number in the line "name:\tNUMBER" of a status or io file; nothing when there is no such
-/// line.
-std::optional<std::int64_t> ParseNamedField(std::string_view text, std::string_view name);
+/// The lines "name:\tVALUE" of a status or io file, taken apart once. As long as the text is there.
+class NamedFields {
+ public:
+  explicit NamedFields(std::string_view text);
+
+  /// The value without blanks around it; empty when there is no such line.
+  std::string_view Get(std::string_view name) const;
+
+ private:
+  struct Line {
+    std::string_view name, value;
+  };
+  // A status file has some sixty.
+  static constexpr std::size_t kMostLines = 128;
+
+  std::array<Line, kMostLines> mLines;
+  std::size_t mCount = 0;
+};
+
+/// A whole text as a number: decimal, or hexadecimal without "0x"; what fills 64 bits is negative.
+/// Nothing when it is none.
+std::optional<std::int64_t> ParseWholeNumber(std::string_view text, int base = 10);
 
 /// The n-th number of a line, from 1; nothing when there are fewer.
 std::optional<std::int64_t> ParseNthNumber(std::string_view line, std::size_t n);

@@ -1,6 +1,5 @@
 #include "platform/linux/ProcessDescriber.h"
 
-#include <pwd.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -16,8 +15,10 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/linux/CommandName.h"
 #include "platform/linux/ProcStat.h"
 #include "platform/linux/QuietThread.h"
+#include "platform/linux/UserNames.h"
 
 namespace lurkwell {
 namespace {
@@ -78,28 +79,6 @@ std::optional<Reading> ReadWhatIsQuick(ProcFiles& files, std::int32_t pid) {
   return reading;
 }
 
-std::string NameOfUser(::uid_t user) {
-  std::array<char, 4096> room{};
-  ::passwd entry{};
-  ::passwd* found = nullptr;
-  if (::getpwuid_r(user, &entry, room.data(), room.size(), &found) != 0 || found == nullptr)
-    return std::to_string(user);
-  return found->pw_name;
-}
-
-/// Opened anew: there may be more processes than descriptors.
-std::string ReadCommandLine(ProcFiles& files, ProcessIdentity process) {
-  const auto folder = files.OpenFolder(process.pid);
-  if (!folder.IsOpen()) return {};
-  const auto stat = ReadFile(files, folder.Get(), "stat");
-  const auto parsed = ParseProcStat(stat);
-  if (!parsed || parsed->startStamp != process.startStamp) return {};
-  auto text = ReadFile(files, folder.Get(), "cmdline");
-  text.resize(text.find_last_not_of('\0') + 1);
-  std::ranges::replace(text, '\0', ' ');
-  return text;
-}
-
 /// What the main thread and the reader share; the last of them frees it.
 struct Job {
   std::shared_ptr<ProcFiles> files;
@@ -120,7 +99,8 @@ struct Job {
         if (reading.user) reading.description.owner = names[*reading.user];
     }
     for (auto& reading : readings) {
-      auto commandLine = ReadCommandLine(*files, reading.description.process);
+      auto commandLine = ReadCommandLine(*files, reading.description.process.pid,
+                                         reading.description.process.startStamp);
       const std::lock_guard lock(mutex);
       reading.description.commandLine = std::move(commandLine);
     }

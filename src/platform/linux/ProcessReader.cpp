@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <charconv>
 #include <cstring>
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -21,10 +22,14 @@ constexpr std::size_t kMostKeptAtAll = 16'384;
 // A name is looked up in two readings, as the first may fall into the middle of an exec.
 constexpr std::uint8_t kNamings = 2;
 constexpr std::int64_t kFarFuture = 1'000'000'000'000;
-constexpr FigureSource kFiles[] = {kFromStat, kFromStatus, kFromIO, kFromThreads, kFromUnit};
-constexpr std::size_t kThreadCountField = 20;
+/// The field of a stat file in which a program's arguments lie; 0 for others' processes.
+constexpr std::size_t kArgumentsField = 48;
+/// What is asked of the kernel in every pass, or needs no file.
+constexpr FigureSources kWithoutFiles =
+    kFromUnit | kFromScheduler | kFromAssignment | kFromClock | kFromCommandLine;
 
-KnownProcess::Reading& ReadingOf(KnownProcess& known, FigureSource source) {
+template <typename Known>
+auto& ReadingOf(Known& known, FigureSource source) {
   return known.readings[static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(source)))];
 }
 
@@ -52,11 +57,6 @@ void SetName(ProcessTableEntry& entry, std::string_view name) {
   std::memcpy(entry.commandName, name.data(), name.size());
 }
 
-/// Where the kernel's numbers fill 64 bits they begin anew.
-std::int64_t Sum(std::int64_t a, std::int64_t b) {
-  return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
-}
-
 /// Somewhere in the longest time, so that not all are read anew at once.
 std::int64_t FirstTurn(std::int32_t pid) {
   const std::uint32_t spread = static_cast<std::uint32_t>(pid) * 0x9E3779B1u;
@@ -74,9 +74,8 @@ ProcessReader::ProcessReader(std::shared_ptr<ProcFiles> files, std::function<boo
     : mFiles(std::move(files)),
       mGiveBack(std::move(giveBack)),
       mNames(mFiles),
-      mUnits(units),
-      mTicksPerSecond(std::max(1L, ::sysconf(_SC_CLK_TCK))),
-      mPageSize(std::max(1L, ::sysconf(_SC_PAGESIZE))) {
+      mFigureFiles(mFiles, units),
+      mTicksPerSecond(std::max(1L, ::sysconf(_SC_CLK_TCK))) {
   SetBootTime();
 }
 
@@ -86,19 +85,19 @@ void ProcessReader::BeginPass() {
   mHaveParentsChanged = false;
   mLostParents.clear();
   mUnnamed.clear();
-  mUnits.BeginPass();
+  mUnlined.clear();
+  mSecondsSinceBoot = mFiles->SecondsSinceBoot();
+  mFigureFiles.BeginPass();
 }
 
 ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProcess& known,
                                            FigureSources sources) {
+  // The line in the table tells when it has become another program.
+  if ((sources & kSeldomChanging) != 0) sources |= kFromStat;
+  if ((sources & kFromUnit) != 0) sources |= kFromGroup;
   // Taken before the files are read: what runs in between counts as having run since.
   const auto runTime = mFiles->RunTime(entry.pid);
-  FigureSources stale = 0;
-  for (const FigureSource source : kFiles) {
-    const auto& reading = ReadingOf(known, source);
-    const bool isKept = runTime && reading.runTime == runTime && mNow < reading.due;
-    if ((sources & source) != 0 && !isKept) stale |= source;
-  }
+  FigureSources stale = StaleOf(known, sources, runTime);
   if ((sources & kFromScheduler) != 0) {
     const auto scheduling = mFiles->SchedulingOf(entry.pid);
     if (!scheduling || scheduling != known.scheduling) stale |= kFromStat;
@@ -108,20 +107,67 @@ ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProces
   const bool hasUnknownParent = (sources & kFromStat) != 0 && entry.parentPid == kInvalidPID;
   if (known.isInDoubt || hasUnknownParent) stale |= kFromStat;
   if (stale != 0) {
-    const auto outcome = Read(entry, known, stale, runTime);
+    const auto outcome = Read(entry, known, stale, sources, runTime);
     if (outcome != Outcome::kCurrent) return outcome;
   }
-  if ((sources & kFromUnit) != 0) TakeUnitFigures(entry, known);
+  constexpr FigureSources kBesideFiles =
+      kFromUnit | kFromIdentity | kFromAssignment | kFromClock | kFromCommandLine;
+  if ((sources & kBesideFiles) != 0) sources = LookWithoutFiles(entry, known, sources);
   entry.current |= sources;
   return Outcome::kCurrent;
 }
 
+/// Those that may be others than when they were read.
+FigureSources ProcessReader::StaleOf(const KnownProcess& known, FigureSources sources,
+                                     std::optional<std::uint64_t> runTime) const {
+  FigureSources stale = 0;
+  ForEachSource(sources & ~(kWithoutFiles & ~kFromCommandLine), [&](FigureSource source) {
+    const auto& reading = ReadingOf(known, source);
+    const bool hasNotRun = runTime && reading.runTime == runTime;
+    const bool isKept = (source & kSeldomChanging) == 0
+                            ? hasNotRun && mNow < reading.due
+                            : mNow < reading.due + (hasNotRun ? kLongestKeptAsleep : 0);
+    if (!isKept) stale |= source;
+  });
+  return stale;
+}
+
+/// What needs no file of the process. Gives the sources that are as they are now.
+FigureSources ProcessReader::LookWithoutFiles(ProcessTableEntry& entry, KnownProcess& known,
+                                              FigureSources sources) {
+  if ((sources & kFromUnit) != 0) {
+    mFigureFiles.TakeUnitFigures(known);
+    entry.read |= kFromUnit;
+  }
+  if ((sources & kFromIdentity) != 0 && mFigureFiles.TakeUserNames(known))
+    entry.read |= kFromIdentity;
+  if ((sources & kFromAssignment) != 0) {
+    auto assignment = mFiles->AssignmentOf(entry.pid);
+    const bool isOther = (entry.known & kFromAssignment) == 0 || assignment != known.assignment;
+    known.assignment = std::move(assignment);
+    if (isOther) {
+      mFigureFiles.TakeAssignment(known);
+      entry.read |= kFromAssignment;
+      entry.known |= kFromAssignment;
+    }
+  }
+  if ((sources & kFromClock) != 0) {
+    const auto start = static_cast<std::int64_t>(entry.startStamp) / mTicksPerSecond;
+    known.figures.Set(FigureCalled("pid_running_time"),
+                      std::max<std::int64_t>(mSecondsSinceBoot - start, 0) * 1'000'000);
+    entry.read |= kFromClock;
+    entry.known |= kFromClock;
+  }
+  // It comes at the end of the pass, or of one of the next.
+  return sources & ~kFromCommandLine;
+}
+
 ProcessReader::Outcome ProcessReader::ReadAgain(ProcessTableEntry& entry, KnownProcess& known) {
-  return Read(entry, known, kFromStat, mFiles->RunTime(entry.pid));
+  return Read(entry, known, kFromStat, kFromStat, mFiles->RunTime(entry.pid));
 }
 
 ProcessReader::Outcome ProcessReader::Read(ProcessTableEntry& entry, KnownProcess& known,
-                                           FigureSources sources,
+                                           FigureSources sources, FigureSources wanted,
                                            std::optional<std::uint64_t> runTime) {
   // The folder is that of one process: all that is read in it is that one's.
   const auto folder = OpenFolderFor(entry.pid, sources);
@@ -136,130 +182,55 @@ ProcessReader::Outcome ProcessReader::Read(ProcessTableEntry& entry, KnownProces
     return Outcome::kGone;
   }
   Take(*stat, entry, known);
-  for (std::size_t i = 0; i < kFigureCount; ++i) {
-    const auto& origin = kFigures[i].origin;
-    if (origin.source != kFromStat) continue;
-    known.figures.Set(static_cast<Figure>(i),
-                      FigureOf(origin, Sum((*fields)[origin.field], (*fields)[origin.otherField])));
-  }
+  mFigureFiles.TakeStat(*fields, known);
   Note(entry, known, kFromStat, runTime);
-  if ((sources & kFromStatus) != 0) {
-    ReadNamed(*folder, kFromStatus, "status", known);
-    Note(entry, known, kFromStatus, runTime);
-  }
-  if ((sources & kFromIO) != 0) {
-    ReadNamed(*folder, kFromIO, "io", known);
-    Note(entry, known, kFromIO, runTime);
-  }
-  if ((sources & kFromThreads) != 0) {
-    ReadThreads(*folder, (*fields)[kThreadCountField], known);
-    Note(entry, known, kFromThreads, runTime);
-  }
-  if ((sources & kFromUnit) != 0) {
-    ReadUnit(*folder, known);
-    Note(entry, known, kFromUnit, runTime);
-  }
+  const FigureSources seldom = wanted & kSeldomChanging;
+  if (seldom != 0 && IsAnotherProgram(*stat, known) && (seldom & ~sources) != 0)
+    return Read(entry, known, sources | seldom, wanted, runTime);
+  ReadFiles(*folder, entry, known, sources, runTime);
   return Outcome::kCurrent;
+}
+
+void ProcessReader::ReadFiles(const FileDescriptor& folder, ProcessTableEntry& entry,
+                              KnownProcess& known, FigureSources sources,
+                              std::optional<std::uint64_t> runTime) {
+  FigureSources done = kFromStat;
+  ForEachSource(sources & ~(kWithoutFiles | kFromStat), [&](FigureSource source) {
+    if ((done & source) != 0) return;
+    const FigureSources read = mFigureFiles.Read(source, folder, known);
+    done |= read;
+    ForEachSource(read, [&](FigureSource each) { Note(entry, known, each, runTime); });
+  });
+  if ((sources & kFromCommandLine) != 0 && mNames.AskForCommandLine(entry.pid, entry.startStamp)) {
+    mUnlined.push_back(entry.pid);
+    ReadingOf(known, kFromCommandLine).runTime = runTime;
+  }
+}
+
+void ProcessReader::TakeCommandLine(ProcessTableEntry& entry, KnownProcess& known,
+                                    std::string_view text) {
+  known.figures.SetText(FigureCalled("pid_command_line"), text);
+  Note(entry, known, kFromCommandLine, ReadingOf(known, kFromCommandLine).runTime);
+  entry.current |= kFromCommandLine;
+}
+
+/// By its name and where its arguments lie, which the kernel chooses anew each time.
+bool ProcessReader::IsAnotherProgram(const ProcStat& stat, KnownProcess& known) const {
+  constexpr std::size_t kFirstField = 3;
+  const auto arguments = ParseNthNumber(stat.fields, kArgumentsField - kFirstField + 1);
+  std::uint64_t mark = std::hash<std::string_view>{}(stat.name);
+  mark = (mark ^ static_cast<std::uint64_t>(arguments.value_or(0))) * 1099511628211U | 1;
+  return std::exchange(known.program, mark) != mark;
 }
 
 /// Not open where the stat file alone is read; nothing, and errno, where it cannot be opened.
 std::optional<FileDescriptor> ProcessReader::OpenFolderFor(std::int32_t pid,
                                                            FigureSources sources) {
-  if ((sources & ~FigureSources{kFromStat}) == 0) return FileDescriptor();
+  if ((sources & ~(kWithoutFiles | kFromStat)) == 0) return FileDescriptor();
   FileDescriptor folder = mFiles->OpenFolder(pid);
   while (!folder.IsOpen() && IsShortage(errno) && mGiveBack()) folder = mFiles->OpenFolder(pid);
   if (!folder.IsOpen()) return std::nullopt;
   return folder;
-}
-
-void ProcessReader::ReadNamed(const FileDescriptor& folder, FigureSource source, const char* file,
-                              KnownProcess& known) {
-  const auto bytes = mFiles->ReadIn(folder.Get(), file, mBuffer);
-  const bool isRefused = bytes < 0 && (errno == EACCES || errno == EPERM);
-  // Out of descriptors, say: no word on the figures.
-  if (bytes < 0 && !isRefused && errno != ENOENT) return;
-  const auto why = isRefused ? FigureState::kRefused : FigureState::kUncounted;
-  const auto text = BufferText(bytes);
-  for (std::size_t i = 0; i < kFigureCount; ++i) {
-    const auto figure = static_cast<Figure>(i);
-    const auto& origin = kFigures[i].origin;
-    if (origin.source != source) continue;
-    known.figures.SetMissing(figure, why);
-    const auto number = ParseNamedField(text, origin.name);
-    const auto other = origin.otherName.empty() ? 0 : ParseNamedField(text, origin.otherName);
-    if (number && other) known.figures.Set(figure, FigureOf(origin, Sum(*number, *other)));
-  }
-}
-
-/// A process of one thread has its figures in a file of its own.
-void ProcessReader::ReadThreads(const FileDescriptor& folder, std::int64_t count,
-                                KnownProcess& known) {
-  constexpr const char* kFile = "schedstat";
-  mThreadSums = {};
-  const auto bytes = mFiles->ReadIn(folder.Get(), kFile, mBuffer);
-  const bool isCounted = bytes > 0;
-  if (count <= 1 && isCounted) AddThread(BufferText(bytes));
-  if (count > 1 && isCounted && mFiles->ListThreads(folder.Get(), mThreads)) {
-    for (const std::int32_t thread : mThreads) {
-      const auto path = "task/" + std::to_string(thread) + '/' + kFile;
-      AddThread(BufferText(mFiles->ReadIn(folder.Get(), path.c_str(), mBuffer)));
-    }
-  }
-  for (std::size_t i = 0; i < kFigureCount; ++i) {
-    const auto& origin = kFigures[i].origin;
-    if (origin.source != kFromThreads) continue;
-    const auto figure = static_cast<Figure>(i);
-    if (isCounted) {
-      known.figures.Set(figure, FigureOf(origin, mThreadSums[i]));
-    } else {
-      known.figures.SetMissing(figure, FigureState::kUncounted);
-    }
-  }
-}
-
-void ProcessReader::AddThread(std::string_view text) {
-  for (std::size_t i = 0; i < kFigureCount; ++i) {
-    const auto& origin = kFigures[i].origin;
-    if (origin.source != kFromThreads) continue;
-    const auto line = text.substr(0, text.find('\n'));
-    mThreadSums[i] = Sum(mThreadSums[i], ParseNthNumber(line, origin.field).value_or(0));
-  }
-}
-
-void ProcessReader::ReadUnit(const FileDescriptor& folder, KnownProcess& known) {
-  known.unit = mUnits.Find(BufferText(mFiles->ReadIn(folder.Get(), "cgroup", mBuffer)));
-}
-
-/// Others of the unit may have run.
-void ProcessReader::TakeUnitFigures(ProcessTableEntry& entry, KnownProcess& known) {
-  const auto* figures = known.unit != nullptr ? &mUnits.FiguresOf(*known.unit) : nullptr;
-  for (std::size_t i = 0; i < kFigureCount; ++i) {
-    if (kFigures[i].origin.source != kFromUnit) continue;
-    const auto figure = static_cast<Figure>(i);
-    const auto state = figures != nullptr ? figures->StateOf(figure) : FigureState::kUncounted;
-    if (state == FigureState::kKnown) {
-      known.figures.Set(figure, figures->Get(figure));
-    } else {
-      known.figures.SetMissing(figure, state);
-    }
-  }
-  entry.read |= kFromUnit;
-}
-
-std::int64_t ProcessReader::FigureOf(const FigureOrigin& origin, std::int64_t number) const {
-  switch (origin.unit) {
-    case SourceUnit::kTicks:
-      return number / mTicksPerSecond * 1'000'000 +
-             number % mTicksPerSecond * 1'000'000 / mTicksPerSecond;
-    case SourceUnit::kNanoseconds:
-      return number / 1000;
-    case SourceUnit::kPages:
-      return number * mPageSize;
-    case SourceUnit::kStateLetter:
-      return number == 'T' || number == 't';
-    default:
-      return number;
-  }
 }
 
 void ProcessReader::Note(ProcessTableEntry& entry, KnownProcess& known, FigureSource source,
@@ -281,6 +252,10 @@ void ProcessReader::Take(const ProcStat& stat, ProcessTableEntry& entry, KnownPr
     entry.known = 0;
     known.figures = {};
     known.readings = {};
+    known.program = 0;
+    known.assignment.reset();
+    known.users.reset();
+    known.isInside = false;
   }
   // One that has ended but is not collected has given its children away.
   const bool hasEnded = state == RunState::kZombie && (!isSame || entry.state != state);
@@ -307,7 +282,7 @@ void ProcessReader::ReadIdleTask(ProcessTableEntry& entry, KnownProcess& known) 
   known.figures.Set(FigureCalled("pid_system_time"), microseconds(ticks->waiting));
   for (std::size_t i = 0; i < kFigureCount; ++i) {
     const auto figure = static_cast<Figure>(i);
-    if (known.figures.StateOf(figure) == FigureState::kUnread)
+    if (known.figures.StateOf(figure) == FigureState::kUnread && !IsRate(kFigures[i]))
       known.figures.SetMissing(figure, FigureState::kUncounted);
   }
   entry.known = entry.read = entry.current = kAllFigureSources;

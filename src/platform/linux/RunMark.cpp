@@ -5,6 +5,9 @@
 #include <time.h>
 #include <unistd.h>
 
+#include <array>
+#include <cstddef>
+
 namespace lurkwell {
 namespace {
 
@@ -44,6 +47,37 @@ std::optional<Scheduling> ReadScheduling(std::int32_t pid) {
       attributes.priority != 0 || attributes.policy == kDeadlinePolicy)
     return std::nullopt;
   return Scheduling{attributes.policy, attributes.nice};
+}
+
+std::optional<Assignment> ReadAssignment(std::int32_t pid) {
+  constexpr int kOneProcess = 1;
+  // 16,384 processors, more than the kernel knows.
+  std::array<std::uint64_t, 256> set{};
+  if (pid <= 0) return std::nullopt;
+  const auto bytes = ::syscall(SYS_sched_getaffinity, pid, sizeof set, set.data());
+  const auto priority = ::syscall(SYS_ioprio_get, kOneProcess, pid);
+  if (bytes <= 0 || priority < 0) return std::nullopt;
+  const auto words = (static_cast<std::size_t>(bytes) + sizeof set[0] - 1) / sizeof set[0];
+  return Assignment{{set.begin(), set.begin() + static_cast<std::ptrdiff_t>(words)},
+                    static_cast<std::int32_t>(priority)};
+}
+
+std::string ListOfProcessors(const std::vector<std::uint64_t>& set) {
+  const std::size_t count = set.size() * 64;
+  const auto has = [&](std::size_t number) {
+    return number < count && (set[number / 64] >> number % 64 & 1) != 0;
+  };
+  std::string list;
+  for (std::size_t first = 0; first < count; ++first) {
+    if (!has(first)) continue;
+    std::size_t last = first;
+    while (has(last + 1)) ++last;
+    if (!list.empty()) list += ',';
+    list += std::to_string(first);
+    if (last > first) list += '-' + std::to_string(last);
+    first = last;
+  }
+  return list;
 }
 
 }  // namespace lurkwell

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace lurkwell {
 
@@ -23,5 +25,20 @@ struct Scheduling {
 
 /// Nothing for real-time processes, too, whose nice value the kernel does not tell here.
 std::optional<Scheduling> ReadScheduling(std::int32_t pid);
+
+/// Where its first thread may run and how it stands at the disks, which others can change.
+struct Assignment {
+  /// A bit for each processor.
+  std::vector<std::uint64_t> processors;
+  /// Class and level, as the kernel packs them.
+  std::int32_t ioPriority = 0;
+
+  bool operator==(const Assignment&) const = default;
+};
+
+std::optional<Assignment> ReadAssignment(std::int32_t pid);
+
+/// The numbers of the set's processors as the kernel's lists have them: "0-3,6".
+std::string ListOfProcessors(const std::vector<std::uint64_t>& set);
 
 }  // namespace lurkwell

@@ -84,11 +84,9 @@ const ProcessFigures& UnitFiles::FiguresOf(ControlGroup& group) {
 void UnitFiles::Read(ControlGroup& group) {
   const auto text = ReadAll(mRoot, "." + group.path + "/io.stat");
   const bool isRefused = !text && (errno == EACCES || errno == EPERM);
-  for (std::size_t i = 0; i < kFigureCount; ++i) {
-    if (kFigures[i].origin.source != kFromUnit) continue;
-    const auto figure = static_cast<Figure>(i);
+  for (const Figure figure : kFiguresFrom<kFromUnit>) {
     if (text) {
-      group.figures.Set(figure, SumOfNamed(*text, kFigures[i].origin.name));
+      group.figures.Set(figure, SumOfNamed(*text, RowOf(figure).origin.name));
     } else {
       group.figures.SetMissing(figure, isRefused ? FigureState::kRefused : FigureState::kUncounted);
     }

@@ -106,6 +106,8 @@ const ProcessFigures& SimulatedProcessTable::FiguresOf(const ProcessTableEntry& 
     const auto source = kFigures[i].origin.source;
     if (source == kFromIO && process->owner != "user") {
       mFigures.SetMissing(figure, FigureState::kRefused);
+    } else if (kFigures[i].kind == FigureKind::kText) {
+      mFigures.SetText(figure, process->texts.Get(figure));
     } else if (source != 0) {
       mFigures.Set(figure, process->Tell(figure));
     }

@@ -26,6 +26,7 @@ struct SimulatedProcess {
   ProcessTableEntry entry;
   /// But for the suspend count, which follows from its state. The policy is 1.
   std::array<std::int64_t, kFigureCount> figures = StartFigures();
+  FigureTexts texts;
   /// "user" is this program's.
   std::string owner = "user";
   std::string commandLine;

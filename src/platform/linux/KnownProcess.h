@@ -1,0 +1,55 @@
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "platform/FigureSources.h"
+#include "platform/FileDescriptor.h"
+#include "platform/ProcessFigures.h"
+#include "platform/ProcessIdentity.h"
+#include "platform/linux/CommandName.h"
+#include "platform/linux/RunMark.h"
+#include "platform/linux/UnitFiles.h"
+
+namespace lurkwell {
+
+/// What is remembered of a process beside its entry.
+struct KnownProcess {
+  /// When a file was last read.
+  struct Reading {
+    /// The time on processors before that; nothing when it must be read anew.
+    std::optional<std::uint64_t> runTime;
+    /// It is read again then, in milliseconds.
+    std::int64_t due = 0;
+  };
+
+  /// Its stat file, if it is kept open.
+  FileDescriptor stat;
+  std::uint64_t folder = 0;
+  /// As the kernel has it, whether or not that one is in the table.
+  std::int32_t parentPid = kInvalidPID;
+  /// Another process may have the pid by now.
+  bool isInDoubt = true;
+  /// By the sources' bits.
+  std::array<Reading, std::bit_width(kAllFigureSources)> readings;
+  /// Tells one program from the next that the process becomes, as of the last reading of what
+  /// seldom changes; 0 before.
+  std::uint64_t program = 0;
+  std::shared_ptr<ControlGroup> unit;
+  std::optional<Scheduling> scheduling;
+  std::optional<Assignment> assignment;
+  /// Real and effective, once they are known; their names may be missing yet.
+  std::optional<std::array<std::uint32_t, 2>> users;
+  bool areUsersNamed = false;
+  /// It has a pid of its own in another namespace.
+  bool isInside = false;
+  ProcessFigures figures;
+  std::array<char, kKernelNameLength> kernelName{};
+  char following = '\0';
+  std::uint8_t namings = 0;
+};
+
+}  // namespace lurkwell
