@@ -1,11 +1,17 @@
 // The process table and signals on the real machine.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <time.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <optional>
@@ -192,6 +198,76 @@ TEST(LiveProcesses, DoNotTellOthersWhatTheyHaveReadAndWritten) {
     if (::setresuid(61001, 61001, 61001) != 0) ::_exit(1);
   });
   EXPECT_GE(std::stoll(DiskFigures(other.Pid())), 8) << "calls";
+}
+
+constexpr std::int64_t kMiB = 1 << 20;
+
+/// Maps 100 MiB and touches half of them, is pinned, waits behind everybody else, gives up what it
+/// may, and writes.
+void DoAllThatIsShown() {
+  constexpr std::size_t kMapped = 100 << 20;
+  auto* memory = static_cast<char*>(
+      ::mmap(nullptr, kMapped, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+  if (memory == MAP_FAILED) ::_exit(1);
+  for (std::size_t at = 0; at < kMapped / 2; at += 4096) memory[at] = 1;
+  for (int i = 0; i < 8; ++i) WriteToDisk();
+  cpu_set_t first;
+  CPU_ZERO(&first);
+  CPU_SET(0, &first);
+  const sched_param parameters{};
+  constexpr int kIdleAtDisks = 3 << 13;
+  if (::sched_setaffinity(0, sizeof first, &first) != 0 ||
+      ::sched_setscheduler(0, SCHED_BATCH, &parameters) != 0 ||
+      ::syscall(SYS_ioprio_set, 1, 0, kIdleAtDisks) != 0 ||
+      ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || ::setresuid(61001, 61001, 61001) != 0)
+    ::_exit(1);
+}
+
+TEST(LiveProcesses, AreShownToDoWhatTheyDo) {
+  const Child child(DoAllThatIsShown);
+  // A control group of its own, where root may make one.
+  std::string group = "/sys/fs/cgroup/unified";
+  if (!std::filesystem::exists(group + "/cgroup.procs")) group = "/sys/fs/cgroup";
+  const auto name = "/lurkwell-test-" + std::to_string(child.Pid()) + ".service";
+  std::error_code error;
+  const bool hasGroup = std::filesystem::create_directory(group + name, error) &&
+                        (std::ofstream(group + name + "/cgroup.procs") << child.Pid()).flush();
+  LinuxProcessTable table;
+  const auto entries = table.Read(
+      [&](std::int32_t pid) { return pid == child.Pid() ? kAllFigureSources : FigureSources{0}; });
+  const auto entry = std::ranges::find(entries, child.Pid(), &ProcessTableEntry::pid);
+  ASSERT_NE(entry, entries.end());
+  const auto& figures = table.FiguresOf(*entry);
+  const auto number = [&](Figure figure) {
+    EXPECT_EQ(figures.StateOf(figure), FigureState::kKnown) << RowOf(figure).property;
+    return figures.Get(figure);
+  };
+  const auto words = [&](Figure figure) {
+    const auto& row = RowOf(figure);
+    return row.words != nullptr ? row.words(number(figure)) : figures.GetText(figure);
+  };
+  EXPECT_EQ(number(FigureCalled("pid_shared_memory")) / (10 * kMiB), 5) << "half of 100 MiB";
+  EXPECT_GE(number(FigureCalled("pid_highest_rsz")), 50 * kMiB);
+  EXPECT_LT(number(FigureCalled("pid_highest_rsz")), 100 * kMiB);
+  EXPECT_GE(number(FigureCalled("pid_vsz")), 100 * kMiB);
+  EXPECT_GE(number(FigureCalled("pid_bytes_written")), 64 * kMiB);
+  EXPECT_EQ(words(FigureCalled("pid_affinity")), "0");
+  EXPECT_EQ(words(FigureCalled("pid_scheduler")), "batch");
+  EXPECT_EQ(words(FigureCalled("pid_io_priority")), "idle");
+  EXPECT_EQ(words(FigureCalled("pid_no_new_privileges")), "yes");
+  EXPECT_EQ(words(FigureCalled("pid_capabilities")), "none");
+  EXPECT_EQ(words(FigureCalled("pid_elevated")), "no");
+  EXPECT_EQ(words(FigureCalled("pid_owner")), "61001");
+  EXPECT_EQ(words(FigureCalled("pid_state")), "sleeping");
+  EXPECT_EQ(words(FigureCalled("pid_inner_pid")), "");
+  if (hasGroup) {
+    EXPECT_EQ(words(FigureCalled("pid_cgroup")), name);
+    EXPECT_EQ(words(FigureCalled("pid_unit")), name.substr(1));
+    std::ofstream(group + "/cgroup.procs") << child.Pid();
+    std::filesystem::remove(group + name, error);
+  } else {
+    std::printf("no control group could be made\n");
+  }
 }
 
 TEST(LiveProcesses, HaveNoUnknownParentsWhereOthersAreHidden) {

@@ -130,10 +130,10 @@ std::optional<Assignment> ProcFiles::AssignmentOf(std::int32_t pid) {
   return mHasOwnPids ? ReadAssignment(pid) : std::nullopt;
 }
 
-std::int64_t ProcFiles::SecondsSinceBoot() const {
+std::int64_t ProcFiles::MillisecondsSinceBoot() const {
   timespec time{};
   ::clock_gettime(CLOCK_BOOTTIME, &time);
-  return time.tv_sec;
+  return time.tv_sec * std::int64_t{1000} + time.tv_nsec / 1'000'000;
 }
 
 std::int64_t ProcFiles::Milliseconds() const {

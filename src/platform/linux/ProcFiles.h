@@ -60,8 +60,8 @@ class ProcFiles {
   /// Milliseconds from some beginning, while the machine is awake.
   virtual std::int64_t Milliseconds() const;
 
-  /// Seconds since the start of the machine, asleep or awake.
-  virtual std::int64_t SecondsSinceBoot() const;
+  /// Since the start of the machine, asleep or awake.
+  virtual std::int64_t MillisecondsSinceBoot() const;
 
   /// PID/stat, and the folder PID, for what follows.
   virtual FileDescriptor OpenStat(std::int32_t pid);

@@ -86,7 +86,7 @@ void ProcessReader::BeginPass() {
   mLostParents.clear();
   mUnnamed.clear();
   mUnlined.clear();
-  mSecondsSinceBoot = mFiles->SecondsSinceBoot();
+  mMillisecondsSinceBoot = mFiles->MillisecondsSinceBoot();
   mFigureFiles.BeginPass();
 }
 
@@ -152,9 +152,10 @@ FigureSources ProcessReader::LookWithoutFiles(ProcessTableEntry& entry, KnownPro
     }
   }
   if ((sources & kFromClock) != 0) {
-    const auto start = static_cast<std::int64_t>(entry.startStamp) / mTicksPerSecond;
+    const auto start = TimeOf(entry.startStamp);
+    const auto age = mMillisecondsSinceBoot - (start.seconds * 1000 + start.microseconds / 1000);
     known.figures.Set(FigureCalled("pid_running_time"),
-                      std::max<std::int64_t>(mSecondsSinceBoot - start, 0) * 1'000'000);
+                      std::max<std::int64_t>(age, 0) / 1000 * 1'000'000);
     entry.read |= kFromClock;
     entry.known |= kFromClock;
   }

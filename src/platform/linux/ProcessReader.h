@@ -96,7 +96,7 @@ class ProcessReader {
   TimeValue mBootTime;
   std::int64_t mTicksPerSecond;
   std::int64_t mNow = 0;
-  std::int64_t mSecondsSinceBoot = 0;
+  std::int64_t mMillisecondsSinceBoot = 0;
   std::size_t mMostKept = 0;
   std::size_t mKept = 0;
   bool mHaveParentsChanged = false;
