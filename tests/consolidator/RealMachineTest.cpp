@@ -155,7 +155,9 @@ constexpr TakenByShell kTakenByShell[] = {
     {"pid_terminal", "ps -o tty= -p $1 | tr -d '?'"},
     {"pid_command_line", "ps -o args= -p $1"},
     {"pid_executable", "readlink exe"},
-    {"pid_running_time", "ps -o etimes= -p $1"},
+    {"pid_running_time",
+     "awk -v t=$(awk '{print $22}' stat) '{print int($1 - t / '$(getconf CLK_TCK)')}' "
+     "/proc/uptime"},
     {"pid_affinity", "awk '/^Cpus_allowed_list/{print $2}' status"},
     {"pid_scheduler", "chrt -p $1 | sed -n 's/.*policy: SCHED_OTHER/normal/p'"},
     {"pid_io_priority", "ionice -p $1 | sed 's/^none: prio 0$/by nice value/; s/-/ /; s/: prio//'"},
