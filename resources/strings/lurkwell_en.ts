@@ -2223,6 +2223,10 @@
         <source></source>
         <translation>Shows only some processes, such as:&lt;br&gt;&lt;b&gt;ssh&lt;/b&gt; – with this in their ID or a text that is shown&lt;br&gt;&lt;b&gt;name:post&lt;/b&gt;, &lt;b&gt;user:root,mail&lt;/b&gt;, &lt;b&gt;name:/^k.*d$/&lt;/b&gt; – with this in one property&lt;br&gt;&lt;b&gt;mem&amp;gt;500M&lt;/b&gt;, &lt;b&gt;nice&amp;lt;0&lt;/b&gt;, &lt;b&gt;time&amp;gt;=1h&lt;/b&gt; – with more or less&lt;br&gt;&lt;b&gt;-sleep&lt;/b&gt; – without; &lt;b&gt;a b&lt;/b&gt; – both; &lt;b&gt;a | b&lt;/b&gt; – one of them</translation>
     </message>
+    <message id="main_window_filter_hides_all">
+        <source></source>
+        <translation>No process is as the filter wants it. Esc shows all again.</translation>
+    </message>
     <message id="filter_last">
         <source></source>
         <translation>Filters that were used last</translation>

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QShortcut>
-#include <QStyle>
 #include <QUrl>
 #include <utility>
 
@@ -81,8 +80,7 @@ FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
   mField->setToolTip(LocalizedString("main_window_filter_tip"));
   mField->setAccessibleName(LocalizedString("main_window_filter_placeholder"));
   mField->setClearButtonEnabled(true);
-  auto* last =
-      mField->addAction(style()->standardIcon(QStyle::SP_ArrowDown), QLineEdit::LeadingPosition);
+  auto* last = mField->addAction(NamedImage("filter"), QLineEdit::LeadingPosition);
   last->setToolTip(LocalizedString("filter_last"));
   connect(last, &QAction::triggered, this, &FilterBar::showLast);
   auto* down = new QShortcut(Qt::Key_Down, mField);

@@ -235,6 +235,8 @@ void MainWindow::UpdateStatus() {
                        .arg(processes)
                        .arg(mController->rowCount())
                        .arg(selected));
+  const bool hidesAll = processes > 0 && mController->rowCount() == 0;
+  mTable->setEmptyText(hidesAll ? LocalizedString("main_window_filter_hides_all") : QString());
 }
 
 // ---- Life ---------------------------------------------------------------------------------------

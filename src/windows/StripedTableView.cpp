@@ -267,6 +267,18 @@ void StripedTableView::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   QPainter painter(viewport());
   for (const auto& rect : event->region()) drawGridInClipRect(painter, rect);
+  if (mEmptyText.isEmpty() || (model() != nullptr && model()->rowCount() > 0)) return;
+  // The stripes go on behind it.
+  const int margin = 2 * fontMetrics().height();
+  const auto place = viewport()->rect().adjusted(margin, margin, -margin, -margin);
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, mEmptyText);
+}
+
+void StripedTableView::setEmptyText(const QString& text) {
+  if (mEmptyText == text) return;
+  mEmptyText = text;
+  viewport()->update();
 }
 
 }  // namespace lurkwell

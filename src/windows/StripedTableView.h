@@ -17,6 +17,9 @@ class StripedTableView : public QTableView {
   Q_OBJECT
 
  public:
+  /// What stands in the middle while there are no rows; nothing for an empty text.
+  void setEmptyText(const QString& text);
+
   /// A model answers this role, in a row's first column, with whether the row shows anything else
   /// than at the last announcement.
   static constexpr int kRowHasChangedRole = Qt::UserRole + 100;
@@ -87,6 +90,7 @@ class StripedTableView : public QTableView {
   int mSearchColumn = -1;
   QString mSearched;
   QElapsedTimer mSinceLastKey;
+  QString mEmptyText;
 };
 
 /// The one view there is, while there is one.
