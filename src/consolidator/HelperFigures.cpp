@@ -1,10 +1,9 @@
-#include "consolidator/HelperFigures.h"
-
 #include <algorithm>
 #include <optional>
 #include <variant>
 #include <vector>
 
+#include "consolidator/Feeders.h"
 #include "consolidator/FigureRates.h"
 #include "consolidator/HelperQueries.h"
 #include "consolidator/PidReport.h"

@@ -1,12 +1,9 @@
-#include "consolidator/KernelFeeder.h"
-
 #include <cstdint>
 #include <unordered_set>
 #include <vector>
 
 #include "consolidator/ConsolidatorState.h"
-#include "consolidator/HelperFigures.h"
-#include "consolidator/OpenFigures.h"
+#include "consolidator/Feeders.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/PropertyCatalogue.h"

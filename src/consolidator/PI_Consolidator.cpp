@@ -3,9 +3,7 @@
 #include <iterator>
 
 #include "consolidator/ConsolidatorState.h"
-#include "consolidator/KernelFeeder.h"
-#include "consolidator/ProcessInformationFeederPS.h"
-#include "consolidator/ProcessManagerFeeder.h"
+#include "consolidator/Feeders.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/Unit.h"
 #include "platform/Assertion.h"

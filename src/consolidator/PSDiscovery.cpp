@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
+#include "consolidator/Feeders.h"
 #include "consolidator/PSHeaders.h"
-#include "consolidator/ProcessInformationFeederPS.h"
 #include "consolidator/TextScan.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"

@@ -1,5 +1,3 @@
-#include "consolidator/ProcessInformationFeederPS.h"
-
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
@@ -7,6 +5,7 @@
 #include <utility>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/Feeders.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessReports.h"

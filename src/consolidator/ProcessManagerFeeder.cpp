@@ -1,10 +1,9 @@
-#include "consolidator/ProcessManagerFeeder.h"
-
 #include <charconv>
 #include <iterator>
 #include <string>
 
 #include "consolidator/ConsolidatorState.h"
+#include "consolidator/Feeders.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/PropertyTypes.h"

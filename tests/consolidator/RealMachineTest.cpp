@@ -22,7 +22,7 @@
 #include <thread>
 #include <vector>
 
-#include "consolidator/ProcessInformationFeederPS.h"
+#include "consolidator/Feeders.h"
 #include "platform/ProcessFigures.h"
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxProcessTable.h"

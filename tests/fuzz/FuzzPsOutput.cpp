@@ -2,8 +2,8 @@
 #include <cstdint>
 #include <string>
 
+#include "consolidator/Feeders.h"
 #include "consolidator/PI_Consolidator.h"
-#include "consolidator/ProcessInformationFeederPS.h"
 #include "platform/simulated/SimulatedMachine.h"
 
 namespace lurkwell {

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "consolidator/ProcessInformationFeederPS.h"
+#include "consolidator/Feeders.h"
 #include "platform/linux/LinuxTools.h"
 #include "resources/Resources.h"
 #include "support/ConsolidatorTest.h"
