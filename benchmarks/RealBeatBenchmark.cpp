@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "IdleProcesses.h"
 #include "TableLikeClient.h"
@@ -82,6 +83,31 @@ class RealCycle {
   MachineInstallation installation{real};
 };
 
+/// Needs some columns of every process and reads them back.
+class ColumnsClient final : public ProcessInformationClient {
+ public:
+  /// Which, for those that are made from now on.
+  static inline std::vector<const char*> wanted;
+
+  ColumnsClient() : ProcessInformationClient(nullptr, 1000), mColumns(wanted) {}
+
+  NeedLevel NeedPidsForProcProperty(const char* property) override {
+    return NeedPidProcProperty(0, property) ? kNeedAllPids : kNeedNoPids;
+  }
+  bool NeedPidProcProperty(int, const char* property) override {
+    return std::ranges::any_of(
+        mColumns, [property](const char* column) { return std::string_view(column) == property; });
+  }
+  void NotifyProcessesHaveBeenUpdated() override {
+    for (const auto pid : PidBlob())
+      for (const char* column : mColumns)
+        benchmark::DoNotOptimize(GetPIDPropertyTypedValue(pid, column));
+  }
+
+ private:
+  const std::vector<const char*> mColumns;
+};
+
 /// As many as the benchmark is asked for; null, and it is skipped, where the kernel has not that
 /// many pids to give.
 std::unique_ptr<IdleProcesses> MakeIdle(benchmark::State& state) {
@@ -139,6 +165,45 @@ void BeatsForBirths(benchmark::State& state) {
   RealCycle cycle(std::in_place_type<BirthClient>, 2000);
   MeasureBeats(state, cycle);
 }
+
+void BeatForColumns(benchmark::State& state, const std::vector<const char*>& columns) {
+  const auto idle = MakeIdle(state);
+  if (idle == nullptr) return;
+  ColumnsClient::wanted = columns;
+  RealCycle cycle(std::in_place_type<ColumnsClient>, 1000);
+  std::chrono::duration<double> all{0};
+  // The turns in which everything is read anew are among them.
+  for (auto _ : state) {
+    const auto begun = std::chrono::steady_clock::now();
+    cycle.Beat();
+    all += std::chrono::steady_clock::now() - begun;
+  }
+  state.counters["per_process"] =
+      all.count() / static_cast<double>(state.iterations() * state.range(0));
+}
+
+/// Each figure that the process table reads by itself, and all of them together; what is read in
+/// the background costs no beat.
+const bool kAreColumnsRegistered = [] {
+  const auto add = [](const std::string& name, const std::vector<const char*>& columns) {
+    benchmark::RegisterBenchmark(
+        ("BeatForColumns:" + name).c_str(),
+        [columns](benchmark::State& state) { BeatForColumns(state, columns); })
+        ->Arg(1000)
+        ->Arg(5000)
+        ->Iterations(20)
+        ->Unit(benchmark::kMillisecond);
+  };
+  std::vector<const char*> all;
+  add("none", {});
+  for (const auto& row : FigureProperties()) {
+    if (row.sources == 0 || (row.sources & kCostlyFigureSources) != 0) continue;
+    add(std::string(row.name), {row.name.data()});
+    all.push_back(row.name.data());
+  }
+  add("all", all);
+  return true;
+}();
 
 /// Many are made once, not once more for each guess at how often to measure.
 void Many(benchmark::internal::Benchmark* benchmark) {

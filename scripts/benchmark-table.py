@@ -30,7 +30,7 @@ def main():
         helper, item, longest = (spelled(row[key]) if key in row else ""
                                  for key in ("helper_cpu", "per_process", "longest"))
         used[name] = row["cpu_time"] * unit
-        floor = used.get("BareStatPass/" + name.partition("/")[2])
+        floor = used.get("BareStatPass/" + name.rpartition("/")[2])
         ratio = f"{used[name] / floor:.2f}" if floor and name.startswith("Beat") else ""
         print(f"| {name} | {spelled(row['real_time'] * unit)} |"
               f" {spelled(row['cpu_time'] * unit)} | {helper} | {item} |"

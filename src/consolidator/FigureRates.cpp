@@ -1,25 +1,22 @@
-#include "consolidator/FigureRates.h"
-
+// What counters grow by in a second.
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <variant>
+#include <vector>
 
+#include "consolidator/CPUShares.h"
+#include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
-#include "platform/HostStatistics.h"
-#include "platform/Machine.h"
-#include "preferences/Settings.h"
 
 namespace lurkwell {
 namespace {
 
 /// A shorter time says nothing about a second.
 constexpr std::int64_t kShortestSpan = 100'000;
-
-/// The processors there were in the last pass that wanted a share; asking takes a file.
-int gProcessors = 0;
 
 struct Counters {
   Figure first{};
@@ -71,7 +68,7 @@ FigureRates::FigureRates(TimeValue now, std::vector<Figure> wanted)
     : mNow(MicrosecondsOf(now)), mWanted(std::move(wanted)) {
   const bool areShares = std::ranges::any_of(
       mWanted, [](Figure rate) { return RowOf(rate).kind == FigureKind::kCPUShare; });
-  if (areShares) gProcessors = TheMachine().hostStatistics.Processors();
+  if (areShares) CountProcessorsForShares();
 }
 
 void FigureRates::Derive(PidReport& report, FigureSources current) const {
@@ -98,12 +95,6 @@ void FigureRates::Derive(PidReport& report, FigureSources current) const {
       report.Integer(row, PerSecondOf(rate, *count - before.count, mNow - before.when));
     }
   }
-}
-
-int CPUShareDivisor() {
-  if (!ReadSwitch("CPU_SHARE_OF_MACHINE")) return 1;
-  if (gProcessors == 0) gProcessors = TheMachine().hostStatistics.Processors();
-  return std::max(gProcessors, 1);
 }
 
 }  // namespace lurkwell

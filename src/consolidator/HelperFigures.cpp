@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "consolidator/Feeders.h"
-#include "consolidator/FigureRates.h"
 #include "consolidator/HelperQueries.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessActionList.h"

@@ -1,6 +1,5 @@
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/Feeders.h"
-#include "consolidator/FigureRates.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessActionList.h"
 #include "consolidator/ProcessReports.h"

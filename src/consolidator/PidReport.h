@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "consolidator/MetaProcessInformation.h"
 #include "consolidator/PropertyCatalogue.h"
+#include "platform/ProcessFigures.h"
 #include "platform/TimeValue.h"
 
 namespace lurkwell {
@@ -35,6 +37,25 @@ class PidReport {
 
   MetaProcessInformation& mRecord;
   PidBlock& mBlock;
+};
+
+/// What counters grow by in a second, from two readings of the same process. The first reading
+/// gives none, nor does a counter that went back or that is not told. The time in between is that
+/// of the clock, which goes on while the machine is asleep. Private to the consolidator; main
+/// thread, inside its region.
+class FigureRates {
+ public:
+  /// For one pass, at `now`; `wanted` are some of kRates.
+  FigureRates(TimeValue now, std::vector<Figure> wanted);
+
+  /// After the counters of these sources have been reported as they are now.
+  void Derive(PidReport& report, FigureSources current) const;
+
+  const std::vector<Figure>& Wanted() const { return mWanted; }
+
+ private:
+  std::int64_t mNow;
+  std::vector<Figure> mWanted;
 };
 
 /// Notes which process holds a pid by its start stamp. False when the record there belongs to an

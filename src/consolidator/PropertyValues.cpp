@@ -7,8 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "consolidator/CPUShares.h"
 #include "consolidator/ConsolidatorState.h"
-#include "consolidator/FigureRates.h"
 #include "consolidator/PSValues.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
