@@ -65,8 +65,9 @@ std::string_view TypeWord(PropertyType type) {
     case kPropertyTypeShare:
       return "number";
     case kPropertyTypeMemory:
-    case kPropertyTypeRate:
       return "bytes";
+    case kPropertyTypeRate:
+      return "bytes/s";
     case kPropertyTypeTime:
     case kPropertyTypeClock:
       return "seconds";

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "consolidator/PropertyCatalogue.h"
+#include "platform/FigureWords.h"
 #include "query/Query.h"
 #include "query/QueryKeys.h"
 #include "query/QueryTerm.h"
@@ -100,6 +101,15 @@ std::optional<double> ReadNumber(std::string_view text, Scale scale) {
   const auto factor = FactorOf({at, static_cast<std::size_t>(end - at)}, scale);
   if (!factor) return std::nullopt;
   return number * *factor;
+}
+
+constexpr std::string_view kState = "pid_state";
+
+/// The kernel's letters stand for their words, as people who know ps write them.
+std::string StateNamed(const std::string& text) {
+  return text.size() == 1 && std::isalpha(static_cast<unsigned char>(text[0])) != 0
+             ? StateInWords(text[0])
+             : text;
 }
 
 /// A value as it was written.
@@ -281,10 +291,13 @@ class QueryReader {
 
   bool AddPattern(Term& term, const Written& written, bool isWhole) {
     std::string complaint = "it is no UTF-8";
+    const std::string text = written.form == Written::Form::kBare && term.property == kState
+                                 ? StateNamed(written.text)
+                                 : written.text;
     auto pattern = written.form == Written::Form::kExpression
-                       ? TextPattern::Expression(written.text, complaint)
-                   : isWhole ? TextPattern::Whole(written.text)
-                             : TextPattern::Part(written.text);
+                       ? TextPattern::Expression(text, complaint)
+                   : isWhole ? TextPattern::Whole(text)
+                             : TextPattern::Part(text);
     if (!pattern) {
       Fail(Kind::kNoExpression, written.position, written.length, written.text, complaint);
       return false;

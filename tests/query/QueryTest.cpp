@@ -25,11 +25,14 @@ class MadeUp final : public QuerySubject {
 
 MadeUp Server() {
   MadeUp server;
-  server.values = {
-      {"meta_name", std::string("sshd")},   {"meta_pid", std::int64_t{4711}},
-      {"pid_rsz", std::int64_t{500} << 20}, {"meta_active_time", TimeValue{90, 500'000}},
-      {"pid_p_nice", std::int64_t{-5}},     {"pid_syscalls_unix", Missing::kNotAllowed},
-      {"carbonpsn_name", Missing::kNone}};
+  server.values = {{"meta_name", std::string("sshd")},
+                   {"meta_pid", std::int64_t{4711}},
+                   {"pid_rsz", std::int64_t{500} << 20},
+                   {"meta_active_time", TimeValue{90, 500'000}},
+                   {"pid_p_nice", std::int64_t{-5}},
+                   {"pid_state", std::string("uninterruptible")},
+                   {"pid_syscalls_unix", Missing::kNotAllowed},
+                   {"carbonpsn_name", Missing::kNone}};
   return server;
 }
 
@@ -47,7 +50,8 @@ TEST(Query, HoldsOrNot) {
         "name=sshd", "NAME:/^S+HD$/", "-name:/^post/", "name:post,ssh", "name!=post", "pid:4711",
         "pid=1,4711", "pid:/^47/", "mem>499M", "mem>=500M", "mem<=500MiB", "mem<0.5G",
         "mem=524288000", "time>90", "time>1.5m", "time<1h", "nice<0", "nice=-5", "meta_name:sshd",
-        "post | ssh", "post OR ssh name:sshd", "name:\"ss\"", "sleep | -sleep",
+        "state:D", "state:D,Z", "-state:R", "state:unin", "post | ssh", "post OR ssh name:sshd",
+        "name:\"ss\"", "sleep | -sleep",
         // What is not there at all is not what is asked for.
         "-carbonpsn_name:Mail"}) {
     EXPECT_TRUE(Fulfils(server, text)) << text;
