@@ -235,6 +235,110 @@
         <source></source>
         <translation>How many descriptors of files, sockets, pipes and the like the process has open: the entries of /proc/PID/fd. Read in the background. Files that are only mapped into memory are left out. Of other users' processes the kernel tells it since version 6.2.</translation>
     </message>
+    <message id="pid_net_received">
+        <source></source>
+        <translation>Received</translation>
+    </message>
+    <message id="pid_net_received_tip">
+        <source></source>
+        <translation>Bytes that have come in over the network, the loopback included. In all means: since Lurkwell looked, and before that what the connections still open have moved. Counted are TCP connections of this network namespace, which the kernel's socket diagnostics tell, by the process's descriptors; one that several processes hold counts for each. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted: a process without a TCP connection so far has no figure. Of other users' processes it is not allowed; see the unit's.</translation>
+    </message>
+    <message id="pid_net_sent">
+        <source></source>
+        <translation>Sent</translation>
+    </message>
+    <message id="pid_net_sent_tip">
+        <source></source>
+        <translation>Bytes that were sent over the network, the loopback included, and that the other end has acknowledged. In all means: since Lurkwell looked, and before that what the connections still open have moved. Counted are TCP connections of this network namespace, which the kernel's socket diagnostics tell, by the process's descriptors; one that several processes hold counts for each. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted: a process without a TCP connection so far has no figure. Of other users' processes it is not allowed; see the unit's.</translation>
+    </message>
+    <message id="pid_net_receive_rate">
+        <source></source>
+        <translation>Receiving</translation>
+    </message>
+    <message id="pid_net_receive_rate_tip">
+        <source></source>
+        <translation>Bytes per second that come in over the network, between the last two looks. Counted are TCP connections of this network namespace, which the kernel's socket diagnostics tell, by the process's descriptors; one that several processes hold counts for each. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted: a process without a TCP connection so far has no figure. Of other users' processes it is not allowed; see the unit's.</translation>
+    </message>
+    <message id="pid_net_send_rate">
+        <source></source>
+        <translation>Sending</translation>
+    </message>
+    <message id="pid_net_send_rate_tip">
+        <source></source>
+        <translation>Bytes per second that are sent over the network and acknowledged, between the last two looks. Counted are TCP connections of this network namespace, which the kernel's socket diagnostics tell, by the process's descriptors; one that several processes hold counts for each. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted: a process without a TCP connection so far has no figure. Of other users' processes it is not allowed; see the unit's.</translation>
+    </message>
+    <message id="pid_connections">
+        <source></source>
+        <translation>Connections</translation>
+    </message>
+    <message id="pid_connections_tip">
+        <source></source>
+        <translation>How many TCP connections the process has open, those that only listen left out. From the kernel's socket diagnostics, by the process's descriptors; other protocols and other network namespaces are not counted. Of other users' processes it is not allowed.</translation>
+    </message>
+    <message id="pid_listening_ports">
+        <source></source>
+        <translation>Listening on</translation>
+    </message>
+    <message id="pid_listening_ports_tip">
+        <source></source>
+        <translation>The TCP ports on which the process waits for connections. From the kernel's socket diagnostics, by the process's descriptors; UDP and other network namespaces are left out. Of other users' processes it is not allowed.</translation>
+    </message>
+    <message id="pid_unit_net_received">
+        <source></source>
+        <translation>Received (unit)</translation>
+    </message>
+    <message id="pid_unit_net_received_tip">
+        <source></source>
+        <translation>Bytes that have come in over TCP connections: one figure for all processes of the unit (control group) together, as the kernel's socket diagnostics tell it to everybody. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted. In all means: since Lurkwell looked, and before that what the connections still open have moved.</translation>
+    </message>
+    <message id="pid_unit_net_sent">
+        <source></source>
+        <translation>Sent (unit)</translation>
+    </message>
+    <message id="pid_unit_net_sent_tip">
+        <source></source>
+        <translation>Bytes that were sent over TCP connections and acknowledged: one figure for all processes of the unit (control group) together, as the kernel's socket diagnostics tell it to everybody. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted. In all means: since Lurkwell looked, and before that what the connections still open have moved.</translation>
+    </message>
+    <message id="pid_unit_net_receive_rate">
+        <source></source>
+        <translation>Receiving (unit)</translation>
+    </message>
+    <message id="pid_unit_net_receive_rate_tip">
+        <source></source>
+        <translation>Bytes per second that come in over TCP connections: one figure for all processes of the unit (control group) together, as the kernel's socket diagnostics tell it to everybody. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted.</translation>
+    </message>
+    <message id="pid_unit_net_send_rate">
+        <source></source>
+        <translation>Sending (unit)</translation>
+    </message>
+    <message id="pid_unit_net_send_rate_tip">
+        <source></source>
+        <translation>Bytes per second that are sent over TCP connections and acknowledged: one figure for all processes of the unit (control group) together, as the kernel's socket diagnostics tell it to everybody. UDP and QUIC, connections that begin and end between two looks, and other network namespaces are not counted.</translation>
+    </message>
+    <message id="pid_gpu_share">
+        <source></source>
+        <translation>GPU</translation>
+    </message>
+    <message id="pid_gpu_share_tip">
+        <source></source>
+        <translation>For how much of the time between the last two looks the busiest engine of a graphics device worked for the process. From the usage figures that the kernel keeps with the process's descriptors of graphics devices (/proc/PID/fdinfo); each client of a device counts once. Drivers that keep none, such as NVIDIA's own, are not counted. No device is opened or woken. Of other users' processes it is not allowed.</translation>
+    </message>
+    <message id="pid_gpu_memory">
+        <source></source>
+        <translation>GPU memory</translation>
+    </message>
+    <message id="pid_gpu_memory_tip">
+        <source></source>
+        <translation>Memory of graphics devices that the process holds: what resides there where the driver tells it, else what was allocated. From the usage figures that the kernel keeps with the process's descriptors of graphics devices (/proc/PID/fdinfo); each client of a device counts once. Drivers that keep none, such as NVIDIA's own, are not counted. No device is opened or woken. Of other users' processes it is not allowed.</translation>
+    </message>
+    <message id="pid_gpu_engine">
+        <source></source>
+        <translation>GPU engine</translation>
+    </message>
+    <message id="pid_gpu_engine_tip">
+        <source></source>
+        <translation>The engine that was busiest for the process between the last two looks, in the driver's words (render, video, copy and the like). From the usage figures that the kernel keeps with the process's descriptors of graphics devices (/proc/PID/fdinfo); each client of a device counts once. Drivers that keep none, such as NVIDIA's own, are not counted. No device is opened or woken. Of other users' processes it is not allowed.</translation>
+    </message>
     <message id="value_age_tip">
         <source></source>
         <translation>Read %1 seconds ago.</translation>

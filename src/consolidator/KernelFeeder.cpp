@@ -22,7 +22,7 @@ bool IsCostly(const CatalogueRow& row) {
   return (row.sources & kCostlyFigureSources) != 0;
 }
 
-void ReportReading(const CostlyReading& reading, TimeValue now) {
+void ReportReading(const CostlyReading& reading, TimeValue now, const std::vector<Figure>& rates) {
   const auto* record = gRecords.GetExistingPIDInformation(reading.process.pid);
   if (record == nullptr || !record->valid || record->pidInfo == nullptr ||
       record->pidInfo->startStamp != reading.process.startStamp)
@@ -31,10 +31,11 @@ void ReportReading(const CostlyReading& reading, TimeValue now) {
   for (std::size_t i = 0; i < kFigureCount; ++i)
     if ((kFigures[i].origin.source & reading.sources) != 0)
       report.TableFigure(static_cast<Figure>(i), reading.figures);
+  const TimeValue when = now + TimeOfMicroseconds(-reading.age * 1000);
   auto& readAt = report.Block().costlyReadAt;
   for (std::size_t i = 0; i < readAt.size(); ++i)
-    if ((reading.sources & CostlySource(i)) != 0)
-      readAt[i] = now + TimeOfMicroseconds(-reading.age * 1000);
+    if ((reading.sources & CostlySource(i)) != 0) readAt[i] = when;
+  FigureRates(when, rates).Derive(report, reading.sources);
 }
 
 /// The idle task has neither memory nor descriptors.
@@ -45,9 +46,7 @@ void ReportIdleTask() {
 }
 
 /// What all clients need, so that one with short turns does not push aside what others asked for.
-std::vector<CostlyWish> Wishes() {
-  const auto clients = Client::DueClients(nullptr);
-  const SourceNeeds needs(clients, kCostlyFigureSources);
+std::vector<CostlyWish> WishesOf(const Client::Clients& clients, const SourceNeeds& needs) {
   std::unordered_set<std::int32_t> inSight;
   for (auto* client : clients)
     for (const auto pid : client->PidsInSight()) inSight.insert(pid);
@@ -68,9 +67,11 @@ std::vector<CostlyWish> Wishes() {
 void FeedCostlyFigures(TimeValue now) {
   if (!SourceNeeds(Client::DueClients(&now), kCostlyFigureSources).OfFigures()) return;
   auto& service = TheMachine().costlyFigures;
-  for (const auto& reading : service.Collect()) ReportReading(reading, now);
+  const auto clients = Client::DueClients(nullptr);
+  const SourceNeeds needs(clients, kCostlyFigureSources);
+  for (const auto& reading : service.Collect()) ReportReading(reading, now, needs.OfRates());
   if (gRecords.GetExistingPIDInformation(0) != nullptr) ReportIdleTask();
-  service.Ask(Wishes());
+  service.Ask(WishesOf(clients, needs));
 }
 
 }  // namespace

@@ -20,10 +20,10 @@ struct CostlyWish {
 /// What was found.
 struct CostlyReading {
   ProcessIdentity process;
-  /// The sources that were read; their figures stand in `figures`.
+  /// The sources that were read together; their figures stand in `figures`.
   FigureSources sources = 0;
   ProcessFigures figures;
-  /// How long ago that was, in milliseconds.
+  /// How long before the collection the figures were so, in milliseconds.
   std::int64_t age = 0;
 };
 

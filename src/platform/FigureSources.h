@@ -26,13 +26,17 @@ enum FigureSource : unsigned {
   // Those that take long to read; see CostlyFigures.
   kFromMemoryMap = 1 << 16,        ///< the sums over all mappings
   kFromDescriptorCount = 1 << 17,  ///< how many descriptors are open
+  kFromSockets = 1 << 18,          ///< TCP, by descriptors; the owner's and root's alone
+  kFromUnitSockets = 1 << 19,      ///< TCP of all that its control group has made
+  kFromGraphics = 1 << 20,         ///< graphics devices; the owner's and root's alone
 };
 /// Any of them together.
 using FigureSources = unsigned;
 /// All that the process table reads.
 inline constexpr FigureSources kAllFigureSources = 32767;
 /// All that is read in the background.
-inline constexpr FigureSources kCostlyFigureSources = kFromMemoryMap | kFromDescriptorCount;
+inline constexpr FigureSources kCostlyFigureSources =
+    kFromMemoryMap | kFromDescriptorCount | kFromSockets | kFromUnitSockets | kFromGraphics;
 
 /// Those that mostly stay what they are: read when the process becomes known, when it becomes
 /// another program, and ten seconds later at the earliest if it has run, a minute if it has not.

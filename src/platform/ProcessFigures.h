@@ -109,10 +109,6 @@ constexpr FigureOrigin Named(FigureSource source, std::string_view name,
 constexpr FigureOrigin OfThreads(std::size_t field, SourceUnit unit) {
   return {.source = kFromThreads, .unit = unit, .field = field};
 }
-/// How it is taken stands in the reader of the source.
-constexpr FigureOrigin InBackground(FigureSource source) {
-  return {.source = source};
-}
 constexpr FigureOrigin AlsoFrom(FigureSource with, FigureOrigin origin) {
   origin.with = with;
   return origin;
@@ -178,7 +174,7 @@ inline constexpr FigureRow kRows[] = {
     {"pid_unit_disk_written", kBytes, kNoGroup, Named(kFromUnit, "wbytes")},
     {"pid_pss", kBytes, kNoGroup, Named(kFromMemoryMap, "Pss")},
     {"pid_uss", kBytes, kNoGroup, Named(kFromMemoryMap, "Private_Clean", "Private_Dirty")},
-    {"pid_descriptors", kNumber, kNoGroup, InBackground(kFromDescriptorCount)},
+    {"pid_descriptors", kNumber, kNoGroup, Single(kFromDescriptorCount)},
 
     Text("pid_owner", Named(kFromIdentity, "Uid")),
     Words("pid_state", Stat(3), StateInWords),
@@ -208,6 +204,21 @@ inline constexpr FigureRow kRows[] = {
     {"pid_write_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_bytes_written")},
     {"pid_unit_read_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_unit_disk_read")},
     {"pid_unit_write_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_unit_disk_written")},
+
+    {"pid_net_received", kBytes, kNoGroup, Single(kFromSockets)},
+    {"pid_net_sent", kBytes, kNoGroup, Single(kFromSockets)},
+    {"pid_net_receive_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_net_received")},
+    {"pid_net_send_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_net_sent")},
+    {"pid_connections", kNumber, kNoGroup, Single(kFromSockets)},
+    Text("pid_listening_ports", Single(kFromSockets)),
+    {"pid_unit_net_received", kBytes, kNoGroup, Single(kFromUnitSockets)},
+    {"pid_unit_net_sent", kBytes, kNoGroup, Single(kFromUnitSockets)},
+    {"pid_unit_net_receive_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_unit_net_received")},
+    {"pid_unit_net_send_rate", kBytesPerSecond, kNoGroup, PerSecond("pid_unit_net_sent")},
+
+    {"pid_gpu_share", kShare, kNoGroup, Single(kFromGraphics)},
+    {"pid_gpu_memory", kBytes, kNoGroup, Single(kFromGraphics)},
+    Text("pid_gpu_engine", Single(kFromGraphics)),
 
     Text("pid_cgroup", Single(kFromGroup)),
     Text("pid_unit", Single(kFromGroup)),

@@ -102,5 +102,22 @@ TEST_F(CostlyFeederTest, AReadingIsOfTheProcessThatWasMeantAndTellsItsAge) {
   EXPECT_EQ(Read(300), TypedValue(Missing::kNotYetKnown));
 }
 
+TEST_F(CostlyFeederTest, RatesAreOfTheTimeBetweenTheReadingsAndNotBetweenTheBeats) {
+  auto& process = *machine.processTable.Find(300);
+  process["pid_net_sent"] = 1000;
+  Add("client", 1000).Needs({"pid_net_send_rate"});
+  const auto rate = [&](std::int64_t age) {
+    machine.costlyFigures.age = age;
+    machine.runLoop.RunFor(1000);
+    return Read(300, "pid_net_send_rate");
+  };
+  machine.runLoop.RunFor(1500);
+  EXPECT_EQ(rate(0), TypedValue(Missing::kNotYetKnown)) << "of one reading";
+  process["pid_net_sent"] = 2000;
+  EXPECT_EQ(rate(500), TypedValue(std::int64_t{2000}));
+  process["pid_net_sent"] = 1500;
+  EXPECT_EQ(rate(0), TypedValue(Missing::kNotYetKnown)) << "it went back";
+}
+
 }  // namespace
 }  // namespace lurkwell

@@ -118,7 +118,7 @@ TEST_F(PropertiesTest, AFigureIsWhatItsRowSaysWhereverItComesFrom) {
   }
   // The helper's word counts where it has one, the table's else.
   SetPrefInt("FIGURES_FROM_HELPER", 1);
-  client.NeedsEverything();
+  client.Needs({"pid_descriptors"}).NeedsEverything();
   for (auto& value : process.figures) ++value;
   machine.runLoop.RunFor(1000);
   for (const auto& row : kFigures)

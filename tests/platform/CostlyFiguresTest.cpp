@@ -1,8 +1,12 @@
 // The figures that are read in the background: of this machine's processes, and of made-up ones
 // that hang.
+#include <arpa/inet.h>
 #include <fcntl.h>
+#include <netinet/in.h>
+#include <sched.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,6 +14,7 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -18,6 +23,7 @@
 
 #include "platform/linux/LinuxCostlyFigures.h"
 #include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/NetworkAccounts.h"
 #include "support/Child.h"
 #include "support/TemporaryFolder.h"
 
@@ -45,8 +51,7 @@ std::optional<CostlyReading> NextReading(CostlyFigures& figures,
   return std::nullopt;
 }
 
-std::optional<CostlyReading> ReadingOf(CostlyFigures& figures, pid_t pid,
-                                       FigureSources sources = kCostlyFigureSources) {
+std::optional<CostlyReading> ReadingOf(CostlyFigures& figures, pid_t pid, FigureSources sources) {
   return NextReading(figures, {{IdentityOf(pid), sources}});
 }
 
@@ -71,7 +76,6 @@ TEST(CostlyFigures, TellWhatMemoryIsItsOwnAndWhatIsShared) {
   const Child alone([] { TakeMemory(); });
   const auto own = ReadingOf(figures, alone.Pid(), kFromMemoryMap);
   ASSERT_TRUE(own);
-  EXPECT_EQ(own->sources, FigureSources{kFromMemoryMap});
   // Beside it there are a few pages of the test program.
   EXPECT_NEAR(static_cast<double>(own->figures.Get(kUss)), 50 * kMebibyte, 4 * kMebibyte);
   EXPECT_NEAR(static_cast<double>(own->figures.Get(kPss)), 50 * kMebibyte, 6 * kMebibyte);
@@ -97,16 +101,17 @@ TEST(CostlyFigures, CountDescriptorsAndTellWhatIsNotAllowed) {
   });
   constexpr Figure kCount = FigureCalled("pid_descriptors");
   LinuxCostlyFigures ours;
-  const auto reading = ReadingOf(ours, child.Pid());
+  const auto reading = ReadingOf(ours, child.Pid(), kFromDescriptorCount);
   ASSERT_TRUE(reading);
   EXPECT_EQ(std::to_string(reading->figures.Get(kCount)), Descriptors(child.Pid()));
   EXPECT_GE(reading->figures.Get(kCount), 40);
   EXPECT_EQ(RunForked([&]() -> std::string {
               BecomeUser(kStranger);
               LinuxCostlyFigures figures;
-              const auto others = ReadingOf(figures, child.Pid());
-              if (!others) return "nothing was read";
-              if (others->figures.StateOf(FigureCalled("pid_pss")) != FigureState::kRefused)
+              const auto memory = ReadingOf(figures, child.Pid(), kFromMemoryMap);
+              const auto others = ReadingOf(figures, child.Pid(), kFromDescriptorCount);
+              if (!memory || !others) return "nothing was read";
+              if (memory->figures.StateOf(FigureCalled("pid_pss")) != FigureState::kRefused)
                 return "memory was not refused";
               // Kernels of 6.2 and later tell every user the number.
               if (others->figures.StateOf(kCount) == FigureState::kKnown &&
@@ -126,6 +131,167 @@ TEST(CostlyFigures, OfAnEndedProcessAreNotTakenForThoseOfTheNextOne) {
                                              {IdentityOf(child.Pid()), kFromDescriptorCount}});
   ASSERT_TRUE(reading);
   EXPECT_EQ(reading->process, IdentityOf(child.Pid()));
+}
+
+int Listen(int protocol = SOCK_STREAM) {
+  const int listener = ::socket(AF_INET, protocol | SOCK_CLOEXEC, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  EXPECT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  EXPECT_TRUE(protocol != SOCK_STREAM || ::listen(listener, 8) == 0);
+  return listener;
+}
+
+sockaddr_in AddressOf(int socket) {
+  sockaddr_in address{};
+  socklen_t length = sizeof address;
+  ::getsockname(socket, reinterpret_cast<sockaddr*>(&address), &length);
+  return address;
+}
+
+int ConnectTo(const sockaddr_in& address, int protocol = SOCK_STREAM) {
+  const int connection = ::socket(AF_INET, protocol | SOCK_CLOEXEC, 0);
+  EXPECT_EQ(::connect(connection, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  return connection;
+}
+
+void Send(int connection, std::size_t size) {
+  const std::vector<char> bytes(size, 'x');
+  for (std::size_t sent = 0; sent < size;) {
+    const auto now = ::send(connection, bytes.data() + sent, size - sent, MSG_NOSIGNAL);
+    ASSERT_GT(now, 0);
+    sent += static_cast<std::size_t>(now);
+  }
+}
+
+void Receive(int connection, std::size_t size) {
+  std::vector<char> bytes(1 << 20);
+  for (std::size_t received = 0; received < size;) {
+    const auto now = ::recv(connection, bytes.data(), bytes.size(), 0);
+    ASSERT_GT(now, 0);
+    received += static_cast<std::size_t>(now);
+  }
+}
+
+constexpr Figure kReceived = FigureCalled("pid_net_received"), kSent = FigureCalled("pid_net_sent");
+constexpr Figure kConnections = FigureCalled("pid_connections");
+
+TEST(CostlyFigures, TellWhatTwoProcessesHaveSentEachOther) {
+  constexpr std::size_t kSize = 50'000'000;
+  const int listener = Listen();
+  const auto address = AddressOf(listener);
+  const Child sender([&] {
+    ::close(listener);
+    const int connection = ConnectTo(address);
+    // What is held twice counts once.
+    EXPECT_GE(::dup(connection), 0);
+    std::thread([connection] { Send(connection, kSize); }).detach();
+  });
+  const Child receiver([&] { Receive(::accept(listener, nullptr, nullptr), kSize); });
+  ::close(listener);
+  LinuxCostlyFigures figures;
+  const auto received = ReadingOf(figures, receiver.Pid(), kFromSockets);
+  const auto sent = ReadingOf(figures, sender.Pid(), kFromSockets);
+  ASSERT_TRUE(received && sent);
+  // The beginning and the end of a connection count as a byte each.
+  EXPECT_NEAR(static_cast<double>(received->figures.Get(kReceived)), kSize, 2);
+  EXPECT_NEAR(static_cast<double>(sent->figures.Get(kSent)), kSize, 2);
+  EXPECT_EQ(received->figures.Get(kConnections), 1);
+  EXPECT_EQ(sent->figures.Get(kConnections), 1);
+  EXPECT_EQ(received->figures.GetText(FigureCalled("pid_listening_ports")),
+            std::to_string(ntohs(address.sin_port)));
+  EXPECT_EQ(sent->figures.GetText(FigureCalled("pid_listening_ports")), "");
+}
+
+TEST(CostlyFigures, WhatIsNotCountedOfTheNetworkIsNeverZero) {
+  ASSERT_EQ(::geteuid(), 0u);
+  const int tcp = Listen();
+  const int udp = Listen(SOCK_DGRAM);
+  const auto tcpAddress = AddressOf(tcp), udpAddress = AddressOf(udp);
+  const Child onlyUdp([&] { Send(ConnectTo(udpAddress, SOCK_DGRAM), 1000); });
+  const Child ended([&] {
+    const int connection = ConnectTo(tcpAddress);
+    Send(connection, 1000);
+    ::close(connection);
+    ::close(tcp);
+  });
+  const Child elsewhere([] {
+    ASSERT_EQ(::unshare(CLONE_NEWNET), 0);
+    EXPECT_EQ(::listen(::socket(AF_INET, SOCK_STREAM, 0), 8), 0);
+  });
+  LinuxCostlyFigures figures;
+  for (const auto* child : {&onlyUdp, &ended, &elsewhere}) {
+    const auto reading = ReadingOf(figures, child->Pid(), kFromSockets);
+    ASSERT_TRUE(reading);
+    EXPECT_EQ(reading->figures.StateOf(kReceived), FigureState::kUncounted);
+    EXPECT_EQ(reading->figures.StateOf(kSent), FigureState::kUncounted);
+    if (child == &elsewhere) {
+      EXPECT_EQ(reading->figures.StateOf(kConnections), FigureState::kUncounted);
+    } else {
+      EXPECT_EQ(reading->figures.StateOf(kConnections), FigureState::kKnown);
+      EXPECT_EQ(reading->figures.Get(kConnections), 0);
+    }
+  }
+  ::close(tcp);
+  ::close(udp);
+}
+
+TEST(CostlyFigures, OfAUnitAreToldToOtherUsers) {
+  ASSERT_EQ(::geteuid(), 0u);
+  const bool isUnified = std::filesystem::exists("/sys/fs/cgroup/cgroup.procs");
+  const std::string group = std::string("/sys/fs/cgroup/") + (isUnified ? "" : "unified/") +
+                            "lurkwell-test-" + std::to_string(::getpid());
+  ASSERT_TRUE(std::filesystem::create_directory(group)) << "no group of its own";
+  const int listener = Listen();
+  const auto address = AddressOf(listener);
+  {
+    const Child child([&] {
+      WriteFile(group + "/cgroup.procs", std::to_string(::getpid()));
+      Send(ConnectTo(address), 100'000);
+    });
+    const int connection = ::accept(listener, nullptr, nullptr);
+    Receive(connection, 100'000);
+    EXPECT_EQ(RunForked([&]() -> std::string {
+                BecomeUser(kStranger);
+                LinuxCostlyFigures figures;
+                const auto own = ReadingOf(figures, child.Pid(), kFromSockets);
+                const auto unit = ReadingOf(figures, child.Pid(), kFromUnitSockets);
+                if (!own || own->figures.StateOf(kSent) != FigureState::kRefused)
+                  return "the process's own figures were not refused";
+                if (!unit) return "nothing was read";
+                const auto sent = unit->figures.Get(FigureCalled("pid_unit_net_sent"));
+                return sent >= 100'000 && sent <= 100'002 ? "" : std::to_string(sent);
+              }),
+              "");
+    ::close(connection);
+  }
+  ::close(listener);
+  std::filesystem::remove(group);
+}
+
+TEST(CostlyFigures, CountConnectionsFromWhereTheirHolderHasThem) {
+  NetworkAccounts accounts;
+  NetworkAccount first, heir, unit;
+  const auto socket = [](std::uint64_t cookie, std::uint64_t received) {
+    return TcpSocket{
+        .cookie = cookie, .inode = cookie, .group = 9, .received = received, .sent = received / 10};
+  };
+  const auto received = [&](NetworkAccount& account, std::vector<std::uint64_t> inodes) {
+    return accounts.OfSockets(account, inodes).received;
+  };
+  accounts.Take({socket(1, 1000)}, 1000);
+  EXPECT_EQ(received(first, {1, 1}), 1000u) << "what a live connection tells";
+  EXPECT_FALSE(accounts.OfSockets(heir, {}).isCounted);
+  EXPECT_EQ(accounts.OfGroup(unit, 9).sent, 100u);
+  accounts.Take({socket(1, 1500), socket(2, 70)}, 3000);
+  EXPECT_EQ(received(first, {1, 2}), 1570u) << "a new one from its beginning";
+  EXPECT_EQ(received(heir, {1}), 0u) << "one that was handed over from then on";
+  accounts.Take({socket(1, 1600), socket(3, 5)}, 5000);
+  EXPECT_EQ(received(first, {3}), 1575u) << "what ended keeps its last figures";
+  EXPECT_EQ(received(heir, {1}), 100u);
+  EXPECT_EQ(accounts.OfGroup(unit, 9).received, 1605u);
+  EXPECT_EQ(accounts.OfGroup(unit, 9).connections, 2);
 }
 
 /// A made-up process without memory or descriptors, but for what a test puts there.
@@ -167,14 +333,61 @@ TEST(CostlyFigures, ComeOnAlthoughAReadingHangs) {
   ::close(::open(stuck.c_str(), O_WRONLY));
 }
 
+TEST(CostlyFigures, OfGraphicsDevicesCountAClientOnceAndLookAtNothingElse) {
+  const TemporaryFolder tree;
+  Make(tree, 2);
+  Make(tree, 3);
+  Make(tree, 4);
+  tree.Write("dri/renderD128", "");
+  const auto link = [&](const std::string& descriptor, const std::string& target) {
+    std::filesystem::remove(tree / descriptor);
+    std::filesystem::create_symlink(target, tree / descriptor);
+  };
+  const auto use = [&](const std::string& descriptor, const char* client, const char* cycles) {
+    tree.Write(descriptor, std::string("drm-driver:\txe\ndrm-client-id:\t") + client +
+                               "\ndrm-resident-vram0:\t4 MiB\ndrm-cycles-rcs:\t" + cycles +
+                               "\ndrm-total-cycles-rcs:\t" + cycles + "00\n");
+  };
+  for (const char* descriptor : {"2/fd/3", "2/fd/4"}) link(descriptor, tree / "dri/renderD128");
+  link("2/fd/5", "/dev/null");
+  link("4/fd/0", "/dev/nvidia0");
+  for (const char* info : {"2/fdinfo/3", "2/fdinfo/4", "2/fdinfo/5"})
+    use(info, info == std::string("2/fdinfo/5") ? "8" : "7", "1");
+  constexpr Figure kShareFigure = FigureCalled("pid_gpu_share");
+  constexpr Figure kMemory = FigureCalled("pid_gpu_memory");
+  LinuxCostlyFigures figures(tree.Path(), tree.Path(), tree / "dri");
+  const auto read = [&](std::int32_t pid) {
+    return NextReading(figures, {{{pid, 77}, kFromGraphics}}).value_or(CostlyReading{}).figures;
+  };
+  EXPECT_EQ(read(3).StateOf(kShareFigure), FigureState::kKnown) << "without a device it uses none";
+  EXPECT_EQ(read(4).StateOf(kShareFigure), FigureState::kUncounted)
+      << "a driver that tells nothing";
+  // All processes of interest stay asked for, else they are forgotten.
+  const auto first = read(2);
+  EXPECT_EQ(first.StateOf(kShareFigure), FigureState::kUnread) << "of one look";
+  EXPECT_EQ(first.Get(kMemory), 4 * kMebibyte);
+  // A number that was another file's a moment ago is not looked at again so soon.
+  link("2/fd/5", tree / "dri/renderD128");
+  for (const char* info : {"2/fdinfo/3", "2/fdinfo/4"}) use(info, "7", "31");
+  const auto second = read(2);
+  EXPECT_EQ(second.Get(kShareFigure), 1000) << "a hundredth of the cycles";
+  EXPECT_EQ(second.GetText(FigureCalled("pid_gpu_engine")), "rcs");
+  EXPECT_EQ(second.Get(kMemory), 4 * kMebibyte);
+  LinuxCostlyFigures without(tree.Path(), tree.Path(), tree / "none");
+  const auto reading = NextReading(without, {{{2, 77}, kFromGraphics}});
+  ASSERT_TRUE(reading);
+  EXPECT_EQ(reading->figures.StateOf(kMemory), FigureState::kUncounted);
+}
+
 TEST(CostlyFigures, TakeNoMoreTimeThanTheyAreAllowed) {
   const TemporaryFolder tree;
   Make(tree, 2);
   Make(tree, 3);
   LinuxCostlyFigures figures(tree.Path());
-  std::vector<CostlyWish> wishes(200'000, {{2, 77}, kCostlyFigureSources, false});
+  constexpr FigureSources kCheap = kFromMemoryMap | kFromDescriptorCount;
+  std::vector<CostlyWish> wishes(200'000, {{2, 77}, kCheap, false});
   // What is in sight goes before.
-  wishes.push_back({{3, 77}, kCostlyFigureSources, true});
+  wishes.push_back({{3, 77}, kCheap, true});
   const auto begun = steady_clock::now();
   figures.Ask(wishes);
   std::this_thread::sleep_for(std::chrono::seconds(1));

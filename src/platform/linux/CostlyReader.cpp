@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <charconv>
 #include <string_view>
+#include <utility>
 
 #include "platform/linux/ProcStat.h"
 
@@ -43,10 +44,13 @@ void SetAll(ProcessFigures& figures, FigureSource source, FigureState why) {
 
 }  // namespace
 
-CostlyReader::CostlyReader(const std::string& root) : mFiles(root) {}
+CostlyReader::CostlyReader(const std::string& root, const std::string& units,
+                           const std::string& devices)
+    : mFiles(root), mDescriptors(mFiles, units, devices) {}
 
 void CostlyReader::Keep(std::span<const CostlyWish> wishes) {
   ++mRound;
+  mDescriptors.BeginRound();
   for (const auto& wish : wishes) {
     auto& known = mKnown[wish.process.pid];
     if (known.startStamp != wish.process.startStamp) known = {};
@@ -71,29 +75,34 @@ CostlyReader::Due CostlyReader::DueOf(const CostlyWish& wish, std::int64_t now) 
   return due;
 }
 
-std::optional<CostlyReading> CostlyReader::Read(ProcessIdentity process, FigureSources sources) {
+std::vector<CostlyReading> CostlyReader::Read(ProcessIdentity process, FigureSources sources) {
+  std::vector<CostlyReading> readings;
   const auto known = mKnown.find(process.pid);
-  if (known == mKnown.end()) return std::nullopt;
+  if (known == mKnown.end()) return readings;
   const FileDescriptor folder = mFiles.OpenFolder(process.pid);
-  if (!folder.IsOpen() || !IsOf(process, folder.Get())) return std::nullopt;
-  CostlyReading reading{process, 0, {}, 0};
+  if (!folder.IsOpen() || !IsOf(process, folder.Get())) return readings;
   for (std::size_t i = 0; i < kCostlySourceCount; ++i) {
-    if ((sources & CostlySource(i)) == 0) continue;
+    const auto which = CostlySource(i);
+    if ((sources & which) == 0) continue;
+    CostlyReading reading{process, which, {}, 0};
     const auto begun = Now();
-    const auto state = ReadSource(CostlySource(i), folder.Get(), reading.figures);
+    const auto state = ReadSource(which, folder.Get(), known->second, reading.figures);
     const auto ended = Now();
-    auto& source = known->second.sources[i];
     const auto rest = state == FigureState::kRefused
                           ? kRestAfterRefusal
                           : std::min((ended - begun) * kRestFactor, kLongestRest);
-    source = {true, ended, ended + rest};
+    known->second.sources[i] = {true, ended, ended + rest};
     // Ended meanwhile, or nothing to open it with: no word on the figures.
     if (state == FigureState::kUnread) continue;
-    if (state != FigureState::kKnown) SetAll(reading.figures, CostlySource(i), state);
-    reading.sources |= CostlySource(i);
+    if (state != FigureState::kKnown) SetAll(reading.figures, which, state);
+    const bool isOfDump =
+        (which & (kFromSockets | kFromUnitSockets)) != 0 && state == FigureState::kKnown;
+    reading.age = isOfDump ? mDescriptors.SocketsAreOf() : ended;
+    readings.push_back(std::move(reading));
   }
-  if (reading.sources == 0) return std::nullopt;
-  return reading;
+  const auto now = Now();
+  for (auto& reading : readings) reading.age = now - reading.age;
+  return readings;
 }
 
 bool CostlyReader::IsOf(ProcessIdentity process, int folder) {
@@ -106,10 +115,25 @@ bool CostlyReader::IsOf(ProcessIdentity process, int folder) {
   return true;
 }
 
-FigureState CostlyReader::ReadSource(FigureSource source, int folder, ProcessFigures& figures) {
+FigureState CostlyReader::ReadSource(FigureSource source, int folder, Known& known,
+                                     ProcessFigures& figures) {
   errno = 0;
-  const auto state = source == kFromMemoryMap ? ReadMemoryMap(folder, figures)
-                                              : ReadDescriptorCount(folder, figures);
+  const auto state = [&] {
+    switch (source) {
+      case kFromMemoryMap:
+        return ReadMemoryMap(folder, figures);
+      case kFromDescriptorCount:
+        return ReadDescriptorCount(folder, figures);
+      case kFromSockets:
+        return mDescriptors.ReadSockets(folder, known.open, figures);
+      case kFromUnitSockets:
+        return mDescriptors.ReadSocketsOfUnit(folder, known.open, figures);
+      case kFromGraphics:
+        return mDescriptors.ReadGraphics(folder, known.open, figures);
+      default:
+        return FigureState::kUnread;
+    }
+  }();
   if (state != FigureState::kUnread) return state;
   return errno == EACCES || errno == EPERM ? FigureState::kRefused : FigureState::kUnread;
 }

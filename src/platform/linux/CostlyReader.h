@@ -3,7 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -11,6 +10,7 @@
 
 #include "platform/CostlyFigures.h"
 #include "platform/FileDescriptor.h"
+#include "platform/linux/DescriptorFigures.h"
 #include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
@@ -20,8 +20,8 @@ namespace lurkwell {
 /// refused for ten seconds. One thread at a time.
 class CostlyReader {
  public:
-  /// `root` as in ProcFiles.
-  explicit CostlyReader(const std::string& root);
+  /// As in ProcFiles and DescriptorFigures.
+  CostlyReader(const std::string& root, const std::string& units, const std::string& devices);
 
   /// All that is asked for from now on: of other processes everything is forgotten.
   void Keep(std::span<const CostlyWish> wishes);
@@ -35,8 +35,9 @@ class CostlyReader {
   };
   Due DueOf(const CostlyWish& wish, std::int64_t now) const;
 
-  /// Reads these sources; nothing when the process is not there any more.
-  std::optional<CostlyReading> Read(ProcessIdentity process, FigureSources sources);
+  /// Reads these sources, one reading for each, whose age is that at the end of all of them;
+  /// nothing when the process is not there any more.
+  std::vector<CostlyReading> Read(ProcessIdentity process, FigureSources sources);
 
   /// Milliseconds of the steady clock.
   std::int64_t Now() const { return mFiles.Milliseconds(); }
@@ -50,16 +51,18 @@ class CostlyReader {
       std::int64_t due = 0;
     };
     std::array<Source, kCostlySourceCount> sources;
+    DescriptorFigures::Known open;
     std::uint64_t round = 0;
   };
 
   /// Whether the open folder is that process's; errno is ESRCH where it is another's.
   bool IsOf(ProcessIdentity process, int folder);
-  FigureState ReadSource(FigureSource source, int folder, ProcessFigures& figures);
+  FigureState ReadSource(FigureSource source, int folder, Known& known, ProcessFigures& figures);
   FigureState ReadMemoryMap(int folder, ProcessFigures& figures);
   FigureState ReadDescriptorCount(int folder, ProcessFigures& figures);
 
   ProcFiles mFiles;
+  DescriptorFigures mDescriptors;
   std::unordered_map<std::int32_t, Known> mKnown;
   std::uint64_t mRound = 0;
   /// Whether the process that is read has memory of its own, as the kernel's threads have not.

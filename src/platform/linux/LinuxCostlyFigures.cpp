@@ -136,7 +136,8 @@ struct ShelvedProcess {
 
 /// What the main thread and the readers share; the last of them frees it.
 struct LinuxCostlyFigures::Shared {
-  explicit Shared(std::string itsRoot) : root(std::move(itsRoot)) {}
+  Shared(std::string itsProc, std::string itsUnits, std::string itsDevices)
+      : proc(std::move(itsProc)), units(std::move(itsUnits)), devices(std::move(itsDevices)) {}
 
   /// A thread of another generation than this one ends as soon as it can.
   void GiveUpThread() {
@@ -146,7 +147,9 @@ struct LinuxCostlyFigures::Shared {
     news.notify_all();
   }
 
-  const std::string root;
+  const std::string proc;
+  const std::string units;
+  const std::string devices;
   mutable std::mutex mutex;
   std::condition_variable news;
   std::vector<CostlyWish> wishes;
@@ -166,8 +169,8 @@ struct LinuxCostlyFigures::Shared {
   std::thread thread;
 };
 
-LinuxCostlyFigures::LinuxCostlyFigures(std::string root)
-    : mShared(std::make_shared<Shared>(std::move(root))) {}
+LinuxCostlyFigures::LinuxCostlyFigures(std::string proc, std::string units, std::string devices)
+    : mShared(std::make_shared<Shared>(std::move(proc), std::move(units), std::move(devices))) {}
 
 LinuxCostlyFigures::~LinuxCostlyFigures() {
   auto& shared = *mShared;
@@ -229,8 +232,8 @@ std::vector<CostlyReading> LinuxCostlyFigures::Collect() {
   std::vector<CostlyReading> readings;
   readings.reserve(results.size());
   for (auto& [reading, readAt] : results) {
-    reading.age = std::chrono::duration_cast<std::chrono::milliseconds>(now - readAt).count();
-    readings.push_back(reading);
+    reading.age += std::chrono::duration_cast<std::chrono::milliseconds>(now - readAt).count();
+    readings.push_back(std::move(reading));
   }
   return readings;
 }
@@ -241,7 +244,7 @@ std::int64_t LinuxCostlyFigures::TakenTime() const {
 
 void LinuxCostlyFigures::Serve(const std::shared_ptr<Shared>& itsShared, unsigned generation) {
   auto& shared = *itsShared;
-  CostlyReader reader(shared.root);
+  CostlyReader reader(shared.proc, shared.units, shared.devices);
   Turns turns;
   auto refilled = SteadyClock::now();
   auto taken = ThreadTime();
@@ -267,7 +270,7 @@ void LinuxCostlyFigures::Serve(const std::shared_ptr<Shared>& itsShared, unsigne
       shared.reading = KeyOf(turn.process);
       shared.since = SteadyClock::now();
       lock.unlock();
-      auto reading = reader.Read(turn.process, turn.sources);
+      auto readings = reader.Read(turn.process, turn.sources);
       lock.lock();
       if (isOver()) {
         // Given up meanwhile, or the program ends.
@@ -279,7 +282,8 @@ void LinuxCostlyFigures::Serve(const std::shared_ptr<Shared>& itsShared, unsigne
         return;
       }
       shared.reading.reset();
-      if (reading) shared.results.push_back({std::move(*reading), SteadyClock::now()});
+      const auto readAt = SteadyClock::now();
+      for (auto& reading : readings) shared.results.push_back({std::move(reading), readAt});
     }
     const auto rankPaid = rank.value_or(kOther);
     const auto before = std::exchange(taken, ThreadTime());

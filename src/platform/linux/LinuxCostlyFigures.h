@@ -21,8 +21,10 @@ namespace lurkwell {
 /// thread takes over, four times at most.
 class LinuxCostlyFigures final : public CostlyFigures {
  public:
-  /// `root` is "/proc" or a made-up tree of the same shape.
-  explicit LinuxCostlyFigures(std::string root = "/proc");
+  /// Folders like /proc, that of the control groups (empty: where this machine has it) and that of
+  /// the graphics devices.
+  explicit LinuxCostlyFigures(std::string proc = "/proc", std::string units = {},
+                              std::string devices = "/dev/dri");
   /// Waits for no reading that hangs.
   ~LinuxCostlyFigures() override;
   LinuxCostlyFigures(const LinuxCostlyFigures&) = delete;

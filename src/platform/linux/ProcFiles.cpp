@@ -42,7 +42,8 @@ class PidPath {
   std::array<char, 32> mText;
 };
 
-void AppendProcesses(std::span<const char> listing, std::vector<ListedProcess>& processes) {
+/// Entries whose names are numbers.
+void AppendNumbers(std::span<const char> listing, std::vector<ListedProcess>& numbers) {
   while (listing.size() > kNameOffset) {
     ListedProcess process;
     std::uint16_t length = 0;
@@ -51,9 +52,10 @@ void AppendProcesses(std::span<const char> listing, std::vector<ListedProcess>& 
     if (length <= kNameOffset || length > listing.size()) return;
     const char* name = listing.data() + kNameOffset;
     if (*name >= '0' && *name <= '9') {
-      if (const auto pid = ParsePid({name, strnlen(name, length - kNameOffset)})) {
-        process.pid = *pid;
-        processes.push_back(process);
+      const std::string_view text(name, strnlen(name, length - kNameOffset));
+      if (const auto number = text == "0" ? std::optional(0) : ParsePid(text)) {
+        process.pid = *number;
+        numbers.push_back(process);
       }
     }
     listing = listing.subspan(length);
@@ -83,7 +85,10 @@ ProcFiles::ProcFiles(const std::string& root)
 bool ProcFiles::List(std::vector<ListedProcess>& processes) {
   processes.clear();
   if (::lseek(mRoot.Get(), 0, SEEK_SET) < 0) return false;
-  return ListFolder(mRoot, processes);
+  if (!ListFolder(mRoot, processes)) return false;
+  // No process has that number in the kernel's tree.
+  if (!mIsKernelTree) std::erase_if(processes, [](const auto& listed) { return listed.pid == 0; });
+  return true;
 }
 
 bool ProcFiles::ListFolder(const FileDescriptor& folder, std::vector<ListedProcess>& listed) {
@@ -91,7 +96,7 @@ bool ProcFiles::ListFolder(const FileDescriptor& folder, std::vector<ListedProce
     const auto bytes = ::syscall(SYS_getdents64, folder.Get(), mListing.data(),
                                  static_cast<unsigned>(mListing.size()));
     if (bytes <= 0) return bytes == 0;
-    AppendProcesses(std::span(mListing).first(static_cast<std::size_t>(bytes)), listed);
+    AppendNumbers(std::span(mListing).first(static_cast<std::size_t>(bytes)), listed);
     if (listed.size() >= kMostListed) return true;
   }
 }

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <linux/magic.h>
+#include <sys/stat.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -73,6 +74,12 @@ std::shared_ptr<ControlGroup> UnitFiles::Find(std::string_view text) {
     return group;
   }
   return nullptr;
+}
+
+std::optional<std::uint64_t> UnitFiles::NumberOf(const ControlGroup& group) const {
+  struct stat status {};
+  if (::fstatat(mRoot.Get(), ("." + group.path).c_str(), &status, 0) != 0) return std::nullopt;
+  return status.st_ino;
 }
 
 const ProcessFigures& UnitFiles::FiguresOf(ControlGroup& group) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,6 +34,9 @@ class UnitFiles {
 
   /// The group of a process, by the text of its cgroup file; null when it has none.
   std::shared_ptr<ControlGroup> Find(std::string_view text);
+
+  /// The number by which the kernel names the group; nothing when it is gone.
+  std::optional<std::uint64_t> NumberOf(const ControlGroup& group) const;
 
   /// As they are in this pass. The groups that are not counted, or whose files may not be read,
   /// have figures that say so.

@@ -33,7 +33,9 @@ class SimulatedCostlyFigures final : public CostlyFigures {
         const auto figure = static_cast<Figure>(i);
         const auto source = kFigures[i].origin.source;
         if ((source & wish.sources) == 0) continue;
-        if (source == kFromMemoryMap && process->owner != "user") {
+        if (kFigures[i].kind == FigureKind::kText) {
+          reading.figures.SetText(figure, process->texts.Get(figure));
+        } else if (source == kFromMemoryMap && process->owner != "user") {
           reading.figures.SetMissing(figure, FigureState::kRefused);
         } else {
           reading.figures.Set(figure, process->Tell(figure));
