@@ -47,7 +47,7 @@ void SetMoved(const NetworkUse& use, Figure received, Figure sent, ProcessFigure
   }
 }
 
-std::string TextOf(const std::vector<std::uint16_t>& ports) {
+std::string PortsInWords(const std::vector<std::uint16_t>& ports) {
   std::string text;
   for (const auto port : ports) text += (text.empty() ? "" : ", ") + std::to_string(port);
   return text;
@@ -111,7 +111,7 @@ FigureState DescriptorFigures::ReadSockets(int folder, Known& known, ProcessFigu
   const auto use = mAccounts.OfSockets(known.network, inodes);
   SetMoved(use, FigureCalled("pid_net_received"), FigureCalled("pid_net_sent"), figures);
   figures.Set(FigureCalled("pid_connections"), use.connections);
-  figures.SetText(FigureCalled("pid_listening_ports"), TextOf(use.listeningPorts));
+  figures.SetText(FigureCalled("pid_listening_ports"), PortsInWords(use.listeningPorts));
   return FigureState::kKnown;
 }
 

@@ -67,7 +67,7 @@ std::array<double, 3> Averages(std::string_view line) {
 }
 
 /// Names in a folder that begin so, sorted.
-std::vector<std::string> NamesIn(const std::string& folder, std::string_view begin) {
+std::vector<std::string> NamesBeginning(const std::string& folder, std::string_view begin) {
   std::vector<std::string> names;
   std::error_code error;
   for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end;
@@ -223,10 +223,10 @@ void MachineReader::ReadLoad(MachineFigures& figures) {
 
 void MachineReader::ReadTemperatures(MachineFigures& figures) {
   const std::string chips = "class/hwmon";
-  for (const auto& chip : NamesIn(mSys + '/' + chips, "hwmon")) {
+  for (const auto& chip : NamesBeginning(mSys + '/' + chips, "hwmon")) {
     const auto folder = chips + '/' + chip;
     if (Line(folder + "/device/power/runtime_status") == "suspended") continue;
-    for (const auto& input : NamesIn(mSys + '/' + folder, "temp")) {
+    for (const auto& input : NamesBeginning(mSys + '/' + folder, "temp")) {
       if (!input.ends_with("_input")) continue;
       const auto sensor = folder + '/' + input.substr(0, input.find('_'));
       const auto thousandths = Number(sensor + "_input");
@@ -238,7 +238,7 @@ void MachineReader::ReadTemperatures(MachineFigures& figures) {
   }
   if (!figures.temperatures.empty()) return;
   const std::string zones = "class/thermal";
-  for (const auto& zone : NamesIn(mSys + '/' + zones, "thermal_zone"))
+  for (const auto& zone : NamesBeginning(mSys + '/' + zones, "thermal_zone"))
     if (const auto thousandths = Number(zones + '/' + zone + "/temp"))
       figures.temperatures.push_back(
           {Line(zones + '/' + zone + "/type"), static_cast<double>(*thousandths) / 1000});
@@ -246,7 +246,7 @@ void MachineReader::ReadTemperatures(MachineFigures& figures) {
 
 void MachineReader::ReadFrequencies(MachineFigures& figures) {
   const std::string folder = "devices/system/cpu";
-  for (const auto& name : NamesIn(mSys + '/' + folder, "cpu")) {
+  for (const auto& name : NamesBeginning(mSys + '/' + folder, "cpu")) {
     const auto number = Parsed<int>(std::string_view(name).substr(3));
     if (!number) continue;
     if (const auto kilohertz = Number(folder + '/' + name + "/cpufreq/scaling_cur_freq"))
