@@ -45,7 +45,7 @@ class Store {
                    Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
                    Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
                    Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>(),
-                   Absent<Screen>(),         Absent<EventBus>()};
+                   Absent<Screen>(),         Absent<EventBus>(),       Absent<CostlyFigures>()};
   MachineInstallation mInstallation;
 };
 
