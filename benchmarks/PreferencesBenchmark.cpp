@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 
+#include "platform/CostlyFigures.h"
 #include "platform/Machine.h"
 #include "platform/linux/PropertyListDomain.h"
 #include "preferences/PreferencesRetrieval.h"
