@@ -68,7 +68,8 @@ QWidget* SplashScreen::window() {
 
 void SplashScreen::awakeFromNib() {
   if (fWindow == nullptr) {
-    fWindow = new MySplashScreenWindow;
+    auto* window = new MySplashScreenWindow;
+    fWindow = window;
     fWindow->setWindowTitle(LocalizedString("about_title"));
     QFile form(QStringLiteral(":/forms/SplashScreen.ui"));
     auto* contents = form.open(QIODevice::ReadOnly) ? QUiLoader().load(&form, fWindow) : nullptr;
@@ -84,7 +85,7 @@ void SplashScreen::awakeFromNib() {
         icon->setPixmap(NamedImage("lurkwell")
                             .pixmap(QSize(kIconSize, kIconSize), fWindow->devicePixelRatioF()));
     }
-    connect(fWindow, &MySplashScreenWindow::clicked, this, &SplashScreen::mouseDown);
+    connect(window, &MySplashScreenWindow::clicked, this, &SplashScreen::mouseDown);
   }
   fWindow->adjustSize();
   if (const auto* screen = QGuiApplication::primaryScreen())

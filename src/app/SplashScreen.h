@@ -44,7 +44,7 @@ class SplashScreen : public QObject {
   void closeSplashScreen();
   void mouseDown();
 
-  QPointer<MySplashScreenWindow> fWindow;
+  QPointer<QWidget> fWindow;
   std::unique_ptr<RunLoopTimer> fTimer;
 
   static std::unique_ptr<SplashScreen> gSplashScreen;

@@ -52,9 +52,10 @@ class Program(Desktop):
         return process.returncode, out, errors
 
     def child(self, *command):
-        child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stdin=subprocess.PIPE)
+        child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stdin=subprocess.PIPE,
+                                 start_new_session=True)
         self.addCleanup(child.wait)
-        self.addCleanup(child.kill)
+        self.addCleanup(os.killpg, child.pid, signal.SIGKILL)
         self.addCleanup(child.stdin.close)
         return child
 

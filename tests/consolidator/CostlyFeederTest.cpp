@@ -89,10 +89,11 @@ TEST_F(CostlyFeederTest, AReadingIsOfTheProcessThatWasMeantAndTellsItsAge) {
             "client updated\n");
   EXPECT_EQ(AgeOfPIDProperty(300, "pid_pss"), 8500);
   // A late reading of a process whose pid another one has by now.
-  auto& late = machine.costlyFigures.late.emplace_back();
+  CostlyReading late;
   late.process = {300, machine.processTable.Find(300)->entry.startStamp};
   late.sources = kFromMemoryMap;
   late.figures.Set(FigureCalled("pid_pss"), 7);
+  machine.costlyFigures.late.push_back(late);
   machine.processTable.Death(300);
   second();
   machine.processTable.Birth(300, "another");
