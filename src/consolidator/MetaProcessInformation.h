@@ -40,8 +40,7 @@ struct PidBlock {
   std::int32_t parentPid = kInvalidPID;
   std::int32_t nice = 0;
   TimeValue startTime;
-  /// By their places in kFigures.
-  std::array<std::int64_t, kFigureCount> figures{};
+  FigureNumbers figures;
   FigureTexts texts;
   /// The counters behind kRates as they were last read; empty until one is needed.
   std::vector<CounterReading> counters;
@@ -58,8 +57,13 @@ struct PidBlock {
   /// Which of the values above are values.
   ValueStates states;
 
-  std::int64_t& operator[](Figure figure) { return figures[static_cast<std::size_t>(figure)]; }
-  std::int64_t operator[](Figure figure) const { return figures[static_cast<std::size_t>(figure)]; }
+  std::int64_t operator[](Figure figure) const { return figures[figure]; }
+  /// True when it was another one.
+  bool Put(Figure figure, std::int64_t number) {
+    if (figures[figure] == number) return false;
+    figures.Set(figure, number);
+    return true;
+  }
 };
 
 /// What the desktop says of an application.

@@ -53,7 +53,7 @@ struct StoreInteger {
       if (std::in_range<std::int32_t>(value))
         return Put(block.*field, static_cast<std::int32_t>(value));
     } else if constexpr (std::is_same_v<Field, Figure>) {
-      return Put(block[field], field == kVirtualSize ? AdjustedVirtualSize(value) : value);
+      return block.Put(field, field == kVirtualSize ? AdjustedVirtualSize(value) : value);
     }
     return std::nullopt;
   }
@@ -75,7 +75,7 @@ struct StoreFromText {
   std::optional<bool> operator()(Figure figure) const {
     if (RowOf(figure).kind == FigureKind::kText) return block.texts.Set(figure, value);
     if (row.type != kPropertyTypeTime) return Number();
-    return Put(block[figure], MicrosecondsOf(ReadTime(value)));
+    return block.Put(figure, MicrosecondsOf(ReadTime(value)));
   }
   std::optional<bool> operator()(std::int32_t PidBlock::*) const { return Number(); }
 
@@ -98,7 +98,7 @@ struct Forget {
   }
   bool operator()(Figure figure) const {
     const bool hadText = RowOf(figure).kind == FigureKind::kText && block.texts.Set(figure, {});
-    return Put(block[figure], std::int64_t{0}) || hadText;
+    return block.Put(figure, 0) || hadText;
   }
   template <typename T>
   bool operator()(T PidBlock::*field) const {

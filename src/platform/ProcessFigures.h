@@ -367,15 +367,63 @@ enum class FigureState : std::uint8_t {
 };
 
 /// The figures of one process as they were last read.
+namespace figure_numbers {
+
+constexpr bool IsUsual(const FigureRow& row) {
+  return row.origin.source == kFromStat;
+}
+inline constexpr auto kUsualCount =
+    static_cast<std::size_t>(std::ranges::count_if(kFigures, IsUsual));
+/// The usual ones first.
+inline constexpr auto kPlaces = [] {
+  std::array<std::size_t, kFigureCount> places{};
+  std::size_t usual = 0;
+  std::size_t others = kUsualCount;
+  for (std::size_t i = 0; i < kFigureCount; ++i)
+    places[i] = IsUsual(kFigures[i]) ? usual++ : others++;
+  return places;
+}();
+
+}  // namespace figure_numbers
+
+/// Numbers by figures, 0 at first. Those of stat lie here; room for the others is made when the
+/// first of them is anything else, since most processes are never asked for them.
+class FigureNumbers {
+  static constexpr auto kUsualCount = figure_numbers::kUsualCount;
+
+ public:
+  std::int64_t operator[](Figure figure) const {
+    const auto place = Placed(figure);
+    if (place < kUsualCount) return mUsual[place];
+    return mOthers.empty() ? 0 : mOthers[place - kUsualCount];
+  }
+  void Set(Figure figure, std::int64_t number) {
+    const auto place = Placed(figure);
+    if (place < kUsualCount) {
+      mUsual[place] = number;
+    } else if (!mOthers.empty() || number != 0) {
+      mOthers.resize(kFigureCount - kUsualCount);
+      mOthers[place - kUsualCount] = number;
+    }
+  }
+
+ private:
+  static constexpr std::size_t Placed(Figure figure) {
+    return figure_numbers::kPlaces[static_cast<std::size_t>(figure)];
+  }
+  std::array<std::int64_t, kUsualCount> mUsual{};
+  std::vector<std::int64_t> mOthers;
+};
+
 class ProcessFigures {
  public:
   FigureState StateOf(Figure figure) const { return mStates[Place(figure)]; }
   /// 0 unless it is known, and for a text.
-  std::int64_t Get(Figure figure) const { return mValues[Place(figure)]; }
+  std::int64_t Get(Figure figure) const { return mValues[figure]; }
   const std::string& GetText(Figure figure) const { return mTexts.Get(figure); }
 
   void Set(Figure figure, std::int64_t value) {
-    mValues[Place(figure)] = value;
+    mValues.Set(figure, value);
     mStates[Place(figure)] = FigureState::kKnown;
   }
   void SetText(Figure figure, std::string_view text) {
@@ -383,7 +431,7 @@ class ProcessFigures {
     mStates[Place(figure)] = FigureState::kKnown;
   }
   void SetMissing(Figure figure, FigureState why) {
-    mValues[Place(figure)] = 0;
+    mValues.Set(figure, 0);
     if (RowOf(figure).kind == FigureKind::kText) mTexts.Set(figure, {});
     mStates[Place(figure)] = why;
   }
@@ -391,7 +439,7 @@ class ProcessFigures {
  private:
   static constexpr std::size_t Place(Figure figure) { return static_cast<std::size_t>(figure); }
 
-  std::array<std::int64_t, kFigureCount> mValues{};
+  FigureNumbers mValues;
   std::array<FigureState, kFigureCount> mStates{};
   FigureTexts mTexts;
 };

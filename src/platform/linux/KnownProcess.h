@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "platform/FigureSources.h"
 #include "platform/FileDescriptor.h"
@@ -33,8 +34,29 @@ struct KnownProcess {
   std::int32_t parentPid = kInvalidPID;
   /// Another process may have the pid by now.
   bool isInDoubt = true;
-  /// By the sources' bits.
-  std::array<Reading, std::bit_width(kAllFigureSources)> readings;
+  /// Of the sources that were ever read; few are for most processes.
+  class Readings {
+   public:
+    const Reading& operator[](FigureSource source) const {
+      static const Reading kNever;
+      const auto place = Placed(source);
+      return place < mReadings.size() ? mReadings[place] : kNever;
+    }
+    Reading& operator[](FigureSource source) {
+      const auto place = Placed(source);
+      if (place >= mReadings.size()) mReadings.resize(place + 1);
+      return mReadings[place];
+    }
+
+   private:
+    /// That of stat is the first.
+    static std::size_t Placed(FigureSource source) {
+      return static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(source)));
+    }
+
+    std::vector<Reading> mReadings;
+  };
+  Readings readings;
   /// Tells one program from the next that the process becomes, as of the last reading of what
   /// seldom changes; 0 before.
   std::uint64_t program = 0;

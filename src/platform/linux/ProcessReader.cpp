@@ -28,11 +28,6 @@ constexpr std::size_t kArgumentsField = 48;
 constexpr FigureSources kWithoutFiles =
     kFromUnit | kFromScheduler | kFromAssignment | kFromClock | kFromCommandLine;
 
-template <typename Known>
-auto& ReadingOf(Known& known, FigureSource source) {
-  return known.readings[static_cast<std::size_t>(std::countr_zero(static_cast<unsigned>(source)))];
-}
-
 RunState StateOf(char state) {
   switch (state) {
     case 'R':
@@ -122,7 +117,7 @@ FigureSources ProcessReader::StaleOf(const KnownProcess& known, FigureSources so
                                      std::optional<std::uint64_t> runTime) const {
   FigureSources stale = 0;
   ForEachSource(sources & ~(kWithoutFiles & ~kFromCommandLine), [&](FigureSource source) {
-    const auto& reading = ReadingOf(known, source);
+    const auto& reading = std::as_const(known).readings[source];
     const bool hasNotRun = runTime && reading.runTime == runTime;
     const bool isKept = (source & kSeldomChanging) == 0
                             ? hasNotRun && mNow < reading.due
@@ -204,14 +199,14 @@ void ProcessReader::ReadFiles(const FileDescriptor& folder, ProcessTableEntry& e
   });
   if ((sources & kFromCommandLine) != 0 && mNames.AskForCommandLine(entry.pid, entry.startStamp)) {
     mUnlined.push_back(entry.pid);
-    ReadingOf(known, kFromCommandLine).runTime = runTime;
+    known.readings[kFromCommandLine].runTime = runTime;
   }
 }
 
 void ProcessReader::TakeCommandLine(ProcessTableEntry& entry, KnownProcess& known,
                                     std::string_view text) {
   known.figures.SetText(FigureCalled("pid_command_line"), text);
-  Note(entry, known, kFromCommandLine, ReadingOf(known, kFromCommandLine).runTime);
+  Note(entry, known, kFromCommandLine, known.readings[kFromCommandLine].runTime);
   entry.current |= kFromCommandLine;
 }
 
@@ -236,7 +231,7 @@ std::optional<FileDescriptor> ProcessReader::OpenFolderFor(std::int32_t pid,
 
 void ProcessReader::Note(ProcessTableEntry& entry, KnownProcess& known, FigureSource source,
                          std::optional<std::uint64_t> runTime) {
-  auto& reading = ReadingOf(known, source);
+  auto& reading = known.readings[source];
   const bool isFirst = (entry.known & source) == 0;
   // What is on a processor now is not counted up to now.
   reading.runTime = entry.state == RunState::kRunning ? std::nullopt : runTime;
