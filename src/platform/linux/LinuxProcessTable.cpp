@@ -158,6 +158,8 @@ bool LinuxProcessTable::LookAtAll(const Wanted& wanted) {
   for (std::size_t i = 0; i < count; ++i) {
     auto& entry = mPass.entries[i];
     auto& known = mPass.known[i];
+    // Its first thread has ended; the last one gives the children away, which is seen nowhere else.
+    if (entry.state == RunState::kZombie) mReader.LostParents().push_back(entry.pid);
     const auto sources = wanted(entry.pid);
     if (sources == 0 && !known.isInDoubt) continue;
     const auto outcome = mReader.Look(entry, known, sources);
