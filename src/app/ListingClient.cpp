@@ -4,6 +4,7 @@
 #include <compare>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "consolidator/ProcessQueries.h"
@@ -94,8 +95,8 @@ std::vector<ListingClient::Candidate> ListingClient::Candidates() const {
 }
 
 std::vector<ListingClient::Candidate> ListingClient::AsTree(std::vector<Candidate> sorted) const {
-  std::unordered_map<std::int32_t, bool> isListed;
-  for (const auto& candidate : sorted) isListed[candidate.pid] = true;
+  std::unordered_set<std::int32_t> listed;
+  for (const auto& candidate : sorted) listed.insert(candidate.pid);
   const auto parentOf = [](std::int32_t pid) -> std::int32_t {
     const auto value = GetPIDPropertyTypedValue(pid, kParent);
     const auto* parent = std::get_if<std::int64_t>(&value);
@@ -106,9 +107,9 @@ std::vector<ListingClient::Candidate> ListingClient::AsTree(std::vector<Candidat
   for (std::size_t i = 0; i < sorted.size(); ++i) {
     // The nearest ancestor that is listed; a table that contradicts itself may have no end.
     std::int32_t parent = parentOf(sorted[i].pid);
-    for (int steps = 0; parent > 0 && !isListed.contains(parent) && steps < 100; ++steps)
+    for (int steps = 0; parent > 0 && !listed.contains(parent) && steps < 100; ++steps)
       parent = parentOf(parent);
-    if (isListed.contains(parent) && parent != sorted[i].pid) {
+    if (listed.contains(parent) && parent != sorted[i].pid) {
       children[parent].push_back(i);
     } else {
       open.push_back(i);

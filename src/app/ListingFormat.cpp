@@ -142,8 +142,9 @@ class TextFormat final : public ListingFormat {
   bool IsText(std::size_t column) const { return mColumns[column].type == kPropertyTypeString; }
 
   static std::string Mark(const TypedValue& value) {
-    const std::string_view reason = ReasonOf(value);
-    return reason.empty() ? "" : reason == "not known" ? "?" : reason == "not allowed" ? "x" : "-";
+    const auto* why = std::get_if<Missing>(&value);
+    if (why == nullptr || *why == Missing::kNone) return "";
+    return *why == Missing::kNotYetKnown ? "?" : *why == Missing::kNotAllowed ? "x" : "-";
   }
 
   std::vector<std::string> Texts(const PrintedProcess& process) const {

@@ -198,7 +198,7 @@ TEST_F(WatchdogTest, ManyRecordsDoNotHoldUpTheStart) {
   EXPECT_EQ(windows.CountOpenWindows(), MonitorWindowKinds::kMostOpenWindows);
   EXPECT_EQ(windows.CountRoom(), 0);
   // Each record is looked at some times, and not for each of the processes.
-  EXPECT_LT(machine.preferenceDomain.LookUpCount() - before, 60 * kRecords);
+  EXPECT_LT(machine.preferenceDomain.LookUpCount() - before, 40 * kRecords);
 }
 
 }  // namespace

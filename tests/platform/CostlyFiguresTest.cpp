@@ -385,7 +385,7 @@ TEST(CostlyFigures, TakeNoMoreTimeThanTheyAreAllowed) {
   Make(tree, 3);
   LinuxCostlyFigures figures(tree.Path());
   constexpr FigureSources kCheap = kFromMemoryMap | kFromDescriptorCount;
-  std::vector<CostlyWish> wishes(200'000, {{2, 77}, kCheap, false});
+  std::vector<CostlyWish> wishes(50'000, {{2, 77}, kCheap, false});
   // What is in sight goes before.
   wishes.push_back({{3, 77}, kCheap, true});
   const auto begun = steady_clock::now();
@@ -398,9 +398,8 @@ TEST(CostlyFigures, TakeNoMoreTimeThanTheyAreAllowed) {
   ASSERT_GT(readings.size(), 100u);
   EXPECT_LT(readings.size(), wishes.size());
   EXPECT_EQ(readings.front().process.pid, 3);
-  // The beginning, 50 us in each millisecond, and what a reading may take too long; without a limit
-  // it would be the whole second.
-  EXPECT_LE(taken, 100'000 + 50 * passed.count() + 250'000);
+  // The beginning, 50 us in each millisecond, and what a reading may take too long.
+  EXPECT_LE(taken, 100'000 + 50 * passed.count() + 60'000);
   // And nothing runs while nothing is asked.
   figures.Ask({});
   std::this_thread::sleep_for(std::chrono::milliseconds(50));
