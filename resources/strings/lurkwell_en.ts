@@ -4715,5 +4715,21 @@ Free: %5</translation>
         <source></source>
         <translation>Place and size of the animated view's window.</translation>
     </message>
+    <message id="graph_missing">
+        <source></source>
+        <translation>not known</translation>
+    </message>
+    <message id="graph_now">
+        <source></source>
+        <translation>now</translation>
+    </message>
+    <message id="graph_seconds_ago">
+        <source></source>
+        <translation>−%1 s</translation>
+    </message>
+    <message id="graph_minutes_ago">
+        <source></source>
+        <translation>−%1 min</translation>
+    </message>
 </context>
 </TS>
