@@ -95,7 +95,8 @@ class RealMachine {
                     mRest.hotKeys,
                     mRest.screen,
                     mRest.eventBus,
-                    mRest.costlyFigures};
+                    mRest.costlyFigures,
+                    mRest.processDetails};
   MachineInstallation mInstallation{mServices};
 };
 

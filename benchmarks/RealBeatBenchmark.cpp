@@ -75,11 +75,11 @@ class RealCycle {
   const std::shared_ptr<TimedFiles> files = std::make_shared<TimedFiles>();
   LinuxProcessTable table{files};
   Machine real{
-      machine.clock,          machine.runLoop,      machine.preferenceDomain, table,
-      machine.processManager, machine.iconServices, machine.hostStatistics,   machine.tools,
-      machine.signals,        machine.namedPipes,   machine.authorization,    machine.bundle,
-      machine.alerts,         machine.logFiles,     machine.hotKeys,          machine.screen,
-      machine.eventBus,       machine.costlyFigures};
+      machine.clock,          machine.runLoop,       machine.preferenceDomain, table,
+      machine.processManager, machine.iconServices,  machine.hostStatistics,   machine.tools,
+      machine.signals,        machine.namedPipes,    machine.authorization,    machine.bundle,
+      machine.alerts,         machine.logFiles,      machine.hotKeys,          machine.screen,
+      machine.eventBus,       machine.costlyFigures, machine.processDetails};
   MachineInstallation installation{real};
 };
 

@@ -95,12 +95,14 @@ class DesktopMachine {
   DesktopScreen screen{DesktopSettings::FromEnvironment()};
   DBusEventBus eventBus;
   LinuxCostlyFigures costlyFigures;
+  LinuxProcessDetails processDetails;
   ClassicProcessManager applications{processManager, eventBus, eventBus.Connection()};
 
-  Machine services{
-      clock,          runLoop,  preferenceDomain, processTable, applications,  iconServices,
-      hostStatistics, tools,    signals,          namedPipes,   authorization, bundle,
-      alerts,         logFiles, hotKeys,          screen,       eventBus,      costlyFigures};
+  Machine services{clock,        runLoop,       preferenceDomain, processTable,
+                   applications, iconServices,  hostStatistics,   tools,
+                   signals,      namedPipes,    authorization,    bundle,
+                   alerts,       logFiles,      hotKeys,          screen,
+                   eventBus,     costlyFigures, processDetails};
 };
 
 int RunInTerminal(const CommandLine& commandLine) {

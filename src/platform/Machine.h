@@ -14,6 +14,7 @@ class IconServices;
 class LogFiles;
 class NamedPipes;
 class PreferenceDomain;
+class ProcessDetails;
 class ProcessManager;
 class ProcessTable;
 class RunLoop;
@@ -42,6 +43,7 @@ struct Machine {
   Screen& screen;
   EventBus& eventBus;
   CostlyFigures& costlyFigures;
+  ProcessDetails& processDetails;
 };
 
 /// The installed machine. Any thread. It is a programming error to ask before one is installed.

@@ -39,7 +39,8 @@ Machine MachineOf(SimulatedMachine& simulated, Own&... own) {
           ServiceOf(its.hotKeys, own...),
           ServiceOf(its.screen, own...),
           ServiceOf(its.eventBus, own...),
-          ServiceOf(its.costlyFigures, own...)};
+          ServiceOf(its.costlyFigures, own...),
+          ServiceOf(its.processDetails, own...)};
 }
 
 }  // namespace lurkwell

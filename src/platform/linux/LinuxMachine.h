@@ -7,6 +7,7 @@
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxLogFiles.h"
 #include "platform/linux/LinuxNamedPipes.h"
+#include "platform/linux/LinuxProcessDetails.h"
 #include "platform/linux/LinuxProcessTable.h"
 #include "platform/linux/LinuxSignals.h"
 #include "platform/linux/LinuxTools.h"
@@ -40,11 +41,13 @@ class LinuxMachine {
   NoScreen screen;
   NoEventBus eventBus;
   LinuxCostlyFigures costlyFigures;
+  LinuxProcessDetails processDetails;
 
-  Machine services{
-      clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
-      hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
-      alerts,         logFiles, hotKeys,          screen,       eventBus,       costlyFigures};
+  Machine services{clock,          runLoop,       preferenceDomain, processTable,
+                   processManager, iconServices,  hostStatistics,   tools,
+                   signals,        namedPipes,    authorization,    bundle,
+                   alerts,         logFiles,      hotKeys,          screen,
+                   eventBus,       costlyFigures, processDetails};
 };
 
 }  // namespace lurkwell

@@ -50,8 +50,26 @@ std::optional<std::string> ReadAll(const FileDescriptor& root, const std::string
 
 }  // namespace
 
-UnitFiles::UnitFiles(const std::string& root)
-    : mRoot(root.empty() ? FindHierarchy() : OpenHierarchy(root)) {}
+FileDescriptor OpenUnifiedHierarchy(const std::string& root) {
+  return root.empty() ? FindHierarchy() : OpenHierarchy(root);
+}
+
+std::optional<std::string_view> UnifiedGroupOf(std::string_view text) {
+  // The unified hierarchy's line; the others have numbers.
+  constexpr std::string_view kBegin = "0::/";
+  while (!text.empty()) {
+    const auto line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (!line.starts_with(kBegin)) continue;
+    const auto path = line.substr(kBegin.size() - 1);
+    // Beside or above our own namespace's root, and so nowhere in the tree that we see.
+    if (path.starts_with("/..")) return std::nullopt;
+    return path;
+  }
+  return std::nullopt;
+}
+
+UnitFiles::UnitFiles(const std::string& root) : mRoot(OpenUnifiedHierarchy(root)) {}
 
 void UnitFiles::BeginPass() {
   ++mPass;
@@ -59,21 +77,12 @@ void UnitFiles::BeginPass() {
 }
 
 std::shared_ptr<ControlGroup> UnitFiles::Find(std::string_view text) {
-  // The unified hierarchy's line; the others have numbers.
-  constexpr std::string_view kBegin = "0::/";
-  while (!text.empty()) {
-    const auto line = text.substr(0, text.find('\n'));
-    text.remove_prefix(std::min(line.size() + 1, text.size()));
-    if (!line.starts_with(kBegin)) continue;
-    const std::string path(line.substr(kBegin.size() - 1));
-    // Beside or above our own namespace's root, and so nowhere in the tree that we see.
-    if (path.starts_with("/..")) return nullptr;
-    auto& known = mGroups[path];
-    auto group = known.lock();
-    if (group == nullptr) known = group = std::make_shared<ControlGroup>(path);
-    return group;
-  }
-  return nullptr;
+  const auto path = UnifiedGroupOf(text);
+  if (!path) return nullptr;
+  auto& known = mGroups[std::string(*path)];
+  auto group = known.lock();
+  if (group == nullptr) known = group = std::make_shared<ControlGroup>(std::string(*path));
+  return group;
 }
 
 std::optional<std::uint64_t> UnitFiles::NumberOf(const ControlGroup& group) const {

@@ -50,6 +50,14 @@ class UnitFiles {
   std::unordered_map<std::string, std::weak_ptr<ControlGroup>> mGroups;
 };
 
+/// The folder of the unified hierarchy, or of one of the same shape at `root`; none where there is
+/// no such hierarchy. Any thread.
+FileDescriptor OpenUnifiedHierarchy(const std::string& root);
+
+/// The path of the group in the unified hierarchy by the text of a cgroup file, with a slash in
+/// front; nothing when it is in none that we see. Pure.
+std::optional<std::string_view> UnifiedGroupOf(std::string_view text);
+
 /// The sum of NAME=NUMBER over all lines, one of which is a device's.
 std::int64_t SumOfNamed(std::string_view text, std::string_view name);
 

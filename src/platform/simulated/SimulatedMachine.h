@@ -14,6 +14,7 @@
 #include "platform/simulated/SimulatedLogFiles.h"
 #include "platform/simulated/SimulatedNamedPipes.h"
 #include "platform/simulated/SimulatedPreferenceDomain.h"
+#include "platform/simulated/SimulatedProcessDetails.h"
 #include "platform/simulated/SimulatedProcessManager.h"
 #include "platform/simulated/SimulatedProcessTable.h"
 #include "platform/simulated/SimulatedRunLoop.h"
@@ -46,12 +47,14 @@ class SimulatedMachine {
   SimulatedScreen screen{log};
   SimulatedEventBus eventBus{log};
   SimulatedCostlyFigures costlyFigures{processTable, log};
+  SimulatedProcessDetails processDetails{processTable, log};
   SimulatedHelper helper{processTable, log};
 
-  Machine services{
-      clock,          runLoop,  preferenceDomain, processTable, processManager, iconServices,
-      hostStatistics, tools,    signals,          namedPipes,   authorization,  bundle,
-      alerts,         logFiles, hotKeys,          screen,       eventBus,       costlyFigures};
+  Machine services{clock,          runLoop,       preferenceDomain, processTable,
+                   processManager, iconServices,  hostStatistics,   tools,
+                   signals,        namedPipes,    authorization,    bundle,
+                   alerts,         logFiles,      hotKeys,          screen,
+                   eventBus,       costlyFigures, processDetails};
 };
 
 }  // namespace lurkwell
