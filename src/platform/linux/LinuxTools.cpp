@@ -9,8 +9,8 @@
 #include <string>
 
 #include "platform/FileDescriptor.h"
-#include "platform/linux/BackgroundStart.h"
 #include "platform/linux/ProcpsColumns.h"
+#include "platform/linux/ToolProcess.h"
 
 namespace lurkwell {
 

@@ -1,8 +1,6 @@
 #include "platform/linux/PolkitAuthorization.h"
 
-#include <fcntl.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <sys/wait.h>
@@ -103,34 +101,6 @@ std::pair<Remedy, std::string> WhatStatusMeans(int status, const std::string& fo
   }
 }
 
-/// A working folder, fresh signals, and no descriptors but the standard three.
-class ConsentSpawnSettings {
- public:
-  explicit ConsentSpawnSettings(const std::string& folder, bool isSilent) {
-    ::posix_spawn_file_actions_init(&actions);
-    if (isSilent)
-      ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    ::posix_spawn_file_actions_addchdir_np(&actions, folder.c_str());
-    ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
-    ::posix_spawnattr_init(&attributes);
-    sigset_t signals;
-    ::sigemptyset(&signals);
-    ::posix_spawnattr_setsigmask(&attributes, &signals);
-    ::sigfillset(&signals);
-    ::posix_spawnattr_setsigdefault(&attributes, &signals);
-    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-  }
-  ~ConsentSpawnSettings() {
-    ::posix_spawnattr_destroy(&attributes);
-    ::posix_spawn_file_actions_destroy(&actions);
-  }
-  ConsentSpawnSettings(const ConsentSpawnSettings&) = delete;
-  ConsentSpawnSettings& operator=(const ConsentSpawnSettings&) = delete;
-
-  posix_spawn_file_actions_t actions;
-  posix_spawnattr_t attributes;
-};
-
 class Reference final : public AuthorizationReference {};
 
 }  // namespace
@@ -211,12 +181,11 @@ bool PolkitAuthorization::MayStart(const std::string& program, const std::string
 
 bool PolkitAuthorization::Start(const std::string& folder,
                                 const std::vector<std::string>& arguments, Says says) {
-  const ConsentSpawnSettings settings(folder, says == Says::kNothing);
-  const auto vector = ArgumentVector(arguments);
+  SpawnSettings settings;
+  if (says == Says::kNothing) settings.UseNullDevice(STDERR_FILENO);
+  settings.SetFolder(folder);
   Child child{-1, {}};
-  const int error = ::posix_spawn(&child.pid, vector.front(), &settings.actions,
-                                  &settings.attributes, vector.data(), FixedEnvironment());
-  if (error != 0)
+  if (const int error = settings.Start(arguments, child.pid); error != 0)
     return Fail(Remedy::kMachine,
                 "cannot start " + arguments.front() + ": " + std::string(std::strerror(error)));
   child.handle = OpenProcessHandle(child.pid);

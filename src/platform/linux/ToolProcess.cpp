@@ -5,6 +5,7 @@
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -20,42 +21,24 @@ constexpr std::size_t kMostOutput = 67'108'864;
 constexpr std::size_t kPiece = 65536;
 // As much as a busy program may have us read at a time.
 constexpr int kMostPieces = 16;
-constexpr const char* kNullDevice = "/dev/null";
 
-/// What becomes of a program's descriptors and signals.
-class SpawnSettings {
- public:
-  explicit SpawnSettings(int output) {
-    ::posix_spawn_file_actions_init(&actions);
-    // The pipe first: its descriptor may be one of the two that are opened over.
-    ::posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
-    ::posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, kNullDevice, O_RDONLY, 0);
-    ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, kNullDevice, O_WRONLY, 0);
-    ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+/// The environment of every program that is started: a search path and a language, nothing of ours.
+char* const* FixedEnvironment() {
+  static char path[] = "PATH=/usr/sbin:/usr/bin:/sbin:/bin";
+  static char language[] = "LC_ALL=C.UTF-8";
+  static char* const environment[] = {path, language, nullptr};
+  return environment;
+}
 
-    ::posix_spawnattr_init(&attributes);
-    sigset_t none;
-    ::sigemptyset(&none);
-    ::posix_spawnattr_setsigmask(&attributes, &none);
-    sigset_t all;
-    ::sigfillset(&all);
-    ::posix_spawnattr_setsigdefault(&attributes, &all);
-    // In a group of its own, so that an interrupt from the terminal ends the program, not its
-    // tools.
-    ::posix_spawnattr_setpgroup(&attributes, 0);
-    ::posix_spawnattr_setflags(
-        &attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
-  }
-  ~SpawnSettings() {
-    ::posix_spawnattr_destroy(&attributes);
-    ::posix_spawn_file_actions_destroy(&actions);
-  }
-  SpawnSettings(const SpawnSettings&) = delete;
-  SpawnSettings& operator=(const SpawnSettings&) = delete;
-
-  posix_spawn_file_actions_t actions;
-  posix_spawnattr_t attributes;
-};
+/// The vector that exec wants; valid as long as the arguments are.
+std::vector<char*> ArgumentVector(const std::vector<std::string>& arguments) {
+  std::vector<char*> pointers;
+  pointers.reserve(arguments.size() + 1);
+  // Its signature is older than const; it changes nothing.
+  for (const auto& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
+  pointers.push_back(nullptr);
+  return pointers;
+}
 
 /// Waits for one of them to have news; false when the deadline has come.
 bool WaitForNews(std::vector<pollfd>& waits, ToolProcess::Deadline deadline) {
@@ -69,20 +52,46 @@ bool WaitForNews(std::vector<pollfd>& waits, ToolProcess::Deadline deadline) {
 
 }  // namespace
 
-char* const* FixedEnvironment() {
-  static char path[] = "PATH=/usr/sbin:/usr/bin:/sbin:/bin";
-  static char language[] = "LC_ALL=C.UTF-8";
-  static char* const environment[] = {path, language, nullptr};
-  return environment;
+SpawnSettings::SpawnSettings() {
+  ::posix_spawn_file_actions_init(&mActions);
+  ::posix_spawnattr_init(&mAttributes);
+  sigset_t signals;
+  ::sigemptyset(&signals);
+  ::posix_spawnattr_setsigmask(&mAttributes, &signals);
+  ::sigfillset(&signals);
+  ::posix_spawnattr_setsigdefault(&mAttributes, &signals);
 }
 
-std::vector<char*> ArgumentVector(const std::vector<std::string>& arguments) {
-  std::vector<char*> pointers;
-  pointers.reserve(arguments.size() + 1);
-  // exec's signature is older than const; it changes nothing.
-  for (const auto& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
-  pointers.push_back(nullptr);
-  return pointers;
+SpawnSettings::~SpawnSettings() {
+  ::posix_spawnattr_destroy(&mAttributes);
+  ::posix_spawn_file_actions_destroy(&mActions);
+}
+
+void SpawnSettings::SetOutput(int descriptor) {
+  ::posix_spawn_file_actions_adddup2(&mActions, descriptor, STDOUT_FILENO);
+}
+
+void SpawnSettings::UseNullDevice(int standard) {
+  ::posix_spawn_file_actions_addopen(&mActions, standard, "/dev/null",
+                                     standard == STDIN_FILENO ? O_RDONLY : O_WRONLY, 0);
+}
+
+void SpawnSettings::SetFolder(const std::string& folder) {
+  ::posix_spawn_file_actions_addchdir_np(&mActions, folder.c_str());
+}
+
+void SpawnSettings::SetOwnGroup() {
+  ::posix_spawnattr_setpgroup(&mAttributes, 0);
+  mFlags |= POSIX_SPAWN_SETPGROUP;
+}
+
+int SpawnSettings::Start(const std::vector<std::string>& arguments, pid_t& pid) {
+  // The last of the actions, which the others need descriptors for.
+  ::posix_spawn_file_actions_addclosefrom_np(&mActions, STDERR_FILENO + 1);
+  ::posix_spawnattr_setflags(&mAttributes, mFlags);
+  const auto vector = ArgumentVector(arguments);
+  return ::posix_spawn(&pid, vector.front(), &mActions, &mAttributes, vector.data(),
+                       FixedEnvironment());
 }
 
 ToolProcess::ToolProcess(const std::vector<std::string>& arguments) {
@@ -91,11 +100,15 @@ ToolProcess::ToolProcess(const std::vector<std::string>& arguments) {
   mPipe = FileDescriptor(ends[0]);
   const FileDescriptor output(ends[1]);
   ::fcntl(mPipe.Get(), F_SETFL, O_NONBLOCK);
-  const SpawnSettings settings(output.Get());
-  const auto vector = ArgumentVector(arguments);
+  SpawnSettings settings;
+  // The pipe first: its descriptor may be one of the two that are opened over.
+  settings.SetOutput(output.Get());
+  settings.UseNullDevice(STDIN_FILENO);
+  settings.UseNullDevice(STDERR_FILENO);
+  // An interrupt from the terminal ends the program, not its tools.
+  settings.SetOwnGroup();
   pid_t pid = -1;
-  if (::posix_spawn(&pid, vector[0], &settings.actions, &settings.attributes, vector.data(),
-                    FixedEnvironment()) != 0) {
+  if (settings.Start(arguments, pid) != 0) {
     mPipe.Close();
     return;
   }
@@ -173,6 +186,83 @@ void ServeUntil(std::span<ToolProcess* const> processes, ToolProcess::Deadline d
       if (waits[i].revents != 0) waiting[i]->Serve();
     }
   }
+}
+
+namespace {
+
+// The descriptor after the standard three.
+constexpr int kReport = 3;
+constexpr int kLongestStartInMilliseconds = 2000;
+
+// Between fork and exec only what may be called in a signal handler: other threads may have held
+// any lock when the process was copied.
+
+void Say(int report, int error) {
+  // If nobody can be told, there is nobody to tell that to either.
+  [[maybe_unused]] const auto written = ::write(report, &error, sizeof error);
+}
+
+void ResetSignals() {
+  struct sigaction standard {};
+  standard.sa_handler = SIG_DFL;
+  for (int number = 1; number < NSIG; ++number) ::sigaction(number, &standard, nullptr);
+  sigset_t none;
+  ::sigemptyset(&none);
+  ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+/// Runs the program, or says over `report` why not. Never returns.
+[[noreturn]] void Become(char* const* arguments, char* const* environment, int report) {
+  ResetSignals();
+  // All but the standard three and the report, which exec closes.
+  if (report != kReport) ::dup3(report, kReport, O_CLOEXEC);
+  ::closefrom(kReport + 1);
+  ::execve(arguments[0], arguments, environment);
+  Say(kReport, errno);
+  ::_exit(127);
+}
+
+/// The child only puts the program into a session of its own and ends.
+[[noreturn]] void Launch(char* const* arguments, char* const* environment, int report) {
+  ::setsid();
+  const pid_t grandchild = ::_Fork();
+  if (grandchild == 0) Become(arguments, environment, report);
+  if (grandchild < 0) Say(report, errno);
+  ::_exit(0);
+}
+
+/// The end of the pipe without a word means that exec has closed it.
+bool HasStarted(int report) {
+  pollfd wait{report, POLLIN, 0};
+  if (::poll(&wait, 1, kLongestStartInMilliseconds) <= 0) return true;
+  int error = 0;
+  return ::read(report, &error, sizeof error) == 0;
+}
+
+}  // namespace
+
+bool StartDetached(const std::vector<std::string>& arguments) {
+  if (arguments.empty() || !arguments.front().starts_with('/')) return false;
+  std::array<int, 2> ends{-1, -1};
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return false;
+  const FileDescriptor reading(ends[0]);
+  FileDescriptor writing(ends[1]);
+  // Never one of the standard three, should ours be closed.
+  if (writing.Get() < kReport) {
+    writing = FileDescriptor(::fcntl(writing.Get(), F_DUPFD_CLOEXEC, kReport));
+    if (!writing.IsOpen()) return false;
+  }
+  const auto vector = ArgumentVector(arguments);
+  char* const* environment = FixedEnvironment();
+
+  const pid_t child = ::_Fork();
+  if (child == 0) Launch(vector.data(), environment, writing.Get());
+  if (child < 0) return false;
+  writing.Close();
+  // The child does nothing that could wait.
+  while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+  }
+  return HasStarted(reading.Get());
 }
 
 }  // namespace lurkwell

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <spawn.h>
 #include <sys/types.h>
 
 #include <chrono>
@@ -13,12 +14,32 @@
 
 namespace lurkwell {
 
-/// The environment of every program that is started: a search path and a language, nothing of ours.
-/// Ends in a null pointer.
-char* const* FixedEnvironment();
+/// How a program is started: with signals as a fresh program has them, an environment that holds a
+/// search path and a language, and no descriptors of ours but the standard three. Main thread only.
+class SpawnSettings {
+ public:
+  SpawnSettings();
+  ~SpawnSettings();
+  SpawnSettings(const SpawnSettings&) = delete;
+  SpawnSettings& operator=(const SpawnSettings&) = delete;
 
-/// The arguments as the null-terminated vector that exec wants; valid as long as they are.
-std::vector<char*> ArgumentVector(const std::vector<std::string>& arguments);
+  /// What was set first is done first. Its standard output; one of the standard three at the null
+  /// device; its working folder.
+  void SetOutput(int descriptor);
+  void UseNullDevice(int standard);
+  void SetFolder(const std::string& folder);
+
+  /// In a process group of its own, which the terminal does not interrupt.
+  void SetOwnGroup();
+
+  /// Starts it, once; `arguments` starts with the program's path. 0, or the number of the error.
+  int Start(const std::vector<std::string>& arguments, pid_t& pid);
+
+ private:
+  posix_spawn_file_actions_t mActions;
+  posix_spawnattr_t mAttributes;
+  short mFlags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
+};
 
 /// One running program whose standard output is collected. Its input and its errors are the null
 /// device, it has none of our other descriptors, and its signals are as a fresh program's. Main
@@ -65,5 +86,11 @@ class ToolProcess {
 
 /// Serves all of them until they have ended or the deadline has come.
 void ServeUntil(std::span<ToolProcess* const> processes, ToolProcess::Deadline deadline);
+
+/// Starts a program that is no child of ours: a session of its own, the same environment,
+/// fresh signals, the standard three descriptors and no other. `arguments` starts with the
+/// program's absolute path. False when it could not be started; a start that takes longer than two
+/// seconds counts as one. Any thread.
+bool StartDetached(const std::vector<std::string>& arguments);
 
 }  // namespace lurkwell
