@@ -35,16 +35,6 @@ TEST(Scopes, NamesTellTheDesktopEntry) {
   }
 }
 
-TEST(Scopes, AStatFileIsReadFromItsLastBracket) {
-  EXPECT_EQ(StartStampOfStat("5 (a) 9) S 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 99 1"), 99U);
-  EXPECT_EQ(StartStampOfStat("5 (a) S 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 99"), 99U);
-  for (const char* broken :
-       {"", ")", "5 (a) S", "5 a S 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 8",
-        "5 (a) S 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 -9 1"}) {
-    EXPECT_FALSE(StartStampOfStat(broken)) << broken;
-  }
-}
-
 std::vector<std::int32_t> Walk(ProcessManager& manager) {
   std::vector<std::int32_t> pids;
   ProcessSerialNumber psn;

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "platform/ControlGroupPath.h"
+#include "platform/ProcStat.h"
 #include "platform/ProcessFigures.h"
 #include "platform/StatText.h"
-#include "platform/linux/ProcStat.h"
 #include "platform/linux/UnitFiles.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -2,9 +2,9 @@
 
 #include <tuple>
 
+#include "platform/ProcStat.h"
 #include "platform/StatText.h"
 #include "platform/linux/CommandName.h"
-#include "platform/linux/ProcStat.h"
 
 namespace lurkwell {
 namespace {

@@ -12,6 +12,8 @@
 #include <climits>
 #include <memory>
 
+#include "platform/ProcStat.h"
+
 namespace lurkwell {
 namespace {
 
@@ -41,19 +43,6 @@ std::optional<std::string> ReadStart(const std::string& path) {
 }
 
 }  // namespace
-
-std::optional<std::uint64_t> StartStampOfStat(std::string_view text) {
-  constexpr int kFieldsBefore = 19;
-  auto place = text.rfind(')');
-  if (place == std::string_view::npos) return {};
-  ++place;
-  for (int field = 0; field < kFieldsBefore; ++field) {
-    place = text.find(' ', place + 1);
-    if (place == std::string_view::npos) return {};
-  }
-  const auto end = text.find(' ', place + 1);
-  return WholeNumber<std::uint64_t>(text.substr(place + 1, end - place - 1));
-}
 
 std::optional<std::string> ProcFolder::Read(std::int32_t pid, const char* file) const {
   return ReadStart(mRoot + '/' + std::to_string(pid) + '/' + file);
@@ -87,17 +76,18 @@ std::optional<std::int32_t> ProcFolder::LastPid() const {
 }
 
 std::optional<ProcessIdentity> ProcFolder::Identify(std::int32_t pid) const {
-  const auto text = Read(pid, "stat");
-  const auto start = StartStampOfStat(text.value_or(""));
-  if (!start) return {};
-  return ProcessIdentity{pid, *start};
+  const auto text = Read(pid, "stat").value_or("");
+  const auto stat = ParseProcStat(text);
+  if (!stat) return {};
+  return ProcessIdentity{pid, stat->startStamp};
 }
 
 bool ProcFolder::IsThere(const ProcessIdentity& process) const {
   errno = 0;
   const auto text = Read(process.pid, "stat");
   if (!text) return errno != ENOENT && errno != ESRCH && errno != ENOTDIR;
-  return StartStampOfStat(*text) == process.startStamp;
+  const auto stat = ParseProcStat(*text);
+  return stat && stat->startStamp == process.startStamp;
 }
 
 FileDescriptor ProcFolder::Follow(const ProcessIdentity& process) const {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/FileDescriptor.h"
@@ -56,9 +56,5 @@ constexpr ProcessSerialNumber SerialNumberOf(const ProcessIdentity& process) {
   if (process.pid == kInvalidPID) return {};
   return {static_cast<std::uint32_t>(process.startStamp), static_cast<std::uint32_t>(process.pid)};
 }
-
-/// The start in clock ticks from the text of a stat file. The name may hold anything, so fields
-/// count from the last closing bracket. Nothing when the text is not one.
-std::optional<std::uint64_t> StartStampOfStat(std::string_view text);
 
 }  // namespace lurkwell

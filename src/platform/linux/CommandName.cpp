@@ -4,8 +4,8 @@
 #include <array>
 #include <span>
 
+#include "platform/ProcStat.h"
 #include "platform/linux/ProcFiles.h"
-#include "platform/linux/ProcStat.h"
 
 namespace lurkwell {
 namespace {

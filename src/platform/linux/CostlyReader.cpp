@@ -10,7 +10,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/linux/ProcStat.h"
+#include "platform/ProcStat.h"
 
 namespace lurkwell {
 namespace {

@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "platform/FileDescriptor.h"
+#include "platform/ProcStat.h"
 #include "platform/ProcessFigures.h"
 #include "platform/linux/KnownProcess.h"
 #include "platform/linux/ProcFiles.h"
-#include "platform/linux/ProcStat.h"
 #include "platform/linux/UnitFiles.h"
 #include "platform/linux/UserNames.h"
 

@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "platform/Diagnostics.h"
+#include "platform/ProcStat.h"
 #include "platform/linux/ParentClosure.h"
-#include "platform/linux/ProcStat.h"
 
 namespace lurkwell {
 namespace {

@@ -13,7 +13,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "platform/linux/ProcStat.h"
+#include "platform/ProcStat.h"
 
 namespace lurkwell {
 namespace {

@@ -15,8 +15,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/ProcStat.h"
 #include "platform/linux/CommandName.h"
-#include "platform/linux/ProcStat.h"
 #include "platform/linux/QuietThread.h"
 #include "platform/linux/UserNames.h"
 

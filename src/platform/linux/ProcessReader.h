@@ -11,13 +11,13 @@
 #include <vector>
 
 #include "platform/FileDescriptor.h"
+#include "platform/ProcStat.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessTable.h"
 #include "platform/linux/FigureFiles.h"
 #include "platform/linux/KnownProcess.h"
 #include "platform/linux/NameReader.h"
 #include "platform/linux/ProcFiles.h"
-#include "platform/linux/ProcStat.h"
 
 namespace lurkwell {
 
