@@ -12,8 +12,8 @@
 
 #include "IdleProcesses.h"
 #include "platform/FileDescriptor.h"
-#include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
 namespace {

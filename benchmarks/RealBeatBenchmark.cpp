@@ -20,8 +20,8 @@
 #include "TableLikeClient.h"
 #include "consolidator/PI_Consolidator.h"
 #include "platform/FileDescriptor.h"
-#include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/ProcFiles.h"
 #include "platform/simulated/SimulatedMachine.h"
 
 namespace lurkwell {

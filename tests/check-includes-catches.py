@@ -8,7 +8,7 @@ import tempfile
 SCRIPT = pathlib.Path(sys.argv[1]) / "scripts" / "check-includes.py"
 GOOD = {
     "platform/Clock.h": "",
-    "platform/linux/LinuxClock.h": '#include "platform/Clock.h"\n',
+    "platform/linux/LinuxServices.h": '#include "platform/Clock.h"\n',
     "preferences/Store.h": '#include "platform/Clock.h"\n',
     "preferences/PreferencesRetrieval.h": "",
     "channel/Channel.h": '#include "preferences/Store.h"\n',
@@ -19,7 +19,7 @@ GOOD = {
     "main_window/Window.cpp": '#include "main_window/Window.h"\n#include "main_window/Row.h"\n',
     "main_window/Row.h": "",
     "animated_view/View.h": '#include "windows/Frame.h"\n',
-    "app/main.cpp": '#include "platform/linux/LinuxClock.h"\n#include "consolidator/Records.h"\n',
+    "app/main.cpp": '#include "platform/linux/LinuxServices.h"\n#include "consolidator/Records.h"\n',
     "helper/Channel.cpp": '#include "helper/Request.h"\n',
     "helper/Request.h": "",
 }
@@ -28,7 +28,7 @@ BAD = {
     "channel/Up.h": '#include "consolidator/Records.h"\n',
     "platform/Up.h": '#include "preferences/Store.h"\n',
     "platform/linux/Sideways.h": '#include "consolidator/Records.h"\n',
-    "preferences/Names.cpp": '#include "platform/linux/LinuxClock.h"\n',
+    "preferences/Names.cpp": '#include "platform/linux/LinuxServices.h"\n',
     "consolidator/Upwards.cpp": '  #  include "app/main.cpp"\n',
     "windows/Upwards.h": '#include "main_window/Window.h"\n',
     "animated_view/Sideways.cpp": '#include "main_window/Window.h"\n',
@@ -38,7 +38,7 @@ BAD = {
                             "platform/linux/Third.h": '#include "platform/linux/Loop.h"\n',
                             "platform/linux/Loop.h": ""},
     "consolidator/Qt.cpp": "#include <QString>\n",
-    "app/other.cpp": '#include "platform/linux/LinuxClock.h"\n',
+    "app/other.cpp": '#include "platform/linux/LinuxServices.h"\n',
     "helper/Reaches.cpp": '#include "platform/Clock.h"\n',
     "consolidator/Reaches.cpp": '#include "helper/Request.h"\n',
     "consolidator/Relative.cpp": '#include "Records.h"\n',

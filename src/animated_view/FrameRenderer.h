@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "animated_view/DrawingProgram.h"
+#include "animated_view/DrawingContext.h"
 #include "animated_view/PictureAtlas.h"
 
 class QOpenGLContext;

@@ -2,11 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include "animated_view/QuintessentialGlobals.h"
 #include "platform/Assertion.h"
 
 namespace lurkwell {
+
+long SystemRandom() {
+  return ::random();
+}
+
 namespace {
 
 constexpr int kGridSteps = 10;

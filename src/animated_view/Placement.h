@@ -2,14 +2,25 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
-#include "animated_view/LayoutBodies.h"
-#include "animated_view/RandomSource.h"
+#include "animated_view/QuintessentialLayout.h"
 
 namespace lurkwell {
+
+/// Gives numbers from 0 to 2147483647.
+using RandomSource = std::function<long()>;
+
+/// The system's random(), as it is seeded.
+long SystemRandom();
+
+/// One number of the source, scaled to 0..1.
+inline double RandomFraction(const RandomSource& random) {
+  return static_cast<double>(random()) / 2147483647.0;
+}
 
 /// Gives new records their places, each near its parent where the forces are weakest. Lives for one
 /// update pass, on the main thread. Made inside gQuintessentialMutex, used outside: it keeps the

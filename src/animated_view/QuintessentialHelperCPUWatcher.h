@@ -4,7 +4,7 @@
 
 #include "animated_view/QuintessentialInformationProcessInfo.h"
 #include "consolidator/ProcessInformationClient.h"
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 
 namespace lurkwell {
 

@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "animated_view/DrawingThread.h"
+#include "animated_view/Placement.h"
 #include "animated_view/QuintessentialHelperCPUWatcher.h"
 #include "animated_view/QuintessentialInformationProcessInfo.h"
-#include "animated_view/RandomSource.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/WholeNames.h"
 

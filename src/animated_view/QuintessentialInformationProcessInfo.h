@@ -8,8 +8,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/Clock.h"
 #include "platform/IconServices.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
 

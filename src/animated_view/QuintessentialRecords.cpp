@@ -9,7 +9,7 @@
 #include "animated_view/QuintessentialHost.h"
 #include "animated_view/QuintessentialInformationClient.h"
 #include "animated_view/QuintessentialLayout.h"
-#include "consolidator/ApplicationIcons.h"
+#include "consolidator/Applications.h"
 #include "consolidator/PropertyValues.h"
 #include "consolidator/WholeNames.h"
 #include "platform/PrintableText.h"

@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "animated_view/QuintessentialGlobals.h"
-#include "animated_view/ViewCommands.h"
 #include "animated_view/ViewDrawing.h"
 
 namespace lurkwell {

@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <Qt>
 #include <cstdint>
+#include <functional>
 
 #include "animated_view/FrameContents.h"
 #include "animated_view/QuintessentialHost.h"
@@ -12,7 +13,21 @@ class QWindow;
 
 namespace lurkwell {
 
-struct ViewCommands;
+/// What a window of the animated view asks of the application as a whole.
+struct ViewCommands {
+  std::function<void()> doShowQuintessentialView;
+  std::function<void()> doToggleQuintessentialViewFullScreen;
+  std::function<void()> doShowMainWindow;
+  std::function<void()> doQuit;
+  /// The user has closed the view; nothing else of the program may be left to see.
+  std::function<void()> viewWasClosed;
+  /// Whether a window of the program other than the view's is there.
+  std::function<bool()> isSomethingElseThere;
+  /// Selects a process in the list of processes, where that is shown, and opens its context menu if
+  /// `wantsMenu`. `place` is one of the whole desktop.
+  std::function<void(std::int32_t pid, const QPoint& place, bool wantsMenu)> choose;
+};
+
 struct ViewDrawing;
 
 /// The animated view inside one window. Main thread, unless a function says otherwise.

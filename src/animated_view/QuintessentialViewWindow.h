@@ -6,7 +6,6 @@
 #include <memory>
 
 #include "animated_view/QuintessentialView.h"
-#include "animated_view/ViewCommands.h"
 #include "platform/RunLoop.h"
 
 namespace lurkwell {

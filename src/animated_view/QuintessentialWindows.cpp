@@ -11,12 +11,15 @@
 #include "animated_view/LabelPicture.h"
 #include "animated_view/OffscreenFrame.h"
 #include "animated_view/QuintessentialSupport.h"
+#include "animated_view/flowcontrolfsm.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
+#include "platform/HotKeys.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/OverlayKey.h"
 
 namespace lurkwell {
 namespace {
@@ -303,6 +306,16 @@ QImage QuintessentialWindows::TakePicture(const QSize& points, double pixelRatio
   QImage image = frame.Draw(renderer, LookOf(settings, ViewMode::kWindow, size), processes);
   image.setDevicePixelRatio(pixelRatio);
   return image;
+}
+
+void SetUpHotKey() {
+  const auto code = static_cast<std::uint32_t>(OverlayKeyCode());
+  for (const auto modifiers : {HotKeys::kNoModifiers, HotKeys::kCommandModifier})
+    TheMachine().hotKeys.RegisterEventHotKey(code, modifiers, &HotKeyFunc);
+}
+
+void HotKeyFunc() {
+  ToggleQuintessentialFullScreen();
 }
 
 }  // namespace lurkwell

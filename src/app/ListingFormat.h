@@ -6,9 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "consolidator/PropertyTypes.h"
 #include "consolidator/TypedValue.h"
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 
 namespace lurkwell {
 

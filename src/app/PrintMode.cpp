@@ -24,7 +24,6 @@
 #include "platform/Machine.h"
 #include "platform/PrintableText.h"
 #include "platform/RunLoop.h"
-#include "query/NearNames.h"
 #include "query/QueryKeys.h"
 
 namespace lurkwell {

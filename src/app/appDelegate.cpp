@@ -5,8 +5,8 @@
 #include <cstdlib>
 
 #include "animated_view/FlowControlFSMMgr.h"
-#include "animated_view/HotKey.h"
 #include "animated_view/QuintessentialGlobals.h"
+#include "animated_view/QuintessentialWindows.h"
 #include "animated_view/flowcontrolfsm.h"
 #include "app/SplashScreen.h"
 #include "channel/DaemonCommunication.h"
@@ -30,7 +30,6 @@
 #include "preferences_window/PreferencesUI.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
-#include "windows/WayBack.h"
 
 namespace lurkwell {
 

@@ -25,12 +25,11 @@
 #include "platform/desktop/DesktopProcessManager.h"
 #include "platform/desktop/DesktopScreen.h"
 #include "platform/desktop/DisplayAccess.h"
-#include "platform/desktop/EndingSignals.h"
 #include "platform/desktop/QtRunLoop.h"
 #include "platform/desktop/RunningInstance.h"
-#include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxCostlyFigures.h"
 #include "platform/linux/LinuxMachine.h"
+#include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
 namespace {

@@ -5,7 +5,6 @@
 #include <random>
 
 #include "channel/DaemonCommunication.h"
-#include "channel/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
@@ -14,6 +13,9 @@ namespace lurkwell {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The source that its assertions name.
+constexpr char kDaemonUnit[] = "DaemonCommunication";
 
 constexpr auto kFolderMode = fs::perms::owner_all;
 constexpr auto kHelperMode = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec |

@@ -9,8 +9,8 @@
 #include "channel/DaemonCommunication.h"
 #include "platform/Alerts.h"
 #include "platform/Authorization.h"
+#include "platform/Clock.h"
 #include "platform/RunLoop.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
 

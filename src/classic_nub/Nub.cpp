@@ -9,7 +9,7 @@
 #include <limits>
 #include <utility>
 
-#include "platform/ClassicEvents.h"
+#include "platform/EventBus.h"
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/ProcFolder.h"
 

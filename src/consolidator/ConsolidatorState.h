@@ -6,14 +6,12 @@
 #include <mutex>
 #include <optional>
 
-#include "consolidator/ClassicEstimate.h"
-#include "consolidator/FamilyIndex.h"
-#include "consolidator/PSDiscovery.h"
+#include "consolidator/Applications.h"
+#include "consolidator/ClassicReports.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/PSPrograms.h"
-#include "consolidator/PropertyTypes.h"
 #include "consolidator/RecordStore.h"
-#include "consolidator/SyntheticPids.h"
+#include "consolidator/TypedValue.h"
 #include "platform/CriticalRegion.h"
 #include "platform/RunLoop.h"
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 
 namespace lurkwell {
 

@@ -8,9 +8,9 @@
 #include <variant>
 #include <vector>
 
-#include "consolidator/CPUShares.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
+#include "consolidator/PropertyValues.h"
 
 namespace lurkwell {
 namespace {

@@ -6,7 +6,6 @@
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/ProcessReports.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"

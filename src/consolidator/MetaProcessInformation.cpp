@@ -2,7 +2,6 @@
 
 #include <tuple>
 
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 
 namespace lurkwell {

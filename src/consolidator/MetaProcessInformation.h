@@ -9,16 +9,18 @@
 #include <string_view>
 #include <vector>
 
-#include "consolidator/PropertyTypes.h"
 #include "consolidator/TextScan.h"
 #include "consolidator/TypedValue.h"
+#include "platform/Clock.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/ProcessManager.h"
 #include "platform/ProcessTable.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
+
+/// The source that the consolidator's assertions name, in whichever of its files they stand.
+inline constexpr char kUnit[] = "PI_Consolidator";
 
 /// The consolidator's own record of one process and its blocks. Nothing outside the consolidator
 /// sees these; clients read properties.

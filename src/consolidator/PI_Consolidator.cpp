@@ -5,7 +5,6 @@
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/Feeders.h"
 #include "consolidator/ProcessReports.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"

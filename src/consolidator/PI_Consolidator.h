@@ -2,13 +2,13 @@
 
 // The consolidator: one collector of process data, one record per process, and a heartbeat that
 // reads, retires and announces. This header is all that its clients include.
+#include "consolidator/Applications.h"
 #include "consolidator/ClassicReports.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessQueries.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyValues.h"
-#include "consolidator/SyntheticPids.h"
 #include "consolidator/WholeNames.h"
 
 namespace lurkwell {

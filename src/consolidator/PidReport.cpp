@@ -8,7 +8,6 @@
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/TextScan.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"

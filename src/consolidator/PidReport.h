@@ -6,8 +6,8 @@
 
 #include "consolidator/MetaProcessInformation.h"
 #include "consolidator/PropertyCatalogue.h"
+#include "platform/Clock.h"
 #include "platform/ProcessFigures.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
 

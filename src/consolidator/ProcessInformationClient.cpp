@@ -1,17 +1,75 @@
 #include "consolidator/ProcessInformationClient.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
+#include <span>
 #include <string_view>
 
-#include "consolidator/ClientRegistryWalk.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/ProcessQueries.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
+#include "platform/ProcessIdentity.h"
 
 namespace lurkwell {
+namespace {
+
+constexpr char kClientUnit[] = "ProcessInformationClient";
+
+}  // namespace
+
+void PidStack::Push(std::int32_t pid) {
+  mPlaces.emplace(pid, mPids.size());
+  mPids.push_back(pid);
+}
+
+std::int32_t PidStack::Pop() {
+  TrimTop();
+  const std::int32_t pid = mPids.back();
+  const std::size_t place = mPids.size() - 1;
+  mPids.pop_back();
+  for (auto [at, end] = mPlaces.equal_range(pid); at != end; ++at) {
+    if (at->second != place) continue;
+    mPlaces.erase(at);
+    break;
+  }
+  return pid;
+}
+
+bool PidStack::Remove(std::int32_t pid) {
+  const auto [begin, end] = mPlaces.equal_range(pid);
+  if (begin == end) return false;
+  for (auto at = begin; at != end; ++at) mPids[at->second] = kInvalidPID;
+  mPlaces.erase(begin, end);
+  TrimTop();
+  return true;
+}
+
+void PidStack::TrimTop() {
+  while (!mPids.empty() && mPids.back() == kInvalidPID) mPids.pop_back();
+}
+
+/// A walk over the registry during which handlers may delete any client: nodes are swept when the
+/// last walk ends, so that no iterator breaks. Clients that come during a walk stand before its
+/// start and are not met.
+class ProcessInformationClient::Walk {
+ public:
+  Walk() { ++zm_WalksInProgress; }
+  ~Walk() {
+    if (--zm_WalksInProgress == 0)
+      zm_ListOfProcessInformationClients.remove_if(
+          [](const ListNode& node) { return node.client == nullptr; });
+  }
+  Walk(const Walk&) = delete;
+  Walk& operator=(const Walk&) = delete;
+
+  auto begin() { return zm_ListOfProcessInformationClients.begin(); }
+  auto end() { return zm_ListOfProcessInformationClients.end(); }
+};
+
 std::list<ProcessInformationClient::ListNode>
     ProcessInformationClient::zm_ListOfProcessInformationClients;
 int ProcessInformationClient::zm_WalksInProgress = 0;
@@ -137,6 +195,183 @@ void AddProcessInformationClient(ProcessInformationClient* client) {
 
 void RemoveProcessInformationClient(ProcessInformationClient* client) {
   ProcessInformationClient::NodeOf(client).active = false;
+}
+
+// ---- What the clients need, taken together
+
+namespace {
+
+using NeedLevel = ProcessInformationClient::NeedLevel;
+
+/// A property that is computed from others.
+struct Derivation {
+  std::string_view derived;
+  std::span<const char* const> sources;
+};
+
+constexpr std::array kNameSources = {"carbonpsn_name", "pid_p_comm"};
+constexpr std::array kActiveTimeSources = {"pid_user_time", "pid_system_time",
+                                           "classicpsn_active_time", "pid_terminated_user_time",
+                                           "pid_terminated_system_time"};
+constexpr Derivation kDerivations[] = {{"meta_name", kNameSources},
+                                       {"meta_active_time", kActiveTimeSources}};
+
+/// Calls `ask` for the property itself, then for each property whose need implies this one's, until
+/// it gives true. `complaint` is printed for a "meta_" property that nothing is derived from.
+template <typename Ask>
+bool AskAlongDerivations(const char* property, const char* complaint, Ask ask) {
+  if (ask(property)) return true;
+  const std::string_view name(property);
+  if (name.starts_with("meta_")) {
+    const auto* derivation = std::ranges::find(kDerivations, name, &Derivation::derived);
+    if (derivation == std::end(kDerivations)) {
+      DiagnoseVerbatim("%s", complaint);
+    } else if (std::ranges::any_of(derivation->sources, ask)) {
+      return true;
+    }
+  }
+  return std::ranges::any_of(kDerivations, [&](const Derivation& derivation) {
+    return std::ranges::find(derivation.sources, name,
+                             [](const char* source) { return std::string_view(source); }) !=
+               derivation.sources.end() &&
+           ask(derivation.derived.data());
+  });
+}
+
+bool IsPidLevel(NeedLevel level) {
+  return level >= ProcessInformationClient::kNeedNoPids &&
+         level <= ProcessInformationClient::kNeedAllPids;
+}
+
+bool IsPropertyLevel(NeedLevel level) {
+  return level >= ProcessInformationClient::kNeedNoProcProperties &&
+         level <= ProcessInformationClient::kNeedAllProcProperties;
+}
+
+}  // namespace
+
+NeedLevel ProcessInformationClient::AggregateNeedLevels(NeedLevel need1, NeedLevel need2) {
+  if (IsPidLevel(need1)) {
+    Require(IsPidLevel(need2), kClientUnit, "(need2 >= kNeedNoPids) && (need2 <= kNeedAllPids)");
+  } else if (IsPropertyLevel(need1)) {
+    Require(IsPropertyLevel(need2), kClientUnit,
+            "(need2 >= kNeedNoProcProperties) && (need2 <= kNeedAllProcProperties)");
+  } else {
+    DiagnoseVerbatim("got to a bad place!!! ProcessInformationClient::AggregateNeedLevels");
+    return kNeedNoPids;
+  }
+  return std::max(need1, need2);
+}
+
+NeedLevel ProcessInformationClient::NeedAnyProcPropertyForPid(int pid, const TimeValue* now) {
+  NeedLevel level = kNeedNoProcProperties;
+  for (const auto& node : zm_ListOfProcessInformationClients) {
+    if (!UseNode(node, now)) continue;
+    level = AggregateNeedLevels(level, node.client->NeedProcPropertiesForPid(pid));
+    if (level == kNeedAllProcProperties) break;
+  }
+  return level;
+}
+
+NeedLevel ProcessInformationClient::NeedAnyPidForProcProperty(const char* property,
+                                                              const TimeValue* now) {
+  return NeedAnyPidForProcProperty(property, DueClients(now));
+}
+
+NeedLevel ProcessInformationClient::NeedAnyPidForProcProperty(const char* property,
+                                                              const Clients& clients) {
+  NeedLevel level = kNeedNoPids;
+  AskAlongDerivations(property, "uh-oh. Unhandled meta type!", [&](const char* name) {
+    for (auto* client : clients) {
+      level = AggregateNeedLevels(level, client->NeedPidsForProcProperty(name));
+      if (level == kNeedAllPids) return true;
+    }
+    return false;
+  });
+  return level;
+}
+
+bool ProcessInformationClient::NeedAnyPidProcProperty(int pid, const char* property,
+                                                      const TimeValue* now) {
+  return NeedAnyPidProcProperty(pid, property, DueClients(now));
+}
+
+ProcessInformationClient::Clients ProcessInformationClient::DueClients(const TimeValue* now) {
+  Clients clients;
+  for (const auto& node : zm_ListOfProcessInformationClients)
+    if (UseNode(node, now)) clients.push_back(node.client);
+  return clients;
+}
+
+bool ProcessInformationClient::NeedAnyPidProcProperty(int pid, const char* property,
+                                                      const Clients& clients) {
+  return AskAlongDerivations(
+      property, "uh-oh. Unhandled meta type in NeedAnyPidProcProperty!", [&](const char* name) {
+        return std::ranges::any_of(
+            clients, [&](auto* client) { return client->NeedPidProcProperty(pid, name); });
+      });
+}
+
+// ---- When clients are due, and their turns
+
+namespace {
+
+/// The heart still beats when there is no client.
+constexpr std::int64_t kLongestRest = 15000;
+
+/// Preferences are files that people edit: an interval of nothing must not keep a core busy.
+constexpr std::int32_t kShortestInterval = 20;
+
+std::int64_t ServedInterval(const ProcessInformationClient& client) {
+  return std::max(client.Interval(), kShortestInterval);
+}
+
+}  // namespace
+
+bool ProcessInformationClient::UseNode(const ListNode& node, const TimeValue* now) {
+  if (!node.active) return false;
+  return now == nullptr ||
+         MillisecondsBetween(node.lastHeartbeat, *now) >= ServedInterval(*node.client);
+}
+
+std::int64_t ProcessInformationClient::GetMillisecondsToNextHeartbeat(const TimeValue* now) {
+  Require(now != nullptr, kClientUnit, "curTime != NULL");
+  std::int64_t milliseconds = kLongestRest;
+  for (const auto& node : zm_ListOfProcessInformationClients) {
+    if (!node.active) continue;
+    const TimeValue due = AddMilliseconds(node.lastHeartbeat, ServedInterval(*node.client));
+    milliseconds = std::min(milliseconds, MillisecondsBetween(*now, due));
+  }
+  return milliseconds;
+}
+
+void ProcessInformationClient::MakeDue(const ProcessInformationClient* client) {
+  NodeOf(client).lastHeartbeat = {};
+}
+
+void ProcessInformationClient::NotifyAllProcessesHaveBeenUpdated(const TimeValue* now) {
+  Require(now != nullptr, kClientUnit, "curTime != NULL");
+  Walk walk;
+  // A handler may remove or delete any client, so a node is asked again after every call.
+  for (auto& node : walk)
+    while (UseNode(node, now) && !node.client->mAddedPids.Empty())
+      node.client->NotifyPidHasBeenAdded(node.client->mAddedPids.Pop());
+  for (auto& node : walk)
+    while (UseNode(node, now) && !node.client->mChangedPids.Empty())
+      node.client->NotifyPidHasChangedAppreciably(node.client->mChangedPids.Pop());
+  for (bool delivered = true; delivered;) {
+    delivered = false;
+    for (auto& node : walk) {
+      if (!UseNode(node, now) || node.client->mRemovedPids.Empty()) continue;
+      node.client->NotifyPidHasBeenRemoved(node.client->mRemovedPids.Pop());
+      delivered = true;
+    }
+  }
+  for (auto& node : walk) {
+    if (!UseNode(node, now)) continue;
+    node.lastHeartbeat = *now;
+    node.client->NotifyProcessesHaveBeenUpdated();
+  }
 }
 
 }  // namespace lurkwell

@@ -2,12 +2,12 @@
 #include <iterator>
 #include <string>
 
+#include "consolidator/Applications.h"
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/Feeders.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessReports.h"
-#include "consolidator/PropertyTypes.h"
-#include "consolidator/SyntheticPids.h"
+#include "consolidator/TypedValue.h"
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
 

@@ -4,7 +4,6 @@
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PidReport.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Diagnostics.h"
 

@@ -6,10 +6,9 @@
 #include <utility>
 
 #include "consolidator/ConsolidatorState.h"
-#include "consolidator/PSValues.h"
+#include "consolidator/PSHeaders.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/TextScan.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
 #include "platform/Tools.h"

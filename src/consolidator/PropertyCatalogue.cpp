@@ -5,7 +5,6 @@
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PSHeaders.h"
-#include "consolidator/PSValues.h"
 #include "consolidator/PropertyRendering.h"
 
 namespace lurkwell {

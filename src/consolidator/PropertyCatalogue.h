@@ -6,7 +6,6 @@
 #include <variant>
 
 #include "consolidator/MetaProcessInformation.h"
-#include "consolidator/PropertyTypes.h"
 #include "consolidator/TypedValue.h"
 #include "platform/ProcessFigures.h"
 

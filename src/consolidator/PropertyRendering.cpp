@@ -7,7 +7,6 @@
 
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/TextScan.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "preferences/MacRoman.h"
 

@@ -7,20 +7,36 @@
 #include <string_view>
 #include <utility>
 
-#include "consolidator/CPUShares.h"
 #include "consolidator/ConsolidatorState.h"
-#include "consolidator/PSValues.h"
+#include "consolidator/PSHeaders.h"
 #include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyRendering.h"
-#include "consolidator/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
+#include "platform/HostStatistics.h"
 #include "platform/Machine.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
+namespace {
+
+/// As of the last pass that wanted a share.
+int gProcessorsForShares = 0;
+
+}  // namespace
+
+int CPUShareDivisor() {
+  if (!ReadSwitch("CPU_SHARE_OF_MACHINE")) return 1;
+  if (gProcessorsForShares == 0) CountProcessorsForShares();
+  return std::max(gProcessorsForShares, 1);
+}
+
+void CountProcessorsForShares() {
+  gProcessorsForShares = TheMachine().hostStatistics.Processors();
+}
+
 namespace {
 
 constexpr Figure kCommandLine = FigureCalled("pid_command_line");

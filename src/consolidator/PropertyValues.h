@@ -4,10 +4,18 @@
 #include <optional>
 
 #include "consolidator/TypedValue.h"
+#include "platform/Clock.h"
 #include "platform/ProcessTable.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
+
+/// By what the share of one processor is divided: 1, or the number of processors when shares are to
+/// be those of the machine (the preference CPU_SHARE_OF_MACHINE). Main thread.
+int CPUShareDivisor();
+
+/// Asks the machine how many processors there are, which takes a file; once a pass that wants
+/// shares. Main thread.
+void CountProcessorsForShares();
 
 /// The value of a property of a process as text, in the caller's buffer of `length` bytes, always
 /// terminated. True when `dest` holds a value; `found` (may be null) tells whether there is such a

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "platform/Clock.h"
 #include "platform/FigureSources.h"
 #include "platform/ProcessFigures.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
 

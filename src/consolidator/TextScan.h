@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 
 namespace lurkwell {
 

@@ -14,7 +14,6 @@
 
 #include "main_window/CommandTable.h"
 #include "resources/Resources.h"
-#include "windows/ControlledWindow.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/OverlayKey.h"
 #include "windows/WindowFrame.h"

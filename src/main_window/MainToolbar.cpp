@@ -12,8 +12,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "main_window/ToolbarDrag.h"
 #include "main_window/ToolbarGauge.h"
+#include "main_window/ToolbarItems.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 

@@ -8,7 +8,6 @@
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/WholeNames.h"
-#include "main_window/ActionQuestion.h"
 #include "main_window/ActionTexts.h"
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"

@@ -1,9 +1,12 @@
 #include "main_window/SystemInfoImage.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/Assertion.h"
 #include "platform/Diagnostics.h"
+#include "process_control/DisplayFormats.h"
+#include "resources/Resources.h"
 #include "windows/SystemFigures.h"
 
 namespace lurkwell {
@@ -80,6 +83,30 @@ void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures) {
             if (x > activeEnd) return (x + y) % 5 <= 2 ? kMemoryPinkStripe : kMemoryRed;
             return kMemoryRed;
           });
+}
+
+namespace {
+
+QString Size(std::int64_t bytes) {
+  return QString::fromStdString(MemoryString(bytes)).trimmed();
+}
+
+}  // namespace
+
+QString CPUGaugeText(double usage, int processors) {
+  const char* id = processors == 1 ? "toolbar_system_cpu_figure_one" : "toolbar_system_cpu_figure";
+  return LocalizedString(id).arg(std::lround(usage * 100.0)).arg(processors);
+}
+
+QString MemoryGaugeText(const SystemFigures& figures) {
+  return LocalizedString("toolbar_system_ram_figures")
+      .arg(Size(figures.usedBytes), Size(figures.physicalBytes), Size(figures.wiredBytes),
+           Size(figures.inactiveBytes), Size(figures.physicalBytes - figures.usedBytes));
+}
+
+QString PageoutsText(std::int64_t pages) {
+  const char* id = pages == 1 ? "toolbar_vm_thrashing_figure_one" : "toolbar_vm_thrashing_figure";
+  return LocalizedString(id).arg(pages);
 }
 
 }  // namespace lurkwell

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <array>
 #include <cstdint>
 
@@ -25,5 +26,16 @@ void DrawCPUGauge(std::uint8_t* rawPixels, double usage);
 /// inactive at its right, grey for what is free. Figures that contradict each other are made to
 /// fit.
 void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures);
+
+struct SystemFigures;
+
+/// What the gauges show, in words, for those who want to know exactly or cannot see them. Main
+/// thread.
+
+/// `usage` from 0 to 1.
+QString CPUGaugeText(double usage, int processors);
+QString MemoryGaugeText(const SystemFigures& figures);
+/// Pages since the update before.
+QString PageoutsText(std::int64_t pages);
 
 }  // namespace lurkwell

@@ -4,7 +4,6 @@
 
 #include "main_window/MainToolbar.h"
 #include "main_window/SystemInfoImage.h"
-#include "main_window/SystemInfoTexts.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"

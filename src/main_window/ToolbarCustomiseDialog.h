@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <QListWidget>
 
-#include "main_window/ToolbarDrag.h"
+#include "main_window/ToolbarItems.h"
 
 class QPushButton;
 

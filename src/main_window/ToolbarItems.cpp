@@ -1,5 +1,7 @@
 #include "main_window/ToolbarItems.h"
 
+#include <QCoreApplication>
+#include <QMimeData>
 #include <algorithm>
 #include <vector>
 
@@ -70,6 +72,25 @@ bool IsToolbarButtonEnabled(std::string_view identifier, const SelectionFacts& f
   if (item == nullptr || item->kind != ToolbarItem::kButton) return false;
   const auto& command = *item->command;
   return IsMet(command.needs, facts) && IsMet(command.button.alsoNeeds, facts);
+}
+
+QString ToolbarDrag::MimeType() {
+  // Whatever another instance drags is none of ours.
+  return QStringLiteral("application/x-lurkwell-toolbar-item-%1")
+      .arg(QCoreApplication::applicationPid());
+}
+
+std::unique_ptr<QMimeData> ToolbarDrag::ToMime() const {
+  auto data = std::make_unique<QMimeData>();
+  data->setData(MimeType(), QByteArray::number(from) + ' ' + identifier.toLatin1());
+  return data;
+}
+
+std::optional<ToolbarDrag> ToolbarDrag::FromMime(const QMimeData* data) {
+  if (data == nullptr || !data->hasFormat(MimeType())) return {};
+  const auto words = data->data(MimeType()).split(' ');
+  if (words.size() != 2) return {};
+  return ToolbarDrag{QString::fromLatin1(words[1]), words[0].toInt()};
 }
 
 }  // namespace lurkwell

@@ -1,9 +1,14 @@
 #pragma once
 
+#include <QString>
 #include <QStringList>
+#include <memory>
+#include <optional>
 #include <string_view>
 
 #include "main_window/CommandTable.h"
+
+class QMimeData;
 
 namespace lurkwell {
 
@@ -41,5 +46,19 @@ QStringList DefaultToolbarItems();
 
 /// Whether a button can be used; false for what is no button of a command.
 bool IsToolbarButtonEnabled(std::string_view identifier, const SelectionFacts& facts);
+
+
+/// An item of the toolbar on its way under the mouse, within this program alone. Main thread only.
+struct ToolbarDrag {
+  /// Of an item; empty for the whole default set.
+  QString identifier;
+  /// Its place in the toolbar, or -1 when it comes from elsewhere.
+  int from = -1;
+
+  std::unique_ptr<QMimeData> ToMime() const;
+  /// Nothing when what is dragged is something else, or comes from another program.
+  static std::optional<ToolbarDrag> FromMime(const QMimeData* data);
+  static QString MimeType();
+};
 
 }  // namespace lurkwell

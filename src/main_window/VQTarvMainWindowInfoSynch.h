@@ -11,8 +11,8 @@
 #include "consolidator/WholeNames.h"
 #include "main_window/ColumnLayout.h"
 #include "main_window/ProcessRows.h"
+#include "platform/Clock.h"
 #include "platform/RunLoop.h"
-#include "platform/TimeValue.h"
 #include "windows/RowDictionary.h"
 #include "windows/SystemFigures.h"
 

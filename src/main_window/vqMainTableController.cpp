@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "consolidator/ApplicationIcons.h"
+#include "consolidator/Applications.h"
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/ColumnGroups.h"
 #include "platform/ApplicationQuitting.h"

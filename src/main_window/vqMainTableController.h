@@ -9,7 +9,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "consolidator/PropertyTypes.h"
+#include "consolidator/TypedValue.h"
 #include "main_window/ColumnLayout.h"
 #include "main_window/CommandTable.h"
 #include "main_window/MainToolbar.h"

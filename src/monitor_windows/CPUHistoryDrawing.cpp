@@ -1,14 +1,13 @@
 // What a CPU history window shows: its graph and its labels.
 #include <QPainter>
 
-#include "consolidator/ApplicationIcons.h"
+#include "consolidator/Applications.h"
 #include "consolidator/PropertyValues.h"
 #include "monitor_windows/CPUHistoryWindow.h"
-#include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
 #include "resources/Resources.h"
+#include "windows/FrontmostWindow.h"
 #include "windows/PropertyText.h"
-#include "windows/WayBack.h"
 
 namespace lurkwell {
 namespace {

@@ -10,7 +10,6 @@
 #include "consolidator/ProcessQueries.h"
 #include "monitor_windows/LoggingWindowUI.h"
 #include "monitor_windows/ScreenPlacement.h"
-#include "monitor_windows/Unit.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"

@@ -7,12 +7,12 @@
 #include "consolidator/ProcessInformationClient.h"
 #include "monitor_windows/CPUHistoryGraph.h"
 #include "monitor_windows/CPUHistoryPreferences.h"
-#include "monitor_windows/FollowedProcess.h"
+#include "monitor_windows/FloatingWindow.h"
 #include "monitor_windows/ProcessInformationWindow.h"
 #include "monitor_windows/RememberedWindows.h"
-#include "monitor_windows/Satellite.h"
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 #include "windows/MonitorWindows.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 

@@ -9,7 +9,6 @@
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Assertion.h"
 #include "platform/Bundle.h"
-#include "platform/ClassicEvents.h"
 #include "platform/Diagnostics.h"
 #include "platform/EventBus.h"
 #include "platform/Machine.h"

@@ -1,10 +1,16 @@
 #pragma once
 
+#include <QDialog>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+#include <QTreeWidget>
 #include <functional>
 #include <vector>
 
-#include "monitor_windows/MonitorWindowKinds.h"
+#include "monitor_windows/RememberedWindows.h"
 #include "platform/LogFiles.h"
+#include "platform/Uuid.h"
 #include "windows/MonitorWindows.h"
 
 namespace lurkwell {
@@ -54,6 +60,32 @@ class FollowingWindows final : public MonitorWindows, public MonitorWindowKinds 
 
   LogFiles& mLogFiles;
   Histories mHistories;
+};
+
+/// The remembered histories and logs, whether their programs run or not, to be forgotten. It looks
+/// again every second while it is open. Deletes itself when it is closed. Main thread only.
+class RememberedWindowsPanel final : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// Shows the panel, a new one or the one that is open.
+  static void ShowFor(QWidget* parent);
+
+  explicit RememberedWindowsPanel(QWidget* parent);
+
+  QTreeWidget* List() const { return mList; }
+  /// Forgets the selected ones. A window that is open stays so until it is closed.
+  void ForgetSelected();
+
+ private:
+  void Fill();
+  void Validate();
+
+  static QPointer<RememberedWindowsPanel> sPanel;
+
+  QTreeWidget* mList;
+  QPushButton* mForget;
+  QTimer mTimer;
 };
 
 }  // namespace lurkwell

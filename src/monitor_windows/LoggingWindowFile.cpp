@@ -1,11 +1,15 @@
 // The log of a logging window as a file: its own, and where its user wants it.
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QPointer>
+#include <QSaveFile>
+#include <cstdint>
+#include <deque>
+#include <string>
 #include <utility>
 
-#include "monitor_windows/LogFileName.h"
-#include "monitor_windows/LogSaving.h"
 #include "monitor_windows/LoggingWindowUI.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -14,6 +18,60 @@
 #include "windows/PropertyText.h"
 
 namespace lurkwell {
+namespace {
+
+/// What the file of a log is called, without its end: "PROGRAM-PID-YYYYMMDD-HHMMSS" in local time,
+/// so that files sort by program and time. Of a program's name, as it is shown, what no file
+/// manager or shell trips over is kept, and not much of it.
+QString LogFileName(const QString& program, std::int32_t pid, TimeValue now) {
+  constexpr int kMostCharacters = 40;
+  QString name;
+  for (const QChar c : program.left(kMostCharacters)) {
+    const bool isKept = c.isLetterOrNumber() || c == QLatin1Char('.') || c == QLatin1Char('_') ||
+                        c == QLatin1Char('-');
+    name += isKept ? c : QLatin1Char('_');
+  }
+  // Neither a hidden file nor an option.
+  if (name.isEmpty() || name.startsWith(QLatin1Char('.')) || name.startsWith(QLatin1Char('-')))
+    name.prepend(QLatin1Char('_'));
+  const auto time = QDateTime::fromSecsSinceEpoch(now.seconds);
+  return name + QLatin1Char('-') + QString::number(pid) + QLatin1Char('-') +
+         time.toString(QStringLiteral("yyyyMMdd-HHmmss"));
+}
+
+// A log goes to a file that the user has chosen, in place of what it held; whole, or not at all.
+// Empty when it is there, else why not, in the system's words.
+
+/// All that a log's own file has.
+QString SaveLogFile(const std::string& logFile, const QString& target) {
+  QFile source(QFile::decodeName(logFile.c_str()));
+  if (!source.open(QIODevice::ReadOnly)) return source.errorString();
+  QSaveFile file(target);
+  if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+  constexpr qint64 kPart = 1 << 20;
+  while (!source.atEnd()) {
+    const auto part = source.read(kPart);
+    if (part.isEmpty()) return source.errorString();
+    if (file.write(part) != part.size()) return file.errorString();
+  }
+  return file.commit() ? QString() : file.errorString();
+}
+
+/// The rows that a window without a file has.
+QString SaveLogRows(const std::string& header, const std::deque<LoggedRow>& rows,
+                    const QString& target) {
+  QSaveFile file(target);
+  if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+  const auto write = [&file](const std::string& line) {
+    file.write(line.data(), static_cast<qint64>(line.size()));
+    file.write("\n", 1);
+  };
+  write(header);
+  for (const auto& row : rows) write(row.line);
+  return file.commit() ? QString() : file.errorString();
+}
+
+}  // namespace
 
 QString LoggingWindowUI::fileName() const {
   return LogFileName(fName, mStateInfo.pid, TheMachine().clock.CalendarNow());

@@ -13,7 +13,6 @@
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/ProcessQueries.h"
-#include "monitor_windows/FollowedProcess.h"
 #include "monitor_windows/LoggingPreferences.h"
 #include "monitor_windows/ScreenPlacement.h"
 #include "platform/ApplicationQuitting.h"
@@ -22,7 +21,6 @@
 #include "platform/Machine.h"
 #include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
-#include "windows/ControlledWindow.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/PropertyText.h"
 #include "windows/WindowFrame.h"

@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "monitor_windows/LoggingRecord.h"
-#include "monitor_windows/LoggingWindowInformationClient2.h"
 #include "monitor_windows/RememberedWindows.h"
 #include "platform/LogFiles.h"
 #include "platform/Uuid.h"

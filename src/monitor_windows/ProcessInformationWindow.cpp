@@ -17,9 +17,9 @@ namespace {
 constexpr char kWindowUnit[] = "ProcessInformationWindow";
 constexpr char kXKey[] = "DEFAULT_X_COOR_FOR_NEWLY_CREATED_WINDOWS";
 constexpr char kYKey[] = "DEFAULT_Y_COOR_FOR_NEWLY_CREATED_WINDOWS";
-/// Five years of 365 days, and one.
-constexpr double kNever = 157'680'000.0;
-constexpr double kAlmostNever = 31'536'000.0;
+/// Of 365 days, in seconds; almost never.
+constexpr double kFiveYears = 157'680'000.0;
+constexpr double kAYear = 31'536'000.0;
 
 using Operation = OSStatus (ProcessInformationWindow::*)();
 
@@ -198,7 +198,7 @@ std::shared_ptr<RunLoopTimer> ProcessInformationWindow::CreateBringToFrontTimerF
   auto timer = zmBringToFrontTimerRef.lock();
   if (timer == nullptr) {
     auto& machine = TheMachine();
-    timer = machine.runLoop.AddTimer(machine.clock.AbsoluteTime() + kNever, kAlmostNever,
+    timer = machine.runLoop.AddTimer(machine.clock.AbsoluteTime() + kFiveYears, kAYear,
                                      &BringToFrontTimerFunc);
     zmBringToFrontTimerRef = timer;
   }

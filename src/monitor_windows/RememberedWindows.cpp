@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "consolidator/ProcessQueries.h"
-#include "monitor_windows/FollowedProcess.h"
 #include "platform/Assertion.h"
 #include "preferences/PreferenceBatch.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {

@@ -14,7 +14,6 @@ constexpr int kCascadeStep = 24;
 /// Between windows that are moved apart, with room for the narrow title bars of histories.
 constexpr int kGap = 20;
 constexpr int kLargestApart = 10'000;
-constexpr std::int32_t kFarthest = 100'000;
 
 }  // namespace
 
@@ -35,7 +34,9 @@ QRect PlaceOnScreen(const WindowRect& remembered, QSize smallest) {
     return static_cast<int>(
         std::clamp<std::int64_t>(std::int64_t{to} - from, least, kLargestApart));
   };
-  const auto corner = [](std::int32_t place) { return std::clamp(place, -kFarthest, kFarthest); };
+  const auto corner = [](std::int32_t place) {
+    return std::clamp<std::int32_t>(place, -kFarthest, kFarthest);
+  };
   return FitOnScreens({corner(remembered.left), corner(remembered.top),
                        span(remembered.left, remembered.right, smallest.width()),
                        span(remembered.top, remembered.bottom, smallest.height())},

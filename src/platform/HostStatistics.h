@@ -1,11 +1,119 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
-
-#include "platform/MachineFigures.h"
+#include <string>
+#include <vector>
 
 namespace lurkwell {
+
+/// Which figures of the machine as a whole are to be read.
+enum MachineSource : unsigned {
+  kProcessorTimes = 1,
+  kMachineMemory = 2,
+  kDisks = 4,
+  kNetworkInterfaces = 8,
+  kPressure = 16,
+  kLoad = 32,
+  kTemperatures = 64,
+  kFrequencies = 128,
+  kLimits = 256,
+};
+using MachineSources = unsigned;
+inline constexpr MachineSources kAllMachineSources = 511;
+
+/// One processor since the machine started, in microseconds. What it waited for input and output
+/// counts as idle.
+struct ProcessorTime {
+  int number = 0;
+  std::int64_t busy = 0;
+  std::int64_t idle = 0;
+};
+
+/// Bytes. What could be had at once counts as available: the page cache, and what ZFS would give
+/// back of its own cache.
+struct MachineMemory {
+  std::int64_t total = 0;
+  std::int64_t available = 0;
+  std::int64_t swap = 0;
+  std::int64_t swapFree = 0;
+};
+
+/// A disk or a network interface and the bytes it has moved since it is there.
+struct MovedBytes {
+  std::string name;
+  /// Read or received, and written or sent.
+  std::int64_t in = 0;
+  std::int64_t out = 0;
+  /// A device of its own, and not made of others (a partition, a bridge, a file).
+  bool isPhysical = false;
+};
+
+/// For how much of the last 10, 60 and 300 seconds some, or all, were held up; in per cent.
+struct PressureShares {
+  std::array<double, 3> some{};
+  std::array<double, 3> full{};
+};
+
+struct Temperature {
+  /// The chip's name, and the sensor's where it has one.
+  std::string name;
+  double celsius = 0;
+};
+
+struct Frequency {
+  int processor = 0;
+  std::int64_t hertz = 0;
+};
+
+/// What this machine is allowed of a bigger one, when it is a container; the tightest of all limits
+/// up the tree of its control groups.
+struct MachineLimits {
+  std::optional<std::int64_t> memory;
+  /// What is taken of it.
+  std::optional<std::int64_t> memoryUsed;
+  /// In processors, 1.5 for one and a half.
+  std::optional<double> processors;
+};
+
+/// What was asked for and is there; all else is nothing or empty.
+struct MachineFigures {
+  std::vector<ProcessorTime> processors;
+  std::optional<MachineMemory> memory;
+  std::vector<MovedBytes> disks;
+  std::vector<MovedBytes> interfaces;
+  std::optional<PressureShares> processorPressure;
+  std::optional<PressureShares> memoryPressure;
+  std::optional<PressureShares> diskPressure;
+  /// Of 1, 5 and 15 minutes.
+  std::optional<std::array<double, 3>> load;
+  std::vector<Temperature> temperatures;
+  std::vector<Frequency> frequencies;
+  MachineLimits limits;
+};
+
+/// What the machine did between two readings.
+struct MachineActivity {
+  /// From 0 to 1, by the processors' numbers; nothing for one that was not there in both.
+  std::vector<std::optional<double>> processors;
+  /// Bytes per second of all physical disks, and of all interfaces that are no loopback: the
+  /// physical ones where there is any.
+  std::optional<double> diskRead, diskWritten;
+  std::optional<double> received, sent;
+};
+
+/// Makes rates of counters: from the second reading on, over the time that has passed; nothing for
+/// a counter that went back.
+class MachineRates {
+ public:
+  /// `when` is in microseconds of a clock that does not step.
+  MachineActivity Take(const MachineFigures& figures, std::int64_t when);
+
+ private:
+  std::optional<std::int64_t> mWhen;
+  MachineFigures mBefore;
+};
 
 /// The machine's memory, in pages; `pageouts` counts since the machine started.
 struct VirtualMemoryStatistics {

@@ -12,9 +12,9 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Clock.h"
 #include "platform/FigureSources.h"
 #include "platform/FigureWords.h"
-#include "platform/TimeValue.h"
 
 namespace lurkwell {
 

@@ -21,9 +21,9 @@
 #include "preferences_window/AllSettings.h"
 #include "preferences_window/PreferenceChanges.h"
 #include "resources/Resources.h"
-#include "windows/ControlledWindow.h"
 #include "windows/ControllerAssertion.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/WindowFrame.h"
 
 namespace lurkwell {
 

@@ -9,6 +9,12 @@
 
 namespace lurkwell {
 
+/// What people call the setting, a few words. Main thread.
+QString TitleOf(const Setting& setting);
+
+/// What the setting is for, a sentence; empty without a text. Main thread.
+QString MeaningOf(const Setting& setting);
+
 /// Every setting there is, a row each in the catalogue's order: what is stored, the default, and
 /// what it is for. Values are edited here, switches as check boxes, all others as text. Main thread
 /// only.

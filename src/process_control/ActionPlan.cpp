@@ -4,9 +4,9 @@
 #include <unordered_map>
 #include <utility>
 
+#include "consolidator/Applications.h"
 #include "consolidator/ProcessQueries.h"
 #include "consolidator/PropertyValues.h"
-#include "consolidator/SyntheticPids.h"
 #include "consolidator/WholeNames.h"
 #include "platform/Machine.h"
 #include "platform/ProcessTable.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/ProcessDescription.h"
+#include "platform/ProcessTable.h"
 #include "process_control/ProcessActions.h"
 
 /// What a command is about to do to several processes, whether the user has to be asked before, and

@@ -10,10 +10,12 @@
 #include "platform/Assertion.h"
 #include "platform/Diagnostics.h"
 #include "preferences/Settings.h"
-#include "process_control/Unit.h"
 
 namespace lurkwell {
 namespace {
+
+/// The source that its assertions name.
+constexpr char kFormatsUnit[] = "ProcessActions";
 
 enum class MemoryUnit : std::int32_t { kBytes = 1, kKilobytes, kMegabytes, kGigabytes };
 
@@ -59,7 +61,7 @@ int Write(char* out, std::size_t size, const char* prefix, std::int64_t value) {
     case MemoryUnit::kGigabytes:
       return std::snprintf(out, size, "%s%.2f G", prefix, InUnits(value, 1073741824));
   }
-  FailAssertion(kActionsUnit, __LINE__, "false");
+  FailAssertion(kFormatsUnit, __LINE__, "false");
 }
 
 /// Weekday, month, day, time of day, year and a newline: 25 characters until the year 9999.
@@ -95,7 +97,7 @@ std::string PreciseText(TimeValue time, std::int32_t width) {
 }  // namespace
 
 std::int32_t FormatMemoryString(std::int64_t value, char* out, std::int32_t maxlen, bool withSign) {
-  Require(maxlen > 20, kActionsUnit, "maxlen > 20");
+  Require(maxlen > 20, kFormatsUnit, "maxlen > 20");
   const char* prefix = "";
   if (withSign) prefix = value > 0 ? "+ " : value < 0 ? "- " : "  ";
   if (withSign && value < 0) value = Negated(value);
@@ -108,7 +110,7 @@ std::int32_t FormatMemoryString(std::int32_t value, char* out, std::int32_t maxl
 
 void FormatDateString(char* out, std::int32_t maxlen, std::int64_t seconds,
                       std::int32_t microseconds, std::int32_t width) {
-  Require(maxlen >= 26, kActionsUnit, "maxlen >= 26");
+  Require(maxlen >= 26, kFormatsUnit, "maxlen >= 26");
   const std::int32_t format = ReadInt("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT");
   std::string text;
   if (format == 1) {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 
 /// Texts for figures, in the user's preferred formats, which are read at every call. Main thread.
 /// Assertions are of the unit ProcessActions.

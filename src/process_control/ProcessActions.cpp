@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "channel/DaemonCommunication.h"
+#include "consolidator/Applications.h"
 #include "consolidator/ProcessQueries.h"
-#include "consolidator/SyntheticPids.h"
 #include "platform/Assertion.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
@@ -15,10 +15,11 @@
 #include "platform/ProcessManager.h"
 #include "platform/ProcessTable.h"
 #include "platform/Signals.h"
-#include "process_control/Unit.h"
 
 namespace lurkwell {
 namespace {
+
+constexpr char kActionsUnit[] = "ProcessActions";
 
 /// Of the command that is being carried out; null for a single action.
 DaemonConversation* gConversation = nullptr;

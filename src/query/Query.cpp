@@ -4,8 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "platform/TimeValue.h"
-#include "query/QueryTerm.h"
+#include "platform/Clock.h"
 
 namespace lurkwell {
 namespace {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,6 +11,7 @@
 #include <vector>
 
 #include "consolidator/TypedValue.h"
+#include "query/TextPattern.h"
 
 namespace lurkwell {
 
@@ -84,6 +86,25 @@ class Query {
 
   std::vector<std::vector<Term>> mAlternatives;
   std::vector<std::string> mProperties;
+};
+
+/// One condition of a query. It holds when one of its patterns or numbers does.
+struct Query::Term {
+  enum class Comparison : std::uint8_t { kIs, kIsNot, kLess, kLessOrIs, kMore, kMoreOrIs };
+
+  bool isNegated = false;
+  /// Empty for a plain word.
+  std::string property;
+  std::vector<TextPattern> patterns;
+  Comparison comparison = Comparison::kIs;
+  std::vector<double> numbers;
+
+  bool IsFulfilledBy(const QuerySubject& subject) const;
+
+ private:
+  bool Compares(double value, bool isFraction) const;
+  /// Whether it holds, apart from the negation; nothing where the value is missing.
+  std::optional<bool> Verdict(const QuerySubject& subject) const;
 };
 
 }  // namespace lurkwell

@@ -9,7 +9,6 @@
 #include "platform/FigureWords.h"
 #include "query/Query.h"
 #include "query/QueryKeys.h"
-#include "query/QueryTerm.h"
 
 namespace lurkwell {
 namespace {

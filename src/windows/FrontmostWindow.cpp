@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPointer>
+#include <utility>
 
 namespace lurkwell {
 namespace {
@@ -73,6 +74,20 @@ bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change) {
     return true;
   }
   return false;
+}
+
+namespace {
+
+std::function<void()> gShowMainWindow;
+
+}  // namespace
+
+void SetWayBack(std::function<void()> showMainWindow) {
+  gShowMainWindow = std::move(showMainWindow);
+}
+
+void GoBackToMainWindow() {
+  if (gShowMainWindow) gShowMainWindow();
 }
 
 }  // namespace lurkwell

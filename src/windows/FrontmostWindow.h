@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QWidget>
+#include <functional>
 
 namespace lurkwell {
 
@@ -28,5 +29,14 @@ enum class OrderChange {
 /// that came by itself takes the keyboard from no other program. False, and nothing changed, when
 /// there is no such window.
 bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change = OrderChange::kByUser);
+
+/// The way back to the main window for windows that have no menu bar, closed or minimised as the
+/// main window may be. Main thread.
+
+/// The application says how; null when it ends.
+void SetWayBack(std::function<void()> showMainWindow);
+
+/// Brings the main window to the front, with the keyboard. Nothing without an application.
+void GoBackToMainWindow();
 
 }  // namespace lurkwell

@@ -1,8 +1,12 @@
 #include "windows/PropertyText.h"
 
+#include <span>
 #include <string>
 
+#include "consolidator/WholeNames.h"
+#include "platform/Machine.h"
 #include "platform/PrintableText.h"
+#include "platform/ProcessTable.h"
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
 
@@ -118,6 +122,18 @@ QString DisplayText(PropertyType type, const TypedValue& value, int width, std::
       break;
   }
   return {};
+}
+
+FollowedProcess DescribeFollowed(std::int32_t pid) {
+  const auto described = TheMachine().processTable.Describe(std::span(&pid, 1));
+  if (described.empty()) return {};
+  const auto& process = described.front();
+  return {process.owner, PlainText(process.owner), PlainText(process.commandLine)};
+}
+
+QString FollowedName(std::int32_t pid) {
+  if (MayNameGoOn(pid)) LearnWholeNames(std::span(&pid, 1));
+  return PlainText(WholeNameOf(pid));
 }
 
 }  // namespace lurkwell

@@ -2,11 +2,11 @@
 
 #include <QString>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
-#include "consolidator/PropertyTypes.h"
 #include "consolidator/TypedValue.h"
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 
 namespace lurkwell {
 
@@ -38,5 +38,21 @@ QString MissingTip(std::string_view key, const TypedValue& value);
 /// The value as a number; 0 for texts and nothing.
 double NumberOf(const TypedValue& value);
 std::int64_t IntegerOf(const TypedValue& value);
+
+/// What tells a followed process from others of its name. Main thread; asking waits half a second
+/// at most, and what is not known by then, or at all, is empty.
+struct FollowedProcess {
+  /// The user whose rights it has, any bytes.
+  std::string owner;
+  /// The same, and its command line, for people.
+  QString ownerText;
+  QString commandText;
+};
+
+FollowedProcess DescribeFollowed(std::int32_t pid);
+
+/// The program's name for people, whole as far as it can be known; empty when there is no such
+/// process. The first one who asks for a long name waits for the machine as above.
+QString FollowedName(std::int32_t pid);
 
 }  // namespace lurkwell

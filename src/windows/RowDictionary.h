@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "consolidator/TypedValue.h"
+#include "platform/Clock.h"
 #include "platform/ProcessTable.h"
-#include "platform/TimeValue.h"
 #include "windows/Keys.h"
 
 namespace lurkwell {

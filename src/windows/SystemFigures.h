@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 
 namespace lurkwell {
 

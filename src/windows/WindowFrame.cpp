@@ -1,11 +1,15 @@
 #include "windows/WindowFrame.h"
 
+#include <QCloseEvent>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <string_view>
+#include <utility>
 
 #include "preferences/Settings.h"
 
@@ -32,7 +36,6 @@ void WriteWindowFrame(TextSetting setting, const QRect& frame, bool isMaximised)
 }
 
 QRect FitOnScreens(QRect frame, QSize borders) {
-  constexpr int kFarthest = 100'000;
   frame = {std::clamp(frame.left(), -kFarthest, kFarthest),
            std::clamp(frame.top(), -kFarthest, kFarthest), std::clamp(frame.width(), 1, kFarthest),
            std::clamp(frame.height(), 1, kFarthest)};
@@ -65,6 +68,22 @@ QRect FitOnScreens(QRect frame, QSize borders) {
 QSize FitOnScreens(QSize size) {
   const auto* screen = QGuiApplication::primaryScreen();
   return screen != nullptr ? size.boundedTo(screen->availableSize() - kBorders) : size;
+}
+
+ControlledWindow::ControlledWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setAttribute(Qt::WA_QuitOnClose, false);
+  // Not QKeySequence::Close, which some desktops have as another key.
+  connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, &QWidget::close);
+  connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this, [] {
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+  });
+}
+
+void ControlledWindow::closeEvent(QCloseEvent* event) {
+  event->accept();
+  if (const auto tell = std::exchange(willClose, nullptr)) tell();
 }
 
 }  // namespace lurkwell

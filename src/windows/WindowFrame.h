@@ -2,6 +2,8 @@
 
 #include <QRect>
 #include <QSize>
+#include <QWidget>
+#include <functional>
 
 #include "preferences/Settings.h"
 
@@ -20,11 +22,27 @@ void WriteWindowFrame(TextSetting setting, const QRect& frame, bool isMaximised)
 /// What window managers put around a window, in points, with some to spare.
 inline constexpr QSize kBorders(12, 40);
 
+/// Remembered places are made to lie this near to the screens' corner, in points.
+inline constexpr int kFarthest = 100'000;
+
 /// The same place where all of it lies on screens, else the nearest on the screen that has most of
 /// it, or on the main one. A window that is too large for its screen fills it but for `borders`,
 /// which stand around it. Any corners will do.
 QRect FitOnScreens(QRect frame, QSize borders = kBorders);
 /// The size made small enough for the main screen, with borders around it.
 QSize FitOnScreens(QSize size);
+
+/// A window beside the main one: Ctrl+W closes it, Ctrl+Q asks the application to quit, and closed,
+/// it deletes itself. Main thread only.
+class ControlledWindow : public QWidget {
+ public:
+  explicit ControlledWindow(QWidget* parent = nullptr);
+
+  /// Called when the window is being closed, once.
+  std::function<void()> willClose;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+};
 
 }  // namespace lurkwell

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <vector>
 
+#include "animated_view/Placement.h"
 #include "animated_view/QuintessentialInformationProcessInfo.h"
-#include "animated_view/RandomSource.h"
 
 // The layout as one would write it down, pair by pair, to compare the quick one with.
 namespace lurkwell::plain {

@@ -5,7 +5,6 @@
 #include <QTest>
 
 #include "animated_view/FlowControlFSMMgr.h"
-#include "animated_view/HotKey.h"
 #include "animated_view/OnADisplay.h"
 #include "animated_view/QuintessentialSupport.h"
 #include "animated_view/QuintessentialWindows.h"

@@ -12,10 +12,9 @@
 #include "classic/ClassicRecords.h"
 #include "desktop/TestBus.h"
 #include "platform/FileDescriptor.h"
-#include "platform/desktop/BusProbe.h"
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/DBusEventBus.h"
-#include "platform/desktop/EventMessage.h"
+#include "platform/desktop/SessionBus.h"
 #include "support/ChildProgram.h"
 #include "support/EventLoop.h"
 

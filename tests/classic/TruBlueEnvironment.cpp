@@ -31,7 +31,6 @@
 
 #include "platform/desktop/ClassicNames.h"
 #include "platform/desktop/DBusEventBus.h"
-#include "platform/desktop/EventMessage.h"
 #include "preferences/MacRoman.h"
 
 struct ListedApplication {

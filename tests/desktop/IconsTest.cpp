@@ -9,7 +9,7 @@
 #include "desktop/MadeUpProcesses.h"
 #include "desktop/TestDesktop.h"
 #include "platform/desktop/DesktopIconServices.h"
-#include "platform/desktop/WindowIcon.h"
+#include "platform/desktop/WindowList.h"
 
 namespace lurkwell {
 namespace {

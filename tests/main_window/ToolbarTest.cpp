@@ -13,7 +13,7 @@
 #include "main_window/MainToolbar.h"
 #include "main_window/MainWindowTest.h"
 #include "main_window/ToolbarCustomiseDialog.h"
-#include "main_window/ToolbarDrag.h"
+#include "main_window/ToolbarItems.h"
 
 namespace lurkwell {
 namespace {

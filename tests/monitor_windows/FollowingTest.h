@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "monitor_windows/FollowingWindows.h"
-#include "monitor_windows/LoggingWindowInformationClient2.h"
+#include "monitor_windows/LoggingRecord.h"
 #include "monitor_windows/LoggingWindowUI.h"
 #include "monitor_windows/ProcessWatchdog.h"
-#include "platform/simulated/SimulatedLogFiles.h"
+#include "platform/simulated/SimulatedServices.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "support/ConsolidatorTest.h"
 

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/linux/LinuxLogFiles.h"
+#include "platform/linux/LinuxServices.h"
 #include "support/TemporaryFolder.h"
 
 namespace lurkwell {

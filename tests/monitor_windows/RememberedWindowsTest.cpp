@@ -1,6 +1,6 @@
 // Records of windows in the preferences, damaged ones among them.
 #include "monitor_windows/FollowingTest.h"
-#include "monitor_windows/RememberedWindowsPanel.h"
+#include "monitor_windows/FollowingWindows.h"
 
 namespace lurkwell {
 namespace {

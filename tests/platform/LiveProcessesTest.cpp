@@ -19,9 +19,9 @@
 #include <vector>
 
 #include "platform/ProcessFigures.h"
-#include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/LinuxProcessTable.h"
-#include "platform/linux/LinuxSignals.h"
+#include "platform/linux/LinuxServices.h"
+#include "platform/linux/ProcFiles.h"
 #include "support/PidNamespace.h"
 #include "support/TemporaryFolder.h"
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "platform/linux/LinuxClock.h"
+#include "platform/linux/LinuxServices.h"
 #include "platform/linux/PollRunLoop.h"
 #include "support/RunLoopContract.h"
 

@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "platform/linux/LinuxTools.h"
-#include "platform/linux/ProcpsColumns.h"
+#include "platform/linux/ProcpsDialect.h"
 #include "support/PidNamespace.h"
 #include "support/TemporaryFolder.h"
 

@@ -8,7 +8,7 @@
 #include <random>
 
 #include "PreferenceTestSupport.h"
-#include "platform/simulated/SimulatedPreferenceDomain.h"
+#include "platform/simulated/SimulatedServices.h"
 #include "preferences/MacRoman.h"
 #include "preferences/PreferencesRetrieval.h"
 

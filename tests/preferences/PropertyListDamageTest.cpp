@@ -2,7 +2,6 @@
 
 #include "PreferenceTestSupport.h"
 #include "platform/linux/PropertyListDocument.h"
-#include "platform/linux/PropertyListScan.h"
 
 namespace lurkwell {
 namespace {

@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "preferences_window/IntervalScale.h"
+#include "preferences_window/PreferenceControls.h"
 
 namespace lurkwell {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "preferences/Settings.h"
 #include "preferences_window/PanelTest.h"
-#include "preferences_window/SettingTexts.h"
+#include "preferences_window/SettingsModel.h"
 
 namespace lurkwell {
 namespace {

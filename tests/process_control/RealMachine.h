@@ -5,15 +5,12 @@
 #include <string>
 
 #include "platform/Machine.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxNamedPipes.h"
 #include "platform/linux/LinuxProcessTable.h"
-#include "platform/linux/LinuxSignals.h"
+#include "platform/linux/LinuxServices.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/PolkitAuthorization.h"
 #include "platform/linux/PollRunLoop.h"
-#include "platform/linux/TerminalAlerts.h"
 #include "support/MachineOf.h"
 
 namespace lurkwell {

@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
 #include "query/Query.h"
 #include "query/TextPattern.h"
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/RunLoop.h"
-#include "platform/linux/LinuxClock.h"
+#include "platform/linux/LinuxServices.h"
 
 namespace lurkwell {
 

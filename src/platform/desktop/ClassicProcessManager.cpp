@@ -5,9 +5,9 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
-#include "platform/ClassicEvents.h"
+#include "platform/EventBus.h"
 #include "platform/desktop/ClassicNames.h"
-#include "platform/desktop/EventMessage.h"
+#include "platform/desktop/DBusEventBus.h"
 
 namespace lurkwell {
 namespace {

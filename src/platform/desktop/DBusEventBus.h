@@ -1,14 +1,31 @@
 #pragma once
 
+#include <QDBusMessage>
 #include <QDBusVirtualObject>
+#include <QString>
+#include <QVariantList>
 #include <chrono>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "platform/EventBus.h"
 #include "platform/desktop/SessionBus.h"
 
 namespace lurkwell {
+
+/// Events as messages of the bus; see ClassicNames.h for their form. Any thread.
+
+/// The arguments of Deliver.
+QVariantList EventArguments(const Event& event);
+
+/// What a call of Deliver carries; nothing when it is not of that form, has too many parameters or
+/// is larger than `mostBytes` altogether.
+std::optional<Event> ReadEvent(const QDBusMessage& message, std::size_t mostBytes);
+
+/// A code of exactly four Latin-1 characters; nothing from another text.
+std::optional<FourCharCode> CodeFromText(const QString& text);
+QString TextOfCode(FourCharCode code);
 
 /// Events over the session bus. Only programs of the same user are heard, at most 20 events a
 /// second, each of at most 4,096 records; what is more is dropped and counted. Without a bus there

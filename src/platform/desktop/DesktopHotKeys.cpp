@@ -7,7 +7,6 @@
 
 #include "platform/Diagnostics.h"
 #include "platform/desktop/GlobalShortcutsPortal.h"
-#include "platform/desktop/KeyCodes.h"
 #include "platform/desktop/XKeyGrabs.h"
 
 namespace lurkwell {

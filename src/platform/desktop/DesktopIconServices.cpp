@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/desktop/WindowIcon.h"
+#include "platform/desktop/WindowList.h"
 
 namespace lurkwell {
 namespace {

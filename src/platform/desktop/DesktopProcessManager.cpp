@@ -12,9 +12,7 @@
 #include "platform/desktop/KnownApplications.h"
 #include "platform/desktop/ProcFolder.h"
 #include "platform/desktop/WindowActions.h"
-#include "platform/desktop/WindowIcon.h"
 #include "platform/desktop/WindowList.h"
-#include "platform/desktop/XSession.h"
 
 namespace lurkwell {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "platform/Screen.h"
 #include "platform/desktop/DesktopSettings.h"
-#include "platform/desktop/XLink.h"
+#include "platform/desktop/XConnection.h"
 
 namespace lurkwell {
 

@@ -8,7 +8,7 @@
 #include <QDBusPendingReply>
 #include <QTimer>
 
-#include "platform/desktop/BusProbe.h"
+#include "platform/desktop/SessionBus.h"
 
 namespace lurkwell {
 namespace {

@@ -4,6 +4,7 @@
 #include <QDBusServiceWatcher>
 #include <QHash>
 #include <QObject>
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -54,5 +55,12 @@ class ServiceOwner final : public QObject {
   bool mHasHeard = false;
   bool mIsAsking = false;
 };
+
+/// Whether something answers at the first of a message bus's addresses (";" between them) that does
+/// not refuse, asked on a connection that is closed again. The bus library itself would wait for
+/// one that hangs as long as it likes. Addresses other than sockets of this machine count as
+/// answering. Waits `longest` at most.
+bool DoesBusAnswer(const std::string& addresses,
+                   std::chrono::milliseconds longest = std::chrono::seconds(2));
 
 }  // namespace lurkwell

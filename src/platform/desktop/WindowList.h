@@ -2,7 +2,11 @@
 
 #include <xcb/xcb.h>
 
+#include <chrono>
 #include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -69,5 +73,41 @@ class WindowList {
   std::unordered_map<xcb_window_t, DesktopWindow> mWindows;
   std::unordered_set<xcb_window_t> mChanged;
 };
+
+/// The X server as it comes and goes: connects when there is none, gives up one that is lost, and
+/// tries again later. Never waits longer than a fraction of a second. Main thread only.
+class XSession {
+ public:
+  XSession(std::string display, std::string hostName, std::chrono::milliseconds retryInterval);
+
+  /// Takes in what is new; true when any window came, went or changed, or all of them went.
+  bool Refresh();
+
+  /// Null while there is no server; until the next refresh.
+  XConnection* Connection() const { return mLink.Connection(); }
+  WindowList* Windows() const { return mWindows.get(); }
+
+ private:
+  std::string mHostName;
+  XLink mLink;
+  std::unique_ptr<WindowList> mWindows;
+};
+
+/// One picture within a window's list of icons: rows from the top, pixels 0xAARRGGBB.
+struct WindowIcon {
+  int width = 0;
+  int height = 0;
+  std::span<const std::uint32_t> pixels;
+};
+
+/// The icons of the first of these windows that carries any, as it has them, or as many as can be
+/// asked for in reason.
+std::vector<std::uint32_t> ReadWindowIcons(XConnection& connection,
+                                           const std::vector<xcb_window_t>& windows);
+
+/// The smallest icon of a list that is at least `size` pixels wide and high, else the largest one;
+/// nothing when there is none. The list may hold anything: it counts up to the first icon that is
+/// not wholly there or has no sensible size. Pure; any thread.
+std::optional<WindowIcon> BestWindowIcon(std::span<const std::uint32_t> icons, int size);
 
 }  // namespace lurkwell

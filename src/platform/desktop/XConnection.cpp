@@ -8,7 +8,10 @@
 #include <algorithm>
 #include <cstring>
 #include <string_view>
+#include <thread>
 #include <utility>
+
+#include "platform/QuietThread.h"
 
 namespace lurkwell {
 namespace {
@@ -221,6 +224,48 @@ std::vector<std::uint32_t> PropertyWords(const xcb_get_property_reply_t* reply) 
   std::vector<std::uint32_t> words(length / sizeof(std::uint32_t));
   std::memcpy(words.data(), xcb_get_property_value(reply), words.size() * sizeof(std::uint32_t));
   return words;
+}
+
+namespace {
+
+/// The thread's owner may be gone before a server that hangs lets it end, and nothing can end it
+/// sooner; so it owns all it uses. Where there are no threads left the promise is broken, which
+/// counts as no server.
+std::future<std::unique_ptr<XConnection>> OpenInBackground(const std::string& display) {
+  auto promise = std::make_shared<std::promise<std::unique_ptr<XConnection>>>();
+  auto future = promise->get_future();
+  auto thread = StartWithoutSignals(
+      [promise = std::move(promise), display] { promise->set_value(XConnection::Open(display)); });
+  if (thread.joinable()) thread.detach();
+  return future;
+}
+
+}  // namespace
+
+XLink::XLink(std::string display, std::chrono::milliseconds retryInterval)
+    : mDisplay(std::move(display)), mRetryInterval(retryInterval) {}
+
+XConnection* XLink::Connect(std::chrono::milliseconds longestWait) {
+  if (mConnection) return mConnection.get();
+  auto wait = std::chrono::milliseconds::zero();
+  if (!mOpening.valid()) {
+    if (Clock::now() < mNextTry) return nullptr;
+    mOpening = OpenInBackground(mDisplay);
+    wait = longestWait;
+  }
+  if (mOpening.wait_for(wait) != std::future_status::ready) return nullptr;
+  try {
+    mConnection = mOpening.get();
+  } catch (const std::future_error&) {
+    mConnection = nullptr;
+  }
+  mNextTry = Clock::now() + mRetryInterval;
+  return mConnection.get();
+}
+
+void XLink::Drop() {
+  mConnection.reset();
+  mNextTry = Clock::now() + mRetryInterval;
 }
 
 }  // namespace lurkwell

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
+#include <future>
 #include <memory>
 #include <string>
 #include <vector>
@@ -67,7 +68,7 @@ class XConnection {
   using Deadline = std::chrono::steady_clock::time_point;
 
   /// Connects and prepares; null when that fails. Connecting itself may wait for ever for a server
-  /// that hangs: see XSession.
+  /// that hangs: see XLink.
   static std::unique_ptr<XConnection> Open(const std::string& display);
   ~XConnection();
   XConnection(const XConnection&) = delete;
@@ -141,5 +142,38 @@ std::string PropertyText(const xcb_get_property_reply_t* reply);
 
 /// The units of a property of 32-bit units; none for any other.
 std::vector<std::uint32_t> PropertyWords(const xcb_get_property_reply_t* reply);
+
+/// One connection to an X server that may be slow, hang, or come and go: made in the background,
+/// and tried for again at intervals. Main thread only.
+///
+/// Windows, screen and hot keys have a link each. A connection that did not answer one of them in
+/// time is closed, which gives back all that it held: the keys must not be lost with a question
+/// about a window, nor the windows that are watched with a key. What is told on one is for its
+/// owner alone, too.
+class XLink {
+ public:
+  XLink(std::string display, std::chrono::milliseconds retryInterval);
+
+  /// The connection, also one that has been lost; null while there is none.
+  XConnection* Connection() const { return mConnection.get(); }
+
+  /// Connects when there is no connection and it is time to try. The wait for a new try is half a
+  /// second at most, less with `longestWait`; one that takes longer goes on, and a later call
+  /// finds its result. Null while there is none.
+  XConnection* Connect(std::chrono::milliseconds longestWait = std::chrono::milliseconds(500));
+
+  /// Closes the connection, which gives back all that the server held for it; the next try is an
+  /// interval away.
+  void Drop();
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  std::string mDisplay;
+  std::chrono::milliseconds mRetryInterval;
+  Clock::time_point mNextTry{};
+  std::future<std::unique_ptr<XConnection>> mOpening;
+  std::unique_ptr<XConnection> mConnection;
+};
 
 }  // namespace lurkwell

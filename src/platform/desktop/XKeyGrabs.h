@@ -6,12 +6,17 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "platform/desktop/XLink.h"
+#include "platform/desktop/XConnection.h"
 
 namespace lurkwell {
+
+/// The X key symbol of a key that preferences name by its number on the keyboards they are written
+/// for: the function keys, the letters, the digits and a few more. Nothing for any other number.
+std::optional<std::uint32_t> KeySymbolOf(std::uint32_t virtualKeyCode);
 
 /// Keys that an X server sends to us whatever window has the keyboard, over a connection of its
 /// own. Locks (caps, num, scroll) do not matter, a key that is held counts once, a keyboard that is

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "platform/ProcStat.h"
 #include "platform/linux/DetailsFiles.h"
-#include "platform/linux/ProcStat.h"
 
 namespace lurkwell {
 namespace {

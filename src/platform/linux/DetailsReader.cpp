@@ -12,11 +12,11 @@
 #include <utility>
 
 #include "platform/FileDescriptor.h"
+#include "platform/ProcStat.h"
 #include "platform/linux/ControlGroupLimits.h"
 #include "platform/linux/DetailsFiles.h"
 #include "platform/linux/DetailsText.h"
 #include "platform/linux/ProcFiles.h"
-#include "platform/linux/ProcStat.h"
 #include "platform/linux/UnitFiles.h"
 
 namespace lurkwell {

@@ -7,8 +7,8 @@
 #include <charconv>
 #include <utility>
 
+#include "platform/ProcStat.h"
 #include "platform/linux/DetailsFiles.h"
-#include "platform/linux/ProcStat.h"
 
 namespace lurkwell {
 namespace {

@@ -12,7 +12,7 @@
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessIdentity.h"
 #include "platform/linux/CommandName.h"
-#include "platform/linux/RunMark.h"
+#include "platform/linux/ProcFiles.h"
 #include "platform/linux/UnitFiles.h"
 
 namespace lurkwell {
@@ -38,9 +38,9 @@ struct KnownProcess {
   class Readings {
    public:
     const Reading& operator[](FigureSource source) const {
-      static const Reading kNever;
+      static const Reading kUnread;
       const auto place = Placed(source);
-      return place < mReadings.size() ? mReadings[place] : kNever;
+      return place < mReadings.size() ? mReadings[place] : kUnread;
     }
     Reading& operator[](FigureSource source) {
       const auto place = Placed(source);

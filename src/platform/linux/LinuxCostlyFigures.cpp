@@ -16,7 +16,7 @@
 #include <utility>
 
 #include "platform/linux/CostlyReader.h"
-#include "platform/linux/QuietThread.h"
+#include "platform/QuietThread.h"
 
 namespace lurkwell {
 namespace {

@@ -1,12 +1,47 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/HostStatistics.h"
-#include "platform/linux/MachineReader.h"
 #include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
+
+/// Reads figures of the machine as a whole from /proc and /sys. Only files that everybody may read,
+/// and no sensor of a device that sleeps, which reading would wake. Main thread.
+class MachineReader {
+ public:
+  /// Folders like /proc and /sys.
+  MachineReader(const std::string& proc, std::string sys);
+
+  MachineFigures Read(MachineSources wanted);
+
+ private:
+  void ReadProcessorTimes(MachineFigures& figures);
+  void ReadMemory(MachineFigures& figures);
+  void ReadDisks(MachineFigures& figures);
+  void ReadInterfaces(MachineFigures& figures);
+  std::optional<PressureShares> ReadPressure(const char* file);
+  void ReadLoad(MachineFigures& figures);
+  void ReadTemperatures(MachineFigures& figures);
+  void ReadFrequencies(MachineFigures& figures);
+  void ReadLimits(MachineFigures& figures);
+  void ReadLimitsOf(const std::string& folder, const std::string& path, bool isUnified,
+                    MachineLimits& limits);
+
+  std::string Line(const std::string& path);
+  std::optional<std::int64_t> Number(const std::string& path);
+
+  ProcFiles mProc;
+  const std::string mSys;
+  ProcFiles mSysFiles;
+};
+
+/// The number behind `name` at the beginning of a line; nothing for a negative one.
+std::optional<std::int64_t> NumberOf(std::string_view text, std::string_view name);
 
 /// From /proc/meminfo and /proc/vmstat. Free is MemFree; inactive is what is available besides;
 /// wired is what cannot be reclaimed: slab, kernel stacks, page tables, locked pages. Pageouts are

@@ -1,21 +1,17 @@
 #pragma once
 
 #include "platform/Machine.h"
-#include "platform/linux/LinuxBundle.h"
-#include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxCostlyFigures.h"
 #include "platform/linux/LinuxHostStatistics.h"
-#include "platform/linux/LinuxLogFiles.h"
 #include "platform/linux/LinuxNamedPipes.h"
 #include "platform/linux/LinuxProcessDetails.h"
 #include "platform/linux/LinuxProcessTable.h"
-#include "platform/linux/LinuxSignals.h"
+#include "platform/linux/LinuxServices.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/NoDesktop.h"
 #include "platform/linux/PolkitAuthorization.h"
 #include "platform/linux/PollRunLoop.h"
 #include "platform/linux/PropertyListDomain.h"
-#include "platform/linux/TerminalAlerts.h"
 
 namespace lurkwell {
 

@@ -2,10 +2,31 @@
 
 #include <string>
 
+#include "platform/FileDescriptor.h"
 #include "platform/NamedPipes.h"
-#include "platform/linux/PipeFolder.h"
 
 namespace lurkwell {
+
+/// A fresh folder of mode 0700 for named pipes, below $XDG_RUNTIME_DIR or else the temporary
+/// folder, where nobody but the user and root can exchange it. It is locked while it is in use: a
+/// folder of the user's with pipes in it that nobody has locked is what a killed program left, and
+/// goes when the next one is made. Main thread.
+class PipeFolder {
+ public:
+  PipeFolder() = default;
+  ~PipeFolder() { RemoveIfEmpty(); }
+  PipeFolder(const PipeFolder&) = delete;
+  PipeFolder& operator=(const PipeFolder&) = delete;
+
+  /// Sees to it that there is one; it may have been cleared away while the program ran.
+  bool Make();
+  const std::string& Path() const { return mPath; }
+  void RemoveIfEmpty();
+
+ private:
+  std::string mPath;
+  FileDescriptor mLock;
+};
 
 /// FIFOs in a fresh folder of the program's own, which goes with its last pipe. A pipe that cannot
 /// hold an answer in one piece (8 KiB) is refused when it is opened.

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "platform/QuietThread.h"
 #include "platform/linux/DetailsReader.h"
-#include "platform/linux/QuietThread.h"
 
 namespace lurkwell {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/FileDescriptor.h"
-#include "platform/linux/ProcpsColumns.h"
+#include "platform/linux/ProcpsDialect.h"
 #include "platform/linux/ToolProcess.h"
 
 namespace lurkwell {

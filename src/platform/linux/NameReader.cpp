@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "platform/linux/CommandName.h"
-#include "platform/linux/QuietThread.h"
+#include "platform/QuietThread.h"
 
 namespace lurkwell {
 namespace {

@@ -8,7 +8,7 @@
 #include <limits>
 #include <vector>
 
-#include "platform/FireDate.h"
+#include "platform/RunLoop.h"
 
 namespace lurkwell {
 namespace {

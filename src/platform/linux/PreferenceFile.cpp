@@ -13,7 +13,7 @@
 #include <random>
 #include <vector>
 
-#include "platform/linux/PropertyListScan.h"
+#include "platform/linux/PropertyListDocument.h"
 
 namespace lurkwell {
 namespace {

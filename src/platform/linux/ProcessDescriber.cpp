@@ -17,7 +17,7 @@
 
 #include "platform/ProcStat.h"
 #include "platform/linux/CommandName.h"
-#include "platform/linux/QuietThread.h"
+#include "platform/QuietThread.h"
 #include "platform/linux/UserNames.h"
 
 namespace lurkwell {

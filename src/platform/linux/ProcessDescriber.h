@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/ProcessDescription.h"
+#include "platform/ProcessTable.h"
 #include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {

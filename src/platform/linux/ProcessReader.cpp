@@ -12,7 +12,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/linux/DescriptorLimit.h"
+#include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
 namespace {

@@ -1,16 +1,42 @@
 #pragma once
 
+#include <chrono>
 #include <set>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "platform/FileDescriptor.h"
 #include "platform/PreferenceDomain.h"
-#include "platform/linux/FileLock.h"
 #include "platform/linux/PreferenceFile.h"
 #include "platform/linux/PropertyListDocument.h"
 
 namespace lurkwell {
+
+/// An advisory lock between running instances, on a file of its own. Goes with the object or its
+/// process, whichever ends first; the file stays. Any thread.
+class FileLock {
+ public:
+  enum class State {
+    kHeld,
+    kBusy,         ///< another process held it all the time
+    kUnavailable,  ///< the file cannot be opened or locked
+  };
+
+  /// Opens `path` (made with mode 0600 where it is missing; its folder must exist; a link is not
+  /// followed) and takes the lock, trying for at most `patience`; zero makes one try. An instance
+  /// that comes while others wait lets one of them go first.
+  FileLock(const std::string& path, std::chrono::milliseconds patience);
+
+  State Outcome() const { return mState; }
+
+ private:
+  bool Try();
+  void WaitInTheCrowd(std::chrono::milliseconds patience);
+
+  FileDescriptor mFile;
+  State mState = State::kUnavailable;
+};
 
 /// The user's folder for settings: $XDG_CONFIG_HOME where that is absolute, else .config in the
 /// home folder; empty when there is no home.

@@ -10,7 +10,7 @@
 #include <mutex>
 #include <utility>
 
-#include "platform/linux/QuietThread.h"
+#include "platform/QuietThread.h"
 
 namespace lurkwell {
 namespace {

@@ -1,12 +1,9 @@
 #include "platform/simulated/SimulatedRunLoop.h"
 
 #include <cmath>
-#include <limits>
 
 namespace lurkwell {
 namespace {
-
-constexpr double kNever = std::numeric_limits<double>::infinity();
 
 TimeValue TimeOf(double date) {
   const auto microseconds = static_cast<std::int64_t>(std::llround(date * 1e6));

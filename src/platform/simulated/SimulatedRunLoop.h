@@ -3,10 +3,24 @@
 #include <cstdint>
 #include <list>
 
+#include "platform/Clock.h"
 #include "platform/RunLoop.h"
-#include "platform/simulated/SimulatedClock.h"
 
 namespace lurkwell {
+
+/// A clock that stands still until the test moves it. Starts at 1,000,000,000 seconds after the
+/// epoch.
+class SimulatedClock final : public Clock {
+ public:
+  TimeValue Now() override { return mNow; }
+  TimeValue CalendarNow() override { return mNow; }
+
+  void Set(TimeValue now) { mNow = now; }
+  void Advance(std::int64_t milliseconds) { mNow = AddMilliseconds(mNow, milliseconds); }
+
+ private:
+  TimeValue mNow{1'000'000'000, 0};
+};
 
 /// A run loop on a simulated clock: timers fire in the order of their dates, those of one date in
 /// the order in which they were added, and the clock jumps from date to date.

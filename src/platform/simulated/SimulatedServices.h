@@ -1,8 +1,21 @@
 #pragma once
 
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
+#include "platform/Alerts.h"
+#include "platform/Authorization.h"
+#include "platform/Bundle.h"
 #include "platform/HostStatistics.h"
+#include "platform/LogFiles.h"
+#include "platform/PreferenceDomain.h"
 #include "platform/Signals.h"
 #include "platform/simulated/AccessLog.h"
 
@@ -45,6 +58,186 @@ class SimulatedSignals final : public Signals {
 
  private:
   AccessLog& mLog;
+};
+
+/// An administrator who consents to everything unless the test says otherwise.
+class SimulatedAuthorization final : public Authorization {
+ public:
+  /// What happens when a program is to be run with privilege: true when it was.
+  using Outcome = std::function<bool(const std::string& path, const std::vector<std::string>&)>;
+
+  explicit SimulatedAuthorization(AccessLog& log) : mLog(log) {}
+
+  std::unique_ptr<AuthorizationReference> Create() override;
+  bool ExecuteWithPrivileges(AuthorizationReference& reference, const std::string& path,
+                             const std::vector<std::string>& arguments) override;
+  /// At once.
+  Step StepState() override { return Step::kDone; }
+  std::string FailureReason() const override { return mReason; }
+  Remedy FailureRemedy() const override { return mRemedy; }
+  bool IsAsking() override { return mAnswersUntilAsked-- > 0; }
+  int CollectChild() override;
+
+  void OnExecute(Outcome outcome) { mOutcome = std::move(outcome); }
+  /// What FailureReason and FailureRemedy give after a refusal.
+  void SetReason(std::string reason, Remedy remedy = Remedy::kAskAgain) {
+    mReason = std::move(reason);
+    mRemedy = remedy;
+  }
+  /// How many more times IsAsking is true.
+  void AsksFor(int times) { mAnswersUntilAsked = times; }
+
+ private:
+  AccessLog& mLog;
+  Outcome mOutcome = [](const auto&, const auto&) { return true; };
+  Remedy mRemedy = Remedy::kAskAgain;
+  std::string mReason = "the administrator refused";
+  int mAnswersUntilAsked = 0;
+  int mChildren = 0;
+};
+
+/// Folders that the test names; nothing there is made or looked at. Without a name the bundle is
+/// "/Lurkwell.app" and there is no folder for application data.
+class SimulatedBundle final : public Bundle {
+ public:
+  std::string Path() const override { return mPath; }
+  std::optional<std::string> ApplicationSupportFolder() const override { return mSupport; }
+
+  void SetPath(std::string path) { mPath = std::move(path); }
+  void SetApplicationSupportFolder(std::optional<std::string> folder) {
+    mSupport = std::move(folder);
+  }
+
+ private:
+  std::string mPath = "/Lurkwell.app";
+  std::optional<std::string> mSupport;
+};
+
+/// A user who answers alerts from a list; when it is used up, with the last button that is there.
+class SimulatedAlerts final : public Alerts {
+ public:
+  explicit SimulatedAlerts(AccessLog& log) : mLog(log) {}
+
+  AlertButton RunAlertPanel(const std::string& title, const std::string& message,
+                            const std::string& defaultButton, const std::string& alternateButton,
+                            const std::string& otherButton) override {
+    mLog.Add("Alerts.RunAlertPanel \"" + title + "\" \"" + message + "\" [" + defaultButton + "|" +
+             alternateButton + "|" + otherButton + "]");
+    if (!mAnswers.empty()) {
+      const AlertButton answer = mAnswers.front();
+      mAnswers.pop_front();
+      return answer;
+    }
+    if (!otherButton.empty()) return AlertButton::kOther;
+    return alternateButton.empty() ? AlertButton::kDefault : AlertButton::kAlternate;
+  }
+
+  /// Answered at once, as RunAlertPanel is.
+  std::unique_ptr<Alert> Ask(const AlertText& text,
+                             std::function<void(AlertAnswer)> answered) override {
+    const auto button = RunAlertPanel(text.title, text.message, text.defaultButton,
+                                      text.alternateButton, text.otherButton);
+    answered(static_cast<AlertAnswer>(button));
+    return nullptr;
+  }
+
+  void WillAnswer(std::deque<AlertButton> answers) { mAnswers = std::move(answers); }
+
+ private:
+  AccessLog& mLog;
+  std::deque<AlertButton> mAnswers;
+};
+
+/// Log files in memory, on a disk that refuses when the test says so. Outlives its files.
+class SimulatedLogFiles final : public LogFiles {
+ public:
+  Creation Create(std::string_view name) override {
+    if (!mProblem.empty()) return {nullptr, mProblem};
+    auto path = "/logs/" + std::string(name) + ".tsv";
+    mTexts[path] = "";
+    return {std::make_unique<File>(*this, std::move(path)), {}};
+  }
+
+  /// Everything fails with these words from now on; works again with none.
+  void Refuse(std::string problem) { mProblem = std::move(problem); }
+
+  /// What the files hold, by path.
+  const std::map<std::string, std::string>& Texts() const { return mTexts; }
+  int OpenFiles() const { return mOpen; }
+
+ private:
+  class File final : public LogFile {
+   public:
+    File(SimulatedLogFiles& disk, std::string path) : mDisk(disk), mPath(std::move(path)) {
+      ++mDisk.mOpen;
+    }
+    ~File() override { --mDisk.mOpen; }
+
+    const std::string& Path() const override { return mPath; }
+    std::string Append(std::string_view line) override {
+      if (mDisk.mProblem.empty()) mDisk.mTexts[mPath] += std::string(line) + '\n';
+      return mDisk.mProblem;
+    }
+
+   private:
+    SimulatedLogFiles& mDisk;
+    std::string mPath;
+  };
+
+  std::map<std::string, std::string> mTexts;
+  std::string mProblem;
+  int mOpen = 0;
+};
+
+/// Settings in memory only. Main thread.
+class SimulatedPreferenceDomain final : public PreferenceDomain {
+ public:
+  const PreferenceValue* Value(std::string_view key) override {
+    ++mLookUpCount;
+    const auto at = mValues.find(key);
+    return at != mValues.end() ? &at->second : nullptr;
+  }
+
+  void SetValue(std::string_view key, PreferenceValue value) override {
+    mValues.insert_or_assign(std::string(key), std::move(value));
+    ++mUnsynchronized;
+  }
+
+  void RemoveValue(std::string_view key) override {
+    const auto at = mValues.find(key);
+    if (at == mValues.end()) return;
+    mValues.erase(at);
+    ++mUnsynchronized;
+  }
+
+  bool Synchronize() override {
+    ++mSynchronizeCount;
+    if (mRefusesToSynchronize) return false;
+    mUnsynchronized = 0;
+    return true;
+  }
+
+  /// From now on Synchronize fails (or works again); values go on counting in memory.
+  void RefuseToSynchronize(bool refuses) { mRefusesToSynchronize = refuses; }
+
+  /// How often Synchronize was called, refused calls included.
+  std::uint64_t SynchronizeCount() const { return mSynchronizeCount; }
+
+  /// How often Value was called.
+  std::uint64_t LookUpCount() const { return mLookUpCount; }
+
+  /// How many SetValue calls no Synchronize has covered yet.
+  std::uint64_t UnsynchronizedCount() const { return mUnsynchronized; }
+
+  /// Everything stored, by key.
+  const std::map<std::string, PreferenceValue, std::less<>>& Values() const { return mValues; }
+
+ private:
+  std::map<std::string, PreferenceValue, std::less<>> mValues;
+  std::uint64_t mLookUpCount = 0;
+  std::uint64_t mSynchronizeCount = 0;
+  std::uint64_t mUnsynchronized = 0;
+  bool mRefusesToSynchronize = false;
 };
 
 }  // namespace lurkwell
