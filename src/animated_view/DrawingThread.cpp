@@ -27,7 +27,7 @@ DrawingThread::~DrawingThread() {
 
 void DrawingThread::Wake() {
   {
-    const std::lock_guard lock(mWakeMutex);
+    const MutexLock lock(mWakeMutex);
     mWoken = true;
   }
   mWakeCondition.notify_all();
@@ -42,12 +42,12 @@ std::chrono::microseconds DrawingThread::Rest(std::int32_t intervalMilliseconds,
 }
 
 void DrawingThread::OpenGLDrawingThread(const std::stop_token& stop) {
-  std::unique_lock inside(gQuintessentialMutex);
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
   while (!IsEnding(stop)) {
     const auto frameStart = Clock::now();
     auto* source = Visible();
     if (source != nullptr && !gQuintessentialWindowIsBeingResized) source->InternalDraw();
-    RestUntilNextFrame(stop, frameStart, inside);
+    RestUntilNextFrame(stop, frameStart);
   }
 }
 
@@ -55,8 +55,7 @@ bool DrawingThread::IsEnding(const std::stop_token& stop) const {
   return stop.stop_requested() || gApplicationQuitting;
 }
 
-void DrawingThread::RestUntilNextFrame(const std::stop_token& stop, Clock::time_point frameStart,
-                                       std::unique_lock<CriticalRegion>& inside) {
+void DrawingThread::RestUntilNextFrame(const std::stop_token& stop, Clock::time_point frameStart) {
   const auto elapsed = [&] {
     return std::chrono::duration<double, std::milli>(Clock::now() - frameStart);
   };
@@ -64,9 +63,9 @@ void DrawingThread::RestUntilNextFrame(const std::stop_token& stop, Clock::time_
     const auto* source = Visible();
     std::optional<std::chrono::microseconds> time;
     if (source != nullptr) time = Rest(source->GLThreadInterval(), elapsed());
-    inside.unlock();
+    gQuintessentialMutex.Exit();
     const bool woken = Sleep(stop, time);
-    inside.lock();
+    gQuintessentialMutex.Enter();
     source = Visible();
     if (woken || IsEnding(stop)) return;
     if (source != nullptr && elapsed().count() >= source->GLThreadInterval()) return;
@@ -75,12 +74,12 @@ void DrawingThread::RestUntilNextFrame(const std::stop_token& stop, Clock::time_
 
 bool DrawingThread::Sleep(const std::stop_token& stop,
                           std::optional<std::chrono::microseconds> time) {
-  std::unique_lock lock(mWakeMutex);
-  const auto isWoken = [this] { return mWoken; };
+  MutexLock lock(mWakeMutex);
+  const auto isWoken = [this]() LURKWELL_REQUIRES(mWakeMutex) { return mWoken; };
   if (time) {
-    mWakeCondition.wait_for(lock, stop, *time, isWoken);
+    lock.WaitFor(mWakeCondition, stop, *time, isWoken);
   } else {
-    mWakeCondition.wait(lock, stop, isWoken);
+    lock.Wait(mWakeCondition, stop, isWoken);
   }
   return std::exchange(mWoken, false);
 }

@@ -3,12 +3,13 @@
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
-#include <mutex>
 #include <optional>
 #include <stop_token>
 #include <thread>
 
-#include "platform/CriticalRegion.h"
+#include "animated_view/QuintessentialGlobals.h"
+#include "platform/Mutex.h"
+#include "platform/ThreadSafety.h"
 
 namespace lurkwell {
 
@@ -16,10 +17,10 @@ namespace lurkwell {
 class FrameSource {
  public:
   virtual ~FrameSource() = default;
-  virtual void InternalDraw() = 0;
+  virtual void InternalDraw() LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
   virtual bool IsPaused() const = 0;
   /// Milliseconds from the beginning of one frame to that of the next.
-  virtual std::int32_t GLThreadInterval() const = 0;
+  virtual std::int32_t GLThreadInterval() const LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
 };
 
 /// The thread that draws the animated view: a frame, a rest outside gQuintessentialMutex, and so
@@ -45,17 +46,18 @@ class DrawingThread {
   using Clock = std::chrono::steady_clock;
 
   void OpenGLDrawingThread(const std::stop_token& stop);
-  /// What there is to draw now, or null. Inside the mutex.
-  FrameSource* Visible() const;
+  /// What there is to draw now, or null.
+  FrameSource* Visible() const LURKWELL_REQUIRES(gQuintessentialMutex);
   bool IsEnding(const std::stop_token& stop) const;
-  void RestUntilNextFrame(const std::stop_token& stop, Clock::time_point frameStart,
-                          std::unique_lock<CriticalRegion>& inside);
+  /// Leaves the mutex meanwhile.
+  void RestUntilNextFrame(const std::stop_token& stop, Clock::time_point frameStart)
+      LURKWELL_REQUIRES(gQuintessentialMutex);
   bool Sleep(const std::stop_token& stop, std::optional<std::chrono::microseconds> time);
 
   FrameSource* (*mSource)();
-  std::mutex mWakeMutex;
+  Mutex mWakeMutex;
   std::condition_variable_any mWakeCondition;
-  bool mWoken = false;
+  bool mWoken LURKWELL_GUARDED_BY(mWakeMutex) = false;
   std::jthread mThread;
 };
 

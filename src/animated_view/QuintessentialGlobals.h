@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/CriticalRegion.h"
+#include "platform/ThreadSafety.h"
 
 namespace lurkwell {
 
@@ -29,12 +30,11 @@ inline std::atomic<bool> gQuintessentialWindowIsBeingResized{false};
 /// A change between window and overlay is under way. Main thread.
 inline bool gToggleFullscreenInProgress = false;
 
-/// The largest picture that the drawing can make, in pixels; 0 until the first frame. Inside the
-/// mutex.
+/// The largest picture that the drawing can make, in pixels; 0 until the first frame.
 struct ViewportDimensions {
   std::int32_t width = 0;
   std::int32_t height = 0;
 };
-inline ViewportDimensions gOpenGLViewportMaxDimensions;
+inline ViewportDimensions gOpenGLViewportMaxDimensions LURKWELL_GUARDED_BY(gQuintessentialMutex);
 
 }  // namespace lurkwell

@@ -2,9 +2,11 @@
 
 #include <cstdint>
 
+#include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/QuintessentialInformationProcessInfo.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "platform/Clock.h"
+#include "platform/ThreadSafety.h"
 
 namespace lurkwell {
 
@@ -13,8 +15,7 @@ class WatchedRecords {
  public:
   virtual ~WatchedRecords() = default;
   virtual bool IsPaused() const = 0;
-  /// Changes inside gQuintessentialMutex.
-  virtual QipiList& qipiList() = 0;
+  virtual QipiList& qipiList() LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
   virtual void WatcherIsGone() = 0;
 };
 

@@ -3,7 +3,9 @@
 #include <memory>
 #include <string>
 
+#include "animated_view/QuintessentialGlobals.h"
 #include "platform/IconServices.h"
+#include "platform/ThreadSafety.h"
 
 namespace lurkwell {
 
@@ -17,15 +19,15 @@ struct FrameSize {
 
 /// What the animated view's engine asks of its windows and of the program. The current view is the
 /// overlay's while gQuintessentialViewIsFullScreenOverlay is set, else the window's. Main thread,
-/// unless a function says otherwise; "locked" means that the caller is inside gQuintessentialMutex.
+/// unless a function says otherwise.
 class QuintessentialHost {
  public:
   virtual ~QuintessentialHost() = default;
 
-  /// Whether there is a current view to ask about. Any thread, locked.
-  virtual bool HasCurrentView() const = 0;
-  /// The frame of the current view's window. Any thread, locked.
-  virtual FrameSize CurrentWindowFrame() const = 0;
+  /// Whether there is a current view to ask about. Any thread.
+  virtual bool HasCurrentView() const LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
+  /// The frame of the current view's window. Any thread.
+  virtual FrameSize CurrentWindowFrame() const LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
   virtual void CloseCurrentWindow() = 0;
   /// Prepares the overlay's window, when the current one is that.
   virtual void SetUpOverlayStuff() = 0;
@@ -36,10 +38,10 @@ class QuintessentialHost {
   /// Shows the view in the mode that is set.
   virtual void doShowQuintessentialView() = 0;
 
-  /// Makes the current view's drawing context the calling thread's. Locked.
-  virtual void MakeContextCurrent() = 0;
-  /// Draws one frame of the current view. Drawing thread, locked.
-  virtual void InternalDraw() = 0;
+  /// Makes the current view's drawing context the calling thread's.
+  virtual void MakeContextCurrent() LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
+  /// Draws one frame of the current view. Drawing thread.
+  virtual void InternalDraw() LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
 
   /// A process's name, as it may be shown, as a picture, or null.
   virtual std::shared_ptr<const Picture> LabelImage(const std::string& name) = 0;
@@ -47,10 +49,11 @@ class QuintessentialHost {
   virtual std::shared_ptr<const Picture> NamedPicture(const char* name) = 0;
 
   /// Takes the record's textures away (its handles become 0) and sees to it that the drawing thread
-  /// deletes them. Called without a drawing context. Any thread, locked.
-  virtual void ReleaseTextures(QuintessentialInformationProcessInfo& info) = 0;
-  /// The next frame makes the background anew. Any thread, locked.
-  virtual void DiscardBackground() = 0;
+  /// deletes them. Called without a drawing context. Any thread.
+  virtual void ReleaseTextures(QuintessentialInformationProcessInfo& info)
+      LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
+  /// The next frame makes the background anew. Any thread.
+  virtual void DiscardBackground() LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
 };
 
 /// The one host there is, or null. Set on the main thread inside gQuintessentialMutex; the host

@@ -124,7 +124,10 @@ void QuintessentialInformationClient::UnhookFromConsolidator() {
 void QuintessentialInformationClient::SetPaused(bool paused) {
   if (mPaused == paused) return;
   mPaused = paused;
-  ApplyIntervals();
+  {
+    const Guard guard(gQuintessentialMutex);
+    ApplyIntervals();
+  }
   if (paused) return;
   if (mHooked) {
     RequestUpdate(this);

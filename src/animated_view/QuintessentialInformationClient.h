@@ -6,10 +6,12 @@
 
 #include "animated_view/DrawingThread.h"
 #include "animated_view/Placement.h"
+#include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/QuintessentialHelperCPUWatcher.h"
 #include "animated_view/QuintessentialInformationProcessInfo.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/WholeNames.h"
+#include "platform/ThreadSafety.h"
 
 namespace lurkwell {
 
@@ -78,17 +80,23 @@ class QuintessentialInformationClient final : public ProcessInformationClient,
   // ---- One frame. Inside the mutex.
 
   /// Moves the records and has the current view drawn.
-  void InternalDraw() override;
+  void InternalDraw() override LURKWELL_REQUIRES(gQuintessentialMutex);
 
   /// Makes the labels anew, as for another scale; who calls has seen to their textures.
-  void MakeLabelsAnew();
+  void MakeLabelsAnew() LURKWELL_REQUIRES(gQuintessentialMutex);
 
-  QipiList& qipiList() override { return mQipiList; }
-  const QuintessentialDrawingSettings& DrawingSettings() const { return mDrawing; }
-  std::int32_t GLThreadInterval() const override { return mIntervals.frame; }
+  QipiList& qipiList() override LURKWELL_REQUIRES(gQuintessentialMutex) { return mQipiList; }
+  const QuintessentialDrawingSettings& DrawingSettings() const
+      LURKWELL_REQUIRES(gQuintessentialMutex) {
+    return mDrawing;
+  }
+  std::int32_t GLThreadInterval() const override LURKWELL_REQUIRES(gQuintessentialMutex) {
+    return mIntervals.frame;
+  }
 
   /// The pid of the record nearest to `point`, -1 when there is none.
-  std::int32_t GetClosestPidToPoint(QuintessentialPoint point) const;
+  std::int32_t GetClosestPidToPoint(QuintessentialPoint point) const
+      LURKWELL_REQUIRES(gQuintessentialMutex);
 
   // ---- The consolidator's notifications
 
@@ -108,25 +116,25 @@ class QuintessentialInformationClient final : public ProcessInformationClient,
 
   /// Gives the new records that are ready to be shown places and names.
   void PlaceNewRecords(QipiList& ready);
-  /// Gives a record that has no name yet the one of its process.
-  void NameIfNameless(Info& info);
+  /// Gives a record that has no name yet the one of its process; false when it goes without.
+  bool NameIfNameless(Info& info);
   void LearnNames();
-  void StabilizeOnce();
-  /// Takes over what the preferences say now. Inside the mutex.
-  void ReadSettings();
-  void ReadDrawingSettings();
-  void ApplyIntervals();
+  void StabilizeOnce() LURKWELL_REQUIRES(gQuintessentialMutex);
+  /// Takes over what the preferences say now.
+  void ReadSettings() LURKWELL_REQUIRES(gQuintessentialMutex);
+  void ReadDrawingSettings() LURKWELL_REQUIRES(gQuintessentialMutex);
+  void ApplyIntervals() LURKWELL_REQUIRES(gQuintessentialMutex);
   void TakeIcon(Info& info);
-  void CleanUp(QipiList& list);
+  static void CleanUp(QipiList& list) LURKWELL_REQUIRES(gQuintessentialMutex);
 
   RandomSource mRandom;
-  QipiList mQipiList;
+  QipiList mQipiList LURKWELL_GUARDED_BY(gQuintessentialMutex);
   /// Main thread only.
   QipiList mNewQipiList;
   NamesToLearn mNames;
   QuintessentialHelperCPUWatcher* mWatcher = nullptr;
-  QuintessentialDrawingSettings mDrawing;
-  AnimationIntervals mIntervals;
+  QuintessentialDrawingSettings mDrawing LURKWELL_GUARDED_BY(gQuintessentialMutex);
+  AnimationIntervals mIntervals LURKWELL_GUARDED_BY(gQuintessentialMutex);
   std::shared_ptr<const Picture> mDefaultIcon;
   bool mHasStabilized = false;
   bool mHooked = false;
@@ -136,8 +144,8 @@ class QuintessentialInformationClient final : public ProcessInformationClient,
   static std::unique_ptr<DrawingThread> zmThread;
 };
 
-/// Has the current view draw itself. Inside the mutex, drawing thread. Fails
+/// Has the current view draw itself. Drawing thread. Fails
 /// "theCurrentQuintessentialView" when there is no view.
-void UpdateProcessInformationCocoa();
+void UpdateProcessInformationCocoa() LURKWELL_REQUIRES(gQuintessentialMutex);
 
 }  // namespace lurkwell

@@ -10,6 +10,7 @@
 
 #include "platform/Clock.h"
 #include "platform/IconServices.h"
+#include "platform/ThreadSafety.h"
 
 namespace lurkwell {
 
@@ -76,8 +77,9 @@ class QipiList {
   Info* Find(std::int32_t pid);
   const Info* Find(std::int32_t pid) const;
 
+  /// Who may look into the list may call `visit`, which can require the list's lock.
   template <typename Visit>
-  void ForEach(std::int32_t pid, Visit visit) {
+  void ForEach(std::int32_t pid, Visit visit) LURKWELL_UNCHECKED_LOCKING {
     auto [first, last] = mByPid.equal_range(pid);
     for (; first != last; ++first) visit(*first->second);
   }

@@ -36,7 +36,7 @@ bool ReadName(Info& info) {
   return true;
 }
 
-void ReleaseTextures(Info& info) {
+void ReleaseTextures(Info& info) LURKWELL_REQUIRES(gQuintessentialMutex) {
   if (gQuintessentialHost != nullptr) gQuintessentialHost->ReleaseTextures(info);
   info.texturesReady = false;
 }
@@ -82,7 +82,7 @@ void QuintessentialInformationClient::NotifyPidHasChangedAppreciably(int pid) {
   const Guard guard(gQuintessentialMutex);
   // One that still waits for its place is named when it gets it.
   mNewQipiList.ForEach(pid, [this](Info& info) { TakeIcon(info); });
-  mQipiList.ForEach(pid, [this](Info& info) {
+  mQipiList.ForEach(pid, [this](Info& info) LURKWELL_REQUIRES(gQuintessentialMutex) {
     // Nameless, the first record asks for its name again in the coming update.
     if (!ReadName(info)) mQipiList.front().name[0] = '\0';
     mNames.Add(info.pid);
@@ -100,19 +100,20 @@ void QuintessentialInformationClient::NotifyProcessesHaveBeenUpdated() {
     const Guard guard(gQuintessentialMutex);
     for (auto record = ready.begin(); record != ready.end();)
       record = mQipiList.Take(ready, record);
-    for (auto& info : mQipiList) NameIfNameless(info);
+    for (auto& info : mQipiList)
+      if (NameIfNameless(info) && info.labelTexture != 0) ReleaseTextures(info);
     StabilizeOnce();
   }
   // The machine is waited for outside the mutex, so that the drawing goes on.
   LearnNames();
 }
 
-void QuintessentialInformationClient::NameIfNameless(Info& info) {
-  if (info.name[0] != '\0' || !ReadName(info)) return;
+bool QuintessentialInformationClient::NameIfNameless(Info& info) {
+  if (info.name[0] != '\0' || !ReadName(info)) return false;
   mNames.Add(info.pid);
-  if (info.labelTexture != 0) ReleaseTextures(info);
   info.texturesReady = false;
   MakeLabel(info);
+  return true;
 }
 
 void QuintessentialInformationClient::LearnNames() {
@@ -120,7 +121,7 @@ void QuintessentialInformationClient::LearnNames() {
   if (pids.empty()) return;
   const Guard guard(gQuintessentialMutex);
   for (const auto pid : pids)
-    mQipiList.ForEach(pid, [](Info& info) {
+    mQipiList.ForEach(pid, [](Info& info) LURKWELL_REQUIRES(gQuintessentialMutex) {
       ReleaseTextures(info);
       MakeLabel(info);
     });

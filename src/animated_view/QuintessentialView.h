@@ -2,11 +2,13 @@
 
 #include <QPoint>
 #include <Qt>
+#include <atomic>
 #include <cstdint>
 #include <functional>
 
 #include "animated_view/FrameContents.h"
-#include "animated_view/QuintessentialHost.h"
+#include "animated_view/QuintessentialGlobals.h"
+#include "platform/ThreadSafety.h"
 
 class QMouseEvent;
 class QWindow;
@@ -38,13 +40,17 @@ class QuintessentialView {
 
   /// Has the whole view drawn again, soon.
   void drawRect();
-  /// One frame. Drawing thread, inside the mutex.
+  /// One frame. Drawing thread; enters the mutex.
   void internalDraw();
 
   /// The repaint countdown: how many of the frames after an exposure or a change of mode are still
   /// to come. Each begins with a cleared window, as all do.
-  std::int32_t kludgeCountdown() const { return mKludgeCountdown; }
-  void setKludgeCountdown(std::int32_t frames) { mKludgeCountdown = frames; }
+  std::int32_t kludgeCountdown() const LURKWELL_REQUIRES(gQuintessentialMutex) {
+    return mKludgeCountdown;
+  }
+  void setKludgeCountdown(std::int32_t frames) LURKWELL_REQUIRES(gQuintessentialMutex) {
+    mKludgeCountdown = frames;
+  }
 
   /// The nearest process shows its name, whatever lies in its way. Points of the window; outside of
   /// it no process is near.
@@ -52,34 +58,34 @@ class QuintessentialView {
   void mouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, false); }
   void rightMouseDown(const QMouseEvent& event) { handleMouseDownStuff(event, true); }
 
-  // ---- Inside the mutex
-  // ---------------------------------------------------------------------------
-
-  void SetSize(const ViewSize& size) { mSize = size; }
-  const ViewSize& Size() const { return mSize; }
+  void SetSize(const ViewSize& size) LURKWELL_REQUIRES(gQuintessentialMutex) { mSize = size; }
+  const ViewSize& Size() const LURKWELL_REQUIRES(gQuintessentialMutex) { return mSize; }
   /// Whether the window is on the screen, so that drawing into it cannot wait.
-  void SetDrawable(bool drawable) { mDrawable = drawable; }
-  void SetMode(ViewMode mode) { mMode = mode; }
+  void SetDrawable(bool drawable) LURKWELL_REQUIRES(gQuintessentialMutex) { mDrawable = drawable; }
+  void SetMode(ViewMode mode) LURKWELL_REQUIRES(gQuintessentialMutex) { mMode = mode; }
+  /// Of use to the main thread outside the mutex, too: it alone sets it.
   ViewMode Mode() const { return mMode; }
   /// Of all that is drawn, where windows themselves cannot be translucent.
-  void SetOpacity(double opacity) { mOpacity = static_cast<float>(opacity); }
+  void SetOpacity(double opacity) LURKWELL_REQUIRES(gQuintessentialMutex) {
+    mOpacity = static_cast<float>(opacity);
+  }
 
  private:
   /// Selects the process nearest to the click in the main table, and opens the table's menu for it
   /// when the click asks for that.
   void handleMouseDownStuff(const QMouseEvent& event, bool isRightClick);
-  bool DrawFrame();
-  void NoteLimits();
+  bool DrawFrame() LURKWELL_REQUIRES(gQuintessentialMutex);
+  void NoteLimits() LURKWELL_REQUIRES(gQuintessentialMutex);
 
   QWindow& mWindow;
   ViewDrawing& mDrawing;
   const ViewCommands& mCommands;
-  ViewSize mSize;
-  ViewMode mMode = ViewMode::kWindow;
-  float mOpacity = 1.0F;
-  bool mDrawable = false;
-  bool mIsInitialized = false;
-  std::int32_t mKludgeCountdown = 0;
+  ViewSize mSize LURKWELL_GUARDED_BY(gQuintessentialMutex);
+  std::atomic<ViewMode> mMode = ViewMode::kWindow;
+  float mOpacity LURKWELL_GUARDED_BY(gQuintessentialMutex) = 1.0F;
+  bool mDrawable LURKWELL_GUARDED_BY(gQuintessentialMutex) = false;
+  bool mIsInitialized LURKWELL_GUARDED_BY(gQuintessentialMutex) = false;
+  std::int32_t mKludgeCountdown LURKWELL_GUARDED_BY(gQuintessentialMutex) = 0;
 };
 
 }  // namespace lurkwell

@@ -165,6 +165,7 @@ void QuintessentialWindows::LookAround() {
 void QuintessentialWindows::Prepare() {
   UsePixelRatio(CurrentWindow().devicePixelRatio());
   if (mBackground != nullptr) return;
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
   DiscardBackground();
 }
 

@@ -48,8 +48,10 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   // ---- QuintessentialHost
   // -------------------------------------------------------------------------
 
-  bool HasCurrentView() const override { return mWindow != nullptr; }
-  FrameSize CurrentWindowFrame() const override;
+  bool HasCurrentView() const override LURKWELL_REQUIRES(gQuintessentialMutex) {
+    return mWindow != nullptr;
+  }
+  FrameSize CurrentWindowFrame() const override LURKWELL_REQUIRES(gQuintessentialMutex);
   void CloseCurrentWindow() override;
   void SetUpOverlayStuff() override;
   void SetCurrentWindowAlpha(double alpha) override;
@@ -59,12 +61,13 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   void doShowQuintessentialView() override;
   /// The drawing thread takes the context by itself for each frame, and nothing else has use for
   /// it.
-  void MakeContextCurrent() override {}
-  void InternalDraw() override;
+  void MakeContextCurrent() override LURKWELL_REQUIRES(gQuintessentialMutex) {}
+  void InternalDraw() override LURKWELL_REQUIRES(gQuintessentialMutex);
   std::shared_ptr<const Picture> LabelImage(const std::string& name) override;
   std::shared_ptr<const Picture> NamedPicture(const char* name) override;
-  void ReleaseTextures(QuintessentialInformationProcessInfo& info) override;
-  void DiscardBackground() override;
+  void ReleaseTextures(QuintessentialInformationProcessInfo& info) override
+      LURKWELL_REQUIRES(gQuintessentialMutex);
+  void DiscardBackground() override LURKWELL_REQUIRES(gQuintessentialMutex);
 
  private:
   QuintessentialViewWindow& CurrentWindow() const;

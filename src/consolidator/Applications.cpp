@@ -38,6 +38,7 @@ std::int32_t SyntheticPidTable::HandOut(ProcessSerialNumber psn) {
 }
 
 std::int32_t PSN2PID(ProcessSerialNumber psn) {
+  const ConsolidatorGuard guard;
   if (const auto* record = gRecords.FindBySerialNumber(psn)) return record->pid;
   const auto kernelPid = TheMachine().processManager.GetProcessPID(psn);
   if (kernelPid && *kernelPid >= 0) return *kernelPid;
@@ -47,6 +48,7 @@ std::int32_t PSN2PID(ProcessSerialNumber psn) {
 
 void PID2PSN(std::int32_t pid, ProcessSerialNumber* psn) {
   *psn = {};
+  const ConsolidatorGuard guard;
   if (const auto* record = gRecords.GetExistingPIDInformation(pid)) {
     *psn = record->psn;
   } else if (pid >= 0) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "consolidator/Region.h"
 #include "platform/IconServices.h"
 #include "platform/ProcessIdentity.h"
 
@@ -30,7 +31,7 @@ class SyntheticPidTable {
   explicit SyntheticPidTable(std::int32_t first = kFirst) : gCurrentFakePid(first) {}
   std::optional<std::int32_t> Find(ProcessSerialNumber psn) const;
   std::optional<ProcessSerialNumber> Find(std::int32_t pid) const;
-  std::int32_t HandOut(ProcessSerialNumber psn);
+  std::int32_t HandOut(ProcessSerialNumber psn) LURKWELL_IN_REGION;
   void Clear() { *this = SyntheticPidTable(); }
 
  private:

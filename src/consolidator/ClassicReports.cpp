@@ -28,7 +28,7 @@ ProcessSerialNumber SerialNumberOf(const std::byte* record) {
 
 /// A guest that is known, or a new one for which there is room: serial numbers cost the sender
 /// nothing. Never a process of the kernel's.
-bool IsWelcome(ProcessSerialNumber psn) {
+bool IsWelcome(ProcessSerialNumber psn) LURKWELL_IN_REGION {
   static bool hasTold = false;
   if (const auto* record = gRecords.FindBySerialNumber(psn)) return record->pid < 0;
   if (TheMachine().processManager.GetProcessPID(psn)) return false;

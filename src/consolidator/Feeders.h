@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "consolidator/Region.h"
 #include "platform/Clock.h"
 
 namespace lurkwell {
@@ -17,8 +18,8 @@ namespace lurkwell {
 /// The pass of kind 0: reads the kernel's process table and reports what due clients need of each
 /// process; a process that no client needs is touched. Alone in making and retiring records of
 /// kernel processes. A pass that lists is an iteration of kind 0; one for which nothing has to be
-/// listed is none. `now` is the heartbeat's time. Main thread, inside the consolidator's region.
-void PIDExtractProcessInformation(TimeValue now);
+/// listed is none. `now` is the heartbeat's time.
+void PIDExtractProcessInformation(TimeValue now) LURKWELL_IN_REGION;
 
 /// Whether figures come from the helper: the process table tells none, or the user wants it so.
 bool IsHelperAskedForFigures();
@@ -26,14 +27,12 @@ bool IsHelperAskedForFigures();
 /// The kernel feeder on a machine whose process table tells figures to everybody: the sources that
 /// due clients need are read where they may have changed, and what has been read goes into the
 /// records. A beat in which no list is needed, and before which no process was born, does not even
-/// list; a process that is followed and has ended brings the list. Main thread, inside the
-/// consolidator's region.
-void FeedOpenFigures(TimeValue now);
+/// list; a process that is followed and has ended brings the list.
+void FeedOpenFigures(TimeValue now) LURKWELL_IN_REGION;
 
 /// The kernel feeder on a machine where only the helper tells figures, or where a preference says
-/// that it is to be asked: a request for each process of which a due client needs some. Main
-/// thread, inside the consolidator's region.
-void FeedHelperFigures(TimeValue now);
+/// that it is to be asked: a request for each process of which a due client needs some.
+void FeedHelperFigures(TimeValue now) LURKWELL_IN_REGION;
 
 // ---- Kind 1: applications
 
@@ -67,6 +66,6 @@ void SetPSPatience(std::chrono::milliseconds patience);
 /// run still or rest. What they print is reported between the heartbeats, as soon as they end, and
 /// all clients are told then. Programs and main thread do not wait for one another. `now` is the
 /// heartbeat's time. Inside an iteration of kind 3.
-void PSExtractProcessInformation(TimeValue now);
+void PSExtractProcessInformation(TimeValue now) LURKWELL_IN_REGION;
 
 }  // namespace lurkwell

@@ -85,7 +85,7 @@ class HelperPass {
  public:
   explicit HelperPass(TimeValue now) : mNow(now), mNeeds(now) {}
 
-  void Feed(const ProcessTableEntry& entry) {
+  void Feed(const ProcessTableEntry& entry) LURKWELL_IN_REGION {
     if (entry.pid > mMaximumPid) {
       DiagnoseVerbatim("BAD pid! (?)");
       return;
@@ -109,7 +109,7 @@ class HelperPass {
   }
 
  private:
-  void ReportTableFigures(const ProcessTableEntry& entry, bool all) {
+  void ReportTableFigures(const ProcessTableEntry& entry, bool all) LURKWELL_IN_REGION {
     const auto wanted = [&](const PropertyNeed& need) { return all || need.By(mNeeds); };
     PidReport report(entry.pid);
     report.State(entry.state);
@@ -121,7 +121,7 @@ class HelperPass {
   }
 
   /// From the helper, or else what everybody may read.
-  unsigned ReportUsage(const ProcessTableEntry& entry, unsigned groups) {
+  unsigned ReportUsage(const ProcessTableEntry& entry, unsigned groups) LURKWELL_IN_REGION {
     unsigned known = mQueries.Ask(entry.pid, groups);
     if (known != groups) known |= ReportOwnFigures(entry, groups & ~known);
     if ((known & kThreadTime) != 0) NoteTimesRead(entry.pid);
@@ -129,14 +129,15 @@ class HelperPass {
   }
 
   /// The times are those of the helper, all other counters are the table's.
-  void DeriveRates(const ProcessTableEntry& entry, unsigned known) {
+  void DeriveRates(const ProcessTableEntry& entry, unsigned known) LURKWELL_IN_REGION {
     FigureSources current = entry.current & ~FigureSources{kFromStat};
     if ((known & kThreadTime) != 0) current |= kFromStat;
     PidReport report(entry.pid);
     mRates.Derive(report, current);
   }
 
-  static unsigned ReportOwnFigures(const ProcessTableEntry& entry, unsigned groups) {
+  static unsigned ReportOwnFigures(const ProcessTableEntry& entry,
+                                   unsigned groups) LURKWELL_IN_REGION {
     const auto& figures = TheMachine().processTable.FiguresOf(entry);
     unsigned reported = 0;
     PidReport report(entry.pid);
@@ -151,7 +152,7 @@ class HelperPass {
   }
 
   /// What no helper tells is the table's.
-  void ReportUnhelped(const ProcessTableEntry& entry, bool all) {
+  void ReportUnhelped(const ProcessTableEntry& entry, bool all) LURKWELL_IN_REGION {
     PidReport report(entry.pid);
     for (const auto& need : mUnhelped) {
       if (!all && !need.By(mNeeds)) continue;

@@ -37,7 +37,7 @@ std::size_t gStart = 0;
 std::int32_t gLatePid = kInvalidPID;
 unsigned gLateGroups = 0;
 
-void MarkUnknown(std::int32_t pid, unsigned groups) {
+void MarkUnknown(std::int32_t pid, unsigned groups) LURKWELL_IN_REGION {
   PidReport report(pid);
   for (const auto& row : FigureProperties())
     if ((row.group & groups) != 0) report.NoValue(row, Missing::kNotYetKnown);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "channel/DaemonCommunication.h"
+#include "consolidator/Region.h"
 
 namespace lurkwell {
 
@@ -23,7 +24,7 @@ class HelperQueries {
 
   /// Asks for the groups (one at least) of a process and reports the answer. Those of which
   /// something came; the figures of the others are not known now.
-  unsigned Ask(std::int32_t pid, unsigned groups);
+  unsigned Ask(std::int32_t pid, unsigned groups) LURKWELL_IN_REGION;
 
  private:
   struct Asked {
@@ -32,13 +33,13 @@ class HelperQueries {
   };
 
   bool IsItsTurn();
-  unsigned TakeLate(std::int32_t pid, unsigned groups);
-  unsigned AskNow(std::int32_t pid, unsigned groups);
+  unsigned TakeLate(std::int32_t pid, unsigned groups) LURKWELL_IN_REGION;
+  unsigned AskNow(std::int32_t pid, unsigned groups) LURKWELL_IN_REGION;
   void Reset();
   void AppendLine(std::int32_t pid, unsigned groups);
-  void HandlePendingDaemonQueries();
-  void ReportAnswer(std::string_view answer);
-  void ReportLine(std::string_view line);
+  void HandlePendingDaemonQueries() LURKWELL_IN_REGION;
+  void ReportAnswer(std::string_view answer) LURKWELL_IN_REGION;
+  void ReportLine(std::string_view line) LURKWELL_IN_REGION;
 
   DaemonConversation mConversation;
   std::string mLateAnswer;

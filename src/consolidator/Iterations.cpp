@@ -18,7 +18,7 @@ constexpr Figure kCPUTimes[] = {FigureCalled("pid_user_time"), FigureCalled("pid
                                 FigureCalled("pid_terminated_user_time"),
                                 FigureCalled("pid_terminated_system_time")};
 
-void RetireUnlessSeen(MetaProcessInformation& record, std::size_t kind) {
+void RetireUnlessSeen(MetaProcessInformation& record, std::size_t kind) LURKWELL_IN_REGION {
   if (record.lastSeenGeneration[kind] < gGenerationCount[kind]) gRecords.Invalidate(record);
 }
 
@@ -28,7 +28,7 @@ void DeriveActiveTime(MetaProcessInformation& record) {
   if (std::exchange(record.activeTime, time) != time) record.NoteValueChange();
 }
 
-void DeriveName(MetaProcessInformation& record) {
+void DeriveName(MetaProcessInformation& record) LURKWELL_IN_REGION {
   const char* commandName = record.pidInfo->commandName;
   if (std::strncmp(record.name, commandName, kCommandNameCapacity) == 0) return;
   if (record.name[0] != '\0' && record.carbonInfo == nullptr)
@@ -46,7 +46,7 @@ ProcessIdentity IdentityOf(const MetaProcessInformation& record) {
 }
 
 /// One environment at a time: the first, as long as it is there.
-void MeasureEnvironment(const MetaProcessInformation& record) {
+void MeasureEnvironment(const MetaProcessInformation& record) LURKWELL_IN_REGION {
   const auto measured = gClassicEstimate.Environment();
   const auto* other = gRecords.GetExistingPIDInformation(measured.pid);
   if (other != nullptr && other != &record && IsEnvironment(*other) &&
@@ -54,6 +54,14 @@ void MeasureEnvironment(const MetaProcessInformation& record) {
     return;
   gClassicEstimate.MeasureEnvironment(IdentityOf(record), record.activeTime,
                                       TheMachine().clock.Now());
+}
+
+// An iteration is inside its kind's region from one function to another.
+void EnterKind(std::size_t kind) LURKWELL_UNCHECKED_LOCKING {
+  gInformationKindGenerationMutex[kind]->Enter();
+}
+void LeaveKind(std::size_t kind) LURKWELL_UNCHECKED_LOCKING {
+  gInformationKindGenerationMutex[kind]->Exit();
 }
 
 }  // namespace
@@ -71,8 +79,10 @@ void Derive(MetaProcessInformation& record) {
 
 void BeginProcessInformationIteration(int kind) {
   Require(kind >= 0 && kind < kInformationKindCount, kUnit, "false");
-  gInformationKindGenerationMutex[static_cast<std::size_t>(kind)]->Enter();
-  ++gGenerationCount[static_cast<std::size_t>(kind)];
+  const auto index = static_cast<std::size_t>(kind);
+  EnterKind(index);
+  const ConsolidatorGuard guard;
+  ++gGenerationCount[index];
 }
 
 void EndProcessInformationIteration(int kind) {
@@ -90,7 +100,7 @@ void EndProcessInformationIteration(int kind) {
       for (auto* record : gRecords.WithSerialNumber()) RetireUnlessSeen(*record, index);
     }
   }
-  gInformationKindGenerationMutex[index]->Exit();
+  LeaveKind(index);
 }
 
 }  // namespace lurkwell

@@ -22,7 +22,8 @@ bool IsCostly(const CatalogueRow& row) {
   return (row.sources & kCostlyFigureSources) != 0;
 }
 
-void ReportReading(const CostlyReading& reading, TimeValue now, const std::vector<Figure>& rates) {
+void ReportReading(const CostlyReading& reading, TimeValue now,
+                   const std::vector<Figure>& rates) LURKWELL_IN_REGION {
   const auto* record = gRecords.GetExistingPIDInformation(reading.process.pid);
   if (record == nullptr || !record->valid || record->pidInfo == nullptr ||
       record->pidInfo->startStamp != reading.process.startStamp)
@@ -39,14 +40,15 @@ void ReportReading(const CostlyReading& reading, TimeValue now, const std::vecto
 }
 
 /// The idle task has neither memory nor descriptors.
-void ReportIdleTask() {
+void ReportIdleTask() LURKWELL_IN_REGION {
   PidReport report(0);
   for (const auto& row : FigureProperties())
     if (IsCostly(row)) report.NoValue(row, Missing::kNotCounted);
 }
 
 /// What all clients need, so that one with short turns does not push aside what others asked for.
-std::vector<CostlyWish> WishesOf(const Client::Clients& clients, const SourceNeeds& needs) {
+std::vector<CostlyWish> WishesOf(const Client::Clients& clients,
+                                 const SourceNeeds& needs) LURKWELL_IN_REGION {
   std::unordered_set<std::int32_t> inSight;
   for (auto* client : clients)
     for (const auto pid : client->PidsInSight()) inSight.insert(pid);
@@ -64,7 +66,7 @@ std::vector<CostlyWish> WishesOf(const Client::Clients& clients, const SourceNee
 /// Reports the figures that were read in the background since the last beat, and has those read
 /// that clients need, processes in sight first. Nothing happens unless a due client needs one of
 /// them.
-void FeedCostlyFigures(TimeValue now) {
+void FeedCostlyFigures(TimeValue now) LURKWELL_IN_REGION {
   if (!SourceNeeds(Client::DueClients(&now), kCostlyFigureSources).OfFigures()) return;
   auto& service = TheMachine().costlyFigures;
   const auto clients = Client::DueClients(nullptr);

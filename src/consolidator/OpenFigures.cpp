@@ -19,7 +19,7 @@ class OpenPass {
  public:
   explicit OpenPass(TimeValue now) : mNeeds(now), mRates(now, mNeeds.OfRates()) {}
 
-  void Run() {
+  void Run() LURKWELL_IN_REGION {
     const bool mustList =
         gRecords.Empty() || gIsBirthDue || mNeeds.OfEnds() || mTable.MayHaveBirths();
     if (mustList || !Refresh()) List();
@@ -27,7 +27,7 @@ class OpenPass {
 
  private:
   /// False when a process that is followed has ended.
-  bool Refresh() {
+  bool Refresh() LURKWELL_IN_REGION {
     if (!mNeeds.AreThereAny()) return true;
     const auto entries = mTable.Refresh(mWanted);
     if (!entries) return false;
@@ -40,14 +40,14 @@ class OpenPass {
     return true;
   }
 
-  void List() {
+  void List() LURKWELL_IN_REGION {
     BeginProcessInformationIteration(kInformationKindPID);
     gIsBirthDue = false;
     for (const auto& entry : mTable.Read(mWanted)) Feed(entry);
     EndProcessInformationIteration(kInformationKindPID);
   }
 
-  void Feed(const ProcessTableEntry& entry) {
+  void Feed(const ProcessTableEntry& entry) LURKWELL_IN_REGION {
     if (entry.pid > mTable.MaximumPid()) {
       DiagnoseVerbatim("BAD pid! (?)");
       return;
@@ -59,14 +59,14 @@ class OpenPass {
     Report(entry);
   }
 
-  static bool IsKnown(const ProcessTableEntry& entry) {
+  static bool IsKnown(const ProcessTableEntry& entry) LURKWELL_IN_REGION {
     const auto* record = gRecords.GetExistingPIDInformation(entry.pid);
     return record != nullptr && record->pidInfo != nullptr &&
            record->pidInfo->startStamp == entry.startStamp;
   }
 
   /// What has been read since the record has it.
-  void Report(const ProcessTableEntry& entry) {
+  void Report(const ProcessTableEntry& entry) LURKWELL_IN_REGION {
     PidReport report(entry.pid);
     auto& block = report.Block();
     const FigureSources sources = entry.read | (entry.known & ~block.reportedSources);

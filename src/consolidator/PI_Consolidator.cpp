@@ -18,13 +18,13 @@ constexpr double kFallbackInterval = 300.0;
 using Client = ProcessInformationClient;
 
 /// Whether `position` is the end of the records made since the last heartbeat.
-bool AtOldRecords(RecordStore::List::iterator position) {
+bool AtOldRecords(RecordStore::List::iterator position) LURKWELL_IN_REGION {
   return position == gRecords.Records().end() || position->pid == gFirstPidLastIteration;
 }
 
 /// Deletes records that were made and lost their validity within this heartbeat: for the clients
 /// they never existed. True when there were any.
-bool DeletePhantoms() {
+bool DeletePhantoms() LURKWELL_IN_REGION {
   if (!gRecords.AreAnyInvalid()) return false;
   bool deleted = false;
   auto previous = gRecords.Records().before_begin();
@@ -39,13 +39,13 @@ bool DeletePhantoms() {
   return deleted;
 }
 
-void AnnounceNew() {
+void AnnounceNew() LURKWELL_IN_REGION {
   for (auto at = gRecords.Records().begin(); !AtOldRecords(at); ++at)
     if (at->valid) Client::NotifyAllPidHasBeenAdded(at->pid);
   gFirstPidLastIteration = gRecords.HeadPid();
 }
 
-void AnnounceChanged() {
+void AnnounceChanged() LURKWELL_IN_REGION {
   if (!gRecords.HaveAnyChanged()) return;
   for (auto& record : gRecords.Records()) {
     if (!record.changedAppreciably) continue;
@@ -55,7 +55,7 @@ void AnnounceChanged() {
   gRecords.ChangesAreAnnounced();
 }
 
-bool RetireRemoved() {
+bool RetireRemoved() LURKWELL_IN_REGION {
   if (!gRecords.AreAnyInvalid()) return false;
   bool removed = false;
   auto previous = gRecords.Records().before_begin();
@@ -73,7 +73,7 @@ bool RetireRemoved() {
 }
 
 /// A parent that is gone counts as unknown, so that no walk up the family meets a missing record.
-void ForgetMissingParents() {
+void ForgetMissingParents() LURKWELL_IN_REGION {
   for (auto& record : gRecords.Records()) {
     if (record.pidInfo == nullptr) continue;
     auto& parent = record.pidInfo->parentPid;
@@ -82,7 +82,7 @@ void ForgetMissingParents() {
   }
 }
 
-void RunFeeders(TimeValue now) {
+void RunFeeders(TimeValue now) LURKWELL_IN_REGION {
   PIDExtractProcessInformation(now);
   BeginProcessInformationIteration(kInformationKindPS);
   PSExtractProcessInformation(now);
@@ -97,13 +97,26 @@ void SetNextHeartbeat(RunLoopTimer& timer, TimeValue now) {
   timer.SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
 }
 
+void ForgetEverything() {
+  const ConsolidatorGuard guard;
+  gRecords.Clear();
+  gPSHeaders.Clear();
+  gPSN2PIDMap.Clear();
+  gClassicEstimate = {};
+  gFirstPidLastIteration = kInvalidPID;
+  gGenerationCount.fill(0);
+}
+
 }  // namespace
 
 void InitializeProcessInformationConsolidator() {
   Require(gProcessInformationConsolidatorMutex == nullptr, kUnit,
           "gProcessInformationConsolidatorMutex == NULL");
   gProcessInformationConsolidatorMutex = std::make_unique<CriticalRegion>();
-  gGenerationCount.fill(0);
+  {
+    const ConsolidatorGuard guard;
+    gGenerationCount.fill(0);
+  }
   for (auto& region : gInformationKindGenerationMutex) region = std::make_unique<CriticalRegion>();
   DiscoverPSHeaders();
   gHeartbeatCFTimerRef =
@@ -140,16 +153,11 @@ void RequestUpdate(ProcessInformationClient* client) {
 
 void DestroyProcessInformationConsolidator() {
   gHeartbeatCFTimerRef.reset();
-  gRecords.Clear();
   gPSTimer.reset();
   gPSHasNews = false;
   gPSPrograms.Clear();
   gPSDiscovery.Clear();
-  gPSHeaders.Clear();
-  gPSN2PIDMap.Clear();
-  gClassicEstimate = {};
-  gFirstPidLastIteration = kInvalidPID;
-  gGenerationCount.fill(0);
+  ForgetEverything();
   for (auto& region : gInformationKindGenerationMutex) region.reset();
   gProcessInformationConsolidatorMutex.reset();
 }

@@ -59,10 +59,12 @@ bool IsPSColumnName(std::string_view name) {
 }
 
 int GetPSHeaderCount() {
+  const ConsolidatorGuard guard;
   return gPSHeaders.Count();
 }
 
 int FindPSHeader(std::string_view header) {
+  const ConsolidatorGuard guard;
   const auto* found = gPSHeaders.Find(header);
   return found == nullptr ? -1 : found->index;
 }
@@ -87,6 +89,7 @@ void GetNthPSHeadersNthGeneratingOption(int index, int n, char* dest, int length
 }
 
 void EnsureThatPSProcPropertyExists(const char* keyword, const char* option) {
+  const ConsolidatorGuard guard;
   auto* header = gPSHeaders.Find(keyword);
   if (header == nullptr) {
     Require(option != nullptr, kUnit, "inPSOptionThatGeneratedProperty != NULL");

@@ -24,11 +24,10 @@ bool ArePSColumnsKnown();
 /// thread.
 bool IsPSColumnName(std::string_view name);
 
-/// Main thread, or inside the consolidator's region.
+/// Any thread.
 int GetPSHeaderCount();
 
-/// The index of the column with that header, -1 when there is none. Main thread, or inside the
-/// consolidator's region.
+/// The index of the column with that header, -1 when there is none. Any thread.
 int FindPSHeader(std::string_view header);
 
 /// Copies the header with that index (if `dest` is given and `length` is at least 2) and tells, if
@@ -42,7 +41,7 @@ int GetNthPSHeadersGeneratingOptionCount(int index);
 void GetNthPSHeadersNthGeneratingOption(int index, int n, char* dest, int length);
 
 /// Makes a column known and current. `option` is a ps option that prints it, or null for a column
-/// that is known already: a new column without an option is a fatal assertion.
+/// that is known already: a new column without an option is a fatal assertion. Any thread.
 void EnsureThatPSProcPropertyExists(const char* keyword, const char* option);
 
 // ---- For the consolidator itself ----------------------------------------------------------------

@@ -105,7 +105,7 @@ struct Forget {
   }
 };
 
-MetaProcessInformation& Seen(std::int32_t pid) {
+MetaProcessInformation& Seen(std::int32_t pid) LURKWELL_IN_REGION {
   auto& record = gRecords.GetPIDInformation(pid);
   Require(record.pidInfo != nullptr, kUnit, "mpi->pidInfo");
   record.lastSeenGeneration[kInformationKindPID] = gGenerationCount[kInformationKindPID];

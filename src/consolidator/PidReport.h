@@ -6,6 +6,7 @@
 
 #include "consolidator/MetaProcessInformation.h"
 #include "consolidator/PropertyCatalogue.h"
+#include "consolidator/Region.h"
 #include "platform/Clock.h"
 #include "platform/ProcessFigures.h"
 
@@ -16,7 +17,7 @@ namespace lurkwell {
 /// missing and marks it as seen.
 class PidReport {
  public:
-  explicit PidReport(std::int32_t pid);
+  explicit PidReport(std::int32_t pid) LURKWELL_IN_REGION;
 
   /// Reads the text as the row's type wants it.
   void Text(const CatalogueRow& row, std::string_view value);
@@ -61,13 +62,13 @@ class FigureRates {
 /// Notes which process holds a pid by its start stamp. False when the record there belongs to an
 /// earlier holder: then the new one has to wait for a heartbeat, so that clients hear of the end
 /// first.
-bool NoteStartStamp(std::int32_t pid, std::uint64_t startStamp);
+bool NoteStartStamp(std::int32_t pid, std::uint64_t startStamp) LURKWELL_IN_REGION;
 
 /// The CPU times of a process have come in this iteration, be they the same as before.
-void NoteTimesRead(std::int32_t pid);
-bool AreTimesRead(const MetaProcessInformation& record);
+void NoteTimesRead(std::int32_t pid) LURKWELL_IN_REGION;
+bool AreTimesRead(const MetaProcessInformation& record) LURKWELL_IN_REGION;
 
 /// Makes of a kernel process's figures what is derived from them: its CPU time and its name.
-void Derive(MetaProcessInformation& record);
+void Derive(MetaProcessInformation& record) LURKWELL_IN_REGION;
 
 }  // namespace lurkwell

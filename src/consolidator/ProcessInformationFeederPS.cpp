@@ -46,7 +46,7 @@ void AppendWords(std::string_view line, std::vector<std::string>& list) {
 }
 
 /// Begins a run for each column that clients need: those that are due at `dueAt`, or all for null.
-void StartNeededColumns(TimeValue now, const TimeValue* dueAt) {
+void StartNeededColumns(TimeValue now, const TimeValue* dueAt) LURKWELL_IN_REGION {
   auto clients = Client::DueClients(dueAt);
   std::erase_if(clients, [](Client* client) { return client->NeedsOnlyBirths(); });
   if (clients.empty()) return;
@@ -114,7 +114,7 @@ bool ReportLine(std::string_view line, const std::string& header, const ColumnNe
 
 /// One column's output: a header line, then a line per process. The newline stays in the value.
 /// False when there was no value in it.
-bool PSExtractProcessInformationForField(std::string_view output) {
+bool PSExtractProcessInformationForField(std::string_view output) LURKWELL_IN_REGION {
   const auto nextLine = [&output] {
     const auto newline = output.find('\n');
     const auto line = output.substr(0, newline == std::string_view::npos ? newline : newline + 1);
@@ -133,7 +133,7 @@ bool PSExtractProcessInformationForField(std::string_view output) {
 }
 
 /// True when something had ended.
-bool FeedWhatHasEnded() {
+bool FeedWhatHasEnded() LURKWELL_IN_REGION {
   const auto ended = gPSPrograms.TakeEnded();
   for (const auto& [header, printed] : ended) {
     std::string_view text(printed.text);

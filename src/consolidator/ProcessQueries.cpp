@@ -10,7 +10,7 @@
 namespace lurkwell {
 namespace {
 
-std::vector<std::int32_t> ValidPids(int kind, std::int32_t argument) {
+std::vector<std::int32_t> ValidPids(int kind, std::int32_t argument) LURKWELL_IN_REGION {
   if (kind == kPidBlobDescendantsOf && !gRecords.Empty()) {
     Require(argument != kInvalidPID, kUnit, "potentialAncestorPid != kInvalidPID");
     return gFamilyIndex.Descendants(gRecords, argument);

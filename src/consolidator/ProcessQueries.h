@@ -4,8 +4,7 @@
 
 namespace lurkwell {
 
-/// Questions about the processes that the consolidator knows. Main thread or inside the
-/// consolidator's region, unless a function says otherwise.
+/// Questions about the processes that the consolidator knows. Any thread.
 
 /// Whether the parent of `pid` is `candidate`. The process must be known.
 bool PidIsParent(std::int32_t pid, std::int32_t candidate);
@@ -27,7 +26,7 @@ enum PidBlobKind : int {
 
 /// The pids of all valid processes of that kind, oldest record first, in an array for the caller,
 /// who gives it back to DeleteBlobOfValidPIDs; `count` receives its length. A null `argument`
-/// stands for kInvalidPID. Any thread.
+/// stands for kInvalidPID.
 std::int32_t* CreateBlobOfValidPIDs(std::int32_t* count, int kind, const std::int32_t* argument);
 void DeleteBlobOfValidPIDs(std::int32_t* blob);
 
@@ -50,12 +49,12 @@ class PidBlob {
 };
 
 /// Process and pid are two things: the start stamp of the process that holds `pid` at present, 0
-/// when it is not known. For actions on a process that was shown. Any thread.
+/// when it is not known. For actions on a process that was shown.
 std::uint64_t GetPidsStartStamp(std::int32_t pid);
 
 /// Whether the CPU times of a process were read in the latest heartbeat. Where they were not, which
 /// happens when they could not be read, they are those of an earlier one and no share comes out of
-/// them. Always true of what the kernel does not know. Any thread.
+/// them. Always true of what the kernel does not know.
 bool AreCPUTimesFresh(std::int32_t pid);
 
 }  // namespace lurkwell

@@ -42,7 +42,7 @@ void StorePSValue(MetaProcessInformation& record, int headerIndex, const char* v
   record.NoteValueChange();
 }
 
-void ReportPSColumn(std::int32_t pid, const char* keyword, const char* value) {
+void ReportPSColumn(std::int32_t pid, const char* keyword, const char* value) LURKWELL_IN_REGION {
   EnsureThatPSProcPropertyExists(keyword, nullptr);
   auto* record = gRecords.GetExistingPIDInformation(pid);
   if (record == nullptr) return;
@@ -58,7 +58,7 @@ FourCharCode CodeOf(const char* text) {
   return code;
 }
 
-void StoreCarbonName(MetaProcessInformation& record, const char* value) {
+void StoreCarbonName(MetaProcessInformation& record, const char* value) LURKWELL_IN_REGION {
   StoreText(record.carbonInfo->name, value);
   // As wide as a command's.
   const auto name = WholeCharacters(value, kCommandNameCapacity - 1);
@@ -67,7 +67,7 @@ void StoreCarbonName(MetaProcessInformation& record, const char* value) {
 }
 
 void StoreCarbonProperty(MetaProcessInformation& record, std::string_view property,
-                         const char* value) {
+                         const char* value) LURKWELL_IN_REGION {
   auto& block = *record.carbonInfo;
   if (property == "carbonpsn_name") {
     StoreCarbonName(record, value);

@@ -160,7 +160,7 @@ PropertyType GetProcPropertyType(const char* name, int* changes) {
 }
 
 bool IsKnownProcProperty(const char* name) {
-  return FindBuiltInProperty(name) != nullptr || gPSHeaders.Find(name) != nullptr;
+  return FindBuiltInProperty(name) != nullptr || FindPSHeader(name) >= 0;
 }
 
 int CountBuiltInProcPropertyHeaders() {

@@ -101,7 +101,7 @@ bool RenderPidProperty(const MetaProcessInformation& record, const CatalogueRow*
 }
 
 bool RenderPSColumn(const MetaProcessInformation& record, std::string_view name,
-                    std::span<char> dest) {
+                    std::span<char> dest) LURKWELL_IN_REGION {
   if (record.psValues == nullptr) return false;
   const auto* header = gPSHeaders.Find(name);
   Require(header != nullptr, kUnit, "pipsh");
@@ -115,7 +115,7 @@ bool RenderPSColumn(const MetaProcessInformation& record, std::string_view name,
 }
 
 bool RenderProperty(const MetaProcessInformation& record, std::string_view name,
-                    std::span<char> dest) {
+                    std::span<char> dest) LURKWELL_IN_REGION {
   const CatalogueRow* row = FindBuiltInProperty(name);
   if (name.starts_with("meta_")) {
     if (row != nullptr) return row->render(record, dest);
@@ -177,7 +177,7 @@ TypedValue ReadPidProperty(const PidBlock* block, const CatalogueRow& row) {
                                       : TypedValue(block->states.Why(place));
 }
 
-TypedValue ReadPSColumn(const MetaProcessInformation& record, const char* name) {
+TypedValue ReadPSColumn(const MetaProcessInformation& record, const char* name) LURKWELL_IN_REGION {
   // ps knows neither the idle task nor what is no process of the kernel's.
   if (record.pid <= 0) return Missing::kNone;
   const auto* header = gPSHeaders.Find(name);
@@ -194,7 +194,7 @@ bool HasPartOf(const MetaProcessInformation& record, std::string_view name) {
   return true;
 }
 
-TypedValue ReadProperty(const MetaProcessInformation& record, const char* name) {
+TypedValue ReadProperty(const MetaProcessInformation& record, const char* name) LURKWELL_IN_REGION {
   const CatalogueRow* row = FindBuiltInProperty(name);
   if (row == nullptr) return ReadPSColumn(record, name);
   if (row->render == nullptr) return ReadPidProperty(record.pidInfo.get(), *row);
@@ -205,7 +205,7 @@ TypedValue ReadProperty(const MetaProcessInformation& record, const char* name) 
 }
 
 /// Null when there is none that clients see.
-const MetaProcessInformation* ValidRecord(std::int32_t pid) {
+const MetaProcessInformation* ValidRecord(std::int32_t pid) LURKWELL_IN_REGION {
   const auto* record = gRecords.GetExistingPIDInformation(pid);
   return record != nullptr && record->valid ? record : nullptr;
 }

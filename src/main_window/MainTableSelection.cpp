@@ -49,7 +49,7 @@ std::vector<std::int32_t> vqMainTableController::selectedPids() const {
   for (const auto& range : fTable->selectionModel()->selection())
     for (int place = range.top(); place <= range.bottom(); ++place) places.push_back(place);
   std::ranges::sort(places);
-  places.erase(std::ranges::unique(places).begin(), places.end());
+  places.erase(std::unique(places.begin(), places.end()), places.end());
   std::vector<std::int32_t> pids;
   pids.reserve(places.size());
   for (const int place : places) {

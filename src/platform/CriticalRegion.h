@@ -2,23 +2,35 @@
 
 #include <mutex>
 
+#include "platform/ThreadSafety.h"
+
 namespace lurkwell {
 
 /// A region that one thread at a time may be in; its owner may enter it again. Waits without a
 /// time limit, so a thread inside must not wait for one that wants in.
-class CriticalRegion {
+class LURKWELL_CAPABILITY("region") CriticalRegion {
  public:
-  using Guard = std::lock_guard<CriticalRegion>;
+  class Guard;
 
-  void Enter() { mMutex.lock(); }
-  void Exit() { mMutex.unlock(); }
-
-  // The standard's names, so that std::lock_guard and its kin work.
-  void lock() { Enter(); }
-  void unlock() { Exit(); }
+  void Enter() LURKWELL_ACQUIRE() { mMutex.lock(); }
+  void Exit() LURKWELL_RELEASE() { mMutex.unlock(); }
 
  private:
   std::recursive_mutex mMutex;
+};
+
+/// Is inside for as long as it lives.
+class LURKWELL_SCOPED_CAPABILITY CriticalRegion::Guard {
+ public:
+  explicit Guard(CriticalRegion& region) LURKWELL_ACQUIRE(region) : mRegion(region) {
+    region.Enter();
+  }
+  ~Guard() LURKWELL_RELEASE() { mRegion.Exit(); }
+  Guard(const Guard&) = delete;
+  Guard& operator=(const Guard&) = delete;
+
+ private:
+  CriticalRegion& mRegion;
 };
 
 }  // namespace lurkwell

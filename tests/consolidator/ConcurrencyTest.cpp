@@ -2,6 +2,7 @@
 #include <atomic>
 #include <thread>
 
+#include "consolidator/PSHeaders.h"
 #include "support/ConsolidatorTest.h"
 
 namespace lurkwell {
@@ -36,6 +37,7 @@ TEST_F(ConcurrencyTest, AReaderOnAnotherThreadSeesWholeProcessesOnly) {
         if (GetPidsStartStamp(pid) != 0) {
           EXPECT_GE(GetPidsKillCount(pid), 0);
         }
+        EXPECT_EQ(FindPSHeader("TIME"), -1);
         ++complete;
       }
     }

@@ -107,7 +107,7 @@ FigureState DescriptorFigures::ReadSockets(int folder, Known& known, ProcessFigu
     if (const auto inode = InodeOf(LinkIn(folder, ("fd/" + std::to_string(number)).c_str())))
       inodes.push_back(*inode);
   std::ranges::sort(inodes);
-  inodes.erase(std::ranges::unique(inodes).begin(), inodes.end());
+  inodes.erase(std::unique(inodes.begin(), inodes.end()), inodes.end());
   const auto use = mAccounts.OfSockets(known.network, inodes);
   SetMoved(use, FigureCalled("pid_net_received"), FigureCalled("pid_net_sent"), figures);
   figures.Set(FigureCalled("pid_connections"), use.connections);

@@ -10,11 +10,11 @@
 #include <cstdint>
 #include <deque>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <thread>
 #include <utility>
 
+#include "platform/Mutex.h"
 #include "platform/linux/CostlyReader.h"
 #include "platform/QuietThread.h"
 
@@ -140,30 +140,33 @@ struct LinuxCostlyFigures::Shared {
       : proc(std::move(itsProc)), units(std::move(itsUnits)), devices(std::move(itsDevices)) {}
 
   /// A thread of another generation than this one ends as soon as it can.
-  void GiveUpThread() {
+  void GiveUpThread() LURKWELL_REQUIRES(mutex) {
     ++generation;
     thread.detach();
     reading.reset();
     news.notify_all();
   }
 
+  /// False when there is no thread to be had. Main thread, with what is shared itself.
+  bool EnsureThread(const std::shared_ptr<Shared>& itself) LURKWELL_REQUIRES(mutex);
+
   const std::string proc;
   const std::string units;
   const std::string devices;
-  mutable std::mutex mutex;
+  Mutex mutex;
   std::condition_variable news;
-  std::vector<CostlyWish> wishes;
-  bool areWishesNew = false;
+  std::vector<CostlyWish> wishes LURKWELL_GUARDED_BY(mutex);
+  bool areWishesNew LURKWELL_GUARDED_BY(mutex) = false;
   struct Result {
     CostlyReading reading;
     SteadyClock::time_point readAt;
   };
-  std::vector<Result> results;
-  std::map<CostlyKey, ShelvedProcess> shelf;
+  std::vector<Result> results LURKWELL_GUARDED_BY(mutex);
+  std::map<CostlyKey, ShelvedProcess> shelf LURKWELL_GUARDED_BY(mutex);
   /// What is read, and since when.
-  std::optional<CostlyKey> reading;
-  SteadyClock::time_point since;
-  unsigned generation = 0;
+  std::optional<CostlyKey> reading LURKWELL_GUARDED_BY(mutex);
+  SteadyClock::time_point since LURKWELL_GUARDED_BY(mutex);
+  unsigned generation LURKWELL_GUARDED_BY(mutex) = 0;
   std::atomic<std::int64_t> takenTime = 0;
   /// Main thread's.
   std::thread thread;
@@ -175,11 +178,12 @@ LinuxCostlyFigures::LinuxCostlyFigures(std::string proc, std::string units, std:
 LinuxCostlyFigures::~LinuxCostlyFigures() {
   auto& shared = *mShared;
   if (!shared.thread.joinable()) return;
-  std::unique_lock lock(shared.mutex);
+  MutexLock lock(shared.mutex);
   ++shared.generation;
   shared.news.notify_all();
-  if (shared.news.wait_for(lock, kLastMoment, [&] { return !shared.reading; })) {
-    lock.unlock();
+  if (lock.WaitFor(shared.news, kLastMoment,
+                   [&]() LURKWELL_REQUIRES(shared.mutex) { return !shared.reading; })) {
+    lock.Unlock();
     shared.thread.join();
   } else {
     shared.thread.detach();
@@ -190,10 +194,10 @@ void LinuxCostlyFigures::Ask(std::vector<CostlyWish> wishes) {
   auto& shared = *mShared;
   // Nothing to begin a thread for.
   if (wishes.empty() && !shared.thread.joinable()) return;
-  const std::lock_guard lock(shared.mutex);
-  if (!EnsureThread()) return;
+  const MutexLock lock(shared.mutex);
+  if (!shared.EnsureThread(mShared)) return;
   const auto now = SteadyClock::now();
-  std::erase_if(wishes, [&](const CostlyWish& wish) {
+  std::erase_if(wishes, [&](const CostlyWish& wish) LURKWELL_REQUIRES(shared.mutex) {
     const auto shelved = shared.shelf.find(KeyOf(wish.process));
     return shelved != shared.shelf.end() && (shelved->second.hangs || now < shelved->second.until);
   });
@@ -202,30 +206,27 @@ void LinuxCostlyFigures::Ask(std::vector<CostlyWish> wishes) {
   shared.news.notify_all();
 }
 
-/// Inside the lock. False when there is no thread to be had.
-bool LinuxCostlyFigures::EnsureThread() {
-  auto& shared = *mShared;
+bool LinuxCostlyFigures::Shared::EnsureThread(const std::shared_ptr<Shared>& itself) {
   const auto now = SteadyClock::now();
-  std::erase_if(shared.shelf, [now](const auto& shelved) {
+  std::erase_if(shelf, [now](const auto& shelved) {
     return !shelved.second.hangs && shelved.second.until <= now;
   });
-  if (shared.reading && now - shared.since > kLongestCostlyReading) {
-    shared.shelf[*shared.reading] = {now + kCostlyRest};
-    shared.GiveUpThread();
+  if (reading && now - since > kLongestCostlyReading) {
+    shelf[*reading] = {now + kCostlyRest};
+    GiveUpThread();
   }
-  if (shared.thread.joinable()) return true;
+  if (thread.joinable()) return true;
   const auto hanging =
-      std::ranges::count_if(shared.shelf, [](const auto& shelved) { return shelved.second.hangs; });
+      std::ranges::count_if(shelf, [](const auto& shelved) { return shelved.second.hangs; });
   if (static_cast<std::size_t>(hanging) >= kMostHangingThreads) return false;
-  shared.thread = StartWithoutSignals(
-      [its = mShared, generation = shared.generation] { Serve(its, generation); });
-  return shared.thread.joinable();
+  thread = StartWithoutSignals([itself, its = generation] { Serve(itself, its); });
+  return thread.joinable();
 }
 
 std::vector<CostlyReading> LinuxCostlyFigures::Collect() {
   std::vector<Shared::Result> results;
   {
-    const std::lock_guard lock(mShared->mutex);
+    const MutexLock lock(mShared->mutex);
     results.swap(mShared->results);
   }
   const auto now = SteadyClock::now();
@@ -248,30 +249,34 @@ void LinuxCostlyFigures::Serve(const std::shared_ptr<Shared>& itsShared, unsigne
   Turns turns;
   auto refilled = SteadyClock::now();
   auto taken = ThreadTime();
-  const auto isOver = [&] { return generation != shared.generation; };
-  std::unique_lock lock(shared.mutex);
+  const auto isOver = [&]() LURKWELL_REQUIRES(shared.mutex) {
+    return generation != shared.generation;
+  };
+  const auto isThereNews = [&]() LURKWELL_REQUIRES(shared.mutex) {
+    return isOver() || shared.areWishesNew;
+  };
+  MutexLock lock(shared.mutex);
   for (;;) {
     const auto rank = turns.Payable();
     if (!rank && turns.AreThereAny()) {
-      shared.news.wait_for(lock, std::chrono::milliseconds(turns.Wait()),
-                           [&] { return isOver() || shared.areWishesNew; });
+      lock.WaitFor(shared.news, std::chrono::milliseconds(turns.Wait()), isThereNews);
     } else if (!rank) {
-      shared.news.wait(lock, [&] { return isOver() || shared.areWishesNew; });
+      lock.Wait(shared.news, isThereNews);
     }
     if (isOver()) return;
     if (std::exchange(shared.areWishesNew, false)) {
       const auto wishes = std::exchange(shared.wishes, {});
-      lock.unlock();
+      lock.Unlock();
       reader.Keep(wishes);
       turns.Set(wishes, reader);
-      lock.lock();
+      lock.Lock();
     } else if (rank) {
       const auto turn = turns.Take(*rank);
       shared.reading = KeyOf(turn.process);
       shared.since = SteadyClock::now();
-      lock.unlock();
+      lock.Unlock();
       auto readings = reader.Read(turn.process, turn.sources);
-      lock.lock();
+      lock.Lock();
       if (isOver()) {
         // Given up meanwhile, or the program ends.
         if (const auto shelved = shared.shelf.find(KeyOf(turn.process));

@@ -40,7 +40,6 @@ class LinuxCostlyFigures final : public CostlyFigures {
   struct Shared;
 
   static void Serve(const std::shared_ptr<Shared>& shared, unsigned generation);
-  bool EnsureThread();
 
   std::shared_ptr<Shared> mShared;
 };

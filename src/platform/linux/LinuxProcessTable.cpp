@@ -55,8 +55,8 @@ std::span<const ProcessTableEntry> LinuxProcessTable::Read(const Wanted& wanted)
   if (!mFiles->List(mListed)) return LastPassAgain();
   mFailures = 0;
   if (!std::is_sorted(mListed.begin(), mListed.end())) std::sort(mListed.begin(), mListed.end());
-  const auto doubled = std::ranges::unique(mListed, {}, &ListedProcess::pid);
-  mListed.erase(doubled.begin(), doubled.end());
+  const auto isDoubled = [](const auto& a, const auto& b) { return a.pid == b.pid; };
+  mListed.erase(std::unique(mListed.begin(), mListed.end(), isDoubled), mListed.end());
   if (!IsListedAlready()) TakeOverListed();
   if (!LookAtAll(wanted)) LeaveOutTheGone();
   FinishPass();

@@ -6,11 +6,11 @@
 #include <condition_variable>
 #include <deque>
 #include <map>
-#include <mutex>
 #include <set>
 #include <thread>
 #include <utility>
 
+#include "platform/Mutex.h"
 #include "platform/linux/CommandName.h"
 #include "platform/QuietThread.h"
 
@@ -52,28 +52,31 @@ struct NameReader::Question {
 struct NameReader::Mailbox {
   explicit Mailbox(std::shared_ptr<ProcFiles> itsFiles) : files(std::move(itsFiles)) {}
 
-  bool IsIdle() const { return questions.empty() && !reading; }
+  bool IsIdle() const LURKWELL_REQUIRES(mutex) { return questions.empty() && !reading; }
 
   /// A reader of another generation than this one ends as soon as it can.
-  void GiveUpReader() {
+  void GiveUpReader() LURKWELL_REQUIRES(mutex) {
     ++generation;
     reader.detach();
     reading.reset();
     news.notify_all();
   }
 
+  /// False when there is no reader to be had. Main thread, with its own mailbox.
+  bool EnsureReader(const std::shared_ptr<Mailbox>& itself) LURKWELL_REQUIRES(mutex);
+
   const std::shared_ptr<ProcFiles> files;
-  std::mutex mutex;
+  Mutex mutex;
   std::condition_variable news;
-  std::deque<Question> questions;
+  std::deque<Question> questions LURKWELL_GUARDED_BY(mutex);
   /// The same, to be found.
-  std::set<Question> asked;
-  std::map<Question, std::string> answers;
-  std::map<Key, Shelved> shelf;
+  std::set<Question> asked LURKWELL_GUARDED_BY(mutex);
+  std::map<Question, std::string> answers LURKWELL_GUARDED_BY(mutex);
+  std::map<Key, Shelved> shelf LURKWELL_GUARDED_BY(mutex);
   /// What the reader reads, and since when.
-  std::optional<Question> reading;
-  SteadyClock::time_point since;
-  unsigned generation = 0;
+  std::optional<Question> reading LURKWELL_GUARDED_BY(mutex);
+  SteadyClock::time_point since LURKWELL_GUARDED_BY(mutex);
+  unsigned generation LURKWELL_GUARDED_BY(mutex) = 0;
   /// Main thread's.
   std::thread reader;
 };
@@ -84,13 +87,14 @@ NameReader::NameReader(std::shared_ptr<ProcFiles> files)
 NameReader::~NameReader() {
   auto& box = *mMailbox;
   if (!box.reader.joinable()) return;
-  std::unique_lock lock(box.mutex);
+  MutexLock lock(box.mutex);
   box.questions.clear();
   box.asked.clear();
-  if (box.news.wait_for(lock, kMoment, [&] { return !box.reading; })) {
+  if (lock.WaitFor(box.news, kMoment,
+                   [&]() LURKWELL_REQUIRES(box.mutex) { return !box.reading; })) {
     ++box.generation;
     box.news.notify_all();
-    lock.unlock();
+    lock.Unlock();
     box.reader.join();
   } else {
     box.GiveUpReader();
@@ -107,12 +111,12 @@ bool NameReader::AskForCommandLine(std::int32_t pid, std::uint64_t startStamp) {
 
 bool NameReader::Ask(Question question) {
   auto& box = *mMailbox;
+  const MutexLock lock(box.mutex);
   if (box.files->NeverBlocks()) {
     box.answers[question] = question.Answer(*box.files);
     return true;
   }
-  const std::lock_guard lock(box.mutex);
-  if (!EnsureReader()) return false;
+  if (!box.EnsureReader(mMailbox)) return false;
   if (const auto shelved = box.shelf.find(question.key); shelved != box.shelf.end()) {
     if (shelved->second.hangs || SteadyClock::now() < shelved->second.until) return false;
     box.shelf.erase(shelved);
@@ -126,40 +130,39 @@ bool NameReader::Ask(Question question) {
   return true;
 }
 
-/// Inside the mailbox. False when there is no reader to be had.
-bool NameReader::EnsureReader() {
-  auto& box = *mMailbox;
+bool NameReader::Mailbox::EnsureReader(const std::shared_ptr<Mailbox>& itself) {
   const auto now = SteadyClock::now();
-  if (box.reading && now - box.since > kLongestReading) {
-    std::erase_if(box.shelf, [now](const auto& shelved) {
+  if (reading && now - since > kLongestReading) {
+    std::erase_if(shelf, [now](const auto& shelved) {
       return !shelved.second.hangs && shelved.second.until <= now;
     });
-    box.shelf[box.reading->key] = {now + kRest};
-    box.GiveUpReader();
+    shelf[reading->key] = {now + kRest};
+    GiveUpReader();
   }
-  if (box.reader.joinable()) return true;
+  if (reader.joinable()) return true;
   const auto hanging =
-      std::ranges::count_if(box.shelf, [](const auto& shelved) { return shelved.second.hangs; });
+      std::ranges::count_if(shelf, [](const auto& shelved) { return shelved.second.hangs; });
   if (static_cast<std::size_t>(hanging) >= kMostHangingReaders) return false;
-  box.reader = StartWithoutSignals(
-      [mailbox = mMailbox, generation = box.generation] { Serve(mailbox, generation); });
-  return box.reader.joinable();
+  reader = StartWithoutSignals([itself, its = generation] { Serve(itself, its); });
+  return reader.joinable();
 }
 
 void NameReader::Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generation) {
   auto& box = *mailbox;
-  std::unique_lock lock(box.mutex);
+  MutexLock lock(box.mutex);
   for (;;) {
-    box.news.wait(lock, [&] { return generation != box.generation || !box.questions.empty(); });
+    lock.Wait(box.news, [&]() LURKWELL_REQUIRES(box.mutex) {
+      return generation != box.generation || !box.questions.empty();
+    });
     if (generation != box.generation) return;
     const Question question = box.questions.front();
     box.questions.pop_front();
     box.asked.erase(question);
     box.reading = question;
     box.since = SteadyClock::now();
-    lock.unlock();
+    lock.Unlock();
     auto answer = question.Answer(*box.files);
-    lock.lock();
+    lock.Lock();
     if (generation != box.generation) {
       // Given up meanwhile.
       if (const auto shelved = box.shelf.find(question.key); shelved != box.shelf.end())
@@ -174,9 +177,9 @@ void NameReader::Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generat
 
 void NameReader::WaitBriefly() {
   auto& box = *mMailbox;
-  std::unique_lock lock(box.mutex);
+  MutexLock lock(box.mutex);
   if (box.reading && SteadyClock::now() - box.since > kMoment) return;
-  box.news.wait_for(lock, kMoment, [&] { return box.IsIdle(); });
+  lock.WaitFor(box.news, kMoment, [&]() LURKWELL_REQUIRES(box.mutex) { return box.IsIdle(); });
 }
 
 std::optional<char> NameReader::Take(std::int32_t pid, std::uint64_t startStamp,
@@ -190,13 +193,13 @@ std::optional<std::string> NameReader::TakeCommandLine(std::int32_t pid, std::ui
 }
 
 std::optional<std::string> NameReader::Take(const Question& question) {
-  const std::lock_guard lock(mMailbox->mutex);
+  const MutexLock lock(mMailbox->mutex);
   auto answer = mMailbox->answers.extract(question);
   return answer ? std::optional(std::move(answer.mapped())) : std::nullopt;
 }
 
 void NameReader::DropAnswers() {
-  const std::lock_guard lock(mMailbox->mutex);
+  const MutexLock lock(mMailbox->mutex);
   mMailbox->answers.clear();
 }
 

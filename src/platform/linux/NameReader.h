@@ -49,7 +49,6 @@ class NameReader {
   bool Ask(Question question);
   std::optional<std::string> Take(const Question& question);
   static void Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generation);
-  bool EnsureReader();
 
   std::shared_ptr<Mailbox> mMailbox;
 };

@@ -162,7 +162,7 @@ NetworkUse NetworkAccount::Update(std::span<const TcpSocket* const> sockets,
       mUse.listeningPorts.push_back(socket->port);
       continue;
     }
-    const auto [place, isNew] = held.try_emplace(socket->cookie, socket->received, socket->sent);
+    const auto [place, isNew] = held.emplace(socket->cookie, Moved{socket->received, socket->sent});
     if (!isNew) continue;
     ++mUse.connections;
     mUse.isCounted = true;
@@ -176,9 +176,9 @@ NetworkUse NetworkAccount::Update(std::span<const TcpSocket* const> sockets,
     mUse.received += Growth(counted.received, socket->received);
     mUse.sent += Growth(counted.sent, socket->sent);
   }
-  std::ranges::sort(mUse.listeningPorts);
-  const auto doubled = std::ranges::unique(mUse.listeningPorts);
-  mUse.listeningPorts.erase(doubled.begin(), doubled.end());
+  auto& ports = mUse.listeningPorts;
+  std::ranges::sort(ports);
+  ports.erase(std::unique(ports.begin(), ports.end()), ports.end());
   mHeld = std::move(held);
   mLastLook = when;
   return mUse;

@@ -9,15 +9,15 @@
 #include <chrono>
 #include <condition_variable>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "platform/Mutex.h"
 #include "platform/ProcStat.h"
-#include "platform/linux/CommandName.h"
 #include "platform/QuietThread.h"
+#include "platform/linux/CommandName.h"
 #include "platform/linux/UserNames.h"
 
 namespace lurkwell {
@@ -80,43 +80,72 @@ std::optional<Reading> ReadWhatIsQuick(ProcFiles& files, std::int32_t pid) {
 }
 
 /// What the main thread and the reader share; the last of them frees it.
-struct Job {
-  std::shared_ptr<ProcFiles> files;
-  std::mutex mutex;
-  std::condition_variable news;
-  /// Owners and command lines are inside the mutex, the rest does not change.
-  std::vector<Reading> readings;
-  bool isDone = false;
+class Job {
+ public:
+  /// What is quick is read at once.
+  Job(std::shared_ptr<ProcFiles> files, std::span<const std::int32_t> pids)
+      : mFiles(std::move(files)) {
+    for (const auto pid : pids) {
+      auto reading = ReadWhatIsQuick(*mFiles, pid);
+      if (!reading) continue;
+      mAsked.push_back({reading->description.process, reading->user});
+      mDescriptions.push_back(std::move(reading->description));
+    }
+  }
 
+  /// The rest: owners' names and command lines. The reader's thread.
   void Run() {
     std::map<::uid_t, std::string> names;
-    for (auto& reading : readings)
-      if (reading.user && !names.contains(*reading.user))
-        names[*reading.user] = NameOfUser(*reading.user);
+    for (const auto& asked : mAsked)
+      if (asked.user && !names.contains(*asked.user)) names[*asked.user] = NameOfUser(*asked.user);
     {
-      const std::lock_guard lock(mutex);
-      for (auto& reading : readings)
-        if (reading.user) reading.description.owner = names[*reading.user];
+      const MutexLock lock(mMutex);
+      for (std::size_t i = 0; i < mAsked.size(); ++i)
+        if (mAsked[i].user) mDescriptions[i].owner = names[*mAsked[i].user];
     }
-    for (auto& reading : readings) {
-      auto commandLine = ReadCommandLine(*files, reading.description.process.pid,
-                                         reading.description.process.startStamp);
-      const std::lock_guard lock(mutex);
-      reading.description.commandLine = std::move(commandLine);
+    for (std::size_t i = 0; i < mAsked.size(); ++i) {
+      const auto& process = mAsked[i].process;
+      auto commandLine = ReadCommandLine(*mFiles, process.pid, process.startStamp);
+      const MutexLock lock(mMutex);
+      mDescriptions[i].commandLine = std::move(commandLine);
     }
-    const std::lock_guard lock(mutex);
-    isDone = true;
-    news.notify_all();
+    const MutexLock lock(mMutex);
+    mIsDone = true;
+    mNews.notify_all();
   }
+
+  /// Gives it a moment.
+  void Await() {
+    MutexLock lock(mMutex);
+    lock.WaitFor(mNews, kDescriptionPatience,
+                 [this]() LURKWELL_REQUIRES(mMutex) { return mIsDone; });
+  }
+
+  /// As far as they have come.
+  std::vector<ProcessDescription> Descriptions() {
+    const MutexLock lock(mMutex);
+    return mDescriptions;
+  }
+
+ private:
+  struct Asked {
+    ProcessIdentity process;
+    std::optional<::uid_t> user;
+  };
+
+  const std::shared_ptr<ProcFiles> mFiles;
+  /// One for each description.
+  std::vector<Asked> mAsked;
+  Mutex mMutex;
+  std::condition_variable mNews;
+  std::vector<ProcessDescription> mDescriptions LURKWELL_GUARDED_BY(mMutex);
+  bool mIsDone LURKWELL_GUARDED_BY(mMutex) = false;
 };
 
 }  // namespace
 
 std::vector<ProcessDescription> ProcessDescriber::Describe(std::span<const std::int32_t> pids) {
-  const auto job = std::make_shared<Job>();
-  job->files = mFiles;
-  for (const auto pid : pids)
-    if (auto reading = ReadWhatIsQuick(*mFiles, pid)) job->readings.push_back(std::move(*reading));
+  const auto job = std::make_shared<Job>(mFiles, pids);
   if (gReaders < kMostHangingDescribers) {
     ++gReaders;
     auto reader = StartWithoutSignals([job] {
@@ -125,18 +154,12 @@ std::vector<ProcessDescription> ProcessDescriber::Describe(std::span<const std::
     });
     if (reader.joinable()) {
       reader.detach();
+      job->Await();
     } else {
       --gReaders;
-      job->isDone = true;
     }
-    std::unique_lock lock(job->mutex);
-    job->news.wait_for(lock, kDescriptionPatience, [&] { return job->isDone; });
   }
-  const std::lock_guard lock(job->mutex);
-  std::vector<ProcessDescription> descriptions;
-  descriptions.reserve(job->readings.size());
-  for (const auto& reading : job->readings) descriptions.push_back(reading.description);
-  return descriptions;
+  return job->Descriptions();
 }
 
 }  // namespace lurkwell

@@ -81,7 +81,8 @@ std::shared_ptr<ControlGroup> UnitFiles::Find(std::string_view text) {
   if (!path) return nullptr;
   auto& known = mGroups[std::string(*path)];
   auto group = known.lock();
-  if (group == nullptr) known = group = std::make_shared<ControlGroup>(std::string(*path));
+  if (group == nullptr)
+    known = group = std::make_shared<ControlGroup>(ControlGroup{std::string(*path), {}, 0});
   return group;
 }
 

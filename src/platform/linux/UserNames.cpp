@@ -7,9 +7,9 @@
 #include <condition_variable>
 #include <deque>
 #include <map>
-#include <mutex>
 #include <utility>
 
+#include "platform/Mutex.h"
 #include "platform/QuietThread.h"
 
 namespace lurkwell {
@@ -30,21 +30,21 @@ std::string NameOfUser(::uid_t user) {
 
 /// What the main thread and the one that looks up share; the last of them frees it.
 struct UserNames::Mailbox {
-  std::mutex mutex;
+  Mutex mutex;
   std::condition_variable news;
   /// Without a name while it is asked for.
-  std::map<::uid_t, std::optional<std::string>> names;
-  std::deque<::uid_t> questions;
-  bool isServed = false;
+  std::map<::uid_t, std::optional<std::string>> names LURKWELL_GUARDED_BY(mutex);
+  std::deque<::uid_t> questions LURKWELL_GUARDED_BY(mutex);
+  bool isServed LURKWELL_GUARDED_BY(mutex) = false;
 
   /// Until there is no question left.
   void Serve() {
-    std::unique_lock lock(mutex);
+    MutexLock lock(mutex);
     while (!questions.empty()) {
       const auto user = questions.front();
-      lock.unlock();
+      lock.Unlock();
       auto name = NameOfUser(user);
-      lock.lock();
+      lock.Lock();
       names[user] = std::move(name);
       if (!questions.empty()) questions.pop_front();
     }
@@ -56,13 +56,13 @@ struct UserNames::Mailbox {
 UserNames::UserNames() : mMailbox(std::make_shared<Mailbox>()) {}
 
 UserNames::~UserNames() {
-  const std::lock_guard lock(mMailbox->mutex);
+  const MutexLock lock(mMailbox->mutex);
   mMailbox->questions.clear();
 }
 
 std::optional<std::string> UserNames::NameOf(::uid_t user) {
   auto& box = *mMailbox;
-  std::unique_lock lock(box.mutex);
+  MutexLock lock(box.mutex);
   const auto [known, isNew] = box.names.try_emplace(user);
   if (known->second) return known->second;
   if (isNew) box.questions.push_back(user);
@@ -72,7 +72,8 @@ std::optional<std::string> UserNames::NameOf(::uid_t user) {
     if (server.joinable()) server.detach();
   }
   const bool isAnswered =
-      !mHasWaited && box.news.wait_for(lock, kPatienceWithNames, [&] { return !box.isServed; });
+      !mHasWaited && lock.WaitFor(box.news, kPatienceWithNames,
+                                  [&]() LURKWELL_REQUIRES(box.mutex) { return !box.isServed; });
   mHasWaited |= !isAnswered;
   return known->second;
 }
