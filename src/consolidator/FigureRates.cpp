@@ -18,9 +18,11 @@ namespace {
 /// A shorter time says nothing about a second.
 constexpr std::int64_t kShortestSpan = 100'000;
 
-struct Counters {
+/// How one of kRates is made.
+struct RateFacts {
   Figure first{};
   std::optional<Figure> other;
+  FigureSources sources = 0;
 };
 
 constexpr std::optional<Figure> FigureNamed(std::string_view property) {
@@ -29,23 +31,28 @@ constexpr std::optional<Figure> FigureNamed(std::string_view property) {
   return std::nullopt;
 }
 
-constexpr auto kCounters = [] {
-  std::array<Counters, kRates.size()> counters{};
+constexpr auto kFacts = [] {
+  std::array<RateFacts, kRates.size()> facts{};
   for (std::size_t i = 0; i < kRates.size(); ++i) {
-    const auto& origin = RowOf(kRates[i]).origin;
-    counters[i] = {FigureNamed(origin.counter).value(), FigureNamed(origin.otherCounter)};
+    const auto& row = RowOf(kRates[i]);
+    facts[i] = {FigureNamed(row.origin.counter).value(), FigureNamed(row.origin.otherCounter),
+                SourcesOf(row)};
   }
-  return counters;
+  return facts;
 }();
+
+std::size_t PlaceAmongRates(Figure rate) {
+  return static_cast<std::size_t>(std::ranges::find(kRates, rate) - kRates.begin());
+}
 
 const CatalogueRow& CatalogueRowOf(Figure figure) {
   return FigureProperties()[static_cast<std::size_t>(figure)];
 }
 
 /// The sum of the counters, or why there is none.
-TypedValue CountOf(const PidBlock& block, const Counters& counters) {
+std::variant<std::int64_t, Missing> CountOf(const PidBlock& block, const RateFacts& facts) {
   std::int64_t count = 0;
-  for (const auto figure : {std::optional(counters.first), counters.other}) {
+  for (const auto figure : {std::optional(facts.first), facts.other}) {
     if (!figure) continue;
     const auto place = PlaceOf(CatalogueRowOf(*figure));
     if (!block.states.IsKnown(place)) return block.states.Why(place);
@@ -66,6 +73,7 @@ std::int64_t PerSecondOf(Figure rate, std::int64_t growth, std::int64_t microsec
 
 FigureRates::FigureRates(TimeValue now, std::vector<Figure> wanted)
     : mNow(MicrosecondsOf(now)), mWanted(std::move(wanted)) {
+  for (const Figure rate : mWanted) mPlaces.push_back(PlaceAmongRates(rate));
   const bool areShares = std::ranges::any_of(
       mWanted, [](Figure rate) { return RowOf(rate).kind == FigureKind::kCPUShare; });
   if (areShares) CountProcessorsForShares();
@@ -73,13 +81,13 @@ FigureRates::FigureRates(TimeValue now, std::vector<Figure> wanted)
 
 void FigureRates::Derive(PidReport& report, FigureSources current) const {
   auto& block = report.Block();
-  for (const Figure rate : mWanted) {
-    if ((SourcesOf(RowOf(rate)) & ~current) != 0) continue;
+  if (!mPlaces.empty() && block.counters.empty()) block.counters.resize(kRates.size());
+  for (const std::size_t place : mPlaces) {
+    if ((kFacts[place].sources & ~current) != 0) continue;
+    const Figure rate = kRates[place];
     const auto& row = CatalogueRowOf(rate);
-    const auto place = static_cast<std::size_t>(std::ranges::find(kRates, rate) - kRates.begin());
-    if (block.counters.empty()) block.counters.resize(kRates.size());
     auto& last = block.counters[place];
-    const auto value = CountOf(block, kCounters[place]);
+    const auto value = CountOf(block, kFacts[place]);
     const auto* count = std::get_if<std::int64_t>(&value);
     if (count == nullptr) {
       last = {};

@@ -57,6 +57,8 @@ class FigureRates {
  private:
   std::int64_t mNow;
   std::vector<Figure> mWanted;
+  /// Theirs among kRates.
+  std::vector<std::size_t> mPlaces;
 };
 
 /// Notes which process holds a pid by its start stamp. False when the record there belongs to an

@@ -21,7 +21,7 @@ enum FigureSource : unsigned {
   kFromLabel = 1024,       ///< of the security module
   kFromNamespaces = 2048,  ///< the owner's and root's alone
   kFromOOM = 4096,         ///< what it is worth when memory runs out
-  kFromAssignment = 8192,  ///< its processors, its priority at the disks; others change them
+  kFromAssignment = 8192,  ///< its processors, its priority at the disks
   kFromClock = 16384,      ///< the time that goes by
   // Those that take long to read; see CostlyFigures.
   kFromMemoryMap = 1 << 16,        ///< the sums over all mappings
@@ -42,6 +42,11 @@ inline constexpr FigureSources kCostlyFigureSources =
 /// another program, and ten seconds later at the earliest if it has run, a minute if it has not.
 inline constexpr FigureSources kSeldomChanging =
     kFromIdentity | kFromExecutable | kFromCommandLine | kFromLabel | kFromNamespaces;
+
+/// Those that nobody but the process changes: read as soon as it has run, and after a minute if it
+/// has not. What the longer description says of memory others take away, which its line in the
+/// table tells at the usual time.
+inline constexpr FigureSources kByRunningAlone = kFromStatus | kFromIO | kFromThreads;
 
 inline constexpr std::size_t kCostlySourceCount = std::popcount(kCostlyFigureSources);
 

@@ -39,8 +39,11 @@ std::optional<ProcStat> ParseProcStat(std::string_view text);
 /// its letter. Those that fill 64 bits are negative.
 using ProcStatFields = std::array<std::int64_t, 53>;
 
-/// Every field that figures are taken from has to be a number. As long as the text that `stat` was
-/// read from is there.
+/// The field in which the program's arguments lie; 0 for others' processes.
+inline constexpr std::size_t kArgumentsField = 48;
+
+/// Those that figures are taken from, each of which has to be a number, and on to the arguments'.
+/// As long as the text that `stat` was read from is there.
 std::optional<ProcStatFields> ParseProcStatFields(const ProcStat& stat);
 
 /// The lines "name:\tVALUE" of a status or io file, taken apart once. As long as the text is there.

@@ -1,6 +1,8 @@
 // What the process table takes over from one pass to the next, against the files in /proc.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
+#include <sys/mman.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <time.h>
@@ -16,6 +18,7 @@
 
 #include "platform/linux/LinuxProcessTable.h"
 #include "support/PidNamespace.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -23,6 +26,9 @@ namespace {
 /// What was asked of the kernel, and what time it is.
 struct Counts {
   std::map<std::int32_t, int> reads;
+  /// Of the files in a process's folder, by their names.
+  std::map<std::int32_t, std::map<std::string, int>> readsOf;
+  std::map<std::int32_t, int> assignments;
   int listings = 0;
   int clocks = 0;
   std::int64_t milliseconds = 0;
@@ -50,6 +56,19 @@ class CountingFiles final : public ProcFiles {
   std::ptrdiff_t Read(int file, std::span<char> buffer) override {
     ++mCounts.reads[mPids[file]];
     return ProcFiles::Read(file, buffer);
+  }
+  FileDescriptor OpenFolder(std::int32_t pid) override {
+    FileDescriptor folder = ProcFiles::OpenFolder(pid);
+    mPids[folder.Get()] = pid;
+    return folder;
+  }
+  std::ptrdiff_t ReadIn(int folder, const char* name, std::span<char> buffer) override {
+    ++mCounts.readsOf[mPids[folder]][name];
+    return ProcFiles::ReadIn(folder, name, buffer);
+  }
+  std::optional<Assignment> AssignmentOf(std::int32_t pid) override {
+    ++mCounts.assignments[pid];
+    return ProcFiles::AssignmentOf(pid);
   }
 
  private:
@@ -240,6 +259,63 @@ TEST_F(UnchangedProcesses, AreNotEvenLookedAtForWhomNobodyAsks) {
   EXPECT_FALSE(mTable->Refresh(ofOne));
   const auto entries = mTable->Read(ofOne);
   EXPECT_EQ(std::ranges::find(entries, followed, &ProcessTableEntry::pid), entries.end());
+}
+
+/// What others can change without a sign is read in turns, the rest when the process has run or its
+/// memory was taken.
+TEST_F(UnchangedProcesses, AreAskedAgainForWhatOthersChange) {
+  constexpr std::size_t kMapped = 4 << 20;
+  const TemporaryFolder folder;
+  const FileDescriptor file(::open((folder / "mapped").c_str(), O_RDWR | O_CREAT, 0600));
+  ASSERT_EQ(::ftruncate(file.Get(), kMapped), 0);
+  const pid_t pid = ::fork();
+  if (pid == 0) {
+    auto* memory = static_cast<char*>(
+        ::mmap(nullptr, kMapped, PROT_READ | PROT_WRITE, MAP_SHARED, file.Get(), 0));
+    for (std::size_t i = 0; i < kMapped; i += 4096) memory[i] = 1;
+    for (;;) ::pause();
+  }
+  mPids.push_back(pid);
+  std::int64_t mapped = 0;
+  std::map<std::string, int> counts;
+  const auto turns = [&](int count) {
+    counts = {};
+    for (int i = 0; i < count; ++i) {
+      Settle(mPids);
+      auto before = mCounts.readsOf[pid];
+      before["affinity"] = mCounts.assignments[pid];
+      mCounts.milliseconds += ProcessReader::kLongestKept;
+      const auto entries = mTable->Read([](std::int32_t) {
+        return kFromStat | kFromStatus | kFromIO | kFromThreads | kFromGroup | kFromAssignment;
+      });
+      const auto& figures =
+          mTable->FiguresOf(*std::ranges::find(entries, pid, &ProcessTableEntry::pid));
+      mapped = figures.Get(FigureCalled("pid_shared_memory"));
+      auto after = mCounts.readsOf[pid];
+      after["affinity"] = mCounts.assignments[pid];
+      for (const auto& [name, reads] : after)
+        if (reads > before[name]) counts[name] += reads - before[name];
+    }
+  };
+  using Reads = std::map<std::string, int>;
+  do {
+    turns(2);
+  } while (mapped < static_cast<std::int64_t>(kMapped));
+  turns(3);
+  EXPECT_EQ(counts, (Reads{{"affinity", 3}, {"cgroup", 3}}));
+  // The process itself does not run.
+  ASSERT_EQ(::ftruncate(file.Get(), 0), 0);
+  turns(1);
+  EXPECT_EQ(counts, (Reads{{"affinity", 1}, {"cgroup", 1}, {"status", 1}}));
+  EXPECT_LT(mapped, static_cast<std::int64_t>(kMapped));
+  ::kill(pid, SIGSTOP);
+  turns(1);
+  EXPECT_EQ(counts,
+            (Reads{{"affinity", 1}, {"cgroup", 1}, {"io", 1}, {"schedstat", 1}, {"status", 1}}));
+  // And for all that, after a minute more.
+  turns(8);
+  EXPECT_EQ(counts["io"], 1);
+  EXPECT_EQ(counts["status"], 1);
 }
 
 /// Births are seen without a listing, those of threads count, too.

@@ -248,8 +248,10 @@ void FigureFiles::ReadSingle(Figure figure, const FileDescriptor& folder, const 
   }
 }
 
-void FigureFiles::TakeUnitFigures(KnownProcess& known) {
+bool FigureFiles::TakeUnitFigures(KnownProcess& known) {
   const auto* figures = known.unit != nullptr ? &mUnits.FiguresOf(*known.unit) : nullptr;
+  const auto stamp = figures != nullptr ? known.unit->stamp : UnitFiles::kStampOfNone;
+  if (std::exchange(known.unitStamp, stamp) == stamp) return false;
   for (const Figure figure : kFiguresFrom<kFromUnit>) {
     const auto state = figures != nullptr ? figures->StateOf(figure) : FigureState::kUncounted;
     if (state == FigureState::kKnown) {
@@ -258,17 +260,17 @@ void FigureFiles::TakeUnitFigures(KnownProcess& known) {
       known.figures.SetMissing(figure, state);
     }
   }
+  return true;
 }
 
-void FigureFiles::TakeAssignment(KnownProcess& known) {
-  if (!known.assignment) {
+void FigureFiles::TakeAssignment(const std::optional<Assignment>& assignment, KnownProcess& known) {
+  if (!assignment) {
     for (const Figure figure : kFiguresFrom<kFromAssignment>)
       known.figures.SetMissing(figure, FigureState::kUncounted);
     return;
   }
-  known.figures.SetText(FigureCalled("pid_affinity"),
-                        ListOfProcessors(known.assignment->processors));
-  known.figures.Set(FigureCalled("pid_io_priority"), known.assignment->ioPriority);
+  known.figures.SetText(FigureCalled("pid_affinity"), ListOfProcessors(assignment->processors));
+  known.figures.Set(FigureCalled("pid_io_priority"), assignment->ioPriority);
 }
 
 std::int64_t FigureFiles::FigureOf(const FigureOrigin& origin, std::int64_t number) const {

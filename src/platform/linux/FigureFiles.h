@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,11 +36,11 @@ class FigureFiles {
   /// the other way round. Gives the sources that have been read.
   FigureSources Read(FigureSource source, const FileDescriptor& folder, KnownProcess& known);
 
-  /// Others of the unit may have run.
-  void TakeUnitFigures(KnownProcess& known);
+  /// Others of the unit may have run. True when figures are others.
+  bool TakeUnitFigures(KnownProcess& known);
   /// True when the names of users have come.
   bool TakeUserNames(KnownProcess& known);
-  static void TakeAssignment(KnownProcess& known);
+  static void TakeAssignment(const std::optional<Assignment>& assignment, KnownProcess& known);
 
  private:
   void ReadNamed(FigureSources sources, const FileDescriptor& folder, const char* file,

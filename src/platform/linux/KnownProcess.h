@@ -57,12 +57,22 @@ struct KnownProcess {
     std::vector<Reading> mReadings;
   };
   Readings readings;
+  /// Nothing of these sources is stale until then, in milliseconds, unless it has run since.
+  struct Rest {
+    FigureSources sources = 0;
+    std::uint64_t runTime = 0;
+    std::int64_t until = 0;
+  };
+  Rest rest;
+  /// What was resident when the longer description was read.
+  std::int64_t describedMemory = 0;
   /// Tells one program from the next that the process becomes, as of the last reading of what
   /// seldom changes; 0 before.
   std::uint64_t program = 0;
   std::shared_ptr<ControlGroup> unit;
+  /// Which of the unit's figures are among the process's; see ControlGroup.
+  std::uint64_t unitStamp = 0;
   std::optional<Scheduling> scheduling;
-  std::optional<Assignment> assignment;
   /// Real and effective, once they are known; their names may be missing yet.
   std::optional<std::array<std::uint32_t, 2>> users;
   bool areUsersNamed = false;

@@ -237,7 +237,7 @@ std::optional<Scheduling> ReadScheduling(std::int32_t pid) {
 std::optional<Assignment> ReadAssignment(std::int32_t pid) {
   constexpr int kOneProcess = 1;
   // 16,384 processors, more than the kernel knows.
-  std::array<std::uint64_t, 256> set{};
+  std::array<std::uint64_t, 256> set;
   if (pid <= 0) return std::nullopt;
   const auto bytes = ::syscall(SYS_sched_getaffinity, pid, sizeof set, set.data());
   const auto priority = ::syscall(SYS_ioprio_get, kOneProcess, pid);

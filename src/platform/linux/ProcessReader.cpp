@@ -9,6 +9,7 @@
 #include <charconv>
 #include <cstring>
 #include <functional>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -22,11 +23,12 @@ constexpr std::size_t kMostKeptAtAll = 16'384;
 // A name is looked up in two readings, as the first may fall into the middle of an exec.
 constexpr std::uint8_t kNamings = 2;
 constexpr std::int64_t kFarFuture = 1'000'000'000'000;
-/// The field of a stat file in which a program's arguments lie; 0 for others' processes.
-constexpr std::size_t kArgumentsField = 48;
-/// What is asked of the kernel in every pass, or needs no file.
+constexpr Figure kResident = FigureCalled("pid_rsz");
+/// What needs no file.
 constexpr FigureSources kWithoutFiles =
     kFromUnit | kFromScheduler | kFromAssignment | kFromClock | kFromCommandLine;
+/// What is looked at in every pass.
+constexpr FigureSources kAlwaysFresh = kFromUnit | kFromScheduler | kFromClock;
 
 RunState StateOf(char state) {
   switch (state) {
@@ -50,6 +52,12 @@ void SetName(ProcessTableEntry& entry, std::string_view name) {
   name = name.substr(0, std::min(name.find('\0'), kCommandNameLength));
   std::memset(entry.commandName, 0, sizeof entry.commandName);
   std::memcpy(entry.commandName, name.data(), name.size());
+}
+
+/// By its name and where its arguments lie, which the kernel chooses anew each time. Never 0.
+std::uint64_t MarkOfProgram(std::string_view name, std::int64_t arguments) {
+  const std::uint64_t mark = std::hash<std::string_view>{}(name);
+  return (mark ^ static_cast<std::uint64_t>(arguments)) * 1099511628211U | 1;
 }
 
 /// Somewhere in the longest time, so that not all are read anew at once.
@@ -87,8 +95,8 @@ void ProcessReader::BeginPass() {
 
 ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProcess& known,
                                            FigureSources sources) {
-  // The line in the table tells when it has become another program.
-  if ((sources & kSeldomChanging) != 0) sources |= kFromStat;
+  // The line in the table tells when it has become another program, or its memory another.
+  if ((sources & (kSeldomChanging | kFromStatus)) != 0) sources |= kFromStat;
   if ((sources & kFromUnit) != 0) sources |= kFromGroup;
   // Taken before the files are read: what runs in between counts as having run since.
   const auto runTime = mFiles->RunTime(entry.pid);
@@ -101,51 +109,47 @@ ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProces
   // An unknown parent may end unseen, so its children are not kept.
   const bool hasUnknownParent = (sources & kFromStat) != 0 && entry.parentPid == kInvalidPID;
   if (known.isInDoubt || hasUnknownParent) stale |= kFromStat;
-  if (stale != 0) {
+  if ((stale & ~kFromAssignment) != 0) {
     const auto outcome = Read(entry, known, stale, sources, runTime);
     if (outcome != Outcome::kCurrent) return outcome;
   }
-  constexpr FigureSources kBesideFiles =
-      kFromUnit | kFromIdentity | kFromAssignment | kFromClock | kFromCommandLine;
+  constexpr FigureSources kBesideFiles = kFromUnit | kFromIdentity | kFromClock | kFromCommandLine;
+  if ((stale & kFromAssignment) != 0) ReadAssignmentOf(entry, known, runTime);
   if ((sources & kBesideFiles) != 0) sources = LookWithoutFiles(entry, known, sources);
   entry.current |= sources;
   return Outcome::kCurrent;
 }
 
 /// Those that may be others than when they were read.
-FigureSources ProcessReader::StaleOf(const KnownProcess& known, FigureSources sources,
+FigureSources ProcessReader::StaleOf(KnownProcess& known, FigureSources sources,
                                      std::optional<std::uint64_t> runTime) const {
+  auto& rest = known.rest;
+  if (runTime == rest.runTime && (sources & ~rest.sources) == 0 && mNow < rest.until) return 0;
   FigureSources stale = 0;
-  ForEachSource(sources & ~(kWithoutFiles & ~kFromCommandLine), [&](FigureSource source) {
+  std::int64_t until = std::numeric_limits<std::int64_t>::max();
+  ForEachSource(sources & ~kAlwaysFresh, [&](FigureSource source) {
+    constexpr FigureSources kKeptAsleep = kSeldomChanging | kByRunningAlone;
     const auto& reading = std::as_const(known).readings[source];
     const bool hasNotRun = runTime && reading.runTime == runTime;
-    const bool isKept = (source & kSeldomChanging) == 0
-                            ? hasNotRun && mNow < reading.due
-                            : mNow < reading.due + (hasNotRun ? kLongestKeptAsleep : 0);
+    const bool isKeptLonger = hasNotRun && (source & kKeptAsleep) != 0;
+    const auto due = reading.due + (isKeptLonger ? kLongestKeptAsleep : 0);
+    const bool isKept = mNow < due && (hasNotRun || (source & kSeldomChanging) != 0);
     if (!isKept) stale |= source;
+    until = std::min(until, due);
   });
+  if (stale == 0 && runTime) rest = {sources, *runTime, until};
   return stale;
 }
 
 /// What needs no file of the process. Gives the sources that are as they are now.
 FigureSources ProcessReader::LookWithoutFiles(ProcessTableEntry& entry, KnownProcess& known,
                                               FigureSources sources) {
-  if ((sources & kFromUnit) != 0) {
-    mFigureFiles.TakeUnitFigures(known);
+  if ((sources & kFromUnit) != 0 && mFigureFiles.TakeUnitFigures(known)) {
     entry.read |= kFromUnit;
+    entry.known |= kFromUnit;
   }
   if ((sources & kFromIdentity) != 0 && mFigureFiles.TakeUserNames(known))
     entry.read |= kFromIdentity;
-  if ((sources & kFromAssignment) != 0) {
-    auto assignment = mFiles->AssignmentOf(entry.pid);
-    const bool isOther = (entry.known & kFromAssignment) == 0 || assignment != known.assignment;
-    known.assignment = std::move(assignment);
-    if (isOther) {
-      mFigureFiles.TakeAssignment(known);
-      entry.read |= kFromAssignment;
-      entry.known |= kFromAssignment;
-    }
-  }
   if ((sources & kFromClock) != 0) {
     const auto start = TimeOf(entry.startStamp);
     const auto age = mMillisecondsSinceBoot - (start.seconds * 1000 + start.microseconds / 1000);
@@ -158,6 +162,12 @@ FigureSources ProcessReader::LookWithoutFiles(ProcessTableEntry& entry, KnownPro
   return sources & ~kFromCommandLine;
 }
 
+void ProcessReader::ReadAssignmentOf(ProcessTableEntry& entry, KnownProcess& known,
+                                     std::optional<std::uint64_t> runTime) {
+  FigureFiles::TakeAssignment(mFiles->AssignmentOf(entry.pid), known);
+  Note(entry, known, kFromAssignment, runTime);
+}
+
 ProcessReader::Outcome ProcessReader::ReadAgain(ProcessTableEntry& entry, KnownProcess& known) {
   return Read(entry, known, kFromStat, kFromStat, mFiles->RunTime(entry.pid));
 }
@@ -165,11 +175,9 @@ ProcessReader::Outcome ProcessReader::ReadAgain(ProcessTableEntry& entry, KnownP
 ProcessReader::Outcome ProcessReader::Read(ProcessTableEntry& entry, KnownProcess& known,
                                            FigureSources sources, FigureSources wanted,
                                            std::optional<std::uint64_t> runTime) {
-  // The folder is that of one process: all that is read in it is that one's.
-  const auto folder = OpenFolderFor(entry.pid, sources);
-  if (!folder) return IsShortage(errno) ? Outcome::kShort : Outcome::kGone;
-  const auto bytes = folder->IsOpen() ? mFiles->ReadIn(folder->Get(), "stat", mBuffer)
-                                      : ReadStat(entry.pid, known);
+  const bool isStatAlone = (sources & ~(kWithoutFiles | kFromStat)) == 0;
+  FileDescriptor folder;
+  const auto bytes = ReadStat(entry.pid, known, isStatAlone ? nullptr : &folder);
   if (bytes < 0 && IsShortage(errno)) return Outcome::kShort;
   const auto stat = ParseProcStat(BufferText(bytes));
   const auto fields = stat ? ParseProcStatFields(*stat) : std::nullopt;
@@ -180,11 +188,21 @@ ProcessReader::Outcome ProcessReader::Read(ProcessTableEntry& entry, KnownProces
   Take(*stat, entry, known);
   mFigureFiles.TakeStat(*fields, known);
   Note(entry, known, kFromStat, runTime);
-  const FigureSources seldom = wanted & kSeldomChanging;
-  if (seldom != 0 && IsAnotherProgram(*stat, known) && (seldom & ~sources) != 0)
-    return Read(entry, known, sources | seldom, wanted, runTime);
-  ReadFiles(*folder, entry, known, sources, runTime);
+  const FigureSources more = ToldToBeOthers(*stat, *fields, known, wanted);
+  if ((more & ~sources) != 0) return Read(entry, known, sources | more, wanted, runTime);
+  ReadFiles(folder, entry, known, sources, runTime);
   return Outcome::kCurrent;
+}
+
+/// Those of what is wanted that the line in the table says to be others than when they were read.
+FigureSources ProcessReader::ToldToBeOthers(const ProcStat& stat, const ProcStatFields& fields,
+                                            KnownProcess& known, FigureSources wanted) {
+  FigureSources others = 0;
+  const FigureSources seldom = wanted & kSeldomChanging;
+  const auto program = MarkOfProgram(stat.name, fields[kArgumentsField]);
+  if (seldom != 0 && std::exchange(known.program, program) != program) others |= seldom;
+  if (known.figures.Get(kResident) != known.describedMemory) others |= wanted & kFromStatus;
+  return others;
 }
 
 void ProcessReader::ReadFiles(const FileDescriptor& folder, ProcessTableEntry& entry,
@@ -195,6 +213,7 @@ void ProcessReader::ReadFiles(const FileDescriptor& folder, ProcessTableEntry& e
     if ((done & source) != 0) return;
     const FigureSources read = mFigureFiles.Read(source, folder, known);
     done |= read;
+    if ((read & kFromStatus) != 0) known.describedMemory = known.figures.Get(kResident);
     ForEachSource(read, [&](FigureSource each) { Note(entry, known, each, runTime); });
   });
   if ((sources & kFromCommandLine) != 0 && mNames.AskForCommandLine(entry.pid, entry.startStamp)) {
@@ -210,28 +229,19 @@ void ProcessReader::TakeCommandLine(ProcessTableEntry& entry, KnownProcess& know
   entry.current |= kFromCommandLine;
 }
 
-/// By its name and where its arguments lie, which the kernel chooses anew each time.
-bool ProcessReader::IsAnotherProgram(const ProcStat& stat, KnownProcess& known) const {
-  constexpr std::size_t kFirstField = 3;
-  const auto arguments = ParseNthNumber(stat.fields, kArgumentsField - kFirstField + 1);
-  std::uint64_t mark = std::hash<std::string_view>{}(stat.name);
-  mark = (mark ^ static_cast<std::uint64_t>(arguments.value_or(0))) * 1099511628211U | 1;
-  return std::exchange(known.program, mark) != mark;
-}
-
-/// Not open where the stat file alone is read; nothing, and errno, where it cannot be opened.
-std::optional<FileDescriptor> ProcessReader::OpenFolderFor(std::int32_t pid,
-                                                           FigureSources sources) {
-  if ((sources & ~(kWithoutFiles | kFromStat)) == 0) return FileDescriptor();
-  FileDescriptor folder = mFiles->OpenFolder(pid);
-  while (!folder.IsOpen() && IsShortage(errno) && mGiveBack()) folder = mFiles->OpenFolder(pid);
-  if (!folder.IsOpen()) return std::nullopt;
-  return folder;
+/// True, too, where none is wanted; false, and errno, where it cannot be opened.
+bool ProcessReader::OpenFolder(std::int32_t pid, FileDescriptor* folder) {
+  if (folder == nullptr) return true;
+  do {
+    *folder = mFiles->OpenFolder(pid);
+  } while (!folder->IsOpen() && IsShortage(errno) && mGiveBack());
+  return folder->IsOpen();
 }
 
 void ProcessReader::Note(ProcessTableEntry& entry, KnownProcess& known, FigureSource source,
                          std::optional<std::uint64_t> runTime) {
   auto& reading = known.readings[source];
+  known.rest = {};
   const bool isFirst = (entry.known & source) == 0;
   // What is on a processor now is not counted up to now.
   reading.runTime = entry.state == RunState::kRunning ? std::nullopt : runTime;
@@ -248,8 +258,9 @@ void ProcessReader::Take(const ProcStat& stat, ProcessTableEntry& entry, KnownPr
     entry.known = 0;
     known.figures = {};
     known.readings = {};
+    known.rest = {};
+    known.unitStamp = 0;
     known.program = 0;
-    known.assignment.reset();
     known.users.reset();
     known.isInside = false;
   }
@@ -290,16 +301,20 @@ std::string_view ProcessReader::BufferText(std::ptrdiff_t bytes) const {
 }
 
 /// Reads the kept file, else a newly opened one, which is then kept if there is room. Negative with
-/// errno on failure.
-std::ptrdiff_t ProcessReader::ReadStat(std::int32_t pid, KnownProcess& known) {
+/// errno on failure. The folder, where one is wanted, is opened between the file's opening and its
+/// reading, over which time no other process can have the pid.
+std::ptrdiff_t ProcessReader::ReadStat(std::int32_t pid, KnownProcess& known,
+                                       FileDescriptor* folder) {
   if (known.stat.IsOpen()) {
-    const auto bytes = mFiles->Read(known.stat.Get(), mBuffer);
+    const bool isReady = OpenFolder(pid, folder);
+    if (!isReady && IsShortage(errno)) return -1;
+    const auto bytes = isReady ? mFiles->Read(known.stat.Get(), mBuffer) : -1;
     if (bytes > 0) return bytes;
     // That process has ended; its pid is listed all the same, so another may have it.
     Forget(known);
   }
   FileDescriptor file = OpenStat(pid);
-  if (!file.IsOpen()) return -1;
+  if (!file.IsOpen() || !OpenFolder(pid, folder)) return -1;
   const auto bytes = mFiles->Read(file.Get(), mBuffer);
   if (bytes > 0 && mKept < mMostKept) {
     known.stat = std::move(file);

@@ -27,7 +27,8 @@ class ProcessReader {
  public:
   /// No reading that is given as current is older, in milliseconds.
   static constexpr std::int64_t kLongestKept = 10'000;
-  /// The same of what seldom changes, while the process does not run.
+  /// How much longer what seldom changes, and what others do not change, is kept while the process
+  /// does not run.
   static constexpr std::int64_t kLongestKeptAsleep = 60'000;
 
   /// `giveBack` closes some of the kept files and gives false when there are none left.
@@ -70,17 +71,20 @@ class ProcessReader {
   TimeValue BootTime() const { return mBootTime; }
 
  private:
-  FigureSources StaleOf(const KnownProcess& known, FigureSources sources,
+  FigureSources StaleOf(KnownProcess& known, FigureSources sources,
                         std::optional<std::uint64_t> runTime) const;
   FigureSources LookWithoutFiles(ProcessTableEntry& entry, KnownProcess& known,
                                  FigureSources sources);
+  void ReadAssignmentOf(ProcessTableEntry& entry, KnownProcess& known,
+                        std::optional<std::uint64_t> runTime);
   Outcome Read(ProcessTableEntry& entry, KnownProcess& known, FigureSources sources,
                FigureSources wanted, std::optional<std::uint64_t> runTime);
   void ReadFiles(const FileDescriptor& folder, ProcessTableEntry& entry, KnownProcess& known,
                  FigureSources sources, std::optional<std::uint64_t> runTime);
-  bool IsAnotherProgram(const ProcStat& stat, KnownProcess& known) const;
-  std::ptrdiff_t ReadStat(std::int32_t pid, KnownProcess& known);
-  std::optional<FileDescriptor> OpenFolderFor(std::int32_t pid, FigureSources sources);
+  static FigureSources ToldToBeOthers(const ProcStat& stat, const ProcStatFields& fields,
+                                      KnownProcess& known, FigureSources wanted);
+  std::ptrdiff_t ReadStat(std::int32_t pid, KnownProcess& known, FileDescriptor* folder);
+  bool OpenFolder(std::int32_t pid, FileDescriptor* folder);
   void Take(const ProcStat& stat, ProcessTableEntry& entry, KnownProcess& known);
   void Name(const ProcStat& stat, KnownProcess& known, bool isSame, ProcessTableEntry& entry);
   void Note(ProcessTableEntry& entry, KnownProcess& known, FigureSource source,

@@ -101,13 +101,19 @@ const ProcessFigures& UnitFiles::FiguresOf(ControlGroup& group) {
 void UnitFiles::Read(ControlGroup& group) {
   const auto text = ReadAll(mRoot, "." + group.path + "/io.stat");
   const bool isRefused = !text && (errno == EACCES || errno == EPERM);
+  const auto why = isRefused ? FigureState::kRefused : FigureState::kUncounted;
+  bool isOther = group.stamp == 0;
   for (const Figure figure : kFiguresFrom<kFromUnit>) {
+    const auto stateBefore = group.figures.StateOf(figure);
+    const auto before = group.figures.Get(figure);
     if (text) {
       group.figures.Set(figure, SumOfNamed(*text, RowOf(figure).origin.name));
     } else {
-      group.figures.SetMissing(figure, isRefused ? FigureState::kRefused : FigureState::kUncounted);
+      group.figures.SetMissing(figure, why);
     }
+    isOther |= group.figures.StateOf(figure) != stateBefore || group.figures.Get(figure) != before;
   }
+  if (isOther) group.stamp = ++mLastStamp;
 }
 
 std::int64_t SumOfNamed(std::string_view text, std::string_view name) {

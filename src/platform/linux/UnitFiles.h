@@ -20,6 +20,8 @@ struct ControlGroup {
   /// Those of kFromUnit, as of the pass in which they were last asked for.
   ProcessFigures figures;
   std::uint64_t pass = 0;
+  /// Another one, and one that no other group has, when a figure is another one.
+  std::uint64_t stamp = 0;
 };
 
 /// What the control groups of the unified hierarchy count. Each is read once a pass at most,
@@ -29,6 +31,9 @@ class UnitFiles {
   /// Where the hierarchy is mounted, or a folder of the same shape. Empty: where this machine has
   /// it.
   explicit UnitFiles(const std::string& root = {});
+
+  /// In place of a stamp where there is no group.
+  static constexpr std::uint64_t kStampOfNone = 1;
 
   void BeginPass();
 
@@ -47,6 +52,7 @@ class UnitFiles {
 
   FileDescriptor mRoot;
   std::uint64_t mPass = 1;
+  std::uint64_t mLastStamp = kStampOfNone;
   std::unordered_map<std::string, std::weak_ptr<ControlGroup>> mGroups;
 };
 
