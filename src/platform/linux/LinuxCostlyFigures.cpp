@@ -4,35 +4,21 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstdint>
 #include <deque>
-#include <map>
 #include <optional>
-#include <thread>
 #include <utility>
 
 #include "platform/Mutex.h"
+#include "platform/ThreadSafety.h"
 #include "platform/linux/CostlyReader.h"
-#include "platform/QuietThread.h"
+#include "platform/linux/ReplaceableThread.h"
 
 namespace lurkwell {
 namespace {
 
-using namespace std::chrono_literals;
 using SteadyClock = std::chrono::steady_clock;
-using CostlyKey = std::pair<std::int32_t, std::uint64_t>;
-
-constexpr auto kLongestCostlyReading = 1s;
-constexpr auto kCostlyRest = 60s;
-constexpr auto kLastMoment = 20ms;
-constexpr std::size_t kMostHangingThreads = 4;
-
-CostlyKey KeyOf(ProcessIdentity process) {
-  return {process.pid, process.startStamp};
-}
 
 /// Processor time of this thread, in microseconds.
 std::int64_t ThreadTime() {
@@ -127,106 +113,52 @@ class Turns {
   Allowance mForNew{100'000, 50};
 };
 
-struct ShelvedProcess {
-  SteadyClock::time_point until;
-  bool hangs = true;
-};
-
 }  // namespace
 
-/// What the main thread and the readers share; the last of them frees it.
+/// What the main thread and the reader share; the last of them frees it.
 struct LinuxCostlyFigures::Shared {
   Shared(std::string itsProc, std::string itsUnits, std::string itsDevices)
       : proc(std::move(itsProc)), units(std::move(itsUnits)), devices(std::move(itsDevices)) {}
-
-  /// A thread of another generation than this one ends as soon as it can.
-  void GiveUpThread() LURKWELL_REQUIRES(mutex) {
-    ++generation;
-    thread.detach();
-    reading.reset();
-    news.notify_all();
-  }
-
-  /// False when there is no thread to be had. Main thread, with what is shared itself.
-  bool EnsureThread(const std::shared_ptr<Shared>& itself) LURKWELL_REQUIRES(mutex);
+  void Serve(ReplaceableThread::Place place);
 
   const std::string proc;
   const std::string units;
   const std::string devices;
-  Mutex mutex;
-  std::condition_variable news;
-  std::vector<CostlyWish> wishes LURKWELL_GUARDED_BY(mutex);
-  bool areWishesNew LURKWELL_GUARDED_BY(mutex) = false;
+  ReplaceableThread thread;
+  std::vector<CostlyWish> wishes LURKWELL_GUARDED_BY(thread.mutex);
+  bool areWishesNew LURKWELL_GUARDED_BY(thread.mutex) = false;
   struct Result {
     CostlyReading reading;
     SteadyClock::time_point readAt;
   };
-  std::vector<Result> results LURKWELL_GUARDED_BY(mutex);
-  std::map<CostlyKey, ShelvedProcess> shelf LURKWELL_GUARDED_BY(mutex);
-  /// What is read, and since when.
-  std::optional<CostlyKey> reading LURKWELL_GUARDED_BY(mutex);
-  SteadyClock::time_point since LURKWELL_GUARDED_BY(mutex);
-  unsigned generation LURKWELL_GUARDED_BY(mutex) = 0;
-  std::atomic<std::int64_t> takenTime = 0;
-  /// Main thread's.
-  std::thread thread;
+  std::vector<Result> results LURKWELL_GUARDED_BY(thread.mutex);
 };
 
 LinuxCostlyFigures::LinuxCostlyFigures(std::string proc, std::string units, std::string devices)
     : mShared(std::make_shared<Shared>(std::move(proc), std::move(units), std::move(devices))) {}
 
 LinuxCostlyFigures::~LinuxCostlyFigures() {
-  auto& shared = *mShared;
-  if (!shared.thread.joinable()) return;
-  MutexLock lock(shared.mutex);
-  ++shared.generation;
-  shared.news.notify_all();
-  if (lock.WaitFor(shared.news, kLastMoment,
-                   [&]() LURKWELL_REQUIRES(shared.mutex) { return !shared.reading; })) {
-    lock.Unlock();
-    shared.thread.join();
-  } else {
-    shared.thread.detach();
-  }
+  mShared->thread.End();
 }
 
 void LinuxCostlyFigures::Ask(std::vector<CostlyWish> wishes) {
   auto& shared = *mShared;
+  const MutexLock lock(shared.thread.mutex);
   // Nothing to begin a thread for.
-  if (wishes.empty() && !shared.thread.joinable()) return;
-  const MutexLock lock(shared.mutex);
-  if (!shared.EnsureThread(mShared)) return;
-  const auto now = SteadyClock::now();
-  std::erase_if(wishes, [&](const CostlyWish& wish) LURKWELL_REQUIRES(shared.mutex) {
-    const auto shelved = shared.shelf.find(KeyOf(wish.process));
-    return shelved != shared.shelf.end() && (shelved->second.hangs || now < shelved->second.until);
+  if (wishes.empty() && !shared.thread.Exists()) return;
+  if (!shared.thread.Ensure(mShared)) return;
+  std::erase_if(wishes, [&](const CostlyWish& wish) LURKWELL_REQUIRES(shared.thread.mutex) {
+    return shared.thread.IsResting(wish.process);
   });
   shared.wishes = std::move(wishes);
   shared.areWishesNew = true;
-  shared.news.notify_all();
-}
-
-bool LinuxCostlyFigures::Shared::EnsureThread(const std::shared_ptr<Shared>& itself) {
-  const auto now = SteadyClock::now();
-  std::erase_if(shelf, [now](const auto& shelved) {
-    return !shelved.second.hangs && shelved.second.until <= now;
-  });
-  if (reading && now - since > kLongestCostlyReading) {
-    shelf[*reading] = {now + kCostlyRest};
-    GiveUpThread();
-  }
-  if (thread.joinable()) return true;
-  const auto hanging =
-      std::ranges::count_if(shelf, [](const auto& shelved) { return shelved.second.hangs; });
-  if (static_cast<std::size_t>(hanging) >= kMostHangingThreads) return false;
-  thread = StartWithoutSignals([itself, its = generation] { Serve(itself, its); });
-  return thread.joinable();
+  shared.thread.Notify();
 }
 
 std::vector<CostlyReading> LinuxCostlyFigures::Collect() {
   std::vector<Shared::Result> results;
   {
-    const MutexLock lock(mShared->mutex);
+    const MutexLock lock(mShared->thread.mutex);
     results.swap(mShared->results);
   }
   const auto now = SteadyClock::now();
@@ -239,61 +171,39 @@ std::vector<CostlyReading> LinuxCostlyFigures::Collect() {
   return readings;
 }
 
-std::int64_t LinuxCostlyFigures::TakenTime() const {
-  return mShared->takenTime;
-}
-
-void LinuxCostlyFigures::Serve(const std::shared_ptr<Shared>& itsShared, unsigned generation) {
-  auto& shared = *itsShared;
-  CostlyReader reader(shared.proc, shared.units, shared.devices);
+void LinuxCostlyFigures::Shared::Serve(ReplaceableThread::Place place) {
+  CostlyReader reader(proc, units, devices);
   Turns turns;
   auto refilled = SteadyClock::now();
   auto taken = ThreadTime();
-  const auto isOver = [&]() LURKWELL_REQUIRES(shared.mutex) {
-    return generation != shared.generation;
-  };
-  const auto isThereNews = [&]() LURKWELL_REQUIRES(shared.mutex) {
-    return isOver() || shared.areWishesNew;
-  };
-  MutexLock lock(shared.mutex);
+  const auto hasWishes = [this]() LURKWELL_REQUIRES(thread.mutex) { return areWishesNew; };
+  MutexLock lock(thread.mutex);
   for (;;) {
     const auto rank = turns.Payable();
     if (!rank && turns.AreThereAny()) {
-      lock.WaitFor(shared.news, std::chrono::milliseconds(turns.Wait()), isThereNews);
+      thread.WaitFor(lock, place, std::chrono::milliseconds(turns.Wait()), hasWishes);
     } else if (!rank) {
-      lock.Wait(shared.news, isThereNews);
+      thread.Wait(lock, place, hasWishes);
     }
-    if (isOver()) return;
-    if (std::exchange(shared.areWishesNew, false)) {
-      const auto wishes = std::exchange(shared.wishes, {});
+    if (thread.IsOver(place)) return;
+    if (std::exchange(areWishesNew, false)) {
+      const auto asked = std::exchange(wishes, {});
       lock.Unlock();
-      reader.Keep(wishes);
-      turns.Set(wishes, reader);
+      reader.Keep(asked);
+      turns.Set(asked, reader);
       lock.Lock();
     } else if (rank) {
       const auto turn = turns.Take(*rank);
-      shared.reading = KeyOf(turn.process);
-      shared.since = SteadyClock::now();
-      lock.Unlock();
-      auto readings = reader.Read(turn.process, turn.sources);
-      lock.Lock();
-      if (isOver()) {
-        // Given up meanwhile, or the program ends.
-        if (const auto shelved = shared.shelf.find(KeyOf(turn.process));
-            shelved != shared.shelf.end())
-          shelved->second.hangs = false;
-        if (shared.reading == KeyOf(turn.process)) shared.reading.reset();
-        shared.news.notify_all();
+      std::vector<CostlyReading> readings;
+      if (!thread.Read(lock, place, turn.process,
+                       [&] { readings = reader.Read(turn.process, turn.sources); }))
         return;
-      }
-      shared.reading.reset();
       const auto readAt = SteadyClock::now();
-      for (auto& reading : readings) shared.results.push_back({std::move(reading), readAt});
+      for (auto& reading : readings) results.push_back({std::move(reading), readAt});
     }
     const auto rankPaid = rank.value_or(kOther);
     const auto before = std::exchange(taken, ThreadTime());
     turns.Of(rankPaid).Take(taken - before);
-    shared.takenTime += taken - before;
     const auto now = SteadyClock::now();
     const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(now - refilled);
     refilled += passed;

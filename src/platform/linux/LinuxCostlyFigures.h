@@ -16,9 +16,7 @@ namespace lurkwell {
 /// what was never read, so that a new column fills soon, 100 ms in 2 s beside it; a single reading
 /// that takes longer is made up for by waiting.
 ///
-/// A process whose reading has taken more than a second, because its memory is locked or hangs on a
-/// file system that does not answer, is left alone for a minute, and as long as it hangs; another
-/// thread takes over, four times at most.
+/// Memory that is locked or hangs on a file system that does not answer: see ReplaceableThread.
 class LinuxCostlyFigures final : public CostlyFigures {
  public:
   /// Folders like /proc, that of the control groups (empty: where this machine has it) and that of
@@ -33,13 +31,8 @@ class LinuxCostlyFigures final : public CostlyFigures {
   void Ask(std::vector<CostlyWish> wishes) override;
   std::vector<CostlyReading> Collect() override;
 
-  /// Processor time that all readings have taken so far, in microseconds.
-  std::int64_t TakenTime() const;
-
  private:
   struct Shared;
-
-  static void Serve(const std::shared_ptr<Shared>& shared, unsigned generation);
 
   std::shared_ptr<Shared> mShared;
 };

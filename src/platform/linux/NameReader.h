@@ -12,9 +12,7 @@ namespace lurkwell {
 
 /// Completes command names (see CommandName.h) and reads command lines on a thread of its own,
 /// because a command line is the process's memory, which a hostile process can have mapped from a
-/// file that never answers. A process whose answer takes longer than a second is left alone for a
-/// minute, and for as long as its reader hangs; the reader is given up and another one started, a
-/// few times at most. Main thread.
+/// file that never answers; see ReplaceableThread. Main thread.
 class NameReader {
  public:
   explicit NameReader(std::shared_ptr<ProcFiles> files);
@@ -48,7 +46,6 @@ class NameReader {
 
   bool Ask(Question question);
   std::optional<std::string> Take(const Question& question);
-  static void Serve(const std::shared_ptr<Mailbox>& mailbox, unsigned generation);
 
   std::shared_ptr<Mailbox> mMailbox;
 };
