@@ -33,7 +33,6 @@ class SlotAllocator {
   std::optional<Slot> Take(int width);
   void GiveBack(const Slot& slot);
 
-  int RowHeight() const { return mRowHeight; }
   /// Pages that have been begun; they stay.
   int Pages() const { return mPages; }
 

@@ -69,7 +69,6 @@ struct Command {
   void (*run)(const CommandScope& scope) = nullptr;
   CommandButton button{};
 
-  bool IsForProcesses() const { return menu == CommandMenu::kProcess || isInContextMenu; }
   bool HasButton() const { return button.identifier != nullptr; }
   /// Empty for none.
   QKeySequence Shortcut() const;

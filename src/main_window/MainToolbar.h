@@ -51,7 +51,6 @@ class MainToolbar final : public QToolBar {
 
   /// While the user arranges the items, they are dragged instead of pressed, and none is disabled.
   void SetCustomising(bool customising);
-  bool IsCustomising() const { return mCustomising; }
 
   /// Show a picture, and figures in words, in the items of an identifier.
   void ShowGauge(const char* identifier, const SystemInfoImage& image, const QString& figures);

@@ -32,10 +32,6 @@ std::string_view KeyText(KeyId id) {
   return TheKeys().texts[static_cast<std::size_t>(id)];
 }
 
-int CountKeys() {
-  return static_cast<int>(TheKeys().texts.size());
-}
-
 bool IsInternalKey(std::string_view key) {
   return key.starts_with("internal_");
 }

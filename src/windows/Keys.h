@@ -15,9 +15,6 @@ KeyId InternKey(std::string_view key);
 /// The text of a number that InternKey gave; NUL-terminated, valid for ever.
 std::string_view KeyText(KeyId id);
 
-/// How many keys there are so far.
-int CountKeys();
-
 /// Keys of a client's own, which no property has.
 bool IsInternalKey(std::string_view key);
 

@@ -52,7 +52,6 @@ TEST(PollRunLoop, EndsOnSignalsUnlessTheyWereIgnored) {
     });
     loop.Run();
     EXPECT_TRUE(survived);
-    EXPECT_EQ(loop.EndingSignal(), SIGTERM);
   }
   sigset_t mask;
   ::sigemptyset(&mask);

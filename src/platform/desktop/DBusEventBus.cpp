@@ -267,7 +267,6 @@ void DBusEventBus::HandleFrom(const QDBusMessage& message, bool isOurs) {
 }
 
 void DBusEventBus::Drop(const char* why) {
-  ++mDropped;
   if (std::exchange(mHasToldOfDrops, true)) return;
   Diagnose("dropped an event (%s); further ones are dropped silently", why);
 }

@@ -55,8 +55,6 @@ class DBusEventBus final : public QDBusVirtualObject, public EventBus {
   const QDBusConnection& Connection() const { return mBus; }
   /// Whether Settings::service is this program's.
   bool HasItsName() const { return mHasItsName; }
-  /// Events that were not handed on: of strangers, malformed, too many or too large.
-  std::uint64_t Dropped() const { return mDropped; }
 
   QString introspect(const QString&) const override { return {}; }
   bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
@@ -77,7 +75,6 @@ class DBusEventBus final : public QDBusVirtualObject, public EventBus {
   ServiceOwner mNub;
   ServiceOwner mEnvironment;
   std::map<std::pair<FourCharCode, FourCharCode>, Handler> mHandlers;
-  std::uint64_t mDropped = 0;
   double mTurns = kMostEventsPerSecond;
   std::chrono::steady_clock::time_point mLastTurn = std::chrono::steady_clock::now();
 };

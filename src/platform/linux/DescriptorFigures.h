@@ -57,7 +57,6 @@ class DescriptorFigures {
 
  private:
   bool EnsureDump();
-  bool IsInOurNetwork(int folder);
   std::string LinkIn(int folder, const char* name);
   bool ListDescriptors(int folder);
 

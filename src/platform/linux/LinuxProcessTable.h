@@ -55,8 +55,6 @@ class LinuxProcessTable final : public ProcessTable {
     return ProcessDescriber(mFiles).Describe(pids);
   }
 
-  /// How many stat files are open at present.
-  std::size_t KeptDescriptors() const { return mReader.Kept(); }
 
  private:
   /// Entries in order of pid, the idle task last, and, at the same places, what is known beyond

@@ -126,7 +126,6 @@ void PollRunLoop::Wait() {
   if (::ppoll(&signals, 1, &limit, nullptr) <= 0) return;
   signalfd_siginfo info{};
   if (::read(mSignals.Get(), &info, sizeof info) != sizeof info) return;
-  mEndingSignal = static_cast<int>(info.ssi_signo);
   mStopped = true;
 }
 

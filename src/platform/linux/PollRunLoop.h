@@ -34,9 +34,6 @@ class PollRunLoop final : public RunLoop {
   void Run() override;
   void Stop() override { mStopped = true; }
 
-  /// The signal that has ended Run, or 0.
-  int EndingSignal() const { return mEndingSignal; }
-
  private:
   struct Timer;
   class Handle;
@@ -54,7 +51,6 @@ class PollRunLoop final : public RunLoop {
   bool mStopped = false;
   FileDescriptor mSignals;
   sigset_t mMaskBefore{};
-  int mEndingSignal = 0;
 };
 
 }  // namespace lurkwell

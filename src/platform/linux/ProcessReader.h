@@ -55,7 +55,6 @@ class ProcessReader {
   void Forget(KnownProcess& known);
   /// No more files are kept in this pass.
   void KeepNoMore() { mMostKept = 0; }
-  std::size_t Kept() const { return mKept; }
 
   /// Pids whose children may have another parent since the pass began.
   std::vector<std::int32_t>& LostParents() { return mLostParents; }
