@@ -75,7 +75,7 @@ class Watched : public Printer {
   std::function<void()> mAfterUpdate;
 };
 
-/// Stops the run loop when enough has been printed, or when nobody takes it any more.
+/// Stops the run loop when enough has been printed, or when its reader has gone.
 class EndOfPrinting {
  public:
   EndOfPrinting(std::FILE* out, std::optional<std::int32_t> count) : mOut(out), mCount(count) {}

@@ -59,7 +59,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   MonitorWindowKinds& monitorWindows() { return mFollowingWindows; }
 
   /// The desktop asks programs to quit by an event that would close the windows first, as if the
-  /// user had done it. Whoever closes the last window quits; when it goes because its process has
+  /// user had done it. A user who closes the last window quits; when it goes because its process has
   /// ended, the main window comes.
   bool eventFilter(QObject* object, QEvent* event) override;
 

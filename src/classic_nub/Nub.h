@@ -15,8 +15,8 @@ namespace lurkwell {
 
 /// A guest of the Classic environment that tells one program, again and again, what the environment
 /// says of its guests. Whom and how often is what the last control event said. It ends when it is
-/// asked to quit, when the environment or the program that it serves has gone, and when nobody has
-/// wanted to be served for a minute. Main thread only.
+/// asked to quit, when the environment or the program that it serves has gone, and when no
+/// program has wanted to be served for a minute. Main thread only.
 class Nub final : public QObject {
  public:
   Nub(DBusEventBus& events, std::function<void()> quit);

@@ -9,7 +9,7 @@ namespace lurkwell::helper {
 /// Everything the helper asks of the machine once it serves. Tests put a recording one in its
 /// place. Each call returns a negative error number when it fails.
 struct System {
-  /// A descriptor that stands for the process itself, whoever has its pid later.
+  /// A descriptor that stands for the process itself, whichever process has its pid later.
   int (*openProcess)(std::int32_t pid);
   int (*signalProcess)(int process, int signal);
   /// Of all threads of the process.

@@ -5,8 +5,8 @@
 
 namespace lurkwell {
 
-/// What the kernel's numbers of a process mean, in words. Pure; any thread. A number that nobody
-/// has heard of is given as a number.
+/// What the kernel's numbers of a process mean, in words. Pure; any thread. A number that is
+/// not known here is given as a number.
 
 /// Of the letter in a stat file.
 std::string StateInWords(std::int64_t letter);

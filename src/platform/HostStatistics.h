@@ -129,7 +129,7 @@ class HostStatistics {
   virtual ~HostStatistics() = default;
 
   /// Bytes of text and data that the machine maps into every process, which a virtual size counts
-  /// although nobody pays for them; 0 where there is no such region.
+  /// although no process pays for them; 0 where there is no such region.
   virtual std::int64_t SharedTextAndDataSize() const = 0;
 
   /// Bytes in a page; nothing when the machine does not tell.

@@ -70,7 +70,7 @@ class Tools {
   /// Serves them until all have ended, for `limit` at most.
   virtual void Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) = 0;
 
-  /// Starts a program that runs on by itself: it is nobody's waited-for child, keeps no descriptor
+  /// Starts a program that runs on by itself: it is no child to be waited for, keeps no descriptor
   /// of ours but the standard three, and ends when it likes. `arguments` starts with the program's
   /// path. False when it could not be started. Any thread; takes two seconds at most.
   virtual bool StartInBackground(const std::vector<std::string>& arguments) = 0;

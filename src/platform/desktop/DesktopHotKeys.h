@@ -11,7 +11,7 @@ class GlobalShortcutsPortal;
 class XKeyGrabs;
 
 /// The desktop's hot keys: taken from the X server, or asked of the portal where windows are not
-/// the X server's, of nobody where windows are shown in some other way. Connects at the first key
+/// the X server's; none where windows are shown in some other way. Connects at the first key
 /// that is wanted.
 class DesktopHotKeys final : public HotKeys {
  public:

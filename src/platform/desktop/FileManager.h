@@ -19,8 +19,8 @@ class FileManager {
   /// there is no bus to ask on.
   bool Show(const std::string& path) const;
 
-  /// The same, or else its folder, by whatever shows folders here. `failed` is called when nobody
-  /// shows either, now or later.
+  /// The same, or else its folder, by whatever shows folders here. `failed` is called when no
+  /// program shows either, now or later.
   void ShowFileOrFolder(const std::string& path, std::function<void()> failed) const;
 
   /// Is told of each file that Show was asked for and, as the bus says later, is not shown. Not

@@ -62,10 +62,10 @@ RunningInstance::Answer RunningInstance::Ask(const QString& method) {
   const QDBusMessage answer = mBus.call(message, QDBus::Block, kInstanceAnswers);
   if (answer.type() == QDBusMessage::ReplyMessage) return Answer::kDone;
   const QString error = answer.errorName();
-  const bool isNobody = error.endsWith(QLatin1String(".NameHasNoOwner")) ||
+  const bool hasNoOwner = error.endsWith(QLatin1String(".NameHasNoOwner")) ||
                         error.endsWith(QLatin1String(".ServiceUnknown")) ||
                         error.endsWith(QLatin1String(".Disconnected"));
-  return isNobody ? Answer::kNobody : Answer::kSilent;
+  return hasNoOwner ? Answer::kNobody : Answer::kSilent;
 }
 
 RunningInstance::Answer RunningInstance::BringToFront() {

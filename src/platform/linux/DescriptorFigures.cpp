@@ -168,7 +168,7 @@ FigureState DescriptorFigures::ReadGraphics(int folder, Known& known, ProcessFig
   constexpr Figure kMemoryFigure = FigureCalled("pid_gpu_memory");
   const bool isCounting = std::ranges::any_of(
       clients, [](const GraphicsClient& client) { return !client.engines.empty(); });
-  // Whoever has no device open uses none.
+  // A process that has no device open uses none.
   if (clients.empty() || use.share) {
     figures.Set(kShareFigure, use.share.value_or(0));
     figures.SetText(FigureCalled("pid_gpu_engine"), use.engine);

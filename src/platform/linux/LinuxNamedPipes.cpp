@@ -34,7 +34,7 @@ bool IsSafeParent(const std::string& path) {
   return (info.st_mode & (S_IWGRP | S_IWOTH)) == 0 || (info.st_mode & S_ISVTX) != 0;
 }
 
-/// An open folder of the user's alone that nobody else has locked, or none.
+/// An open folder of the user's alone that no other program has locked, or none.
 FileDescriptor Lock(int parent, const std::string& name) {
   FileDescriptor folder(
       ::openat(parent, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));

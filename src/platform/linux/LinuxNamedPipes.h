@@ -9,7 +9,7 @@ namespace lurkwell {
 
 /// A fresh folder of mode 0700 for named pipes, below $XDG_RUNTIME_DIR or else the temporary
 /// folder, where nobody but the user and root can exchange it. It is locked while it is in use: a
-/// folder of the user's with pipes in it that nobody has locked is what a killed program left, and
+/// folder of the user's with pipes in it that no program has locked is what a killed one left, and
 /// goes when the next one is made. Main thread.
 class PipeFolder {
  public:

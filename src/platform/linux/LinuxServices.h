@@ -63,8 +63,8 @@ class LinuxBundle final : public Bundle {
 };
 
 /// Alerts of a program that has no windows and nobody to answer: each is printed on standard error
-/// once, and the last of its buttons, the one that goes on without, is taken; whoever can go on
-/// without an answer hears that there is nobody.
+/// once, and the last of its buttons, the one that goes on without, is taken; a caller that can go
+/// on without an answer is told that there is nobody.
 class TerminalAlerts final : public Alerts {
  public:
   AlertButton RunAlertPanel(const std::string& title, const std::string& message,

@@ -23,7 +23,7 @@ constexpr unsigned kSynReceived = 3;
 constexpr unsigned kTimeWait = 6;
 constexpr unsigned kListening = 10;
 constexpr unsigned kNewSynReceived = 12;
-/// Nobody has those open.
+/// No process has those open.
 constexpr std::uint32_t kStates =
     ~((1U << kSynReceived) | (1U << kTimeWait) | (1U << kNewSynReceived));
 

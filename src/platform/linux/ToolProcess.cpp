@@ -198,7 +198,7 @@ constexpr int kLongestStartInMilliseconds = 2000;
 // any lock when the process was copied.
 
 void Say(int report, int error) {
-  // If nobody can be told, there is nobody to tell that to either.
+  // Where this fails, that cannot be told either.
   [[maybe_unused]] const auto written = ::write(report, &error, sizeof error);
 }
 
