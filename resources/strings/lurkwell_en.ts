@@ -2099,6 +2099,54 @@
         <source></source>
         <translation>Sorted Column &amp;Narrower</translation>
     </message>
+    <message id="menu_view_shape_list">
+        <source></source>
+        <translation>L&amp;ist</translation>
+    </message>
+    <message id="menu_view_shape_tree">
+        <source></source>
+        <translation>Tr&amp;ee</translation>
+    </message>
+    <message id="menu_view_shape_applications">
+        <source></source>
+        <translation>By &amp;Application</translation>
+    </message>
+    <message id="menu_view_unfold_all">
+        <source></source>
+        <translation>Unfol&amp;d All</translation>
+    </message>
+    <message id="menu_view_fold_all">
+        <source></source>
+        <translation>&amp;Fold All</translation>
+    </message>
+    <message id="menu_view_scope">
+        <source></source>
+        <translation>S&amp;how</translation>
+    </message>
+    <message id="menu_scope_all">
+        <source></source>
+        <translation>&amp;All Processes</translation>
+    </message>
+    <message id="menu_scope_mine">
+        <source></source>
+        <translation>&amp;My Processes</translation>
+    </message>
+    <message id="menu_scope_others">
+        <source></source>
+        <translation>&amp;Other Users’ Processes</translation>
+    </message>
+    <message id="menu_scope_applications">
+        <source></source>
+        <translation>A&amp;pplications</translation>
+    </message>
+    <message id="menu_scope_without_kernel">
+        <source></source>
+        <translation>&amp;Without Kernel Threads</translation>
+    </message>
+    <message id="menu_scope_busy">
+        <source></source>
+        <translation>&amp;Busy Processes</translation>
+    </message>
     <message id="menu_view_show_toolbar">
         <source></source>
         <translation>Show &amp;Toolbar</translation>
@@ -2371,6 +2419,70 @@
         <source></source>
         <translation>“%1” is no regular expression: %2.</translation>
     </message>
+    <message id="main_window_status_some">
+        <source></source>
+        <translation>%1 of %2 processes: %3; %4 selected</translation>
+    </message>
+    <message id="main_window_scope_hides_all">
+        <source></source>
+        <translation>No process is one of these: %1. View › Show › All Processes shows all again.</translation>
+    </message>
+    <message id="scope_mine">
+        <source></source>
+        <translation>mine</translation>
+    </message>
+    <message id="scope_others">
+        <source></source>
+        <translation>other users’</translation>
+    </message>
+    <message id="scope_applications">
+        <source></source>
+        <translation>applications</translation>
+    </message>
+    <message id="scope_without_kernel">
+        <source></source>
+        <translation>without kernel threads</translation>
+    </message>
+    <message id="scope_busy">
+        <source></source>
+        <translation>busy</translation>
+    </message>
+    <message id="scope_filter">
+        <source></source>
+        <translation>filter</translation>
+    </message>
+    <message id="switch_shape">
+        <source></source>
+        <translation>Shape of the table</translation>
+    </message>
+    <message id="switch_scope">
+        <source></source>
+        <translation>Which processes are shown</translation>
+    </message>
+    <message id="group_kernel_threads">
+        <source></source>
+        <translation>Kernel threads</translation>
+    </message>
+    <message id="row_level">
+        <source></source>
+        <translation>, level %1</translation>
+    </message>
+    <message id="row_folded">
+        <source></source>
+        <translation>, folded, %1 below</translation>
+    </message>
+    <message id="row_unfolded">
+        <source></source>
+        <translation>, unfolded, %1 below</translation>
+    </message>
+    <message id="total_tip">
+        <source></source>
+        <translation>Total of %1 processes, as far as it is known</translation>
+    </message>
+    <message id="total_memory_tip">
+        <source></source>
+        <translation>Resident memory: what processes share is counted in parts where that is known (PSS), else for each of them</translation>
+    </message>
     <message id="main_window_status_counts">
         <source></source>
         <translation>%1 processes, %2 shown, %3 selected</translation>
@@ -2466,6 +2578,26 @@
     <message id="help_menu_view_update_now">
         <source></source>
         <translation>update now</translation>
+    </message>
+    <message id="help_menu_view_shape_list">
+        <source></source>
+        <translation>show all processes as a list</translation>
+    </message>
+    <message id="help_menu_view_shape_tree">
+        <source></source>
+        <translation>show children below their parents</translation>
+    </message>
+    <message id="help_menu_view_shape_applications">
+        <source></source>
+        <translation>show processes below their applications</translation>
+    </message>
+    <message id="help_menu_view_unfold_all">
+        <source></source>
+        <translation>unfold all rows</translation>
+    </message>
+    <message id="help_menu_view_fold_all">
+        <source></source>
+        <translation>fold all rows</translation>
     </message>
     <message id="help_menu_view_column_left">
         <source></source>
@@ -4115,6 +4247,22 @@ Free: %5</translation>
         <source></source>
         <translation>Table: sorted column</translation>
     </message>
+    <message id="setting_title_MAIN_WINDOW_SHAPE">
+        <source></source>
+        <translation>Shape of the process table</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_SCOPE">
+        <source></source>
+        <translation>Scope of the process table</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_FOLDED_PROGRAMS">
+        <source></source>
+        <translation>Folded programs</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_UNFOLDED_APPLICATIONS">
+        <source></source>
+        <translation>Unfolded applications</translation>
+    </message>
     <message id="setting_title_MAIN_WINDOW_RECENT_FILTERS">
         <source></source>
         <translation>Last filters</translation>
@@ -4450,6 +4598,22 @@ Free: %5</translation>
     <message id="setting_MAIN_WINDOW_SORT_COLUMN_INDEX">
         <source></source>
         <translation>The remembered column that the table is sorted by, counted from 0.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_SHAPE">
+        <source></source>
+        <translation>How processes stand in the table: 0 – a list, 1 – children below their parents, 2 – below their applications.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_SCOPE">
+        <source></source>
+        <translation>Which processes the table shows: 0 – all, 1 – the user’s own, 2 – other users’, 3 – applications, 4 – all but kernel threads, 5 – what has used a processor since the last update.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_FOLDED_PROGRAMS">
+        <source></source>
+        <translation>Programs whose children are folded away in the tree, the latest first, with percent signs in place of other letters.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_UNFOLDED_APPLICATIONS">
+        <source></source>
+        <translation>Applications, units, containers and programs whose processes are unfolded, the latest first, with percent signs in place of other letters.</translation>
     </message>
     <message id="setting_MAIN_WINDOW_RECENT_FILTERS">
         <source></source>

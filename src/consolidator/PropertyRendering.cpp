@@ -169,16 +169,20 @@ TypedValue ReadMetaActiveTime(const MetaProcessInformation& record) {
   return record.activeTime;
 }
 
-TypedValue ReadMetaKind(const MetaProcessInformation& record) {
+bool IsKernelThread(const MetaProcessInformation& record) {
   // Every kernel thread is a child of this one.
   constexpr std::int32_t kKernelThreads = 2;
+  const auto* block = record.pidInfo.get();
+  return block != nullptr &&
+         (record.pid == 0 || record.pid == kKernelThreads || block->parentPid == kKernelThreads);
+}
+
+TypedValue ReadMetaKind(const MetaProcessInformation& record) {
   const auto* block = record.pidInfo.get();
   if (block == nullptr) return record.pid <= -2 ? "Classic" : "Application";
   if (block->runState == RunState::kZombie) return "Zombie";
   if (!record.psn.IsNone()) return "Application";
-  const bool isKernels =
-      record.pid == 0 || record.pid == kKernelThreads || block->parentPid == kKernelThreads;
-  return isKernels ? "Kernel thread" : "Process";
+  return IsKernelThread(record) ? "Kernel thread" : "Process";
 }
 
 TypedValue ReadClassicSize(const MetaProcessInformation& record) {

@@ -12,6 +12,7 @@
 #include "consolidator/PidReport.h"
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyRendering.h"
+#include "consolidator/RecordStore.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
@@ -264,8 +265,14 @@ ProcessGlance GlanceAt(std::int32_t pid) {
   const auto* record = ValidRecord(pid);
   if (record == nullptr) return {};
   const auto* block = record->pidInfo.get();
-  return {record->changeStamp, record->activeTime, block == nullptr || AreTimesRead(*record),
-          block != nullptr ? block->runState : RunState::kSleeping};
+  return {record->changeStamp,
+          record->activeTime,
+          block == nullptr || AreTimesRead(*record),
+          block != nullptr ? block->runState : RunState::kSleeping,
+          ParentOf(*record),
+          block != nullptr ? block->startStamp : 0,
+          !record->psn.IsNone(),
+          IsKernelThread(*record)};
 }
 
 }  // namespace lurkwell

@@ -55,6 +55,14 @@ struct ProcessGlance {
   /// See AreCPUTimesFresh.
   bool timesAreFresh = false;
   RunState runState = RunState::kSleeping;
+  /// The parent, when that is another process that is known; else kInvalidPID.
+  std::int32_t parentPid = kInvalidPID;
+  /// See ProcessIdentity; 0 while the kernel has not named it.
+  std::uint64_t startStamp = 0;
+  /// Whether the desktop knows it as an application.
+  bool isApplication = false;
+  /// Of the kernel's own, the idle task among them.
+  bool isKernelThread = false;
 };
 
 /// Any thread; one look-up.

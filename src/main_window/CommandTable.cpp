@@ -31,6 +31,42 @@ void SortColumn(Scope scope) {
   scope.window.changeSortColumn(places, points);
 }
 
+template <TableShape kShape>
+void SetShape(Scope scope) {
+  scope.window.setShape(kShape);
+}
+template <TableShape kShape>
+bool IsShape(Scope scope) {
+  return scope.window.shape() == kShape;
+}
+template <TableScope kScope>
+void SetScope(Scope scope) {
+  scope.window.setScope(kScope);
+}
+template <TableScope kScope>
+bool IsScope(Scope scope) {
+  return scope.window.scope() == kScope;
+}
+template <bool folded>
+void FoldAll(Scope scope) {
+  scope.window.foldAll(folded);
+}
+
+template <TableShape kShape>
+constexpr Command ShapeCommand(const char* text, Qt::Key key, bool beginsGroup = false) {
+  return {.text = text,
+          .menu = Menu::kView,
+          .beginsGroup = beginsGroup,
+          .keys = {.keys = Qt::ALT | key},
+          .run = SetShape<kShape>,
+          .isChecked = IsShape<kShape>};
+}
+template <TableScope kScope>
+constexpr Command ScopeCommand(const char* text) {
+  return {
+      .text = text, .menu = Menu::kScope, .run = SetScope<kScope>, .isChecked = IsScope<kScope>};
+}
+
 constexpr CommandKeys Keys(QKeyCombination keys) {
   return {.keys = keys};
 }
@@ -109,6 +145,25 @@ constexpr Command kCommands[] = {
      .menu = Menu::kView,
      .keys = {.isOverlayKey = true},
      .run = Application<&ApplicationCommands::doToggleQuintessentialViewFullScreen>},
+    ShapeCommand<TableShape::kList>("menu_view_shape_list", Qt::Key_1, true),
+    ShapeCommand<TableShape::kTree>("menu_view_shape_tree", Qt::Key_2),
+    ShapeCommand<TableShape::kApplications>("menu_view_shape_applications", Qt::Key_3),
+    {.text = "menu_view_unfold_all",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::ALT | Qt::Key_4),
+     .needs = Need::kTree,
+     .run = FoldAll<false>},
+    {.text = "menu_view_fold_all",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::ALT | Qt::Key_5),
+     .needs = Need::kTree,
+     .run = FoldAll<true>},
+    ScopeCommand<TableScope::kAll>("menu_scope_all"),
+    ScopeCommand<TableScope::kMine>("menu_scope_mine"),
+    ScopeCommand<TableScope::kOthers>("menu_scope_others"),
+    ScopeCommand<TableScope::kApplications>("menu_scope_applications"),
+    ScopeCommand<TableScope::kWithoutKernel>("menu_scope_without_kernel"),
+    ScopeCommand<TableScope::kBusy>("menu_scope_busy"),
     {.text = "menu_view_show_toolbar",
      .menu = Menu::kView,
      .beginsGroup = true,
@@ -220,6 +275,8 @@ bool IsMet(Need need, const SelectionFacts& facts) {
       return facts.anyGoing;
     case Need::kHalted:
       return facts.anyHalted;
+    case Need::kTree:
+      return facts.isTree;
   }
   return true;
 }

@@ -13,8 +13,8 @@ namespace lurkwell {
 /// The one table of commands: menus, the context menu, the toolbar, its dialog, what can be chosen
 /// when, and the help page's keys follow from it. Main thread.
 
-/// The menu of the bar that has a command.
-enum class CommandMenu { kApplication, kFile, kEdit, kView, kProcess, kWindow, kHelp };
+/// The menu of the bar that has a command; kScope is one within the view's.
+enum class CommandMenu { kApplication, kFile, kEdit, kView, kScope, kProcess, kWindow, kHelp };
 
 /// What has to be there for a command to be chosen.
 enum class Need {
@@ -24,6 +24,7 @@ enum class Need {
   kApplication,  ///< a selected application
   kGoing,        ///< a selected process that can be halted
   kHalted,       ///< a selected process that is halted
+  kTree,         ///< rows that stand below others
 };
 
 bool IsMet(Need need, const SelectionFacts& facts);
@@ -68,6 +69,8 @@ struct Command {
   Need needs = Need::kNothing;
   void (*run)(const CommandScope& scope) = nullptr;
   CommandButton button{};
+  /// Whether it is what holds now; null for commands that are none of several possibilities.
+  bool (*isChecked)(const CommandScope& scope) = nullptr;
 
   bool HasButton() const { return button.identifier != nullptr; }
   /// Empty for none.

@@ -5,9 +5,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QShortcut>
-#include <QUrl>
 #include <utility>
 
+#include "main_window/NameList.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 
@@ -24,21 +24,11 @@ QString Words(const char* id, const QueryError& error) {
       .replace(QLatin1String("%2"), QString::fromStdString(error.hint));
 }
 
-/// The last ones first; a word each, in letters that every preference may have.
+/// The last ones first.
 QStringList RememberedFilters() {
   char text[kRoomForRemembered] = "";
   ReadText("MAIN_WINDOW_RECENT_FILTERS", text, sizeof text);
-  QStringList filters;
-  for (const auto& filter : QByteArray(text).split(' '))
-    if (!filter.isEmpty()) filters.append(QUrl::fromPercentEncoding(filter));
-  return filters;
-}
-
-QByteArray Encoded(const QStringList& filters) {
-  QByteArray text;
-  for (const auto& filter : filters)
-    text += (text.isEmpty() ? "" : " ") + QUrl::toPercentEncoding(filter, ":<>=!/|,\"()^$*+-");
-  return text;
+  return DecodedNames(text);
 }
 
 }  // namespace
@@ -98,6 +88,10 @@ FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
   hide();
 }
 
+void FilterBar::addControl(QWidget& control) {
+  static_cast<QHBoxLayout*>(layout())->addWidget(&control);
+}
+
 void FilterBar::begin() {
   show();
   mField->setFocus();
@@ -136,9 +130,7 @@ void FilterBar::remember() {
   filters.removeAll(text);
   filters.prepend(text);
   while (filters.size() > kMostRemembered) filters.removeLast();
-  // What is too long to be read again is not written.
-  while (Encoded(filters).size() >= kRoomForRemembered) filters.removeLast();
-  StoreText("MAIN_WINDOW_RECENT_FILTERS", Encoded(filters).constData());
+  StoreText("MAIN_WINDOW_RECENT_FILTERS", EncodedNames(filters, kRoomForRemembered).constData());
 }
 
 void FilterBar::showLast() {

@@ -27,6 +27,9 @@ class FilterBar : public QWidget {
 
   QLineEdit& field() { return *mField; }
 
+  /// Puts a control of the same subject beside the field; it is the bar's then.
+  void addControl(QWidget& control);
+
   void begin();
   /// Empties and hides the bar; what was typed is among the last ones then.
   void end();

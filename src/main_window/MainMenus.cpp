@@ -29,6 +29,7 @@ MainMenus::MainMenus(QMainWindow& window, vqMainTableController& controller,
   BuildHeaderMenu();
   FollowToolbar();
   connect(&controller, &Controller::contentsChanged, this, &MainMenus::ValidateAll);
+  connect(&controller, &Controller::arrangementChanged, this, &MainMenus::ValidateAll);
   ValidateAll();
 }
 
@@ -38,7 +39,12 @@ void MainMenus::MakeAction(const Command& command) {
   action->setShortcut(command.Shortcut());
   // A key that is held must not do the same, or something harsher, again and again.
   action->setAutoRepeat(false);
-  connect(action, &QAction::triggered, this, [this, &command] { command.run(mScope); });
+  action->setCheckable(command.isChecked != nullptr);
+  connect(action, &QAction::triggered, this, [this, &command] {
+    command.run(mScope);
+    // A click on what holds already would take its mark away.
+    if (command.isChecked != nullptr) ValidateAll();
+  });
   mWindow.addAction(action);
   mActions.insert(&command, action);
   if (command.menu != CommandMenu::kProcess) return;
@@ -77,6 +83,9 @@ void MainMenus::BuildMenuBar() {
   AppendCommands(*AddMenu("menu_edit"), CommandMenu::kEdit);
   auto* view = AddMenu("menu_view");
   AppendCommands(*view, CommandMenu::kView);
+  mScopeMenu.setTitle(LocalizedString("menu_view_scope"));
+  AppendCommands(mScopeMenu, CommandMenu::kScope);
+  view->insertMenu(ActionOf("menu_view_show_toolbar"), &mScopeMenu);
   BuildSortMenu(*view);
   mColumnMenus.AppendTo(*AddMenu("menu_columns"));
   AppendCommands(*AddMenu("menu_process"), CommandMenu::kProcess);
@@ -203,8 +212,11 @@ QMenu& MainMenus::HeaderMenu(int column) {
 
 void MainMenus::ValidateAll() {
   const auto facts = mController.selectionFacts();
-  for (const auto& command : Commands())
-    mActions.value(&command)->setEnabled(Controller::validateMenuItem(command, facts));
+  for (const auto& command : Commands()) {
+    auto* action = mActions.value(&command);
+    action->setEnabled(Controller::validateMenuItem(command, facts));
+    if (command.isChecked != nullptr) action->setChecked(command.isChecked(mScope));
+  }
   mController.toolbar()->Validate(facts);
   mColumnMenus.Validate();
 }

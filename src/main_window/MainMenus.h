@@ -60,6 +60,7 @@ class MainMenus : public QObject {
   QMenu mHeaderMenu;
   QAction* mHideColumn = nullptr;
   QMenu mSortMenu;
+  QMenu mScopeMenu;
 };
 
 }  // namespace lurkwell

@@ -130,8 +130,8 @@ void vqMainTableController::clearColumns() {
 void vqMainTableController::rebuildColumns() {
   rememberSelection();
   const auto focused = fTable->currentIndex();
-  const auto pid = focused.isValid() ? fRows.Shown()[static_cast<std::size_t>(focused.row())]->Pid()
-                                     : kInvalidPID;
+  const auto* focusedRow =
+      focused.isValid() ? fRows.Shown()[static_cast<std::size_t>(focused.row())] : nullptr;
   beginResetModel();
   clearColumns();
   for (const KeyId key : fLayout.Keys()) addColumnToMainTable(key);
@@ -142,15 +142,18 @@ void vqMainTableController::rebuildColumns() {
     header.moveSection(header.visualIndex(column), column);
     header.resizeSection(column, fLayout.WidthOf(key));
     QAbstractItemDelegate* cell = &fTextCell;
+    if (key == treeColumn()) cell = &fTreeCell;
     if (IsPicture(key)) cell = &fImageCell;
     if (key == kInternalCPUPercent) cell = &fCPUCell;
     if (key == kInternalMemGraph) cell = &fMemGraphCell;
     fTable->setItemDelegateForColumn(column, cell);
   }
   stripedTable()->setSearchColumn(columnIndexOf(kMetaName));
+  stripedTable()->setTreeColumn(columnIndexOf(treeColumn()));
+  if (fShape == TableShape::kApplications) readWhatIsNeeded();
   showSortIndicator();
   restoreSelection();
-  if (pid != kInvalidPID) moveFocusTo(fRows.Find(pid));
+  moveFocusTo(focusedRow);
 }
 
 void vqMainTableController::addColumnToMainTable(KeyId key) {

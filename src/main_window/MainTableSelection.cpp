@@ -43,42 +43,69 @@ bool vqMainTableController::shouldSelectTableColumn(int column) {
   return false;
 }
 
-std::vector<std::int32_t> vqMainTableController::selectedPids() const {
+std::vector<RowDictionary*> vqMainTableController::selectedRows() const {
   std::vector<int> places;
   if (fTable == nullptr || fTable->selectionModel() == nullptr) return {};
   for (const auto& range : fTable->selectionModel()->selection())
     for (int place = range.top(); place <= range.bottom(); ++place) places.push_back(place);
   std::ranges::sort(places);
   places.erase(std::unique(places.begin(), places.end()), places.end());
-  std::vector<std::int32_t> pids;
-  pids.reserve(places.size());
+  std::vector<RowDictionary*> rows;
+  rows.reserve(places.size());
   for (const int place : places) {
-    // A row whose process has ended may still be there; its pid may be another's by now.
-    const auto& row = *fRows.Shown()[static_cast<std::size_t>(place)];
-    if (!row.isDeparted) pids.push_back(row.Pid());
+    // A row whose process has ended may still be there; its pid may be another's by now. And a
+    // range may run over rows that cannot be selected.
+    auto* row = fRows.Shown()[static_cast<std::size_t>(place)];
+    if (!row->isDeparted && !row->Standing().isContext) rows.push_back(row);
+  }
+  return rows;
+}
+
+std::vector<std::int32_t> vqMainTableController::selectedPids() const {
+  std::vector<std::int32_t> pids;
+  std::unordered_set<std::int32_t> taken;
+  const auto take = [&](std::int32_t pid) {
+    if (taken.insert(pid).second) pids.push_back(pid);
+  };
+  for (const auto* row : selectedRows()) {
+    if (row->Group() == nullptr) {
+      take(row->Pid());
+      continue;
+    }
+    for (const auto& member : row->Group()->shown) {
+      const auto* its = fRows.Find(member.pid);
+      if (its != nullptr && its->origin.startStamp == member.startStamp) take(member.pid);
+    }
   }
   return pids;
 }
 
 void vqMainTableController::rememberSelection() {
   if (gNSMainWindow == nullptr) return;
-  const auto pids = selectedPids();
-  fRememberedSelectionPIDs.insert(fRememberedSelectionPIDs.end(), pids.begin(), pids.end());
+  for (const auto* row : selectedRows()) {
+    if (row->Group() == nullptr)
+      fRememberedSelectionPIDs.push_back(row->Pid());
+    else
+      fRememberedGroups.push_back(row->Group()->key);
+  }
 }
 
 void vqMainTableController::restoreSelection() {
   if (gNSMainWindow == nullptr || fTable == nullptr) return;
-  const std::unordered_set<std::int32_t> wanted(fRememberedSelectionPIDs.begin(),
-                                                fRememberedSelectionPIDs.end());
-  fRememberedSelectionPIDs.clear();
   std::vector<int> places;
-  for (const auto pid : wanted)
-    if (const auto* row = fRows.Find(pid); row != nullptr && row->shownIndex >= 0)
+  const auto add = [&](const RowDictionary* row) {
+    if (row != nullptr && row->shownIndex >= 0 && !row->Standing().isContext)
       places.push_back(row->shownIndex);
+  };
+  for (const auto pid : fRememberedSelectionPIDs) add(fRows.Find(pid));
+  for (const auto& key : fRememberedGroups) add(fTree.FindGroup(key));
+  fRememberedSelectionPIDs.clear();
+  fRememberedGroups.clear();
   std::ranges::sort(places);
+  places.erase(std::unique(places.begin(), places.end()), places.end());
   // The view has usually kept the selection on its processes by itself.
   std::vector<int> present;
-  for (const auto pid : selectedPids()) present.push_back(fRows.Find(pid)->shownIndex);
+  for (const auto* row : selectedRows()) present.push_back(row->shownIndex);
   if (places == present) return;
   QItemSelection selection;
   for (std::size_t i = 0; i < places.size();) {
@@ -95,6 +122,7 @@ QString vqMainTableController::nameOf(std::int32_t pid) {
 }
 
 bool vqMainTableController::selectPid(std::int32_t pid) {
+  revealPids({pid});
   const auto* row = fRows.Find(pid);
   if (fTable == nullptr || row == nullptr || row->shownIndex < 0) return false;
   stripedTable()->SelectFound(row->shownIndex);
@@ -102,6 +130,7 @@ bool vqMainTableController::selectPid(std::int32_t pid) {
 }
 
 std::size_t vqMainTableController::selectPids(const std::vector<std::int32_t>& pids) {
+  revealPids(pids);
   const auto first = std::ranges::min(pids, {}, [this](std::int32_t pid) {
     const auto* row = fRows.Find(pid);
     return row != nullptr && row->shownIndex >= 0 ? row->shownIndex : rowCount();
@@ -124,15 +153,16 @@ void vqMainTableController::moveFocusTo(const RowDictionary* row) {
   fTable->setAutoScroll(true);
 }
 
-void vqMainTableController::keepFocus(const std::function<bool(const RowDictionary&)>& isShown) {
+void vqMainTableController::keepFocus(const std::vector<RowDictionary*>& wanted) {
   const int focused = fTable != nullptr ? fTable->currentIndex().row() : -1;
   if (focused < 0) return;
   const auto& shown = fRows.Shown();
   const auto count = static_cast<int>(shown.size());
+  std::vector<bool> stay(shown.size(), false);
+  for (const auto* row : wanted)
+    if (row->shownIndex >= 0) stay[static_cast<std::size_t>(row->shownIndex)] = true;
   const auto stays = [&](int place) {
-    if (place < 0 || place >= count) return false;
-    const auto& row = *shown[static_cast<std::size_t>(place)];
-    return !row.isDeparted && (!isShown || isShown(row));
+    return place >= 0 && place < count && stay[static_cast<std::size_t>(place)];
   };
   for (int distance = 0; distance < count; ++distance) {
     for (const int place : {focused + distance, focused - distance}) {
@@ -146,8 +176,8 @@ void vqMainTableController::keepFocus(const std::function<bool(const RowDictiona
 QString vqMainTableController::selectionAsText() const {
   QString text;
   const auto& header = *fTable->horizontalHeader();
-  for (const auto pid : selectedPids()) {
-    const auto& row = *fRows.Find(pid);
+  for (const auto* selected : selectedRows()) {
+    const auto& row = *selected;
     QStringList cells;
     for (int place = 0; place < header.count(); ++place) {
       const auto& column = fColumns[static_cast<std::size_t>(header.logicalIndex(place))];

@@ -50,6 +50,14 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   mController->awakeFromNib(*this, *mTable);
   mMenus = std::make_unique<MainMenus>(
       *this, *mController, CommandScope{mController->processCommands(), *this, commands});
+  AddSwitcher("switch_shape",
+              {"menu_view_shape_list", "menu_view_shape_tree", "menu_view_shape_applications"});
+  AddSwitcher("switch_scope",
+              {"menu_scope_all", "menu_scope_mine", "menu_scope_others", "menu_scope_applications",
+               "menu_scope_without_kernel", "menu_scope_busy"});
+  ShowArrangement();
+  connect(mController.get(), &vqMainTableController::arrangementChanged, this,
+          &MainWindow::ShowArrangement);
   mTable->setContextMenu(&mMenus->ContextMenu());
   auto* header = mTable->horizontalHeader();
   header->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -115,6 +123,30 @@ void MainWindow::BuildContents() {
   }
   connect(mFilterBar, &FilterBar::left, mTable, [this] { mTable->setFocus(); });
   mTable->setFocus();
+}
+
+void MainWindow::AddSwitcher(const char* name, const std::vector<const char*>& commands) {
+  auto* box = new QComboBox(mFilterBar);
+  box->setAccessibleName(LocalizedString(name));
+  box->setToolTip(LocalizedString(name));
+  for (const char* text : commands)
+    box->addItem(LocalizedString(text).remove(QLatin1Char('&')), QByteArray(text));
+  connect(box, &QComboBox::activated, this, [this, box](int item) {
+    const auto text = box->itemData(item).toByteArray();
+    FindCommand(text.constData())->run({mController->processCommands(), *this, mCommands});
+  });
+  mFilterBar->addControl(*box);
+  mSwitchers.push_back(box);
+}
+
+void MainWindow::ShowArrangement() {
+  const CommandScope scope{mController->processCommands(), *this, mCommands};
+  for (auto* box : mSwitchers)
+    for (int item = 0; item < box->count(); ++item) {
+      const auto text = box->itemData(item).toByteArray();
+      if (FindCommand(text.constData())->isChecked(scope)) box->setCurrentIndex(item);
+    }
+  UpdateStatus();
 }
 
 // ---- Commands -----------------------------------------------------------------------------------
@@ -227,16 +259,40 @@ void MainWindow::findByPid() {
     Report(LocalizedString("main_window_by_id_not_found").arg(pid));
 }
 
+/// Which processes the scope and the filter leave: "mine, filter"; empty for all.
+QString MainWindow::WhatIsShown() const {
+  static constexpr const char* kScopes[kScopeCount] = {
+      nullptr,     "scope_mine", "scope_others", "scope_applications", "scope_without_kernel",
+      "scope_busy"};
+  QStringList words;
+  if (const char* text = kScopes[static_cast<std::size_t>(mController->scope())]; text != nullptr)
+    words.append(LocalizedString(text));
+  if (mController->isFiltered()) words.append(LocalizedString("scope_filter"));
+  return words.join(QLatin1String(", "));
+}
+
 void MainWindow::UpdateStatus() {
   const auto selected = mController->selectedPids().size();
   const auto processes = mController->pidEntries().size();
-  mCounts->setText(LocalizedString(processes == 1 ? "main_window_status_counts_one"
-                                                  : "main_window_status_counts")
-                       .arg(processes)
-                       .arg(mController->rowCount())
-                       .arg(selected));
-  const bool hidesAll = processes > 0 && mController->rowCount() == 0;
-  mTable->setEmptyText(hidesAll ? LocalizedString("main_window_filter_hides_all") : QString());
+  const auto matches = mController->countOfMatches();
+  const auto what = WhatIsShown();
+  if (what.isEmpty())
+    mCounts->setText(LocalizedString(processes == 1 ? "main_window_status_counts_one"
+                                                    : "main_window_status_counts")
+                         .arg(processes)
+                         .arg(matches)
+                         .arg(selected));
+  else
+    mCounts->setText(LocalizedString("main_window_status_some")
+                         .arg(matches)
+                         .arg(processes)
+                         .arg(what)
+                         .arg(selected));
+  QString empty;
+  if (processes > 0 && mController->rowCount() == 0)
+    empty = mController->isFiltered() ? LocalizedString("main_window_filter_hides_all")
+                                      : LocalizedString("main_window_scope_hides_all").arg(what);
+  mTable->setEmptyText(empty);
 }
 
 // ---- Life ---------------------------------------------------------------------------------------

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
 #include <memory>
+#include <vector>
 
 #include "channel/DaemonCommunication.h"
 #include "main_window/FilterBar.h"
@@ -58,11 +60,19 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void toggleToolbar() override;
   void customiseToolbar() override;
   void changeSortColumn(int places, int points) override;
+  void setShape(TableShape shape) override { mController->setShape(shape); }
+  TableShape shape() const override { return mController->shape(); }
+  void setScope(TableScope scope) override { mController->setScope(scope); }
+  TableScope scope() const override { return mController->scope(); }
+  void foldAll(bool folded) override { mController->foldAll(folded); }
   void showRememberedWindows() override;
   void closeFollowingWindows() override;
   void showHelp() override;
 
   void BuildContents();
+  /// Lets the user choose one of the commands of a kind beside the filter.
+  void AddSwitcher(const char* name, const std::vector<const char*>& commands);
+  void ShowArrangement();
   void RestoreFrame();
   /// Shows a text in the status line for a while.
   void Report(const QString& text);
@@ -70,11 +80,13 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void LookWhetherSeen();
   void AskAboutHelper();
   void UpdateStatus();
+  QString WhatIsShown() const;
 
   ApplicationCommands& mCommands;
   std::unique_ptr<vqMainTableController> mController;
   StripedTableView* mTable = nullptr;
   FilterBar* mFilterBar = nullptr;
+  std::vector<QComboBox*> mSwitchers;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
   DaemonRights mShownRights = DaemonRights::kStarting;

@@ -41,6 +41,8 @@ struct SelectionFacts {
   bool anyHalted = false;
   /// One that the kernel knows and that can be halted yet.
   bool anyGoing = false;
+  /// Rows stand below others.
+  bool isTree = false;
 };
 
 /// What can be done to the selected processes. Questions are asked where they must be, and what

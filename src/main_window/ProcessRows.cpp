@@ -36,15 +36,6 @@ void ProcessRows::RemoveAll() {
   for (auto* row : mAll) Remove(row->Pid());
 }
 
-std::vector<RowDictionary*> ProcessRows::WantedRows(
-    const std::function<bool(const RowDictionary&)>& isShown) {
-  std::vector<RowDictionary*> wanted;
-  wanted.reserve(mAll.size());
-  for (auto* row : mAll)
-    if (!isShown || isShown(*row)) wanted.push_back(row);
-  return wanted;
-}
-
 void ProcessRows::AppendNew(const std::vector<RowDictionary*>& wanted) {
   std::vector<RowDictionary*> fresh;
   for (auto* row : wanted)
@@ -76,9 +67,8 @@ void ProcessRows::DropTail(std::size_t count) {
   mAnnouncer.EndRemove();
 }
 
-void ProcessRows::Commit(const std::function<bool(const RowDictionary&)>& isShown) {
+void ProcessRows::Commit(std::vector<RowDictionary*> order) {
   TidyUp();
-  auto order = WantedRows(isShown);
   AppendNew(order);
   const auto wanted = order.size();
   // Those that go move behind the others first, so that they go in one piece.

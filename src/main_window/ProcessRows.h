@@ -50,15 +50,15 @@ class ProcessRows {
 
   const std::vector<RowDictionary*>& Shown() const { return mShown; }
 
-  /// Makes the view have the rows that `isShown` takes, in their order: at most one insertion, one
-  /// change of places, one removal and one announcement of changed cells.
-  void Commit(const std::function<bool(const RowDictionary&)>& isShown);
+  /// Makes the view have these rows in this order: at most one insertion, one change of places,
+  /// one removal and one announcement of changed cells. Those that are not among All stay their
+  /// maker's, and must be there until the next commit without them has ended.
+  void Commit(std::vector<RowDictionary*> order);
 
   /// Announces changed cells alone. Rows keep their places, also those of processes that ended.
   void CommitCells();
 
  private:
-  std::vector<RowDictionary*> WantedRows(const std::function<bool(const RowDictionary&)>& isShown);
   void AppendNew(const std::vector<RowDictionary*>& wanted);
   void Place(const std::vector<RowDictionary*>& order);
   void DropTail(std::size_t count);

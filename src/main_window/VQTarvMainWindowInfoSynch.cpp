@@ -128,7 +128,17 @@ void VQTarvMainWindowInfoSynch::setCPUDelta(RowDictionary& row, TimeValue active
 }
 
 void VQTarvMainWindowInfoSynch::Set(RowDictionary& row, KeyId key, RowValue value) {
-  if (row.Set(key, std::move(value)) && key == mSortedBy) mOwner.setNeedsResort();
+  if (!row.Set(key, std::move(value))) return;
+  if (key == mSortedBy) mOwner.setNeedsResort();
+  if (mOwner.standingDependsOn(key)) mOwner.noteStandingHasChanged();
+  // What is remembered is remembered by name.
+  if (key == kMetaName && !row.isFoldChosen) row.isFolded.reset();
+}
+
+void VQTarvMainWindowInfoSynch::TakeOrigin(RowDictionary& row, const ProcessGlance& glance) {
+  const RowOrigin origin{glance.parentPid, glance.startStamp, glance.isApplication,
+                         glance.isKernelThread};
+  if (std::exchange(row.origin, origin) != origin) mOwner.noteStandingHasChanged();
 }
 
 void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyId key, int pid) {
@@ -154,6 +164,8 @@ void VQTarvMainWindowInfoSynch::UpdateAllFields(RowDictionary& row, int pid) {
   for (const KeyId key : mOwner.layout().Keys())
     if (std::ranges::find(AlwaysRead(), key) == AlwaysRead().end())
       UpdateSingleFieldForPid(row, key, pid);
+  for (const KeyId key : mOwner.keysBesideColumns())
+    if (!mOwner.layout().Has(KeyText(key))) UpdateSingleFieldForPid(row, key, pid);
 }
 
 void VQTarvMainWindowInfoSynch::RefreshBars() {
@@ -168,6 +180,7 @@ void VQTarvMainWindowInfoSynch::RefreshBars() {
     if (row->Pid() != 0 || !ignoresPidZero)
       gBiggestVSZ = std::max(gBiggestVSZ, IntegerOf(row->Get(kPidVsz)));
   }
+  gBiggestVSZ = std::max(gBiggestVSZ, mOwner.biggestTotalVSZ());
   // Every bar is measured by the biggest.
   const bool haveBarsChanged = drewText != gDrawVSZText || biggest != gBiggestVSZ;
   if (haveBarsChanged && mOwner.layout().Has(KeyText(kInternalMemGraph)))
@@ -180,6 +193,7 @@ void VQTarvMainWindowInfoSynch::RefreshRow(RowDictionary& row, TimeValue now) {
     DiagnoseVerbatim("ACK! %d DOES NOT EXIST OR SOMETHING!!!", row.Pid());
     return;
   }
+  TakeOrigin(row, glance);
   // Without a reading the share stays, and the next one is of all the time since the last.
   if (glance.timesAreFresh) setCPUDelta(row, glance.activeTime, now);
   if (row.changeStamp == glance.changeStamp && !gNewColumnWasAddedRecently) return;
@@ -239,7 +253,9 @@ void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
 void VQTarvMainWindowInfoSynch::NotifyPidHasBeenAdded(int pid) {
   if (!Expect(mOwner.rows().Find(pid) == nullptr, kSynchUnit, "0")) return;
   auto& row = mOwner.rows().Add(pid);
-  row.SetRunState(GlanceAt(pid).runState);
+  const auto glance = GlanceAt(pid);
+  row.SetRunState(glance.runState);
+  TakeOrigin(row, glance);
   UpdateAllFields(row, pid);
   mOwner.setNeedsResort();
 }

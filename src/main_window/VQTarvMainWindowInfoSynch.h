@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "consolidator/PropertyValues.h"
 #include "consolidator/WholeNames.h"
 #include "main_window/ColumnLayout.h"
 #include "main_window/ProcessRows.h"
@@ -34,6 +36,14 @@ class SynchronisedTable {
   virtual MainToolbar* visibleToolbar() const = 0;
   /// The sort column; kNoKey for none.
   virtual KeyId sortedBy() const = 0;
+  /// What has to be read of every process besides the columns.
+  virtual std::span<const KeyId> keysBesideColumns() const = 0;
+  /// Whether it may be another row that a row stands below when the value changes.
+  virtual bool standingDependsOn(KeyId key) const = 0;
+  /// It may be another one.
+  virtual void noteStandingHasChanged() = 0;
+  /// The largest total of virtual sizes that a cell shows, 0 for none.
+  virtual std::int64_t biggestTotalVSZ() const = 0;
   /// The processes whose rows can be seen, in the order of the rows.
   virtual std::vector<std::int32_t> pidsInSight() const = 0;
 
@@ -134,6 +144,8 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   void ShowMemory();
   /// Puts a value into a row; has the rows sorted again when their order depends on it.
   void Set(RowDictionary& row, KeyId key, RowValue value);
+  /// Takes what decides about the row's place beside its figures.
+  void TakeOrigin(RowDictionary& row, const ProcessGlance& glance);
   /// Takes a row's share, and its figures where they are others than before.
   void RefreshRow(RowDictionary& row, TimeValue now);
   void RefreshRows();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "main_window/TableShape.h"
+
 namespace lurkwell {
 
 /// What commands ask of the main window itself. Main thread.
@@ -16,6 +18,12 @@ class WindowCommands {
   virtual void customiseToolbar() = 0;
   /// Moves the sort column by so many places to the right and makes it so many points wider.
   virtual void changeSortColumn(int places, int points) = 0;
+  virtual void setShape(TableShape shape) = 0;
+  virtual TableShape shape() const = 0;
+  virtual void setScope(TableScope scope) = 0;
+  virtual TableScope scope() const = 0;
+  /// Folds or unfolds every row that has others below.
+  virtual void foldAll(bool folded) = 0;
   virtual void showRememberedWindows() = 0;
   virtual void closeFollowingWindows() = 0;
   virtual void showHelp() = 0;

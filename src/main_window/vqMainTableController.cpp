@@ -70,6 +70,9 @@ class vqMainTableController::FilteredRow final : public QuerySubject {
 vqMainTableController::vqMainTableController() {
   fInfoSynchronizer = new VQTarvMainWindowInfoSynch(ReadInt("MAIN_WINDOW_INTERVAL"), *this);
   fLayout.Read();
+  fShape = static_cast<TableShape>(std::clamp(ReadInt("MAIN_WINDOW_SHAPE"), 0, 2));
+  fScope = static_cast<TableScope>(std::clamp(ReadInt("MAIN_WINDOW_SCOPE"), 0, kScopeCount - 1));
+  readWhatIsNeeded();
 }
 
 vqMainTableController::~vqMainTableController() {
@@ -85,6 +88,7 @@ void vqMainTableController::awakeFromNib(QMainWindow& window, StripedTableView& 
   auto& header = *table.horizontalHeader();
   connect(&header, &QHeaderView::sectionClicked, this,
           [this](int column) { shouldSelectTableColumn(column); });
+  connect(&table, &StripedTableView::foldWanted, this, &vqMainTableController::foldRow);
   connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &vqMainTableController::contentsChanged);
   const KeyId sortColumn = fLayout.TakeInitialSortColumn();
@@ -151,9 +155,13 @@ void vqMainTableController::noteAgeOfColumns(bool mayAge) {
 void vqMainTableController::commitChanges() {
   fCommitIsQueued = false;
   // A filter's rows may be others after any change of a text.
-  const bool isArranged =
-      !fNeedsResort && !fRows.HaveComeOrGone() && !fFilterHasChanged && fFilter.IsEmpty();
+  const bool isArranged = !fNeedsResort && !fRows.HaveComeOrGone() && !fFilterHasChanged &&
+                          !fStandingHasChanged && !hidesRows();
   if (!fHolders.empty() || isArranged) {
+    if (isTreeCurrent()) {
+      addUp();
+      measureBars();
+    }
     fRows.CommitCells();
     if (std::exchange(fFactsHaveChanged, false)) Q_EMIT contentsChanged();
     return;
@@ -167,15 +175,10 @@ void vqMainTableController::arrangeRows() {
   fFilterHasChanged = false;
   fRows.TidyUp();
   rememberSelection();
-  if (fNeedsResort) resortTable();
-  std::function<bool(const RowDictionary&)> isShown;
-  if (!fFilter.IsEmpty()) {
-    isShown = [this](const RowDictionary& row) {
-      return fFilter.IsFulfilledBy(FilteredRow(*this, row));
-    };
-  }
-  keepFocus(isShown);
-  fRows.Commit(isShown);
+  auto wanted = rowsToShow();
+  keepFocus(wanted);
+  fRows.Commit(std::move(wanted));
+  fTree.TidyUp();
   restoreSelection();
   if (fTable != nullptr) stripedTable()->KeepFoundInSight();
 }
@@ -198,8 +201,11 @@ void vqMainTableController::resortTable() {
   if (fSortColumn == kNoKey) return;
   const auto comparison = SortingComparisonForColumn(KeyText(fSortColumn));
   if (comparison == nullptr) return;
-  const bool ascending = fLayout.DirectionOf(fSortColumn) != 0;
-  SortRows(fRows.All(), comparison, {fSortColumn, ascending});
+  SortRows(fRows.All(), comparison, sortContext());
+}
+
+compareContextStructure vqMainTableController::sortContext() const {
+  return {fSortColumn, fSortColumn == kNoKey || fLayout.DirectionOf(fSortColumn) != 0};
 }
 
 void vqMainTableController::holdOrder(const QObject* holder, bool hold) {
@@ -215,13 +221,21 @@ void vqMainTableController::setFilter(Query query) {
   const bool looksAtMore = !query.Properties().empty();
   fFilter = std::move(query);
   fFilterHasChanged = true;
+  for (auto* row : fRows.All()) row->isFoldedInFilter = false;
+  fTree.ForgetFoldsOfGroupsInFilter();
   commitChanges();
   if (looksAtMore) updateNow();
 }
 
 bool vqMainTableController::needsProperty(const char* key) const {
   const auto needed = fFilter.Properties();
-  return fLayout.Has(key) || std::ranges::find(needed, std::string_view(key)) != needed.end();
+  return fLayout.Has(key) || std::ranges::find(needed, std::string_view(key)) != needed.end() ||
+         std::ranges::any_of(fKeysBesideColumns,
+                             [key](KeyId beside) { return KeyText(beside) == key; });
+}
+
+bool vqMainTableController::matches(const RowDictionary& row) const {
+  return isInScope(row) && (fFilter.IsEmpty() || fFilter.IsFulfilledBy(FilteredRow(*this, row)));
 }
 
 void vqMainTableController::updateNow() {
@@ -280,7 +294,8 @@ QVariant vqMainTableController::iconOf(RowDictionary& row) const {
   if (!icon.internal_Icon_Has_Been_Inited) {
     icon.internal_Icon_Has_Been_Inited = true;
     const double scale = fTable != nullptr ? fTable->devicePixelRatioF() : 1.0;
-    const auto picture = ProcessIconImage(row.Pid(), static_cast<int>(ImageCell::kSize * scale));
+    const auto picture =
+        ProcessIconImage(row.LeadPid(), static_cast<int>(ImageCell::kSize * scale));
     icon.internal_Icon_Exists = picture != nullptr;
     icon.internal_Icon_Data = picture != nullptr ? PixmapOf(*picture, scale) : QPixmap();
   }
@@ -288,17 +303,25 @@ QVariant vqMainTableController::iconOf(RowDictionary& row) const {
 }
 
 QVariant vqMainTableController::indicatorOf(const RowDictionary& row) const {
-  const char* name = ProcessIndicatorImageName(row.Pid());
+  const char* name = row.Group() == nullptr ? ProcessIndicatorImageName(row.Pid()) : nullptr;
   return name != nullptr ? QVariant(NamedImage(name)) : QVariant();
 }
 
 QString vqMainTableController::textOf(const RowDictionary& row, const Column& column) const {
-  if (column.type != kPropertyTypeDate || fTable == nullptr)
-    return DisplayText(column.type, row.Get(column.key), 15, row.Pid());
+  // A group's pid is no pid.
+  if (row.Group() != nullptr && column.key == kMetaPid) return {};
+  if (column.type != kPropertyTypeDate || fTable == nullptr) {
+    const auto text = DisplayText(column.type, row.Shown(column.key), 15, row.Pid());
+    const bool counts = row.Group() != nullptr || row.Standing().fold == RowStanding::Fold::kFolded;
+    return counts && column.key == kMetaName
+               ? text + QLatin1String(" (") + QString::number(row.Standing().below) +
+                     QLatin1Char(')')
+               : text;
+  }
   const double digit = fTable->fontMetrics().horizontalAdvance(QLatin1Char('0'));
   const int points = fTable->columnWidth(columnIndexOf(column.key));
   const auto width = static_cast<int>(points / std::max(digit, kPointsPerCharacter));
-  return DisplayText(column.type, row.Get(column.key), width, row.Pid());
+  return DisplayText(column.type, row.Shown(column.key), width, row.Pid());
 }
 
 QVariant vqMainTableController::objectValueForTableColumn(int columnIndex, int rowIndex) const {
@@ -312,20 +335,21 @@ QVariant vqMainTableController::objectValueForTableColumn(int columnIndex, int r
 
 QString vqMainTableController::spokenText(const RowDictionary& row, const Column& column) const {
   if (column.key == kInternalCPUPercent)
-    return QString::number(NumberOf(row.Get(kInternalCpuUsage)) * 100.0, 'f', 1) +
+    return QString::number(NumberOf(row.Shown(kInternalCpuUsage)) * 100.0, 'f', 1) +
            QLatin1String(" %");
   if (column.key == kInternalMemGraph) {
     const auto size = [&](KeyId key) {
-      return DisplayText(kPropertyTypeMemory, row.Get(key), 0, row.Pid());
+      return DisplayText(kPropertyTypeMemory, row.Shown(key), 0, row.Pid());
     };
     return size(kPidRsz) + QLatin1String(" / ") + size(kPidVsz);
   }
   if (column.key == kInternalIndicator) {
+    if (row.Group() != nullptr) return {};
     const char* name = ProcessIndicatorImageName(row.Pid());
     return name != nullptr ? LocalizedString(name) : QString();
   }
   if (column.isInternal) return {};
-  const auto missing = MissingText(row.Get(column.key));
+  const auto missing = MissingText(row.Shown(column.key));
   return missing.isEmpty() ? textOf(row, column) : missing;
 }
 
@@ -335,13 +359,26 @@ std::vector<std::int32_t> vqMainTableController::pidsInSight() const {
   const int first = table()->rowAt(0);
   const int last = table()->rowAt(table()->viewport()->height() - 1);
   const int end = last < 0 ? rowCount() : last + 1;
-  for (int row = std::max(first, 0); row < end; ++row)
-    pids.push_back(fRows.Shown()[static_cast<std::size_t>(row)]->Pid());
+  for (int place = std::max(first, 0); place < end; ++place) {
+    const auto& row = *fRows.Shown()[static_cast<std::size_t>(place)];
+    if (row.Group() == nullptr) {
+      pids.push_back(row.Pid());
+    } else if (row.Standing().fold == RowStanding::Fold::kFolded) {
+      // Its figures are theirs.
+      for (const auto& member : row.Group()->shown) pids.push_back(member.pid);
+    }
+  }
   return pids;
 }
 
 QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column& column) const {
   QStringList lines;
+  if (row.Standing().fold == RowStanding::Fold::kFolded || row.Group() != nullptr)
+    lines.append(totalTip(row, column));
+  if (row.Group() != nullptr) {
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
+  }
   const bool isMissing = !column.isInternal && !IsKnown(row.Get(column.key));
   if (column.isStale) lines.append(LocalizedString("main_window_stale_tip"));
   if (isMissing) lines.append(MissingTip(KeyText(column.key), row.Get(column.key)));
@@ -381,25 +418,37 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
       return QVariant(
           Qt::Alignment(Qt::AlignVCenter | (column.rightAligned ? Qt::AlignRight : Qt::AlignLeft)));
     case Qt::AccessibleTextRole:
-      return spokenText(row, column);
+      return isTreeColumn(column) ? spokenText(row, column) + spokenStanding(row)
+                                  : spokenText(row, column);
     case Qt::ToolTipRole:
       return tooltipOf(row, column);
     case kIsFaintRole:
-      return column.isStale || row.IsZombie() ||
-             (!column.isInternal && !IsKnown(row.Get(column.key)));
+      return column.isStale || row.IsZombie() || row.Standing().isContext ||
+             (!column.isInternal && !IsKnown(row.Shown(column.key)));
+    case kLevelRole:
+      return isTreeColumn(column) ? row.Standing().level : -1;
+    case kFoldRole:
+      return static_cast<int>(row.Standing().fold);
     case kIsIdleTaskRole:
       return row.Pid() == 0;
     case kCpuShareRole:
-      return NumberOf(row.Get(kInternalCpuUsage));
+      return NumberOf(row.Shown(kInternalCpuUsage));
     case kResidentSizeRole:
-      return static_cast<qlonglong>(IntegerOf(row.Get(kPidRsz)));
+      return static_cast<qlonglong>(IntegerOf(row.Shown(kPidRsz)));
     case kVirtualSizeRole:
-      return static_cast<qlonglong>(IntegerOf(row.Get(kPidVsz)));
+      return static_cast<qlonglong>(IntegerOf(row.Shown(kPidVsz)));
     case StripedTableView::kRowHasChangedRole:
       return row.HasChanged();
     default:
       return {};
   }
+}
+
+Qt::ItemFlags vqMainTableController::flags(const QModelIndex& index) const {
+  const auto flags = vqTableController::flags(index);
+  const bool isContext =
+      index.isValid() && fRows.Shown()[static_cast<std::size_t>(index.row())]->Standing().isContext;
+  return isContext ? flags & ~Qt::ItemIsSelectable : flags;
 }
 
 QVariant vqMainTableController::headerData(int section, Qt::Orientation orientation,

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -15,6 +16,8 @@
 #include "main_window/MainToolbar.h"
 #include "main_window/ProcessCommands.h"
 #include "main_window/ProcessRows.h"
+#include "main_window/RowTree.h"
+#include "main_window/TableShape.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
 #include "query/Query.h"
 #include "windows/CustomCells.h"
@@ -85,6 +88,20 @@ class vqMainTableController final : public vqTableController,
   /// at once.
   void setFilter(Query query);
 
+  // ---- Shape and scope --------------------------------------------------------------------------
+
+  TableShape shape() const { return fShape; }
+  /// What is selected, and what has the focus, stays in sight where it was.
+  void setShape(TableShape shape);
+  TableScope scope() const { return fScope; }
+  void setScope(TableScope scope);
+  bool isFiltered() const { return !fFilter.IsEmpty(); }
+  /// Processes that scope and filter take, in sight or below a folded row.
+  std::size_t countOfMatches() const;
+  /// Folds or unfolds a row and, with `all`, everything below it; nothing where nothing is below.
+  void foldRow(int row, bool folded, bool all);
+  void foldAll(bool folded);
+
   /// Of the rows that can be seen without scrolling.
   std::vector<std::int32_t> pidsInSight() const override;
 
@@ -150,7 +167,11 @@ class vqMainTableController final : public vqTableController,
   bool anyActionListItemsInSelection(std::int32_t kind) const {
     return fCommands.AnyActionListItems(kind);
   }
-  SelectionFacts selectionFacts() const { return fCommands.Facts(); }
+  SelectionFacts selectionFacts() const {
+    auto facts = fCommands.Facts();
+    facts.isTree = fShape != TableShape::kList;
+    return facts;
+  }
   static bool validateMenuItem(const Command& command, const SelectionFacts& facts) {
     return IsMet(command.needs, facts);
   }
@@ -177,6 +198,8 @@ class vqMainTableController final : public vqTableController,
   int columnCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  /// A row that is there for those below it alone is not selected.
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
   /// What a cell shows: a text, a picture, or nothing where the cell draws by itself.
   QVariant objectValueForTableColumn(int column, int row) const;
 
@@ -185,6 +208,8 @@ class vqMainTableController final : public vqTableController,
   void updated();
   /// The number of rows, or of selected ones, may be another one.
   void contentsChanged();
+  /// The shape or the scope is another one.
+  void arrangementChanged();
   /// What became of a command, to be said in passing.
   void reported(const QString& text);
   void preferencesRequested();
@@ -219,6 +244,10 @@ class vqMainTableController final : public vqTableController,
   const ColumnLayout& layout() const override { return fLayout; }
   bool needsProperty(const char* key) const override;
   KeyId sortedBy() const override { return sortColumn(); }
+  std::span<const KeyId> keysBesideColumns() const override { return fKeysBesideColumns; }
+  bool standingDependsOn(KeyId key) const override;
+  void noteStandingHasChanged() override { fStandingHasChanged = fShape != TableShape::kList; }
+  std::int64_t biggestTotalVSZ() const override { return fBiggestTotal; }
   void noteStaleColumns() override { noteAgeOfColumns(true); }
   void noteFreshColumns() override { noteAgeOfColumns(false); }
   void showColumnsThatCame() override;
@@ -228,6 +257,35 @@ class vqMainTableController final : public vqTableController,
 
   void noteAgeOfColumns(bool mayAge);
   void arrangeRows();
+  /// Whether the filter or the scope takes not everything.
+  bool hidesRows() const { return isFiltered() || fScope != TableScope::kAll; }
+  bool isInScope(const RowDictionary& row) const;
+  bool matches(const RowDictionary& row) const;
+  /// Which rows can be seen, in their order.
+  std::vector<RowDictionary*> rowsToShow();
+  std::vector<RowDictionary*> rowsOfTree();
+  compareContextStructure sortContext() const;
+  void addUp();
+  /// Memory bars are measured by the totals, too.
+  void measureBars();
+  /// While it has been built for all rows that there are.
+  bool isTreeCurrent() const {
+    return fShape != TableShape::kList && !fRows.HaveComeOrGone() && !fStandingHasChanged;
+  }
+  /// Reads what shape and scope need from the next update on, which comes at once.
+  void readWhatIsNeeded();
+  void revealKeptRows();
+  /// Unfolds what hides these processes.
+  void revealPids(const std::vector<std::int32_t>& pids);
+  /// Has `change` done and scrolls so that the row with the focus, or else the first one in sight,
+  /// stands where it stood.
+  void keepPlace(const std::function<void()>& change);
+  /// The column that shows what stands below what.
+  KeyId treeColumn() const;
+  bool isTreeColumn(const Column& column) const {
+    return fShape != TableShape::kList && column.key == treeColumn();
+  }
+  QString spokenStanding(const RowDictionary& row) const;
   void setupToolbar(QMainWindow& window);
   void adoptScreenLayout();
   int widthForColumn(KeyId key, const QString& title) const;
@@ -235,7 +293,9 @@ class vqMainTableController final : public vqTableController,
   /// Gives a row the focus where it stands, if it is shown; the table does not scroll to it.
   void moveFocusTo(const RowDictionary* row);
   /// A focus that goes with its row passes to the nearest row that stays.
-  void keepFocus(const std::function<bool(const RowDictionary&)>& isShown);
+  void keepFocus(const std::vector<RowDictionary*>& wanted);
+  /// In their order, without those whose processes have ended.
+  std::vector<RowDictionary*> selectedRows() const;
   QVariant iconOf(RowDictionary& row) const;
   QVariant indicatorOf(const RowDictionary& row) const;
   QString textOf(const RowDictionary& row, const Column& column) const;
@@ -243,6 +303,8 @@ class vqMainTableController final : public vqTableController,
   /// The process's arguments on one line, as they are now; empty when they are not known.
   static QString commandLineOf(std::int32_t pid);
   QString tooltipOf(const RowDictionary& row, const Column& column) const;
+  /// What a total is made of; empty for what is none.
+  QString totalTip(const RowDictionary& row, const Column& column) const;
   StripedTableView* stripedTable() const { return static_cast<StripedTableView*>(table()); }
 
   VQTarvMainWindowInfoSynch* fInfoSynchronizer = nullptr;
@@ -250,8 +312,15 @@ class vqMainTableController final : public vqTableController,
   ColumnLayout fLayout;
   std::vector<Column> fColumns;
   std::vector<std::int32_t> fRememberedSelectionPIDs;
+  std::vector<std::string> fRememberedGroups;
   class FilteredRow;
   Query fFilter;
+  TableShape fShape = TableShape::kList;
+  TableScope fScope = TableScope::kAll;
+  RowTree fTree;
+  std::int64_t fBiggestTotal = 0;
+  std::vector<KeyId> fKeysBesideColumns;
+  bool fStandingHasChanged = false;
   bool fFilterHasChanged = false;
   bool fFactsHaveChanged = false;
   bool fNeedsResort = false;
@@ -261,6 +330,7 @@ class vqMainTableController final : public vqTableController,
   /// The window's, which outlives this.
   MainToolbar* fToolbar = nullptr;
   TextCell fTextCell;
+  TreeCell fTreeCell;
   ImageCell fImageCell;
   CPUCell fCPUCell;
   MemGraphCell fMemGraphCell;

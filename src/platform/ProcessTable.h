@@ -96,6 +96,9 @@ class ProcessTable {
   /// out. Waits half a second at most, and leaves out what could not be read until then.
   virtual std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) = 0;
 
+  /// This program's own process.
+  virtual std::int32_t OwnPid() const = 0;
+
   /// The highest pid that the machine can hand out.
   virtual std::int32_t MaximumPid() const = 0;
 };

@@ -143,6 +143,10 @@ inline constexpr Setting kRows[] = {
     Record("MAIN_WINDOW_SORT_COLUMN_INDEX", 1),
     Array("MAIN_WINDOW_COLUMNS"),
     Text("MAIN_WINDOW_RECENT_FILTERS", kAtOnce),
+    Choice("MAIN_WINDOW_SHAPE", 0, 2, kNextStart),
+    Choice("MAIN_WINDOW_SCOPE", 0, 5, kNextStart),
+    Text("MAIN_WINDOW_FOLDED_PROGRAMS", kNextStart),
+    Text("MAIN_WINDOW_UNFOLDED_APPLICATIONS", kNextStart),
     Number("HAS_RUN_TWO_POINT_THREE", kAbsent, 0, 1, kNextStart),
     Number("HAS_RUN_TWO_POINT_FOUR", kAbsent, 0, 1, kNextStart),
 

@@ -3,16 +3,22 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPainter>
+#include <QPolygonF>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "process_control/DisplayFormats.h"
+#include "windows/RowDictionary.h"
 
 namespace lurkwell {
 namespace {
 
 constexpr int kTextMargin = TextCell::kWidthBesideText / 2;
+constexpr int kLevelWidth = 14;
+constexpr int kArrowWidth = 16;
+/// What lies deeper stands no further to the right.
+constexpr int kDeepestDrawn = 24;
 
 QColor Colour(double red, double green, double blue) {
   return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
@@ -39,28 +45,78 @@ QRect BarIn(const QRect& rect, double share, int least) {
                rect.height());
 }
 
+/// An open angle, sharp at every scale.
+void DrawArrow(QPainter& painter, const QRect& place, bool isFolded, const QColor& colour) {
+  const QPointF middle = QRectF(place).center() + QPointF(1.0, 0.0);
+  constexpr double kLong = 3.5;
+  constexpr double kShort = 1.75;
+  QPolygonF angle;
+  if (isFolded)
+    angle << middle + QPointF(-kShort, -kLong) << middle + QPointF(kShort, 0.0)
+          << middle + QPointF(-kShort, kLong);
+  else
+    angle << middle + QPointF(-kLong, -kShort) << middle + QPointF(0.0, kShort)
+          << middle + QPointF(kLong, -kShort);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colour, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(angle);
+}
+
 }  // namespace
 
 bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Text).lightness() > palette.color(QPalette::Base).lightness();
 }
 
-void TextCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                     const QModelIndex& index) const {
-  DrawBackground(*painter, option);
+void TextCell::DrawText(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place,
+                        const QModelIndex& index) {
   const auto text = index.data(Qt::DisplayRole).toString();
   if (text.isEmpty()) return;
-  const auto rect = option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
+  const auto rect = place.adjusted(kTextMargin, 0, -kTextMargin, 0);
   const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-  painter->setFont(option.font);
+  painter.setFont(option.font);
   const bool isFaint = index.data(kIsFaintRole).toBool();
-  painter->setPen(
+  painter.setPen(
       option.palette.color(isFaint ? QPalette::Disabled : GroupOf(option),
                            IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
   const auto& metrics = option.fontMetrics;
   const bool fits = metrics.horizontalAdvance(text) <= rect.width();
-  painter->drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine,
-                    fits ? text : metrics.elidedText(text, Qt::ElideRight, rect.width()));
+  painter.drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine,
+                   fits ? text : metrics.elidedText(text, Qt::ElideRight, rect.width()));
+}
+
+void TextCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) const {
+  DrawBackground(*painter, option);
+  DrawText(*painter, option, option.rect, index);
+}
+
+int TreeCell::InsetOf(const QModelIndex& index) {
+  const int level = index.data(kLevelRole).toInt();
+  return level < 0 ? 0 : std::min(level, kDeepestDrawn) * kLevelWidth + kArrowWidth;
+}
+
+QRect TreeCell::ArrowPlace(const QRect& cell, const QModelIndex& index) {
+  const int inset = InsetOf(index);
+  if (inset == 0 || index.data(kFoldRole).toInt() == 0) return {};
+  return QRect(cell.left() + inset - kArrowWidth, cell.top(), kArrowWidth, cell.height());
+}
+
+void TreeCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) const {
+  DrawBackground(*painter, option);
+  const auto arrow = ArrowPlace(option.rect, index);
+  painter->save();
+  painter->setClipRect(option.rect, Qt::IntersectClip);
+  if (arrow.isValid()) {
+    const bool isFolded =
+        index.data(kFoldRole).toInt() == static_cast<int>(RowStanding::Fold::kFolded);
+    DrawArrow(*painter, arrow, isFolded,
+              option.palette.color(GroupOf(option), IsSelected(option) ? QPalette::HighlightedText
+                                                                       : QPalette::Text));
+  }
+  painter->restore();
+  DrawText(*painter, option, option.rect.adjusted(InsetOf(index), 0, 0, 0), index);
 }
 
 void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option,

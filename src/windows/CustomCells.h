@@ -16,7 +16,9 @@ enum CellRole {
   kResidentSizeRole,
   kVirtualSizeRole,
   kIsFaintRole,
-  kIsIdleTaskRole
+  kIsIdleTaskRole,
+  kLevelRole,  ///< how deep the row lies, from 0; -1 where rows have no places below others
+  kFoldRole    ///< RowStanding::Fold as a number
 };
 
 /// The largest virtual size among all processes in the last update, in bytes; what memory bars are
@@ -28,12 +30,32 @@ inline bool gDrawVSZText = false;
 
 /// One line of text, cut at the end, with the selection behind it; what is old, ended or missing
 /// stands in a fainter colour.
-class TextCell final : public QStyledItemDelegate {
+class TextCell : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
   /// The margins at both sides, and the grid line, in points.
   static constexpr int kWidthBesideText = 9;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+
+ protected:
+  /// The text alone.
+  static void DrawText(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place,
+                       const QModelIndex& index);
+};
+
+/// A text that stands the further to the right the deeper its row lies, with an arrow before it
+/// where something lies below: to the right when folded, else down.
+class TreeCell final : public TextCell {
+  Q_OBJECT
+
+ public:
+  /// What level and arrow take of the cell, in points; 0 where rows have no places below others.
+  static int InsetOf(const QModelIndex& index);
+  /// Where a click folds and unfolds, in a cell that lies at `cell`; nowhere for an empty one.
+  static QRect ArrowPlace(const QRect& cell, const QModelIndex& index);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;

@@ -2,12 +2,15 @@
 
 #include <QPixmap>
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "consolidator/TypedValue.h"
 #include "platform/Clock.h"
+#include "platform/ProcessIdentity.h"
 #include "platform/ProcessTable.h"
 #include "windows/Keys.h"
 
@@ -53,13 +56,62 @@ struct RowIcon {
   QPixmap internal_Icon_Data;
 };
 
-/// One process in the table. Belongs to the table's controller; main thread only.
+/// What decides about the place of a process among the others, beside its figures.
+struct RowOrigin {
+  /// kInvalidPID for none.
+  std::int32_t parentPid = kInvalidPID;
+  /// See ProcessIdentity.
+  std::uint64_t startStamp = 0;
+  /// The desktop knows it as an application.
+  bool isApplication = false;
+  bool isKernelThread = false;
+
+  bool operator==(const RowOrigin&) const = default;
+};
+
+/// How a row stands among those below and above it.
+struct RowStanding {
+  enum class Fold : std::uint8_t { kNone, kFolded, kUnfolded };
+  /// 0 for those that are below no other.
+  int level = 0;
+  /// kNone where nothing is below.
+  Fold fold = Fold::kNone;
+  /// How many processes are below it, at any depth.
+  int below = 0;
+  /// It is there for the sake of those below it alone.
+  bool isContext = false;
+
+  bool operator==(const RowStanding&) const = default;
+};
+
+/// The processes that a row stands for which is none itself.
+struct RowGroup {
+  /// Tells it from other groups, from one start of the program to the next.
+  std::string key;
+  /// Whose icon it has.
+  std::int32_t lead = kInvalidPID;
+  /// The lowest of its pids, so that orders are complete.
+  std::int32_t first = kInvalidPID;
+  /// Those of its processes that are not hidden.
+  std::vector<ProcessIdentity> shown;
+};
+
+/// One process in the table, or a group of them. Belongs to the table's controller; main thread
+/// only.
 class RowDictionary {
  public:
   explicit RowDictionary(std::int32_t pid) : mPid(pid) { Set(kMetaPid, std::int64_t{pid}); }
+  explicit RowDictionary(std::unique_ptr<RowGroup> group)
+      : mPid(kInvalidPID), mGroup(std::move(group)) {}
 
-  /// The process that the row was made for; meta_pid says the same.
+  /// The process that the row was made for; meta_pid says the same. kInvalidPID for a group.
   std::int32_t Pid() const { return mPid; }
+  /// Null for a process.
+  RowGroup* Group() const { return mGroup.get(); }
+  /// By which it is ordered among equals; for a group the lowest of its pids.
+  std::int32_t OrderPid() const { return mGroup != nullptr ? mGroup->first : mPid; }
+  /// Whose icon and application it shows.
+  std::int32_t LeadPid() const { return mGroup != nullptr ? mGroup->lead : mPid; }
 
   const RowValue& Get(KeyId key) const { return mValues.Get(key); }
   /// True when the value is another one than before.
@@ -67,6 +119,47 @@ class RowDictionary {
     if (!mValues.Set(key, std::move(value))) return false;
     return mChanged = true;
   }
+
+  // ---- Totals of the row and all below it ------------------------------------------------------
+
+  /// What the cell shows: the total where the row is folded and has one, else its own.
+  const RowValue& Shown(KeyId key) const { return mShowsTotals ? SortValue(key) : Get(key); }
+  /// What the row is sorted by: its total, folded or not, so that folding moves nothing.
+  const RowValue& SortValue(KeyId key) const {
+    if (mTotals == nullptr) return Get(key);
+    const auto& total = mTotals->Get(key);
+    return IsKnown(total) ? total : Get(key);
+  }
+  void SetTotal(KeyId key, RowValue value) {
+    if (mTotals == nullptr) mTotals = std::make_unique<RowValues>();
+    if (mTotals->Set(key, std::move(value)) && mShowsTotals) mChanged = true;
+  }
+  void ShowTotals(bool show) {
+    if (std::exchange(mShowsTotals, show) != show) mChanged = true;
+  }
+  void DropTotals() {
+    ShowTotals(false);
+    mTotals.reset();
+  }
+
+  // ---- Its place -------------------------------------------------------------------------------
+
+  RowOrigin origin;
+  const RowStanding& Standing() const { return mStanding; }
+  void SetStanding(const RowStanding& standing) {
+    if (mStanding == standing) return;
+    mStanding = standing;
+    mChanged = true;
+  }
+  /// Whether it is folded; nothing until it is known what is remembered for its name.
+  std::optional<bool> isFolded;
+  /// The user has chosen it, whatever is remembered.
+  bool isFoldChosen = false;
+  /// The same while a filter looks below it.
+  bool isFoldedInFilter = false;
+  /// The row that it stands below, and its place among the nodes; see RowTree.
+  RowDictionary* above = nullptr;
+  int node = -1;
 
   /// The record's stamp when the row was read last; see ProcessGlance.
   std::uint64_t changeStamp = 0;
@@ -99,7 +192,12 @@ class RowDictionary {
 
  private:
   std::int32_t mPid;
+  std::unique_ptr<RowGroup> mGroup;
   RowValues mValues;
+  /// Null where nothing is added up.
+  std::unique_ptr<RowValues> mTotals;
+  bool mShowsTotals = false;
+  RowStanding mStanding;
   const char* mIndicator = nullptr;
   RunState mRunState = RunState::kSleeping;
   bool mChanged = true;

@@ -39,7 +39,7 @@ QString Folded(std::string_view text) {
 }
 
 void PrepareText(SortedRow& row, const compareContextStructure& context) {
-  const auto* text = std::get_if<std::string>(&row.row->Get(context.sortKey));
+  const auto* text = std::get_if<std::string>(&row.row->SortValue(context.sortKey));
   row.isMissing = text == nullptr;
   if (text != nullptr) row.text = Folded(*text);
 }
@@ -55,24 +55,24 @@ void SetNumber(SortedRow& row, const RowValue& value) {
 }
 
 void PrepareNumber(SortedRow& row, const compareContextStructure& context) {
-  SetNumber(row, row.row->Get(context.sortKey));
+  SetNumber(row, row.row->SortValue(context.sortKey));
 }
 
 void PrepareCPUPercent(SortedRow& row, const compareContextStructure&) {
-  row.number = NumberOf(row.row->Get(kInternalCpuUsage));
+  row.number = NumberOf(row.row->SortValue(kInternalCpuUsage));
   if (row.pid == 0 && IgnoresPidZero()) row.number = 0.0;
 }
 
 void PrepareVirtualSize(SortedRow& row, const compareContextStructure&) {
-  row.integer = IntegerOf(row.row->Get(kPidVsz));
+  row.integer = IntegerOf(row.row->SortValue(kPidVsz));
   if (row.pid == 0 && IgnoresPidZero()) row.integer = 0;
 }
 
 void PrepareApplication(SortedRow& row, const compareContextStructure&) {
   ProcessSerialNumber psn;
-  PID2PSN(row.row->Pid(), &psn);
+  PID2PSN(row.row->LeadPid(), &psn);
   row.hasApplication = !psn.IsNone();
-  row.hasAction = GetProcessAction(row.row->Pid(), kProcessActionAny, nullptr);
+  row.hasAction = GetProcessAction(row.row->LeadPid(), kProcessActionAny, nullptr);
   if (const auto* name = std::get_if<std::string>(&row.row->Get(kMetaName)))
     row.text = Folded(*name);
 }
@@ -221,7 +221,7 @@ void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,
   std::vector<SortedRow> sorted(rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
     sorted[i].row = rows[i];
-    sorted[i].pid = rows[i]->Pid();
+    sorted[i].pid = rows[i]->OrderPid();
     prepare(sorted[i], context);
   }
   if (IsInOrder(sorted, comparison, context)) return;

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "windows/CustomCells.h"
+#include "windows/RowDictionary.h"
 
 namespace lurkwell {
 
@@ -125,6 +126,7 @@ void StripedTableView::showTheSpecialContextMenu(const QPoint& position, bool is
 }
 
 void StripedTableView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && ClickArrow(event->pos())) return event->accept();
   if (event->button() != Qt::RightButton) return QTableView::mousePressEvent(event);
   showTheSpecialContextMenu(event->pos(), true, true);
   event->accept();
@@ -153,6 +155,8 @@ void StripedTableView::ShowMenuForKey() {
 }
 
 void StripedTableView::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The second of two quick clicks.
+  if (event->button() == Qt::LeftButton && ClickArrow(event->pos())) return event->accept();
   QTableView::mouseDoubleClickEvent(event);
   if (event->button() == Qt::LeftButton && rowAt(event->pos().y()) >= 0) Q_EMIT doubleAction();
 }
@@ -166,7 +170,54 @@ void StripedTableView::keyPressEvent(QKeyEvent* event) {
   }
   if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
     return ShowMenuForKey();
+  if (ServeTreeKey(*event)) return;
   QTableView::keyPressEvent(event);
+}
+
+// ---- Rows below rows ----------------------------------------------------------------------------
+
+bool StripedTableView::ClickArrow(const QPoint& position) {
+  const auto index = indexAt(position);
+  if (!index.isValid() || index.column() != mTreeColumn) return false;
+  if (!TreeCell::ArrowPlace(visualRect(index), index).contains(position)) return false;
+  using Fold = RowStanding::Fold;
+  const bool isFolded = index.data(kFoldRole).toInt() == static_cast<int>(Fold::kFolded);
+  Q_EMIT foldWanted(index.row(), !isFolded, false);
+  return true;
+}
+
+int StripedTableView::RowAbove(int row) const {
+  const int level = InTree(row).data(kLevelRole).toInt();
+  for (int above = row - 1; above >= 0 && level > 0; --above)
+    if (InTree(above).data(kLevelRole).toInt() < level) return above;
+  return -1;
+}
+
+bool StripedTableView::ServeTreeKey(const QKeyEvent& event) {
+  const auto index = currentIndex();
+  if (mTreeColumn < 0 || !index.isValid() || InTree(index.row()).data(kLevelRole).toInt() < 0)
+    return false;
+  if ((event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != 0) return false;
+  using Fold = RowStanding::Fold;
+  const int row = index.row();
+  const auto fold = static_cast<Fold>(InTree(row).data(kFoldRole).toInt());
+  const bool isPlain = (event.modifiers() & Qt::ShiftModifier) == 0;
+  if (event.key() == Qt::Key_Right && isPlain) {
+    if (fold == Fold::kFolded)
+      Q_EMIT foldWanted(row, false, false);
+    else if (fold == Fold::kUnfolded)
+      SelectAlone(row + 1);
+  } else if (event.key() == Qt::Key_Left && isPlain) {
+    if (fold == Fold::kUnfolded)
+      Q_EMIT foldWanted(row, true, false);
+    else if (const int above = RowAbove(row); above >= 0)
+      SelectAlone(above);
+  } else if (event.key() == Qt::Key_Asterisk && !IsSearching()) {
+    Q_EMIT foldWanted(row, false, true);
+  } else {
+    return false;
+  }
+  return true;
 }
 
 /// In a list of whole rows there is no other beginning and end than those of the list.
@@ -184,10 +235,13 @@ bool StripedTableView::RowMatches(int row, const QString& text) const {
   return shown.startsWith(text, Qt::CaseInsensitive);
 }
 
+bool StripedTableView::IsSearching() const {
+  return mSinceLastKey.isValid() && mSinceLastKey.elapsed() < QApplication::keyboardInputInterval();
+}
+
 void StripedTableView::keyboardSearch(const QString& search) {
   if (mSearchColumn < 0 || model() == nullptr || model()->rowCount() == 0) return;
-  const bool goesOn =
-      mSinceLastKey.isValid() && mSinceLastKey.elapsed() < QApplication::keyboardInputInterval();
+  const bool goesOn = IsSearching();
   mSinceLastKey.restart();
   // One letter again and again goes from match to match.
   const bool repeats = goesOn && mSearched.size() == 1 && mSearched == search;
@@ -212,7 +266,8 @@ int StripedTableView::sizeHintForColumn(int column) const {
   int longest = 0;
   for (int row = 0; row < model()->rowCount(); ++row) {
     const auto text = model()->index(row, column).data(Qt::DisplayRole).toString();
-    longest = std::max(longest, fontMetrics().horizontalAdvance(text));
+    const int inset = column == mTreeColumn ? TreeCell::InsetOf(model()->index(row, column)) : 0;
+    longest = std::max(longest, fontMetrics().horizontalAdvance(text) + inset);
   }
   // Command lines are longer than any screen.
   const int most =

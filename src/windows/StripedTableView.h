@@ -39,6 +39,9 @@ class StripedTableView : public QTableView {
   /// Typing finds rows by the text in this column; -1 for none.
   void setSearchColumn(int column) { mSearchColumn = column; }
 
+  /// The column that shows which rows stand below others; -1 for none.
+  void setTreeColumn(int column) { mTreeColumn = column; }
+
   /// Opens the context menu at a point of the viewport, when a right click there hits a row; with
   /// `needToSelect` that row becomes the selection, unless it is a part of it. A click in another
   /// window, for which a row has been selected, need not hit one.
@@ -65,6 +68,9 @@ class StripedTableView : public QTableView {
  Q_SIGNALS:
   /// A double click on a row, or Return.
   void doubleAction();
+  /// A click on an arrow, or a key: Right unfolds and Left folds a row, the asterisk unfolds `all`
+  /// that lies below, too.
+  void foldWanted(int row, bool folded, bool all);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -81,6 +87,14 @@ class StripedTableView : public QTableView {
   void ShowMenuForKey();
   void ScrollToRow(const QModelIndex& place);
   bool RowMatches(int row, const QString& text) const;
+  bool IsSearching() const;
+  QModelIndex InTree(int row) const { return model()->index(row, mTreeColumn); }
+  /// Whether there was an arrow, which has been served.
+  bool ClickArrow(const QPoint& position);
+  /// The same for a key.
+  bool ServeTreeKey(const QKeyEvent& event);
+  /// The row that the other stands below, -1 for none.
+  int RowAbove(int row) const;
 
   QPointer<QMenu> fMenu;
   /// The same, to be compared alone: events come while the menu ends, when it is none any more.
@@ -88,6 +102,7 @@ class StripedTableView : public QTableView {
   QElapsedTimer mSinceMenuCame;
   QPersistentModelIndex mFound;
   int mSearchColumn = -1;
+  int mTreeColumn = -1;
   QString mSearched;
   QElapsedTimer mSinceLastKey;
   QString mEmptyText;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unistd.h>
+
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -49,6 +51,7 @@ class LinuxProcessTable final : public ProcessTable {
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
 
   /// As of the last Read that found a new process.
+  std::int32_t OwnPid() const override { return ::getpid(); }
   std::int32_t MaximumPid() const override { return mMaximumPid; }
 
   std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override {

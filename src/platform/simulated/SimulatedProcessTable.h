@@ -61,6 +61,7 @@ class SimulatedProcessTable final : public ProcessTable {
   const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) override;
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
   std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override;
+  std::int32_t OwnPid() const override { return mOwnPid; }
   std::int32_t MaximumPid() const override { return 65535; }
 
   SimulatedProcess& Birth(std::int32_t pid, std::string_view name, std::int32_t parent = 1);
@@ -79,6 +80,9 @@ class SimulatedProcessTable final : public ProcessTable {
   /// Whether everybody may read what processes have used.
   void TellFigures(bool tells) { mTellsFigures = tells; }
 
+  /// Which of the processes is this program's; none at first.
+  void SetOwnPid(std::int32_t pid) { mOwnPid = pid; }
+
   /// The next readings find nothing at all.
   void FailReadings(int count) { mFailures = count; }
 
@@ -94,6 +98,7 @@ class SimulatedProcessTable final : public ProcessTable {
   std::int32_t mNextChurnPid = 100;
   int mFailures = 0;
   bool mTellsFigures = false;
+  std::int32_t mOwnPid = kInvalidPID;
 };
 
 /// Answers every wish at the next collection, from the simulated processes as they are then; of

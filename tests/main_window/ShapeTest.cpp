@@ -1,0 +1,323 @@
+// What stands below what, what is folded, what is added up, and which processes are shown at all.
+#include <QComboBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <string>
+
+#include "main_window/MainWindowTest.h"
+
+namespace lurkwell {
+namespace {
+
+class ShapeTest : public MainWindowTest {
+ protected:
+  SimulatedProcess& Birth(int pid, const char* name, int parent = 1, const char* owner = "user") {
+    auto& process = machine.processTable.Birth(pid, name, parent);
+    process.texts.Set(FigureCalled("pid_owner"), owner);
+    process.owner = owner;
+    return process;
+  }
+
+  void OpenTree() {
+    machine.processTable.TellFigures(true);
+    machine.processTable.SetOwnPid(300);
+    Open();
+    ClickHeader("meta_pid");
+    Choose("menu_view_shape_tree");
+    Turn();
+  }
+
+  void OpenApplications() {
+    machine.processTable.TellFigures(true);
+    machine.processTable.SetOwnPid(300);
+    Open();
+    ClickHeader("meta_pid");
+    Choose("menu_view_shape_applications");
+    Turn();
+  }
+
+  QModelIndex NameAt(int row) { return controller().index(row, ColumnOf("meta_name")); }
+
+  int RowOf(int pid) {
+    const auto* row = controller().rows().Find(pid);
+    return row != nullptr ? row->shownIndex : -1;
+  }
+
+  /// The names below each other: a blank per level, "+" where something is folded, "-" where it is
+  /// unfolded, in brackets what is there for those below it alone, with a star what is selected.
+  std::string Tree() {
+    std::string text;
+    for (int row = 0; row < controller().rowCount(); ++row) {
+      const auto name = NameAt(row);
+      const int fold = name.data(kFoldRole).toInt();
+      const bool isContext = !name.flags().testFlag(Qt::ItemIsSelectable);
+      const bool isSelected = window->table().selectionModel()->isRowSelected(row);
+      text +=
+          std::string(static_cast<std::size_t>(std::max(name.data(kLevelRole).toInt(), 0)), ' ') +
+          (fold == 1   ? "+"
+           : fold == 2 ? "-"
+                       : "") +
+          (isContext ? "[" : "") + name.data(Qt::DisplayRole).toString().toStdString() +
+          (isContext ? "]" : "") + (isSelected ? "*" : "") + "\n";
+    }
+    return text;
+  }
+
+  std::string Says() {
+    for (const auto* label : window->findChildren<QLabel*>())
+      if (label->text().contains(QLatin1String("process"))) return label->text().toStdString();
+    return {};
+  }
+
+  void Press(int pid, Qt::Key key) {
+    auto& table = window->table();
+    table.SelectAlone(RowOf(pid));
+    QTest::keyClick(&table, key);
+  }
+};
+
+TEST_F(ShapeTest, ChildrenStandBelowTheirParentsAndStaySoAsTheyComeAndGo) {
+  Birth(300, "shell");
+  Birth(301, "make", 300);
+  Birth(302, "cc", 301);
+  Birth(303, "ld", 301);
+  Birth(310, "other");
+  OpenTree();
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd\n -shell\n  -make\n   cc\n   ld\n other\n");
+  Select({302});
+  ClickHeader("meta_name");
+  ClickHeader("meta_name");
+  EXPECT_EQ(Tree(), "-launchd\n -shell\n  -make\n   ld\n   cc*\n other\nkernel_task\n")
+      << "among themselves";
+  machine.processTable.Death(301);
+  Birth(304, "vi", 300);
+  Turn();
+  EXPECT_EQ(Tree(), "-launchd\n -shell\n  vi\n other\n ld\n cc*\nkernel_task\n");
+  // The pid of the parent is a younger process's by now, and what names each other has no end.
+  machine.processTable.Death(310);
+  auto& late = Birth(305, "late", 300);
+  Birth(310, "young", 305);
+  late.entry.parentPid = 310;
+  Turn();
+  Turn();
+  EXPECT_NE(Tree().find("late"), std::string::npos) << Tree();
+  EXPECT_NE(Tree().find("young"), std::string::npos) << Tree();
+  EXPECT_EQ(Selected(), "302");
+}
+
+TEST_F(ShapeTest, FoldedRowsShowTotalsAndAreRememberedByName) {
+  Birth(300, "shell")["pid_rsz"] = 1 << 20;
+  Birth(301, "make", 300)["pid_rsz"] = 2 << 20;
+  auto& cc = Birth(302, "cc", 301);
+  cc["pid_rsz"] = 4 << 20;
+  cc.UseCPU(10);
+  Birth(310, "shell")["pid_rsz"] = 8 << 20;
+  OpenTree();
+  controller().addToKeysWeTrackForUI(InternKey("pid_rsz"));
+  Turn();
+  const auto memory = [&](int pid) { return Cell(RowOf(pid), ColumnOf("pid_rsz")).toStdString(); };
+  Press(300, Qt::Key_Left);
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd\n +shell (2)*\n shell\n");
+  EXPECT_EQ(memory(300), "7.0 M");
+  EXPECT_EQ(memory(310), "8.0 M");
+  cc.UseCPU(500);
+  cc["pid_rsz"] = 9 << 20;
+  Turn();
+  EXPECT_EQ(memory(300), "12.0 M");
+  EXPECT_EQ(NameAt(RowOf(300))
+                .siblingAtColumn(ColumnOf("internal_CPUPercent"))
+                .data(kCpuShareRole)
+                .toDouble(),
+            0.25);
+  EXPECT_EQ(Selected(), "300") << "the process alone, whatever is folded away in its row";
+  // Whoever is found is to be seen.
+  EXPECT_TRUE(VQTarvMainWindowInfoSynch::SelectPID(302));
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd\n -shell\n  -make\n   cc*\n shell\n");
+  EXPECT_EQ(memory(300), "1.0 M");
+  Press(300, Qt::Key_Left);
+  window.reset();
+  Open();
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd\n +shell (2)\n shell\n");
+  Press(300, Qt::Key_Right);
+  Press(301, Qt::Key_Left);
+  Press(302 - 1, Qt::Key_Left);
+  EXPECT_EQ(Selected(), "300") << "from a folded row to its parent";
+  Choose("menu_view_fold_all");
+  EXPECT_EQ(Tree(), "kernel_task\n+launchd (4)\n");
+  Choose("menu_view_shape_list");
+  EXPECT_EQ(memory(300), "1.0 M");
+  EXPECT_FALSE(Action("menu_view_fold_all").isEnabled());
+}
+
+TEST_F(ShapeTest, ArrowsAndKeysFoldAndAreSpoken) {
+  Birth(300, "shell");
+  Birth(301, "make", 300);
+  Birth(302, "cc", 301);
+  OpenTree();
+  auto& table = window->table();
+  const auto click = [&](int pid) {
+    const auto place = NameAt(RowOf(pid));
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                      TreeCell::ArrowPlace(table.visualRect(place), place).center());
+  };
+  Select({302});
+  click(301);
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd\n -shell\n  +make (1)\n");
+  EXPECT_EQ(Selected(), "") << "what is not seen is not acted upon";
+  EXPECT_EQ(NameAt(RowOf(301)).data(Qt::AccessibleTextRole).toString(),
+            QLatin1String("make (1), level 3, folded, 1 below"));
+  click(301);
+  EXPECT_EQ(RowOf(302), 4);
+  Press(1, Qt::Key_Left);
+  EXPECT_EQ(Tree(), "kernel_task\n+launchd (3)*\n");
+  QTest::keyClick(&table, Qt::Key_Asterisk);
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd*\n -shell\n  -make\n   cc\n");
+  QTest::keyClick(&table, Qt::Key_Right);
+  EXPECT_EQ(Selected(), "300");
+  QTest::keyClick(&table, Qt::Key_2, Qt::AltModifier);
+  QTest::keyClick(&table, Qt::Key_1, Qt::AltModifier);
+  EXPECT_EQ(controller().shape(), TableShape::kList);
+  EXPECT_EQ(NameAt(2).data(Qt::AccessibleTextRole).toString(), QLatin1String("shell"));
+}
+
+TEST_F(ShapeTest, AFilterKeepsTheAncestorsOfWhatItFindsForTheirPlaceAlone) {
+  Birth(300, "shell");
+  Birth(301, "make", 300);
+  Birth(302, "cc", 301);
+  Birth(310, "other");
+  OpenTree();
+  Press(1, Qt::Key_Left);
+  Filter("name:cc");
+  EXPECT_EQ(Tree(), "-[launchd]\n -[shell]\n  -[make]\n   cc\n") << "found below a folded row";
+  EXPECT_EQ(Says(), "1 of 6 processes: filter; 0 selected");
+  window->table().selectAll();
+  EXPECT_EQ(Selected(), "302");
+  controller().foldRow(RowOf(300), true, false);
+  EXPECT_EQ(Tree(), "-[launchd]\n +[shell (2)]\n");
+  Filter("name:make");
+  EXPECT_EQ(Tree(), "-[launchd]\n -[shell]\n  make\n");
+  Filter("");
+  EXPECT_EQ(Tree(), "kernel_task\n+launchd (4)\n");
+}
+
+TEST_F(ShapeTest, ApplicationsHaveTheirProcessesBelowThem) {
+  machine.processManager.Launch({7, 320}, 320, "Editor");
+  const auto text = [](SimulatedProcess& process, FigureName figure, const char* value) {
+    process.texts.Set(figure.figure, value);
+  };
+  Birth(300, "lurkwell");
+  Birth(320, "editor")["pid_pss"] = 1 << 20;
+  Birth(321, "spell", 320)["pid_pss"] = 2 << 20;
+  for (const int pid : {320, 321}) (*machine.processTable.Find(pid))["pid_rsz"] = 64 << 20;
+  for (const int pid : {330, 331}) {
+    auto& process = Birth(pid, pid == 330 ? "web" : "worker", 1, "www");
+    text(process, "pid_unit", "web.service");
+    process["pid_rsz"] = 4 << 20;
+  }
+  text(*machine.processTable.Find(321), "pid_container", "own pid namespace");
+  for (const int pid : {340, 341}) text(Birth(pid, "db"), "pid_container", "Docker 3f2a");
+  for (const int pid : {350, 351}) text(Birth(pid, "sh"), "pid_unit", "session-2.scope");
+  for (const int pid : {360, 361})
+    text(Birth(pid, "player"), "pid_app_scope", "org.example.Player");
+  for (const int pid : {2, 20}) Birth(pid, pid == 2 ? "kthreadd" : "kworker", pid == 2 ? 0 : 2);
+  OpenApplications();
+  EXPECT_EQ(Tree(),
+            "kernel_task\nlaunchd\n+Kernel threads (2)\nlurkwell\n+Editor (2)\n+web.service (2)\n"
+            "+Docker 3f2a (2)\n+sh (2)\n+org.example.Player (2)\n");
+  controller().addToKeysWeTrackForUI(InternKey("pid_rsz"));
+  controller().addToKeysWeTrackForUI(InternKey("pid_owner"));
+  Turn();
+  const auto at = [&](int row, const char* key) { return Cell(row, ColumnOf(key)).toStdString(); };
+  Turn();
+  EXPECT_EQ(at(4, "pid_rsz"), "3.0 M") << "what they share counts once";
+  EXPECT_EQ(at(5, "pid_rsz"), "8.0 M") << "of other users' processes that is not known";
+  EXPECT_EQ(at(5, "pid_owner"), "www") << "what all of them have";
+  EXPECT_EQ(at(5, "meta_pid"), "");
+  // The group is what is chosen, and what is done is done to all of it.
+  window->table().SelectAlone(5);
+  EXPECT_EQ(Selected(), "330 331");
+  auto& late = Birth(332, "worker", 1, "www");
+  text(late, "pid_unit", "web.service");
+  Turn();
+  EXPECT_EQ(Selected(), "330 331 332");
+  controller().foldRow(5, false, false);
+  EXPECT_EQ(Selected(), "330 331 332") << "nothing counts twice";
+  for (const int pid : {330, 331}) machine.processTable.Death(pid);
+  Turn();
+  EXPECT_EQ(RowOf(332), 5) << "one alone needs no row above it";
+  EXPECT_EQ(NameAt(5).data(kLevelRole).toInt(), 0);
+  // A row that stands alone and is selected stays in sight when it gets company.
+  Select({332});
+  text(Birth(333, "worker", 1, "www"), "pid_unit", "web.service");
+  Turn();
+  EXPECT_EQ(Selected(), "332");
+  EXPECT_EQ(NameAt(RowOf(332)).data(kLevelRole).toInt(), 1);
+}
+
+TEST_F(ShapeTest, WhatIsSelectedStaysWhereItIsWhenTheShapeChanges) {
+  for (int pid = 400; pid < 600; ++pid)
+    Birth(pid, pid % 10 == 0 ? "parent" : "child", pid % 10 == 0 ? 1 : pid / 10 * 10);
+  OpenTree();
+  window->resize(500, 300);
+  auto& table = window->table();
+  const auto place = [&] { return table.visualRect(NameAt(RowOf(555))).top(); };
+  table.SelectAlone(RowOf(555));
+  const int before = place();
+  for (const char* shape :
+       {"menu_view_shape_applications", "menu_view_shape_list", "menu_view_shape_tree"}) {
+    Choose(shape);
+    EXPECT_EQ(Selected(), "555") << shape;
+    EXPECT_EQ(place(), before) << shape;
+    Turn();
+    EXPECT_EQ(place(), before) << shape;
+  }
+}
+
+TEST_F(ShapeTest, ScopesSayWhatIsMissing) {
+  Birth(2, "kthreadd", 0, "root");
+  Birth(20, "kworker", 2, "root");
+  Birth(300, "lurkwell");
+  Birth(301, "sudo", 300, "user as root");
+  Birth(302, "daemon", 1, "root").UseCPU(10);
+  machine.processManager.Launch({7, 303}, 303, "Editor");
+  Birth(303, "editor");
+  machine.processTable.TellFigures(true);
+  machine.processTable.SetOwnPid(300);
+  Open();
+  ClickHeader("meta_pid");
+  EXPECT_EQ(Says(), "8 processes, 8 shown, 0 selected");
+  const auto scope = [&](const char* command) {
+    Choose(command);
+    EXPECT_TRUE(Action(command).isChecked()) << command;
+    Turn();
+    return Pids() + "; " + Says();
+  };
+  EXPECT_EQ(scope("menu_scope_mine"), "300 301 303; 3 of 8 processes: mine; 0 selected");
+  Filter("sud");
+  EXPECT_EQ(Pids() + "; " + Says(), "301; 1 of 8 processes: mine, filter; 0 selected");
+  Filter("");
+  EXPECT_EQ(scope("menu_scope_others"), "2 20 302; 3 of 8 processes: other users’; 0 selected");
+  EXPECT_EQ(scope("menu_scope_applications"), "303; 1 of 8 processes: applications; 0 selected");
+  EXPECT_EQ(scope("menu_scope_without_kernel"),
+            "1 300 301 302 303; 5 of 8 processes: without kernel threads; 0 selected");
+  EXPECT_EQ(scope("menu_scope_busy"), "; 0 of 8 processes: busy; 0 selected");
+  machine.processTable.Find(302)->UseCPU(10);
+  Turn();
+  EXPECT_EQ(Pids(), "302");
+  Choose("menu_edit_filter");
+  const auto boxes = window->findChildren<QComboBox*>();
+  ASSERT_EQ(boxes.size(), 2);
+  EXPECT_TRUE(boxes[1]->isVisible());
+  EXPECT_EQ(boxes[1]->currentText(), QLatin1String("Busy Processes"));
+  QTest::keyClick(boxes[1], Qt::Key_Home);
+  Q_EMIT boxes[1]->activated(boxes[1]->currentIndex());
+  EXPECT_EQ(controller().rowCount(), 8);
+  Choose("menu_scope_mine");
+  window.reset();
+  Open();
+  EXPECT_EQ(Says(), "3 of 8 processes: mine; 0 selected");
+  EXPECT_EQ(controller().rowCount(), 3);
+}
+
+}  // namespace
+}  // namespace lurkwell
