@@ -12,18 +12,31 @@ bool IsCounted(const MovedBytes& device, bool arePhysicalThere) {
   return arePhysicalThere ? device.isPhysical : device.name != "lo";
 }
 
-/// How much all devices that were there before have moved since; nothing when there is none.
-std::optional<double> Growth(const std::vector<MovedBytes>& before,
-                             const std::vector<MovedBytes>& now, std::int64_t MovedBytes::*counter,
-                             double seconds) {
+/// How much the devices that are counted and were there before have moved since.
+std::vector<MovedRates> RatesOf(const std::vector<MovedBytes>& before,
+                                const std::vector<MovedBytes>& now, double seconds) {
   const bool arePhysicalThere = std::ranges::any_of(now, &MovedBytes::isPhysical);
-  std::optional<double> sum;
+  std::vector<MovedRates> rates;
   for (const auto& device : now) {
     if (!IsCounted(device, arePhysicalThere)) continue;
     const auto known = std::ranges::find(before, device.name, &MovedBytes::name);
-    if (known == before.end() || device.*counter < *known.*counter) continue;
-    sum = sum.value_or(0) + static_cast<double>(device.*counter - *known.*counter) / seconds;
+    if (known == before.end()) continue;
+    const auto rate = [&](std::int64_t MovedBytes::*counter) -> std::optional<double> {
+      const auto moved = device.*counter - *known.*counter;
+      if (moved < 0) return {};
+      return static_cast<double>(moved) / seconds;
+    };
+    rates.push_back({device.name, rate(&MovedBytes::in), rate(&MovedBytes::out)});
   }
+  return rates;
+}
+
+/// Nothing when none is known.
+std::optional<double> SumOf(const std::vector<MovedRates>& rates,
+                            std::optional<double> MovedRates::*direction) {
+  std::optional<double> sum;
+  for (const auto& device : rates)
+    if (device.*direction) sum = sum.value_or(0) + *(device.*direction);
   return sum;
 }
 
@@ -46,10 +59,12 @@ MachineActivity MachineRates::Take(const MachineFigures& figures, std::int64_t w
       activity.processors[place] = static_cast<double>(busy) / static_cast<double>(all);
     }
     const double seconds = static_cast<double>(when - *mWhen) / 1e6;
-    activity.diskRead = Growth(mBefore.disks, figures.disks, &MovedBytes::in, seconds);
-    activity.diskWritten = Growth(mBefore.disks, figures.disks, &MovedBytes::out, seconds);
-    activity.received = Growth(mBefore.interfaces, figures.interfaces, &MovedBytes::in, seconds);
-    activity.sent = Growth(mBefore.interfaces, figures.interfaces, &MovedBytes::out, seconds);
+    activity.disks = RatesOf(mBefore.disks, figures.disks, seconds);
+    activity.interfaces = RatesOf(mBefore.interfaces, figures.interfaces, seconds);
+    activity.diskRead = SumOf(activity.disks, &MovedRates::in);
+    activity.diskWritten = SumOf(activity.disks, &MovedRates::out);
+    activity.received = SumOf(activity.interfaces, &MovedRates::in);
+    activity.sent = SumOf(activity.interfaces, &MovedRates::out);
   }
   mWhen = when;
   mBefore = figures;

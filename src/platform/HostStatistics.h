@@ -19,9 +19,10 @@ enum MachineSource : unsigned {
   kTemperatures = 64,
   kFrequencies = 128,
   kLimits = 256,
+  kGraphicsDevices = 512,
 };
 using MachineSources = unsigned;
-inline constexpr MachineSources kAllMachineSources = 511;
+inline constexpr MachineSources kAllMachineSources = 1023;
 
 /// One processor since the machine started, in microseconds. What it waited for input and output
 /// counts as idle.
@@ -62,6 +63,15 @@ struct Temperature {
   double celsius = 0;
 };
 
+/// A graphics device that tells how busy it is, which not every driver has it do.
+struct GraphicsDevice {
+  std::string name;
+  /// From 0 to 1.
+  double busy = 0;
+  /// Bytes of its own memory, where it has any and tells.
+  std::optional<std::int64_t> memoryUsed, memory;
+};
+
 struct Frequency {
   int processor = 0;
   std::int64_t hertz = 0;
@@ -90,7 +100,14 @@ struct MachineFigures {
   std::optional<std::array<double, 3>> load;
   std::vector<Temperature> temperatures;
   std::vector<Frequency> frequencies;
+  std::vector<GraphicsDevice> graphics;
   MachineLimits limits;
+};
+
+/// What a disk or an interface moved, in bytes per second; nothing for a counter that went back.
+struct MovedRates {
+  std::string name;
+  std::optional<double> in, out;
 };
 
 /// What the machine did between two readings.
@@ -101,6 +118,8 @@ struct MachineActivity {
   /// physical ones where there is any.
   std::optional<double> diskRead, diskWritten;
   std::optional<double> received, sent;
+  /// Each of those that are counted, if it was there before.
+  std::vector<MovedRates> disks, interfaces;
 };
 
 /// Makes rates of counters: from the second reading on, over the time that has passed; nothing for

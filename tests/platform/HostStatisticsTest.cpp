@@ -131,6 +131,11 @@ TEST(HostStatistics, OfAMadeUpMachineHaveWhatThisOneLacks) {
   sys("class/hwmon/hwmon1/temp1_input", "30000\n");
   sys("class/hwmon/hwmon1/device/power/runtime_status", "suspended\n");
   sys("devices/system/cpu/cpu1/cpufreq/scaling_cur_freq", "3400000\n");
+  sys("class/drm/card0/device/gpu_busy_percent", "37\n");
+  sys("class/drm/card0/device/mem_info_vram_total", "8000000000\n");
+  sys("class/drm/card1/device/gpu_busy_percent", "9\n");
+  sys("class/drm/card1/device/power/runtime_status", "suspended\n");
+  sys("class/drm/card0-DP-1/device/gpu_busy_percent", "37\n");
   proc("self/cgroup", "0::/box/inner\n");
   sys("fs/cgroup/cgroup.controllers", "cpu memory\n");
   sys("fs/cgroup/box/memory.max", "512000\n");
@@ -154,6 +159,10 @@ TEST(HostStatistics, OfAMadeUpMachineHaveWhatThisOneLacks) {
   ASSERT_EQ(figures.temperatures.size(), 1u) << "a sleeping device is not woken";
   EXPECT_EQ(figures.temperatures[0].name, "k10temp Tctl");
   EXPECT_EQ(figures.temperatures[0].celsius, 45.125);
+  ASSERT_EQ(figures.graphics.size(), 1u);
+  EXPECT_EQ(figures.graphics[0].busy, 0.37);
+  EXPECT_EQ(figures.graphics[0].memory, 8'000'000'000);
+  EXPECT_FALSE(figures.graphics[0].memoryUsed);
   EXPECT_EQ(figures.frequencies.at(0).hertz, 3'400'000'000);
   EXPECT_EQ(figures.limits.memory, 512'000);
   EXPECT_EQ(figures.limits.memoryUsed, 1024);
@@ -185,6 +194,10 @@ TEST(HostStatistics, BecomeRatesByTheTimeThatHasPassed) {
   EXPECT_EQ(activity.processors[0], 0.25);
   EXPECT_EQ(activity.diskRead, 1000.0) << "of the physical ones that did not go back";
   EXPECT_EQ(activity.diskWritten, 20.0 + 7.0 / 4);
+  ASSERT_EQ(activity.disks.size(), 2u);
+  EXPECT_EQ(activity.disks[1].name, "sdb");
+  EXPECT_FALSE(activity.disks[1].in) << "went back";
+  EXPECT_EQ(activity.disks[1].out, 1.75);
   EXPECT_EQ(activity.received, 100.0) << "without the loopback";
   EXPECT_EQ(activity.sent, 0.0);
   EXPECT_FALSE(rates.Take(after, 5'000'000).received) << "no time has passed";

@@ -120,6 +120,7 @@ MachineFigures MachineReader::Read(MachineSources wanted) {
   if ((wanted & kLoad) != 0) ReadLoad(figures);
   if ((wanted & kTemperatures) != 0) ReadTemperatures(figures);
   if ((wanted & kFrequencies) != 0) ReadFrequencies(figures);
+  if ((wanted & kGraphicsDevices) != 0) ReadGraphics(figures);
   if ((wanted & kLimits) != 0) ReadLimits(figures);
   return figures;
 }
@@ -255,6 +256,23 @@ void MachineReader::ReadFrequencies(MachineFigures& figures) {
       figures.frequencies.push_back({*number, *kilohertz * 1000});
   }
   std::ranges::sort(figures.frequencies, {}, &Frequency::processor);
+}
+
+/// Of cards that tell how busy they are; their connectors' folders have names that begin like
+/// theirs.
+void MachineReader::ReadGraphics(MachineFigures& figures) {
+  const std::string cards = "class/drm";
+  for (const auto& card : NamesBeginning(mSys + '/' + cards, "card")) {
+    const auto device = cards + '/' + card + "/device";
+    if (card.find('-') != std::string::npos ||
+        Line(device + "/power/runtime_status") == "suspended")
+      continue;
+    const auto busy = Number(device + "/gpu_busy_percent");
+    if (!busy) continue;
+    figures.graphics.push_back({card, std::clamp(static_cast<double>(*busy) / 100, 0.0, 1.0),
+                                Number(device + "/mem_info_vram_used"),
+                                Number(device + "/mem_info_vram_total")});
+  }
 }
 
 /// Lines of a number, the controllers, and the path: "0::/path" for the unified hierarchy.

@@ -28,6 +28,7 @@ class MachineReader {
   void ReadLoad(MachineFigures& figures);
   void ReadTemperatures(MachineFigures& figures);
   void ReadFrequencies(MachineFigures& figures);
+  void ReadGraphics(MachineFigures& figures);
   void ReadLimits(MachineFigures& figures);
   void ReadLimitsOf(const std::string& folder, const std::string& path, bool isUnified,
                     MachineLimits& limits);
