@@ -10,7 +10,8 @@ namespace lurkwell {
 /// Needs what the main table needs and reads it back for every process.
 class TableLikeClient final : public ProcessInformationClient {
  public:
-  TableLikeClient() : ProcessInformationClient(nullptr, 1000) {}
+  explicit TableLikeClient(std::int32_t interval = 1000)
+      : ProcessInformationClient(nullptr, interval) {}
 
   NeedLevel NeedPidsForProcProperty(const char* property) override {
     return NeedPidProcProperty(0, property) ? kNeedAllPids : kNeedNoPids;

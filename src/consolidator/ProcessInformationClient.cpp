@@ -331,7 +331,8 @@ std::int64_t ServedInterval(const ProcessInformationClient& client) {
 bool ProcessInformationClient::UseNode(const ListNode& node, const TimeValue* now) {
   if (!node.active) return false;
   return now == nullptr ||
-         MillisecondsBetween(node.lastHeartbeat, *now) >= ServedInterval(*node.client);
+         MillisecondsBetween(node.lastHeartbeat, *now) >=
+             ServedInterval(*node.client) - node.client->MayComeEarlyBy();
 }
 
 std::int64_t ProcessInformationClient::GetMillisecondsToNextHeartbeat(const TimeValue* now) {
