@@ -43,6 +43,15 @@ QString WidestFigure(GraphUnit unit) {
   return {};
 }
 
+/// In minutes where the whole span has some.
+QString AgoText(std::int64_t milliseconds, std::int64_t span) {
+  if (milliseconds == 0) return LocalizedString("graph_now");
+  const bool inMinutes = span >= 2 * 60'000;
+  const double ago = static_cast<double>(milliseconds) / (inMinutes ? 60'000 : 1000);
+  return LocalizedString(inMinutes ? "graph_minutes_ago" : "graph_seconds_ago")
+      .arg(QLocale::c().toString(ago, 'g', 3));
+}
+
 /// A colour between two of the palette.
 QColor Mixed(const QColor& one, const QColor& other, double share) {
   const auto mix = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
@@ -129,7 +138,7 @@ double TimeGraph::FigureOf(const Series& series) const {
 }
 
 QString TimeGraph::figures() const {
-  if (!IsAnythingKnown() && !mEmptyText.isEmpty()) return mEmptyText;
+  if (IsEmpty()) return mEmptyText;
   QStringList parts;
   for (const auto& series : mSeries) {
     const auto figure = GraphFigureText(mUnit, FigureOf(series));
@@ -145,10 +154,10 @@ void TimeGraph::TellFigures() {
   if (hasFocus() && QAccessible::isActive()) setAccessibleDescription(figures());
 }
 
-bool TimeGraph::IsAnythingKnown() const {
-  if (mHistory == nullptr) return false;
+bool TimeGraph::IsEmpty() const {
+  if (mEmptyText.isEmpty() || mHistory == nullptr) return !mEmptyText.isEmpty();
   const auto first = mHistory->FirstSince(mPlot.end - mPlot.span);
-  return std::ranges::any_of(mSeries, [&](const Series& series) {
+  return std::ranges::none_of(mSeries, [&](const Series& series) {
     for (auto moment = mHistory->Size(); moment-- > first;)
       if (IsThere(mHistory->ValueOf(series.number, moment))) return true;
     return false;
@@ -224,7 +233,7 @@ void TimeGraph::paintEvent(QPaintEvent*) {
   LayOut();
   QPainter painter(this);
   DrawHeader(painter);
-  if (!mEmptyText.isEmpty() && !IsAnythingKnown()) {
+  if (IsEmpty()) {
     painter.fillRect(mPlot.area, palette().color(QPalette::Base));
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(mPlot.area, Qt::AlignCenter | Qt::TextWordWrap, mEmptyText);
@@ -258,6 +267,7 @@ void TimeGraph::DrawHeader(QPainter& painter) const {
   bold.setBold(true);
   painter.setFont(bold);
   painter.drawText(QRectF(0, 0, width(), TextHeight()), Qt::AlignLeft | Qt::AlignVCenter, mTitle);
+  if (IsEmpty()) return;
   painter.setFont(font());
   const PixelGrid grid(painter);
   const double wide = grid.WholeWidth(2);
@@ -305,19 +315,22 @@ void TimeGraph::DrawTimes(QPainter& painter) const {
   const double wide = grid.WholeWidth(1);
   painter.setFont(ScaleFont());
   constexpr int kParts = 5;
+  double free = 0;
+  const double last =
+      width() - kGap - QFontMetricsF(painter.font()).horizontalAdvance(AgoText(0, mPlot.span));
   for (int part = 0; part <= kParts; ++part) {
     const auto ago = mPlot.span * (kParts - part) / kParts;
     const double x = grid.X(mPlot.XOf(mPlot.end - ago), wide);
     painter.setPen(grid.Pen(Mixed(base, palette().color(QPalette::Text), 0.18), wide));
     painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-    const double seconds = static_cast<double>(ago) / 1000;
-    const auto minutes = QLocale::c().toString(seconds / 60, 'g', 3);
-    const auto text = ago == 0        ? LocalizedString("graph_now")
-                      : seconds < 120 ? LocalizedString("graph_seconds_ago").arg(seconds, 0, 'f', 0)
-                                      : LocalizedString("graph_minutes_ago").arg(minutes);
+    const auto text = AgoText(ago, mPlot.span);
     painter.setPen(palette().color(QPalette::WindowText));
     const double textWidth = QFontMetricsF(painter.font()).horizontalAdvance(text) + 2;
     const double left = std::clamp(x - textWidth / 2, area.left(), width() - textWidth);
+    // Where there is no room for all, those at the borders stay.
+    const bool hasRoom = left >= free && (part == kParts || left + textWidth <= last);
+    if (!hasRoom) continue;
+    free = left + textWidth + kGap;
     painter.drawText(QRectF(left, area.bottom() + 1, textWidth, height() - area.bottom() - 1),
                      Qt::AlignCenter, text);
   }

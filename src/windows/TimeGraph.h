@@ -91,7 +91,8 @@ class TimeGraph final : public QWidget {
   double TextHeight() const;
   QFont ScaleFont() const;
   GraphScale CurrentScale() const;
-  bool IsAnythingKnown() const;
+  /// Whether the text for that case stands in the middle.
+  bool IsEmpty() const;
   /// Of a series at the cursor, or the newest; not a number where there is none.
   double FigureOf(const Series& series) const;
   std::optional<std::size_t> MomentAt(std::int64_t when) const;
