@@ -4895,5 +4895,245 @@ Free: %5</translation>
         <source></source>
         <translation>−%1 min</translation>
     </message>
+    <message id="menu_window_show_machine">
+        <source></source>
+        <translation>&amp;Machine</translation>
+    </message>
+    <message id="help_menu_window_show_machine">
+        <source></source>
+        <translation>The machine as a whole: processors, memory, disks, network, and who was busiest</translation>
+    </message>
+    <message id="machine_title">
+        <source></source>
+        <translation>Machine</translation>
+    </message>
+    <message id="machine_span">
+        <source></source>
+        <translation>Show the last</translation>
+    </message>
+    <message id="machine_minutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="machine_processors_busy">
+        <source></source>
+        <translation>CPU</translation>
+    </message>
+    <message id="machine_no_processors">
+        <source></source>
+        <translation>This machine does not tell how busy its processors are.</translation>
+    </message>
+    <message id="machine_processors">
+        <source></source>
+        <translation>Processors</translation>
+    </message>
+    <message id="machine_processor">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="machine_memory">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="machine_no_memory">
+        <source></source>
+        <translation>This machine does not tell its memory.</translation>
+    </message>
+    <message id="machine_swap">
+        <source></source>
+        <translation>Swap</translation>
+    </message>
+    <message id="machine_no_swap">
+        <source></source>
+        <translation>This machine has no swap space.</translation>
+    </message>
+    <message id="machine_used_of">
+        <source></source>
+        <translation>of %1, used</translation>
+    </message>
+    <message id="machine_disks">
+        <source></source>
+        <translation>Disks</translation>
+    </message>
+    <message id="machine_no_disks">
+        <source></source>
+        <translation>No figures of disks yet, or there are no disks.</translation>
+    </message>
+    <message id="machine_network">
+        <source></source>
+        <translation>Network</translation>
+    </message>
+    <message id="machine_no_network">
+        <source></source>
+        <translation>No figures of the network yet, or there is no network.</translation>
+    </message>
+    <message id="machine_all_devices">
+        <source></source>
+        <translation>All</translation>
+    </message>
+    <message id="machine_read">
+        <source></source>
+        <translation>read</translation>
+    </message>
+    <message id="machine_written">
+        <source></source>
+        <translation>written</translation>
+    </message>
+    <message id="machine_received">
+        <source></source>
+        <translation>received</translation>
+    </message>
+    <message id="machine_sent">
+        <source></source>
+        <translation>sent</translation>
+    </message>
+    <message id="machine_pressure">
+        <source></source>
+        <translation>Pressure</translation>
+    </message>
+    <message id="machine_no_pressure">
+        <source></source>
+        <translation>This kernel does not tell for how long processes had to wait.</translation>
+    </message>
+    <message id="machine_waits_processor">
+        <source></source>
+        <translation>some waited for CPU</translation>
+    </message>
+    <message id="machine_waits_memory">
+        <source></source>
+        <translation>for memory</translation>
+    </message>
+    <message id="machine_waits_disk">
+        <source></source>
+        <translation>for disks</translation>
+    </message>
+    <message id="machine_stalled_memory">
+        <source></source>
+        <translation>all waited for memory</translation>
+    </message>
+    <message id="machine_stalled_disk">
+        <source></source>
+        <translation>for disks</translation>
+    </message>
+    <message id="machine_graphics">
+        <source></source>
+        <translation>Graphics</translation>
+    </message>
+    <message id="machine_no_graphics">
+        <source></source>
+        <translation>No graphics device tells how busy it is.</translation>
+    </message>
+    <message id="machine_busiest_now">
+        <source></source>
+        <translation>Busiest now</translation>
+    </message>
+    <message id="machine_busiest_at">
+        <source></source>
+        <translation>Busiest at %1</translation>
+    </message>
+    <message id="machine_back_to_now">
+        <source></source>
+        <translation>&amp;Now</translation>
+    </message>
+    <message id="machine_note">
+        <source></source>
+        <translation>A click on a graph shows who was busiest then; one on a name shows it in the table of processes.</translation>
+    </message>
+    <message id="machine_has_ended">
+        <source></source>
+        <translation>Process %1 has ended.</translation>
+    </message>
+    <message id="machine_not_in_table">
+        <source></source>
+        <translation>Process %1 is not in the table: a filter may hide it.</translation>
+    </message>
+    <message id="machine_ended">
+        <source></source>
+        <translation>%1 (ended)</translation>
+    </message>
+    <message id="machine_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="machine_pid">
+        <source></source>
+        <translation>Process ID</translation>
+    </message>
+    <message id="machine_cpu">
+        <source></source>
+        <translation>CPU</translation>
+    </message>
+    <message id="machine_load">
+        <source></source>
+        <translation>Load: %1, %2, %3 over 1, 5 and 15 minutes</translation>
+    </message>
+    <message id="machine_no_load">
+        <source></source>
+        <translation>Load: not told by this machine</translation>
+    </message>
+    <message id="machine_frequency">
+        <source></source>
+        <translation>Frequency: %1 GHz (%2 to %3)</translation>
+    </message>
+    <message id="machine_no_frequency">
+        <source></source>
+        <translation>Frequency: not told by this machine</translation>
+    </message>
+    <message id="machine_no_temperature">
+        <source></source>
+        <translation>Temperature: not told by this machine</translation>
+    </message>
+    <message id="machine_more_temperatures">
+        <source></source>
+        <translation>%1 more sensors are cooler</translation>
+    </message>
+    <message id="machine_limits">
+        <source></source>
+        <translation>This container may use %1.</translation>
+    </message>
+    <message id="machine_limit_processors">
+        <source></source>
+        <translation>%1 processors</translation>
+    </message>
+    <message id="machine_limit_memory">
+        <source></source>
+        <translation>%1 of memory</translation>
+    </message>
+    <message id="machine_limit_memory_used">
+        <source></source>
+        <translation>%1 of memory (%2 taken)</translation>
+    </message>
+    <message id="setting_title_MACHINE_HISTORY_ALWAYS">
+        <source></source>
+        <translation>Machine's history from the start</translation>
+    </message>
+    <message id="setting_MACHINE_HISTORY_ALWAYS">
+        <source></source>
+        <translation>Keep what the machine does, and who is busiest, for an hour from the start of the program on; else from when the machine's window is first opened.</translation>
+    </message>
+    <message id="setting_title_MACHINE_WINDOW_FRAME">
+        <source></source>
+        <translation>Machine's window: place and size</translation>
+    </message>
+    <message id="setting_MACHINE_WINDOW_FRAME">
+        <source></source>
+        <translation>Place and size of the machine's window.</translation>
+    </message>
+    <message id="setting_title_MACHINE_WINDOW_MINUTES">
+        <source></source>
+        <translation>Machine's window: minutes shown</translation>
+    </message>
+    <message id="setting_MACHINE_WINDOW_MINUTES">
+        <source></source>
+        <translation>How many minutes the machine's window shows. The program notes here what was chosen there.</translation>
+    </message>
+    <message id="setting_title_DEFAULT_SHOW_MACHINE_WINDOW">
+        <source></source>
+        <translation>Machine's window was open</translation>
+    </message>
+    <message id="setting_DEFAULT_SHOW_MACHINE_WINDOW">
+        <source></source>
+        <translation>Open the machine's window at the start. The program notes here whether it was open.</translation>
+    </message>
 </context>
 </TS>

@@ -17,9 +17,10 @@ Watches the processes of this machine.
   --theme THEME        light, dark, or system: what the desktop has
   --screenshot FILE    write a picture of a window (PNG) after two updates and end;
                        works without a display, too
-  --window NAME        which window (with --screenshot only): main, history, logging,
-                       preferences, settings, animated or about; history and
-                       logging follow lurkwell itself; animated needs a display
+  --window NAME        which window (with --screenshot only): main, machine,
+                       history, logging, preferences, settings, animated or
+                       about; history and logging follow lurkwell itself;
+                       animated needs a display
   --new-instance       start another instance; without it, one that is running comes
                        to the front
   --toggle-overlay     have the instance that is running show the animated view over
@@ -51,8 +52,8 @@ Exit status: 0 after a normal end, 1 when something failed, 2 for options that
 make no sense.
 )";
 
-constexpr const char* kWindows[] = {"main",     "history",  "logging", "preferences",
-                                    "settings", "animated", "about"};
+constexpr const char* kWindows[] = {"main",        "machine",  "history",  "logging",
+                                    "preferences", "settings", "animated", "about"};
 
 constexpr double kLeastSecondsBetween = 0.1;
 constexpr double kMostSecondsBetween = 86'400;

@@ -86,7 +86,7 @@ class Photographer : public QObject {
  private:
   bool Follows() const {
     return mCommandLine.window == "history" || mCommandLine.window == "logging" ||
-           mCommandLine.window == "animated";
+           mCommandLine.window == "animated" || mCommandLine.window == "machine";
   }
 
   void Open() {
@@ -95,6 +95,7 @@ class Photographer : public QObject {
     auto& windows = mDelegate.monitorWindows();
     mBefore = QApplication::topLevelWidgets();
     if (mCommandLine.window == "about") ShowSplashScreen();
+    if (mCommandLine.window == "machine") mDelegate.doShowMachineWindow();
     if (mCommandLine.window == "animated") mDelegate.quintessentialWindows().ShowForPicture();
     // With a page's number the remembered one is not asked for.
     if (mCommandLine.window == "preferences" || mCommandLine.window == "settings")

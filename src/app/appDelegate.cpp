@@ -11,6 +11,8 @@
 #include "app/SplashScreen.h"
 #include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
+#include "machine_window/MachineWindow.h"
+#include "main_window/VQTarvMainWindowInfoSynch.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "monitor_windows/ClassicWatchdog.h"
 #include "monitor_windows/FloatingWindow.h"
@@ -117,6 +119,8 @@ void vqAppDelegate::applicationDidFinishLaunching() {
 }
 
 void vqAppDelegate::OpenFirstWindows() {
+  if (ReadSwitch("MACHINE_HISTORY_ALWAYS")) MachineRecorder::Running();
+  if (MachineWindow::WasOpen()) doShowMachineWindow();
   InitializeProcessWatchdog(ReadInt("DEFAULT_WATCHDOG_INTERVAL"), mFollowingWindows, *this);
   // A start that shows nothing would leave a program that nobody can reach.
   if (IsAnythingVisibleBut(nullptr)) return;
@@ -146,6 +150,7 @@ void vqAppDelegate::applicationWillTerminate() {
   mFirstLook.reset();
   vqPreferencesUI::closeIfOpen();
   if (mLaunch == Launch::kUsual) KeepArrangement();
+  delete MachineWindow::IfOpen();
   gApplicationQuitting = true;
   {
     const PreferenceBatch batch;
@@ -169,6 +174,7 @@ void vqAppDelegate::KeepArrangement() {
   fMainWindow->SaveFrame();
   fQuintessentialWindows->SaveFrame();
   mFollowingWindows.RememberPlaces();
+  if (auto* machine = MachineWindow::IfOpen()) machine->Remember();
 }
 
 void vqAppDelegate::displayWasLost() {
@@ -216,6 +222,13 @@ void vqAppDelegate::CheckGraphicsOnce() {
 void vqAppDelegate::doShowQuintessentialView() {
   CheckGraphicsOnce();
   fQuintessentialWindows->ShowCurrentWindow();
+}
+
+void vqAppDelegate::doShowMachineWindow() {
+  MachineWindow::Open([this](std::int32_t pid) {
+    doShowMainWindow();
+    return VQTarvMainWindowInfoSynch::SelectPID(pid);
+  });
 }
 
 void vqAppDelegate::showQuintessentialViewFullScreen() {

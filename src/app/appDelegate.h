@@ -43,6 +43,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void doShowMainWindow() override;
   void doQuit() override;
   void doShowQuintessentialView() override;
+  void doShowMachineWindow() override;
   void showQuintessentialViewFullScreen() override;
   void doToggleQuintessentialViewFullScreen() override;
   bool isLastWindow(const QWidget& window) const override;

@@ -233,6 +233,11 @@ inline constexpr Setting kRows[] = {
     Record("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW", 0),
     Record("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0),
 
+    Switch("MACHINE_HISTORY_ALWAYS", false, kNextStart),
+    Record("MACHINE_WINDOW_FRAME", kAbsent),
+    Record("MACHINE_WINDOW_MINUTES", 5, kNewWindows),
+    Record("DEFAULT_SHOW_MACHINE_WINDOW", 0),
+
     Real("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", 0.1, 0, 1, kNextStart),
     Real("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", 0.05, 0, 1, kAtOnce),
     Interval("CLASSIC_WATCHDOG_INTERVAL", 5000, kNextStart),

@@ -12,6 +12,7 @@ class ApplicationCommands {
   virtual void doAboutPanel() = 0;
   virtual void doShowMainWindow() = 0;
   virtual void doShowQuintessentialView() {}
+  virtual void doShowMachineWindow() {}
   virtual void doToggleQuintessentialViewFullScreen() {}
   virtual void doQuit() = 0;
   /// Whether nothing of the program would be seen without this window; closing it then quits.

@@ -17,6 +17,7 @@
 #include "app/appDelegate.h"
 #include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
+#include "machine_window/MachineWindow.h"
 #include "monitor_windows/ClassicWatchdog.h"
 #include "monitor_windows/FloatingWindow.h"
 #include "monitor_windows/SystemWideInfo.h"
@@ -261,6 +262,24 @@ TEST_F(ShellTest, WithoutAToolItEndsBeforeTheHelperStarts) {
   machine.tools.SetMissing("/bin/ps");
   EXPECT_FALSE(SystemHasNecessaryTools());
   EXPECT_EQ(machine.log.Take(), "Tools.Stat /bin/ps\n") << "the first missing one ends the check";
+}
+
+TEST_F(ShellTest, TheMachinesWindowComesBackAndShowsProcessesInTheTable) {
+  machine.processTable.Birth(300, "worker");
+  SetPrefInt("DEFAULT_SHOW_MACHINE_WINDOW", 1);
+  Launch();
+  ASSERT_NE(MachineWindow::IfOpen(), nullptr);
+  Pass(3000);
+  machine.processTable.Find(300)->UseCPU(1000);
+  Pass(2000);
+  auto* table = MachineWindow::IfOpen()->findChild<BusiestTable*>();
+  ASSERT_EQ(table->item(0, 0)->text(), "worker");
+  Q_EMIT table->cellClicked(0, 0);
+  EXPECT_EQ(delegate->mainWindow().controller().selectedPids(), std::vector<std::int32_t>{300});
+  delegate->applicationWillTerminate();
+  EXPECT_EQ(MachineWindow::IfOpen(), nullptr);
+  EXPECT_TRUE(machine.preferenceDomain.Values().contains("MACHINE_WINDOW_FRAME"));
+  EXPECT_TRUE(MachineWindow::WasOpen());
 }
 
 }  // namespace
