@@ -129,6 +129,7 @@ void HeartbeatCFTimerFunc(RunLoopTimer* timer) {
   const TimeValue now = TheMachine().clock.Now();
   // A client's handler may run a heartbeat within its own.
   gFamilyIndex.Share(false);
+  Client::TakeEarlyOnesAlong(now);
   RunFeeders(now);
   const bool phantoms = DeletePhantoms();
   AnnounceNew();

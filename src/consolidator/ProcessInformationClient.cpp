@@ -331,8 +331,7 @@ std::int64_t ServedInterval(const ProcessInformationClient& client) {
 bool ProcessInformationClient::UseNode(const ListNode& node, const TimeValue* now) {
   if (!node.active) return false;
   return now == nullptr ||
-         MillisecondsBetween(node.lastHeartbeat, *now) >=
-             ServedInterval(*node.client) - node.client->MayComeEarlyBy();
+         MillisecondsBetween(node.lastHeartbeat, *now) >= ServedInterval(*node.client);
 }
 
 std::int64_t ProcessInformationClient::GetMillisecondsToNextHeartbeat(const TimeValue* now) {
@@ -344,6 +343,21 @@ std::int64_t ProcessInformationClient::GetMillisecondsToNextHeartbeat(const Time
     milliseconds = std::min(milliseconds, MillisecondsBetween(*now, due));
   }
   return milliseconds;
+}
+
+void ProcessInformationClient::TakeEarlyOnesAlong(const TimeValue& now) {
+  auto& nodes = zm_ListOfProcessInformationClients;
+  const bool looksAtAll = std::ranges::any_of(nodes, [&now](const ListNode& node) {
+    return UseNode(node, &now) &&
+           node.client->NeedPidsForProcProperty("meta_active_time") == kNeedAllPids;
+  });
+  if (!looksAtAll) return;
+  for (auto& node : nodes) {
+    const auto early = node.active ? node.client->MayComeEarlyBy() : 0;
+    if (early > 0 &&
+        MillisecondsBetween(node.lastHeartbeat, now) >= ServedInterval(*node.client) - early)
+      node.lastHeartbeat = {};
+  }
 }
 
 void ProcessInformationClient::MakeDue(const ProcessInformationClient* client) {

@@ -81,8 +81,8 @@ class ProcessInformationClient {
   /// Then it is not asked for anything else, and a beat for it alone costs next to nothing.
   virtual bool NeedsOnlyBirths() { return false; }
 
-  /// By how many milliseconds the client may have its turn sooner, when the heart beats for others
-  /// anyway. Clients of like intervals then share their beats, and what those cost.
+  /// By how many milliseconds the client may have its turn sooner, when the heart beats for another
+  /// that needs the CPU times of all processes. Both then share the beat, and what it costs.
   virtual std::int32_t MayComeEarlyBy() const { return 0; }
 
   /// The processes that the user can see now: what takes long to read is read of these first.
@@ -149,6 +149,9 @@ class ProcessInformationClient {
   /// Milliseconds from `now` until the first client is due, at most 15000, negative when one is
   /// late.
   static std::int64_t GetMillisecondsToNextHeartbeat(const TimeValue* now);
+
+  /// At the beginning of a heartbeat: makes those due that may come early with one that is.
+  static void TakeEarlyOnesAlong(const TimeValue& now);
 
   /// The client is due at the next heartbeat, whatever its interval.
   static void MakeDue(const ProcessInformationClient* client);

@@ -4,8 +4,8 @@
 #include <QHeaderView>
 #include <cmath>
 
-#include "consolidator/CPUShares.h"
 #include "consolidator/ProcessQueries.h"
+#include "consolidator/PropertyValues.h"
 #include "resources/Resources.h"
 #include "windows/GraphScale.h"
 #include "windows/PropertyText.h"

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "platform/MachineFigures.h"
+#include "platform/HostStatistics.h"
 
 namespace lurkwell {
 

@@ -11,8 +11,8 @@
 
 #include "consolidator/ProcessInformationClient.h"
 #include "machine_window/BusiestHistory.h"
-#include "platform/MachineFigures.h"
-#include "platform/TimeValue.h"
+#include "platform/Clock.h"
+#include "platform/HostStatistics.h"
 #include "windows/FigureHistory.h"
 
 namespace lurkwell {

@@ -13,7 +13,6 @@
 
 #include "consolidator/ProcessQueries.h"
 #include "machine_window/MachineFacts.h"
-#include "platform/ApplicationQuitting.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
@@ -33,7 +32,23 @@ constexpr double kLeastRate = 1024;
 /// Pressure below that is nothing that anybody feels.
 constexpr double kLeastPressure = 0.1;
 
+constexpr int kSideCharacters = 52;
+/// From there on they have lines for many things.
+constexpr std::size_t kFirstWideCell = 6;
+constexpr int kLeastGraphCharacters = 42;
+
 QPointer<MachineWindow> sWindow;
+
+/// As wide as there is room, and scrolled where it is not high enough.
+QScrollArea* Scrolled(QWidget* contents) {
+  auto* scroll = new QScrollArea;
+  scroll->setWidget(contents);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  return scroll;
+}
 
 }  // namespace
 
@@ -57,25 +72,24 @@ MachineWindow::MachineWindow(ShowProcess showProcess)
   setWindowTitle(LocalizedString("machine_title"));
   WatchWindowOrder(*this);
   auto* contents = new QWidget;
-  auto* grid = new QGridLayout(contents);
-  grid->setContentsMargins(0, 0, 6, 0);
-  grid->setHorizontalSpacing(18);
-  grid->setVerticalSpacing(10);
-  BuildGraphs(*grid);
-  auto* scroll = new QScrollArea;
-  scroll->setWidget(contents);
-  scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);
+  mGrid = new QGridLayout(contents);
+  mGrid->setContentsMargins(0, 0, 6, 0);
+  mGrid->setHorizontalSpacing(18);
+  mGrid->setVerticalSpacing(10);
+  BuildGraphs();
   auto* middle = new QHBoxLayout;
-  middle->addWidget(scroll, 1);
-  middle->addWidget(BuildSide());
+  middle->addWidget(Scrolled(contents), 1);
+  auto* side = BuildSide();
+  auto* scrolledSide = Scrolled(side);
+  scrolledSide->setFixedWidth(side->fontMetrics().averageCharWidth() * kSideCharacters);
+  middle->addWidget(scrolledSide);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(BuildTop());
   layout->addLayout(middle, 1);
   connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &MachineWindow::GoBack);
   setMinimumSize(kLeastSize);
   RestoreFrame();
+  Arrange();
   const int minutes = StoredInt(kMinutesKey).value_or(kUsualMinutes);
   SetSpan(std::ranges::find(kSpansInMinutes, minutes) != std::end(kSpansInMinutes) ? minutes
                                                                                    : kUsualMinutes);
@@ -122,6 +136,7 @@ QWidget* MachineWindow::BuildTop() {
 
 TimeGraph* MachineWindow::AddGraph(const char* title, GraphUnit unit, const char* whyEmpty) {
   auto* graph = new TimeGraph(LocalizedString(title), unit);
+  graph->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   graph->setEmptyText(LocalizedString(whyEmpty));
   connect(graph, &TimeGraph::cursorMoved, this, [this, graph] { SetCursor(graph->cursor()); });
   connect(graph, &TimeGraph::momentChosen, this, [this](qint64 when) { Choose(when); });
@@ -146,21 +161,18 @@ QWidget* MachineWindow::AddDeviceGraph(DeviceGraph& devices, const char* title,
   return both;
 }
 
-void MachineWindow::BuildGraphs(QGridLayout& grid) {
+void MachineWindow::BuildGraphs() {
   const auto& history = mRecorder.History();
   auto* busy = AddGraph("machine_processors_busy", GraphUnit::kShare, "machine_no_processors");
   busy->setTop(1);
   busy->setHistory(&history, {{QString(), kProcessorsBusy}});
-  grid.addWidget(busy, 0, 0);
   mProcessors = new ProcessorGrid(LocalizedString("machine_processors"));
+  mProcessors->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   connect(mProcessors, &ProcessorGrid::momentChosen, this, [this](qint64 when) { Choose(when); });
-  grid.addWidget(mProcessors, 0, 1);
   mMemory = AddGraph("machine_memory", GraphUnit::kBytes, "machine_no_memory");
-  grid.addWidget(mMemory, 1, 0);
   mSwap = AddGraph("machine_swap", GraphUnit::kBytes, "machine_no_swap");
-  grid.addWidget(mSwap, 1, 1);
-  grid.addWidget(AddDeviceGraph(mDisks, "machine_disks", "machine_no_disks"), 2, 0);
-  grid.addWidget(AddDeviceGraph(mInterfaces, "machine_network", "machine_no_network"), 2, 1);
+  auto* disks = AddDeviceGraph(mDisks, "machine_disks", "machine_no_disks");
+  auto* network = AddDeviceGraph(mInterfaces, "machine_network", "machine_no_network");
   auto* pressure = AddGraph("machine_pressure", GraphUnit::kShare, "machine_no_pressure");
   pressure->setLeastTop(kLeastPressure);
   pressure->setHistory(&history, {{LocalizedString("machine_waits_processor"), kProcessorWaiting},
@@ -168,13 +180,23 @@ void MachineWindow::BuildGraphs(QGridLayout& grid) {
                                   {LocalizedString("machine_waits_disk"), kDiskWaiting},
                                   {LocalizedString("machine_stalled_memory"), kMemoryStalled},
                                   {LocalizedString("machine_stalled_disk"), kDiskStalled}});
-  grid.addWidget(pressure, 3, 0, 1, 2);
   mGraphics = AddGraph("machine_graphics", GraphUnit::kShare, "machine_no_graphics");
   mGraphics->setTop(1);
   mGraphics->hide();
-  grid.addWidget(mGraphics, 4, 0, 1, 2);
-  for (int row = 0; row < 4; ++row) grid.setRowStretch(row, 1);
-  for (int column = 0; column < 2; ++column) grid.setColumnStretch(column, 1);
+  mCells = {busy, mProcessors, mMemory, mSwap, disks, network, pressure, mGraphics};
+}
+
+void MachineWindow::Arrange() {
+  const int room = width() - fontMetrics().averageCharWidth() * kSideCharacters;
+  const int columns = room >= 2 * fontMetrics().averageCharWidth() * kLeastGraphCharacters ? 2 : 1;
+  if (std::exchange(mColumns, columns) == columns) return;
+  int place = 0;
+  for (std::size_t i = 0; i < mCells.size(); ++i) {
+    const int wide = i < kFirstWideCell ? 1 : columns;
+    mGrid->addWidget(mCells[i], place / columns, place % columns, 1, wide);
+    place += wide;
+  }
+  for (int column = 0; column < 2; ++column) mGrid->setColumnStretch(column, column < columns);
 }
 
 QWidget* MachineWindow::BuildSide() {
@@ -204,7 +226,6 @@ QWidget* MachineWindow::BuildSide() {
   mFacts->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   layout->addWidget(mFacts);
   layout->addStretch(1);
-  side->setFixedWidth(side->fontMetrics().averageCharWidth() * 50);
   return side;
 }
 
@@ -242,9 +263,15 @@ void MachineWindow::hideEvent(QHideEvent* event) {
   LookWhetherSeen();
 }
 
+void MachineWindow::resizeEvent(QResizeEvent* event) {
+  ControlledWindow::resizeEvent(event);
+  Arrange();
+}
+
 void MachineWindow::changeEvent(QEvent* event) {
   ControlledWindow::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) LookWhetherSeen();
+  if (event->type() == QEvent::PaletteChange && mSpans != nullptr) MarkSpan();
 }
 
 void MachineWindow::LookWhetherSeen() {
@@ -347,8 +374,18 @@ void MachineWindow::ShowBusiest() {
   mBackToNow->setVisible(mChosen.has_value());
 }
 
+/// A pressed button is hardly another than the rest in dark themes.
+void MachineWindow::MarkSpan() {
+  auto marked = palette();
+  marked.setBrush(QPalette::Button, marked.highlight());
+  marked.setBrush(QPalette::ButtonText, marked.highlightedText());
+  for (auto* button : mSpans->buttons())
+    button->setPalette(button->isChecked() ? marked : QPalette());
+}
+
 void MachineWindow::SetSpan(int minutes) {
   if (auto* button = mSpans->button(minutes)) button->setChecked(true);
+  MarkSpan();
   for (auto* graph : mGraphs) graph->setSpan(minutes * 60'000LL);
   mProcessors->setSpan(minutes * 60'000LL);
 }

@@ -12,8 +12,8 @@
 #include "machine_window/BusiestTable.h"
 #include "machine_window/MachineRecorder.h"
 #include "machine_window/ProcessorGrid.h"
-#include "windows/ControlledWindow.h"
 #include "windows/TimeGraph.h"
+#include "windows/WindowFrame.h"
 
 class QButtonGroup;
 class QGridLayout;
@@ -47,6 +47,7 @@ class MachineWindow final : public ControlledWindow {
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   /// A graph that shows all devices of a kind together, or one of them.
@@ -60,7 +61,9 @@ class MachineWindow final : public ControlledWindow {
 
   explicit MachineWindow(ShowProcess showProcess);
 
-  void BuildGraphs(QGridLayout& grid);
+  void BuildGraphs();
+  /// Puts them into one or two columns, as there is room.
+  void Arrange();
   QWidget* BuildSide();
   QWidget* BuildTop();
   TimeGraph* AddGraph(const char* title, GraphUnit unit, const char* whyEmpty);
@@ -76,6 +79,7 @@ class MachineWindow final : public ControlledWindow {
   void ShowGraphics();
   void ShowBusiest();
   void SetSpan(int minutes);
+  void MarkSpan();
   void SetCursor(std::optional<std::int64_t> when);
   void Choose(std::optional<std::int64_t> when);
   void ChooseProcess(std::int32_t pid, std::uint64_t startStamp);
@@ -83,6 +87,10 @@ class MachineWindow final : public ControlledWindow {
 
   ShowProcess mShowProcess;
   MachineRecorder& mRecorder;
+  QGridLayout* mGrid = nullptr;
+  /// In the order of the grid, by rows of two.
+  std::vector<QWidget*> mCells;
+  int mColumns = 0;
   std::vector<TimeGraph*> mGraphs;
   ProcessorGrid* mProcessors = nullptr;
   TimeGraph* mMemory = nullptr;

@@ -21,6 +21,8 @@ namespace {
 constexpr double kBestShape = 1.9;  // width by height of a cell
 constexpr double kGap = 3;
 constexpr double kTextFactor = 0.85;
+constexpr double kLeastLineWidth = 28;
+constexpr int kTextGround = 215;
 
 }  // namespace
 
@@ -62,7 +64,7 @@ QSize ProcessorGrid::sizeHint() const {
 QSize ProcessorGrid::minimumSizeHint() const {
   const QFontMetricsF metrics(font());
   return {static_cast<int>(metrics.averageCharWidth() * 26),
-          static_cast<int>(metrics.height() * 4)};
+          static_cast<int>(metrics.height() * 6)};
 }
 
 int ProcessorGrid::columnsFor(int processors, const QSizeF& size) {
@@ -150,7 +152,14 @@ void ProcessorGrid::DrawCell(QPainter& painter, std::size_t place) const {
   plot.end = mEnd;
   plot.span = mSpan;
   const auto look = LookOfSeries(0, IsDark(palette()));
-  if (mHistory != nullptr) plot.Draw(painter, *mHistory, mProcessors[place].series, look);
+  // A line on so few pixels would be a blot: its height at the moment says more.
+  if (cell.width() < kLeastLineWidth) {
+    const double share = std::clamp(ShareOf(place), 0.0, 1.0);
+    if (share > 0)
+      painter.fillRect(cell.adjusted(0, cell.height() * (1 - share), 0, 0), look.colour);
+  } else if (mHistory != nullptr) {
+    plot.Draw(painter, *mHistory, mProcessors[place].series, look);
+  }
   auto small = font();
   if (small.pointSizeF() > 0) small.setPointSizeF(small.pointSizeF() * kTextFactor);
   const QFontMetricsF metrics(small);
@@ -161,10 +170,15 @@ void ProcessorGrid::DrawCell(QPainter& painter, std::size_t place) const {
   painter.setPen(palette().color(QPalette::Text));
   const auto inner = cell.adjusted(3, 1, -2, -1);
   const bool hasRoom = inner.height() > metrics.height() * 1.8;
-  if (hasRoom && inner.width() > metrics.horizontalAdvance(text)) {
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, text);
-  } else if (hasRoom && inner.width() > metrics.horizontalAdvance(number)) {
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, number);
+  const bool fits = inner.width() > metrics.horizontalAdvance(text);
+  if (hasRoom && inner.width() > metrics.horizontalAdvance(number)) {
+    const auto& shown = fits ? text : number;
+    auto ground = palette().color(QPalette::Base);
+    ground.setAlpha(kTextGround);
+    painter.fillRect(
+        QRectF(inner.topLeft(), QSizeF(metrics.horizontalAdvance(shown) + 2, metrics.height())),
+        ground);
+    painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, shown);
   }
   if (mChosen != place || !hasFocus()) return;
   const PixelGrid grid(painter);

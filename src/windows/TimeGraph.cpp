@@ -24,7 +24,7 @@ constexpr double kSwatchWidth = 22;
 constexpr double kGap = 6;
 constexpr double kBetweenEntries = 14;
 constexpr double kScaleFontFactor = 0.88;
-constexpr double kLeastPlotHeight = 36;
+constexpr double kLeastPlotHeight = 52;
 constexpr int kMostScaleSteps = 4;
 constexpr int kFarStep = 10;
 
@@ -180,7 +180,7 @@ QFont TimeGraph::ScaleFont() const {
 QSize TimeGraph::minimumSizeHint() const {
   const QFontMetricsF metrics(font());
   return {static_cast<int>(metrics.averageCharWidth() * 26),
-          static_cast<int>(TextHeight() * 2 + kLeastPlotHeight)};
+          static_cast<int>(TextHeight() * (mLegendRows + 1) + kLeastPlotHeight + kGap)};
 }
 
 QSize TimeGraph::sizeHint() const {
@@ -210,10 +210,12 @@ void TimeGraph::LayOut() {
     mLegend.push_back({QRectF(x, y, wide, height), i});
     x += wide + kBetweenEntries;
   }
+  const int rows = static_cast<int>(y / height) + 1;
+  if (std::exchange(mLegendRows, rows) != rows) updateGeometry();
   const QFontMetricsF scale(ScaleFont());
   const double left = std::ceil(scale.horizontalAdvance(QStringLiteral("1000 M/s"))) + kGap;
   const double top = y + height + kGap;
-  const double below = this->height() - top > kLeastPlotHeight + 2 * height ? scale.height() : 0;
+  const double below = this->height() - top > kLeastPlotHeight + height ? scale.height() : 0;
   mPlot.area = QRectF(left, top, std::max(width() - left - 1, 1.0),
                       std::max(this->height() - top - below - 2, 1.0));
 }
@@ -348,6 +350,7 @@ void TimeGraph::DrawLineAt(QPainter& painter, std::int64_t when, Qt::PenStyle st
 void TimeGraph::DrawCursor(QPainter& painter) const {
   if (!mCursor) return;
   DrawLineAt(painter, *mCursor, Qt::DashLine);
+  if (!hasFocus() && !mPointer) return;
   painter.setFont(ScaleFont());
   const auto text = MomentText(*mCursor);
   const QFontMetricsF metrics(painter.font());
@@ -432,7 +435,10 @@ void TimeGraph::keyPressEvent(QKeyEvent* event) {
 }
 
 bool TimeGraph::event(QEvent* event) {
-  if (event->type() == QEvent::Resize) mIsLaidOut = false;
+  if (event->type() == QEvent::Resize) {
+    mIsLaidOut = false;
+    LayOut();
+  }
   // The window's own use of the key comes after the cursor's.
   if (event->type() == QEvent::ShortcutOverride && mCursor &&
       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)

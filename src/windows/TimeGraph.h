@@ -123,6 +123,7 @@ class TimeGraph final : public QWidget {
   std::optional<double> mPointer;
   std::optional<std::int64_t> mMarked;
   bool mIsLaidOut = false;
+  int mLegendRows = 1;
 };
 
 /// "14:02:11" for a time of a history.

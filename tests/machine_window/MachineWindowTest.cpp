@@ -211,8 +211,14 @@ TEST_F(MachineWindowTest, GoesOnRecordingWhileItIsClosedWithoutBeatsOfItsOwn) {
   const auto before = history.Size();
   Pass(60'000);
   EXPECT_EQ(history.Size() - before, 6U) << "by itself";
+  // Who looks at few processes, or at none, is not made to wait for all.
+  Add("watchdog", 500).WaitsForBirths();
+  Add("graph", 250).Needs({"meta_active_time"}).OfPids({300});
+  const auto alone = history.Size();
+  Pass(60'000);
+  EXPECT_EQ(history.Size() - alone, 6U);
   // With a table that looks every two seconds it takes no beat of its own.
-  Add("table", 2000);
+  Add("table", 2000).Needs({"meta_active_time"});
   Pass(10'000);
   const auto with = history.Size();
   told.Clear();
@@ -220,7 +226,7 @@ TEST_F(MachineWindowTest, GoesOnRecordingWhileItIsClosedWithoutBeatsOfItsOwn) {
   EXPECT_EQ(history.Size() - with, 10U);
   for (std::size_t i = with + 1; i < history.Size(); ++i)
     EXPECT_EQ(history.TimeOf(i) - history.TimeOf(i - 1), 2000) << "and they are the table's";
-  Add("quick", 100);
+  Add("quick", 100).Needs({"meta_active_time"});
   const auto quick = history.Size();
   Pass(10'000);
   EXPECT_NEAR(static_cast<double>(history.Size() - quick), 10, 1) << "never more than one a second";
@@ -254,7 +260,7 @@ TEST_F(MachineWindowTest, HoursAreBounded) {
   auto& figures = machine.hostStatistics.machine;
   figures.processors.clear();
   for (int number = 0; number < 256; ++number) figures.processors.push_back({number, 0, 0});
-  Add("quick", 1000);
+  Add("quick", 1000).Needs({"meta_active_time"});
   for (int second = 0; second < 4000; ++second) {
     for (auto& processor : figures.processors) processor.idle += 1'000'000;
     if (second % 100 == 0) machine.processTable.Find(300)->UseCPU(10);
