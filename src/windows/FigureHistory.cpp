@@ -1,7 +1,7 @@
 #include "windows/FigureHistory.h"
 
 #include <algorithm>
-#include <ranges>
+#include <cstddef>
 
 namespace lurkwell {
 
@@ -29,10 +29,13 @@ void FigureHistory::Add(std::int64_t when, std::span<const float> values) {
 }
 
 std::size_t FigureHistory::FirstSince(std::int64_t when) const {
-  const auto moments = std::views::iota(std::size_t{0}, Size());
-  const auto found = std::ranges::partition_point(
-      moments, [&](std::size_t moment) { return TimeOf(moment) < when; });
-  return static_cast<std::size_t>(found - moments.begin());
+  // The ring is two ascending runs: what is from mOldest on, and what came after it.
+  const auto turn = mTimes.begin() + static_cast<std::ptrdiff_t>(mOldest);
+  const bool isInOlderRun = turn != mTimes.end() && mTimes.back() >= when;
+  const auto found = isInOlderRun ? std::lower_bound(turn, mTimes.end(), when)
+                                  : std::lower_bound(mTimes.begin(), turn, when);
+  const auto place = static_cast<std::size_t>(found - mTimes.begin());
+  return isInOlderRun ? place - mOldest : place + (mTimes.size() - mOldest);
 }
 
 std::size_t FigureHistory::NearestTo(std::int64_t when) const {
