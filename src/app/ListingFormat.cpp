@@ -152,7 +152,9 @@ class TextFormat final : public ListingFormat {
     bool isIndented = !mIsTree;
     for (std::size_t i = 0; i < mColumns.size(); ++i) {
       std::string text = Mark(process.values[i]);
-      if (IsKnown(process.values[i])) {
+      if (const auto* known = std::get_if<std::string>(&process.values[i])) {
+        text = PrintableText(WithoutNewline(*known));
+      } else if (IsKnown(process.values[i])) {
         char value[kValueLength];
         const char* key = mColumns[i].key.c_str();
         GetPIDPropertyValue(process.pid, key, value, kValueLength, nullptr);

@@ -179,6 +179,9 @@ class Printing(Program):
         _, out, _ = self.run_to_end("--print", "--count", "1", "--columns",
                                     "meta_name,pid_parent_pid")
         self.assertIn(" schl\u00e4fer ", out)
+        _, kinds, _ = self.run_to_end("--print", "--count=1", "--columns=meta_kind",
+                                      "--filter=schl\u00e4fer")
+        self.assertIn(": Process", kinds)
         self.assertEqual(len({len(line) for line in out.splitlines()}), 1, out)
 
     def hostile_program(self):
