@@ -59,13 +59,17 @@ void PrepareNumber(SortedRow& row, const compareContextStructure& context) {
 }
 
 void PrepareCPUPercent(SortedRow& row, const compareContextStructure&) {
-  row.number = NumberOf(row.row->SortValue(kInternalCpuUsage));
-  if (row.pid == 0 && IgnoresPidZero()) row.number = 0.0;
+  SetNumber(row, row.row->SortValue(kInternalCpuUsage));
+  if (row.pid != 0 || !IgnoresPidZero()) return;
+  row.isMissing = false;
+  row.number = 0.0;
 }
 
 void PrepareVirtualSize(SortedRow& row, const compareContextStructure&) {
-  row.integer = IntegerOf(row.row->SortValue(kPidVsz));
-  if (row.pid == 0 && IgnoresPidZero()) row.integer = 0;
+  SetNumber(row, row.row->SortValue(kPidVsz));
+  if (row.pid != 0 || !IgnoresPidZero()) return;
+  row.isMissing = false;
+  row.integer = 0;
 }
 
 void PrepareApplication(SortedRow& row, const compareContextStructure&) {
@@ -177,8 +181,7 @@ int cpuPercentCompare(const SortedRow& a, const SortedRow& b,
 int memGraphCompare(const SortedRow& a, const SortedRow& b,
                     const compareContextStructure& context) {
   if (!Expect(a.pid != 0 || b.pid != 0, kSortingUnit, "pid1 || pid2")) return 0;
-  const int order = Order(a.integer, b.integer, context);
-  return order != 0 ? order : pidCompare(a, b, context);
+  return integerCompare(a, b, context);
 }
 
 int iconCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context) {

@@ -132,6 +132,27 @@ TEST_F(SortingTest, MissingValuesComeLastAndHexadecimalColumnsDoNotSort) {
   EXPECT_EQ(controller().sortColumn(), InternKey("SESS"));
 }
 
+TEST_F(SortingTest, BarsWithoutAValueComeLastInBothDirections) {
+  auto& table = machine.processTable;
+  for (const int pid : {30, 31, 32}) table.Birth(pid, "p");
+  Open();
+  Turn();
+  const auto forget = [&] {
+    auto& row = *controller().rows().Find(31);
+    row.Set(kPidVsz, Missing::kNotAllowed);
+    row.Set(kInternalCpuUsage, Missing::kNotYetKnown);
+    controller().setNeedsResort();
+    controller().commitChanges();
+  };
+  for (const char* bar : {"internal_MemGraph", "internal_CPUPercent"}) {
+    for (const char* direction : {"the first", "the other"}) {
+      ClickHeader(bar);
+      forget();
+      EXPECT_TRUE(Pids().ends_with(" 31")) << bar << ' ' << direction << ": " << Pids();
+    }
+  }
+}
+
 TEST_F(SortingTest, TheRememberedSortColumnIsMadeToFit) {
   SetPrefInt("MAIN_WINDOW_SORT_COLUMN_INDEX", 99);
   Open();
