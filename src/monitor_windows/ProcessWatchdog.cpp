@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -98,7 +99,11 @@ bool ReadText(int pid, const char* property, char* text) {
 }  // namespace
 
 ProcessWatchdog::ProcessWatchdog(std::int32_t interval, MonitorWindowKinds& kinds)
-    : ProcessInformationClient(nullptr, interval), mKinds(kinds) {}
+    : ProcessInformationClient(nullptr, interval), mWatchfulInterval(interval), mKinds(kinds) {}
+
+std::int32_t ProcessWatchdog::CountRemembered() {
+  return GetPrefArrayCount(kCPUHistoryWindowKind) + GetPrefArrayCount(kLoggingWindowKind);
+}
 
 ProcessInformationClient::NeedLevel ProcessWatchdog::NeedPidsForProcProperty(const char* property) {
   if (IsNameOrKind(property)) return kNeedAllPids;
@@ -120,8 +125,7 @@ void ProcessWatchdog::NotifyPidHasBeenRemoved(int pid) {
 
 /// While a program is waited for, each process that is there may become it.
 bool ProcessWatchdog::NeedsOnlyBirths() {
-  const auto remembered =
-      GetPrefArrayCount(kCPUHistoryWindowKind) + GetPrefArrayCount(kLoggingWindowKind);
+  const auto remembered = CountRemembered();
   if (std::exchange(mHaveProgramsChanged, false) || remembered != mRemembered)
     mIsOneWaiting = remembered > 0 && IsOneWaiting();
   mRemembered = remembered;
@@ -145,6 +149,10 @@ void ProcessWatchdog::Remember(int pid) {
 }
 
 void ProcessWatchdog::NotifyProcessesHaveBeenUpdated() {
+  constexpr std::int32_t kIdleFactor = 8;
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max() / kIdleFactor;
+  SetInterval(CountRemembered() > 0 ? mWatchfulInterval
+                                    : std::min(mWatchfulInterval, kMost) * kIdleFactor);
   if (mNewPids.Empty()) return;
   const PreferenceBatch batch;
   mHistories.Refresh();

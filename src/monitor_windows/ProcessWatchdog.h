@@ -51,7 +51,8 @@ class RememberedPrograms {
 
 /// Opens remembered windows for the programs that start, each for one process at a time: the one it
 /// followed last, else one of the same owner, else any; of several that are new at once the one
-/// that has run longest. Main thread only; deleted, like every client, at shutdown.
+/// that has run longest. While none is remembered it has its turn an eighth as often. Main thread
+/// only; deleted, like every client, at shutdown.
 class ProcessWatchdog final : public ProcessInformationClient {
  public:
   /// `interval` in milliseconds; `kinds` outlives this.
@@ -75,6 +76,7 @@ class ProcessWatchdog final : public ProcessInformationClient {
 
  private:
   void Remember(int pid);
+  static std::int32_t CountRemembered();
   /// Who gets a window: first who has had it already, then who belongs to the same owner.
   enum class Claim { kFollowedLast, kSameOwner, kAny };
   void OpenWindowsOf(int pid, Claim claim);
@@ -84,6 +86,7 @@ class ProcessWatchdog final : public ProcessInformationClient {
   bool MayOpen();
   bool IsOneWaiting();
 
+  const std::int32_t mWatchfulInterval;
   MonitorWindowKinds& mKinds;
   PidStack mNewPids;
   RememberedPrograms mHistories{kCPUHistoryWindowKind};

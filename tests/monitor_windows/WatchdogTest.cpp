@@ -53,6 +53,20 @@ TEST_F(WatchdogTest, WindowsComeBackWithTheirProgram) {
   EXPECT_EQ(GetPrefArrayCount(kLoggingWindowKind), 1);
 }
 
+TEST_F(WatchdogTest, NobodyIsWokenOftenForWindowsThatAreNotThere) {
+  StartWatchdog();
+  Turn();
+  machine.log.Clear();
+  Turn(16'000);
+  const auto looks = std::ranges::count(machine.log.Lines(), "ProcessTable.Read");
+  EXPECT_TRUE(looks >= 3 && looks <= 5) << looks;
+  Remember(kLoggingWindowKind, "prog", Uuid::Fresh(), {10, 50, 410, 300});
+  Turn(4000);
+  machine.processTable.Birth(300, "prog");
+  Turn(500);
+  EXPECT_EQ(Logs(), "300 at 10\n");
+}
+
 TEST_F(WatchdogTest, ARecordHasOneOpenWindowAtATimeHoweverManyInstancesThereAre) {
   for (int pid = 300; pid < 340; ++pid) machine.processTable.Birth(pid, "shell");
   Remember(kLoggingWindowKind, "shell", Uuid::Fresh(), {10, 50, 410, 300});
