@@ -129,10 +129,12 @@ bool DrawingProgram::Make(QOpenGLContext& context) {
   for (int first = 0; first < mFloatsPerInstance; first += 4) {
     const auto place = static_cast<std::uint32_t>(first / 4);
     gl.glEnableVertexAttribArray(place);
+    // Takes a place in the buffer for a pointer.
+    const auto offset = static_cast<std::size_t>(first) * sizeof(float);
     gl.glVertexAttribPointer(
         place, std::min(4, mFloatsPerInstance - first), GL_FLOAT, GL_FALSE,
         mFloatsPerInstance * static_cast<int>(sizeof(float)),
-        reinterpret_cast<const void*>(static_cast<std::size_t>(first) * sizeof(float)));
+        reinterpret_cast<const void*>(offset));  // NOLINT(performance-no-int-to-ptr)
     gl.glVertexAttribDivisor(place, 1);
   }
   return true;

@@ -177,7 +177,9 @@ class Cells {
          y <= cell(box.top + box.height, kCellHeight, mDown); ++y)
       for (int x = cell(box.left, kCellWidth, mAcross);
            x <= cell(box.left + box.width, kCellWidth, mAcross); ++x)
-        if (visit(mStanding[static_cast<std::size_t>(y * mAcross + x)])) return true;
+        if (visit(mStanding[static_cast<std::size_t>(y) * static_cast<std::size_t>(mAcross) +
+                            static_cast<std::size_t>(x)]))
+          return true;
     return false;
   }
   bool Overlap(std::size_t one, std::size_t other) const {

@@ -75,7 +75,7 @@ constexpr int kMostOldErrors = 16;
 
 QImage AsImage(const Picture& picture) {
   return QImage(reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width,
-                picture.height, picture.width * 4, QImage::Format_ARGB32_Premultiplied);
+                picture.height, qsizetype{4} * picture.width, QImage::Format_ARGB32_Premultiplied);
 }
 
 bool IsSound(const Picture* picture) {

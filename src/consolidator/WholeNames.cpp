@@ -28,8 +28,8 @@ std::string WholeNameOf(std::int32_t pid) {
   const auto* record = gRecords.GetExistingPIDInformation(pid);
   if (record == nullptr) return {};
   const std::string_view name(record->name);
-  if (record->carbonInfo != nullptr) {
-    const std::string_view whole(record->carbonInfo->name);
+  if (const auto* carbon = record->carbonInfo.get()) {
+    const std::string_view whole(carbon->name);
     return std::string(whole.starts_with(name) ? whole : name);
   }
   return record->learntName == name ? record->wholeName : std::string(name);

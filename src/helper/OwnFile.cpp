@@ -36,7 +36,7 @@ void Digest::Add(std::span<const std::uint8_t> bytes) {
 
 void Digest::AddBlock() {
   std::uint32_t words[64];
-  for (unsigned i = 0; i < 16; ++i)
+  for (std::size_t i = 0; i < 16; ++i)
     words[i] = std::uint32_t{mBlock[4 * i]} << 24 | std::uint32_t{mBlock[4 * i + 1]} << 16 |
                std::uint32_t{mBlock[4 * i + 2]} << 8 | mBlock[4 * i + 3];
   for (unsigned i = 16; i < 64; ++i) {

@@ -81,7 +81,7 @@ std::optional<ProcStatFields> ParseProcStatFields(const ProcStat& stat) {
   ProcStatFields numbers{};
   Fields fields(stat.fields);
   fields.Skip(1);
-  numbers[3] = stat.state;
+  numbers[3] = static_cast<unsigned char>(stat.state);
   for (std::size_t place = 4; place <= std::max(kLastField, kArgumentsField); ++place) {
     const auto field = fields.Next();
     const char* const last = field.data() + field.size();

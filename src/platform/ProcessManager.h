@@ -67,6 +67,7 @@ class ProcessManager {
 
   /// Has the desktop show a file, selected in its folder, or at least that folder. `failed` is
   /// called, before or after this returns, when neither can be shown; it may outlive its caller.
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it.
   virtual void ShowFile(const std::string& path, std::function<void()> failed) {
     static_cast<void>(path);
     failed();

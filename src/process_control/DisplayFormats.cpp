@@ -21,9 +21,10 @@ enum class MemoryUnit : std::int32_t { kBytes = 1, kKilobytes, kMegabytes, kGiga
 
 MemoryUnit UnitByMagnitude(std::int64_t value) {
   const auto within = [value](std::int64_t bound) { return -bound < value && value < bound; };
-  if (within(5 * 1024)) return MemoryUnit::kBytes;
-  if (within(1024 * 1024)) return MemoryUnit::kKilobytes;
-  if (within(1024 * 1024 * 1024)) return MemoryUnit::kMegabytes;
+  constexpr std::int64_t kKilobyte = 1024;
+  if (within(5 * kKilobyte)) return MemoryUnit::kBytes;
+  if (within(kKilobyte * kKilobyte)) return MemoryUnit::kKilobytes;
+  if (within(kKilobyte * kKilobyte * kKilobyte)) return MemoryUnit::kMegabytes;
   return MemoryUnit::kGigabytes;
 }
 

@@ -94,6 +94,7 @@ std::vector<ApplicationScopes::Application> ApplicationScopes::FirstOfEach() con
     if (!isNew && age(process.identity) < age(place->second->identity)) place->second = &process;
   }
   std::vector<Application> applications;
+  applications.reserve(first.size());
   for (const auto& [name, process] : first) {
     applications.push_back({process->identity, *process->scope});
   }

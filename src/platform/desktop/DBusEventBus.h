@@ -33,7 +33,7 @@ QString TextOfCode(FourCharCode code);
 /// not looked for again. Main thread only; needs a QCoreApplication.
 class DBusEventBus final : public QDBusVirtualObject, public EventBus {
  public:
-  static constexpr std::size_t kLargestEvent = 4096 * 396;
+  static constexpr std::size_t kLargestEvent = std::size_t{4096} * 396;
   static constexpr int kMostEventsPerSecond = 20;
 
   struct Settings {

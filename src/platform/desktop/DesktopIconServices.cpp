@@ -18,7 +18,7 @@ constexpr int kSmallest = 8;
 constexpr int kLargest = 512;
 constexpr int kMostPixelsKept = 8 * 1024 * 1024;
 constexpr int kCostOfEntry = 64;
-constexpr qint64 kLargestPicture = 8 * 1024 * 1024;
+constexpr qint64 kLargestPicture = qint64{8} * 1024 * 1024;
 constexpr std::chrono::seconds kSteadyTime{1};
 
 /// An ordinary file of a sensible size, in the shape it has, as sharp as it can be.
@@ -52,7 +52,8 @@ QImage ImageOfWindow(const std::vector<std::uint32_t>& icons, int size) {
   if (!best) return {};
   const auto* bytes = reinterpret_cast<const uchar*>(best->pixels.data());
   // Its own copy: the list goes.
-  return QImage(bytes, best->width, best->height, best->width * 4, QImage::Format_ARGB32).copy();
+  return QImage(bytes, best->width, best->height, qsizetype{4} * best->width, QImage::Format_ARGB32)
+      .copy();
 }
 
 /// In the middle of a square, scaled to touch its sides.

@@ -46,7 +46,7 @@ std::string RendererName() {
   surface.create();
   if (!context.makeCurrent(&surface)) return {};
   const auto* name = context.functions()->glGetString(GL_RENDERER);
-  const std::string text = name != nullptr ? reinterpret_cast<const char*>(name) : "";
+  std::string text = name != nullptr ? reinterpret_cast<const char*>(name) : "";
   context.doneCurrent();
   return text;
 }
@@ -223,6 +223,7 @@ bool DesktopScreen::IsCovered(std::uint64_t number) {
   const auto opacity = AtomNamed("_NET_WM_WINDOW_OPACITY");
   const auto deadline = XConnection::BatchDeadline();
   std::vector<Question> questions;
+  questions.reserve(windows.size());
   for (const auto asked : windows)
     questions.push_back(
         {xcb_get_geometry_unchecked(server->Raw(), asked),

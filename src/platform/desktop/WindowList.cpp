@@ -199,6 +199,7 @@ void WindowList::ReadWindows(const std::vector<xcb_window_t>& windows) {
 void WindowList::ReadPids(const std::vector<xcb_window_t>& windows) {
   if (mConnection.IsLost()) return;
   std::vector<xcb_res_client_id_spec_t> asked;
+  asked.reserve(windows.size());
   for (const xcb_window_t window : windows) {
     asked.push_back({window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID});
   }

@@ -124,24 +124,22 @@ void TakeDescriptorInfo(std::string_view text, DescriptorDetails& descriptor) {
 
 void TakeDescriptorLink(std::string_view link, DescriptorDetails& descriptor) {
   constexpr std::string_view kAnonymous = "anon_inode:";
+  descriptor.kind = "file";
   descriptor.target = link;
   if (link.starts_with("/memfd:")) {
     descriptor.kind = "memfd";
     descriptor.target = link.substr(7);
   } else if (link.starts_with("/dev/") && !link.starts_with("/dev/shm/")) {
     descriptor.kind = "device";
-  } else if (link.starts_with('/')) {
-    descriptor.kind = "file";
   } else if (link.starts_with(kAnonymous)) {
     auto name = link.substr(kAnonymous.size());
     if (name.starts_with('[') && name.ends_with(']')) name = name.substr(1, name.size() - 2);
     descriptor.kind = name;
     descriptor.target.clear();
-  } else if (const auto number = link.find(":["); number != std::string_view::npos) {
+  } else if (const auto number = link.find(":[");
+             number != std::string_view::npos && !link.starts_with('/')) {
     // "pipe:[4711]"
     descriptor.kind = link.substr(0, number);
-  } else {
-    descriptor.kind = "file";
   }
 }
 

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <memory>
 #include <random>
+#include <string_view>
 #include <vector>
 
 #include "platform/linux/PropertyListDocument.h"
@@ -134,8 +135,9 @@ std::string PreferenceFile::Target() const {
       if (errno == EINVAL || errno == ENOENT || errno == ENOTDIR) mLastTarget = path;
       return mLastTarget;
     }
-    const std::string link(text.data(), static_cast<std::size_t>(length));
-    path = link.starts_with('/') ? link : FolderOf(path) + '/' + link;
+    const std::string_view link(text.data(), static_cast<std::size_t>(length));
+    path = link.starts_with('/') ? std::string() : FolderOf(path) + '/';
+    path += link;
   }
   return mPath;  // the links go round in a circle
 }

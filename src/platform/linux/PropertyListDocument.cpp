@@ -239,8 +239,7 @@ std::optional<PreferenceValue> Fit(plist_t node) {
   }
   auto scalar = Scalar(node);
   if (!scalar) return std::nullopt;
-  return std::visit([](auto&& held) -> PreferenceValue { return std::move(held); },
-                    *std::move(scalar));
+  return std::visit([](auto& held) -> PreferenceValue { return std::move(held); }, *scalar);
 }
 
 // Releases of the library differ in how a negative integer is made, not in how it is read.

@@ -11,7 +11,7 @@
 namespace lurkwell {
 
 /// The largest property list that is read or written, in bytes.
-inline constexpr std::size_t kMaximumPropertyListSize = 4 * 1024 * 1024;
+inline constexpr std::size_t kMaximumPropertyListSize = std::size_t{4} * 1024 * 1024;
 /// How many elements may be open inside each other.
 inline constexpr std::size_t kMaximumPropertyListDepth = 32;
 

@@ -113,7 +113,7 @@ std::string UserConfigurationFolder() {
   return std::string(found->pw_dir) + "/.config";
 }
 
-PropertyListDomain::PropertyListDomain(std::string folder)
+PropertyListDomain::PropertyListDomain(const std::string& folder)
     : mFile(folder, kFileName), mHasFolder(!folder.empty()) {
   if (!mHasFolder) return;
   if (TakeIn() == Intake::kUnfit) {

@@ -57,7 +57,7 @@ class PropertyListDomain final : public PreferenceDomain {
   static constexpr const char* kFileName = "com.velquarin.lurkwell.plist";
 
   /// Reads the file in `folder` if there is one, and removes what killed runs left beside it.
-  explicit PropertyListDomain(std::string folder = UserConfigurationFolder());
+  explicit PropertyListDomain(const std::string& folder = UserConfigurationFolder());
 
   const PreferenceValue* Value(std::string_view key) override;
   void SetValue(std::string_view key, PreferenceValue value) override;
