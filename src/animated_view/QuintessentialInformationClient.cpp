@@ -1,6 +1,7 @@
 #include "animated_view/QuintessentialInformationClient.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 #include "animated_view/QuintessentialGlobals.h"
@@ -8,6 +9,7 @@
 #include "animated_view/QuintessentialLayout.h"
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Assertion.h"
+#include "platform/Diagnostics.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -137,9 +139,15 @@ void QuintessentialInformationClient::SetPaused(bool paused) {
 }
 
 void QuintessentialInformationClient::CreateDrawingThreadIfNecessary() {
-  if (!zmThread)
-    zmThread = std::make_unique<DrawingThread>(
-        []() -> FrameSource* { return gQuintessentialInformationClient; });
+  if (!zmThread) {
+    try {
+      zmThread = std::make_unique<DrawingThread>(
+          []() -> FrameSource* { return gQuintessentialInformationClient; });
+    } catch (const std::system_error& error) {
+      Diagnose("no thread to draw the animated view with: %s", error.what());
+      return;
+    }
+  }
   zmThread->Wake();
 }
 

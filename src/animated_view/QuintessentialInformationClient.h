@@ -72,7 +72,8 @@ class QuintessentialInformationClient final : public ProcessInformationClient,
 
   /// Starts the thread that draws whatever client there is, once per run of the program; in any
   /// case the next frame comes at once. Call it whenever gQuintessentialViewIsCurrentlyShown was
-  /// set.
+  /// set, and when the view is exposed: where the system has no thread to spare, which is said on
+  /// standard error, nothing is drawn until a later call gets one.
   void CreateDrawingThreadIfNecessary();
   /// Ends the thread and waits for its frame; not inside the mutex. At shutdown.
   static void EndDrawingThread();

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -81,6 +82,22 @@ TEST_F(Drawing, FramesBeginAnIntervalApart) {
     least = std::min(least, starts[i] - starts[i - 1]);
   }
   EXPECT_LT(least, 60ms) << "all of them late";
+}
+
+TEST_F(Drawing, WithoutAThreadToSpareBeginsWhenThereIsOne) {
+  pthread_attr_t usual;
+  ASSERT_EQ(::pthread_getattr_default_np(&usual), 0);
+  pthread_attr_t boundless = usual;
+  ASSERT_EQ(::pthread_attr_setstacksize(&boundless, std::size_t{1} << 47), 0);
+  ASSERT_EQ(::pthread_setattr_default_np(&boundless), 0);
+  testing::internal::CaptureStderr();
+  Show(20);
+  EXPECT_TRUE(testing::internal::GetCapturedStderr().starts_with("lurkwell: no thread to draw"));
+  ASSERT_EQ(::pthread_setattr_default_np(&usual), 0);
+  ::pthread_attr_destroy(&usual);
+  EXPECT_EQ(host.frames, 0);
+  client->CreateDrawingThreadIfNecessary();
+  EXPECT_TRUE(WaitForFrames(2));
 }
 
 TEST_F(Drawing, AnOverlongFrameStillLetsOthersIn) {
