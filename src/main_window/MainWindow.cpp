@@ -235,7 +235,7 @@ void MainWindow::Report(const QString& text) {
 }
 
 void MainWindow::AskAboutHelper() {
-  const auto status = GetDaemonStatus();
+  const auto& status = GetDaemonStatus();
   const auto textOf = [](const char* key) { return LocalizedString(key).toStdString(); };
   const auto reason = status.reason.empty() ? std::string() : status.reason + ".\n\n";
   AlertText text;

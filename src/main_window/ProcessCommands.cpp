@@ -43,6 +43,7 @@ void ProcessCommands::Act(ProcessCommand command) {
   if (plan.asks && !Confirm(plan)) return;
   const auto reports = CarryOut(plan);
   std::vector<std::int32_t> pids;
+  pids.reserve(reports.size());
   for (const auto& report : reports) pids.push_back(report.pid);
   mSelection.processesHaveChanged(pids);
   mSelection.report(ReportText(command, reports));

@@ -29,7 +29,7 @@ bool ToolbarGauge::IsShown(const QByteArray& picture) {
 void ToolbarGauge::ShowImage(const SystemInfoImage& image) {
   if (IsShown({reinterpret_cast<const char*>(image.data()), qsizetype(image.size())})) return;
   const QImage pixels(image.data(), kSystemInfoImageWidth, kSystemInfoImageHeight,
-                      kSystemInfoImageWidth * 4, QImage::Format_RGBA8888);
+                      qsizetype{4} * kSystemInfoImageWidth, QImage::Format_RGBA8888);
   // Without smoothing: each pixel of the picture becomes a square, or is left alone.
   Show(QPixmap::fromImage(pixels.scaled((QSizeF(mSize) * mScale).toSize())));
 }

@@ -31,7 +31,8 @@ constexpr double kPointsPerCharacter = 6.0;
 
 QPixmap PixmapOf(const Picture& picture, double scale) {
   const QImage image(reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width,
-                     picture.height, picture.width * 4, QImage::Format_ARGB32_Premultiplied);
+                     picture.height, qsizetype{4} * picture.width,
+                     QImage::Format_ARGB32_Premultiplied);
   auto pixmap = QPixmap::fromImage(image.copy());
   pixmap.setDevicePixelRatio(scale);
   return pixmap;

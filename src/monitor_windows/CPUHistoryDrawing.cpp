@@ -96,10 +96,10 @@ void CPUHistoryWindowInformationClient::DrawIcon() {
   const auto picture = GetProcessIcon(mPid, static_cast<int>(mIconWindow->width() * ratio));
   QPixmap pixmap;
   if (picture != nullptr) {
-    pixmap = QPixmap::fromImage(QImage(reinterpret_cast<const uchar*>(picture->pixels.data()),
-                                       picture->width, picture->height, picture->width * 4,
-                                       QImage::Format_ARGB32_Premultiplied)
-                                    .copy());
+    pixmap = QPixmap::fromImage(
+        QImage(reinterpret_cast<const uchar*>(picture->pixels.data()), picture->width,
+               picture->height, qsizetype{4} * picture->width, QImage::Format_ARGB32_Premultiplied)
+            .copy());
     pixmap.setDevicePixelRatio(ratio);
   }
   mIconWindow->SetPicture(pixmap);
@@ -121,8 +121,8 @@ void CPUHistoryWindowInformationClient::PaintGraph(QPainter& painter) const {
   const auto& bitmap = mGraph.Bitmap();
   const int width = bitmap.Width();
   const int height = bitmap.Height();
-  const QImage ring(reinterpret_cast<const uchar*>(bitmap.Pixels()), width, height, width * 4,
-                    QImage::Format_RGB32);
+  const QImage ring(reinterpret_cast<const uchar*>(bitmap.Pixels()), width, height,
+                    qsizetype{4} * width, QImage::Format_RGB32);
   const int first = bitmap.FirstColumn();
   painter.drawImage(QPoint(0, 0), ring, QRect(first, 0, width - first, height));
   if (first > 0) painter.drawImage(QPoint(width - first, 0), ring, QRect(0, 0, first, height));

@@ -24,6 +24,7 @@ namespace {
 
 std::vector<QRect> PlacesOf(const std::vector<MonitorWindows::OpenWindow>& windows) {
   std::vector<QRect> places;
+  places.reserve(windows.size());
   for (const auto& window : windows) places.push_back(window.place);
   return places;
 }

@@ -246,6 +246,7 @@ void LoggingWindowUI::placeWindow(const WindowRect* windowSize, const std::vecto
 
 std::vector<QRect> LoggingWindowUI::Places() {
   std::vector<QRect> places;
+  places.reserve(sOpenWindows.size());
   for (const auto* log : sOpenWindows) places.push_back(log->fWindow->frameGeometry());
   return places;
 }

@@ -151,7 +151,7 @@ QVariant SettingsModel::data(const QModelIndex& index, int role) const {
 }
 
 QString SettingsModel::FilteredText(const QModelIndex& index) const {
-  const auto shown = index.data().toString();
+  auto shown = index.data().toString();
   if (index.column() != kTitle) return shown;
   return shown + QLatin1Char('\n') + QLatin1String(EntryAt(index.row()).key);
 }

@@ -47,7 +47,8 @@ std::size_t FigureHistory::NearestTo(std::int64_t when) const {
 
 std::size_t FigureHistory::Bytes() const {
   std::size_t bytes = mTimes.capacity() * sizeof(std::int64_t);
-  for (const auto& series : mSeries) bytes += sizeof series + series.capacity() * sizeof(float);
+  for (const auto& series : mSeries)
+    bytes += sizeof(decltype(mSeries)::value_type) + series.capacity() * sizeof(float);
   return bytes;
 }
 

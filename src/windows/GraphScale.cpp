@@ -25,7 +25,7 @@ QString Plain(double value, int digits) {
   return text;
 }
 
-QString PerSecond(QString text, GraphUnit unit) {
+QString PerSecond(const QString& text, GraphUnit unit) {
   return unit == GraphUnit::kBytesPerSecond ? text + QLatin1String("/s") : text;
 }
 

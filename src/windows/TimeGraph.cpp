@@ -144,7 +144,7 @@ QString TimeGraph::figures() const {
     const auto figure = GraphFigureText(mUnit, FigureOf(series));
     parts += series.name.isEmpty() ? figure : series.name + QLatin1Char(' ') + figure;
   }
-  const auto text = parts.join(QStringLiteral(", "));
+  auto text = parts.join(QStringLiteral(", "));
   if (mHistory == nullptr || mHistory->IsEmpty()) return text;
   return MomentText(mCursor.value_or(mHistory->TimeOf(mHistory->Size() - 1))) +
          QStringLiteral(": ") + text;
