@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "animated_view/QuintessentialSupport.h"
+#include "consolidator/Region.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Diagnostics.h"
 #include "preferences/Settings.h"
@@ -39,6 +40,7 @@ void QuintessentialWindowDelegate::hookUpConsolidatorIfNecessary() {
   mPrepare();
   if (gQuintessentialInformationClient == nullptr)
     new QuintessentialInformationClient(FittedAnimationIntervals().main);
+  const ConsolidatorGuard processes;
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   gQuintessentialViewIsCurrentlyShown = true;
   gQuintessentialHost->MakeContextCurrent();

@@ -12,6 +12,7 @@
 #include "animated_view/OffscreenFrame.h"
 #include "animated_view/QuintessentialSupport.h"
 #include "animated_view/flowcontrolfsm.h"
+#include "consolidator/Region.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/HotKeys.h"
@@ -171,6 +172,7 @@ void QuintessentialWindows::Prepare() {
 
 void QuintessentialWindows::UsePixelRatio(double ratio) {
   if (ratio == mPixelRatio) return;
+  const ConsolidatorGuard names;
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   mPixelRatio = ratio;
   mLabels.clear();

@@ -4,6 +4,7 @@
 
 #include "FakeHost.h"
 #include "PlainLayout.h"
+#include "consolidator/Region.h"
 #include "support/ConsolidatorTest.h"
 
 namespace lurkwell {
@@ -190,6 +191,7 @@ TEST_F(AnimatedClient, ChangesAreTakenOver) {
   machine.runLoop.RunFor(500);
   EXPECT_EQ(info.labelImage->width, static_cast<int>(std::strlen("desktop-portal-gtk")));
   {
+    const ConsolidatorGuard names;
     const CriticalRegion::Guard guard(gQuintessentialMutex);
     client->MakeLabelsAnew();
   }
