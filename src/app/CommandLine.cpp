@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <iterator>
 #include <ostream>
 #include <string_view>
@@ -170,7 +171,7 @@ class Reader {
         seconds > kMostSecondsBetween)
       return Complain("--interval needs seconds from 0.1 to 86400, not '" + std::string(*mValue) +
                       "'");
-    mLine.intervalInMilliseconds = static_cast<std::int32_t>(seconds * 1000 + 0.5);
+    mLine.intervalInMilliseconds = static_cast<std::int32_t>(std::lround(seconds * 1000));
     return true;
   }
 

@@ -132,13 +132,13 @@ std::optional<Complaint> MakePlan(const CommandLine& commandLine, ListingPlan& p
   if (words.empty()) words.assign(std::begin(kUsualColumns), std::end(kUsualColumns));
   for (const auto& word : words) {
     ListingColumn column;
-    if (const auto complaint = FindProperty(word, column.key)) return complaint;
+    if (auto complaint = FindProperty(word, column.key)) return complaint;
     column.type = GetProcPropertyType(column.key.c_str(), nullptr);
     plan.columns.push_back(std::move(column));
   }
   plan.isDescending = commandLine.sort.starts_with('-');
   if (const auto key = commandLine.sort.substr(plan.isDescending ? 1 : 0); !key.empty())
-    if (const auto complaint = FindProperty(key, plan.sortKey)) return complaint;
+    if (auto complaint = FindProperty(key, plan.sortKey)) return complaint;
   auto query = Query::Read(commandLine.filter);
   if (const auto* error = std::get_if<QueryError>(&query))
     return "--filter: " + PrintableText(error->Text());
