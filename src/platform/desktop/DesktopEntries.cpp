@@ -163,7 +163,7 @@ std::optional<DesktopEntry> ParseDesktopEntry(std::string_view text,
 namespace {
 
 constexpr std::string_view kSuffix = ".desktop";
-constexpr off_t kLargestEntry = 512 * 1024;
+constexpr off_t kLargestEntry = off_t{512} * 1024;
 constexpr int kDeepestFolder = 8;
 constexpr std::size_t kMostEntries = 10000;
 

@@ -18,7 +18,7 @@ constexpr int kFileManagerAnswers = 5000;
 /// Our own connection; made anew when the bus has been started again.
 QDBusConnection SessionBus(const std::string& address) {
   const QString name = QStringLiteral("lurkwell-file-manager");
-  const QDBusConnection known(name);
+  QDBusConnection known(name);
   if (known.isConnected()) return known;
   QDBusConnection::disconnectFromBus(name);
   return QDBusConnection::connectToBus(QString::fromStdString(address), name);
