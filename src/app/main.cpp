@@ -12,7 +12,6 @@
 
 #include "app/CommandLine.h"
 #include "app/PrintMode.h"
-#include "app/SessionRestart.h"
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
 #include "platform/Diagnostics.h"

@@ -4,7 +4,7 @@
 
 #include "platform/ProcStat.h"
 #include "platform/StatText.h"
-#include "platform/linux/CommandName.h"
+#include "platform/linux/NameReader.h"
 
 namespace lurkwell {
 namespace {

@@ -11,7 +11,7 @@
 #include "platform/FileDescriptor.h"
 #include "platform/ProcessFigures.h"
 #include "platform/ProcessIdentity.h"
-#include "platform/linux/CommandName.h"
+#include "platform/linux/NameReader.h"
 #include "platform/linux/ProcFiles.h"
 #include "platform/linux/UnitFiles.h"
 

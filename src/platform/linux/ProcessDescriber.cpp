@@ -17,7 +17,7 @@
 #include "platform/Mutex.h"
 #include "platform/ProcStat.h"
 #include "platform/QuietThread.h"
-#include "platform/linux/CommandName.h"
+#include "platform/linux/NameReader.h"
 #include "platform/linux/UserNames.h"
 
 namespace lurkwell {
