@@ -27,16 +27,14 @@ class TableLikeClient final : public ProcessInformationClient {
     for (const auto pid : pids) {
       char value[256];
       for (const auto* property : {"meta_active_time", "pid_rsz", "pid_vsz"})
-        if (GetPIDPropertyValue(pid, property, value, sizeof value, nullptr)) ++mRead;
+        GetPIDPropertyValue(pid, property, value, sizeof value, nullptr);
     }
   }
 
   std::int32_t Processes() const { return mProcesses; }
-  std::int64_t ValuesRead() const { return mRead; }
 
  private:
   std::int32_t mProcesses = 0;
-  std::int64_t mRead = 0;
 };
 
 }  // namespace lurkwell

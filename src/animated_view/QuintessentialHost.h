@@ -38,8 +38,6 @@ class QuintessentialHost {
   /// Shows the view in the mode that is set.
   virtual void doShowQuintessentialView() = 0;
 
-  /// Makes the current view's drawing context the calling thread's.
-  virtual void MakeContextCurrent() LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
   /// Draws one frame of the current view. Drawing thread.
   virtual void InternalDraw() LURKWELL_REQUIRES(gQuintessentialMutex) = 0;
 

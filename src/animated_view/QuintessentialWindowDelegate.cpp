@@ -43,7 +43,6 @@ void QuintessentialWindowDelegate::hookUpConsolidatorIfNecessary() {
   const ConsolidatorGuard processes;
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   gQuintessentialViewIsCurrentlyShown = true;
-  gQuintessentialHost->MakeContextCurrent();
   gQuintessentialInformationClient->CreateDrawingThreadIfNecessary();
   gQuintessentialInformationClient->HookIntoConsolidator();
   if (mRests) SetSeen(false);
@@ -54,7 +53,6 @@ void QuintessentialWindowDelegate::unhookConsolidatorIfNecessary() {
   if (!gApplicationQuitting) Remember(false);
   if (gQuintessentialInformationClient == nullptr) return;
   const CriticalRegion::Guard inside(gQuintessentialMutex);
-  gQuintessentialHost->MakeContextCurrent();
   gQuintessentialInformationClient->UnhookFromConsolidator();
 }
 

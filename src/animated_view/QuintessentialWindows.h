@@ -59,9 +59,6 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   /// After a change of the mode. Back from an overlay that came while there was no window, there is
   /// none again, as long as the user has another one of the program.
   void doShowQuintessentialView() override;
-  /// The drawing thread takes the context by itself for each frame, and nothing else has use for
-  /// it.
-  void MakeContextCurrent() override LURKWELL_REQUIRES(gQuintessentialMutex) {}
   void InternalDraw() override LURKWELL_REQUIRES(gQuintessentialMutex);
   std::shared_ptr<const Picture> LabelImage(const std::string& name) override;
   std::shared_ptr<const Picture> NamedPicture(const char* name) override;

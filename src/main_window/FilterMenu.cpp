@@ -69,10 +69,6 @@ QAction* FilterMenu::AddItem(std::size_t group, const QString& title, const QStr
   return item;
 }
 
-void FilterMenu::SetFilter(const QString& text) {
-  mField->setText(text);
-}
-
 /// Those whose text or words have it come before those that only mention it.
 QList<QAction*> FilterMenu::Matches(const QString& text) const {
   QList<QAction*> named;

@@ -26,9 +26,6 @@ class FilterMenu : public QMenu {
   /// All items, in all groups.
   const QList<QAction*>& Items() const { return mItems; }
 
-  /// What the field holds; the items that it has found stand in the menu.
-  void SetFilter(const QString& text);
-
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;

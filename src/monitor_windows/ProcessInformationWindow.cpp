@@ -125,8 +125,6 @@ OSStatus ProcessInformationWindow::NotifyGetClickActivation() {
 void ProcessInformationWindow::CreateWindow(const WindowRect* bounds, const QString& title,
                                             std::uint32_t setAttributes,
                                             std::uint32_t clearAttributes) {
-  mAttributesToSet = setAttributes;
-  mAttributesToClear = clearAttributes;
   auto* window = new FloatingWindow(ToQt(*bounds), setAttributes & ~clearAttributes);
   window->setWindowTitle(title);
   TakeOver(window);

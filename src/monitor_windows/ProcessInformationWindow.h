@@ -101,8 +101,6 @@ class ProcessInformationWindow {
 
   QPointer<FloatingWindow> mWindow;
   std::shared_ptr<RunLoopTimer> mBringToFrontTimer;
-  std::uint32_t mAttributesToSet = 0;
-  std::uint32_t mAttributesToClear = 0;
 };
 
 /// Moves a rectangle to where a new window goes: to the right of and below the last one, and back

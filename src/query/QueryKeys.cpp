@@ -53,6 +53,12 @@ std::string NearNames(std::string_view word, std::span<const std::string> names)
 
 namespace {
 
+/// A short word that a query has for a property, as in "user:root".
+struct QueryKey {
+  std::string_view word;
+  std::string_view property;
+};
+
 constexpr QueryKey kKeys[] = {
     {"name", "meta_name"},
     {"pid", "meta_pid"},
@@ -88,10 +94,6 @@ bool IsSame(std::string_view a, std::string_view b) {
 }
 
 }  // namespace
-
-std::span<const QueryKey> QueryKeys() {
-  return kKeys;
-}
 
 std::optional<std::string> PropertyOfQueryKey(std::string_view word) {
   for (const auto& key : kKeys)

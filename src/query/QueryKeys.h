@@ -15,15 +15,6 @@ std::vector<std::string> AllPropertyNames();
 /// by commas; empty when none comes near. Case counts for nothing.
 std::string NearNames(std::string_view word, std::span<const std::string> names);
 
-/// A short word that a query has for a property, as in "user:root".
-struct QueryKey {
-  std::string_view word;
-  std::string_view property;
-};
-
-/// All of them, in the order in which help shows them.
-std::span<const QueryKey> QueryKeys();
-
 /// The property that a query means by `word`: one of the short words, the name of a property, or
 /// the header of a ps column, in any case. Nothing when there is none. Main thread.
 std::optional<std::string> PropertyOfQueryKey(std::string_view word);

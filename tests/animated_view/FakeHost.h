@@ -38,7 +38,6 @@ class FakeHost final : public QuintessentialHost {
     told.push_back("show");
     gQuintessentialViewIsCurrentlyShown = true;
   }
-  void MakeContextCurrent() override {}
   void InternalDraw() override {
     ++frames;
     if (onFrame) onFrame();

@@ -71,11 +71,6 @@ class ViewWindows : public OnADisplay, public ApplicationCommands {
                ? 0
                : const_cast<QuintessentialInformationClient*>(client)->qipiList().size();
   }
-  /// So that drawing has happened: the first frame reads the display's limits.
-  static bool HasDrawn() {
-    const CriticalRegion::Guard inside(gQuintessentialMutex);
-    return gOpenGLViewportMaxDimensions.width > 0;
-  }
   /// What the screen shows at a place of the window.
   QColor PixelOf(QWindow& window, int x, int y) {
     if (server == nullptr) server = XConnection::Open(display.Name());
