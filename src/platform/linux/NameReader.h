@@ -31,7 +31,7 @@ char ReadFollowingCharacter(ProcFiles& files, std::int32_t pid, std::uint64_t st
 /// empty for a part of the kernel, too.
 std::string ReadCommandLine(ProcFiles& files, std::int32_t pid, std::uint64_t startStamp);
 
-/// Completes command names (see CommandName.h) and reads command lines on a thread of its own,
+/// Completes command names (see FollowingCharacter) and reads command lines on a thread of its own,
 /// because a command line is the process's memory, which a hostile process can have mapped from a
 /// file that never answers; see ReplaceableThread. Main thread.
 class NameReader {

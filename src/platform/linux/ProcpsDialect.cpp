@@ -142,7 +142,7 @@ bool IsKeyword(std::string_view text) {
 }
 
 /// Takes the next word off `line`, blanks on either side of it being none of it.
-std::string_view TakeWord(std::string_view& line) {
+std::string_view TakeListedWord(std::string_view& line) {
   constexpr std::string_view kBlanks = " \t\r\v\f";
   line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
   const auto word = line.substr(0, line.find_first_of(kBlanks));
@@ -222,8 +222,8 @@ std::vector<PsColumn> ParsePsListing(std::string_view listing) {
   while (!listing.empty()) {
     auto line = listing.substr(0, listing.find('\n'));
     listing.remove_prefix(std::min(line.size() + 1, listing.size()));
-    const auto keyword = TakeWord(line);
-    const auto header = TakeWord(line);
+    const auto keyword = TakeListedWord(line);
+    const auto header = TakeListedWord(line);
     if (!IsKeyword(keyword) || IsProcpsOddity(keyword) || !IsHeader(header)) continue;
     if (seen.insert(keyword).second)
       columns.push_back({std::string(keyword), std::string(header), {}});
