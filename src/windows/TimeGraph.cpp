@@ -180,7 +180,7 @@ QFont TimeGraph::ScaleFont() const {
 QSize TimeGraph::minimumSizeHint() const {
   const QFontMetricsF metrics(font());
   return {static_cast<int>(metrics.averageCharWidth() * 26),
-          static_cast<int>(TextHeight() * (mLegendRows + 1) + kLeastPlotHeight + kGap)};
+          static_cast<int>(TextHeight() * (mLegendRows + 2) + kLeastPlotHeight + kGap)};
 }
 
 QSize TimeGraph::sizeHint() const {
@@ -269,8 +269,8 @@ void TimeGraph::DrawHeader(QPainter& painter) const {
   bold.setBold(true);
   painter.setFont(bold);
   painter.drawText(QRectF(0, 0, width(), TextHeight()), Qt::AlignLeft | Qt::AlignVCenter, mTitle);
-  if (IsEmpty()) return;
   painter.setFont(font());
+  if (IsEmpty()) return;
   const PixelGrid grid(painter);
   const double wide = grid.WholeWidth(2);
   for (const auto& [place, number] : mLegend) {
