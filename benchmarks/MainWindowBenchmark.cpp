@@ -17,12 +17,20 @@
 namespace lurkwell {
 namespace {
 
+/// Whose children the processes are.
+enum class Family : std::uint8_t { kUsual, kFlat, kChain };
+
+std::int32_t ParentOf(std::int32_t pid, Family family) {
+  if (pid == 100 || family == Family::kFlat) return 1;
+  return family == Family::kChain ? pid - 1 : pid < 120 ? 1 : 100 + pid % 20;
+}
+
 class Window : public ApplicationCommands {
  public:
-  explicit Window(std::int64_t processes) {
+  explicit Window(std::int64_t processes, Family family = Family::kUsual) {
     EnsureApplication();
     for (std::int32_t pid = 100; pid < processes + 98; ++pid)
-      machine.processTable.Birth(pid, "process" + std::to_string(pid % 50), 1 + pid % 7);
+      machine.processTable.Birth(pid, "process" + std::to_string(pid % 50), ParentOf(pid, family));
     machine.helper.SetRecordsFigures(false);
     InitializeProcessInformationConsolidator();
     window = std::make_unique<MainWindow>(*this);
@@ -48,6 +56,12 @@ class Window : public ApplicationCommands {
   /// What the consolidator does at the end of a heartbeat, and the drawing.
   void Turn() {
     window->controller().synchronizer()->NotifyProcessesHaveBeenUpdated();
+    QApplication::processEvents();
+  }
+
+  void SetShape(TableShape shape) {
+    window->controller().setShape(shape);
+    machine.runLoop.RunFor(2000);
     QApplication::processEvents();
   }
 
@@ -98,6 +112,23 @@ void BM_MainWindowTurn(benchmark::State& state) {
   CountPerProcess(state);
 }
 BENCHMARK(BM_MainWindowTurn)->Arg(250)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+/// The same in another shape: 0 list, 1 tree, 2 applications; of a usual family, a flat one or one
+/// in which everybody has one child. Sorted by name, where nothing moves, or by CPU usage.
+void BM_MainWindowTurnOfShape(benchmark::State& state) {
+  Window window(5000, static_cast<Family>(state.range(1)));
+  window.SortBy(state.range(2) != 0 ? "internal_CPUPercent" : "meta_name");
+  window.SetShape(static_cast<TableShape>(state.range(0)));
+  for (auto _ : state) {
+    state.PauseTiming();
+    window.Work();
+    state.ResumeTiming();
+    window.Turn();
+  }
+}
+BENCHMARK(BM_MainWindowTurnOfShape)
+    ->ArgsProduct({{0, 1, 2}, {0, 1, 2}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
 
 /// A turn with next to no table: the gauges' pictures stay what they are, or one of them changes.
 void BM_MainWindowGauges(benchmark::State& state) {

@@ -46,7 +46,8 @@ class Store {
                    Absent<HostStatistics>(), Absent<Tools>(),          Absent<Signals>(),
                    Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
                    Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>(),
-                   Absent<Screen>(),         Absent<EventBus>(),       Absent<CostlyFigures>()};
+                   Absent<Screen>(),         Absent<EventBus>(),       Absent<CostlyFigures>(),
+                   Absent<ProcessDetails>()};
   MachineInstallation mInstallation;
 };
 

@@ -1,6 +1,7 @@
 #include "main_window/FoldMemory.h"
 
 #include <QByteArray>
+#include <utility>
 
 #include "main_window/NameList.h"
 #include "preferences/Settings.h"
@@ -9,6 +10,7 @@ namespace lurkwell {
 namespace {
 
 constexpr int kRoomForFolds = 8192;
+constexpr qsizetype kMostNames = 500;
 
 TextSetting SettingOf(FoldMemory::Subject subject) {
   return subject == FoldMemory::Subject::kFoldedPrograms
@@ -41,7 +43,13 @@ void FoldMemory::Put(std::string_view name, bool isIn) {
   const auto text = NameOf(name);
   const bool wasIn = names.removeAll(text) > 0;
   if (isIn) names.prepend(text);
-  if (isIn == wasIn) return;
+  if (names.size() > kMostNames) names.removeLast();
+  mHasChanged = mHasChanged || isIn != wasIn;
+}
+
+void FoldMemory::Store() {
+  if (!std::exchange(mHasChanged, false)) return;
+  auto& names = Names();
   StoreText(SettingOf(mSubject), EncodedNames(names, kRoomForFolds).constData());
 }
 

@@ -15,14 +15,17 @@ class FoldMemory {
   explicit FoldMemory(Subject subject) : mSubject(subject) {}
 
   bool Has(std::string_view name);
-  /// Stores what has changed at once.
+  /// Counts from now on, but is stored by Store alone.
   void Put(std::string_view name, bool isIn);
+  /// Nothing when nothing has changed.
+  void Store();
 
  private:
   QStringList& Names();
 
   Subject mSubject;
   std::optional<QStringList> mNames;
+  bool mHasChanged = false;
 };
 
 }  // namespace lurkwell

@@ -142,14 +142,16 @@ void vqMainTableController::foldRow(int place, bool folded, bool all) {
   if (row->isDeparted || row->shownIndex < 0) return;
   if (folded) {
     // What is not seen is not acted upon, and the focus stays near.
-    const auto focused = fTable->currentIndex();
-    if (focused.isValid() &&
-        RowTree::IsBelow(*fRows.Shown()[static_cast<std::size_t>(focused.row())], *row))
-      moveFocusTo(row);
-    for (const auto* selected : selectedRows())
-      if (RowTree::IsBelow(*selected, *row))
-        fTable->selectionModel()->select(index(selected->shownIndex, 0),
-                                         QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    int last = row->shownIndex;
+    const auto& shown = fRows.Shown();
+    while (last + 1 < rowCount() && fTree.IsBelow(*shown[static_cast<std::size_t>(last) + 1], *row))
+      ++last;
+    const int focused = fTable->currentIndex().row();
+    if (focused > row->shownIndex && focused <= last) moveFocusTo(row);
+    if (last > row->shownIndex)
+      fTable->selectionModel()->select(
+          QItemSelection(index(row->shownIndex + 1, 0), index(last, columnCount() - 1)),
+          QItemSelectionModel::Deselect);
   }
   fTree.SetFolded(*row, folded, all, isFiltered());
   fFilterHasChanged = true;
@@ -168,19 +170,20 @@ void vqMainTableController::foldAll(bool folded) {
 
 void vqMainTableController::revealKeptRows() {
   if (fTable == nullptr) return;
-  for (auto* row : selectedRows())
-    if (!row->isDeparted) RowTree::Reveal(*row);
-  const auto focused = fTable->currentIndex();
-  if (!focused.isValid()) return;
-  auto* row = fRows.Shown()[static_cast<std::size_t>(focused.row())];
-  if (!row->isDeparted) RowTree::Reveal(*row);
+  auto rows = selectedRows();
+  if (const auto focused = fTable->currentIndex(); focused.isValid())
+    rows.push_back(fRows.Shown()[static_cast<std::size_t>(focused.row())]);
+  std::erase_if(rows, [](const auto* row) { return row->isDeparted; });
+  RowTree::Reveal(rows);
 }
 
 void vqMainTableController::revealPids(const std::vector<std::int32_t>& pids) {
   if (fShape == TableShape::kList || !fHolders.empty()) return;
   if (!isTreeCurrent()) commitChanges();
+  std::vector<RowDictionary*> rows;
   for (const auto pid : pids)
-    if (auto* row = fRows.Find(pid)) RowTree::Reveal(*row);
+    if (auto* row = fRows.Find(pid)) rows.push_back(row);
+  RowTree::Reveal(rows);
   fFilterHasChanged = true;
   commitChanges();
 }

@@ -3,16 +3,6 @@
 #include <QUrl>
 
 namespace lurkwell {
-namespace {
-
-QByteArray Encoded(const QStringList& names) {
-  QByteArray text;
-  for (const auto& name : names)
-    text += (text.isEmpty() ? "" : " ") + QUrl::toPercentEncoding(name, ":<>=!/|,\"()^$*+-");
-  return text;
-}
-
-}  // namespace
 
 QStringList DecodedNames(const QByteArray& text) {
   QStringList names;
@@ -22,10 +12,14 @@ QStringList DecodedNames(const QByteArray& text) {
 }
 
 QByteArray EncodedNames(QStringList& names, qsizetype room) {
-  auto text = Encoded(names);
-  while (text.size() >= room) {
-    names.removeLast();
-    text = Encoded(names);
+  QByteArray text;
+  for (qsizetype i = 0; i < names.size(); ++i) {
+    const auto name = QUrl::toPercentEncoding(names[i], ":<>=!/|,\"()^$*+-");
+    if (text.size() + name.size() + 2 > room) {
+      names.resize(i);
+      break;
+    }
+    text += (text.isEmpty() ? "" : " ") + name;
   }
   return text;
 }

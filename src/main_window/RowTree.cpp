@@ -1,6 +1,7 @@
 #include "main_window/RowTree.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 #include "main_window/RowTotals.h"
@@ -133,7 +134,7 @@ bool RowTree::IsFolded(const RowDictionary& row, bool looksBelow) const {
   return looksBelow ? row.isFoldedInFilter : row.isFolded.value_or(false);
 }
 
-void RowTree::SetFolded(RowDictionary& row, bool folded, bool all, bool looksBelow) {
+void RowTree::Fold(RowDictionary& row, bool folded, bool all, bool looksBelow) {
   if (row.node < 0) return;
   const int end = all ? mNodes[At(row.node)].end : row.node + 1;
   for (int i = row.node; i < end; ++i) {
@@ -152,27 +153,33 @@ void RowTree::SetFolded(RowDictionary& row, bool folded, bool all, bool looksBel
   }
 }
 
+void RowTree::SetFolded(RowDictionary& row, bool folded, bool all, bool looksBelow) {
+  Fold(row, folded, all, looksBelow);
+  mFolded.Store();
+  mUnfolded.Store();
+}
+
 void RowTree::SetAllFolded(bool folded, bool looksBelow) {
   for (std::size_t i = 0; i < Count(); i = At(mNodes[i].end))
-    SetFolded(*mNodes[i].row, folded, true, looksBelow);
+    Fold(*mNodes[i].row, folded, true, looksBelow);
+  mFolded.Store();
+  mUnfolded.Store();
 }
 
 void RowTree::ForgetFoldsOfGroupsInFilter() {
   for (auto* row : mGroups.Rows()) row->isFoldedInFilter = false;
 }
 
-void RowTree::Reveal(RowDictionary& row) {
-  for (auto* above = row.above; above != nullptr; above = above->above) {
-    above->isFolded = false;
-    above->isFoldChosen = true;
-    above->isFoldedInFilter = false;
+void RowTree::Reveal(std::span<RowDictionary* const> rows) {
+  std::unordered_set<const RowDictionary*> met;
+  for (const auto* row : rows) {
+    for (auto* above = row->above; above != nullptr && met.insert(above).second;
+         above = above->above) {
+      above->isFolded = false;
+      above->isFoldChosen = true;
+      above->isFoldedInFilter = false;
+    }
   }
-}
-
-bool RowTree::IsBelow(const RowDictionary& row, const RowDictionary& above) {
-  for (const auto* at = row.above; at != nullptr; at = at->above)
-    if (at == &above) return true;
-  return false;
 }
 
 // ---- What can be seen ---------------------------------------------------------------------------

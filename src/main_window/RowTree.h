@@ -47,10 +47,12 @@ class RowTree {
   void ForgetFoldsOfGroupsInFilter();
   /// Processes that the last Visible was asked for, folded away or not.
   std::size_t CountOfMatches() const { return mMatchCount; }
-  /// Unfolds what stands above the row, unremembered.
-  static void Reveal(RowDictionary& row);
+  /// Unfolds what stands above the rows, unremembered.
+  static void Reveal(std::span<RowDictionary* const> rows);
 
-  static bool IsBelow(const RowDictionary& row, const RowDictionary& above);
+  bool IsBelow(const RowDictionary& row, const RowDictionary& above) const {
+    return row.node > above.node && row.node < mNodes[static_cast<std::size_t>(above.node)].end;
+  }
   RowDictionary* FindGroup(const std::string& key) const { return mGroups.Find(key); }
   /// The largest of the totals that are shown; 0 for none.
   std::int64_t BiggestTotal(KeyId key) const;
@@ -73,6 +75,7 @@ class RowTree {
   void Walk(const std::vector<RowDictionary*>& rows, int root);
   void SetEnds();
   std::vector<ApplicationGroups::Member> Members() const;
+  void Fold(RowDictionary& row, bool folded, bool all, bool looksBelow);
   bool IsFolded(const RowDictionary& row, bool looksBelow) const;
   void DecideFolds();
   void AddUp(KeyId key, bool forAll);
