@@ -19,7 +19,7 @@ FLOORS = [
     {"resources"},  # beside src
     {"windows"},  # what every window uses
     {"main_window", "monitor_windows", "animated_view", "preferences_window",
-     "machine_window"},
+     "machine_window", "process_details"},
     {"app"},
 ]
 # A module is a header and its source. So many of a folder may include each other in a circle: a

@@ -2055,6 +2055,10 @@
         <source></source>
         <translation>New &amp;Logging Window</translation>
     </message>
+    <message id="menu_file_details">
+        <source></source>
+        <translation>Show &amp;Details</translation>
+    </message>
     <message id="menu_file_close_window">
         <source></source>
         <translation>&amp;Close Window</translation>
@@ -2321,7 +2325,7 @@
     </message>
     <message id="menu_window_close_all">
         <source></source>
-        <translation>&amp;Close All Histories and Logs</translation>
+        <translation>&amp;Close All Histories, Logs and Details</translation>
     </message>
     <message id="menu_window_show_animated_view">
         <source></source>
@@ -2550,6 +2554,10 @@
     <message id="help_menu_file_new_logging">
         <source></source>
         <translation>a log of each selected process</translation>
+    </message>
+    <message id="help_menu_file_details">
+        <source></source>
+        <translation>all about each selected process: threads, open files, memory, environment, limits</translation>
     </message>
     <message id="help_menu_view_overlay">
         <source></source>
@@ -2786,6 +2794,10 @@
     <message id="main_window_nothing_to_reveal_with">
         <source></source>
         <translation>Nothing can be asked to show the file: there is no session bus, or the program has gone.</translation>
+    </message>
+    <message id="main_window_no_details">
+        <source></source>
+        <translation>There are no details of %1: it is no process of the system.</translation>
     </message>
     <message id="main_window_no_children">
         <source></source>
@@ -3595,6 +3607,354 @@ Free: %5</translation>
         <source></source>
         <translation>&amp;Close and Forget</translation>
     </message>
+    <message id="details_title">
+        <source></source>
+        <translation>%1 (%2): Details</translation>
+    </message>
+    <message id="details_title_ended">
+        <source></source>
+        <translation>%1 (%2), ended: Details</translation>
+    </message>
+    <message id="details_heading">
+        <source></source>
+        <translation>%1 (process %2)</translation>
+    </message>
+    <message id="details_heading_ended">
+        <source></source>
+        <translation>%1 (process %2), as of %3, ended</translation>
+    </message>
+    <message id="details_ended">
+        <source></source>
+        <translation>As of %1, ended. What was read last stays as it is.</translation>
+    </message>
+    <message id="details_ended_before">
+        <source></source>
+        <translation>The process ended before this was read.</translation>
+    </message>
+    <message id="details_actions">
+        <source></source>
+        <translation>&amp;Actions</translation>
+    </message>
+    <message id="details_pages">
+        <source></source>
+        <translation>Pages</translation>
+    </message>
+    <message id="details_filter">
+        <source></source>
+        <translation>Show rows that contain…</translation>
+    </message>
+    <message id="details_reading">
+        <source></source>
+        <translation>Reading…</translation>
+    </message>
+    <message id="details_waiting">
+        <source></source>
+        <translation>No answer from the system yet; still waiting. The memory of the process may be locked, or on a file system that does not answer.</translation>
+    </message>
+    <message id="details_too_many_hang">
+        <source></source>
+        <translation>Too many earlier questions have had no answer from the system. This one is asked as soon as one of them has.</translation>
+    </message>
+    <message id="details_refused">
+        <source></source>
+        <translation>Not allowed: this process belongs to another user. Only its owner and root may read this.</translation>
+    </message>
+    <message id="details_refused_owner">
+        <source></source>
+        <translation>Not allowed: this process belongs to %1. Only its owner and root may read this.</translation>
+    </message>
+    <message id="details_kept_secret">
+        <source></source>
+        <translation>Not allowed: the process keeps this from other programs, also from those of its own user.</translation>
+    </message>
+    <message id="details_none">
+        <source></source>
+        <translation>This system has nothing of the kind for this process.</translation>
+    </message>
+    <message id="details_nothing">
+        <source></source>
+        <translation>There are none.</translation>
+    </message>
+    <message id="details_failed">
+        <source></source>
+        <translation>The system is short of something at the moment. This is tried again.</translation>
+    </message>
+    <message id="details_first_ones">
+        <source></source>
+        <translation>%1; the first %2 are shown</translation>
+    </message>
+    <message id="details_unlimited">
+        <source></source>
+        <translation>unlimited</translation>
+    </message>
+    <message id="details_parent">
+        <source></source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="details_overview">
+        <source></source>
+        <translation>Overview</translation>
+    </message>
+    <message id="details_overview_figure">
+        <source></source>
+        <translation>What</translation>
+    </message>
+    <message id="details_overview_value">
+        <source></source>
+        <translation>Value</translation>
+    </message>
+    <message id="details_graph_cpu">
+        <source></source>
+        <translation>CPU</translation>
+    </message>
+    <message id="details_graph_memory">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="details_graph_disk">
+        <source></source>
+        <translation>Disk</translation>
+    </message>
+    <message id="details_graph_network">
+        <source></source>
+        <translation>Network (TCP)</translation>
+    </message>
+    <message id="details_graph_resident">
+        <source></source>
+        <translation>resident</translation>
+    </message>
+    <message id="details_graph_swap">
+        <source></source>
+        <translation>swapped</translation>
+    </message>
+    <message id="details_graph_read">
+        <source></source>
+        <translation>read</translation>
+    </message>
+    <message id="details_graph_written">
+        <source></source>
+        <translation>written</translation>
+    </message>
+    <message id="details_graph_received">
+        <source></source>
+        <translation>received</translation>
+    </message>
+    <message id="details_graph_sent">
+        <source></source>
+        <translation>sent</translation>
+    </message>
+    <message id="details_threads">
+        <source></source>
+        <translation>Threads</translation>
+    </message>
+    <message id="details_threads_count">
+        <source></source>
+        <translation>Threads: %1</translation>
+    </message>
+    <message id="details_thread_id">
+        <source></source>
+        <translation>Thread</translation>
+    </message>
+    <message id="details_thread_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="details_thread_share">
+        <source></source>
+        <translation>CPU %</translation>
+    </message>
+    <message id="details_thread_time">
+        <source></source>
+        <translation>CPU time</translation>
+    </message>
+    <message id="details_thread_state">
+        <source></source>
+        <translation>State</translation>
+    </message>
+    <message id="details_thread_processor">
+        <source></source>
+        <translation>Processor</translation>
+    </message>
+    <message id="details_thread_nice">
+        <source></source>
+        <translation>Nice</translation>
+    </message>
+    <message id="details_descriptors">
+        <source></source>
+        <translation>Files and Sockets</translation>
+    </message>
+    <message id="details_descriptors_count">
+        <source></source>
+        <translation>Open files, sockets and others: %1</translation>
+    </message>
+    <message id="details_descriptor">
+        <source></source>
+        <translation>Number</translation>
+    </message>
+    <message id="details_descriptor_kind">
+        <source></source>
+        <translation>Kind</translation>
+    </message>
+    <message id="details_descriptor_target">
+        <source></source>
+        <translation>Path or addresses</translation>
+    </message>
+    <message id="details_descriptor_position">
+        <source></source>
+        <translation>Position</translation>
+    </message>
+    <message id="details_descriptor_flags">
+        <source></source>
+        <translation>Opened for</translation>
+    </message>
+    <message id="details_mappings">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="details_mappings_count">
+        <source></source>
+        <translation>Mappings: %1; size %2, resident %3, proportional %4</translation>
+    </message>
+    <message id="details_mapping_range">
+        <source></source>
+        <translation>Addresses</translation>
+    </message>
+    <message id="details_mapping_size">
+        <source></source>
+        <translation>Size</translation>
+    </message>
+    <message id="details_mapping_resident">
+        <source></source>
+        <translation>Resident</translation>
+    </message>
+    <message id="details_mapping_proportional">
+        <source></source>
+        <translation>Proportional</translation>
+    </message>
+    <message id="details_mapping_swapped">
+        <source></source>
+        <translation>Swapped</translation>
+    </message>
+    <message id="details_mapping_permissions">
+        <source></source>
+        <translation>Access</translation>
+    </message>
+    <message id="details_mapping_file">
+        <source></source>
+        <translation>File</translation>
+    </message>
+    <message id="details_environment">
+        <source></source>
+        <translation>Environment</translation>
+    </message>
+    <message id="details_environment_count">
+        <source></source>
+        <translation>Variables when the program was started: %1</translation>
+    </message>
+    <message id="details_variable_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="details_variable_value">
+        <source></source>
+        <translation>Value</translation>
+    </message>
+    <message id="details_limits">
+        <source></source>
+        <translation>Limits</translation>
+    </message>
+    <message id="details_limits_count">
+        <source></source>
+        <translation>Limits of the process: %1. It may raise its own ones up to the highest.</translation>
+    </message>
+    <message id="details_limit_name">
+        <source></source>
+        <translation>Limit</translation>
+    </message>
+    <message id="details_limit_soft">
+        <source></source>
+        <translation>Now</translation>
+    </message>
+    <message id="details_limit_hard">
+        <source></source>
+        <translation>Highest</translation>
+    </message>
+    <message id="details_limit_unit">
+        <source></source>
+        <translation>Unit</translation>
+    </message>
+    <message id="details_group">
+        <source></source>
+        <translation>Control Group</translation>
+    </message>
+    <message id="details_group_count">
+        <source></source>
+        <translation>Figures: %1. They are those of all processes in the group; groups above it are listed where they limit anything.</translation>
+    </message>
+    <message id="details_group_figure">
+        <source></source>
+        <translation>Figure</translation>
+    </message>
+    <message id="details_group_in_use">
+        <source></source>
+        <translation>In use</translation>
+    </message>
+    <message id="details_group_limit">
+        <source></source>
+        <translation>Limit</translation>
+    </message>
+    <message id="details_group_path">
+        <source></source>
+        <translation>Group</translation>
+    </message>
+    <message id="details_group_processors">
+        <source></source>
+        <translation>%1 processors</translation>
+    </message>
+    <message id="details_group_memory">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="details_group_memory.high">
+        <source></source>
+        <translation>Memory before it is slowed down</translation>
+    </message>
+    <message id="details_group_memory.peak">
+        <source></source>
+        <translation>Most memory so far</translation>
+    </message>
+    <message id="details_group_memory.swap">
+        <source></source>
+        <translation>Swap</translation>
+    </message>
+    <message id="details_group_pids">
+        <source></source>
+        <translation>Processes and threads</translation>
+    </message>
+    <message id="details_group_cpu.max">
+        <source></source>
+        <translation>CPU at most</translation>
+    </message>
+    <message id="details_group_cpu.weight">
+        <source></source>
+        <translation>CPU weight</translation>
+    </message>
+    <message id="details_group_cpu.usage">
+        <source></source>
+        <translation>CPU time</translation>
+    </message>
+    <message id="details_group_cpu.throttled">
+        <source></source>
+        <translation>Time without CPU, for its limit</translation>
+    </message>
+    <message id="details_group_memory.high_events">
+        <source></source>
+        <translation>Times slowed down for memory</translation>
+    </message>
+    <message id="details_group_memory.oom_kills">
+        <source></source>
+        <translation>Processes killed for want of memory</translation>
+    </message>
     <message id="remembered_title">
         <source></source>
         <translation>Lurkwell: Remembered Windows</translation>
@@ -4226,6 +4586,22 @@ Free: %5</translation>
     <message id="setting_title_DEFAULT_SHOW_PROCESS_LIST_WINDOW">
         <source></source>
         <translation>Main window was open</translation>
+    </message>
+    <message id="setting_title_DETAILS_WINDOW_FRAME">
+        <source></source>
+        <translation>Details: place and size</translation>
+    </message>
+    <message id="setting_DETAILS_WINDOW_FRAME">
+        <source></source>
+        <translation>Place and size of the window with details of a process that was closed last.</translation>
+    </message>
+    <message id="setting_title_DETAILS_WINDOW_PAGE">
+        <source></source>
+        <translation>Details: page</translation>
+    </message>
+    <message id="setting_DETAILS_WINDOW_PAGE">
+        <source></source>
+        <translation>Page of the window with details that was shown last, counted from 0.</translation>
     </message>
     <message id="setting_title_MAIN_WINDOW_FRAME">
         <source></source>

@@ -59,7 +59,10 @@ vqAppDelegate::vqAppDelegate(Launch launch)
     : mLaunch(launch),
       mFollowingWindows(TheMachine().logFiles,
                         {&CreateCPUHistoryWindow, &ListCPUHistoryWindows, &IsCPUHistoryWindowOpen,
-                         &CPUHistoryProcessHasEnded, &RememberCPUHistoryPlaces}) {}
+                         &CPUHistoryProcessHasEnded, &RememberCPUHistoryPlaces}),
+      mDetailsWindows([this](QMenu& menu, ProcessIdentity process, const auto& report) {
+        fMainWindow->FillProcessMenu(menu, process, report);
+      }) {}
 
 vqAppDelegate::~vqAppDelegate() {
   SetWayBack(nullptr);
@@ -74,6 +77,7 @@ void vqAppDelegate::init() {
   qApp->installEventFilter(this);
   fMainWindow = std::make_unique<MainWindow>(*this);
   fMainWindow->controller().processCommands().SetMonitorWindows(&mFollowingWindows);
+  fMainWindow->controller().processCommands().SetProcessWindows(&mDetailsWindows);
   SetWayBack([this] { doShowMainWindow(); });
   fQuintessentialWindows = std::make_unique<QuintessentialWindows>(ViewCommands{
       [this] { doShowQuintessentialView(); }, [this] { doToggleQuintessentialViewFullScreen(); },
@@ -149,6 +153,7 @@ void vqAppDelegate::applicationWillTerminate() {
   SetWayBack(nullptr);
   mFirstLook.reset();
   vqPreferencesUI::closeIfOpen();
+  mDetailsWindows.CloseAll();
   if (mLaunch == Launch::kUsual) KeepArrangement();
   delete MachineWindow::IfOpen();
   gApplicationQuitting = true;

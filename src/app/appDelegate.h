@@ -7,6 +7,7 @@
 #include "animated_view/QuintessentialWindows.h"
 #include "main_window/MainWindow.h"
 #include "monitor_windows/FollowingWindows.h"
+#include "process_details/DetailsWindows.h"
 
 namespace lurkwell {
 
@@ -58,6 +59,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   MainWindow& mainWindow() { return *fMainWindow; }
   QuintessentialWindows& quintessentialWindows() { return *fQuintessentialWindows; }
   MonitorWindowKinds& monitorWindows() { return mFollowingWindows; }
+  DetailsWindows& detailsWindows() { return mDetailsWindows; }
 
   /// The desktop asks programs to quit by an event that would close the windows first, as if the
   /// user had done it. A user who closes the last window quits; when it goes because its process has
@@ -83,6 +85,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   std::unique_ptr<RunLoopTimer> mFirstLook;
   /// Serves the main window and the watchdog, which go before it.
   FollowingWindows mFollowingWindows;
+  DetailsWindows mDetailsWindows;
   std::unique_ptr<MainWindow> fMainWindow;
   std::unique_ptr<QuintessentialWindows> fQuintessentialWindows;
 };

@@ -100,9 +100,7 @@ void MainMenus::BuildOpenWindows(QMenu& menu) {
   connect(&menu, &QMenu::aboutToShow, this, [this, &menu, list] {
     const auto actions = menu.actions();
     for (auto at = actions.indexOf(list) + 1; at < actions.size(); ++at) delete actions[at];
-    const auto* windows = mScope.processes.GetMonitorWindows();
-    auto open =
-        windows != nullptr ? windows->OpenWindows() : std::vector<MonitorWindows::OpenWindow>{};
+    auto open = mScope.processes.OpenWindows();
     ActionOf("menu_window_close_all")->setEnabled(!open.empty());
     std::ranges::sort(open, {}, &MonitorWindows::OpenWindow::title);
     for (auto& window : open) {

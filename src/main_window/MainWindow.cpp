@@ -14,6 +14,7 @@
 #include "main_window/AskForPid.h"
 #include "main_window/HelpWindow.h"
 #include "main_window/MainToolbar.h"
+#include "main_window/OneProcess.h"
 #include "main_window/ToolbarCustomiseDialog.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
@@ -180,8 +181,7 @@ void MainWindow::showRememberedWindows() {
 
 void MainWindow::closeFollowingWindows() {
   const PreferenceBatch batch;
-  if (auto* windows = mController->processCommands().GetMonitorWindows())
-    for (const auto& window : windows->OpenWindows()) window.close();
+  for (const auto& window : mController->processCommands().OpenWindows()) window.close();
 }
 
 void MainWindow::showHelp() {
@@ -209,6 +209,11 @@ void MainWindow::customiseToolbar() {
     mCustomising->move(below.x() - mCustomising->width() / 2, std::min(below.y(), lowest));
   }
   BringToFront(*mCustomising);
+}
+
+void MainWindow::FillProcessMenu(QMenu& menu, ProcessIdentity process,
+                                 const std::function<void(const QString&)>& report) {
+  FillMenuOfOne(menu, process, {mController->processCommands(), *this, mCommands}, report);
 }
 
 QMenu* MainWindow::createPopupMenu() {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "main_window/MainMenus.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Alerts.h"
+#include "platform/ProcessIdentity.h"
 #include "windows/StripedTableView.h"
 
 namespace lurkwell {
@@ -41,6 +43,11 @@ class MainWindow : public QMainWindow, private WindowCommands {
   /// opens its context menu if `wantsMenu`; `place` is one of the whole desktop. Nothing happens to
   /// a process without a row.
   void ChooseProcess(std::int32_t pid, const QPoint& place, bool wantsMenu);
+
+  /// What can be done to a process that another window shows; `report` takes what became of it. The
+  /// menu is filled again at each opening.
+  void FillProcessMenu(QMenu& menu, ProcessIdentity process,
+                       const std::function<void(const QString&)>& report);
 
   /// For a right click beside the table: what can be done to the toolbar.
   QMenu* createPopupMenu() override;

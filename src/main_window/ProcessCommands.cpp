@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 #include <variant>
 
@@ -15,6 +16,7 @@
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
 #include "resources/Resources.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {
@@ -131,6 +133,28 @@ void ProcessCommands::NewCPUHistoryWindow() {
 void ProcessCommands::NewLoggingWindow() {
   const auto interval = ReadInt("DEFAULT_LOGGING_WINDOW_INTERVAL");
   Follow(&MonitorWindows::CreateLoggingWindow, interval);
+}
+
+void ProcessCommands::Open() {
+  if (AnyPSNs()) return BringToFront();
+  ShowDetails();
+}
+
+void ProcessCommands::ShowDetails() {
+  if (mProcessWindows == nullptr) return;
+  const auto asked = mSelection.selectedPids().size();
+  if (asked > kManyWindows && !ConfirmFollowing(asked)) return;
+  for (const auto pid : mSelection.selectedPids())
+    if (!mProcessWindows->ShowDetails(pid))
+      mSelection.report(LocalizedString("main_window_no_details").arg(PlainText(WholeNameOf(pid))));
+}
+
+std::vector<MonitorWindows::OpenWindow> ProcessCommands::OpenWindows() const {
+  std::vector<MonitorWindows::OpenWindow> open;
+  if (mMonitorWindows != nullptr) open = mMonitorWindows->OpenWindows();
+  if (mProcessWindows != nullptr)
+    std::ranges::move(mProcessWindows->OpenWindows(), std::back_inserter(open));
+  return open;
 }
 
 void ProcessCommands::SelectChildren() {

@@ -7,6 +7,7 @@
 
 #include "process_control/ActionPlan.h"
 #include "windows/MonitorWindows.h"
+#include "windows/ProcessWindows.h"
 
 class QObject;
 class QWidget;
@@ -56,6 +57,11 @@ class ProcessCommands {
   void SetMonitorWindows(MonitorWindows* windows) { mMonitorWindows = windows; }
   MonitorWindows* GetMonitorWindows() const { return mMonitorWindows; }
 
+  /// Opens the windows with details; null, as at first: commands for these do nothing.
+  void SetProcessWindows(ProcessWindows* windows) { mProcessWindows = windows; }
+  /// Of both kinds.
+  std::vector<MonitorWindows::OpenWindow> OpenWindows() const;
+
   SelectionFacts Facts() const;
   bool AnyPIDs() const;
   bool AnyPSNs() const;
@@ -71,6 +77,9 @@ class ProcessCommands {
   void Hide();
   void BringToFront();
   void Reveal();
+  /// Brings the applications to the front; where there are none, shows details.
+  void Open();
+  void ShowDetails();
   void NewCPUHistoryWindow();
   void NewLoggingWindow();
   /// Selects the processes whose parents are selected instead of these.
@@ -88,6 +97,7 @@ class ProcessCommands {
 
   ProcessSelection& mSelection;
   MonitorWindows* mMonitorWindows = nullptr;
+  ProcessWindows* mProcessWindows = nullptr;
 };
 
 }  // namespace lurkwell

@@ -153,7 +153,7 @@ class vqMainTableController final : public vqTableController,
   void processHideMenuItem() { fCommands.Hide(); }
   void processBringToFrontMenuItem() { fCommands.BringToFront(); }
   void processRevealInFinderMenuItem() { fCommands.Reveal(); }
-  void doubleClickAction() { processBringToFrontMenuItem(); }
+  void doubleClickAction() { fCommands.Open(); }
   void newCPUHistoryWindow() { fCommands.NewCPUHistoryWindow(); }
   void newLoggingWindow() { fCommands.NewLoggingWindow(); }
   void doThePreferences() { Q_EMIT preferencesRequested(); }

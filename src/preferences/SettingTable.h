@@ -147,6 +147,8 @@ inline constexpr Setting kRows[] = {
     Choice("MAIN_WINDOW_SCOPE", 0, 5, kNextStart),
     Text("MAIN_WINDOW_FOLDED_PROGRAMS", kNextStart),
     Text("MAIN_WINDOW_UNFOLDED_APPLICATIONS", kNextStart),
+    Record("DETAILS_WINDOW_FRAME", kAbsent),
+    Record("DETAILS_WINDOW_PAGE", 0, kNewWindows),
     Number("HAS_RUN_TWO_POINT_THREE", kAbsent, 0, 1, kNextStart),
     Number("HAS_RUN_TWO_POINT_FOUR", kAbsent, 0, 1, kNextStart),
 

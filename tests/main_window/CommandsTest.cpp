@@ -189,6 +189,64 @@ TEST_F(CommandsTest, ApplicationCommandsReachApplicationsAlone) {
   EXPECT_EQ(Done(), "ProcessManager.SetFrontProcess 5 301\n");
 }
 
+/// Notes whose details are asked for.
+class NotedProcesses final : public ProcessWindows {
+ public:
+  bool ShowDetails(std::int32_t pid) override {
+    asked += std::to_string(pid) + " ";
+    return pid != 301;
+  }
+  std::vector<MonitorWindows::OpenWindow> OpenWindows() const override {
+    return {{QStringLiteral("p300 (300): Details"), {}, [] {}, [] {}}};
+  }
+  std::string asked;
+};
+
+TEST_F(CommandsTest, DetailsAreShownWhereThereIsNothingToBringToTheFront) {
+  NotedProcesses windows;
+  OpenWith({300, 301});
+  controller().processCommands().SetProcessWindows(&windows);
+  Select({300, 301});
+  Choose("menu_file_details");
+  EXPECT_EQ(std::exchange(windows.asked, {}), "300 301 ");
+  EXPECT_EQ(Said(), "There are no details of p301: it is no process of the system.");
+  Select({300});
+  QTest::keyClick(&window->table(), Qt::Key_Return);
+  EXPECT_EQ(std::exchange(windows.asked, {}), "300 ");
+  machine.processManager.Launch({5, 300}, 300, "Editor");
+  Turn();
+  QTest::keyClick(&window->table(), Qt::Key_Return);
+  EXPECT_EQ(windows.asked, "");
+  EXPECT_EQ(Done(), "ProcessManager.SetFrontProcess 5 300\n");
+  QTest::keyClick(window.get(), Qt::Key_I, Qt::ControlModifier);
+  EXPECT_EQ(windows.asked, "300 ");
+}
+
+TEST_F(CommandsTest, AWindowOfAProcessHasItsCommandsAsLongAsItLives) {
+  OpenWith({390, 391});
+  Select({391});
+  QMenu menu(window.get());
+  QString said;
+  const auto fill = [&] {
+    menu.clear();
+    window->FillProcessMenu(menu, {390, GetPidsStartStamp(390)},
+                            [&](const QString& text) { said = text; });
+    return menu.findChild<QAction*>(QStringLiteral("menu_process_low_priority"));
+  };
+  auto* lower = fill();
+  ASSERT_NE(lower, nullptr);
+  lower->trigger();
+  EXPECT_EQ(Done(), "Helper Lkw Action Request:\\nrenice 390 20\n");
+  EXPECT_THAT(said.toStdString(), testing::HasSubstr("p390 (390)"));
+  const auto stamp = GetPidsStartStamp(390);
+  machine.processTable.Death(390);
+  machine.processTable.Birth(390, "other");
+  Turn();
+  menu.clear();
+  window->FillProcessMenu(menu, {390, stamp}, [](const QString&) {});
+  EXPECT_FALSE(menu.findChild<QAction*>(QStringLiteral("menu_process_low_priority"))->isEnabled());
+}
+
 TEST_F(CommandsTest, EveryRowOfTheTableHasItsTextsItsPictureAndAKeyOfItsOwn) {
   Open();
   QStringList keys;

@@ -59,9 +59,14 @@ class DetailsFolder {
     const auto bytes = mFiles.ReadIn(mFolder.Get(), name, mBuffer);
     return {mBuffer.data(), bytes > 0 ? static_cast<std::size_t>(bytes) : 0};
   }
-  std::uint64_t StartStamp() {
-    const auto stat = ParseProcStat(Text("stat"));
-    return stat ? stat->startStamp : 0;
+  /// Whether it is the process that is meant, and has not ended; else why it is not, or why that
+  /// cannot be told.
+  DetailsState Life(std::uint64_t startStamp) {
+    const auto text = Text("stat");
+    const auto why = text.empty() ? WhyNoDetails(errno) : DetailsState::kNone;
+    const auto stat = ParseProcStat(text);
+    if (stat && stat->startStamp == startStamp) return DetailsState::kKnown;
+    return why == DetailsState::kNone ? DetailsState::kEnded : why;
   }
   bool IsOwn() {
     const NamedFields status(Text("status"));
@@ -260,15 +265,13 @@ DetailsAnswer ReadDetails(const DetailsRoots& roots, ProcessIdentity process, De
     return answer;
   }
   // Everything else is read in this very folder.
-  const auto isStill = [&] { return folder.StartStamp() == process.startStamp; };
-  answer.state = DetailsState::kEnded;
-  if (!isStill()) return answer;
-  answer.state = DetailsState::kKnown;
+  answer.state = folder.Life(process.startStamp);
+  if (answer.state != DetailsState::kKnown) return answer;
   folder.Read(kind, roots.units, answer);
   if (answer.state == DetailsState::kRefused && folder.IsOwn())
     answer.state = DetailsState::kKeptSecret;
   // What is missing may be so because it has ended meanwhile.
-  if (!isStill()) answer.state = DetailsState::kEnded;
+  if (folder.Life(process.startStamp) == DetailsState::kEnded) answer.state = DetailsState::kEnded;
   if (answer.state != DetailsState::kKnown) {
     answer.list = {};
     answer.count = 0;

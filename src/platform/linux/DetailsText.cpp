@@ -29,7 +29,7 @@ std::string_view WithoutBlanks(std::string_view text) {
 std::string FlagsInWords(std::uint64_t flags) {
   static constexpr std::pair<int, const char*> kWords[] = {
       {O_APPEND, "append"},      {O_NONBLOCK, "nonblocking"}, {O_DIRECT, "direct"},
-      {O_DSYNC, "synchronised"}, {O_ASYNC, "signals"},        {O_CLOEXEC, "closed on exec"}};
+      {O_DSYNC, "synchronised"}, {O_ASYNC, "signals"},        {O_CLOEXEC, "cloexec"}};
   const auto has = [flags](int flag) { return (flags & static_cast<unsigned>(flag)) != 0; };
   const auto access = flags & O_ACCMODE;
   std::string text = has(O_PATH)          ? "path only"
