@@ -17,6 +17,8 @@ import time
 import unittest
 
 BINARY = sys.argv.pop(1)
+LEAKS_OF_LIBRARIES = "print_suppressions=0:suppressions=" + str(
+    pathlib.Path(__file__).resolve().parent.parent / "support/leaks-of-libraries.txt")
 
 # Helpers outlive those who start them, and become children of this process: so others on the machine
 # are told apart.
@@ -65,7 +67,7 @@ class Desktop(unittest.TestCase):
         self.environment.update(
             HOME=self.home, XDG_CONFIG_HOME=self.home + "/config",
             XDG_DATA_HOME=self.home + "/data", XDG_RUNTIME_DIR=str(self.run_folder),
-            TMPDIR=str(self.run_folder))
+            TMPDIR=str(self.run_folder), LSAN_OPTIONS=LEAKS_OF_LIBRARIES)
 
     def open_display(self, manager=("openbox",)):
         reader, writer = os.pipe()

@@ -148,6 +148,11 @@ class Printing(Program):
             self.write_preferences({"FIGURES_FROM_HELPER": figures_from_helper})
             process = self.start("--print")
             process.stdout.readline()
+            # The first update does not wait for it.
+            end = time.monotonic() + 20
+            while len(helpers()) != figures_from_helper and time.monotonic() < end:
+                time.sleep(0.05)
+            time.sleep(0.2)
             self.assertEqual(len(helpers()), figures_from_helper)
             process.terminate()
             _, errors = process.communicate(timeout=10)

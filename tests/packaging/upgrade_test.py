@@ -6,6 +6,7 @@ upgrade_test.py PROGRAM HELPER STEP PREFIX SCRIPTS [unittest arguments]
 
 The helper and its permission step are built for PREFIX, as are the packages' scripts in SCRIPTS.
 """
+import errno
 import hashlib
 import os
 import pathlib
@@ -14,6 +15,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 PROGRAM, HELPER, STEP, PREFIX, SCRIPTS = (sys.argv.pop(1) for _ in range(5))
@@ -140,6 +142,21 @@ class Upgrade(unittest.TestCase):
     def copy(self):
         return self.within(COPY).read_bytes()
 
+    def become(self, content):
+        """The copy has other bytes, and its owner, group and mode as before."""
+        mode = self.within(COPY).stat().st_mode
+        end = time.monotonic() + 20
+        while True:
+            try:
+                self.within(COPY).write_bytes(content)
+                break
+            except OSError as error:
+                # The helper of a program that has just ended may still run.
+                if error.errno != errno.ETXTBSY or time.monotonic() > end:
+                    raise
+                time.sleep(0.05)
+        self.within(COPY).chmod(mode)
+
     def replaced(self):
         return self.within(PREFIX + "/lib/lurkwell/replaced-helpers").read_text().split("\n")[:-1]
 
@@ -173,7 +190,7 @@ class Upgrade(unittest.TestCase):
         # Nor with a package that does not know of it, or the version itself.
         for version in ("3", "1"):
             self.install(version)
-            self.within(COPY).write_bytes(old)
+            self.become(old)
             self.within(COPY).chmod(0o4750)
             self.assertFalse(self.has_rights(), version)
         self.assertEqual(self.replaced()[0], "- " + digest_of("1"))
@@ -188,7 +205,7 @@ class Upgrade(unittest.TestCase):
         self.assertNotEqual(self.dpkg("--install", "/tmp/2.deb").returncode, 0)
         self.assertEqual(self.dpkg("--verify", "lurkwell").stdout, "")
         self.assertTrue(self.has_rights())
-        self.within(COPY).write_bytes(helper_of("2"))
+        self.become(helper_of("2"))
         self.within(COPY).chmod(0o4750)
         self.assertFalse(self.has_rights())
         # Nor one that has no room for what it has to remember.

@@ -82,7 +82,8 @@ TEST_F(RealChannelTest, AHelperKilledOrStoppedAtAnyMomentLosesNothingButItsAnswe
   for (int i = 0; i < 12; ++i)
     large += "pid_internal_thread_time_basic_info_events_info " + std::to_string(::getpid()) + "\n";
   const std::string requests[] = {FiguresRequest(::getpid()), large, FiguresRequest(1)};
-  for (int round = 0; round < 1000; ++round) {
+  // On a busy machine few are answered in time.
+  for (int round = 0; round < 1000 || (answered <= 500 && round < 10'000); ++round) {
     const bool isKilled = round % 2 == 0;
     gDaemonLimits.answering = milliseconds(250);
     Open();
@@ -242,8 +243,9 @@ TEST_F(RealChannelTest, ABeatWaitsNoLongerThanItsLimitWhateverTheHelperDoes) {
   OpenChannel(Installed());
   ASSERT_TRUE(IsOpen());
   EXPECT_EQ(beat(), kDaemonNotAsked);
-  std::this_thread::sleep_for(milliseconds(50));
-  EXPECT_EQ(DaemonConversation::TakeLateAnswer(), "slow");
+  std::string late;
+  machine.RunUntil([&] { return !(late = DaemonConversation::TakeLateAnswer()).empty(); }, 1);
+  EXPECT_EQ(late, "slow");
   EXPECT_TRUE(IsOpen());
 }
 
