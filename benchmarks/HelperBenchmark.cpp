@@ -96,7 +96,8 @@ class RealMachine {
                     mRest.screen,
                     mRest.eventBus,
                     mRest.costlyFigures,
-                    mRest.processDetails};
+                    mRest.processDetails,
+                    mRest.scheduler};
   MachineInstallation mInstallation{mServices};
 };
 

@@ -3315,6 +3315,366 @@ Free: %5</translation>
         <source></source>
         <translation>Lets the selected processes that were halted go on.</translation>
     </message>
+    <message id="menu_process_kill_with_children">
+        <source></source>
+        <translation>Quit or Kill with C&amp;hildren</translation>
+    </message>
+    <message id="menu_process_signal">
+        <source></source>
+        <translation>Send &amp;Signal…</translation>
+    </message>
+    <message id="menu_process_scheduling">
+        <source></source>
+        <translation>Pr&amp;iority and Processors…</translation>
+    </message>
+    <message id="menu_process_show_executable">
+        <source></source>
+        <translation>Show the Program’s &amp;File</translation>
+    </message>
+    <message id="menu_process_search_web">
+        <source></source>
+        <translation>Search the &amp;Web</translation>
+    </message>
+    <message id="menu_edit_copy_csv">
+        <source></source>
+        <translation>Copy as CS&amp;V</translation>
+    </message>
+    <message id="menu_edit_copy_json">
+        <source></source>
+        <translation>Copy as &amp;JSON</translation>
+    </message>
+    <message id="help_menu_process_kill_with_children">
+        <source></source>
+        <translation>quit or kill the selected processes and all that they have started</translation>
+    </message>
+    <message id="help_menu_process_signal">
+        <source></source>
+        <translation>send any signal</translation>
+    </message>
+    <message id="help_menu_process_scheduling">
+        <source></source>
+        <translation>nice value, scheduling, disk priority, processors</translation>
+    </message>
+    <message id="help_menu_process_show_executable">
+        <source></source>
+        <translation>show the file of the program in the file manager</translation>
+    </message>
+    <message id="main_window_no_executable">
+        <source></source>
+        <translation>What program these are is not known, or you may not know.</translation>
+    </message>
+    <message id="main_window_many_executables">
+        <source></source>
+        <translation>These are more programs than %1; nothing was opened.</translation>
+    </message>
+    <message id="main_window_no_search">
+        <source></source>
+        <translation>This desktop does not open “%1”.</translation>
+    </message>
+    <message id="action_ask_signal_one">
+        <source></source>
+        <translation>Send a signal to process %1 (%2)?</translation>
+    </message>
+    <message id="action_ask_signal_several">
+        <source></source>
+        <translation>Send a signal to %1 processes?</translation>
+    </message>
+    <message id="action_ask_scheduling_one">
+        <source></source>
+        <translation>Priority and processors of process %1 (%2)</translation>
+    </message>
+    <message id="action_ask_scheduling_several">
+        <source></source>
+        <translation>Priority and processors of %1 processes</translation>
+    </message>
+    <message id="action_button_signal">
+        <source></source>
+        <translation>&amp;Send</translation>
+    </message>
+    <message id="action_button_scheduling">
+        <source></source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message id="action_next_signal">
+        <source></source>
+        <translation>A program may catch a signal and do something of its own instead, but for KILL and STOP. The list says what happens otherwise.</translation>
+    </message>
+    <message id="action_next_scheduling">
+        <source></source>
+        <translation>It holds for all threads at once, until the process ends. Coming before others takes an administrator’s rights.</translation>
+    </message>
+    <message id="action_reason_impossible">
+        <source></source>
+        <translation>this machine has no such processor or priority</translation>
+    </message>
+    <message id="action_done_signal_one">
+        <source></source>
+        <translation>%1 was sent %2.</translation>
+    </message>
+    <message id="action_done_signal_several">
+        <source></source>
+        <translation>%1 were sent %2.</translation>
+    </message>
+    <message id="action_done_nice_one">
+        <source></source>
+        <translation>%1 now has the nice value %2.</translation>
+    </message>
+    <message id="action_done_nice_several">
+        <source></source>
+        <translation>%1 now have the nice value %2.</translation>
+    </message>
+    <message id="action_done_policy_one">
+        <source></source>
+        <translation>%1 is now scheduled as %2.</translation>
+    </message>
+    <message id="action_done_policy_several">
+        <source></source>
+        <translation>%1 are now scheduled as %2.</translation>
+    </message>
+    <message id="action_done_io_priority_one">
+        <source></source>
+        <translation>%1 now has the disk priority %2.</translation>
+    </message>
+    <message id="action_done_io_priority_several">
+        <source></source>
+        <translation>%1 now have the disk priority %2.</translation>
+    </message>
+    <message id="action_done_processors_one">
+        <source></source>
+        <translation>%1 now runs on the processors %2.</translation>
+    </message>
+    <message id="action_done_processors_several">
+        <source></source>
+        <translation>%1 now run on the processors %2.</translation>
+    </message>
+    <message id="scheduling_unchanged">
+        <source></source>
+        <translation>as it is</translation>
+    </message>
+    <message id="scheduling_nice">
+        <source></source>
+        <translation>&amp;Nice value:</translation>
+    </message>
+    <message id="scheduling_nice_tip">
+        <source></source>
+        <translation>From -20, which comes before all others, to 19, which comes after them</translation>
+    </message>
+    <message id="scheduling_policy">
+        <source></source>
+        <translation>Scheduling as:</translation>
+    </message>
+    <message id="scheduling_policy_tip">
+        <source></source>
+        <translation>Batch suits what computes for long, idle what may wait for everything else. Real time comes before all that is not, and can make the machine stand still.</translation>
+    </message>
+    <message id="scheduling_policy_normal">
+        <source></source>
+        <translation>Normal</translation>
+    </message>
+    <message id="scheduling_policy_batch">
+        <source></source>
+        <translation>Batch</translation>
+    </message>
+    <message id="scheduling_policy_idle">
+        <source></source>
+        <translation>Idle</translation>
+    </message>
+    <message id="scheduling_policy_round_robin">
+        <source></source>
+        <translation>Real time, in turn</translation>
+    </message>
+    <message id="scheduling_policy_fifo">
+        <source></source>
+        <translation>Real time, one after the other</translation>
+    </message>
+    <message id="scheduling_priority">
+        <source></source>
+        <translation>Priority:</translation>
+    </message>
+    <message id="scheduling_io_class">
+        <source></source>
+        <translation>&amp;Disk priority:</translation>
+    </message>
+    <message id="scheduling_io_tip">
+        <source></source>
+        <translation>Counts where the disk’s scheduler knows of it. 0 comes before 7.</translation>
+    </message>
+    <message id="scheduling_io_none">
+        <source></source>
+        <translation>As the nice value says</translation>
+    </message>
+    <message id="scheduling_io_best_effort">
+        <source></source>
+        <translation>Best effort</translation>
+    </message>
+    <message id="scheduling_io_idle">
+        <source></source>
+        <translation>Idle</translation>
+    </message>
+    <message id="scheduling_io_real_time">
+        <source></source>
+        <translation>Real time</translation>
+    </message>
+    <message id="scheduling_io_level">
+        <source></source>
+        <translation>Level:</translation>
+    </message>
+    <message id="scheduling_processors">
+        <source></source>
+        <translation>&amp;Processors (of %1):</translation>
+    </message>
+    <message id="scheduling_processors_tip">
+        <source></source>
+        <translation>Numbers and ranges, for example 0-3,6; this machine has %1</translation>
+    </message>
+    <message id="scheduling_no_processors">
+        <source></source>
+        <translation>Give processors among %1, for example 0 or 0-1,3.</translation>
+    </message>
+    <message id="signal_list">
+        <source></source>
+        <translation>Signals</translation>
+    </message>
+    <message id="signal_column_name">
+        <source></source>
+        <translation>Signal</translation>
+    </message>
+    <message id="signal_column_number">
+        <source></source>
+        <translation>No.</translation>
+    </message>
+    <message id="signal_column_effect">
+        <source></source>
+        <translation>What it is for</translation>
+    </message>
+    <message id="signal_realtime">
+        <source></source>
+        <translation>For the program’s own use; ends it otherwise</translation>
+    </message>
+    <message id="signal_hup">
+        <source></source>
+        <translation>Its terminal is gone; services often read their settings anew</translation>
+    </message>
+    <message id="signal_int">
+        <source></source>
+        <translation>Interrupt, as Ctrl+C in a terminal; ends it</translation>
+    </message>
+    <message id="signal_quit">
+        <source></source>
+        <translation>As Ctrl+\ in a terminal; ends it, memory kept</translation>
+    </message>
+    <message id="signal_ill">
+        <source></source>
+        <translation>It came to a forbidden instruction; ends it, memory kept</translation>
+    </message>
+    <message id="signal_trap">
+        <source></source>
+        <translation>Of debuggers; ends it, memory kept</translation>
+    </message>
+    <message id="signal_abrt">
+        <source></source>
+        <translation>It gave up; ends it, memory kept</translation>
+    </message>
+    <message id="signal_bus">
+        <source></source>
+        <translation>It reached for missing memory; ends it, memory kept</translation>
+    </message>
+    <message id="signal_fpe">
+        <source></source>
+        <translation>It calculated something impossible; ends it, memory kept</translation>
+    </message>
+    <message id="signal_kill">
+        <source></source>
+        <translation>Ends it at once; it cannot save anything</translation>
+    </message>
+    <message id="signal_usr1">
+        <source></source>
+        <translation>For the program’s own use; ends it otherwise</translation>
+    </message>
+    <message id="signal_segv">
+        <source></source>
+        <translation>It reached for foreign memory; ends it, memory kept</translation>
+    </message>
+    <message id="signal_usr2">
+        <source></source>
+        <translation>For the program’s own use; ends it otherwise</translation>
+    </message>
+    <message id="signal_pipe">
+        <source></source>
+        <translation>Nothing reads what it writes any more; ends it</translation>
+    </message>
+    <message id="signal_alrm">
+        <source></source>
+        <translation>Its alarm clock rang; ends it</translation>
+    </message>
+    <message id="signal_term">
+        <source></source>
+        <translation>Asks it to end</translation>
+    </message>
+    <message id="signal_stkflt">
+        <source></source>
+        <translation>Unused; ends it</translation>
+    </message>
+    <message id="signal_chld">
+        <source></source>
+        <translation>A child has ended or stopped; does nothing</translation>
+    </message>
+    <message id="signal_cont">
+        <source></source>
+        <translation>Goes on after a stop</translation>
+    </message>
+    <message id="signal_stop">
+        <source></source>
+        <translation>Stands still until it is continued; cannot be caught</translation>
+    </message>
+    <message id="signal_tstp">
+        <source></source>
+        <translation>Stop, as Ctrl+Z in a terminal</translation>
+    </message>
+    <message id="signal_ttin">
+        <source></source>
+        <translation>It reads a terminal from the background; stops it</translation>
+    </message>
+    <message id="signal_ttou">
+        <source></source>
+        <translation>It writes to a terminal from the background; stops it</translation>
+    </message>
+    <message id="signal_urg">
+        <source></source>
+        <translation>Urgent data arrived; does nothing</translation>
+    </message>
+    <message id="signal_xcpu">
+        <source></source>
+        <translation>Its processor time is used up; ends it, memory kept</translation>
+    </message>
+    <message id="signal_xfsz">
+        <source></source>
+        <translation>A file became too large; ends it, memory kept</translation>
+    </message>
+    <message id="signal_vtalrm">
+        <source></source>
+        <translation>Its clock of processor time rang; ends it</translation>
+    </message>
+    <message id="signal_prof">
+        <source></source>
+        <translation>The clock of a profile rang; ends it</translation>
+    </message>
+    <message id="signal_winch">
+        <source></source>
+        <translation>Its window has another size; does nothing</translation>
+    </message>
+    <message id="signal_poll">
+        <source></source>
+        <translation>A file can be read or written; ends it</translation>
+    </message>
+    <message id="signal_pwr">
+        <source></source>
+        <translation>The power fails; ends it</translation>
+    </message>
+    <message id="signal_sys">
+        <source></source>
+        <translation>It made a forbidden system call; ends it, memory kept</translation>
+    </message>
     <message id="toolbar_select_children">
         <source></source>
         <translation>Children</translation>
@@ -4631,6 +4991,10 @@ Free: %5</translation>
         <source></source>
         <translation>Scope of the process table</translation>
     </message>
+    <message id="setting_title_WEB_SEARCH_ADDRESS">
+        <source></source>
+        <translation>Address that the web is searched with</translation>
+    </message>
     <message id="setting_title_MAIN_WINDOW_FOLDED_PROGRAMS">
         <source></source>
         <translation>Folded programs</translation>
@@ -4982,6 +5346,10 @@ Free: %5</translation>
     <message id="setting_MAIN_WINDOW_SCOPE">
         <source></source>
         <translation>Which processes the table shows: 0 – all, 1 – the user’s own, 2 – other users’, 3 – applications, 4 – all but kernel threads, 5 – what has used a processor since the last update.</translation>
+    </message>
+    <message id="setting_WEB_SEARCH_ADDRESS">
+        <source></source>
+        <translation>An address of the web, in which %1 stands for the name of the program. Empty for the usual one.</translation>
     </message>
     <message id="setting_MAIN_WINDOW_FOLDED_PROGRAMS">
         <source></source>

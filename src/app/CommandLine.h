@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/ListingFormat.h"
+#include "process_control/ListingFormat.h"
 
 namespace lurkwell {
 

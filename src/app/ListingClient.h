@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "app/ListingFormat.h"
 #include "consolidator/ProcessInformationClient.h"
+#include "process_control/ListingFormat.h"
 #include "query/Query.h"
 
 namespace lurkwell {

@@ -94,13 +94,14 @@ class DesktopMachine {
   DBusEventBus eventBus;
   LinuxCostlyFigures costlyFigures;
   LinuxProcessDetails processDetails;
+  LinuxScheduler scheduler;
   ClassicProcessManager applications{processManager, eventBus, eventBus.Connection()};
 
   Machine services{clock,        runLoop,       preferenceDomain, processTable,
                    applications, iconServices,  hostStatistics,   tools,
                    signals,      namedPipes,    authorization,    bundle,
                    alerts,       logFiles,      hotKeys,          screen,
-                   eventBus,     costlyFigures, processDetails};
+                   eventBus,     costlyFigures, processDetails,   scheduler};
 };
 
 int RunInTerminal(const CommandLine& commandLine) {

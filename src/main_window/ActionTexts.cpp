@@ -3,21 +3,16 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
-#include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QHeaderView>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QStringList>
-#include <QStyle>
-#include <QTableWidget>
-#include <QVBoxLayout>
 #include <algorithm>
+#include <csignal>
+#include <cstring>
 #include <map>
 #include <string>
 #include <utility>
+#include <variant>
 
+#include "platform/FigureWords.h"
 #include "resources/Resources.h"
 #include "windows/PropertyText.h"
 
@@ -33,6 +28,11 @@ const char* CommandWord(const ActionPlan& plan) {
       return IsQuitAlone(plan) ? "quit" : "kill";
     case ProcessCommand::kHalt:
       return "halt";
+    case ProcessCommand::kSignal:
+      return "signal";
+    case ProcessCommand::kNice:
+    case ProcessCommand::kScheduling:
+      return "scheduling";
     default:
       return "lower";
   }
@@ -71,8 +71,13 @@ QString StepSentences(const ActionTarget& target) {
   return text;
 }
 
-const char* OutcomeWord(ProcessCommand command, KillStep step) {
-  switch (command) {
+const char* OutcomeWord(const SchedulingChange& change) {
+  if (std::holds_alternative<SchedulingPolicy>(change)) return "policy";
+  return std::holds_alternative<IOPriority>(change) ? "io_priority" : "processors";
+}
+
+const char* OutcomeWord(const ActionPlan& plan, KillStep step) {
+  switch (plan.command) {
     case ProcessCommand::kKill:
       return step == KillStep::kQuit ? "quit" : step == KillStep::kForce ? "force" : "terminate";
     case ProcessCommand::kHalt:
@@ -85,8 +90,39 @@ const char* OutcomeWord(ProcessCommand command, KillStep step) {
       return "normal";
     case ProcessCommand::kLowPriority:
       return "low";
+    case ProcessCommand::kSignal:
+      return "signal";
+    case ProcessCommand::kNice:
+      return "nice";
+    case ProcessCommand::kScheduling:
+      return OutcomeWord(plan.argument.change);
   }
   return "terminate";
+}
+
+QString ArgumentText(const SchedulingChange& change) {
+  if (const auto* policy = std::get_if<SchedulingPolicy>(&change)) {
+    const auto word = QString::fromStdString(SchedulerInWords(policy->policy));
+    return policy->priority == 0 ? word
+                                 : word + QLatin1Char(' ') + QString::number(policy->priority);
+  }
+  if (const auto* priority = std::get_if<IOPriority>(&change))
+    return QString::fromStdString(IOPriorityInWords(priority->Packed()));
+  return QString::fromStdString(ListOfProcessors(std::get<ProcessorSet>(change)));
+}
+
+/// What a command was given besides the processes; "" for those that are given nothing.
+QString ArgumentText(const ActionPlan& plan) {
+  switch (plan.command) {
+    case ProcessCommand::kSignal:
+      return QLatin1String("SIG") + SignalName(plan.argument.number);
+    case ProcessCommand::kNice:
+      return QString::number(plan.argument.number);
+    case ProcessCommand::kScheduling:
+      return ArgumentText(plan.argument.change);
+    default:
+      return {};
+  }
 }
 
 /// Why nothing was done, where the helper says nothing about it.
@@ -104,6 +140,8 @@ const char* ReasonWord(ActionResult result) {
       return "no_helper";
     case ActionResult::kNoTime:
       return "no_time";
+    case ActionResult::kImpossible:
+      return "impossible";
     default:
       return "nobody";
   }
@@ -171,155 +209,35 @@ QString QuestionWarning(const ActionPlan& plan) {
   return warnings.join(QLatin1Char(' '));
 }
 
-QString ReportText(ProcessCommand command, const std::vector<ActionReport>& reports) {
+QString ReportText(const ActionPlan& plan, const std::vector<ActionReport>& reports) {
   std::map<std::string, std::vector<const ActionReport*>> done;
   std::map<std::pair<ActionResult, QString>, std::vector<const ActionReport*>> failed;
   for (const auto& report : reports) {
     if (report.outcome == ActionResult::kDone)
-      done[OutcomeWord(command, report.step)].push_back(&report);
+      done[OutcomeWord(plan, report.step)].push_back(&report);
     else
       failed[{report.outcome.result, ReasonText(report.outcome)}].push_back(&report);
   }
   QStringList sentences;
   for (const auto& [why, whom] : failed)
     sentences.append(LocalizedString("action_failed").arg(Whom(whom), why.second));
-  for (const auto& [word, whom] : done)
-    sentences.append(
-        Text("action_done_", word.c_str(), whom.size() == 1 ? "_one" : "_several").arg(Whom(whom)));
+  const auto argument = ArgumentText(plan);
+  for (const auto& [word, whom] : done) {
+    const auto text = Text("action_done_", word.c_str(), whom.size() == 1 ? "_one" : "_several");
+    sentences.append(argument.isEmpty() ? text.arg(Whom(whom)) : text.arg(Whom(whom), argument));
+  }
   return sentences.join(QLatin1Char(' '));
 }
 
-namespace {
-
-constexpr int kWidestText = 480;
-constexpr int kMostRowsInSight = 8;
-
-QLabel* MakeLabel(const QString& text, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
-  label->setMinimumWidth(kWidestText);
-  label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
-  return label;
+QString SignalName(std::int32_t signal) {
+  if (signal >= SIGRTMIN) return QStringLiteral("RTMIN+%1").arg(signal - SIGRTMIN);
+  const char* name = ::sigabbrev_np(signal);
+  return name != nullptr ? QString::fromLatin1(name) : QString::number(signal);
 }
 
-QString OwnerText(const ProcessDescription& description) {
-  if (description.owner.empty()) return LocalizedString("action_unknown");
-  return PlainText(description.owner);
-}
-
-QString CommandText(const ProcessDescription& description) {
-  if (description.commandLine.empty()) return LocalizedString("action_unknown");
-  return PlainText(description.commandLine);
-}
-
-}  // namespace
-
-ActionQuestion::ActionQuestion(const ActionPlan& plan, QWidget* parent)
-    : QDialog(parent), mPlan(plan) {
-  setObjectName(QStringLiteral("action_question"));
-  setWindowTitle(LocalizedString("action_ask_window"));
-  setWindowModality(Qt::WindowModal);
-  auto* layout = new QHBoxLayout(this);
-  auto* picture = new QLabel(this);
-  const int side = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-  picture->setPixmap(style()
-                         ->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this)
-                         .pixmap(QSize(side, side), devicePixelRatioF()));
-  layout->addWidget(picture, 0, Qt::AlignTop);
-  auto* contents = new QVBoxLayout;
-  layout->addLayout(contents, 1);
-  auto* title = MakeLabel(QuestionTitle(plan), this);
-  title->setObjectName(QStringLiteral("action_title"));
-  auto font = title->font();
-  font.setBold(true);
-  title->setFont(font);
-  contents->addWidget(title);
-  auto* text = MakeLabel(QuestionText(plan), this);
-  text->setObjectName(QStringLiteral("action_text"));
-  contents->addWidget(text);
-  if (const auto warning = QuestionWarning(plan); !warning.isEmpty()) {
-    auto* label = MakeLabel(warning, this);
-    label->setObjectName(QStringLiteral("action_warning"));
-    label->setFont(font);
-    contents->addWidget(label);
-  }
-  contents->addWidget(plan.targets.size() == 1 ? MakeDetails() : MakeList(), 1);
-  auto* buttons = new QDialogButtonBox(this);
-  auto* agree = buttons->addButton(QuestionButton(plan), QDialogButtonBox::AcceptRole);
-  agree->setAutoDefault(false);
-  auto* cancel = buttons->addButton(QDialogButtonBox::Cancel);
-  cancel->setDefault(true);
-  cancel->setFocus();
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  contents->addWidget(buttons);
-  // For screen readers: the title is the dialog's, the sentences what it says.
-  setAccessibleName(title->text());
-  setAccessibleDescription(text->text());
-}
-
-QWidget* ActionQuestion::MakeDetails() {
-  auto* details = new QWidget(this);
-  auto* form = new QFormLayout(details);
-  form->setContentsMargins(0, 0, 0, 0);
-  const auto& description = mPlan.targets.front().description;
-  auto* owner = new QLabel(OwnerText(description), details);
-  owner->setObjectName(QStringLiteral("action_owner"));
-  owner->setTextFormat(Qt::PlainText);
-  form->addRow(LocalizedString("action_owner"), owner);
-  // As long as it likes: it breaks anywhere, and scrolls.
-  auto* command = new QPlainTextEdit(CommandText(description), details);
-  command->setObjectName(QStringLiteral("action_command_line"));
-  command->setReadOnly(true);
-  command->setTabChangesFocus(true);
-  command->setWordWrapMode(QTextOption::WrapAnywhere);
-  command->setFixedHeight(command->fontMetrics().lineSpacing() * 3 +
-                          2 * static_cast<int>(command->document()->documentMargin()) +
-                          2 * command->frameWidth());
-  form->addRow(LocalizedString("action_command_line"), command);
-  return details;
-}
-
-QWidget* ActionQuestion::MakeList() {
-  const bool hasSteps = mPlan.command == ProcessCommand::kKill;
-  QStringList titles{LocalizedString("action_column_name"), LocalizedString("action_column_pid"),
-                     LocalizedString("action_column_owner")};
-  if (hasSteps) titles.append(LocalizedString("action_column_step"));
-  titles.append(LocalizedString("action_column_command"));
-  const auto rows = static_cast<int>(mPlan.targets.size());
-  auto* list = new QTableWidget(rows, static_cast<int>(titles.size()), this);
-  list->setObjectName(QStringLiteral("action_list"));
-  list->setAccessibleName(QuestionTitle(mPlan));
-  list->setHorizontalHeaderLabels(titles);
-  list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  list->verticalHeader()->hide();
-  list->verticalHeader()->setMinimumSectionSize(1);
-  list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 6);
-  list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  list->setSelectionMode(QAbstractItemView::NoSelection);
-  list->setTabKeyNavigation(false);
-  list->setWordWrap(false);
-  for (int row = 0; row < rows; ++row) {
-    const auto& target = mPlan.targets[static_cast<std::size_t>(row)];
-    QStringList cells{PlainText(target.name), QString::number(target.process.pid),
-                      OwnerText(target.description)};
-    if (hasSteps) cells.append(StepText(target));
-    cells.append(CommandText(target.description));
-    for (int column = 0; column < cells.size(); ++column) {
-      auto* cell = new QTableWidgetItem(cells[column]);
-      cell->setToolTip(cells[column]);
-      list->setItem(row, column, cell);
-    }
-  }
-  list->resizeColumnsToContents();
-  list->horizontalHeader()->setStretchLastSection(true);
-  const int seen = std::min(rows, kMostRowsInSight);
-  list->setMinimumHeight(list->horizontalHeader()->sizeHint().height() +
-                         seen * list->verticalHeader()->defaultSectionSize() +
-                         2 * list->frameWidth());
-  list->setMinimumWidth(kWidestText + 120);
-  return list;
+QString SignalText(std::int32_t signal) {
+  if (signal >= SIGRTMIN) return LocalizedString("signal_realtime");
+  return Text("signal_", SignalName(signal).toLower().toLatin1().constData());
 }
 
 }  // namespace lurkwell

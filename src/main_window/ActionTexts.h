@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QDialog>
 #include <QString>
+#include <cstdint>
 #include <vector>
 
 #include "process_control/ActionPlan.h"
@@ -23,22 +23,11 @@ QString StepText(const ActionTarget& target);
 QString QuestionWarning(const ActionPlan& plan);
 
 /// What became of a command, on one line; "" when there is nothing to say.
-QString ReportText(ProcessCommand command, const std::vector<ActionReport>& reports);
+QString ReportText(const ActionPlan& plan, const std::vector<ActionReport>& reports);
 
-/// Asks whether to carry out a plan. Says what will happen to which process: its name, pid, owner
-/// and command line, and, for a kill, the step that is next and what has been tried; of several, a
-/// list. Return alone refuses. Main thread.
-class ActionQuestion final : public QDialog {
-  Q_OBJECT
-
- public:
-  ActionQuestion(const ActionPlan& plan, QWidget* parent);
-
- private:
-  QWidget* MakeDetails();
-  QWidget* MakeList();
-
-  const ActionPlan& mPlan;
-};
+/// "TERM", "RTMIN+3".
+QString SignalName(std::int32_t signal);
+/// What it is for, and what happens to a program that is not prepared for it.
+QString SignalText(std::int32_t signal);
 
 }  // namespace lurkwell

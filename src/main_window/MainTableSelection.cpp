@@ -1,14 +1,26 @@
 // Sorting by a click, and the selection, which follows processes rather than places.
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <algorithm>
+#include <string>
 #include <unordered_set>
+#include <utility>
 
+#include "consolidator/PropertyCatalogue.h"
+#include "consolidator/PropertyValues.h"
 #include "consolidator/WholeNames.h"
 #include "main_window/vqMainTableController.h"
+#include "platform/Clock.h"
+#include "platform/Machine.h"
 #include "windows/PropertyText.h"
 #include "windows/RowSorting.h"
 
 namespace lurkwell {
+namespace {
+
+constexpr char kPrintedShare[] = "pid_cpu_share";
+
+}  // namespace
 
 RowComparison vqMainTableController::sortSelectorForColumn(std::string_view key) const {
   return ComparisonForColumn(key);
@@ -186,6 +198,45 @@ QString vqMainTableController::selectionAsText() const {
     text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
   }
   return text;
+}
+
+std::vector<std::string> vqMainTableController::printedKeys() const {
+  std::vector<std::string> keys;
+  const auto add = [&keys](std::string_view key) {
+    if (std::ranges::find(keys, key) == keys.end()) keys.emplace_back(key);
+  };
+  const auto& header = *fTable->horizontalHeader();
+  for (int place = 0; place < header.count(); ++place) {
+    const auto& column = fColumns[static_cast<std::size_t>(header.logicalIndex(place))];
+    if (column.key == kInternalCPUPercent) {
+      add(kPrintedShare);
+    } else if (column.key == kInternalMemGraph) {
+      add(KeyText(kPidRsz));
+      add(KeyText(kPidVsz));
+    } else if (!column.isInternal && column.key != kMetaPid) {
+      add(KeyText(column.key));
+    }
+  }
+  return keys;
+}
+
+QString vqMainTableController::selectionAs(ListingForm form) const {
+  const auto keys = printedKeys();
+  const auto pids = selectedPids();
+  if (pids.empty()) return {};
+  std::vector<ListingColumn> columns;
+  for (const auto& key : keys) columns.push_back({key, GetProcPropertyType(key.c_str(), nullptr)});
+  Listing listing{.time = TheMachine().clock.Now(), .processes = {}};
+  for (const auto pid : pids) {
+    auto& process =
+        listing.processes.emplace_back(PrintedProcess{.pid = pid, .depth = 0, .values = {}});
+    for (const auto& key : keys)
+      // The table finds it itself.
+      process.values.push_back(key == kPrintedShare
+                                   ? fRows.Find(pid)->Get(kInternalCpuUsage)
+                                   : GetPIDPropertyValueForOutput(pid, key.c_str()));
+  }
+  return QString::fromStdString(ListingText(form, std::move(columns), listing));
 }
 
 }  // namespace lurkwell

@@ -152,10 +152,25 @@ void MainWindow::ShowArrangement() {
 
 // ---- Commands -----------------------------------------------------------------------------------
 
-void MainWindow::copySelection() {
-  const auto text = mController->selectionAsText();
+namespace {
+
+void Copy(const QString& text) {
   // Processes may have ended in sight; what was copied before is worth more than nothing.
   if (!text.isEmpty()) QApplication::clipboard()->setText(text);
+}
+
+}  // namespace
+
+void MainWindow::copySelection() {
+  Copy(mController->selectionAsText());
+}
+
+void MainWindow::copyAsCsv() {
+  Copy(mController->selectionAs(ListingForm::kCsv));
+}
+
+void MainWindow::copyAsJson() {
+  Copy(mController->selectionAs(ListingForm::kJson));
 }
 
 void MainWindow::showFilter() {

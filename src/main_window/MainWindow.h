@@ -60,6 +60,8 @@ class MainWindow : public QMainWindow, private WindowCommands {
  private:
   void closeWindow() override { close(); }
   void copySelection() override;
+  void copyAsCsv() override;
+  void copyAsJson() override;
   void selectAll() override;
   void showFilter() override;
   void findByPid() override;

@@ -1,17 +1,26 @@
 #include "main_window/ProcessCommands.h"
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
+#include <QStringList>
+#include <QUrl>
 #include <algorithm>
 #include <iterator>
+#include <set>
+#include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <variant>
 
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/WholeNames.h"
 #include "main_window/ActionTexts.h"
+#include "main_window/SchedulingQuestion.h"
+#include "main_window/SignalQuestion.h"
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
+#include "platform/ProcessTable.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
@@ -23,11 +32,40 @@ namespace {
 
 /// More windows than that are not opened by an oversight.
 constexpr std::size_t kManyWindows = 20;
+constexpr std::size_t kManyFolders = 5;
+
+/// %1 is the name of a program.
+constexpr char kSearchAddress[] = "https://duckduckgo.com/?q=%1+linux+process";
+constexpr std::size_t kLongestAddress = 1024;
 
 ProcessSerialNumber SerialNumberOf(std::int32_t pid) {
   ProcessSerialNumber psn;
   PID2PSN(pid, &psn);
   return psn;
+}
+
+std::unordered_map<std::int32_t, std::vector<std::int32_t>> ChildrenByParent() {
+  std::unordered_map<std::int32_t, std::vector<std::int32_t>> children;
+  for (const auto pid : PidBlob()) {
+    const auto value = GetPIDPropertyTypedValue(pid, "pid_parent_pid");
+    const auto* parent = std::get_if<std::int64_t>(&value);
+    if (parent != nullptr && *parent != pid)
+      children[static_cast<std::int32_t>(*parent)].push_back(pid);
+  }
+  return children;
+}
+
+/// Parents first: one that starts its children anew is not there to do so.
+std::vector<std::int32_t> WithDescendants(std::vector<std::int32_t> pids) {
+  const auto byParent = ChildrenByParent();
+  std::unordered_set<std::int32_t> known(pids.begin(), pids.end());
+  for (std::size_t at = 0; at < pids.size(); ++at) {
+    const auto its = byParent.find(pids[at]);
+    if (its == byParent.end()) continue;
+    for (const auto child : its->second)
+      if (known.insert(child).second) pids.push_back(child);
+  }
+  return pids;
 }
 
 bool IsKernelPid(std::int32_t pid) {
@@ -40,24 +78,59 @@ bool IsApplication(std::int32_t pid) {
 
 }  // namespace
 
-void ProcessCommands::Act(ProcessCommand command) {
-  const auto plan = PlanAction(command, mSelection.selectedPids());
-  if (plan.asks && !Confirm(plan)) return;
+void ProcessCommands::Act(ProcessCommand command, const std::vector<std::int32_t>& pids) {
+  const auto plan = PlanAction(command, pids);
+  if (plan.asks) {
+    ActionQuestion question(plan, mSelection.parentOfQuestions());
+    if (!Confirm(question)) return;
+  }
+  mSelection.report(Do(plan));
+}
+
+QString ProcessCommands::Do(const ActionPlan& plan) {
   const auto reports = CarryOut(plan);
   std::vector<std::int32_t> pids;
   pids.reserve(reports.size());
   for (const auto& report : reports) pids.push_back(report.pid);
   mSelection.processesHaveChanged(pids);
-  mSelection.report(ReportText(command, reports));
+  return ReportText(plan, reports);
 }
 
-bool ProcessCommands::Confirm(const ActionPlan& plan) {
-  ActionQuestion question(plan, mSelection.parentOfQuestions());
+bool ProcessCommands::Confirm(ActionQuestion& question) {
   // The rows stay in sight where they were when the question came up.
   mSelection.holdOrder(&question, true);
   const bool agreed = question.exec() == QDialog::Accepted;
   mSelection.holdOrder(&question, false);
   return agreed;
+}
+
+void ProcessCommands::KillWithChildren() {
+  Act(ProcessCommand::kKill, WithDescendants(mSelection.selectedPids()));
+}
+
+void ProcessCommands::SendAnySignal() {
+  auto plan = PlanAction(ProcessCommand::kSignal, mSelection.selectedPids());
+  if (plan.targets.empty()) return mSelection.report(Do(plan));
+  SignalQuestion question(plan, mSelection.parentOfQuestions());
+  if (!Confirm(question)) return;
+  plan.argument.number = question.Signal();
+  mSelection.report(Do(plan));
+}
+
+void ProcessCommands::ChangeScheduling() {
+  auto plan = PlanAction(ProcessCommand::kScheduling, mSelection.selectedPids());
+  if (plan.targets.empty()) return mSelection.report(Do(plan));
+  SchedulingQuestion question(plan, mSelection.parentOfQuestions());
+  if (!Confirm(question)) return;
+  QStringList reports;
+  for (const auto& [command, argument] : question.Changes()) {
+    plan.command = command;
+    plan.argument = argument;
+    reports.append(Do(plan));
+    // Said once.
+    plan.impossible.clear();
+  }
+  mSelection.report(reports.join(QLatin1Char(' ')));
 }
 
 template <typename Action>
@@ -68,7 +141,7 @@ void ProcessCommands::ForSelectedPSNs(Action action) {
     if (!psn.IsNone() && !action(psn))
       failed.push_back({pid, WholeNameOf(pid), {ActionResult::kNobody}});
   }
-  if (!failed.empty()) mSelection.report(ReportText(ProcessCommand::kContinue, failed));
+  if (!failed.empty()) mSelection.report(ReportText({ProcessCommand::kContinue}, failed));
 }
 
 void ProcessCommands::Hide() {
@@ -157,16 +230,46 @@ std::vector<MonitorWindows::OpenWindow> ProcessCommands::OpenWindows() const {
   return open;
 }
 
-void ProcessCommands::SelectChildren() {
-  const auto selected = mSelection.selectedPids();
-  const std::unordered_set<std::int32_t> parents(selected.begin(), selected.end());
-  std::vector<std::int32_t> children;
-  for (const auto pid : PidBlob()) {
-    const auto value = GetPIDPropertyTypedValue(pid, "pid_parent_pid");
-    const auto* parent = std::get_if<std::int64_t>(&value);
-    if (parent != nullptr && parents.contains(static_cast<std::int32_t>(*parent)))
-      children.push_back(pid);
+void ProcessCommands::ShowExecutable() {
+  std::set<std::string> files;
+  for (const auto& process : TheMachine().processTable.Describe(mSelection.selectedPids()))
+    if (!process.executable.empty()) files.insert(process.executable);
+  if (files.empty()) return mSelection.report(LocalizedString("main_window_no_executable"));
+  if (files.size() > kManyFolders)
+    return mSelection.report(LocalizedString("main_window_many_executables").arg(kManyFolders));
+  for (const auto& file : files) {
+    // It may be told after the end of the window.
+    const QPointer<QWidget> window = mSelection.parentOfQuestions();
+    TheMachine().processManager.ShowFile(file, [this, window] {
+      if (window) mSelection.report(LocalizedString("main_window_nothing_to_reveal_with"));
+    });
   }
+}
+
+void ProcessCommands::SearchWeb() {
+  const auto pids = mSelection.selectedPids();
+  if (pids.empty()) return;
+  char address[kLongestAddress] = "";
+  ReadText("WEB_SEARCH_ADDRESS", address, sizeof address);
+  auto text = *address != '\0' ? QString::fromUtf8(address) : QString::fromLatin1(kSearchAddress);
+  const auto name = QString::fromStdString(WholeNameOf(pids.front()));
+  text.replace(QLatin1String("%1"), QString::fromLatin1(QUrl::toPercentEncoding(name)));
+  const QUrl url(text, QUrl::StrictMode);
+  const auto refuse = [this, text, window = QPointer(mSelection.parentOfQuestions())] {
+    if (window) mSelection.report(LocalizedString("main_window_no_search").arg(text));
+  };
+  const bool isOfTheWeb =
+      url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+  if (!isOfTheWeb) return refuse();
+  TheMachine().processManager.ShowAddress(url.toEncoded().toStdString(), refuse);
+}
+
+void ProcessCommands::SelectChildren() {
+  const auto byParent = ChildrenByParent();
+  std::vector<std::int32_t> children;
+  for (const auto pid : mSelection.selectedPids())
+    if (const auto its = byParent.find(pid); its != byParent.end())
+      children.insert(children.end(), its->second.begin(), its->second.end());
   if (children.empty()) return mSelection.report(LocalizedString("main_window_no_children"));
   const auto shown = mSelection.selectPids(children);
   if (shown < children.size())

@@ -14,6 +14,8 @@ class QWidget;
 
 namespace lurkwell {
 
+class ActionQuestion;
+
 /// The list of processes that commands work on. Main thread.
 class ProcessSelection {
  public:
@@ -74,12 +76,20 @@ class ProcessCommands {
   void GiveHighPriority() { Act(ProcessCommand::kHighPriority); }
   void GiveNormalPriority() { Act(ProcessCommand::kNormalPriority); }
   void GiveLowPriority() { Act(ProcessCommand::kLowPriority); }
+  /// Also what these have started, and what that has.
+  void KillWithChildren();
+  void SendAnySignal();
+  void ChangeScheduling();
   void Hide();
   void BringToFront();
   void Reveal();
   /// Brings the applications to the front; where there are none, shows details.
   void Open();
   void ShowDetails();
+  /// Of any process, not only of applications.
+  void ShowExecutable();
+  /// For the name of the first selected process, by the address that the preferences have for it.
+  void SearchWeb();
   void NewCPUHistoryWindow();
   void NewLoggingWindow();
   /// Selects the processes whose parents are selected instead of these.
@@ -87,8 +97,12 @@ class ProcessCommands {
 
  private:
   /// Carries out a command, once the user has agreed where needed.
-  void Act(ProcessCommand command);
-  bool Confirm(const ActionPlan& plan);
+  void Act(ProcessCommand command) { Act(command, mSelection.selectedPids()); }
+  void Act(ProcessCommand command, const std::vector<std::int32_t>& pids);
+  /// Carries it out and gives what became of it.
+  QString Do(const ActionPlan& plan);
+  /// Whether the user agrees to a question, during which rows keep their places.
+  bool Confirm(ActionQuestion& question);
   template <typename Action>
   void ForSelectedPSNs(Action action);
   /// Has a window opened for each selected process, as far as the user and the room agree.

@@ -10,6 +10,8 @@ class WindowCommands {
   virtual ~WindowCommands() = default;
   virtual void closeWindow() = 0;
   virtual void copySelection() = 0;
+  virtual void copyAsCsv() = 0;
+  virtual void copyAsJson() = 0;
   virtual void selectAll() = 0;
   virtual void showFilter() = 0;
   virtual void findByPid() = 0;

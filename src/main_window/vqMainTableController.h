@@ -19,6 +19,7 @@
 #include "main_window/RowTree.h"
 #include "main_window/TableShape.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
+#include "process_control/ListingFormat.h"
 #include "query/Query.h"
 #include "windows/CustomCells.h"
 #include "windows/StripedTableView.h"
@@ -159,6 +160,8 @@ class vqMainTableController final : public vqTableController,
   void doThePreferences() { Q_EMIT preferencesRequested(); }
   /// The selected rows as lines of tab-separated cells, columns as on the screen.
   QString selectionAsText() const;
+  /// The same as the program prints it, values instead of texts.
+  QString selectionAs(ListingForm form) const;
   /// Reads and shows everything now instead of at the next turn.
   void updateNow();
 
@@ -226,6 +229,9 @@ class vqMainTableController final : public vqTableController,
     /// A ps column that the last turn brought no figures for.
     bool isStale = false;
   };
+  /// The properties that columns show, in the order on the screen; pictures show none, bars one or
+  /// two.
+  std::vector<std::string> printedKeys() const;
 
   void BeginInsert(int first, int last) override;
   void EndInsert() override { endInsertRows(); }

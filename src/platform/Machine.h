@@ -18,6 +18,7 @@ class ProcessDetails;
 class ProcessManager;
 class ProcessTable;
 class RunLoop;
+class Scheduler;
 class Screen;
 class Signals;
 class Tools;
@@ -44,6 +45,7 @@ struct Machine {
   EventBus& eventBus;
   CostlyFigures& costlyFigures;
   ProcessDetails& processDetails;
+  Scheduler& scheduler;
 };
 
 /// The installed machine. Any thread. It is a programming error to ask before one is installed.

@@ -72,6 +72,12 @@ class ProcessManager {
     static_cast<void>(path);
     failed();
   }
+
+  /// Has the desktop open an address of the web; otherwise as ShowFile.
+  virtual void ShowAddress(const std::string& url, std::function<void()> failed) {
+    static_cast<void>(url);
+    failed();
+  }
 };
 
 }  // namespace lurkwell

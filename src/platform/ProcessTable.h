@@ -26,6 +26,8 @@ struct ProcessDescription {
   std::int32_t nice = 0;
   /// Its arguments with blanks between them, any bytes; "" when it has none or they are not known.
   std::string commandLine;
+  /// The path of its program; "" for those of the kernel, and where this user may not know.
+  std::string executable;
 };
 
 class ProcessFigures;

@@ -149,6 +149,7 @@ inline constexpr Setting kRows[] = {
     Text("MAIN_WINDOW_UNFOLDED_APPLICATIONS", kNextStart),
     Record("DETAILS_WINDOW_FRAME", kAbsent),
     Record("DETAILS_WINDOW_PAGE", 0, kNewWindows),
+    Text("WEB_SEARCH_ADDRESS", kAtOnce),
     Number("HAS_RUN_TWO_POINT_THREE", kAbsent, 0, 1, kNextStart),
     Number("HAS_RUN_TWO_POINT_FOUR", kAbsent, 0, 1, kNextStart),
 

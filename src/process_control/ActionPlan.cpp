@@ -23,7 +23,8 @@ bool IsKnownApplication(std::int32_t pid) {
 }
 
 bool IsSignal(Command command) {
-  return command == Command::kKill || command == Command::kHalt || command == Command::kContinue;
+  return command == Command::kKill || command == Command::kHalt || command == Command::kContinue ||
+         command == Command::kSignal;
 }
 
 /// Why the command can do nothing to the process; kDone when it can.
@@ -57,12 +58,12 @@ bool MustAsk(const ActionPlan& plan) {
   return isMilder && (plan.targets.size() > 1 || CountOthers(plan) > 0);
 }
 
-ActionReport CarryOut(Command command, const ActionTarget& target) {
+ActionReport CarryOut(const ActionPlan& plan, const ActionTarget& target) {
   const auto pid = target.process.pid;
   ActionReport report{pid, target.name, {ActionResult::kGone}, target.step};
   if (GetPidsStartStamp(pid) != target.process.startStamp) return report;
   if (pid < 0 && !IsKnownApplication(pid)) return report;
-  switch (command) {
+  switch (plan.command) {
     case Command::kKill: {
       auto outcome = KillProcess(pid);
       report.step = outcome.step;
@@ -84,14 +85,24 @@ ActionReport CarryOut(Command command, const ActionTarget& target) {
     case Command::kLowPriority:
       report.outcome = SetLowPriority(pid);
       break;
+    case Command::kSignal:
+      report.outcome = SendSignal(pid, plan.argument.number);
+      break;
+    case Command::kNice:
+      report.outcome = SetNice(pid, plan.argument.number);
+      break;
+    case Command::kScheduling:
+      report.outcome = ChangeScheduling(pid, plan.argument.change);
+      break;
   }
   return report;
 }
 
 }  // namespace
 
-ActionPlan PlanAction(ProcessCommand command, std::span<const std::int32_t> pids) {
-  ActionPlan plan{command};
+ActionPlan PlanAction(ProcessCommand command, std::span<const std::int32_t> pids,
+                      const CommandArgument& argument) {
+  ActionPlan plan{command, argument};
   std::unordered_map<std::int32_t, ProcessDescription> descriptions;
   for (auto& description : TheMachine().processTable.Describe(pids))
     descriptions[description.process.pid] = std::move(description);
@@ -122,7 +133,7 @@ std::vector<ActionReport> CarryOut(const ActionPlan& plan) {
   std::vector<ActionReport> reports;
   reports.reserve(plan.targets.size() + plan.impossible.size());
   const CommandTime time;
-  for (const auto& target : plan.targets) reports.push_back(CarryOut(plan.command, target));
+  for (const auto& target : plan.targets) reports.push_back(CarryOut(plan, target));
   reports.insert(reports.end(), plan.impossible.begin(), plan.impossible.end());
   return reports;
 }

@@ -19,6 +19,16 @@ enum class ProcessCommand : std::uint8_t {
   kHighPriority,
   kNormalPriority,
   kLowPriority,
+  kSignal,
+  kNice,
+  kScheduling,
+};
+
+/// What some commands need besides.
+struct CommandArgument {
+  /// Of a signal its number, of a nice value that.
+  std::int32_t number = 0;
+  SchedulingChange change = {};
 };
 
 /// A process that something is to be done to.
@@ -44,8 +54,10 @@ struct ActionReport {
 
 struct ActionPlan {
   ProcessCommand command;
+  CommandArgument argument = {};
   /// Whether the user has to agree first: to each kill and halt, and, where several processes or
-  /// somebody else's are meant, also to quitting applications and to a lower priority.
+  /// another user's are meant, also to quitting applications and to a lower priority. What has an
+  /// argument was asked for in a dialog that shows the processes.
   bool asks = false;
   std::vector<ActionTarget> targets = {};
   /// Those that nothing can be done to, and why.
@@ -54,7 +66,8 @@ struct ActionPlan {
 
 /// A made-up pid whose guest has gone is left out, and so is one that is halted already from a
 /// halt.
-ActionPlan PlanAction(ProcessCommand command, std::span<const std::int32_t> pids);
+ActionPlan PlanAction(ProcessCommand command, std::span<const std::int32_t> pids,
+                      const CommandArgument& argument = {});
 
 /// Does it, to those that still are the processes they were; what became of each, the impossible
 /// ones included. Waits for the helper no longer than CommandTime says.

@@ -149,6 +149,41 @@ bool GoesOn(ActionResult result, KillStep step) {
          (step == KillStep::kTerminate && result == ActionResult::kRefused);
 }
 
+/// The helper's verb for a signal; null for those that it does not send.
+const char* VerbOf(std::int32_t signal) {
+  switch (signal) {
+    case SIGTERM:
+      return "kill_normal";
+    case SIGKILL:
+      return "kill_harsh";
+    case SIGSTOP:
+      return "kill_halt";
+    case SIGCONT:
+      return "kill_cont";
+    default:
+      return nullptr;
+  }
+}
+
+ActionOutcome SendByHelper(std::int32_t pid, std::int32_t signal) {
+  const char* verb = VerbOf(signal);
+  return verb != nullptr ? Act(verb, pid) : ActionOutcome{ActionResult::kRefused};
+}
+
+ActionResult ResultOf(SchedulingAnswer answer) {
+  switch (answer) {
+    case SchedulingAnswer::kDone:
+      return ActionResult::kDone;
+    case SchedulingAnswer::kGone:
+      return ActionResult::kGone;
+    case SchedulingAnswer::kRefused:
+      return ActionResult::kRefused;
+    case SchedulingAnswer::kImpossible:
+      return ActionResult::kImpossible;
+  }
+  return ActionResult::kRefused;
+}
+
 }  // namespace
 
 CommandTime::CommandTime() {
@@ -256,6 +291,28 @@ ActionOutcome SetNormalPriority(std::int32_t pid) {
 
 ActionOutcome SetLowPriority(std::int32_t pid) {
   return ChangePriority(pid, kLowNice);
+}
+
+ActionOutcome SetNice(std::int32_t pid, std::int32_t nice) {
+  return ChangePriority(pid, nice);
+}
+
+ActionOutcome ChangeScheduling(std::int32_t pid, const SchedulingChange& change) {
+  if (const auto obstacle = Obstacle(pid); obstacle != ActionResult::kDone) return {obstacle};
+  return {ResultOf(TheMachine().scheduler.Change({pid, GetPidsStartStamp(pid)}, change))};
+}
+
+ActionOutcome SendSignal(std::int32_t pid, std::int32_t signal) {
+  if (const auto obstacle = Obstacle(pid); obstacle != ActionResult::kDone) return {obstacle};
+  if (!TheMachine().signals.Send({pid, GetPidsStartStamp(pid)}, signal)) {
+    if (!IsAsShown(pid)) return {ActionResult::kGone};
+    auto outcome = SendByHelper(pid, signal);
+    if (outcome != ActionResult::kDone) return outcome;
+  }
+  if (signal == SIGSTOP && !GetProcessAction(pid, kProcessActionHalt, nullptr))
+    AddProcessAction(pid, kProcessActionHalt, 0);
+  if (signal == SIGCONT) RemoveProcessAction(pid, kProcessActionHalt);
+  return {ActionResult::kDone};
 }
 
 ActionOutcome HaltProcess(std::int32_t pid) {

@@ -9,6 +9,7 @@
 #include "consolidator/ProcessActionList.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "platform/ProcessIdentity.h"
+#include "platform/Scheduler.h"
 
 /// What the user can do to a process, and the memory of what was done. Main thread only. A pid
 /// below 2 is refused by every action before anything is sent, and so is one that has passed to
@@ -25,6 +26,7 @@ enum class ActionResult : std::uint8_t {
   kNoHelper,      ///< there is no helper, or it did not answer
   kNoTime,        ///< not tried: the command's time was over before its turn came
   kNobody,        ///< this desktop has nobody that could be asked
+  kImpossible,    ///< the machine has no such processor, policy or precedence
 };
 
 /// Of one action.
@@ -107,6 +109,16 @@ inline constexpr std::int32_t kLowNice = 20;
 ActionOutcome SetHighPriority(std::int32_t pid);
 ActionOutcome SetNormalPriority(std::int32_t pid);
 ActionOutcome SetLowPriority(std::int32_t pid);
+
+/// Any nice value of ReniceProcessPID; all but 0 leave an entry, too.
+ActionOutcome SetNice(std::int32_t pid, std::int32_t nice);
+
+/// With the user's own rights.
+ActionOutcome ChangeScheduling(std::int32_t pid, const SchedulingChange& change);
+
+/// Sends any signal with the user's own rights and, where these do not reach, by the helper, which
+/// sends SIGTERM, SIGKILL, SIGSTOP and SIGCONT and no others. The action list follows.
+ActionOutcome SendSignal(std::int32_t pid, std::int32_t signal);
 
 /// Stops and resumes a process, and keeps its entry in the action list, which what was refused
 /// leaves as it was. What the list did not expect is a line on standard error.

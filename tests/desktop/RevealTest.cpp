@@ -127,6 +127,8 @@ TEST(Reveal, AFileIsShownOrElseItsFolderOrElseItIsSaid) {
   bus.End();
   EXPECT_TRUE(comesTo([&] { return opener.Opened() == "/tmp/a b"; }));
   EXPECT_EQ(failures, 0);
+  manager.ShowAddress("https://search.example/?q=a%26b", [&failures] { ++failures; });
+  EXPECT_TRUE(SoonTrue([&] { return opener.Opened() == "https://search.example/?q=a%26b"; }));
   opener.Answer(3);
   EXPECT_TRUE(comesTo([&] { return failures == 1; })) << "it has found nothing that shows folders";
   QFile::remove(opener.Path("xdg-open"));

@@ -1,6 +1,15 @@
 // What is done to the selected processes, seen from what reaches the machine.
 #include "main_window/CommandsTest.h"
 
+#include <QComboBox>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <algorithm>
+
+#include "preferences/Settings.h"
+
 namespace lurkwell {
 namespace {
 
@@ -321,6 +330,139 @@ TEST_F(CommandsTest, ChildrenAreSelectedInsteadOfTheirParents) {
   controller().toolbar()->items().first()->trigger();
   EXPECT_EQ(Selected(), "301 302");
   EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("1 of the children"));
+}
+
+TEST_F(CommandsTest, AProcessIsKilledWithAllThatItStartedParentsFirst) {
+  for (const auto& [pid, parent] : {std::pair(301, 300), std::pair(302, 300), std::pair(303, 301)})
+    machine.processTable.Birth(pid, "p" + std::to_string(pid), parent);
+  OpenWith({300, 304});
+  Select({300});
+  ChooseAndAgree("menu_process_kill_with_children", "Kill");
+  EXPECT_NE(question.find("Kill 4 processes?"), std::string::npos) << question;
+  const auto done = Done();
+  EXPECT_EQ(done.find("Signals.Send 300 15\n"), 0u) << done;
+  EXPECT_EQ(std::ranges::count(done, '\n'), 4) << done;
+  EXPECT_LT(done.find("301"), done.find("303")) << done;
+}
+
+TEST_F(CommandsTest, AnySignalCanBeSentAndTheHelperSendsWhatItKnows) {
+  OpenWith({300, 301});
+  Select({300});
+  const auto choose = [](const char* name) {
+    return [name](QDialog& box) {
+      auto* list = box.findChild<QTableWidget*>(QStringLiteral("signal_list"));
+      ASSERT_EQ(list->item(list->currentRow(), 0)->text(), QLatin1String("TERM"));
+      const auto found = list->findItems(QLatin1String(name), Qt::MatchExactly);
+      ASSERT_EQ(found.size(), 1) << name;
+      list->setCurrentItem(found.front());
+    };
+  };
+  ChooseAndAgree("menu_process_signal", "Send", choose("HUP"));
+  EXPECT_NE(question.find("RTMIN+0|"), std::string::npos) << question;
+  EXPECT_EQ(question.find("signal_"), std::string::npos) << "every signal has a text: " << question;
+  EXPECT_EQ(Said(), "p300 (300) was sent SIGHUP.");
+  ChooseAndAgree("menu_process_signal", "Send", choose("STOP"));
+  EXPECT_NE(Badge(300), "");
+  EXPECT_EQ(Done(), "Signals.Send 300 1\nSignals.Send 300 19\n");
+  machine.signals.refuses = true;
+  ChooseAndAgree("menu_process_signal", "Send", choose("CONT"));
+  EXPECT_EQ(Badge(300), "");
+  ChooseAndAgree("menu_process_signal", "Send", choose("USR1"));
+  EXPECT_EQ(
+      Done(),
+      "Signals.Send 300 18\nHelper Lkw Action Request:\\nkill_cont 300\nSignals.Send 300 10\n");
+  EXPECT_TRUE(QString::fromStdString(Said()).startsWith("Nothing was done to p300 (300):"))
+      << Said();
+  ChooseAndAgree("menu_process_signal", "Cancel", choose("KILL"));
+  EXPECT_EQ(Done(), "");
+}
+
+TEST_F(CommandsTest, PriorityAndProcessorsBecomeWhatWasChanged) {
+  OpenWith({300, 301});
+  Select({300});
+  const auto number = [](QDialog& box, const char* name, int value) {
+    box.findChild<QSpinBox*>(QLatin1String(name))->setValue(value);
+  };
+  const auto pick = [](QDialog& box, const char* name, int data) {
+    auto* choices = box.findChild<QComboBox*>(QLatin1String(name));
+    choices->setCurrentIndex(choices->findData(data));
+  };
+  const auto processors = [](QDialog& box) {
+    return box.findChild<QLineEdit*>(QStringLiteral("scheduling_processors"));
+  };
+  ChooseAndAgree("menu_process_scheduling", "Apply");
+  EXPECT_EQ(Done(), "") << "nothing was changed";
+  ChooseAndAgree("menu_process_scheduling", "Apply", [&](QDialog& box) {
+    number(box, "scheduling_nice", 5);
+    pick(box, "scheduling_policy", 2);
+    number(box, "scheduling_priority", 7);
+    pick(box, "scheduling_io_class", 2);
+    number(box, "scheduling_io_level", 6);
+    processors(box)->setText(QStringLiteral("0-1, 3"));
+  });
+  EXPECT_EQ(Done(),
+            "Helper Lkw Action Request:\\nrenice 300 5\nScheduler.Policy 300 2 7\n"
+            "Scheduler.IOPriority 300 16390\nScheduler.Processors 300 0-1,3\n");
+  EXPECT_NE(Said().find("p300 (300) now has the nice value 5."), std::string::npos) << Said();
+  EXPECT_NE(Said().find("runs on the processors 0-1,3."), std::string::npos) << Said();
+  RemoveProcessAction(300, kProcessActionRenice);
+  machine.scheduler.answer = SchedulingAnswer::kRefused;
+  Select({300, 301});
+  ChooseAndAgree("menu_process_scheduling", "Apply", [&](QDialog& box) {
+    EXPECT_TRUE(processors(box)->text().isEmpty()) << "they may differ";
+    processors(box)->setText(QStringLiteral("2-9"));
+    box.accept();
+    EXPECT_TRUE(box.isVisible());
+    const auto* complaint = box.findChild<QLabel*>(QStringLiteral("scheduling_complaint"));
+    EXPECT_TRUE(complaint->text().contains(QLatin1String("among 0-3")));
+    processors(box)->setText(QStringLiteral("2"));
+  });
+  EXPECT_EQ(Done(), "Scheduler.Processors 300 2\nScheduler.Processors 301 2\n");
+  EXPECT_TRUE(QString::fromStdString(Said()).startsWith("Nothing was done to 2 processes"))
+      << Said();
+}
+
+TEST_F(CommandsTest, ProgramsAreShownAndSearchedFor) {
+  OpenWith({300, 301});
+  machine.processTable.Find(301)->executable = "/opt/a b/tool";
+  Select({300});
+  Choose("menu_process_show_executable");
+  EXPECT_EQ(Done(), "");
+  EXPECT_TRUE(QString::fromStdString(Said()).startsWith("What program")) << Said();
+  Select({300, 301});
+  Choose("menu_process_show_executable");
+  EXPECT_EQ(Done(), "ShowFile /opt/a b/tool\n");
+  machine.processTable.Birth(305, "a&b %1#c", 300);
+  Turn();
+  Select({305});
+  Choose("menu_process_search_web");
+  EXPECT_EQ(Done(), "ShowAddress https://duckduckgo.com/?q=a%26b%20%251%23c+linux+process\n");
+  StoreText("WEB_SEARCH_ADDRESS", "file:///etc/passwd?%1");
+  Choose("menu_process_search_web");
+  EXPECT_EQ(Done(), "");
+  EXPECT_NE(Said().find("file:///etc/passwd"), std::string::npos) << Said();
+  machine.processManager.hasFileManager = false;
+  StoreText("WEB_SEARCH_ADDRESS", "http://search.example/%1");
+  Choose("menu_process_search_web");
+  EXPECT_NE(Said().find("http://search.example/a"), std::string::npos) << Said();
+}
+
+TEST_F(CommandsTest, RowsAreCopiedAsOthersProgramsReadThem) {
+  OpenWith({300, 301});
+  machine.processTable.Birth(302, "=cmd|',\"", 300);
+  Turn();
+  Select({302});
+  Choose("menu_edit_copy_csv");
+  const auto csv = QApplication::clipboard()->text();
+  EXPECT_TRUE(csv.startsWith(QLatin1String("time,pid,"))) << csv.toStdString();
+  EXPECT_TRUE(csv.contains(QLatin1String(",\"'=cmd|',\"\"\","))) << csv.toStdString();
+  Choose("menu_edit_copy_json");
+  const auto json = QJsonDocument::fromJson(QApplication::clipboard()->text().toUtf8());
+  const auto process = json[QLatin1String("processes")][0];
+  EXPECT_EQ(process[QLatin1String("pid")].toInt(), 302);
+  EXPECT_EQ(process[QLatin1String("values")][QLatin1String("meta_name")].toString(),
+            QLatin1String("=cmd|',\""));
+  EXPECT_TRUE(process[QLatin1String("values")].toObject().contains(QLatin1String("pid_cpu_share")));
 }
 
 }  // namespace

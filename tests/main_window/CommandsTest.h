@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTimer>
+#include <functional>
 #include <string>
 
 #include "main_window/MainWindowTest.h"
@@ -28,6 +29,7 @@ class CommandsTest : public MainWindowTest {
     std::string text;
     for (const auto& line : machine.log.Lines())
       if (line.starts_with("Helper Lkw") || line.starts_with("Signals") ||
+          line.starts_with("Scheduler") || line.starts_with("Show") ||
           line.starts_with("ProcessManager"))
         text += line + "\n";
     machine.log.Clear();
@@ -39,11 +41,13 @@ class CommandsTest : public MainWindowTest {
     return name != nullptr ? name : "";
   }
 
-  /// Answers the next question with a button, after noting all that it says.
-  void Answer(const char* button) {
-    QTimer::singleShot(10, &machineRoom, [this, button] {
+  /// Answers the next question with a button, after noting all that it says and choosing what there
+  /// is to choose.
+  void Answer(const char* button, const std::function<void(QDialog&)>& choose = {}) {
+    QTimer::singleShot(10, &machineRoom, [this, button, choose] {
       auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      if (box == nullptr) return Answer(button);
+      if (box == nullptr) return Answer(button, choose);
+      if (choose) choose(*box);
       question.clear();
       for (const auto* label : box->findChildren<QLabel*>()) {
         EXPECT_NE(label->textFormat(), Qt::RichText);
@@ -65,9 +69,10 @@ class CommandsTest : public MainWindowTest {
   }
 
   /// Chooses an item whose question is agreed to.
-  void ChooseAndAgree(const char* id, const char* button) {
+  void ChooseAndAgree(const char* id, const char* button,
+                      const std::function<void(QDialog&)>& choose = {}) {
     question.clear();
-    Answer(button);
+    Answer(button, choose);
     Choose(id);
     EXPECT_NE(question, "") << id << " asked nothing";
   }

@@ -5,6 +5,7 @@
 
 #include "platform/ControlGroupPath.h"
 #include "platform/FigureWords.h"
+#include "platform/ProcessorSet.h"
 
 namespace lurkwell {
 namespace {
@@ -97,6 +98,19 @@ TEST(FigureWordsTest, SetsOfCapabilitiesAreNamed) {
   EXPECT_EQ(CapabilitiesInWords(0x2000), "net_raw");
   EXPECT_EQ(CapabilitiesInWords(0x800020), "kill, sys_nice");
   EXPECT_EQ(CapabilitiesInWords(std::int64_t{1} << 50), "50");
+}
+
+TEST(ProcessorSetTest, ListsAreReadAndWritten) {
+  const struct {
+    const char *text, *list;
+  } lists[] = {{"0", "0"},         {"0-3,6", "0-3,6"}, {"6, 3 - 0", ""},  {"6,0-2,1,2", "0-2,6"},
+               {"63-65", "63-65"}, {" 5 ", "5"},       {"", ""},          {",", ""},
+               {"0,", ""},         {"-1", ""},         {"1-", ""},        {"0x1", ""},
+               {"16383", "16383"}, {"16384", ""},      {"0-99999999", ""}};
+  for (const auto& [text, list] : lists)
+    EXPECT_EQ(ListOfProcessors(ProcessorsOfList(text).value_or(ProcessorSet{})), list) << text;
+  EXPECT_TRUE(AreAmong({0x6}, {0xF}));
+  EXPECT_FALSE(AreAmong({0, 1}, {0xF})) << "the 64th is not there";
 }
 
 }  // namespace

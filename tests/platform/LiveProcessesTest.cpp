@@ -10,16 +10,19 @@
 #include <time.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "platform/ProcessFigures.h"
 #include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/LinuxScheduler.h"
 #include "platform/linux/LinuxServices.h"
 #include "platform/linux/ProcFiles.h"
 #include "support/PidNamespace.h"
@@ -385,6 +388,67 @@ TEST(LiveSignals, ReachTheProcessThatIsMeantAndNoOther) {
               if (::setresuid(61001, 61001, 61001) != 0) return "no other user";
               const bool sent = LinuxSignals().Send({::getppid(), 0}, SIGWINCH);
               return sent ? "sent to another user's process" : "";
+            }),
+            "");
+}
+
+TEST(LiveScheduler, ChangesAllThreadsOfTheProcessThatIsMeantAndNoOther) {
+  // Threads before and after the change; the second inherits it.
+  const pid_t pid = Fork([] {
+    std::jthread sleeper([] { std::this_thread::sleep_for(std::chrono::minutes(5)); });
+    std::this_thread::sleep_for(std::chrono::minutes(5));
+    return 0;
+  });
+  const auto threads = [pid] {
+    std::vector<std::string> found;
+    for (const auto& entry :
+         std::filesystem::directory_iterator("/proc/" + std::to_string(pid) + "/task"))
+      found.push_back(entry.path());
+    return found;
+  };
+  while (threads().size() < 2) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  LinuxScheduler scheduler;
+  const auto identity = LinuxProcessTable().CurrentIdentity(pid);
+  ASSERT_TRUE(identity);
+  const auto all = scheduler.Processors();
+  const auto first = ProcessorsOfList(ListOfProcessors(all).substr(0, 1));
+  ASSERT_TRUE(first);
+  const ProcessIdentity other{pid, identity->startStamp + 1};
+  EXPECT_EQ(scheduler.Change(other, *first), SchedulingAnswer::kGone);
+  EXPECT_EQ(ListOfProcessors(scheduler.StateOf(*identity)->processors), ListOfProcessors(all));
+  EXPECT_EQ(scheduler.Change(*identity, *first), SchedulingAnswer::kDone);
+  constexpr std::int32_t kBatch = 3, kIdleClass = 3;
+  EXPECT_EQ(scheduler.Change(*identity, SchedulingPolicy{kBatch, 0}), SchedulingAnswer::kDone);
+  EXPECT_EQ(scheduler.Change(*identity, IOPriority{kIdleClass, 0}), SchedulingAnswer::kDone);
+  for (const auto& thread : threads()) {
+    const auto number = std::stoi(thread.substr(thread.rfind('/') + 1));
+    EXPECT_EQ(ListOfProcessors(ReadAssignment(number)->processors), ListOfProcessors(*first));
+    EXPECT_NE(
+        ReadFile(thread + "/status").find("Cpus_allowed_list:\t" + ListOfProcessors(*first) + "\n"),
+        std::string::npos);
+    EXPECT_EQ(::sched_getscheduler(number), kBatch);
+    EXPECT_EQ(IOPriority::OfPacked(ReadAssignment(number)->ioPriority),
+              (IOPriority{kIdleClass, 0}));
+  }
+  EXPECT_EQ(scheduler.StateOf(*identity)->policy, (SchedulingPolicy{kBatch, 0}));
+  EXPECT_EQ(scheduler.Change(*identity, SchedulingPolicy{99, 0}), SchedulingAnswer::kImpossible);
+  EXPECT_EQ(scheduler.Change(*identity, *ProcessorsOfList("16383")), SchedulingAnswer::kImpossible);
+  for (const std::int32_t system : {1, 0, -1})
+    EXPECT_EQ(scheduler.Change({system, 0}, *first), SchedulingAnswer::kRefused) << system;
+  ::kill(pid, SIGKILL);
+  WaitFor(pid);
+  EXPECT_EQ(scheduler.Change(*identity, *first), SchedulingAnswer::kGone);
+  EXPECT_FALSE(scheduler.StateOf(*identity));
+}
+
+TEST(LiveScheduler, SaysThatAnotherUsersProcessIsRefused) {
+  EXPECT_EQ(RunForked([]() -> std::string {
+              if (::setresuid(61001, 61001, 61001) != 0) return "no other user";
+              LinuxScheduler scheduler;
+              const ProcessIdentity parent{::getppid(), 0};
+              return scheduler.Change(parent, SchedulingPolicy{3, 0}) == SchedulingAnswer::kRefused
+                         ? ""
+                         : "not refused";
             }),
             "");
 }

@@ -40,7 +40,8 @@ Machine MachineOf(SimulatedMachine& simulated, Own&... own) {
           ServiceOf(its.screen, own...),
           ServiceOf(its.eventBus, own...),
           ServiceOf(its.costlyFigures, own...),
-          ServiceOf(its.processDetails, own...)};
+          ServiceOf(its.processDetails, own...),
+          ServiceOf(its.scheduler, own...)};
 }
 
 }  // namespace lurkwell

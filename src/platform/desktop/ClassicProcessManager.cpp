@@ -181,4 +181,8 @@ void ClassicProcessManager::ShowFile(const std::string& path, std::function<void
   mDesktop.ShowFile(path, std::move(failed));
 }
 
+void ClassicProcessManager::ShowAddress(const std::string& url, std::function<void()> failed) {
+  mDesktop.ShowAddress(url, std::move(failed));
+}
+
 }  // namespace lurkwell

@@ -42,6 +42,7 @@ class ClassicProcessManager final : public QObject, public ProcessManager {
   bool Reveal(ProcessSerialNumber psn) override;
   void WhenRevealFails(std::function<void(const std::string& file)> tell) override;
   void ShowFile(const std::string& path, std::function<void()> failed) override;
+  void ShowAddress(const std::string& url, std::function<void()> failed) override;
 
  private Q_SLOTS:
   void GuestsHaveChanged();

@@ -281,6 +281,10 @@ void DesktopProcessManager::ShowFile(const std::string& path, std::function<void
   mDesktop->Files().ShowFileOrFolder(path, std::move(failed));
 }
 
+void DesktopProcessManager::ShowAddress(const std::string& url, std::function<void()> failed) {
+  OpenByTheDesktop(QString::fromStdString(url), failed);
+}
+
 std::optional<DesktopProcessManager::IconSource> DesktopProcessManager::IconSourceOf(
     ProcessSerialNumber psn) {
   const auto* known = mDesktop->Applications().Find(psn);

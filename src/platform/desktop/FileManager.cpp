@@ -24,8 +24,9 @@ QDBusConnection SessionBus(const std::string& address) {
   return QDBusConnection::connectToBus(QString::fromStdString(address), name);
 }
 
-/// The toolkit's own way does not say whether anything was shown.
-void OpenFolder(const QString& folder, const std::function<void()>& failed) {
+}  // namespace
+
+void OpenByTheDesktop(const QString& folderOrAddress, const std::function<void()>& failed) {
   // It may run as long as what it has opened, and is left alone then.
   auto* opener = new QProcess;
   opener->setStandardInputFile(QProcess::nullDevice());
@@ -41,10 +42,8 @@ void OpenFolder(const QString& folder, const std::function<void()>& failed) {
     opener->deleteLater();
     if (status != 0) failed();
   });
-  opener->start(QStringLiteral("xdg-open"), {folder});
+  opener->start(QStringLiteral("xdg-open"), {folderOrAddress});
 }
-
-}  // namespace
 
 bool FileManager::Ask(const std::string& path, std::function<void()> failed) const {
   if (mBusAddress.empty() || path.empty()) return false;
@@ -74,7 +73,7 @@ bool FileManager::Show(const std::string& path) const {
 
 void FileManager::ShowFileOrFolder(const std::string& path, std::function<void()> failed) const {
   const auto openFolder = [folder = QFileInfo(QFile::decodeName(path.c_str())).path(),
-                           failed = std::move(failed)] { OpenFolder(folder, failed); };
+                           failed = std::move(failed)] { OpenByTheDesktop(folder, failed); };
   if (!Ask(path, openFolder)) openFolder();
 }
 

@@ -6,6 +6,10 @@
 
 namespace lurkwell {
 
+/// Has the desktop open a folder or an address. `failed` is called, now or later, when it does not:
+/// the toolkit's own way would not say so. Needs a QCoreApplication. Main thread only.
+void OpenByTheDesktop(const QString& folderOrAddress, const std::function<void()>& failed);
+
 /// The desktop's file manager, reached over the session bus. Needs a QCoreApplication. Main thread
 /// only.
 class FileManager {

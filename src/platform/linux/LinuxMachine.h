@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxNamedPipes.h"
 #include "platform/linux/LinuxProcessDetails.h"
 #include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/LinuxScheduler.h"
 #include "platform/linux/LinuxServices.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/NoDesktop.h"
@@ -38,12 +39,13 @@ class LinuxMachine {
   NoEventBus eventBus;
   LinuxCostlyFigures costlyFigures;
   LinuxProcessDetails processDetails;
+  LinuxScheduler scheduler;
 
   Machine services{clock,          runLoop,       preferenceDomain, processTable,
                    processManager, iconServices,  hostStatistics,   tools,
                    signals,        namedPipes,    authorization,    bundle,
                    alerts,         logFiles,      hotKeys,          screen,
-                   eventBus,       costlyFigures, processDetails};
+                   eventBus,       costlyFigures, processDetails,   scheduler};
 };
 
 }  // namespace lurkwell

@@ -247,24 +247,6 @@ std::optional<Assignment> ReadAssignment(std::int32_t pid) {
                     static_cast<std::int32_t>(priority)};
 }
 
-std::string ListOfProcessors(const std::vector<std::uint64_t>& set) {
-  const std::size_t count = set.size() * 64;
-  const auto has = [&](std::size_t number) {
-    return number < count && (set[number / 64] >> number % 64 & 1) != 0;
-  };
-  std::string list;
-  for (std::size_t first = 0; first < count; ++first) {
-    if (!has(first)) continue;
-    std::size_t last = first;
-    while (has(last + 1)) ++last;
-    if (!list.empty()) list += ',';
-    list += std::to_string(first);
-    if (last > first) list += '-' + std::to_string(last);
-    first = last;
-  }
-  return list;
-}
-
 std::size_t DescriptorLimit() {
   rlimit limit{};
   if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return 0;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/FileDescriptor.h"
+#include "platform/ProcessorSet.h"
 
 namespace lurkwell {
 
@@ -33,8 +34,7 @@ std::optional<Scheduling> ReadScheduling(std::int32_t pid);
 
 /// Where its first thread may run and how it stands at the disks, which others can change.
 struct Assignment {
-  /// A bit for each processor.
-  std::vector<std::uint64_t> processors;
+  ProcessorSet processors;
   /// Class and level, as the kernel packs them.
   std::int32_t ioPriority = 0;
 
@@ -42,9 +42,6 @@ struct Assignment {
 };
 
 std::optional<Assignment> ReadAssignment(std::int32_t pid);
-
-/// The numbers of the set's processors as the kernel's lists have them: "0-3,6".
-std::string ListOfProcessors(const std::vector<std::uint64_t>& set);
 
 /// A process as the listing names it.
 struct ListedProcess {

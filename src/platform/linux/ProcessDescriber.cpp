@@ -70,6 +70,9 @@ std::optional<Reading> ReadWhatIsQuick(ProcFiles& files, std::int32_t pid) {
   description.isStopped = stat->state == 'T';
   description.isKernelThread =
       (NthNumber<std::uint64_t>(stat->fields, 6).value_or(0) & kIsKernelThread) != 0;
+  std::string executable(kLongestCommandLine, '\0');
+  const auto length = files.ReadLinkIn(folder.Get(), "exe", executable);
+  if (length > 0) description.executable = executable.substr(0, static_cast<std::size_t>(length));
   const auto status = ReadFile(files, folder.Get(), "status");
   const auto line = status.find("\nUid:");
   if (line != std::string::npos)

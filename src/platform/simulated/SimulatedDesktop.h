@@ -61,6 +61,10 @@ class SimulatedProcessManager final : public ProcessManager {
     mLog.Add("ShowFile " + path);
     if (!hasFileManager) failed();
   }
+  void ShowAddress(const std::string& url, std::function<void()> failed) override {
+    mLog.Add("ShowAddress " + url);
+    if (!hasFileManager) failed();
+  }
 
   std::function<void(const std::string&)> revealFails;
   bool hasFileManager = true;

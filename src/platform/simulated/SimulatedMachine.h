@@ -36,13 +36,14 @@ class SimulatedMachine {
   SimulatedEventBus eventBus{log};
   SimulatedCostlyFigures costlyFigures{processTable, log};
   SimulatedProcessDetails processDetails{processTable, log};
+  SimulatedScheduler scheduler{log};
   SimulatedHelper helper{processTable, log};
 
   Machine services{clock,          runLoop,       preferenceDomain, processTable,
                    processManager, iconServices,  hostStatistics,   tools,
                    signals,        namedPipes,    authorization,    bundle,
                    alerts,         logFiles,      hotKeys,          screen,
-                   eventBus,       costlyFigures, processDetails};
+                   eventBus,       costlyFigures, processDetails,   scheduler};
 };
 
 }  // namespace lurkwell

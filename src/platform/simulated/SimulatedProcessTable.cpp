@@ -92,7 +92,8 @@ std::vector<ProcessDescription> SimulatedProcessTable::Describe(
                             process->isKernelThread,
                             process->entry.state == RunState::kStopped,
                             process->entry.nice,
-                            process->commandLine});
+                            process->commandLine,
+                            process->executable});
   }
   return descriptions;
 }

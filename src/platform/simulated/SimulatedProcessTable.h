@@ -32,6 +32,7 @@ struct SimulatedProcess {
   /// "user" is this program's.
   std::string owner = "user";
   std::string commandLine;
+  std::string executable;
   bool isKernelThread = false;
 
   /// A figure to be changed; times are microseconds.

@@ -16,6 +16,7 @@
 #include "platform/HostStatistics.h"
 #include "platform/LogFiles.h"
 #include "platform/PreferenceDomain.h"
+#include "platform/Scheduler.h"
 #include "platform/Signals.h"
 #include "platform/simulated/AccessLog.h"
 
@@ -55,6 +56,32 @@ class SimulatedSignals final : public Signals {
   }
 
   bool refuses = false;
+
+ private:
+  AccessLog& mLog;
+};
+
+/// Changes are recorded; what is told of processes, and the answer, are the test's to set.
+class SimulatedScheduler final : public Scheduler {
+ public:
+  explicit SimulatedScheduler(AccessLog& log) : mLog(log) {}
+
+  std::optional<SchedulingState> StateOf(ProcessIdentity) override { return state; }
+  SchedulingAnswer Change(ProcessIdentity process, const SchedulingChange& change) override {
+    const auto pid = " " + std::to_string(process.pid) + " ";
+    if (const auto* policy = std::get_if<SchedulingPolicy>(&change))
+      mLog.Add("Scheduler.Policy" + pid + std::to_string(policy->policy) + " " +
+               std::to_string(policy->priority));
+    else if (const auto* priority = std::get_if<IOPriority>(&change))
+      mLog.Add("Scheduler.IOPriority" + pid + std::to_string(priority->Packed()));
+    else
+      mLog.Add("Scheduler.Processors" + pid + ListOfProcessors(std::get<ProcessorSet>(change)));
+    return answer;
+  }
+  ProcessorSet Processors() const override { return {0xF}; }
+
+  std::optional<SchedulingState> state = SchedulingState{{0, 0}, {0, 0}, {0xF}};
+  SchedulingAnswer answer = SchedulingAnswer::kDone;
 
  private:
   AccessLog& mLog;

@@ -1,8 +1,9 @@
-#include "app/ListingFormat.h"
+#include "process_control/ListingFormat.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <ctime>
 #include <string_view>
 #include <utility>
@@ -319,6 +320,18 @@ std::unique_ptr<ListingFormat> MakeListingFormat(ListingForm form,
       break;
   }
   return std::make_unique<TextFormat>(std::move(columns), isTree);
+}
+
+std::string ListingText(ListingForm form, std::vector<ListingColumn> columns,
+                        const Listing& listing) {
+  char* text = nullptr;
+  std::size_t size = 0;
+  std::FILE* out = ::open_memstream(&text, &size);
+  if (out == nullptr) return {};
+  MakeListingFormat(form, std::move(columns), false)->Write(listing, out);
+  std::fclose(out);
+  const std::unique_ptr<char, decltype(&std::free)> owned(text, &std::free);
+  return owned ? std::string(owned.get(), size) : std::string();
 }
 
 }  // namespace lurkwell

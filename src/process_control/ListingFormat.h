@@ -47,4 +47,8 @@ enum class ListingForm : std::uint8_t { kText, kJson, kJsonLines, kCsv };
 std::unique_ptr<ListingFormat> MakeListingFormat(ListingForm form,
                                                  std::vector<ListingColumn> columns, bool isTree);
 
+/// One update as a text.
+std::string ListingText(ListingForm form, std::vector<ListingColumn> columns,
+                        const Listing& listing);
+
 }  // namespace lurkwell
