@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kRowsInSight = 9;
 
-std::vector<std::int32_t> Signals() {
+std::vector<std::int32_t> AllSignals() {
   std::vector<std::int32_t> signals;
   // The numbers between the two kinds are the C library's own.
   for (std::int32_t signal = 1; signal <= SIGSYS; ++signal) signals.push_back(signal);
@@ -25,7 +25,7 @@ std::vector<std::int32_t> Signals() {
 
 SignalQuestion::SignalQuestion(const ActionPlan& plan, QWidget* parent)
     : ActionQuestion(plan, parent) {
-  const auto signals = Signals();
+  const auto signals = AllSignals();
   mList = new QTableWidget(static_cast<int>(signals.size()), 3, this);
   mList->setObjectName(QStringLiteral("signal_list"));
   mList->setAccessibleName(LocalizedString("signal_list"));

@@ -95,8 +95,8 @@ void DetailsTable::SetWidths() {
     const auto title = mModel->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
     header.setSectionResizeMode(i, width == 0 ? QHeaderView::Stretch : QHeaderView::Interactive);
     // A title has room for its arrow.
-    header.resizeSection(i,
-                         std::max(width * character, fontMetrics().horizontalAdvance(title) + 28));
+    header.resizeSection(i, std::max(width * character,
+                                     fontMetrics().horizontalAdvance(title) + 3 * character + 24));
   }
 }
 
