@@ -3317,15 +3317,15 @@ Free: %5</translation>
     </message>
     <message id="menu_process_kill_with_children">
         <source></source>
-        <translation>Quit or Kill with C&amp;hildren</translation>
+        <translation>Quit or Kill with Child&amp;ren</translation>
     </message>
     <message id="menu_process_signal">
         <source></source>
-        <translation>Send &amp;Signal…</translation>
+        <translation>Send Si&amp;gnal…</translation>
     </message>
     <message id="menu_process_scheduling">
         <source></source>
-        <translation>Pr&amp;iority and Processors…</translation>
+        <translation>&amp;Priority and Processors…</translation>
     </message>
     <message id="menu_process_show_executable">
         <source></source>

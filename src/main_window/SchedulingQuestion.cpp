@@ -36,12 +36,12 @@ constexpr Choice kIOClasses[] = {{"scheduling_io_none", 0},
                                  {"scheduling_io_real_time", kIORealTime}};
 
 /// A box of choices at the one that counts now, or at leaving it.
-QComboBox* MakeBox(std::span<const Choice> choices, std::optional<int> now, QWidget* parent) {
+QComboBox* MakeBox(std::span<const Choice> choices, int now, QWidget* parent) {
   auto* box = new QComboBox(parent);
   for (const auto& choice : choices) box->addItem(LocalizedString(choice.text), choice.number);
-  if (!now || box->findData(*now) < 0)
+  if (box->findData(now) < 0)
     box->insertItem(0, LocalizedString("scheduling_unchanged"), kUnchanged);
-  box->setCurrentIndex(now ? std::max(box->findData(*now), 0) : 0);
+  box->setCurrentIndex(std::max(box->findData(now), 0));
   return box;
 }
 
@@ -119,8 +119,7 @@ void SchedulingQuestion::AddNice(QFormLayout& form) {
 }
 
 void SchedulingQuestion::AddPolicy(QFormLayout& form) {
-  const auto now = mNow ? std::optional<int>(mNow->policy.policy) : std::nullopt;
-  mPolicy = MakeBox(kPolicies, now, this);
+  mPolicy = MakeBox(kPolicies, mNow ? mNow->policy.policy : kUnchanged, this);
   mPolicy->setObjectName(QStringLiteral("scheduling_policy"));
   mPolicy->setToolTip(LocalizedString("scheduling_policy_tip"));
   mPriority = MakeSpin(1, 99, mNow ? std::max(mNow->policy.priority, 1) : 1, this);
@@ -131,12 +130,12 @@ void SchedulingQuestion::AddPolicy(QFormLayout& form) {
 }
 
 void SchedulingQuestion::AddIOPriority(QFormLayout& form) {
-  constexpr int kUsualLevel = 4;
-  const auto now = mNow ? std::optional<int>(mNow->ioPriority.classNumber) : std::nullopt;
-  mIOClass = MakeBox(kIOClasses, now, this);
+  constexpr IOPriority kUsual{kUnchanged, 4};
+  const auto now = mNow ? mNow->ioPriority : kUsual;
+  mIOClass = MakeBox(kIOClasses, now.classNumber, this);
   mIOClass->setObjectName(QStringLiteral("scheduling_io_class"));
   mIOClass->setToolTip(LocalizedString("scheduling_io_tip"));
-  mIOLevel = MakeSpin(0, 7, now && HasLevels(*now) ? mNow->ioPriority.level : kUsualLevel, this);
+  mIOLevel = MakeSpin(0, 7, HasLevels(now.classNumber) ? now.level : kUsual.level, this);
   mIOLevel->setObjectName(QStringLiteral("scheduling_io_level"));
   form.addRow(LocalizedString("scheduling_io_class"),
               Beside(mIOClass, "scheduling_io_level", mIOLevel, this));

@@ -7,6 +7,7 @@ namespace lurkwell {
 namespace {
 
 constexpr std::size_t kBits = 64;
+constexpr std::size_t kNumberOfNoProcessor = 16'384;
 
 bool Has(const ProcessorSet& set, std::size_t number) {
   return number / kBits < set.size() && (set[number / kBits] >> number % kBits & 1) != 0;
@@ -16,7 +17,7 @@ bool Has(const ProcessorSet& set, std::size_t number) {
 std::optional<std::size_t> TakeNumber(std::string_view& list) {
   std::size_t number = 0;
   const auto [end, error] = std::from_chars(list.data(), list.data() + list.size(), number);
-  if (error != std::errc() || number >= kMostProcessors) return std::nullopt;
+  if (error != std::errc() || number >= kNumberOfNoProcessor) return std::nullopt;
   list.remove_prefix(static_cast<std::size_t>(end - list.data()));
   return number;
 }

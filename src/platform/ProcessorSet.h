@@ -11,14 +11,11 @@ namespace lurkwell {
 /// A bit for each processor of a machine. Pure; any thread.
 using ProcessorSet = std::vector<std::uint64_t>;
 
-/// More than the kernel knows.
-inline constexpr std::size_t kMostProcessors = 16'384;
-
 /// The numbers of the set's processors as the kernel's lists have them: "0-3,6".
 std::string ListOfProcessors(const ProcessorSet& set);
 
 /// The set of such a list, in which blanks, repetitions and any order are fine; nothing for any
-/// other text and for an empty set.
+/// other text, an empty set and numbers of 16,384 and above, which no kernel has.
 std::optional<ProcessorSet> ProcessorsOfList(std::string_view list);
 
 /// Whether all of `some` are among `all`.

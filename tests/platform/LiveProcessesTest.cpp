@@ -393,12 +393,9 @@ TEST(LiveSignals, ReachTheProcessThatIsMeantAndNoOther) {
 }
 
 TEST(LiveScheduler, ChangesAllThreadsOfTheProcessThatIsMeantAndNoOther) {
-  // Threads before and after the change; the second inherits it.
-  const pid_t pid = Fork([] {
-    std::jthread sleeper([] { std::this_thread::sleep_for(std::chrono::minutes(5)); });
-    std::this_thread::sleep_for(std::chrono::minutes(5));
-    return 0;
-  });
+  Child child(
+      [] { std::thread([] { std::this_thread::sleep_for(std::chrono::minutes(5)); }).detach(); });
+  const pid_t pid = child.Pid();
   const auto threads = [pid] {
     std::vector<std::string> found;
     for (const auto& entry :
@@ -435,8 +432,7 @@ TEST(LiveScheduler, ChangesAllThreadsOfTheProcessThatIsMeantAndNoOther) {
   EXPECT_EQ(scheduler.Change(*identity, *ProcessorsOfList("16383")), SchedulingAnswer::kImpossible);
   for (const std::int32_t system : {1, 0, -1})
     EXPECT_EQ(scheduler.Change({system, 0}, *first), SchedulingAnswer::kRefused) << system;
-  ::kill(pid, SIGKILL);
-  WaitFor(pid);
+  child.End();
   EXPECT_EQ(scheduler.Change(*identity, *first), SchedulingAnswer::kGone);
   EXPECT_FALSE(scheduler.StateOf(*identity));
 }
