@@ -62,8 +62,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   DetailsWindows& detailsWindows() { return mDetailsWindows; }
 
   /// The desktop asks programs to quit by an event that would close the windows first, as if the
-  /// user had done it. A user who closes the last window quits; when it goes because its process has
-  /// ended, the main window comes.
+  /// user had done it. A user who closes the last window quits; when it goes because its process
+  /// has ended, the main window comes.
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:

@@ -47,7 +47,6 @@ QStringList DefaultToolbarItems();
 /// Whether a button can be used; false for what is no button of a command.
 bool IsToolbarButtonEnabled(std::string_view identifier, const SelectionFacts& facts);
 
-
 /// An item of the toolbar on its way under the mouse, within this program alone. Main thread only.
 struct ToolbarDrag {
   /// Of an item; empty for the whole default set.

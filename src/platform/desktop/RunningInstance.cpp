@@ -63,8 +63,8 @@ RunningInstance::Answer RunningInstance::Ask(const QString& method) {
   if (answer.type() == QDBusMessage::ReplyMessage) return Answer::kDone;
   const QString error = answer.errorName();
   const bool hasNoOwner = error.endsWith(QLatin1String(".NameHasNoOwner")) ||
-                        error.endsWith(QLatin1String(".ServiceUnknown")) ||
-                        error.endsWith(QLatin1String(".Disconnected"));
+                          error.endsWith(QLatin1String(".ServiceUnknown")) ||
+                          error.endsWith(QLatin1String(".Disconnected"));
   return hasNoOwner ? Answer::kNobody : Answer::kSilent;
 }
 

@@ -58,7 +58,6 @@ class LinuxProcessTable final : public ProcessTable {
     return ProcessDescriber(mFiles).Describe(pids);
   }
 
-
  private:
   /// Entries in order of pid, the idle task last, and, at the same places, what is known beyond
   /// them.
