@@ -24,8 +24,6 @@
 namespace lurkwell {
 namespace {
 
-constexpr char kControllerUnit[] = "vqMainTableController";
-
 /// A character's worth of a column, in points, unless the font has wider digits.
 constexpr double kPointsPerCharacter = 6.0;
 
