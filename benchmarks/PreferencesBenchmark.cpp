@@ -47,7 +47,7 @@ class Store {
                    Absent<NamedPipes>(),     Absent<Authorization>(),  Absent<Bundle>(),
                    Absent<Alerts>(),         Absent<LogFiles>(),       Absent<HotKeys>(),
                    Absent<Screen>(),         Absent<EventBus>(),       Absent<CostlyFigures>(),
-                   Absent<ProcessDetails>()};
+                   Absent<ProcessDetails>(), Absent<Scheduler>()};
   MachineInstallation mInstallation;
 };
 
