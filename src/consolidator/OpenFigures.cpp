@@ -20,16 +20,15 @@ class OpenPass {
   explicit OpenPass(TimeValue now) : mNeeds(now), mRates(now, mNeeds.OfRates()) {}
 
   void Run() LURKWELL_IN_REGION {
-    const bool mustList =
-        gRecords.Empty() || gIsBirthDue || mNeeds.OfEnds() || mTable.MayHaveBirths();
+    const bool mustList = gRecords.Empty() || gIsBirthDue || mTable.MayHaveBirths();
     if (mustList || !Refresh()) List();
   }
 
  private:
-  /// False when a process that is followed has ended.
+  /// False when a process has ended that is followed, or any where ends are to be told.
   bool Refresh() LURKWELL_IN_REGION {
     if (!mNeeds.AreThereAny()) return true;
-    const auto entries = mTable.Refresh(mWanted);
+    const auto entries = mTable.Refresh(mWanted, mNeeds.OfEnds());
     if (!entries) return false;
     for (const auto& entry : *entries) {
       if (entry.current == 0 && entry.read == 0) continue;

@@ -84,8 +84,10 @@ class ProcessTable {
   virtual bool MayHaveBirths() = 0;
 
   /// The entries of the last Read, brought up to date as far as is wanted, without a look at who is
-  /// there; nothing when one of those that are wanted has ended, so that Read has to follow.
-  virtual std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted& wanted) = 0;
+  /// new; nothing when one of those that are wanted has ended, or, with `ends`, any, so that Read
+  /// has to follow, whose entries then tell what both have read.
+  virtual std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted& wanted,
+                                                                    bool ends) = 0;
 
   /// What the process of an entry of the last Read or Refresh has used, as it was last read. The
   /// idle task's times are those of the idle machine and of its waiting for input and output.

@@ -180,40 +180,53 @@ void ExpectWholeProcesses(const ScriptedProc& proc, std::span<const ProcessTable
   }
 }
 
-enum class Mishap { kEnds, kIsReplaced, kDescriptorsRunOut };
+/// A fork takes its number first and has it for long before its process is there.
+enum class Mishap { kEnds, kIsReplaced, kDescriptorsRunOut, kIsBorn };
 
 constexpr std::int32_t kProcesses = 100;
+/// In accesses: it reaches from one pass into the next.
+constexpr int kLongFork = 110;
 
-/// Two passes, in which the mishap comes before one access, and one after it, which shows all.
-/// Returns whether there was an access of that number.
-bool SurvivesMishap(Mishap mishap, int access) {
+/// Two passes, in which the mishap comes before one access, and one after it, which shows all; with
+/// or without the machine's word on births. Returns whether there was an access of that number.
+bool SurvivesMishap(Mishap mishap, int access, bool isTold) {
   const auto owned = std::make_shared<ScriptedProc>();
   ScriptedProc& proc = *owned;
   for (std::int32_t pid = 1; pid <= kProcesses; ++pid) proc.Start(pid);
   LinuxProcessTable table(owned);
   const std::size_t openBefore = OpenDescriptors();
+  const auto read = [&] {
+    proc.milliseconds += 1'000;
+    return table.Read();
+  };
+  if (isTold) {
+    proc.lastPid = kProcesses;
+    for (int pass = 0; pass < 2; ++pass) read();
+  }
+  const int listings = proc.listings;
   int count = 0;
   std::int32_t touched = kInvalidPID;
   int error = 0;
   proc.beforeAccess = [&](std::int32_t pid) {
     if (count++ == access) {
-      if (mishap == Mishap::kDescriptorsRunOut) {
-        error = EMFILE;
-      } else {
-        proc.End(pid);
-      }
+      touched = mishap == Mishap::kIsBorn ? kProcesses + 1 : pid;
+      if (mishap == Mishap::kDescriptorsRunOut) error = EMFILE;
+      if (mishap == Mishap::kEnds || mishap == Mishap::kIsReplaced) proc.End(pid);
       if (mishap == Mishap::kIsReplaced) proc.Start(pid);
-      touched = pid;
+      if (mishap == Mishap::kIsBorn) proc.lastPid = touched;
     }
+    if (mishap == Mishap::kIsBorn && count == access + kLongFork) proc.Start(touched);
     return std::exchange(error, 0);
   };
   for (int pass = 0; pass < 2; ++pass) {
-    const auto entries = table.Read();
+    const auto entries = read();
     ExpectWholeProcesses(proc, entries, touched);
   }
-  const bool happened = count > access;
-  count = access + 1;
-  const auto entries = table.Read();
+  const bool happened = count > access + (mishap == Mishap::kIsBorn ? kLongFork : 0);
+  count = access + kLongFork + 1;
+  const auto entries = read();
+  EXPECT_EQ(proc.listings, isTold ? listings : listings + 3);
+  if (mishap == Mishap::kIsBorn && !happened) return false;
   ExpectWholeProcesses(proc, entries, kInvalidPID);
   EXPECT_EQ(entries.size(), proc.Running().size() + 1);
   // What was not kept for want of descriptors is opened again in its turn.
@@ -226,11 +239,15 @@ bool SurvivesMishap(Mishap mishap, int access) {
 TEST(ScriptedProcTree, NeverMixesProcessesWhateverVanishesWhen) {
   const std::size_t before = OpenDescriptors();
   int points = 0;
-  for (const Mishap mishap : {Mishap::kEnds, Mishap::kIsReplaced, Mishap::kDescriptorsRunOut}) {
-    for (int access = 0; SurvivesMishap(mishap, access); ++access, ++points) {
-      ASSERT_FALSE(::testing::Test::HasFailure()) << static_cast<int>(mishap) << ' ' << access;
-    }
-  }
+  const auto tryAll = [&](Mishap mishap, bool isTold) {
+    for (int access = 0; SurvivesMishap(mishap, access, isTold); ++access, ++points)
+      ASSERT_FALSE(::testing::Test::HasFailure())
+          << static_cast<int>(mishap) << ' ' << isTold << ' ' << access;
+  };
+  for (const bool isTold : {false, true})
+    for (const Mishap mishap : {Mishap::kEnds, Mishap::kIsReplaced, Mishap::kDescriptorsRunOut})
+      tryAll(mishap, isTold);
+  tryAll(Mishap::kIsBorn, true);
   EXPECT_GT(points, 2'000);
   EXPECT_EQ(OpenDescriptors(), before);
 }

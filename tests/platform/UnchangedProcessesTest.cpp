@@ -242,11 +242,11 @@ TEST_F(UnchangedProcesses, AreNotEvenLookedAtForWhomNobodyAsks) {
   const auto ofOne = [&](std::int32_t pid) {
     return pid == followed ? kFromStat : FigureSources{};
   };
-  EXPECT_EQ(counts([&] { EXPECT_TRUE(mTable->Refresh(ofOne)); }), (std::vector{0, 1, 0}));
+  EXPECT_EQ(counts([&] { EXPECT_TRUE(mTable->Refresh(ofOne, false)); }), (std::vector{0, 1, 0}));
   ::kill(followed, SIGWINCH);
   Settle(mPids);
   EXPECT_EQ(counts([&] {
-              const auto entries = mTable->Refresh(ofOne);
+              const auto entries = mTable->Refresh(ofOne, false);
               ASSERT_TRUE(entries);
               const auto entry = std::ranges::find(*entries, followed, &ProcessTableEntry::pid);
               EXPECT_EQ(entry->read, kFromStat);
@@ -256,9 +256,36 @@ TEST_F(UnchangedProcesses, AreNotEvenLookedAtForWhomNobodyAsks) {
   ::kill(followed, SIGKILL);
   Collect(followed);
   while (std::ranges::find(mPids, followed) != mPids.end()) Collect(followed);
-  EXPECT_FALSE(mTable->Refresh(ofOne));
+  EXPECT_FALSE(mTable->Refresh(ofOne, false));
   const auto entries = mTable->Read(ofOne);
   EXPECT_EQ(std::ranges::find(entries, followed, &ProcessTableEntry::pid), entries.end());
+}
+
+/// Whoever shows all hears of an end without a listing, and of what was read beside it.
+TEST_F(UnchangedProcesses, TellThatOneHasEndedByTheClocksAlone) {
+  const pid_t ending = StartPair();
+  const pid_t running = StartPair();
+  Settle(mPids);
+  mTable->Read();
+  mTable->Read();
+  const auto ofNone = [](std::int32_t) { return FigureSources{}; };
+  const auto ofRunning = [&](std::int32_t pid) {
+    return pid == running ? kFromStat : FigureSources{};
+  };
+  const int listings = mCounts.listings;
+  EXPECT_TRUE(mTable->Refresh(ofNone, true));
+  ::kill(running, SIGWINCH);
+  Settle({running});
+  ::kill(ending, SIGKILL);
+  while (std::ranges::find(mPids, ending) != mPids.end()) Collect(ending);
+  EXPECT_TRUE(mTable->Refresh(ofNone, false));
+  EXPECT_FALSE(mTable->Refresh(ofRunning, true));
+  EXPECT_EQ(mCounts.listings, listings);
+  const auto entries = mTable->Read(ofRunning);
+  EXPECT_EQ(std::ranges::find(entries, ending, &ProcessTableEntry::pid), entries.end());
+  const auto entry = std::ranges::find(entries, running, &ProcessTableEntry::pid);
+  ASSERT_NE(entry, entries.end());
+  EXPECT_EQ(entry->read, kFromStat);
 }
 
 /// What others can change without a sign is read in turns, the rest when the process has run or its
@@ -318,13 +345,34 @@ TEST_F(UnchangedProcesses, AreAskedAgainForWhatOthersChange) {
   EXPECT_EQ(counts["status"], 1);
 }
 
-/// Births are seen without a listing, those of threads count, too.
-TEST_F(UnchangedProcesses, AreListedWhenSomebodyMayHaveBeenBorn) {
-  mTable->Read();
-  for (int tries = 0; tries < 1000 && mTable->MayHaveBirths(); ++tries) mTable->Read();
-  EXPECT_FALSE(mTable->MayHaveBirths()) << "the machine never rests";
-  StartPair();
+/// Births and ends are seen without a listing; threads, and processes that lived shortly, are none.
+TEST_F(UnchangedProcesses, AreListedOnlyOnceAMinute) {
+  const auto pass = [&](auto step) {
+    mCounts.milliseconds += 1'000;
+    step();
+    return mTable->MayHaveBirths();
+  };
+  const auto liveShortly = [] {
+    std::thread([] {}).join();
+    const pid_t pid = ::fork();
+    if (pid == 0) ::_exit(0);
+    EXPECT_EQ(::waitpid(pid, nullptr, 0), pid);
+  };
+  for (int i = 0; i < 3; ++i) pass([&] { mTable->Read(); });
+  const int listings = mCounts.listings;
+  int tries = 0;
+  while (pass(liveShortly)) ASSERT_LT(++tries, 30) << "the machine never rests";
+  const pid_t pair = StartPair();
   EXPECT_TRUE(mTable->MayHaveBirths());
+  EXPECT_NE(Describe(mTable->Read(), pair), "gone");
+  ::kill(pair, SIGKILL);
+  while (std::ranges::find(mPids, pair) != mPids.end()) Collect(pair);
+  EXPECT_EQ(Describe(mTable->Read([](std::int32_t) { return FigureSources{}; }), pair), "gone");
+  EXPECT_EQ(mCounts.listings, listings);
+  mCounts.milliseconds += 60'000;
+  EXPECT_TRUE(mTable->MayHaveBirths()) << "a process may have chosen its pid";
+  mTable->Read();
+  EXPECT_EQ(mCounts.listings, listings + 1);
 }
 
 /// What others do to a process, in any order, some of it more than once or to one that has ended.

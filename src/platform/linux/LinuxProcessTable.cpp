@@ -18,6 +18,12 @@ namespace {
 constexpr std::int32_t kHighestPidAtAll = 4'194'304;
 constexpr std::size_t kGivenBackAtOnce = 32;
 constexpr int kMostFailures = 3;
+constexpr std::int32_t kMostProbed = 2'000;
+constexpr std::int64_t kLongestFork = 1'000;
+/// The number that the folder of a process has which was never listed: that of /proc itself.
+constexpr std::uint64_t kNoFolder = 1;
+// A process that is restored under a chosen pid is not counted among the births.
+constexpr std::int64_t kListedAgain = 60'000;
 constexpr std::string_view kIdleTaskName = "swapper";
 /// The start of a process that has ended.
 constexpr std::uint64_t kGone = ~std::uint64_t{0};
@@ -51,26 +57,87 @@ std::span<const ProcessTableEntry> LinuxProcessTable::Read() {
 std::span<const ProcessTableEntry> LinuxProcessTable::Read(const Wanted& wanted) {
   BeginPass();
   // Asked for before the listing: a process born in between counts as not listed.
-  mLastPid = mFiles->LastPid();
-  if (!mFiles->List(mListed)) return LastPassAgain();
-  mFailures = 0;
-  if (!std::is_sorted(mListed.begin(), mListed.end())) std::sort(mListed.begin(), mListed.end());
-  const auto isDoubled = [](const auto& a, const auto& b) { return a.pid == b.pid; };
-  mListed.erase(std::unique(mListed.begin(), mListed.end(), isDoubled), mListed.end());
+  const auto last = mFiles->LastPid();
+  const bool isTold = AreBirthsTold(last);
+  if (isTold) {
+    ListWithoutListing();
+  } else if (!List()) {
+    return LastPassAgain();
+  }
+  NoteNewest(last);
   if (!IsListedAlready()) TakeOverListed();
-  if (!LookAtAll(wanted)) LeaveOutTheGone();
+  if (!LookAtAll(wanted, isTold)) LeaveOutTheGone();
   FinishPass();
   return mPass.entries;
 }
 
 bool LinuxProcessTable::MayHaveBirths() {
-  return mIsUnfinished || mPass.entries.empty() || !mLastPid || mFiles->LastPid() != mLastPid;
+  if (mIsUnfinished || mPass.entries.empty()) return true;
+  const auto last = mFiles->LastPid();
+  if (!AreBirthsTold(last) || !mBorn.empty()) return true;
+  NoteNewest(last);
+  return false;
 }
 
-std::optional<std::span<const ProcessTableEntry>> LinuxProcessTable::Refresh(const Wanted& wanted) {
+/// Whether the births since the last pass are known without a listing, in mBorn: pids are given out
+/// in order, and the clocks tell which of them processes have.
+bool LinuxProcessTable::AreBirthsTold(std::optional<std::int32_t> last) {
+  mBorn.clear();
+  if (!last || !mSettled || mPass.entries.empty()) return false;
+  if (mFiles->Milliseconds() - mListedAt >= kListedAgain) return false;
+  // The numbers began anew, or a listing costs less.
+  if (*last < *mSettled || *last - *mSettled > kMostProbed) return false;
+  for (std::int32_t pid = *mSettled + 1; pid <= *last; ++pid)
+    if (!IsInPass(pid) && mFiles->RunTime(pid)) mBorn.push_back({pid, kNoFolder});
+  return true;
+}
+
+bool LinuxProcessTable::IsInPass(std::int32_t pid) const {
+  return std::ranges::binary_search(mPass.entries.begin(), mPass.entries.end() - 1, pid, {},
+                                    &ProcessTableEntry::pid);
+}
+
+/// A fork takes its number before there is a process that has it, so a number counts as looked at
+/// only when it was looked at later, too.
+void LinuxProcessTable::NoteNewest(std::optional<std::int32_t> last) {
+  const auto now = mFiles->Milliseconds();
+  if (!last) {
+    mSettled.reset();
+    mNewest.reset();
+  } else if (!mNewest || now - mNewestAt >= kLongestFork) {
+    mSettled = std::exchange(mNewest, last);
+    mNewestAt = now;
+  }
+}
+
+bool LinuxProcessTable::List() {
+  mListedAt = mFiles->Milliseconds();
+  if (!mFiles->List(mListed)) return false;
+  mFailures = 0;
+  if (!std::is_sorted(mListed.begin(), mListed.end())) std::sort(mListed.begin(), mListed.end());
+  const auto isDoubled = [](const auto& a, const auto& b) { return a.pid == b.pid; };
+  mListed.erase(std::unique(mListed.begin(), mListed.end(), isDoubled), mListed.end());
+  return true;
+}
+
+/// What was there and what was born. What has ended is seen when it is looked at.
+void LinuxProcessTable::ListWithoutListing() {
+  mListed.clear();
+  auto born = mBorn.begin();
+  for (std::size_t i = 0; i + 1 < mPass.entries.size(); ++i) {
+    const std::int32_t pid = mPass.entries[i].pid;
+    for (; born != mBorn.end() && born->pid < pid; ++born) mListed.push_back(*born);
+    mListed.push_back({pid, mPass.known[i].folder});
+  }
+  mListed.insert(mListed.end(), born, mBorn.end());
+}
+
+std::optional<std::span<const ProcessTableEntry>> LinuxProcessTable::Refresh(const Wanted& wanted,
+                                                                             bool ends) {
   BeginPass();
-  const bool areAllThere = LookAtAll(wanted);
+  const bool areAllThere = LookAtAll(wanted, ends);
   FinishPass();
+  mIsUntold = !areAllThere;
   if (!areAllThere) return std::nullopt;
   return mPass.entries;
 }
@@ -92,13 +159,17 @@ void LinuxProcessTable::BeginPass() {
   mReader.BeginPass();
   mAreOthers = false;
   mIsUnfinished = false;
-  for (auto& entry : mPass.entries) entry.read = entry.current = 0;
+  const bool isUntold = std::exchange(mIsUntold, false);
+  for (auto& entry : mPass.entries) {
+    entry.current = 0;
+    if (!isUntold) entry.read = 0;
+  }
 }
 
 /// A shortage of memory that passes must not look like the end of all processes.
 std::span<const ProcessTableEntry> LinuxProcessTable::LastPassAgain() {
   const int error = errno;
-  mLastPid.reset();
+  NoteNewest(std::nullopt);
   if (mPass.entries.empty() || ++mFailures <= kMostFailures) return mPass.entries;
   Diagnose("the processes cannot be listed: %s", std::strerror(error));
   for (auto& known : mPass.known) mReader.Forget(known);
@@ -151,8 +222,9 @@ void LinuxProcessTable::Drop(const ProcessTableEntry& entry, KnownProcess& known
   mReader.Forget(known);
 }
 
-/// False when a process is gone, whose start is none then.
-bool LinuxProcessTable::LookAtAll(const Wanted& wanted) {
+/// False when a process is gone, whose start is none then. With `ends`, also when one is gone of
+/// which nothing is wanted.
+bool LinuxProcessTable::LookAtAll(const Wanted& wanted, bool ends) {
   bool areAllThere = true;
   const std::size_t count = mPass.known.empty() ? 0 : mPass.known.size() - 1;
   for (std::size_t i = 0; i < count; ++i) {
@@ -161,6 +233,7 @@ bool LinuxProcessTable::LookAtAll(const Wanted& wanted) {
     // Its first thread has ended; the last one gives the children away, which is seen nowhere else.
     if (entry.state == RunState::kZombie) mReader.LostParents().push_back(entry.pid);
     const auto sources = wanted(entry.pid);
+    if (sources == 0 && ends && !mFiles->RunTime(entry.pid)) known.isInDoubt = true;
     if (sources == 0 && !known.isInDoubt) continue;
     const auto outcome = mReader.Look(entry, known, sources);
     const bool isUnread = entry.known == 0 && outcome == ProcessReader::Outcome::kShort;

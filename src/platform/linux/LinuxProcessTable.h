@@ -18,13 +18,15 @@ namespace lurkwell {
 /// The process table from passes over a proc file system, in order of pid; the idle task, which
 /// proc does not list, is made up at its end ("swapper", pid 0, started at boot).
 ///
-/// A pass lists the folders, which tells who is there and who is new. It looks at what a process
-/// has used of the processors only where a figure that running changes is wanted, and reads files
-/// only of those that ran, that are new, or whose files were last read kLongestKept ago; those
-/// turns are spread over the passes. What changes without running is seen all the same where it
-/// matters: the children of a process that ended are read anew in the very pass that finds its end,
-/// the scheduling class and the nice value are asked for where they are wanted. The rest (pages
-/// that were taken back, a priority while a lock is held for others) is seen with the next turn.
+/// A pass needs a list of the folders once a minute only: pids are given out in order, so that the
+/// new ones are among a few numbers, and a process that has no clock any more has ended. It looks
+/// at what a process has used of the processors only where a figure that running changes is wanted,
+/// or ends are, and reads files only of those that ran, that are new, or whose files were last read
+/// kLongestKept ago; those turns are spread over the passes. What changes without running is seen
+/// all the same where it matters: the children of a process that ended are read anew in the very
+/// pass that finds its end, the scheduling class and the nice value are asked for where they are
+/// wanted. The rest (pages that were taken back, a priority while a lock is held for others) is
+/// seen with the next turn.
 ///
 /// The stat files stay open from one pass to the next, because reading one again costs two thirds
 /// of opening it anew; at most half of the limit of open files is used for this, and some are given
@@ -46,7 +48,8 @@ class LinuxProcessTable final : public ProcessTable {
   /// With all that stands in the entries.
   std::span<const ProcessTableEntry> Read();
   bool MayHaveBirths() override;
-  std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted& wanted) override;
+  std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted& wanted,
+                                                            bool ends) override;
   const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) override;
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
 
@@ -68,10 +71,15 @@ class LinuxProcessTable final : public ProcessTable {
 
   void SetMaximumPid();
   void BeginPass();
+  bool AreBirthsTold(std::optional<std::int32_t> last);
+  bool IsInPass(std::int32_t pid) const;
+  void NoteNewest(std::optional<std::int32_t> last);
+  bool List();
+  void ListWithoutListing();
   bool IsListedAlready() const;
   void TakeOverListed();
   void Drop(const ProcessTableEntry& entry, KnownProcess& known);
-  bool LookAtAll(const Wanted& wanted);
+  bool LookAtAll(const Wanted& wanted, bool ends);
   void LeaveOutTheGone();
   void FinishPass();
   void ReadOrphansAgain();
@@ -85,13 +93,22 @@ class LinuxProcessTable final : public ProcessTable {
   ProcessReader mReader;
   std::int32_t mMaximumPid = 0;
   std::vector<ListedProcess> mListed;
-  std::optional<std::int32_t> mLastPid;
+  /// Who was born since, as far as it is known.
+  std::vector<ListedProcess> mBorn;
+  /// The pid given out last when mNewestAt was, and the one before: all up to it have been found.
+  std::optional<std::int32_t> mNewest;
+  std::optional<std::int32_t> mSettled;
+  /// By ProcFiles's clock.
+  std::int64_t mNewestAt = 0;
+  std::int64_t mListedAt = 0;
   /// How many listings have failed in a row.
   int mFailures = 0;
   /// A process came or went in this pass.
   bool mAreOthers = false;
   /// Names are still on their way.
   bool mIsUnfinished = false;
+  /// What the last Refresh has read nobody has heard of, because one had ended.
+  bool mIsUntold = false;
   Pass mPass;
   Pass mPassBefore;
 };

@@ -18,8 +18,8 @@
 namespace lurkwell {
 namespace {
 
-// An open stat file costs about 5 KiB of kernel memory.
-constexpr std::size_t kMostKeptAtAll = 16'384;
+// An open stat file costs about 5 KiB of kernel memory, a small part of what its process costs.
+constexpr std::size_t kMostKeptAtAll = 32'768;
 // A name is looked up in two readings, as the first may fall into the middle of an exec.
 constexpr std::uint8_t kNamings = 2;
 constexpr std::int64_t kFarFuture = 1'000'000'000'000;
@@ -108,7 +108,7 @@ ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProces
   }
   // An unknown parent may end unseen, so its children are not kept.
   const bool hasUnknownParent = (sources & kFromStat) != 0 && entry.parentPid == kInvalidPID;
-  if (known.isInDoubt || hasUnknownParent) stale |= kFromStat;
+  if (!runTime || known.isInDoubt || hasUnknownParent) stale |= kFromStat;
   if ((stale & ~kFromAssignment) != 0) {
     const auto outcome = Read(entry, known, stale, sources, runTime);
     if (outcome != Outcome::kCurrent) return outcome;

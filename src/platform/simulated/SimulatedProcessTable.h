@@ -58,7 +58,9 @@ class SimulatedProcessTable final : public ProcessTable {
   FigureSources OpenSources() const override { return mTellsFigures ? kAllFigureSources : 0; }
   std::span<const ProcessTableEntry> Read(const Wanted& wanted) override;
   bool MayHaveBirths() override { return true; }
-  std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted&) override { return {}; }
+  std::optional<std::span<const ProcessTableEntry>> Refresh(const Wanted&, bool) override {
+    return {};
+  }
   const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) override;
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
   std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override;
