@@ -10,6 +10,7 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <exception>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -46,7 +47,8 @@ inline pid_t Fork(const std::function<int()>& body) {
   int status = 96;
   try {
     status = body();
-  } catch (...) {
+  } catch (const std::exception& thrown) {
+    std::fprintf(stderr, "%s\n", thrown.what());
   }
   std::fflush(stderr);
   ::_exit(status);
