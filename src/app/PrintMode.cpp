@@ -183,11 +183,12 @@ int RunPrintMode(const CommandLine& commandLine) {
   const auto afterUpdate = [&end] { end.AfterUpdate(); };
   ProcessInformationClient* client = nullptr;
   if (isUsual) {
-    client = new Watched<UsualColumnsClient>(afterUpdate, output.Stream());
+    BeginPrintfOutput(new Watched<UsualColumnsClient>(afterUpdate, output.Stream()));
+    client = gPrintfOutputInfoClient;
   } else {
     client = new Watched<ListingClient>(afterUpdate, std::move(plan), output.Stream());
+    AddProcessInformationClient(client);
   }
-  AddProcessInformationClient(client);
   RequestUpdate(client);
   TheMachine().runLoop.Run();
   ShutDown();

@@ -5,7 +5,6 @@
 #include <span>
 #include <utility>
 
-#include "channel/DaemonCommunication.h"
 #include "platform/Authorization.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"

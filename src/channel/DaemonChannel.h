@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,6 +10,71 @@
 namespace lurkwell {
 
 class AuthorizationReference;
+
+/// The ends of the channel, -1 while it is closed. Read to find out whether there is a
+/// helper; changed only here.
+extern int gFd_a2d;
+extern int gFd_d2a;
+/// -1, always: which children the permission step collects, namely all.
+extern int gDaemonPID;
+
+/// What the helper may do at present.
+enum class DaemonRights {
+  kStarting,  ///< not known yet: it is being started, or the user is being asked
+  kFull,      ///< signals and renices every process
+  kOwn,       ///< what the user may do himself
+  kNone,      ///< there is none; another one is started after a while
+};
+struct DaemonStatus {
+  DaemonRights rights = DaemonRights::kNone;
+  /// Why the rights are not kFull: a sentence for the user to read, without a full stop. Empty
+  /// while they are, and while nothing is known.
+  std::string reason;
+  /// Whether AskForDaemonRights may lead to more.
+  bool mayAsk = false;
+};
+
+/// What QueryDaemon and DaemonConversation::Query return when there is no answer now.
+inline constexpr std::ptrdiff_t kDaemonAnswersLater = -2;
+inline constexpr std::ptrdiff_t kDaemonNotAsked = -3;
+
+/// Sends a request and reads the answer: at most `capacity` bytes (1 or more) and a NUL behind
+/// them, so the buffer has one byte more. Returns the bytes read, 0 when the helper has closed, -1
+/// when it is not there or did not answer within 250 ms (500 ms when an answer of an earlier beat
+/// is still to come). The answer is an empty text then, and also when it begins with "!Error": what
+/// the helper says behind that goes into `refusal`, on one line, unless that is null; else it is
+/// left empty. A closed channel costs nothing.
+std::ptrdiff_t QueryDaemon(const char* request, char* answer, std::int32_t capacity,
+                           std::string* refusal = nullptr);
+
+/// The requests of one beat, which wait for the helper 60 ms at most together, or of one command of
+/// the user's, for 250 ms. Not nested.
+class DaemonConversation {
+ public:
+  /// Late answers to a command are thrown away.
+  enum class Of { kBeat, kCommand };
+  explicit DaemonConversation(Of of = Of::kBeat);
+  DaemonConversation(const DaemonConversation&) = delete;
+  DaemonConversation& operator=(const DaemonConversation&) = delete;
+
+  /// As QueryDaemon. kDaemonAnswersLater when the time was over before the answer came: it stays
+  /// outstanding until it is read whole, or 250 ms have passed and the channel is closed.
+  /// kDaemonNotAsked when the request was not sent, because the time was over or an earlier answer
+  /// is still to come.
+  std::ptrdiff_t Query(const char* request, char* answer, std::int32_t capacity,
+                       std::string* refusal = nullptr);
+
+  /// The answer to the last request of a beat that gave kDaemonAnswersLater, once, if it has come
+  /// since then and not too long ago; else an empty text.
+  static std::string TakeLateAnswer();
+
+ private:
+  Of mOf;
+  std::chrono::milliseconds mLimit;
+  std::chrono::duration<double> mWaited{0};
+};
+
+// ---- For opening the channel --------------------------------------------------------------------
 
 /// How long the helper may take; tests set less. Main thread.
 struct DaemonLimits {

@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <random>
 
-#include "channel/DaemonCommunication.h"
 #include "platform/Assertion.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
@@ -44,6 +43,19 @@ void Copy(const fs::path& source, const fs::path& target, std::error_code& error
   }
 }
 
+/// Copies the helper from the bundle to its place, unless there is one. "" or why it failed.
+std::string InstallHelper(const char* bundlePath, const fs::path& target) {
+  std::error_code error;
+  if (fs::create_directory(target.parent_path(), error))
+    fs::permissions(target.parent_path(), kFolderMode, error);
+  if (fs::exists(target, error)) return {};
+  error.clear();
+  const std::string source = std::string(bundlePath) + kHelperInBundle;
+  Copy(source, target, error);
+  return error ? "cannot copy " + source + " to " + target.string() + ": " + error.message()
+               : std::string();
+}
+
 }  // namespace
 
 void EscapePathQuotes(char* path) {
@@ -64,19 +76,6 @@ std::string EscapedBundlePath() {
   return path;
 }
 
-std::string InstallHelper(const std::string& bundlePath, const std::string& supportFolder) {
-  const fs::path target = supportFolder + kHelperInApplicationSupport;
-  std::error_code error;
-  if (fs::create_directory(target.parent_path(), error))
-    fs::permissions(target.parent_path(), kFolderMode, error);
-  if (fs::exists(target, error)) return {};
-  error.clear();
-  Copy(bundlePath + kHelperInBundle, target, error);
-  return error ? "cannot copy " + bundlePath + kHelperInBundle + " to " + target.string() + ": " +
-                     error.message()
-               : std::string();
-}
-
 std::string PutHelperAside(const std::string& path) {
   std::error_code error;
   fs::rename(path, path + kHelperPutAside, error);
@@ -84,14 +83,17 @@ std::string PutHelperAside(const std::string& path) {
 }
 
 bool EnsureThatDaemonIsInApplicationSupport(const char* bundlePath, char* out,
-                                            std::int32_t capacity) {
+                                            std::int32_t capacity, std::string& obstacle) {
   const auto folder = TheMachine().bundle.ApplicationSupportFolder();
-  if (!folder || folder->size() > kLongestPath) return false;
-  const bool succeeded = InstallHelper(bundlePath, *folder).empty();
-  Require(succeeded, kDaemonUnit, "succeeded");
+  if (!folder || folder->size() > kLongestPath) {
+    obstacle = "there is no folder for application data";
+    return false;
+  }
   const std::string path = *folder + kHelperInApplicationSupport;
   Require(path.size() < static_cast<std::size_t>(capacity), kDaemonUnit,
           "strlen(path) + strlen(suffix) < capacity");
+  obstacle = InstallHelper(bundlePath, path);
+  if (!obstacle.empty()) return false;
   std::memcpy(out, path.c_str(), path.size() + 1);
   return true;
 }

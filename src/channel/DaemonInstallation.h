@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace lurkwell {
@@ -8,8 +10,10 @@ namespace lurkwell {
 inline constexpr char kHelperInBundle[] = "/Contents/Resources/Lurkwell_helper";
 inline constexpr char kHelperInApplicationSupport[] = "/Lurkwell/Lurkwell_helper";
 
-/// Paths, without their terminator, are at most this long.
+/// The bundle's path and the folder's, without their terminator, are at most this long.
 inline constexpr std::size_t kLongestPath = 1023;
+inline constexpr std::size_t kHelperPathCapacity =
+    kLongestPath + sizeof kHelperInApplicationSupport;
 
 /// The bundle's path as the installation takes it: at most kLongestPath characters, with its double
 /// quotes escaped. A bundle with a double quote in its path therefore has no helper to install.
@@ -18,8 +22,12 @@ std::string EscapedBundlePath();
 /// Puts a backslash before every double quote, in place: the buffer has a byte more for each.
 void EscapePathQuotes(char* path);
 
-/// Copies the helper from the bundle into the folder, unless there is one. "" or why it failed.
-std::string InstallHelper(const std::string& bundlePath, const std::string& supportFolder);
+/// The installed helper's path into `out` (`capacity` bytes, terminator included; too few are a
+/// fatal assertion). Copies it from the bundle when it is not there; an existing one is never
+/// replaced. False when there is no folder for application data or the copy cannot be made;
+/// `obstacle` then says why.
+bool EnsureThatDaemonIsInApplicationSupport(const char* bundlePath, char* out,
+                                            std::int32_t capacity, std::string& obstacle);
 
 /// Behind the name of a copy that was put aside.
 inline constexpr char kHelperPutAside[] = ".unknown";

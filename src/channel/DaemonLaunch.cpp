@@ -35,14 +35,6 @@ bool GoesOnWithoutRights() {
   return ReadInt(kWithoutRightsKey) >= 1;
 }
 
-/// Why the helper cannot be installed; "" when it is.
-std::string ObstacleToInstallation() {
-  const auto folder = TheMachine().bundle.ApplicationSupportFolder();
-  if (!folder || folder->size() + sizeof kHelperInApplicationSupport > kLongestPath + 1)
-    return "there is no folder for application data";
-  return InstallHelper(EscapedBundlePath(), *folder);
-}
-
 /// All children that have ended.
 void CollectChildren() {
   for (int child = 0; (child = TheMachine().authorization.CollectChild()) != -1;)
@@ -123,13 +115,20 @@ Milliseconds DaemonLaunch::Passed() const {
 
 bool DaemonLaunch::AdvanceBeginning() {
   mAlways = AlwaysAuthenticates();
-  if (const auto obstacle = ObstacleToInstallation(); !obstacle.empty())
-    return OpenOwnHelper(obstacle);
-  mHelperPath =
-      TheMachine().bundle.ApplicationSupportFolder().value_or("") + kHelperInApplicationSupport;
+  if (const auto obstacle = Install(); !obstacle.empty()) return OpenOwnHelper(obstacle);
   if (mUnprivileged)
     return ServeUnprivileged("Lurkwell was started without an administrator's rights", true);
   return mAlways ? SetPermissions() : CheckPermissions();
+}
+
+/// Has the helper where it can be given rights. "" or why it cannot be.
+std::string DaemonLaunch::Install() {
+  char path[kHelperPathCapacity];
+  std::string obstacle;
+  if (EnsureThatDaemonIsInApplicationSupport(EscapedBundlePath().c_str(), path, sizeof path,
+                                             obstacle))
+    mHelperPath = path;
+  return obstacle;
 }
 
 // ---- Opening a channel --------------------------------------------------------------------------
@@ -258,7 +257,7 @@ bool DaemonLaunch::ReplaceCopy() {
   if (mHasReplaced) return false;
   mHasReplaced = true;
   auto obstacle = PutHelperAside(mHelperPath);
-  if (obstacle.empty()) obstacle = ObstacleToInstallation();
+  if (obstacle.empty()) obstacle = Install();
   if (!obstacle.empty()) {
     Diagnose("%s", obstacle.c_str());
     return false;

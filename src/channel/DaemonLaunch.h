@@ -6,7 +6,6 @@
 #include <string>
 
 #include "channel/DaemonChannel.h"
-#include "channel/DaemonCommunication.h"
 #include "platform/Alerts.h"
 #include "platform/Authorization.h"
 #include "platform/Clock.h"
@@ -55,6 +54,7 @@ class DaemonLaunch final : public DaemonChannelWatcher {
   bool AdvanceAlert();
   bool AdvanceServing();
 
+  std::string Install();
   bool Open(Purpose purpose);
   bool OpenOwnHelper(const std::string& obstacle);
   bool CheckPermissions();

@@ -4,10 +4,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "consolidator/Applications.h"
-#include "consolidator/ClassicReports.h"
-#include "consolidator/PSHeaders.h"
-#include "consolidator/PSPrograms.h"
+#include "consolidator/ClassicEstimate.h"
+#include "consolidator/PSColumns.h"
 #include "consolidator/RecordStore.h"
 #include "consolidator/Region.h"
 #include "consolidator/TypedValue.h"
@@ -34,14 +32,7 @@ inline ClassicEstimate gClassicEstimate LURKWELL_REGION_GUARDS;
 /// The pid of the newest record at the end of the last heartbeat: what stands before it is new.
 inline std::int32_t gFirstPidLastIteration LURKWELL_REGION_GUARDS = kInvalidPID;
 
-// ---- Main thread only
-inline PSDiscovery gPSDiscovery;
-inline PSPrograms gPSPrograms;
-/// Looks after what ps has been asked, between the heartbeats; null when that is nothing.
-inline std::unique_ptr<RunLoopTimer> gPSTimer;
-/// A heartbeat has had news of ps columns, of which only due clients know so far.
-inline bool gPSHasNews = false;
-
+/// Main thread only; null before start-up.
 inline std::unique_ptr<RunLoopTimer> gHeartbeatCFTimerRef;
 
 }  // namespace lurkwell

@@ -4,6 +4,7 @@
 
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/Feeders.h"
+#include "consolidator/PSPrograms.h"
 #include "consolidator/ProcessReports.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
@@ -92,11 +93,6 @@ void RunFeeders(TimeValue now) LURKWELL_IN_REGION {
   EndProcessInformationIteration(kInformationKindCarbonPSN);
 }
 
-void SetNextHeartbeat(RunLoopTimer& timer, TimeValue now) {
-  const auto milliseconds = static_cast<double>(Client::GetMillisecondsToNextHeartbeat(&now));
-  timer.SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
-}
-
 void ForgetEverything() {
   const ConsolidatorGuard guard;
   gRecords.Clear();
@@ -139,12 +135,11 @@ void HeartbeatCFTimerFunc(RunLoopTimer* timer) {
   gFamilyIndex.Share(true);
   Client::NotifyAllProcessesHaveBeenUpdated(&now);
   gFamilyIndex.Share(false);
-  SetNextHeartbeat(*timer, now);
+  Client::SetNextHeartbeat(*timer, now);
 }
 
-void RescheduleHeartbeat() {
-  if (gHeartbeatCFTimerRef != nullptr)
-    SetNextHeartbeat(*gHeartbeatCFTimerRef, TheMachine().clock.Now());
+bool ArePSColumnsKnown() {
+  return gPSDiscovery.IsDone();
 }
 
 void RequestUpdate(ProcessInformationClient* client) {

@@ -28,9 +28,9 @@ void HeartbeatCFTimerFunc(RunLoopTimer* timer);
 /// when the client's interval has passed. Main thread.
 void RequestUpdate(ProcessInformationClient* client);
 
-/// Lets the heart beat when the most urgent client is due by its present interval; after intervals
-/// have changed. Nothing before start-up. Main thread.
-void RescheduleHeartbeat();
+/// Whether ps has told its columns by now (or that it has none): what is unknown then, there is
+/// not. Main thread.
+bool ArePSColumnsKnown();
 
 /// Ends the heartbeat and forgets every record. Main thread, when no client is left.
 void DestroyProcessInformationConsolidator();

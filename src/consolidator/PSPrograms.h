@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/Clock.h"
+#include "platform/RunLoop.h"
 #include "platform/Tools.h"
 
 namespace lurkwell {
@@ -109,5 +110,13 @@ class PSDiscovery {
   TimeValue mDeadline;
   GrowingRest mRest;
 };
+
+// ---- Main thread only
+inline PSDiscovery gPSDiscovery;
+inline PSPrograms gPSPrograms;
+/// Looks after what ps has been asked, between the heartbeats; null when that is nothing.
+inline std::unique_ptr<RunLoopTimer> gPSTimer;
+/// A heartbeat has had news of ps columns, of which only due clients know so far.
+inline bool gPSHasNews = false;
 
 }  // namespace lurkwell

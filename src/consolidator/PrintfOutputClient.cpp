@@ -80,8 +80,8 @@ void PrintfOutputInformationClient::NotifyProcessesHaveBeenUpdated() {
   std::fflush(mOut);
 }
 
-void BeginPrintfOutput() {
-  gPrintfOutputInfoClient = new PrintfOutputInformationClient;
+void BeginPrintfOutput(PrintfOutputInformationClient* client) {
+  gPrintfOutputInfoClient = client;
   AddProcessInformationClient(gPrintfOutputInfoClient);
 }
 

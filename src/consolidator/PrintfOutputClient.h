@@ -31,7 +31,8 @@ class PrintfOutputInformationClient : public ProcessInformationClient {
 /// The one instance, from BeginPrintfOutput until the registry deletes it; else null.
 extern PrintfOutputInformationClient* gPrintfOutputInfoClient;
 
-/// Makes the client and adds it. Main thread, after the consolidator has been started.
-void BeginPrintfOutput();
+/// Makes the client, unless it is given one made of it, and adds it. Main thread, after the
+/// consolidator has been started.
+void BeginPrintfOutput(PrintfOutputInformationClient* client = new PrintfOutputInformationClient);
 
 }  // namespace lurkwell

@@ -34,8 +34,8 @@ void RemoveProcessAction(std::int32_t pid, std::int32_t kind);
 bool GetProcessAction(std::int32_t pid, std::int32_t kind, std::int32_t* value);
 
 /// What the kernel says of a process, once per update of it. An entry that it contradicts goes:
-/// somebody else has continued the process, or given it another nice value. One that is stopped has
-/// an entry from then on; if nobody here halted it, that is a line on standard error.
+/// something else has continued the process, or given it another nice value. One that is stopped
+/// has an entry from then on; if it was not halted here, that is a line on standard error.
 void NoteKernelState(std::int32_t pid, bool isStopped, std::int32_t nice);
 
 /// The name of the image that marks the process: "process_niced_high" or "process_niced_low" after

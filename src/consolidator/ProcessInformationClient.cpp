@@ -6,13 +6,14 @@
 #include <span>
 #include <string_view>
 
-#include "consolidator/PI_Consolidator.h"
+#include "consolidator/ConsolidatorState.h"
 #include "consolidator/ProcessQueries.h"
 #include "platform/Assertion.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/ProcessIdentity.h"
+#include "platform/RunLoop.h"
 
 namespace lurkwell {
 namespace {
@@ -133,7 +134,8 @@ void ProcessInformationClient::NotifyPreferencesHaveBeenUpdatedForType(const cha
       node.client->NotifyPreferencesHaveBeenUpdated();
   }
   // An interval that was an hour until now must not be waited for.
-  RescheduleHeartbeat();
+  if (gHeartbeatCFTimerRef != nullptr)
+    SetNextHeartbeat(*gHeartbeatCFTimerRef, TheMachine().clock.Now());
 }
 
 void ProcessInformationClient::NotifyAllPSColumnsHaveChanged() {
@@ -343,6 +345,11 @@ std::int64_t ProcessInformationClient::GetMillisecondsToNextHeartbeat(const Time
     milliseconds = std::min(milliseconds, MillisecondsBetween(*now, due));
   }
   return milliseconds;
+}
+
+void ProcessInformationClient::SetNextHeartbeat(RunLoopTimer& timer, TimeValue now) {
+  const auto milliseconds = static_cast<double>(GetMillisecondsToNextHeartbeat(&now));
+  timer.SetNextFireDate(TheMachine().clock.AbsoluteTime() + milliseconds / 1000.0);
 }
 
 void ProcessInformationClient::TakeEarlyOnesAlong(const TimeValue& now) {

@@ -10,6 +10,8 @@
 
 namespace lurkwell {
 
+class RunLoopTimer;
+
 /// Pids that a client has yet to hear of; the latest comes out first. Taking a pid out of the
 /// middle does not walk the stack.
 class PidStack {
@@ -74,10 +76,10 @@ class ProcessInformationClient {
   virtual NeedLevel NeedPidsForProcProperty(const char* property);
   virtual bool NeedPidProcProperty(int pid, const char* property) = 0;
 
-  /// Whether its turn needs to hear at once of every process that has ended. False for who follows
+  /// Whether its turn needs to hear at once of every process that has ended. False for what follows
   /// some processes by their figures, or only those that are born: he hears of others' ends later.
   virtual bool NeedsEnds() { return true; }
-  /// Whether its turn needs nothing but who was born, with what a process has from its birth on.
+  /// Whether its turn needs nothing but what was born, with what a process has from its birth on.
   /// Then it is not asked for anything else, and a beat for it alone costs next to nothing.
   virtual bool NeedsOnlyBirths() { return false; }
 
@@ -149,6 +151,9 @@ class ProcessInformationClient {
   /// Milliseconds from `now` until the first client is due, at most 15000, negative when one is
   /// late.
   static std::int64_t GetMillisecondsToNextHeartbeat(const TimeValue* now);
+
+  /// Sets the heart's timer to the time at which the first client is due.
+  static void SetNextHeartbeat(RunLoopTimer& timer, TimeValue now);
 
   /// At the beginning of a heartbeat: makes those due that may come early with one that is.
   static void TakeEarlyOnesAlong(const TimeValue& now);

@@ -7,6 +7,7 @@
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/Feeders.h"
 #include "consolidator/PSHeaders.h"
+#include "consolidator/PSPrograms.h"
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessReports.h"
 #include "consolidator/TextScan.h"
@@ -78,7 +79,7 @@ std::string HeaderOf(std::string_view line) {
   return std::string(ScanWord(line).substr(0, kLongestPrintedHeader));
 }
 
-/// Who needs a column for some processes and has to be asked for each.
+/// The clients that need a column for some processes and have to be asked for each.
 struct ColumnNeed {
   Client::NeedLevel level = Client::kNeedNoPids;
   Client::Clients clients;

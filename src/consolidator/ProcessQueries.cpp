@@ -19,10 +19,8 @@ std::vector<std::int32_t> ValidPids(int kind, std::int32_t argument) LURKWELL_IN
   if (kind == kPidBlobAll) pids.reserve(gRecords.Size());
   for (const auto& record : gRecords.Records()) {
     if (!record.valid) continue;
-    const bool taken =
-        kind == kPidBlobAll || (kind == kPidBlobChildrenOf && record.pidInfo != nullptr &&
-                                record.pidInfo->parentPid == argument);
-    if (taken) pids.push_back(record.pid);
+    if (kind == kPidBlobAll || (kind == kPidBlobChildrenOf && PidIsParent(record.pid, argument)))
+      pids.push_back(record.pid);
   }
   return pids;
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "consolidator/Applications.h"
 #include "consolidator/ConsolidatorState.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/PidReport.h"
@@ -59,7 +60,7 @@ FourCharCode CodeOf(const char* text) {
 }
 
 void StoreCarbonName(MetaProcessInformation& record, const char* value) LURKWELL_IN_REGION {
-  StoreText(record.carbonInfo->name, value);
+  StoreText(record.carbonInfo->name, std::string_view(value));
   // As wide as a command's.
   const auto name = WholeCharacters(value, kCommandNameCapacity - 1);
   if (record.name[0] != '\0' && record.name != name) gRecords.NoteAppreciableChange(record);
@@ -141,7 +142,7 @@ void ReportProcessInformationClassicPSNBlob(ProcessSerialNumber psn, const std::
 
 void TouchProcessInformationForPID(std::int32_t pid, int kind) {
   const ConsolidatorGuard guard;
-  // Only the kernel's table tells who is there: others would make a process without a name.
+  // Only the kernel's table tells what is there: others would make a process without a name.
   if (pid >= 0 && kind != kInformationKindPID && gRecords.GetExistingPIDInformation(pid) == nullptr)
     return;
   auto& record = gRecords.GetPIDInformation(pid);

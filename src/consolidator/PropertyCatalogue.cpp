@@ -6,7 +6,6 @@
 #include <cstring>
 #include <type_traits>
 
-#include "consolidator/ConsolidatorState.h"
 #include "consolidator/PSHeaders.h"
 #include "consolidator/PropertyRendering.h"
 
@@ -36,6 +35,13 @@ constexpr CatalogueRow Listed(std::string_view name, PropertyType type, PidField
           .render = nullptr,
           .read = nullptr,
           .sources = sources};
+}
+
+TypedValue ReadMetaActiveTime(const MetaProcessInformation& record) {
+  static const std::size_t kUserTime = PlaceOf(*FindBuiltInProperty("pid_user_time"));
+  const auto* block = record.pidInfo.get();
+  if (block != nullptr && !block->states.IsKnown(kUserTime)) return block->states.Why(kUserTime);
+  return record.activeTime;
 }
 
 /// All but the figures.

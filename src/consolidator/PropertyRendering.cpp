@@ -5,7 +5,6 @@
 #include <cstring>
 #include <string>
 
-#include "consolidator/PropertyCatalogue.h"
 #include "consolidator/TextScan.h"
 #include "platform/Assertion.h"
 #include "preferences/MacRoman.h"
@@ -160,13 +159,6 @@ bool RenderClassicFreeMemory(const MetaProcessInformation& record, std::span<cha
 
 TypedValue ReadMetaPid(const MetaProcessInformation& record) {
   return std::int64_t{record.pid};
-}
-
-TypedValue ReadMetaActiveTime(const MetaProcessInformation& record) {
-  static const std::size_t kUserTime = PlaceOf(*FindBuiltInProperty("pid_user_time"));
-  const auto* block = record.pidInfo.get();
-  if (block != nullptr && !block->states.IsKnown(kUserTime)) return block->states.Why(kUserTime);
-  return record.activeTime;
 }
 
 bool IsKernelThread(const MetaProcessInformation& record) {

@@ -39,7 +39,6 @@ bool RenderClassicFreeMemory(const MetaProcessInformation& record, std::span<cha
 
 // The same as values, where they are no plain texts; see CatalogueRow::read.
 TypedValue ReadMetaPid(const MetaProcessInformation& record);
-TypedValue ReadMetaActiveTime(const MetaProcessInformation& record);
 /// Whether it is one of the kernel's own, the idle task among them.
 bool IsKernelThread(const MetaProcessInformation& record);
 /// In this desktop's words: Application, Process, Kernel thread, Zombie, Classic.

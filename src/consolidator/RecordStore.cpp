@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 #include "platform/Assertion.h"
@@ -75,6 +76,34 @@ void RecordStore::Clear() {
   mBySerialNumber.clear();
   mWithSerialNumber.clear();
   mRecords.clear();
+}
+
+std::optional<std::int32_t> SyntheticPidTable::Find(ProcessSerialNumber psn) const {
+  for (std::size_t i = 0; i < mCount; ++i)
+    if (mSlots[i].inUse && mSlots[i].psn == psn) return mSlots[i].pid;
+  return std::nullopt;
+}
+
+std::optional<ProcessSerialNumber> SyntheticPidTable::Find(std::int32_t pid) const {
+  for (std::size_t i = 0; i < mCount; ++i)
+    if (mSlots[i].inUse && mSlots[i].pid == pid) return mSlots[i].psn;
+  return std::nullopt;
+}
+
+/// A flood of serial numbers may use up all negative numbers; then they start over, below those
+/// that are kept.
+std::int32_t SyntheticPidTable::After(std::int32_t pid) {
+  constexpr auto kKept = static_cast<std::int32_t>(std::tuple_size_v<decltype(mSlots)>) - 1;
+  return pid == std::numeric_limits<std::int32_t>::min() ? kFirst - kKept : pid - 1;
+}
+
+std::int32_t SyntheticPidTable::HandOut(ProcessSerialNumber psn, RecordStore& records) {
+  std::int32_t pid = gCurrentFakePid;
+  while (records.GetExistingPIDInformation(pid) != nullptr) pid = After(pid);
+  mSlots[mCount] = {psn, pid, true};
+  gCurrentFakePid = After(pid);
+  mCount = std::min(mCount + 1, mSlots.size() - 1);
+  return pid;
 }
 
 std::int32_t ParentOf(const MetaProcessInformation& record) {

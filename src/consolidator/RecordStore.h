@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <forward_list>
+#include <optional>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -76,9 +78,36 @@ class RecordStore {
   MetaProcessInformation* mLastFound = nullptr;
 };
 
-/// Who is whose child. Made when it is asked for; while it is shared, as during a heartbeat's turn
-/// of the clients, when no record changes, once for all who ask. Guarded by the consolidator's
-/// region.
+/// Made-up pids for applications without a kernel pid, counting down from -2. None is handed out
+/// that a record has. Guarded by the consolidator's region.
+class SyntheticPidTable {
+ public:
+  static constexpr std::int32_t kFirst = -2;
+
+  explicit SyntheticPidTable(std::int32_t first = kFirst) : gCurrentFakePid(first) {}
+  std::optional<std::int32_t> Find(ProcessSerialNumber psn) const;
+  std::optional<ProcessSerialNumber> Find(std::int32_t pid) const;
+  std::int32_t HandOut(ProcessSerialNumber psn, RecordStore& records);
+  void Clear() { *this = SyntheticPidTable(); }
+
+ private:
+  struct Slot {
+    ProcessSerialNumber psn;
+    std::int32_t pid = 0;
+    bool inUse = false;
+  };
+
+  static std::int32_t After(std::int32_t pid);
+
+  std::array<Slot, 128> mSlots{};
+  /// Never passes 127: the last slot is written again and again and never found.
+  std::size_t mCount = 0;
+  std::int32_t gCurrentFakePid;
+};
+
+/// Which are whose children. Made when it is asked for; while it is shared, as during a heartbeat's
+/// turn of the clients, when no record changes, once for all questions. Guarded by the
+/// consolidator's region.
 class FamilyIndex {
  public:
   /// Whether it may be kept from one question to the next. Either way it is made anew for the next.

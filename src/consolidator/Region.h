@@ -15,7 +15,7 @@ inline std::unique_ptr<CriticalRegion> gProcessInformationConsolidatorMutex;
 #define LURKWELL_REGION_GUARDS LURKWELL_GUARDED_BY(*gProcessInformationConsolidatorMutex)
 #define LURKWELL_IN_REGION LURKWELL_REQUIRES(*gProcessInformationConsolidatorMutex)
 
-/// Inside the consolidator's region for as long as it lives. Who needs a lock of its own besides
+/// Inside the consolidator's region for as long as it lives. Code that needs another lock besides
 /// enters this region first. Any thread. Before start-up and after the end
 /// there is no region and no other thread, which the compiler cannot know.
 class LURKWELL_SCOPED_CAPABILITY ConsolidatorGuard {

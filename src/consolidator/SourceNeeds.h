@@ -23,13 +23,13 @@ class SourceNeeds {
 
   /// For one process.
   FigureSources Of(std::int32_t pid) const;
-  /// Whether anybody needs a source of any process.
+  /// Whether any client needs a source of any process.
   bool AreThereAny() const;
   /// Whether a figure of any process is needed.
   bool OfFigures() const;
-  /// Whether anybody needs to hear now who has ended.
+  /// Whether any client needs to hear now which processes have ended.
   bool OfEnds() const { return mNeedsEnds; }
-  /// Which of kRates anybody needs.
+  /// Which of kRates any client needs.
   const std::vector<Figure>& OfRates() const { return mRates; }
 
  private:

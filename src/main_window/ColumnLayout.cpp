@@ -5,8 +5,7 @@
 #include <span>
 #include <utility>
 
-#include "consolidator/PSHeaders.h"
-#include "consolidator/PropertyCatalogue.h"
+#include "consolidator/PI_Consolidator.h"
 #include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"

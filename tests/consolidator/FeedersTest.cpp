@@ -1,7 +1,7 @@
 // What the feeders ask of the machine and of the helper, and what they make of the answers.
 #include <set>
 
-#include "consolidator/PSHeaders.h"
+#include "consolidator/PI_Consolidator.h"
 #include "consolidator/PrintfOutputClient.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "support/ConsolidatorTest.h"
