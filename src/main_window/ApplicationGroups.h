@@ -28,7 +28,7 @@ class ApplicationGroups {
   /// What has to be known of each process.
   static std::span<const KeyId> Needs();
 
-  /// Finds out who belongs together, anew: each row is told which row it stands below. The rows of
+  /// Finds out what belongs together, anew: each row is told which row it stands below. The rows of
   /// groups that were there before stay the same ones.
   void Assign(std::span<const Member> members);
 

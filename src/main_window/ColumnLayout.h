@@ -13,8 +13,8 @@
 namespace lurkwell {
 
 /// Which columns the table has, in which order, how wide they are, in which direction each sorts,
-/// and how all of it is remembered. Knows no view: who shows the columns says how they stand on the
-/// screen. Directions are 1, ascending, and 0. Main thread only.
+/// and how all of it is remembered. Knows no view: the table that shows the columns says how they
+/// stand on the screen. Directions are 1, ascending, and 0. Main thread only.
 class ColumnLayout {
  public:
   /// The remembered columns that can be shown, or the usual ones, and those that must be there;

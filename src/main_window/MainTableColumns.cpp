@@ -134,7 +134,7 @@ void vqMainTableController::rebuildColumns() {
       focused.isValid() ? fRows.Shown()[static_cast<std::size_t>(focused.row())] : nullptr;
   beginResetModel();
   clearColumns();
-  for (const KeyId key : fLayout.Keys()) addColumnToMainTable(key);
+  for (const KeyId key : keysWeTrackForUI()) addColumnToMainTable(key);
   endResetModel();
   auto& header = *fTable->horizontalHeader();
   for (int column = 0; column < columnCount(); ++column) {

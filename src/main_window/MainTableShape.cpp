@@ -109,7 +109,7 @@ void vqMainTableController::addUp() {
   const KeyId sortKey = fSortColumn == kInternalCPUPercent ? kInternalCpuUsage
                         : fSortColumn == kInternalMemGraph ? kPidVsz
                                                            : fSortColumn;
-  fTree.AddUp(fLayout.Keys(), sortKey);
+  fTree.AddUp(keysWeTrackForUI(), sortKey);
 }
 
 std::vector<RowDictionary*> vqMainTableController::rowsOfTree() {

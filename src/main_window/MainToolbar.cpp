@@ -91,7 +91,7 @@ void MainToolbar::RestoreItems() {
 
 QStringList MainToolbar::RememberedItems() const {
   char text[4096] = "";
-  if (!ReadText(kItemsKey, text, sizeof text)) return DefaultToolbarItems();
+  if (!ReadText(kItemsKey, text, sizeof text)) return toolbarDefaultItemIdentifiers();
   return Allowed(QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts));
 }
 
@@ -118,7 +118,7 @@ void MainToolbar::Rebuild(const QStringList& identifiers) {
   for (auto* action : std::exchange(mItems, {})) action->deleteLater();
   mIdentifiers = identifiers;
   for (const auto& identifier : mIdentifiers) {
-    auto* action = MakeItem(*FindToolbarItem(identifier));
+    auto* action = itemForItemIdentifier(*FindToolbarItem(identifier));
     action->setParent(this);
     addAction(action);
     mItems.append(action);
@@ -127,7 +127,7 @@ void MainToolbar::Rebuild(const QStringList& identifiers) {
   Q_EMIT itemsChanged();
 }
 
-QAction* MainToolbar::MakeItem(const ToolbarItem& item) {
+QAction* MainToolbar::itemForItemIdentifier(const ToolbarItem& item) {
   const auto label = LocalizedString(item.labelKey);
   const auto tip = LocalizedString((QByteArray(item.labelKey) + "_tip").constData());
   QAction* action = nullptr;
@@ -162,7 +162,7 @@ void MainToolbar::Validate(const SelectionFacts& facts) {
     // The platform's own items and what only shows something need no permission.
     if (FindToolbarItem(mIdentifiers[place])->kind != ToolbarItem::kButton) continue;
     const auto identifier = mIdentifiers[place].toStdString();
-    mItems[place]->setEnabled(mCustomising || IsToolbarButtonEnabled(identifier, facts));
+    mItems[place]->setEnabled(mCustomising || validateToolbarItem(identifier, facts));
   }
 }
 
@@ -289,7 +289,8 @@ void MainToolbar::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
   QTimer::singleShot(0, this,
                      [this, item = *dragged, place = PlaceAt(event->position().toPoint())] {
-                       if (item.identifier.isEmpty()) return SetItems(DefaultToolbarItems());
+                       if (item.identifier.isEmpty())
+                         return SetItems(toolbarDefaultItemIdentifiers());
                        PutItem(item.identifier, place, item.from);
                      });
 }

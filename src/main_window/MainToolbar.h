@@ -33,7 +33,7 @@ class MainToolbar final : public QToolBar {
   const QList<QAction*>& items() const { return mItems; }
 
   /// Makes an item; its owner is the caller.
-  QAction* MakeItem(const ToolbarItem& item);
+  QAction* itemForItemIdentifier(const ToolbarItem& item);
 
   /// Enables the buttons that can be used.
   void Validate(const SelectionFacts& facts);

@@ -65,12 +65,10 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& point) {
     mMenus->HeaderMenu(header->logicalIndexAt(point)).popup(header->mapToGlobal(point));
   });
-  connect(mTable, &StripedTableView::doubleAction, mController.get(),
-          &vqMainTableController::doubleClickAction);
+  connect(mTable, &StripedTableView::doubleAction, this,
+          [this] { mController->processCommands().doubleClickAction(); });
   connect(mController.get(), &vqMainTableController::contentsChanged, this,
           &MainWindow::UpdateStatus);
-  connect(mController.get(), &vqMainTableController::preferencesRequested, this,
-          [this] { mCommands.doThePrefs(); });
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
   connect(mController.get(), &vqMainTableController::updated, this, [this] {
     const auto complaint = TheMachine().preferenceDomain.TakeComplaint();

@@ -76,6 +76,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void foldAll(bool folded) override { mController->foldAll(folded); }
   void showRememberedWindows() override;
   void closeFollowingWindows() override;
+  void doThePreferences() override { mCommands.doThePrefs(); }
   void showHelp() override;
 
   void BuildContents();

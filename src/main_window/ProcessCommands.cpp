@@ -72,10 +72,6 @@ bool IsKernelPid(std::int32_t pid) {
   return pid >= 0;
 }
 
-bool IsApplication(std::int32_t pid) {
-  return !SerialNumberOf(pid).IsNone();
-}
-
 }  // namespace
 
 void ProcessCommands::Act(ProcessCommand command, const std::vector<std::int32_t>& pids) {
@@ -144,21 +140,21 @@ void ProcessCommands::ForSelectedPSNs(Action action) {
   if (!failed.empty()) mSelection.report(ReportText({ProcessCommand::kContinue}, failed));
 }
 
-void ProcessCommands::Hide() {
+void ProcessCommands::processHideMenuItem() {
   ForSelectedPSNs([](ProcessSerialNumber psn) { return ShowProcessPSN(psn, false); });
 }
 
-void ProcessCommands::BringToFront() {
+void ProcessCommands::processBringToFrontMenuItem() {
   ForSelectedPSNs(
       [](ProcessSerialNumber psn) { return TheMachine().processManager.SetFrontProcess(psn); });
 }
 
-void ProcessCommands::Reveal() {
-  std::vector<ProcessSerialNumber> psns;
+void ProcessCommands::processRevealInFinderMenuItem() {
+  bool isRevealed = true;
   for (const auto pid : mSelection.selectedPids())
-    if (const auto psn = SerialNumberOf(pid); !psn.IsNone()) psns.push_back(psn);
-  if (RevealProcessesInFinder(psns) < psns.size())
-    mSelection.report(LocalizedString("main_window_nothing_to_reveal_with"));
+    if (const auto psn = SerialNumberOf(pid); !psn.IsNone())
+      isRevealed = RevealProcessInFinder(psn) && isRevealed;
+  if (!isRevealed) mSelection.report(LocalizedString("main_window_nothing_to_reveal_with"));
 }
 
 void ProcessCommands::Follow(void (MonitorWindows::*open)(std::int32_t, std::int32_t),
@@ -198,18 +194,18 @@ bool ProcessCommands::ConfirmFollowing(std::size_t windows) {
   return box.clickedButton() == open;
 }
 
-void ProcessCommands::NewCPUHistoryWindow() {
+void ProcessCommands::newCPUHistoryWindow() {
   const auto interval = ReadInt("DEFAULT_CPU_HISTORY_WINDOW_INTERVAL");
   Follow(&MonitorWindows::CreateCPUHistoryWindow, interval);
 }
 
-void ProcessCommands::NewLoggingWindow() {
+void ProcessCommands::newLoggingWindow() {
   const auto interval = ReadInt("DEFAULT_LOGGING_WINDOW_INTERVAL");
   Follow(&MonitorWindows::CreateLoggingWindow, interval);
 }
 
-void ProcessCommands::Open() {
-  if (AnyPSNs()) return BringToFront();
+void ProcessCommands::doubleClickAction() {
+  if (anyPSNsInSelection(mSelection.selectedPids())) return processBringToFrontMenuItem();
   ShowDetails();
 }
 
@@ -276,28 +272,27 @@ void ProcessCommands::SelectChildren() {
     mSelection.report(LocalizedString("main_window_hidden_children").arg(children.size() - shown));
 }
 
-bool ProcessCommands::AnyPIDs() const {
-  return std::ranges::any_of(mSelection.selectedPids(), IsKernelPid);
+bool ProcessCommands::anyPIDsInSelection(const std::vector<std::int32_t>& pids) {
+  return std::ranges::any_of(pids, IsKernelPid);
 }
 
-bool ProcessCommands::AnyPSNs() const {
-  return std::ranges::any_of(mSelection.selectedPids(), IsApplication);
+bool ProcessCommands::anyPSNsInSelection(const std::vector<std::int32_t>& pids) {
+  return std::ranges::any_of(pids, [](std::int32_t pid) { return !SerialNumberOf(pid).IsNone(); });
 }
 
-bool ProcessCommands::AnyActionListItems(std::int32_t kind) const {
-  return std::ranges::any_of(mSelection.selectedPids(), [=](std::int32_t pid) {
-    return GetProcessAction(pid, kind, nullptr);
-  });
+bool ProcessCommands::anyActionListItemsInSelection(const std::vector<std::int32_t>& pids,
+                                                    std::int32_t kind) {
+  return std::ranges::any_of(
+      pids, [=](std::int32_t pid) { return GetProcessAction(pid, kind, nullptr); });
 }
 
 SelectionFacts ProcessCommands::Facts() const {
   const auto pids = mSelection.selectedPids();
-  const auto isHalted = [](std::int32_t pid) {
-    return GetProcessAction(pid, kProcessActionHalt, nullptr);
+  const auto isGoing = [](std::int32_t pid) {
+    return IsKernelPid(pid) && !GetProcessAction(pid, kProcessActionHalt, nullptr);
   };
-  const auto isGoing = [&](std::int32_t pid) { return IsKernelPid(pid) && !isHalted(pid); };
-  return {mSelection.isAnyRowSelected(), std::ranges::any_of(pids, IsKernelPid),
-          std::ranges::any_of(pids, IsApplication), std::ranges::any_of(pids, isHalted),
+  return {mSelection.isAnyRowSelected(), anyPIDsInSelection(pids), anyPSNsInSelection(pids),
+          anyActionListItemsInSelection(pids, kProcessActionHalt),
           std::ranges::any_of(pids, isGoing)};
 }
 

@@ -65,37 +65,39 @@ class ProcessCommands {
   std::vector<MonitorWindows::OpenWindow> OpenWindows() const;
 
   SelectionFacts Facts() const;
-  bool AnyPIDs() const;
-  bool AnyPSNs() const;
-  /// Of a kind of GetProcessAction.
-  bool AnyActionListItems(std::int32_t kind) const;
 
-  void Kill() { Act(ProcessCommand::kKill); }
-  void Halt() { Act(ProcessCommand::kHalt); }
-  void Continue() { Act(ProcessCommand::kContinue); }
-  void GiveHighPriority() { Act(ProcessCommand::kHighPriority); }
-  void GiveNormalPriority() { Act(ProcessCommand::kNormalPriority); }
-  void GiveLowPriority() { Act(ProcessCommand::kLowPriority); }
+  void processKillMenuItem() { Act(ProcessCommand::kKill); }
+  void processHaltMenuItem() { Act(ProcessCommand::kHalt); }
+  void processContMenuItem() { Act(ProcessCommand::kContinue); }
+  void processHighPriorityMenuItem() { Act(ProcessCommand::kHighPriority); }
+  void processNormalPriorityMenuItem() { Act(ProcessCommand::kNormalPriority); }
+  void processLowPriorityMenuItem() { Act(ProcessCommand::kLowPriority); }
   /// Also what these have started, and what that has.
   void KillWithChildren();
   void SendAnySignal();
   void ChangeScheduling();
-  void Hide();
-  void BringToFront();
-  void Reveal();
+  void processHideMenuItem();
+  void processBringToFrontMenuItem();
+  void processRevealInFinderMenuItem();
   /// Brings the applications to the front; where there are none, shows details.
-  void Open();
+  void doubleClickAction();
   void ShowDetails();
   /// Of any process, not only of applications.
   void ShowExecutable();
   /// For the name of the first selected process, by the address that the preferences have for it.
   void SearchWeb();
-  void NewCPUHistoryWindow();
-  void NewLoggingWindow();
+  void newCPUHistoryWindow();
+  void newLoggingWindow();
   /// Selects the processes whose parents are selected instead of these.
   void SelectChildren();
 
  private:
+  static bool anyPIDsInSelection(const std::vector<std::int32_t>& pids);
+  static bool anyPSNsInSelection(const std::vector<std::int32_t>& pids);
+  /// Of a kind of GetProcessAction.
+  static bool anyActionListItemsInSelection(const std::vector<std::int32_t>& pids,
+                                            std::int32_t kind);
+
   /// Carries out a command, once the user has agreed where needed.
   void Act(ProcessCommand command) { Act(command, mSelection.selectedPids()); }
   void Act(ProcessCommand command, const std::vector<std::int32_t>& pids);

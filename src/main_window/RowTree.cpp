@@ -20,7 +20,7 @@ bool MayBeParent(const RowDictionary& parent, const RowDictionary& child) {
 
 }  // namespace
 
-// ---- Who stands below whom ----------------------------------------------------------------------
+// ---- Which row stands below which ---------------------------------------------------------------
 
 void RowTree::LinkToParents(const ProcessRows& rows) {
   for (auto* row : rows.All()) {

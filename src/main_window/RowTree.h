@@ -13,7 +13,7 @@
 
 namespace lurkwell {
 
-/// Rows below rows: who stands below whom, what is folded, and the totals of what is. Takes time
+/// Rows below rows: which stands below which, what is folded, and the totals of what is. Takes time
 /// and memory in proportion to the number of rows, however deep they lie. Main thread.
 ///
 /// Rows are known to it from one Build to the next; a row that has gone from ProcessRows must not
@@ -22,7 +22,7 @@ class RowTree {
  public:
   using IsShown = std::function<bool(const RowDictionary&)>;
 
-  /// Finds out who stands below whom. A parent that started after its child is a later holder of
+  /// Finds out what stands below what. A parent that started after its child is a later holder of
   /// the pid, and none; so is the idle task. What is its own ancestor stands below nothing.
   void Build(const ProcessRows& rows, TableShape shape);
 
@@ -90,7 +90,7 @@ class RowTree {
   std::size_t mMatchCount = 0;
   FoldMemory mFolded{FoldMemory::Subject::kFoldedPrograms};
   FoldMemory mUnfolded{FoldMemory::Subject::kUnfoldedApplications};
-  // While nodes are laid: who is below whom, by the places in the list of rows.
+  // While nodes are laid: what is below what, by the places in the list of rows.
   std::vector<int> mFirstBelow;
   std::vector<int> mBelow;
   std::vector<int> mStack;

@@ -130,7 +130,7 @@ ToolbarCustomiseDialog::ToolbarCustomiseDialog(MainToolbar& toolbar, QWidget* pa
   layout->addWidget(MakeDefaultSet());
   layout->addWidget(MakeLastRow());
   resize(600, 460);
-  mAvailable->SetIdentifiers(AllowedToolbarItems());
+  mAvailable->SetIdentifiers(toolbarAllowedItemIdentifiers());
   mAvailable->setCurrentRow(0);
   ShowItems();
   mCurrent->setCurrentRow(0);
@@ -177,7 +177,7 @@ QWidget* ToolbarCustomiseDialog::MakeLists() {
   connect(mAvailable, &QListWidget::itemDoubleClicked, this, &ToolbarCustomiseDialog::Add);
   connect(mCurrent, &QListWidget::currentRowChanged, this, &ToolbarCustomiseDialog::ShowCurrent);
   connect(mCurrent, &ToolbarItemList::dropped, this, [this](const ToolbarDrag& item, int place) {
-    if (item.identifier.isEmpty()) return mToolbar.SetItems(DefaultToolbarItems());
+    if (item.identifier.isEmpty()) return mToolbar.SetItems(toolbarDefaultItemIdentifiers());
     mToolbar.PutItem(item.identifier, place, item.from);
   });
   // Where it came from it goes back.
@@ -200,7 +200,7 @@ QWidget* ToolbarCustomiseDialog::MakeDefaultSet() {
   auto* pictures = new QHBoxLayout(frame);
   pictures->setContentsMargins(8, 4, 8, 4);
   pictures->setSpacing(12);
-  for (const auto& identifier : DefaultToolbarItems()) {
+  for (const auto& identifier : toolbarDefaultItemIdentifiers()) {
     auto* picture = new QLabel(frame);
     picture->setPixmap(
         NamedImage(FindToolbarItem(identifier)->image).pixmap(kPictureSize, devicePixelRatioF()));
@@ -208,7 +208,8 @@ QWidget* ToolbarCustomiseDialog::MakeDefaultSet() {
     pictures->addWidget(picture);
   }
   auto* use = MakeButton("toolbar_customise_use_default", "default");
-  connect(use, &QPushButton::clicked, this, [this] { mToolbar.SetItems(DefaultToolbarItems()); });
+  connect(use, &QPushButton::clicked, this,
+          [this] { mToolbar.SetItems(toolbarDefaultItemIdentifiers()); });
   layout->addWidget(frame);
   layout->addStretch();
   layout->addWidget(use);

@@ -52,13 +52,13 @@ const ToolbarItem* FindToolbarItem(std::string_view identifier) {
   return item != Items().end() ? &*item : nullptr;
 }
 
-QStringList AllowedToolbarItems() {
+QStringList toolbarAllowedItemIdentifiers() {
   QStringList identifiers;
   for (const auto& item : Items()) identifiers.append(QLatin1String(item.identifier));
   return identifiers;
 }
 
-QStringList DefaultToolbarItems() {
+QStringList toolbarDefaultItemIdentifiers() {
   QStringList identifiers;
   for (const char* identifier :
        {kToolbarCPU, kToolbarMemory, kToolbarPageouts, "vqToolbarOpenCPUHistoryWindow",
@@ -67,7 +67,7 @@ QStringList DefaultToolbarItems() {
   return identifiers;
 }
 
-bool IsToolbarButtonEnabled(std::string_view identifier, const SelectionFacts& facts) {
+bool validateToolbarItem(std::string_view identifier, const SelectionFacts& facts) {
   const auto* item = FindToolbarItem(identifier);
   if (item == nullptr || item->kind != ToolbarItem::kButton) return false;
   const auto& command = *item->command;

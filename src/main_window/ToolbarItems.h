@@ -41,11 +41,11 @@ inline const ToolbarItem* FindToolbarItem(const QString& identifier) {
   return FindToolbarItem(std::string_view(identifier.toLatin1().constData()));
 }
 
-QStringList AllowedToolbarItems();
-QStringList DefaultToolbarItems();
+QStringList toolbarAllowedItemIdentifiers();
+QStringList toolbarDefaultItemIdentifiers();
 
 /// Whether a button can be used; false for what is no button of a command.
-bool IsToolbarButtonEnabled(std::string_view identifier, const SelectionFacts& facts);
+bool validateToolbarItem(std::string_view identifier, const SelectionFacts& facts);
 
 /// An item of the toolbar on its way under the mouse, within this program alone. Main thread only.
 struct ToolbarDrag {

@@ -97,7 +97,7 @@ void VQTarvMainWindowInfoSynch::SetSeen(bool isSeen) {
 
 ProcessInformationClient::NeedLevel VQTarvMainWindowInfoSynch::NeedPidsForProcProperty(
     const char* key) {
-  // Out of sight it only keeps up with who is there; the first turn in sight reads the rest.
+  // Out of sight it only keeps up with what is there; the first turn in sight reads the rest.
   if (!mIsSeen) return kNeedNoPids;
   const bool needed = NeedPidProcProperty(kInvalidPID, key) || std::strcmp(key, "pid_rsz") == 0 ||
                       std::strcmp(key, "pid_vsz") == 0;

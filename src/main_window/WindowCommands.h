@@ -28,6 +28,7 @@ class WindowCommands {
   virtual void foldAll(bool folded) = 0;
   virtual void showRememberedWindows() = 0;
   virtual void closeFollowingWindows() = 0;
+  virtual void doThePreferences() = 0;
   virtual void showHelp() = 0;
 };
 

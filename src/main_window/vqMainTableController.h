@@ -145,19 +145,6 @@ class vqMainTableController final : public vqTableController,
 
   ProcessCommands& processCommands() { return fCommands; }
 
-  void processKillMenuItem() { fCommands.Kill(); }
-  void processHighPriorityMenuItem() { fCommands.GiveHighPriority(); }
-  void processNormalPriorityMenuItem() { fCommands.GiveNormalPriority(); }
-  void processLowPriorityMenuItem() { fCommands.GiveLowPriority(); }
-  void processHaltMenuItem() { fCommands.Halt(); }
-  void processContMenuItem() { fCommands.Continue(); }
-  void processHideMenuItem() { fCommands.Hide(); }
-  void processBringToFrontMenuItem() { fCommands.BringToFront(); }
-  void processRevealInFinderMenuItem() { fCommands.Reveal(); }
-  void doubleClickAction() { fCommands.Open(); }
-  void newCPUHistoryWindow() { fCommands.NewCPUHistoryWindow(); }
-  void newLoggingWindow() { fCommands.NewLoggingWindow(); }
-  void doThePreferences() { Q_EMIT preferencesRequested(); }
   /// The selected rows as lines of tab-separated cells, columns as on the screen.
   QString selectionAsText() const;
   /// The same as the program prints it, values instead of texts.
@@ -165,11 +152,6 @@ class vqMainTableController final : public vqTableController,
   /// Reads and shows everything now instead of at the next turn.
   void updateNow();
 
-  bool anyPIDsInSelection() const { return fCommands.AnyPIDs(); }
-  bool anyPSNsInSelection() const { return fCommands.AnyPSNs(); }
-  bool anyActionListItemsInSelection(std::int32_t kind) const {
-    return fCommands.AnyActionListItems(kind);
-  }
   SelectionFacts selectionFacts() const {
     auto facts = fCommands.Facts();
     facts.isTree = fShape != TableShape::kList;
@@ -185,15 +167,6 @@ class vqMainTableController final : public vqTableController,
   MainToolbar* toolbar() const { return fToolbar; }
   /// Null while it is hidden.
   MainToolbar* visibleToolbar() const override;
-  static QStringList toolbarDefaultItemIdentifiers() { return DefaultToolbarItems(); }
-  /// In the order of the palette.
-  static QStringList toolbarAllowedItemIdentifiers() { return AllowedToolbarItems(); }
-  /// Makes an item for the toolbar; its owner is the caller.
-  QAction* itemForItemIdentifier(const ToolbarItem& item) { return fToolbar->MakeItem(item); }
-  /// By the toolbar's identifiers; those that are no buttons of ours are disabled.
-  bool validateToolbarItem(std::string_view identifier) const {
-    return IsToolbarButtonEnabled(identifier, selectionFacts());
-  }
 
   // ---- The model --------------------------------------------------------------------------------
 
@@ -215,7 +188,6 @@ class vqMainTableController final : public vqTableController,
   void arrangementChanged();
   /// What became of a command, to be said in passing.
   void reported(const QString& text);
-  void preferencesRequested();
 
  protected:
   int columnIndexOf(KeyId key) const override;

@@ -203,17 +203,12 @@ bool ShowProcessPSN(ProcessSerialNumber psn, bool show) {
 }
 
 bool RevealProcessInFinder(ProcessSerialNumber psn) {
-  return RevealProcessesInFinder({&psn, 1}) != 0;
-}
-
-std::size_t RevealProcessesInFinder(std::span<const ProcessSerialNumber> psns) {
   auto& manager = TheMachine().processManager;
   const ProcessSerialNumber finder = FindFinder();
   // Where none is running the desktop starts one, which comes to the front by itself.
-  const auto revealed =
-      std::ranges::count_if(psns, [&](const auto& psn) { return manager.Reveal(psn); });
+  const bool revealed = manager.Reveal(psn);
   if (!finder.IsNone()) manager.SetFrontProcess(finder);
-  return static_cast<std::size_t>(revealed);
+  return revealed;
 }
 
 ActionOutcome KillProcessPID(std::int32_t pid) {

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 
 #include "channel/DaemonCommunication.h"
@@ -56,12 +55,10 @@ class CommandTime {
 // ------------------------------------------------------------------------------
 
 /// Asks an application to quit, to show or hide its windows, or the file manager to show the
-/// applications' files and come to the front. False when nobody could be asked.
+/// application's file and come to the front. False when nobody could be asked.
 bool KillProcessPSN(ProcessSerialNumber psn);
 bool ShowProcessPSN(ProcessSerialNumber psn, bool show);
 bool RevealProcessInFinder(ProcessSerialNumber psn);
-/// The same for several; how many could be asked for. Looks for the file manager once.
-std::size_t RevealProcessesInFinder(std::span<const ProcessSerialNumber> psns);
 
 // Through the helper, which is first made to look at the process: it then acts on no other one that
 // gets the same pid. Each of its two answers has to come in time; without the first nothing is

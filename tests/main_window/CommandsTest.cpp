@@ -8,6 +8,7 @@
 #include <QSpinBox>
 #include <algorithm>
 
+#include "main_window/ToolbarItems.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -152,7 +153,7 @@ TEST_F(CommandsTest, PrioritiesAndHaltsShowBadgesAtOnce) {
 
   // With one halted and one running.
   Select({300, 301});
-  EXPECT_TRUE(controller().validateToolbarItem("vqToolbarProcessContinue"));
+  EXPECT_TRUE(validateToolbarItem("vqToolbarProcessContinue", controller().selectionFacts()));
   ChooseAndAgree("menu_process_halt", "Halt");
   EXPECT_TRUE(question.starts_with("Halt process 301 (p301)?")) << "the other is: " << question;
   EXPECT_EQ(Done(), "Helper Lkw Action Request:\\nkill_halt 301\n");
@@ -285,10 +286,10 @@ TEST_F(CommandsTest, WithoutASelectionNothingCanBeDone) {
                          "menu_process_normal_priority", "menu_process_hide",
                          "menu_file_new_cpu_history", "menu_file_new_logging", "menu_edit_copy"})
     EXPECT_FALSE(Action(id).isEnabled()) << id;
-  EXPECT_TRUE(controller().validateToolbarItem("vqToolbarShowPreferences"));
+  EXPECT_TRUE(validateToolbarItem("vqToolbarShowPreferences", controller().selectionFacts()));
   for (const char* item : {"vqToolbarKill", "vqToolbarHighPriority", "vqToolbarHideProcess",
                            "vqToolbarProcessContinue", "vqToolbarShowTopHeaderStuffCPU", "unheard"})
-    EXPECT_FALSE(controller().validateToolbarItem(item)) << item;
+    EXPECT_FALSE(validateToolbarItem(item, controller().selectionFacts())) << item;
 }
 
 TEST_F(CommandsTest, CopyTakesTheSelectedRowsAsTheyAreShown) {

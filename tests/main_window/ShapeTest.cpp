@@ -130,7 +130,7 @@ TEST_F(ShapeTest, FoldedRowsShowTotalsAndAreRememberedByName) {
                 .toDouble(),
             0.25);
   EXPECT_EQ(Selected(), "300") << "the process alone, whatever is folded away in its row";
-  // Whoever is found is to be seen.
+  // What is found is to be seen.
   EXPECT_TRUE(VQTarvMainWindowInfoSynch::SelectPID(302));
   EXPECT_EQ(Tree(), "kernel_task\n-launchd\n -shell\n  -make\n   cc*\n shell\n");
   EXPECT_EQ(memory(300), "1.0 M");

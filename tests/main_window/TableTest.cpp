@@ -188,7 +188,7 @@ TEST_F(TableTest, WhileAMenuIsOpenRowsKeepTheirPlaces) {
   Turn();
   Turn();
   machine.log.Clear();
-  controller().processHighPriorityMenuItem();
+  controller().processCommands().processHighPriorityMenuItem();
   EXPECT_EQ(machine.log.Take(), "Helper Lkw Action Request:\\nrenice 302 -19\n");
   window->menus().ContextMenu().hide();
   table.Find(303)->UseCPU(1000);

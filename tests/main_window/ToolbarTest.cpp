@@ -67,7 +67,7 @@ TEST_F(ToolbarTest, ANewUserHasTheDefaultSet) {
   Open();
   window->table().clearSelection();
   EXPECT_EQ(Labels(), "CPU* Memory* Swapping* CPU History Log Preferences* Customise*");
-  EXPECT_EQ(Toolbar().itemIdentifiers(), vqMainTableController::toolbarDefaultItemIdentifiers());
+  EXPECT_EQ(Toolbar().itemIdentifiers(), toolbarDefaultItemIdentifiers());
   for (const auto* item : Toolbar().items()) {
     EXPECT_TRUE(Toolbar().widgetForAction(const_cast<QAction*>(item))->isVisible());
     EXPECT_NE(item->toolTip(), item->text());
@@ -84,7 +84,7 @@ TEST_F(ToolbarTest, ANewUserHasTheDefaultSet) {
 
 TEST_F(ToolbarTest, HoldsAllThatIsAllowedAndButtonsReachTheSelection) {
   OpenWith({300});
-  Toolbar().SetItems(vqMainTableController::toolbarAllowedItemIdentifiers());
+  Toolbar().SetItems(toolbarAllowedItemIdentifiers());
   window->table().clearSelection();
   EXPECT_EQ(Labels(),
             "CPU* Memory* Swapping* CPU History Log Bring to Front Kill Hide Show File High Normal "
@@ -153,7 +153,7 @@ TEST_F(ToolbarTest, IsArrangedByKeyboardAndComesBackSo) {
   EXPECT_EQ(Toolbar().toolButtonStyle(), Qt::ToolButtonIconOnly);
   auto& again = Customise();
   QTest::mouseClick(again.findChild<QPushButton*>("default"), Qt::LeftButton);
-  EXPECT_EQ(Toolbar().itemIdentifiers(), vqMainTableController::toolbarDefaultItemIdentifiers());
+  EXPECT_EQ(Toolbar().itemIdentifiers(), toolbarDefaultItemIdentifiers());
   window->close();
   EXPECT_FALSE(again.isVisible()) << "it goes with its window";
 }
@@ -183,7 +183,7 @@ TEST_F(ToolbarTest, ItemsAreDraggedIntoItAndOutOfIt) {
   EXPECT_FALSE(Toolbar().itemIdentifiers().contains("vqToolbarKill"));
   EXPECT_EQ(dialog.findChild<ToolbarItemList*>("current")->count(), 8);
   Drop({}, middleOf(0));
-  EXPECT_EQ(Toolbar().itemIdentifiers(), vqMainTableController::toolbarDefaultItemIdentifiers());
+  EXPECT_EQ(Toolbar().itemIdentifiers(), toolbarDefaultItemIdentifiers());
 
   // A click arranges, it does not do what the item does.
   QTest::mouseClick(Toolbar().widgetForAction(Toolbar().items()[5]), Qt::LeftButton);
