@@ -28,7 +28,7 @@ enum class ViewMode {
 
 /// What stands out among the processes.
 struct ViewMarks {
-  /// Who has a ring: what is selected in the table.
+  /// What has a ring: what is selected in the table.
   std::unordered_set<std::int32_t> selected;
   /// Whose label comes before all others: under the pointer; -1 for none.
   std::int32_t pointedAt = -1;

@@ -12,7 +12,7 @@ struct PushSum {
 };
 
 /// The pushes of `count` bodies on a body of weight 1 at (x0, y0): those of FigureOutForce, added
-/// up in no certain order. Who is related to whom does not count. Any thread.
+/// up in no certain order. Which are relatives does not count. Any thread.
 using SumPushes = PushSum (*)(const double* x, const double* y, const double* weight,
                               std::size_t count, double x0, double y0);
 

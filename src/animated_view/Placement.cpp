@@ -40,7 +40,7 @@ class Field {
   double Strength(const LayoutTarget& target) const {
     double fx = 0;
     double fy = 0;
-    SumOfForces(target, mBodies, kNoBody, mRelatives, fx, fy);
+    SumOfForcesOnIndividualQIPI(target, mBodies, kNoBody, mRelatives, fx, fy);
     return std::sqrt(fx * fx + fy * fy);
   }
 

@@ -78,8 +78,8 @@ AnimationIntervals FittedAnimationIntervals();
 /// How opaque the overlay's window is to be by the preferences, 0 to 1. Main thread.
 double OverlayWindowAlpha();
 
-/// The processes of the animated view: who they are, where they float, how heavy they are. Made on
-/// the main thread with new when the view is first shown; deleted, like every client, by the
+/// The processes of the animated view: which they are, where they float, how heavy they are. Made
+/// on the main thread with new when the view is first shown; deleted, like every client, by the
 /// registry. Notifications come on the main thread; what the drawing thread looks at changes inside
 /// gQuintessentialMutex.
 class QuintessentialInformationClient final : public ProcessInformationClient,
@@ -118,7 +118,7 @@ class QuintessentialInformationClient final : public ProcessInformationClient,
   /// Moves the records and has the current view drawn.
   void InternalDraw() override LURKWELL_REQUIRES(gQuintessentialMutex);
 
-  /// Makes the labels anew, as for another scale; who calls has seen to their textures.
+  /// Makes the labels anew, as for another scale; the caller has seen to their textures.
   void MakeLabelsAnew() LURKWELL_REQUIRES(gQuintessentialMutex);
 
   QipiList& qipiList() override LURKWELL_REQUIRES(gQuintessentialMutex) { return mQipiList; }

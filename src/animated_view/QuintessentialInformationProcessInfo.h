@@ -77,7 +77,7 @@ class QipiList {
   Info* Find(std::int32_t pid);
   const Info* Find(std::int32_t pid) const;
 
-  /// Who may look into the list may call `visit`, which can require the list's lock.
+  /// Code that may look into the list may call `visit`, which can require the list's lock.
   template <typename Visit>
   void ForEach(std::int32_t pid, Visit visit) LURKWELL_UNCHECKED_LOCKING {
     auto [first, last] = mByPid.equal_range(pid);

@@ -109,8 +109,9 @@ void LayoutBodies::Insert(std::size_t position, const QuintessentialInformationP
   parentPid.insert(parentPid.begin() + at, info.parentPid);
 }
 
-double SumOfForces(const LayoutTarget& target, const LayoutBodies& bodies, std::size_t self,
-                   std::span<const std::size_t> relatives, double& fx, double& fy) {
+double SumOfForcesOnIndividualQIPI(const LayoutTarget& target, const LayoutBodies& bodies,
+                                   std::size_t self, std::span<const std::size_t> relatives,
+                                   double& fx, double& fy) {
   Sum sum(target);
   std::size_t done = 0;
   const auto addUpTo = [&](std::size_t end) {
@@ -161,7 +162,7 @@ struct Member {
   std::size_t body;
 };
 
-/// Who is whose relative: for the member at i, the bodies Of(i).
+/// Which are relatives: for the member at i, the bodies Of(i).
 class Relatives {
  public:
   Relatives(const std::vector<Member>& members, const LayoutBodies& bodies)
@@ -214,19 +215,6 @@ class Relatives {
 
 }  // namespace
 
-double SumOfForcesOnIndividualQIPI(const QuintessentialInformationProcessInfo& self,
-                                   const QipiList& list, double& fx, double& fy) {
-  LayoutBodies bodies;
-  bodies.Reserve(list.size());
-  std::size_t own = kNoBody;
-  for (const auto& info : list) {
-    if (!info.locationInitialized) continue;
-    if (&info == &self) own = bodies.Count();
-    bodies.Append(info);
-  }
-  return SumOfForces({self.x, self.y, self.weight}, bodies, own, RelativesOf(self, bodies), fx, fy);
-}
-
 double DisIsRevoltin(QipiList& list, bool boost) {
   LayoutBodies bodies;
   bodies.Reserve(list.size());
@@ -243,8 +231,8 @@ double DisIsRevoltin(QipiList& list, bool boost) {
     auto& info = *members[i].info;
     double fx = 0;
     double fy = 0;
-    distances += SumOfForces({info.x, info.y, info.weight}, bodies, members[i].body,
-                             relatives.Of(i), fx, fy);
+    distances += SumOfForcesOnIndividualQIPI({info.x, info.y, info.weight}, bodies, members[i].body,
+                                             relatives.Of(i), fx, fy);
     info.nextX = Moved(info.x, fx, boost);
     info.nextY = Moved(info.y, fy, boost);
   }

@@ -42,18 +42,13 @@ inline constexpr std::size_t kNoBody = static_cast<std::size_t>(-1);
 /// gives the sum of the distances used. `relatives` are the positions of the target's parent and
 /// children, ascending; each pulls against what has been added up before it, so their order counts.
 /// Positions equal to `self` are ignored.
-double SumOfForces(const LayoutTarget& target, const LayoutBodies& bodies, std::size_t self,
-                   std::span<const std::size_t> relatives, double& fx, double& fy);
+double SumOfForcesOnIndividualQIPI(const LayoutTarget& target, const LayoutBodies& bodies,
+                                   std::size_t self, std::span<const std::size_t> relatives,
+                                   double& fx, double& fy);
 
 /// The positions of bodies that are parent or child of the record, ascending. Walks all bodies.
 std::vector<std::size_t> RelativesOf(const QuintessentialInformationProcessInfo& info,
                                      const LayoutBodies& bodies);
-
-/// The force on `self` from every placed record of `list` (but itself), its relatives' pull
-/// included, and from the four walls; gives the sum of the distances used. A linear walk: for one
-/// record, not for all.
-double SumOfForcesOnIndividualQIPI(const QuintessentialInformationProcessInfo& self,
-                                   const QipiList& list, double& fx, double& fy);
 
 /// One relaxation step of every record of `list`, all from the positions before the step; ten times
 /// as far with `boost`. Gives the sum of all distances between them. Inside the mutex when the

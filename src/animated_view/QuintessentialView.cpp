@@ -24,7 +24,7 @@ QuintessentialView::QuintessentialView(QWindow& window, ViewDrawing& drawing,
 
 void QuintessentialView::drawRect() {
   const CriticalRegion::Guard inside(gQuintessentialMutex);
-  mKludgeCountdown = kFramesAfterExposure;
+  setKludgeCountdown(kFramesAfterExposure);
   // The drawing thread alone has the context.
   if (gQuintessentialViewIsCurrentlyShown && gQuintessentialInformationClient != nullptr)
     gQuintessentialInformationClient->CreateDrawingThreadIfNecessary();
@@ -35,17 +35,18 @@ void QuintessentialView::internalDraw() {
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   if (!mDrawable || mDrawing.hasFailed) return;
   if (mSize.PixelWidth() < 1 || mSize.PixelHeight() < 1) return;
-  mDrawing.hasDrawn = DrawFrame();
+  const bool isSettling = kludgeCountdown() > 0;
+  if (isSettling) setKludgeCountdown(kludgeCountdown() - 1);
+  const bool isCurrent = mDrawing.context.MakeCurrent(mWindow);
+  if (!isCurrent && isSettling) return;
+  mDrawing.hasDrawn = isCurrent && DrawFrame();
   if (mDrawing.hasDrawn) return;
   mDrawing.hasFailed = true;
   mDrawing.tellOfFailure();
 }
 
 bool QuintessentialView::DrawFrame() {
-  if (!mDrawing.context.MakeCurrent(mWindow)) return false;
   if (!mIsInitialized) NoteLimits();
-  // The renderer clears the whole window in every frame.
-  if (mKludgeCountdown > 0) --mKludgeCountdown;
   mDrawing.processes.clear();
   FrameLook look = LookOf({}, mMode, mSize);
   if (auto* client = gQuintessentialInformationClient) {

@@ -44,7 +44,8 @@ class QuintessentialView {
   void internalDraw();
 
   /// The repaint countdown: how many of the frames after an exposure or a change of mode are still
-  /// to come. Each begins with a cleared window, as all do.
+  /// to come. The window's surface may only just be coming then: that there is none yet is no
+  /// failure.
   std::int32_t kludgeCountdown() const LURKWELL_REQUIRES(gQuintessentialMutex) {
     return mKludgeCountdown;
   }

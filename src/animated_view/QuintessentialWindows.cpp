@@ -90,8 +90,8 @@ void QuintessentialWindows::MakeWindows() {
 
 QuintessentialViewWindow& QuintessentialWindows::CurrentWindow() const {
   Require(mWindow != nullptr, kQuintessentialUnit, "theCurrentQuintessentialView");
-  if (gQuintessentialViewIsFullScreenOverlay) return *mFullscreenWindow;
-  return *mWindow;
+  if (gQuintessentialViewIsFullScreenOverlay) return quintessentialFullscreenWindow();
+  return quintessentialWindow();
 }
 
 // ---- Showing ------------------------------------------------------------------------------------
@@ -148,7 +148,7 @@ void QuintessentialWindows::SaveFrame() {
   mWindow->SaveFrame();
 }
 
-/// Whether anybody sees the window, and on which kind of screen.
+/// Whether the window can be seen, and on which kind of screen.
 void QuintessentialWindows::LookAround() {
   if (!IsAnyVisible()) {
     mTimer.reset();
@@ -207,7 +207,7 @@ void QuintessentialWindows::SetCurrentWindowAlpha(double alpha) {
 
 void QuintessentialWindows::SetFullscreenKludgeCountdown(int frames) {
   const CriticalRegion::Guard inside(gQuintessentialMutex);
-  mFullscreenWindow->view().setKludgeCountdown(frames);
+  quintessentialFullscreenView().setKludgeCountdown(frames);
 }
 
 void QuintessentialWindows::InternalDraw() {

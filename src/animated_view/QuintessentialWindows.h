@@ -26,12 +26,12 @@ class QuintessentialWindows final : public QObject, public QuintessentialHost {
   /// Ends the drawing thread first, and then everything else, in whatever state it is.
   ~QuintessentialWindows() override;
 
-  QuintessentialViewWindow& quintessentialWindow() { return *mWindow; }
-  QuintessentialView& quintessentialView() { return mWindow->view(); }
-  QuintessentialViewFullscreenWindow& quintessentialFullscreenWindow() {
+  QuintessentialViewWindow& quintessentialWindow() const { return *mWindow; }
+  QuintessentialView& quintessentialView() const { return mWindow->view(); }
+  QuintessentialViewFullscreenWindow& quintessentialFullscreenWindow() const {
     return *mFullscreenWindow;
   }
-  QuintessentialView& quintessentialFullscreenView() { return mFullscreenWindow->view(); }
+  QuintessentialView& quintessentialFullscreenView() const { return mFullscreenWindow->view(); }
 
   /// Shows the window of the mode that is set, and no other, because the user wants that window.
   void ShowCurrentWindow();

@@ -62,12 +62,6 @@ TEST(Layout, StepsAreThoseOfThePlainSum) {
       EXPECT_NEAR(distances, expected, 1e-9 * expected);
       ExpectSamePlaces(quick, slow);
     }
-    const Info& one = quick.front();
-    double fx = 0, fy = 0, plainX = 0, plainY = 0;
-    SumOfForcesOnIndividualQIPI(one, quick, fx, fy);
-    plain::Sum(one, plain::Of(quick), plainX, plainY);
-    EXPECT_NEAR(fx, plainX, 1e-9 * (1 + std::abs(plainX)));
-    EXPECT_NEAR(fy, plainY, 1e-9 * (1 + std::abs(plainY)));
   }
 }
 
@@ -157,12 +151,6 @@ TEST(Placement, MissingAndCircularParentsAreSurvived) {
   EXPECT_NEAR(fresh.Find(11)->x, orphan.x, 0.1 + 1e-12) << "beside its parent, as that one stands";
   for (const int pid : {0, 11, 20, 21, 22})
     EXPECT_TRUE(fresh.Find(pid)->locationInitialized) << pid;
-
-  double with = 0, without = 0, unused = 0;
-  SumOfForcesOnIndividualQIPI(*fresh.Find(0), fresh, with, unused);
-  fresh.Remove(10, [](Info&) {});
-  SumOfForcesOnIndividualQIPI(*fresh.Find(0), fresh, without, unused);
-  EXPECT_EQ(with, without) << "what has no place pushes nothing";
 }
 
 TEST(Placement, LongAncestriesNeedNoStackAndComeInSlices) {

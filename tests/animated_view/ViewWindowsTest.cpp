@@ -8,6 +8,7 @@
 #include "animated_view/OnADisplay.h"
 #include "animated_view/QuintessentialSupport.h"
 #include "animated_view/QuintessentialWindows.h"
+#include "animated_view/ViewDrawing.h"
 #include "consolidator/PI_Consolidator.h"
 #include "main_window/MainWindow.h"
 #include "platform/ApplicationQuitting.h"
@@ -282,6 +283,27 @@ TEST_F(WithoutOpenGL, AMessageStandsAndNothingMoves) {
     windows->ShowCurrentWindow();
     EXPECT_TRUE(ComesAbout([&] { return gQuintessentialViewIsCurrentlyShown.load(); }));
   }
+}
+
+TEST_F(WithoutOpenGL, ASurfaceThatIsOnlyComingIsNoFailure) {
+  ViewDrawing drawing;
+  int failures = 0;
+  drawing.tellOfFailure = [&] { ++failures; };
+  QWindow window;
+  const ViewCommands commands;
+  QuintessentialView view(window, drawing, commands);
+  gQuintessentialViewIsCurrentlyShown = true;
+  {
+    const CriticalRegion::Guard inside(gQuintessentialMutex);
+    view.SetSize({100, 100, 1});
+    view.SetDrawable(true);
+  }
+  view.drawRect();
+  for (int frame = 0; frame < 3; ++frame) view.internalDraw();
+  EXPECT_EQ(failures, 0) << "right after an exposure";
+  view.internalDraw();
+  EXPECT_EQ(failures, 1);
+  gQuintessentialViewIsCurrentlyShown = false;
 }
 
 class Overlay : public ViewWindows {
