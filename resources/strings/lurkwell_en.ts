@@ -3143,18 +3143,6 @@
         <source></source>
         <translation>No more windows that follow processes can be open at a time. Close some of them first.</translation>
     </message>
-    <message id="button_ok">
-        <source></source>
-        <translation>OK</translation>
-    </message>
-    <message id="button_cancel">
-        <source></source>
-        <translation>Cancel</translation>
-    </message>
-    <message id="button_find">
-        <source></source>
-        <translation>Find</translation>
-    </message>
     <message id="darwin_tools_not_found">
         <source></source>
         <translation>Lurkwell cannot work without the system's tools /bin/ps, /bin/kill and /usr/bin/renice, and at least one of them was not found.</translation>

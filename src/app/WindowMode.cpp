@@ -119,7 +119,7 @@ class Photographer : public QObject {
     if (mCommandLine.window == "settings" && panel != nullptr)
       return panel->findChild<AllSettings*>();
     if (mCommandLine.window == "about") return SplashScreen::window();
-    // A question of somebody else's may have come up meanwhile.
+    // Another question may have come up meanwhile.
     for (auto* window : QApplication::topLevelWidgets())
       if (!mBefore.contains(window) && window->isVisible() && !window->isModal()) return window;
     return nullptr;

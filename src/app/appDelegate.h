@@ -59,7 +59,6 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   MainWindow& mainWindow() { return *fMainWindow; }
   QuintessentialWindows& quintessentialWindows() { return *fQuintessentialWindows; }
   MonitorWindowKinds& monitorWindows() { return mFollowingWindows; }
-  DetailsWindows& detailsWindows() { return mDetailsWindows; }
 
   /// The desktop asks programs to quit by an event that would close the windows first, as if the
   /// user had done it. A user who closes the last window quits; when it goes because its process

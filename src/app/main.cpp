@@ -58,7 +58,7 @@ class DesktopMachine {
  public:
   enum class Use {
     kBySomebody,
-    /// A picture is taken without asking anybody anything, or leaving anything behind.
+    /// A picture is taken without any question, or leaving anything behind.
     kForPicture,
   };
 
@@ -149,7 +149,7 @@ bool BecomeTheInstance(RunningInstance& instance) {
           gAppDelegate->doToggleQuintessentialViewFullScreen();
       });
   if (isTheInstance) return true;
-  // Nobody was there, and now somebody is: started at the same time.
+  // No instance was there, and now one is: both started at the same time.
   if (answer == Answer::kNobody && AskTheInstance(instance) == Answer::kDone) return false;
   instance.WaitInLine();
   return true;

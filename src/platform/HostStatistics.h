@@ -22,7 +22,6 @@ enum MachineSource : unsigned {
   kGraphicsDevices = 512,
 };
 using MachineSources = unsigned;
-inline constexpr MachineSources kAllMachineSources = 1023;
 
 /// One processor since the machine started, in microseconds. What it waited for input and output
 /// counts as idle.

@@ -38,7 +38,6 @@ class DetailsTable final : public QWidget {
   void TakeFocus();
 
   QTreeView& View() { return *mView; }
-  QLineEdit& FilterField() { return *mFilter; }
   QString Notice() const { return mNotice->isHidden() ? QString() : mNotice->text(); }
   QString Footer() const { return mFooter->text(); }
 

@@ -73,7 +73,6 @@ class DetailsWindow final : public ControlledWindow, private DetailsViewer {
   std::vector<DetailsPage*> mPageList;
   QString mName;
   bool mHasEnded = false;
-  bool mIsExposed = false;
 };
 
 }  // namespace lurkwell

@@ -136,7 +136,7 @@ void CPUCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool 
                                     bool isIdleTask) const {
   const auto inside = frame.adjusted(3, 3, -3, -3);
   painter.fillRect(inside, isDark ? QColor(72, 76, 84) : QColor(Qt::lightGray));
-  const auto bar = BarIn(inside, mCpuPercentage, 1);
+  const auto bar = BarIn(inside, cpuPercent(), 1);
   if (isIdleTask)
     painter.fillRect(bar,
                      QBrush(isDark ? QColor(120, 124, 132) : QColor(Qt::gray), Qt::BDiagPattern));
@@ -147,7 +147,7 @@ void CPUCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool 
 void CPUCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                     const QModelIndex& index) const {
   DrawBackground(*painter, option);
-  mCpuPercentage = index.data(kCpuShareRole).toDouble();
+  setCpuPercent(index.data(kCpuShareRole).toDouble());
   drawInteriorWithFrame(*painter, option.rect, IsDark(option.palette),
                         index.data(kIsIdleTaskRole).toBool());
 }
@@ -187,8 +187,8 @@ void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
 void MemGraphCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   DrawBackground(*painter, option);
-  mRSZ = index.data(kResidentSizeRole).toLongLong();
-  mVSZ = index.data(kVirtualSizeRole).toLongLong();
+  setRSZ(index.data(kResidentSizeRole).toLongLong());
+  setVSZ(index.data(kVirtualSizeRole).toLongLong());
   painter->setFont(option.font);
   drawInteriorWithFrame(*painter, option.rect, option.palette);
 }

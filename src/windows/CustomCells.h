@@ -76,8 +76,8 @@ class ImageCell final : public QStyledItemDelegate {
 class CPUCell final : public QStyledItemDelegate {
  public:
   double cpuPercent() const { return mCpuPercentage; }
-  /// From 0 to 1.
-  void setCpuPercent(double share) { mCpuPercentage = share; }
+  /// From 0 to 1; of the cell that is drawn next.
+  void setCpuPercent(double share) const { mCpuPercentage = share; }
 
   void drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark,
                              bool isIdleTask = false) const;
@@ -92,9 +92,9 @@ class CPUCell final : public QStyledItemDelegate {
 /// colours of its own. With gDrawVSZText the virtual size stands on it.
 class MemGraphCell final : public QStyledItemDelegate {
  public:
-  /// Bytes.
-  void setRSZ(std::int64_t size) { mRSZ = size; }
-  void setVSZ(std::int64_t size) { mVSZ = size; }
+  /// Bytes; of the cell that is drawn next.
+  void setRSZ(std::int64_t size) const { mRSZ = size; }
+  void setVSZ(std::int64_t size) const { mVSZ = size; }
 
   void drawInteriorWithFrame(QPainter& painter, const QRect& frame, const QPalette& palette) const;
   void paint(QPainter* painter, const QStyleOptionViewItem& option,

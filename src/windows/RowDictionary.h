@@ -172,7 +172,6 @@ class RowDictionary {
     if (std::exchange(mIndicator, name) == name) return false;
     return mChanged = true;
   }
-  const char* Indicator() const { return mIndicator; }
 
   /// An ended process that its parent has not asked after looks different.
   void SetRunState(RunState state) {

@@ -13,6 +13,8 @@
 namespace lurkwell {
 namespace {
 
+constexpr MachineSources kAllMachineSources = 2 * kGraphicsDevices - 1;
+
 TEST(HostStatistics, AreReadByNameAndMissOnesAreTold) {
   const TemporaryFolder tree;
   const LinuxHostStatistics host(tree.Path());

@@ -61,7 +61,7 @@ TEST(PicturesTest, EachIsSeenOnLightAndDarkAndDrawnAnewForEachScale) {
 
 TEST(PicturesTest, WhatTheWindowsShowByNameIsThere) {
   const QString names =
-      "lurkwell generic_process process_halted process_niced_high process_niced_low headercpu "
+      "lurkwell process_halted process_niced_high process_niced_low headercpu "
       "headermemory vm_green vm_yellow vm_red1 vm_red2 cpu_hist logging bring_to_front kill "
       "hide_process reveal_in_finder high_priority medium_priority low_priority processhalt "
       "processcont show_preferences customise";

@@ -38,7 +38,6 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(XAtom::kCount)> 
     "_NET_WM_WINDOW_TYPE_DIALOG",
     "_NET_WM_WINDOW_TYPE_NORMAL",
     "_NET_WM_WINDOW_TYPE_UTILITY",
-    "UTF8_STRING",
     "_NET_WM_ICON",
     "_NET_WM_WINDOW_TYPE"};
 

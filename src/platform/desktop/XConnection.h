@@ -39,7 +39,6 @@ enum class XAtom : std::size_t {
   kTypeDialog,
   kTypeNormal,
   kTypeUtility,
-  kUtf8,
   kWindowIcon,
   kWindowType,
   kCount
