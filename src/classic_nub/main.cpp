@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
   const std::string address = isTold ? argv[2] : usual != nullptr ? usual : "";
   const QCoreApplication application(argc, argv);
   DBusEventBus events({address, QStringLiteral("nub"), classic::kNubService});
-  // One at a time: who has the name serves.
+  // One at a time: the one with the name serves.
   if (!events.HasItsName()) return 1;
   Nub nub(events, [] { QCoreApplication::quit(); });
   return QCoreApplication::exec();

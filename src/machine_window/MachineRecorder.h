@@ -53,7 +53,7 @@ class MachineRecorder final : public ProcessInformationClient {
 
   ~MachineRecorder() override;
 
-  /// Whether a window shows it now, which is told of each moment; null for nobody.
+  /// Whether a window shows it now, which is told of each moment; null for none.
   void SetWatcher(std::function<void()> watcher);
 
   const FigureHistory& History() const { return mHistory; }

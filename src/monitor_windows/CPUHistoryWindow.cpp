@@ -171,7 +171,7 @@ double CPUHistoryWindowInformationClient::TakeDescendantsSeconds() {
   for (const auto pid : PidBlob(kPidBlobDescendantsOf, &mPid)) {
     const auto active = ActiveTimeOf(pid).value_or(TimeValue{});
     const auto before = mDescendants.find(pid);
-    // What a process had used before anybody looked is no part of this turn; what one has used that
+    // What a process had used before the first look is no part of this turn; what one has used that
     // was born since then is. A figure that came before it was asked for may be an old one.
     bool unread = !mDescendantsKnown;
     if (before != mDescendants.end()) {

@@ -70,7 +70,7 @@ class FloatingWindow final : public QWidget {
   /// Where labels go and what they are laid over.
   QWidget& ContentWidget();
   QRect ContentBounds() const;
-  /// Who fills the context menu, which opens at the second button; an empty function for none,
+  /// What fills the context menu, which opens at the second button; an empty function for none,
   /// which closes one that is open.
   void SetMenu(std::function<void(QMenu&)> fill);
   /// Shows where the window is, for a moment.

@@ -77,7 +77,7 @@ class ProcessWatchdog final : public ProcessInformationClient {
  private:
   void Remember(int pid);
   static std::int32_t CountRemembered();
-  /// Who gets a window: first who has had it already, then who belongs to the same owner.
+  /// Which process gets a window: first one that has had it, then one of the same owner.
   enum class Claim { kFollowedLast, kSameOwner, kAny };
   void OpenWindowsOf(int pid, Claim claim);
   /// Whether a record's window, of the array before `nextIndex`, is to be opened now.

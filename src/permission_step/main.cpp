@@ -129,14 +129,14 @@ Refusal Replace(int folder, int twin, gid_t group, const Digest::Value& digest) 
 /// that is all that is missing.
 Refusal Bless(uid_t user) {
   constexpr Refusal kNotAnAdministrator{kNotPermitted, "this needs an administrator's rights"};
-  // Whoever runs a copy that has rights already is not an administrator for that.
+  // Running a copy that has rights already makes no administrator.
   if (getuid() != geteuid()) return kNotAnAdministrator;
   const Descriptor twin(OpenTwin());
   struct stat own, info, copyInfo;
   if (fstat(twin, &own) != 0)
     return {kNoHelper, "there is no helper of root's alone beside this program"};
   const Descriptor folder(open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  // Who could move the copy into a folder of his own would be served there.
+  // A user able to move the copy into a folder of his own would be served there.
   if (fstat(folder, &info) != 0 || info.st_uid != user || !IsOwnersAlone(info) ||
       !IsSafelyReached(info))
     return {kBadFolder, "the folder is not the user's alone, or is reached over a link"};

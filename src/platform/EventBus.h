@@ -56,7 +56,7 @@ class EventBus {
 
   virtual ~EventBus() = default;
 
-  /// kNoError means that the event is on its way, not that anybody has read it.
+  /// kNoError means that the event is on its way, not that it has been read.
   virtual Status Send(const EventAddress& address, const Event& event) = 0;
 
   /// Calls `handler` for every event of that class and id from now on, instead of an earlier one.

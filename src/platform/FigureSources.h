@@ -43,7 +43,7 @@ inline constexpr FigureSources kCostlyFigureSources =
 inline constexpr FigureSources kSeldomChanging =
     kFromIdentity | kFromExecutable | kFromCommandLine | kFromLabel | kFromNamespaces;
 
-/// Those that nobody but the process changes: read as soon as it has run, and after a minute if it
+/// Those that only the process itself changes: read as soon as it has run, and after a minute if it
 /// has not. What the longer description says of memory others take away, which its line in the
 /// table tells at the usual time.
 inline constexpr FigureSources kByRunningAlone = kFromStatus | kFromIO | kFromThreads;

@@ -46,7 +46,7 @@ class LURKWELL_SCOPED_CAPABILITY MutexLock {
     return news.wait_for(mLock, time, std::move(condition));
   }
 
-  /// The same until somebody asks the thread to stop.
+  /// The same until the thread is asked to stop.
   template <class Condition>
   void Wait(std::condition_variable_any& news, const std::stop_token& stop, Condition condition) {
     news.wait(mLock, stop, std::move(condition));

@@ -31,7 +31,7 @@ class Screen {
   virtual bool IsCovered(std::uint64_t window) = 0;
 
   /// Whether a window of another program has the keyboard. A key that is held for the whole desktop
-  /// takes it from nobody.
+  /// takes it from none.
   virtual bool IsKeyboardElsewhere() = 0;
 };
 

@@ -14,7 +14,7 @@
 /// A class whose objects hold a lock for as long as they live.
 #define LURKWELL_SCOPED_CAPABILITY LURKWELL_THREAD_ATTRIBUTE(scoped_lockable)
 
-/// Data that is read and written only by who holds the lock.
+/// Data that is read and written only while the lock is held.
 #define LURKWELL_GUARDED_BY(lock) LURKWELL_THREAD_ATTRIBUTE(guarded_by(lock))
 
 /// The caller holds the lock.

@@ -30,7 +30,7 @@ enum class SettingEffect : std::uint8_t {
 };
 
 /// One setting: the only place that says what may be stored under its key, what counts when nothing
-/// is, who hears of a change and where the user finds it.
+/// is, what hears of a change and where the user finds it.
 struct Setting {
   const char* key;
   SettingKind kind;

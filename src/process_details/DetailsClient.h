@@ -9,7 +9,7 @@
 
 namespace lurkwell {
 
-/// Who looks at one process. Main thread.
+/// What looks at one process. Main thread.
 class DetailsViewer {
  public:
   virtual ~DetailsViewer() = default;

@@ -52,7 +52,7 @@ struct FollowedProcess {
 FollowedProcess DescribeFollowed(std::int32_t pid);
 
 /// The program's name for people, whole as far as it can be known; empty when there is no such
-/// process. The first one who asks for a long name waits for the machine as above.
+/// process. The first that asks for a long name waits for the machine as above.
 QString FollowedName(std::int32_t pid);
 
 }  // namespace lurkwell

@@ -53,7 +53,7 @@ class TimeGraph final : public QWidget {
   /// Stands in the middle while no figure is known; for why there is none.
   void setEmptyText(const QString& text);
 
-  /// The time that the cursor points at, nothing without one. Setting it tells nobody.
+  /// The time that the cursor points at, nothing without one. Setting it sends no signal.
   std::optional<std::int64_t> cursor() const { return mCursor; }
   void setCursor(std::optional<std::int64_t> when);
   /// Another line that stays with a time, for what is shown elsewhere of it.

@@ -200,7 +200,7 @@ TEST_F(ClassicPrograms, GuestsComeRunAndEndWhateverDiesMeanwhile) {
   // itself.
   EnvironmentProgram second(bus);
   second.Say("refuse 2");
-  // Who claims to be a process of the kernel's is not believed.
+  // A guest that claims to be a process of the kernel's is not believed.
   const auto self = SerialNumberOf(*ProcFolder("/proc").Identify(::getpid()));
   second.Say("guest " + std::to_string(self.high) + " " + std::to_string(self.low) +
              " APPL LIAR 1 1 0 Impostor");

@@ -211,7 +211,7 @@ TEST_F(MachineWindowTest, GoesOnRecordingWhileItIsClosedWithoutBeatsOfItsOwn) {
   const auto before = history.Size();
   Pass(60'000);
   EXPECT_EQ(history.Size() - before, 6U) << "by itself";
-  // Who looks at few processes, or at none, is not made to wait for all.
+  // A client that looks at few processes, or none, is not made to wait for all.
   Add("watchdog", 500).WaitsForBirths();
   Add("graph", 250).Needs({"meta_active_time"}).OfPids({300});
   const auto alone = history.Size();

@@ -197,7 +197,7 @@ class UnchangedProcesses : public ::testing::Test {
   }
 };
 
-/// A turn in the time that a reading is kept, spread over its passes; who runs is read each time.
+/// A turn in the time that a reading is kept, spread over its passes; what runs is read each time.
 TEST_F(UnchangedProcesses, AreReadInTurnsAndTheOthersInEveryPass) {
   constexpr int kPasses = 10, kTurns = 3;
   for (int i = 0; i < 20; ++i) StartPair();
@@ -421,7 +421,7 @@ TEST_F(UnchangedProcesses, ShowInTheNextPassWhatWasDoneToThem) {
   }
 }
 
-/// Where the kernel tells nothing of who has run, everything is read.
+/// Where the kernel does not tell what has run, everything is read.
 TEST_F(UnchangedProcesses, AreReadInEveryPassWherePidsMeanOthers) {
   const Child child;
   Settle({child.Pid()});

@@ -160,7 +160,7 @@ TEST_F(ActionsTest, ACommandToManyHasAnEndHoweverSlowTheHelperIs) {
   EXPECT_EQ(results[ActionResult::kDone], 4);
   EXPECT_EQ(results[ActionResult::kNoTime], 96);
 
-  // An answer that is too late is nobody's.
+  // An answer that is too late belongs to no request.
   machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kStalls);
   gDaemonLimits.answering *= 2;
   auto reports = CarryOut(PlanAction(ProcessCommand::kHalt, pids));

@@ -61,7 +61,7 @@ class ApplicationScopes {
   /// FirstOfEach of the processes as they were before mHaveChanged was set.
   std::vector<Application> mApplications;
   bool mHaveChanged = false;
-  /// Who is looked at next, from the back.
+  /// What is looked at next, from the back.
   std::vector<std::int32_t> mTurn;
 };
 

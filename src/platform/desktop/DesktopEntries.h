@@ -12,7 +12,7 @@
 
 namespace lurkwell {
 
-/// What one desktop entry says of its application, as far as anybody asks. Any bytes.
+/// What one desktop entry says of its application, as far as it is asked for. Any bytes.
 struct DesktopEntry {
   /// The file's name below its folder, without ".desktop", folders joined with dashes.
   std::string id;

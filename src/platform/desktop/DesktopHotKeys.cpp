@@ -16,7 +16,7 @@ constexpr std::uint32_t kFirstFunctionKey = 0xffbe;
 constexpr std::uint32_t kLastFunctionKey = 0xffd1;
 constexpr char kRefusedReason[] = "another program has it, or the keyboard has no such key";
 
-/// Who gives keys away for windows such as this program's: an X server that is there for others
+/// What gives keys away for windows such as this program's: an X server that is there for others
 /// would take them from its own programs.
 DesktopHotKeys::Source KeysOfPlatform() {
   const QString platform = QGuiApplication::platformName();

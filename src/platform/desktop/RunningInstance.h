@@ -22,7 +22,7 @@ class RunningInstance : public QObject, protected QDBusContext {
   explicit RunningInstance(const std::string& busAddress);
   ~RunningInstance() override;
 
-  /// The connection's name within this program, for others who share it.
+  /// The connection's name within this program, for other parts of it.
   static QString ConnectionName() { return QStringLiteral("lurkwell-instance"); }
 
   enum class Answer {

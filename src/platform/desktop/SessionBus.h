@@ -21,7 +21,7 @@ class BusUsers final : public QObject {
   explicit BusUsers(const QDBusConnection& bus) : mBus(bus) {}
 
   /// Calls `done` with whether the connection of that unique name is this user's: at once when it
-  /// is known, else when the bus has answered; who it does not answer for is a stranger. False,
+  /// is known, else when the bus has answered; a sender it does not know is a stranger. False,
   /// without a call ever, when too many are being asked for.
   bool Ask(const QString& connection, std::function<void(bool)> done);
 

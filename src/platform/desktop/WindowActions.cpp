@@ -7,7 +7,7 @@
 namespace lurkwell {
 namespace {
 
-// Who asks: a program that acts for the user, not the application itself.
+// What asks: a program that acts for the user, not the application itself.
 constexpr std::uint32_t kFromUser = 2;
 constexpr std::uint32_t kIconicState = 3;
 

@@ -139,7 +139,7 @@ bool WaitFor(int descriptor, short events, steady_clock::time_point deadline) {
   }
 }
 
-/// The reader of the pipe learns from the lock who writes into it.
+/// The reader of the pipe learns from the lock which process writes.
 void SignIn(int pipe) {
   struct flock lock {};
   lock.l_type = F_WRLCK;

@@ -14,7 +14,7 @@ constexpr std::size_t kMostReaders = 16;
 
 }  // namespace
 
-/// Shared by the thread and those who wait for it; the last of them frees it.
+/// Shared by the thread and the callers that wait for it; the last of them frees it.
 struct LinuxProcessDetails::Job {
   /// Set last by the thread, which touches nothing afterwards.
   std::atomic<bool> isDone = false;

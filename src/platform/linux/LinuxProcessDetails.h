@@ -10,8 +10,8 @@
 namespace lurkwell {
 
 /// Reads each on a thread of its own, since memory that is locked, or hangs on a file system that
-/// does not answer, may keep any of them for ever. Who asks again for what is being read waits for
-/// the same thread; there are sixteen at most.
+/// does not answer, may keep any of them for ever. A caller that asks again for what is being read
+/// waits for the same thread; there are sixteen at most.
 class LinuxProcessDetails final : public ProcessDetails {
  public:
   /// Folders like /proc and that of the control groups (empty: where this machine has it).
@@ -28,7 +28,7 @@ class LinuxProcessDetails final : public ProcessDetails {
 
   std::string mProc;
   std::string mUnits;
-  /// Those that nobody waits for any more stay until they end.
+  /// Those that no caller waits for any more stay until they end.
   std::map<Key, std::shared_ptr<Job>> mJobs;
 };
 

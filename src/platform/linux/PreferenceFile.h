@@ -26,7 +26,7 @@ class PreferenceFile {
   /// Where the content lies: the end of the chain of links as they are now.
   std::string Target() const;
 
-  /// The lock file of all who use the same target.
+  /// The lock file of all programs with the same target.
   std::string LockPath() const;
 
   /// Makes the target's folder (mode 0700) and those above it where they are missing.

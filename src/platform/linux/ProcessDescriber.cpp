@@ -51,7 +51,7 @@ std::string ReadFile(ProcFiles& files, int folder, const char* name) {
   return text;
 }
 
-/// One who is to be described further.
+/// A process that is to be described further.
 struct Reading {
   ProcessDescription description;
   std::optional<::uid_t> user;

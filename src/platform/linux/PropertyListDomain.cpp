@@ -19,7 +19,7 @@ namespace lurkwell {
 namespace {
 
 // Byte 0 is the lock. A process that waits holds a shared lock on byte 1, so that a busy writer
-// sees that it would otherwise take the lock again before anybody who sleeps between two tries.
+// sees that it would otherwise take the lock again before another one that sleeps between tries.
 constexpr off_t kLockByte = 0;
 constexpr off_t kCrowdByte = 1;
 
