@@ -89,6 +89,9 @@ struct MachineLimits {
 /// What was asked for and is there; all else is nothing or empty.
 struct MachineFigures {
   std::vector<ProcessorTime> processors;
+  /// Processes and threads that have begun since the machine started, those that ended among them;
+  /// with the processors' times.
+  std::optional<std::int64_t> begunTasks;
   std::optional<MachineMemory> memory;
   std::vector<MovedBytes> disks;
   std::vector<MovedBytes> interfaces;

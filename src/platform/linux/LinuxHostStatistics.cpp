@@ -141,6 +141,7 @@ void MachineReader::ReadProcessorTimes(MachineFigures& figures) {
   const std::int64_t tick = 1'000'000 / std::max(1L, ::sysconf(_SC_CLK_TCK));
   ForEachLine(mProc.ReadText("stat"), [&](std::string_view line) {
     const auto name = NextWord(line);
+    if (name == "processes") figures.begunTasks = Parsed<std::int64_t>(NextWord(line));
     if (!name.starts_with("cpu")) return;
     const auto number = Parsed<int>(name.substr(3));
     const auto times = NextNumbers<8>(line);
