@@ -16,6 +16,7 @@ FLOORS = [
     {"consolidator"},
     {"process_control"},
     {"query"},
+    {"recording"},
     {"resources"},  # beside src
     {"windows"},  # what every window uses
     {"main_window", "monitor_windows", "animated_view", "preferences_window",
@@ -30,7 +31,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
 # The engine links without the toolkit.
 TOOLKIT = re.compile(r'^\s*#\s*include\s*<(Q[A-Za-z]+|Qt[A-Za-z]*/.*)>')
 WITHOUT_TOOLKIT = {"platform", "platform/linux", "platform/simulated", "preferences", "consolidator",
-                   "channel", "process_control", "query", "helper", "permission_step"}
+                   "channel", "process_control", "query", "recording", "helper", "permission_step"}
 
 
 # Settings by any text for a key; all others name them by the table's.
