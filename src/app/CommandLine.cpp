@@ -40,7 +40,19 @@ Watches the processes of this machine.
   --sort KEY           in this order (with --print); -KEY has the largest first
   --limit N            print N processes at most (with --print)
   --tree               print children below their parents (with --print)
-  --interval SECONDS   time between two updates (with --print); 1 without it
+  --interval SECONDS   time between two updates (with --print); 1 without it;
+                       and between two beats (with --record); 2 without it
+  --replay FILE        print the processes of a recording (with --print)
+  --at TIME            as they were then (with --replay): '03:12', a date with a time
+                       as in '2026-11-22T03:12', or '-2h' before the recording's end;
+                       its end without it
+  --record FILE        record the processes to a file, until a signal ends it; goes on
+                       with a recording that is there
+  --arguments          record programs' arguments, too (with --record); they may be
+                       secrets
+  --keep DAYS          let go of what is older (with --record); 7 without it
+  --limit-size SIZE    let go of the oldest beyond that size, such as 500M or 2G
+                       (with --record); 1G without it
   --unprivileged       never ask for an administrator's password; other users'
                        processes then show and obey only as far as your own
                        rights go
@@ -58,11 +70,18 @@ constexpr const char* kWindows[] = {"main",        "machine",  "history",  "logg
 
 constexpr double kLeastSecondsBetween = 0.1;
 constexpr double kMostSecondsBetween = 86'400;
+constexpr std::int32_t kMostDays = 36'500;
+constexpr double kLeastSize = 1 << 20;
+constexpr double kMostSize = 1e15;
 
 bool IsForPrinting(std::string_view option) {
   constexpr std::string_view kOptions[] = {"--count", "--columns", "--format",   "--filter",
                                            "--sort",  "--limit",   "--interval", "--tree"};
   return std::ranges::find(kOptions, option) != std::end(kOptions);
+}
+
+bool IsForRecording(std::string_view option) {
+  return option == "--arguments" || option == "--keep" || option == "--limit-size";
 }
 
 /// Walks over the arguments; an option's value follows it or stands behind "=".
@@ -76,7 +95,9 @@ class Reader {
       const std::string_view argument = Take();
       const auto equals = argument.find('=');
       mOption = argument.substr(0, equals);
-      if (IsForPrinting(mOption)) mLine.printingOption = mOption;
+      if (IsForPrinting(mOption) && (mOption != "--interval" || mLine.printingOption.empty()))
+        mLine.printingOption = mOption;
+      if (IsForRecording(mOption)) mLine.recordingOption = mOption;
       mValue.reset();
       if (equals != std::string_view::npos) mValue = argument.substr(equals + 1);
       if (!ReadOption()) return std::nullopt;
@@ -102,11 +123,28 @@ class Reader {
     if (mLine.action == kHelp || mLine.action == kVersion) return true;
     std::vector<const char*> alone;
     if (mLine.action == kPrint) alone.push_back("--print");
+    if (!mLine.recordTo.empty()) alone.push_back("--record");
     if (mLine.toggleOverlay) alone.push_back("--toggle-overlay");
     if (mLine.screenshot) alone.push_back("--screenshot");
     if (alone.size() > 1)
       return Complain(std::string(alone[0]) + " and " + alone[1] + " exclude each other");
-    return !mWindowIsNamed || mLine.screenshot || Complain("--window needs --screenshot");
+    if (mWindowIsNamed && !mLine.screenshot) return Complain("--window needs --screenshot");
+    return RecordingFitsTogether();
+  }
+
+  bool RecordingFitsTogether() {
+    const bool records = !mLine.recordTo.empty();
+    if (!mLine.recordingOption.empty() && !records)
+      return Complain(mLine.recordingOption + " needs --record");
+    if (!mLine.at.empty() && mLine.replay.empty()) return Complain("--at needs --replay");
+    if (!mLine.replay.empty() && mLine.action != CommandLine::Action::kPrint)
+      return Complain(records ? "--record and --replay exclude each other"
+                              : "--replay needs --print");
+    if (!records) return true;
+    mLine.action = CommandLine::Action::kRecord;
+    const bool isForPrinting =
+        !mLine.printingOption.empty() && mLine.printingOption != "--interval";
+    return !isForPrinting || Complain(mLine.printingOption + " needs --print");
   }
 
   bool ReadOption() {
@@ -117,6 +155,11 @@ class Reader {
     if (mOption == "--sort") return ReadText(mLine.sort);
     if (mOption == "--limit") return ReadCountInto(mLine.limit);
     if (mOption == "--interval") return ReadInterval();
+    if (mOption == "--record") return ReadText(mLine.recordTo);
+    if (mOption == "--keep") return ReadDays();
+    if (mOption == "--limit-size") return ReadSize();
+    if (mOption == "--replay") return ReadText(mLine.replay);
+    if (mOption == "--at") return ReadText(mLine.at);
     if (mOption == "--screenshot") return ReadScreenshot();
     if (mOption == "--window") return ReadWindow();
     if (mOption == "--theme") return ReadTheme();
@@ -125,6 +168,8 @@ class Reader {
     if (mValue) return Complain(std::string(mOption) + " takes no value");
     if (mOption == "--tree") {
       mLine.isTree = true;
+    } else if (mOption == "--arguments") {
+      mLine.keepsArguments = true;
     } else if (mOption == "--print") {
       mLine.action = CommandLine::Action::kPrint;
     } else if (mOption == "--help" || mOption == "-h") {
@@ -172,6 +217,33 @@ class Reader {
       return Complain("--interval needs seconds from 0.1 to 86400, not '" + std::string(*mValue) +
                       "'");
     mLine.intervalInMilliseconds = static_cast<std::int32_t>(std::lround(seconds * 1000));
+    return true;
+  }
+
+  bool ReadDays() {
+    std::optional<std::int32_t> days;
+    if (!ReadCountInto(days)) return false;
+    mLine.daysToKeep = *days;
+    return *days <= kMostDays || Complain("--keep needs 36500 days at most");
+  }
+
+  /// A number with a unit behind it; K, M, G and T are powers of 1024.
+  bool ReadSize() {
+    if (!TakeValue()) return false;
+    constexpr std::string_view kUnits = "KMGT";
+    double size = 0;
+    const char* end = mValue->data() + mValue->size();
+    const auto [at, error] = std::from_chars(mValue->data(), end, size);
+    std::string_view unit(at, static_cast<std::size_t>(end - at));
+    if (unit.ends_with('B') && unit.size() > 1) unit.remove_suffix(unit.ends_with("iB") ? 2 : 1);
+    const auto place = unit.size() == 1 ? kUnits.find(unit) : std::string_view::npos;
+    if (place != std::string_view::npos)
+      size = std::ldexp(size, 10 * (static_cast<int>(place) + 1));
+    const bool hasUnit = unit.empty() || place != std::string_view::npos;
+    if (error != std::errc{} || !hasUnit || !(size >= kLeastSize) || size > kMostSize)
+      return Complain("--limit-size needs a size from 1M up, such as 500M or 2G, not '" +
+                      std::string(*mValue) + "'");
+    mLine.bytesToKeep = static_cast<std::int64_t>(size);
     return true;
   }
 

@@ -13,7 +13,7 @@ namespace lurkwell {
 
 /// What the command line asks for.
 struct CommandLine {
-  enum class Action { kRun, kPrint, kHelp, kVersion };
+  enum class Action { kRun, kPrint, kRecord, kHelp, kVersion };
   enum class Theme { kSystem, kLight, kDark };
 
   Action action = Action::kRun;
@@ -31,6 +31,18 @@ struct CommandLine {
   std::optional<std::int32_t> intervalInMilliseconds;
   /// The last option that holds for printed processes alone; empty without one.
   std::string printingOption;
+  /// A file to record to.
+  std::string recordTo;
+  /// Record whole command lines.
+  bool keepsArguments = false;
+  std::optional<std::int64_t> daysToKeep;
+  std::optional<std::int64_t> bytesToKeep;
+  /// The last option that holds for recording alone; empty without one.
+  std::string recordingOption;
+  /// A recording to show instead of this machine; empty for this machine.
+  std::string replay;
+  /// A moment in it, see RecordingTime.h; empty for its last one.
+  std::string at;
   /// Start the helper with the user's own rights.
   bool unprivileged = false;
   /// A file to write a window's picture to, instead of running on.

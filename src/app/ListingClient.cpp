@@ -136,7 +136,7 @@ void ListingClient::NotifyProcessesHaveBeenUpdated() {
   if (mPlan.isTree) candidates = AsTree(std::move(candidates));
   if (mPlan.limit && candidates.size() > static_cast<std::size_t>(*mPlan.limit))
     candidates.resize(static_cast<std::size_t>(*mPlan.limit));
-  Listing listing{.time = TheMachine().clock.Now(), .processes = {}};
+  Listing listing{.time = TheMachine().clock.CalendarNow(), .processes = {}};
   for (const auto& candidate : candidates) {
     auto& process = listing.processes.emplace_back(
         PrintedProcess{.pid = candidate.pid, .depth = candidate.depth, .values = {}});

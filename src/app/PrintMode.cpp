@@ -57,22 +57,28 @@ class UsualColumnsClient : public PrintfOutputInformationClient {
   static bool IsSize(std::string_view property) { return property == "RSZ" || property == "VSZ"; }
 };
 
-/// A client that prints, and what is to happen after each update.
+/// A client that prints, which updates, and what is to happen after each of them.
+struct PrintingHooks {
+  std::function<bool()> isPrinted;
+  std::function<void()> afterUpdate;
+};
+
 template <typename Printer>
 class Watched : public Printer {
  public:
   template <typename... Arguments>
-  explicit Watched(std::function<void()> afterUpdate, Arguments&&... arguments)
-      : Printer(std::forward<Arguments>(arguments)...), mAfterUpdate(std::move(afterUpdate)) {}
+  explicit Watched(PrintingHooks hooks, Arguments&&... arguments)
+      : Printer(std::forward<Arguments>(arguments)...), mHooks(std::move(hooks)) {}
 
   void NotifyProcessesHaveBeenUpdated() override {
+    if (mHooks.isPrinted && !mHooks.isPrinted()) return;
     errno = 0;
     Printer::NotifyProcessesHaveBeenUpdated();
-    mAfterUpdate();
+    mHooks.afterUpdate();
   }
 
  private:
-  std::function<void()> mAfterUpdate;
+  PrintingHooks mHooks;
 };
 
 /// Stops the run loop when enough has been printed, or when its reader has gone.
@@ -108,7 +114,7 @@ void ShutDown() {
 bool IsUsualListing(const CommandLine& commandLine) {
   return commandLine.columns.empty() && commandLine.form == ListingForm::kText &&
          commandLine.filter.empty() && commandLine.sort.empty() && !commandLine.isTree &&
-         !commandLine.limit && !commandLine.intervalInMilliseconds;
+         !commandLine.limit && !commandLine.intervalInMilliseconds && commandLine.replay.empty();
 }
 
 /// What is wrong with the options.
@@ -146,7 +152,10 @@ std::optional<Complaint> MakePlan(const CommandLine& commandLine, ListingPlan& p
   plan.form = commandLine.form;
   plan.isTree = commandLine.isTree;
   plan.limit = commandLine.limit;
-  plan.intervalInMilliseconds = commandLine.intervalInMilliseconds.value_or(1000);
+  // A recording's time goes on by itself, as far as is wanted.
+  constexpr std::int32_t kEveryUpdate = 20;
+  plan.intervalInMilliseconds =
+      commandLine.replay.empty() ? commandLine.intervalInMilliseconds.value_or(1000) : kEveryUpdate;
   return std::nullopt;
 }
 
@@ -160,12 +169,14 @@ bool AreBuiltIn(const ListingPlan& plan) {
 
 }  // namespace
 
-int RunPrintMode(const CommandLine& commandLine) {
+int RunPrintMode(const CommandLine& commandLine, std::function<bool()> isPrinted) {
   const DataOutput output;
   ListingPlan plan;
   const bool isUsual = IsUsualListing(commandLine);
   // Starting ps takes longer than everything else.
-  const bool needsPS = isUsual || MakePlan(commandLine, plan).has_value() || !AreBuiltIn(plan);
+  const bool hasPS = commandLine.replay.empty();
+  const bool needsPS =
+      (isUsual || MakePlan(commandLine, plan).has_value() || !AreBuiltIn(plan)) && hasPS;
   LeavePSOut(!needsPS);
   InitializeProcessInformationConsolidator();
   if (needsPS) AwaitPSColumns(kPatienceForColumns);
@@ -180,13 +191,13 @@ int RunPrintMode(const CommandLine& commandLine) {
   // Nothing is done to processes here.
   if (IsHelperAskedForFigures()) LaunchHelperDaemon();
   EndOfPrinting end(output.Stream(), commandLine.count);
-  const auto afterUpdate = [&end] { end.AfterUpdate(); };
+  PrintingHooks hooks{std::move(isPrinted), [&end] { end.AfterUpdate(); }};
   ProcessInformationClient* client = nullptr;
   if (isUsual) {
-    BeginPrintfOutput(new Watched<UsualColumnsClient>(afterUpdate, output.Stream()));
+    BeginPrintfOutput(new Watched<UsualColumnsClient>(std::move(hooks), output.Stream()));
     client = gPrintfOutputInfoClient;
   } else {
-    client = new Watched<ListingClient>(afterUpdate, std::move(plan), output.Stream());
+    client = new Watched<ListingClient>(std::move(hooks), std::move(plan), output.Stream());
     AddProcessInformationClient(client);
   }
   RequestUpdate(client);

@@ -7,11 +7,15 @@
 #include <cstring>
 #include <iostream>
 #include <memory>
+#include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "app/CommandLine.h"
 #include "app/PrintMode.h"
+#include "app/RecordMode.h"
+#include "app/ReplayedBeats.h"
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
 #include "platform/Diagnostics.h"
@@ -29,6 +33,10 @@
 #include "platform/linux/LinuxCostlyFigures.h"
 #include "platform/linux/LinuxMachine.h"
 #include "platform/linux/ProcFiles.h"
+#include "recording/RecordedProcessTable.h"
+#include "recording/RecordedRunLoop.h"
+#include "recording/RecordedServices.h"
+#include "recording/RecordingTime.h"
 
 namespace lurkwell {
 namespace {
@@ -107,7 +115,70 @@ class DesktopMachine {
 int RunInTerminal(const CommandLine& commandLine) {
   LinuxMachine machine;
   const MachineInstallation installation(machine.services);
-  return RunPrintMode(commandLine);
+  const bool records = commandLine.action == CommandLine::Action::kRecord;
+  return records ? RunRecordMode(commandLine) : RunPrintMode(commandLine);
+}
+
+/// A recording as a program in a terminal sees it.
+class RecordedTerminalMachine {
+ public:
+  RecordedTerminalMachine(std::unique_ptr<Recording> recording, std::int64_t millisecondsBetween)
+      : player(std::move(recording)), beats(player, millisecondsBetween) {}
+
+  RecordingPlayer player;
+  ReplayedBeats beats;
+  RecordedRunLoop runLoop{player, [this] { return beats.GoOn(); }};
+  PropertyListDomain stored;
+  RecordedMachinePreferences preferenceDomain{stored};
+  RecordedProcessTable processTable{player};
+  NoProcessManager processManager;
+  NoIconServices iconServices;
+  RecordedHostStatistics hostStatistics{player};
+  NoTools tools;
+  NoSignals signals;
+  LinuxNamedPipes namedPipes;
+  LinuxBundle bundle;
+  PolkitAuthorization authorization{bundle, PolkitAuthorization::Consent::kOnlyIfGiven};
+  TerminalAlerts alerts;
+  LinuxLogFiles logFiles;
+  NoHotKeys hotKeys;
+  NoScreen screen;
+  NoEventBus eventBus;
+  UnrecordedFigures costlyFigures;
+  UnrecordedDetails processDetails;
+  NoScheduler scheduler;
+
+  Machine services{player.Clock(), runLoop,       preferenceDomain, processTable,
+                   processManager, iconServices,  hostStatistics,   tools,
+                   signals,        namedPipes,    authorization,    bundle,
+                   alerts,         logFiles,      hotKeys,          screen,
+                   eventBus,       costlyFigures, processDetails,   scheduler};
+};
+
+int PrintRecording(CommandLine commandLine) {
+  auto opened = Recording::Open(commandLine.replay);
+  if (const auto* words = std::get_if<std::string>(&opened)) {
+    Diagnose("%s", words->c_str());
+    return kExitFailure;
+  }
+  auto recording = std::move(std::get<std::unique_ptr<Recording>>(opened));
+  const std::int64_t end = recording->Minutes().back().lastWall;
+  std::variant<std::int64_t, std::string> moment = end;
+  if (!commandLine.at.empty()) moment = ReadMoment(commandLine.at, end);
+  if (const auto* words = std::get_if<std::string>(&moment)) {
+    Diagnose("--at: %s", words->c_str());
+    return kExitUsage;
+  }
+  RecordedTerminalMachine machine(std::move(recording),
+                                  commandLine.intervalInMilliseconds.value_or(0));
+  if (const auto words = machine.beats.Begin(std::get<std::int64_t>(moment)); !words.empty()) {
+    Diagnose("%s", words.c_str());
+    return kExitFailure;
+  }
+  Diagnose("as of %s", RecordedMomentText(machine.beats.BeginsAt()).c_str());
+  if (!commandLine.count) commandLine.count = 1;
+  const MachineInstallation installation(machine.services);
+  return RunPrintMode(commandLine, [&machine] { return machine.beats.IsPrinted(); });
 }
 
 std::string BusAddress() {
@@ -196,7 +267,11 @@ int Say(const char* text) {
 }
 
 int Run(const CommandLine& commandLine, int& argc, char** argv) {
-  if (commandLine.action == CommandLine::Action::kPrint) return RunInTerminal(commandLine);
+  using enum CommandLine::Action;
+  if (commandLine.action == kPrint && !commandLine.replay.empty())
+    return PrintRecording(commandLine);
+  if (commandLine.action == kPrint || commandLine.action == kRecord)
+    return RunInTerminal(commandLine);
   if (commandLine.toggleOverlay) return ToggleOverlay(argc, argv);
   const char* platform = std::getenv("QT_QPA_PLATFORM");
   const bool platformIsChosen = platform != nullptr && *platform != '\0';

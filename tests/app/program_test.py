@@ -111,6 +111,11 @@ class CommandLine(Program):
                 (["--print", "--format", "xml"], "--format is text, json, jsonl or csv"),
                 (["--print", "--interval", "0"], "--interval needs seconds"),
                 (["--print", "--limit", "0"], "--limit needs a number"),
+                (["--record", "x", "--print"], "--print and --record exclude each other"),
+                (["--record", "x", "--tree"], "--tree needs --print"),
+                (["--record", "x", "--limit-size", "3Q"], "--limit-size needs a size"),
+                (["--keep", "3"], "--keep needs --record"),
+                (["--print", "--at", "03:12"], "--at needs --replay"),
                 (["--print", "--columns", "zzzzzzzzzzzz"],
                  "no property or ps column 'zzzzzzzzzzzz'\n")):
             with self.subTest(arguments):
@@ -262,6 +267,69 @@ class Printing(Program):
         status, out, errors = self.run_to_end("--print", "--count", "1", "--unprivileged")
         self.assertEqual(status, 0, errors)
         self.assertGreater(len(out.splitlines()), 1)
+
+
+class Recording(Program):
+    def test_what_has_been_is_printed_as_what_is(self):
+        """A child that lives and dies between two moments of a recording."""
+        file = self.home + "/a recording%"
+        recorder = self.start("--record", file, "--interval=0.2")
+        time.sleep(1)
+        program = self.home + "/shortlived"
+        shutil.copy(shutil.which("sleep"), program)
+        child = subprocess.Popen([program, "1000", "8.7123456"])
+        self.addCleanup(child.kill)
+        own = f"--filter=pid:{child.pid} name:shortlived"
+        self.wait_for(lambda: "shortlived" in self.printed(file, own)[1])
+        time.sleep(1.2)
+        then = datetime.datetime.now().isoformat(timespec="seconds")
+        time.sleep(1.5)
+        # One that looks on while it is recorded, as it was.
+        status, out, errors = self.printed(file, f"--at={then}", own, "--columns=name,parent,command",
+                                           "--format=csv")
+        self.assertEqual(status, 0, errors)
+        self.assertRegex(errors, r"^lurkwell: as of \d{4}-\d\d-\d\d \d\d:\d\d:\d\d\n$")
+        (row,) = csv.DictReader(out.splitlines())
+        self.assertEqual([row["pid"], row["pid_parent_pid"], row["pid_command_line"]],
+                         [str(child.pid), str(os.getpid()), program])
+        child.kill()
+        child.wait()
+        second = self.run_to_end("--record", file)
+        self.assertEqual(second[:2], (1, ""))
+        self.assertIn("is being recorded to already", second[2])
+        time.sleep(1)
+        recorder.send_signal(signal.SIGTERM)
+        _, errors = recorder.communicate(timeout=20)
+        self.assertEqual(recorder.returncode, 0)
+        self.assertRegex(errors, r"^lurkwell: \d+ beats recorded, 0 lost; [1-9]\d* processes began, ")
+        self.assertEqual(os.stat(file).st_mode & 0o777, 0o600)
+        self.assertFalse(os.path.exists(file + "-wal"))
+        self.assertNotIn(b"8.7123456", pathlib.Path(file).read_bytes())
+
+        self.assertNotIn("shortlived", self.printed(file, own)[1])
+        self.assertRegex(self.printed(file, f"--at={then}", "--tree")[1],
+                         rf"\n +{child.pid}: +shortlived ")
+        # Some beats, with rates from the first one on.
+        _, out, _ = self.printed(file, f"--at={then}", "--count=3", "--filter=pid:1",
+                                 "--columns=cpu", "--format=csv")
+        rows = list(csv.DictReader(out.splitlines()))
+        self.assertEqual(len({row["time"] for row in rows}), 3)
+        self.assertEqual([row["pid_cpu_share"].replace(".", "").isdigit() for row in rows],
+                         [True] * 3)
+
+        for arguments, status, reason in (
+                ([f"--replay={file}", "--at=2001-02-03"], 1, "nothing was recorded at 2001-02-03"),
+                ([f"--replay={file}", "--at=soon"], 2, "--at: 'soon' is no time"),
+                ([f"--replay={file}", "--columns=%CPU"], 2, "no property or ps column '%CPU'"),
+                ([f"--replay={program}"], 1, "is no recording"),
+                ([f"--replay={file}x"], 1, "No such file")):
+            with self.subTest(arguments):
+                result = self.run_to_end("--print", *arguments)
+                self.assertEqual(result[:2], (status, ""))
+                self.assertIn(reason, result[2])
+
+    def printed(self, file, *arguments):
+        return self.run_to_end("--print", "--replay", file, *arguments)
 
 
 if __name__ == "__main__":
