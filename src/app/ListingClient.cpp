@@ -4,9 +4,9 @@
 #include <compare>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
+#include "consolidator/FamilyTree.h"
 #include "consolidator/ProcessQueries.h"
 #include "consolidator/PropertyValues.h"
 #include "consolidator/WholeNames.h"
@@ -95,38 +95,30 @@ std::vector<ListingClient::Candidate> ListingClient::Candidates() const {
 }
 
 std::vector<ListingClient::Candidate> ListingClient::AsTree(std::vector<Candidate> sorted) const {
-  std::unordered_set<std::int32_t> listed;
-  for (const auto& candidate : sorted) listed.insert(candidate.pid);
+  std::unordered_map<std::int32_t, int> places;
+  for (const auto& candidate : sorted)
+    places.emplace(candidate.pid, static_cast<int>(places.size()));
   const auto parentOf = [](std::int32_t pid) -> std::int32_t {
     const auto value = GetPIDPropertyTypedValue(pid, kParent);
     const auto* parent = std::get_if<std::int64_t>(&value);
     return parent == nullptr ? kInvalidPID : static_cast<std::int32_t>(*parent);
   };
-  std::unordered_map<std::int32_t, std::vector<std::size_t>> children;
-  std::vector<std::size_t> open;
-  for (std::size_t i = 0; i < sorted.size(); ++i) {
+  std::vector<int> parents;
+  for (const auto& candidate : sorted) {
     // The nearest ancestor that is listed; a table that contradicts itself may have no end.
-    std::int32_t parent = parentOf(sorted[i].pid);
-    for (int steps = 0; parent > 0 && !listed.contains(parent) && steps < 100; ++steps)
+    std::int32_t parent = parentOf(candidate.pid);
+    for (int steps = 0; parent > 0 && !places.contains(parent) && steps < 100; ++steps)
       parent = parentOf(parent);
-    if (listed.contains(parent) && parent != sorted[i].pid) {
-      children[parent].push_back(i);
-    } else {
-      open.push_back(i);
-    }
+    const auto found = parent > 0 ? places.find(parent) : places.end();
+    parents.push_back(found != places.end() ? found->second : FamilyTree::kNobody);
   }
-  std::ranges::reverse(open);
+  const FamilyTree family(std::move(parents));
   std::vector<Candidate> tree;
-  while (!open.empty()) {
-    const auto i = open.back();
-    open.pop_back();
-    tree.push_back(sorted[i]);
-    const auto its = children.find(sorted[i].pid);
-    if (its == children.end()) continue;
-    for (auto child = its->second.rbegin(); child != its->second.rend(); ++child) {
-      sorted[*child].depth = sorted[i].depth + 1;
-      open.push_back(*child);
-    }
+  for (const int place : family.DepthFirst()) {
+    auto& candidate = sorted[static_cast<std::size_t>(place)];
+    if (const int parent = family.ParentOf(place); parent != FamilyTree::kNobody)
+      candidate.depth = sorted[static_cast<std::size_t>(parent)].depth + 1;
+    tree.push_back(candidate);
   }
   return tree;
 }

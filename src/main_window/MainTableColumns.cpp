@@ -38,6 +38,15 @@ bool IsRightAligned(KeyId key, PropertyType type) {
          type == kPropertyTypeShare || type == kPropertyTypeRate;
 }
 
+/// Bars draw other values than one under their own key.
+RowDictionary::Cells CellsOf(KeyId column) {
+  auto cells = RowDictionary::CellsOf(column);
+  if (column == kInternalCPUPercent) cells |= RowDictionary::CellsOf(kInternalCpuUsage);
+  if (column == kInternalMemGraph)
+    cells |= RowDictionary::CellsOf(kPidRsz) | RowDictionary::CellsOf(kPidVsz);
+  return cells;
+}
+
 /// What columns have room for at first, where that is more than their titles take.
 struct UsualText {
   std::string_view key, text;
@@ -162,7 +171,7 @@ void vqMainTableController::addColumnToMainTable(KeyId key) {
   const auto type = GetProcPropertyType(name.c_str(), nullptr);
   if (fLayout.WidthOf(key) <= 0)
     fLayout.SetWidth(key, widthForColumn(key, ColumnTitle(name.c_str())));
-  fColumns.push_back({key, type, IsInternalKey(name), IsRightAligned(key, type)});
+  fColumns.push_back({key, type, IsInternalKey(name), IsRightAligned(key, type), CellsOf(key)});
 }
 
 int vqMainTableController::widthForColumn(KeyId key, const QString& title) const {

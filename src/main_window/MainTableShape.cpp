@@ -118,10 +118,8 @@ std::vector<RowDictionary*> vqMainTableController::rowsOfTree() {
   if (isNew) fTree.Build(fRows, fShape);
   addUp();
   if (isNew || fNeedsResort) {
-    if (fNeedsResort) resortTable();
-    const auto comparison =
-        fSortColumn != kNoKey ? SortingComparisonForColumn(KeyText(fSortColumn)) : nullptr;
-    fTree.Order(fRows.All(), comparison, sortContext());
+    fNeedsResort = false;
+    fTree.Order(sortComparison(), sortContext());
   }
   if (isNew) revealKeptRows();
   const auto isShown =

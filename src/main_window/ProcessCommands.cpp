@@ -11,8 +11,10 @@
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <variant>
 
+#include "consolidator/FamilyTree.h"
 #include "consolidator/PI_Consolidator.h"
 #include "consolidator/WholeNames.h"
 #include "main_window/ActionTexts.h"
@@ -44,27 +46,47 @@ ProcessSerialNumber SerialNumberOf(std::int32_t pid) {
   return psn;
 }
 
-std::unordered_map<std::int32_t, std::vector<std::int32_t>> ChildrenByParent() {
-  std::unordered_map<std::int32_t, std::vector<std::int32_t>> children;
-  for (const auto pid : PidBlob()) {
-    const auto value = GetPIDPropertyTypedValue(pid, "pid_parent_pid");
-    const auto* parent = std::get_if<std::int64_t>(&value);
-    if (parent != nullptr && *parent != pid)
-      children[static_cast<std::int32_t>(*parent)].push_back(pid);
+/// Who has started whom among all processes.
+class Families {
+ public:
+  Families() {
+    for (const auto pid : mPids) mPlaces.emplace(pid, static_cast<int>(mPlaces.size()));
+    std::vector<int> parents;
+    for (const auto pid : mPids) {
+      const auto value = GetPIDPropertyTypedValue(pid, "pid_parent_pid");
+      const auto* parent = std::get_if<std::int64_t>(&value);
+      parents.push_back(parent != nullptr && *parent != pid
+                            ? PlaceOf(static_cast<std::int32_t>(*parent))
+                            : FamilyTree::kNobody);
+    }
+    mFamily = FamilyTree(std::move(parents));
   }
-  return children;
-}
+
+  std::vector<std::int32_t> ChildrenOf(std::int32_t pid) const {
+    std::vector<std::int32_t> children;
+    if (const int place = PlaceOf(pid); place != FamilyTree::kNobody)
+      for (const int child : mFamily.ChildrenOf(place)) children.push_back(mPids.begin()[child]);
+    return children;
+  }
+
+ private:
+  int PlaceOf(std::int32_t pid) const {
+    const auto found = mPlaces.find(pid);
+    return found != mPlaces.end() ? found->second : FamilyTree::kNobody;
+  }
+
+  PidBlob mPids;
+  std::unordered_map<std::int32_t, int> mPlaces;
+  FamilyTree mFamily;
+};
 
 /// Parents first: one that starts its children anew is not there to do so.
 std::vector<std::int32_t> WithDescendants(std::vector<std::int32_t> pids) {
-  const auto byParent = ChildrenByParent();
+  const Families families;
   std::unordered_set<std::int32_t> known(pids.begin(), pids.end());
-  for (std::size_t at = 0; at < pids.size(); ++at) {
-    const auto its = byParent.find(pids[at]);
-    if (its == byParent.end()) continue;
-    for (const auto child : its->second)
+  for (std::size_t at = 0; at < pids.size(); ++at)
+    for (const auto child : families.ChildrenOf(pids[at]))
       if (known.insert(child).second) pids.push_back(child);
-  }
   return pids;
 }
 
@@ -261,11 +283,10 @@ void ProcessCommands::SearchWeb() {
 }
 
 void ProcessCommands::SelectChildren() {
-  const auto byParent = ChildrenByParent();
+  const Families families;
   std::vector<std::int32_t> children;
   for (const auto pid : mSelection.selectedPids())
-    if (const auto its = byParent.find(pid); its != byParent.end())
-      children.insert(children.end(), its->second.begin(), its->second.end());
+    std::ranges::copy(families.ChildrenOf(pid), std::back_inserter(children));
   if (children.empty()) return mSelection.report(LocalizedString("main_window_no_children"));
   const auto shown = mSelection.selectPids(children);
   if (shown < children.size())

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 #include <utility>
-
-#include "main_window/RowTotals.h"
+#include <variant>
 
 namespace lurkwell {
 namespace {
@@ -30,87 +29,89 @@ void RowTree::LinkToParents(const ProcessRows& rows) {
   }
 }
 
-void RowTree::Walk(const std::vector<RowDictionary*>& rows, int root) {
-  mStack.push_back(root);
-  while (!mStack.empty()) {
-    const int place = mStack.back();
-    mStack.pop_back();
-    auto* row = rows[At(place)];
-    // In a circle the way leads back to where it began.
-    if (row->node >= 0) continue;
-    row->node = static_cast<int>(mNodes.size());
-    mNodes.push_back({row, row->above != nullptr ? row->above->node : -1, row->node + 1});
-    for (int i = mFirstBelow[At(place) + 1]; i-- > mFirstBelow[At(place)];)
-      mStack.push_back(mBelow[At(i)]);
-  }
-}
-
-void RowTree::Lay(const std::vector<RowDictionary*>& rows) {
-  const auto count = rows.size();
-  for (std::size_t i = 0; i < count; ++i) rows[i]->node = static_cast<int>(i);
-  mFirstBelow.assign(count + 2, 0);
-  for (const auto* row : rows)
-    if (row->above != nullptr) ++mFirstBelow[At(row->above->node) + 2];
-  for (std::size_t i = 2; i < count + 2; ++i) mFirstBelow[i] += mFirstBelow[i - 1];
-  mBelow.resize(count);
-  // Each entry moves on to the next row's beginning.
-  for (std::size_t i = 0; i < count; ++i)
-    if (const auto* above = rows[i]->above)
-      mBelow[At(mFirstBelow[At(above->node) + 1]++)] = static_cast<int>(i);
-  for (auto* row : rows) row->node = -1;
-  mNodes.clear();
-  mNodes.reserve(count);
-  for (std::size_t i = 0; i < count; ++i)
-    if (rows[i]->above == nullptr) Walk(rows, static_cast<int>(i));
-  for (std::size_t i = 0; i < count && mNodes.size() < count; ++i) {
-    if (rows[i]->node >= 0) continue;
-    rows[i]->above = nullptr;
-    Walk(rows, static_cast<int>(i));
-  }
-  SetEnds();
-}
-
-void RowTree::SetEnds() {
-  for (auto i = mNodes.size(); i-- > 0;)
-    if (const auto& node = mNodes[i]; node.parent >= 0)
-      mNodes[At(node.parent)].end = std::max(mNodes[At(node.parent)].end, node.end);
-}
-
-std::vector<ApplicationGroups::Member> RowTree::Members() const {
+void RowTree::Assign(const std::vector<RowDictionary*>& rows, const FamilyTree& family) {
   std::vector<ApplicationGroups::Member> members;
-  members.reserve(mNodes.size());
-  for (const auto& node : mNodes) members.push_back({node.row, node.parent});
-  return members;
+  std::vector<int> orderOf(rows.size());
+  members.reserve(rows.size());
+  for (const int place : family.DepthFirst()) {
+    const int parent = family.ParentOf(place);
+    orderOf[At(place)] = static_cast<int>(members.size());
+    members.push_back({rows[At(place)], parent < 0 ? -1 : orderOf[At(parent)]});
+  }
+  mGroups.Assign(members);
 }
+
+void RowTree::Settle(const std::vector<RowDictionary*>& rows, const FamilyTree& family) {
+  mPlaces = {};
+  for (const int at : family.DepthFirst()) {
+    auto* row = rows[At(at)];
+    const int parent = family.ParentOf(at);
+    row->above = parent < 0 ? nullptr : rows[At(parent)];
+    row->place = static_cast<int>(mPlaces.rows.size());
+    const int above = row->above != nullptr ? row->above->place : FamilyTree::kNobody;
+    mPlaces.rows.push_back(row);
+    mPlaces.parents.push_back(above);
+    mPlaces.levels.push_back(above < 0 ? 0 : mPlaces.levels[At(above)] + 1);
+    mPlaces.ends.push_back(row->place + 1);
+  }
+  for (auto i = Count(); i-- > 0;)
+    if (const int parent = mPlaces.parents[i]; parent >= 0)
+      mPlaces.ends[At(parent)] = std::max(mPlaces.ends[At(parent)], mPlaces.ends[i]);
+  for (std::size_t i = 0; i < Count(); ++i)
+    if (At(mPlaces.ends[i]) > i + 1)
+      mPlaces.inner.push_back(static_cast<int>(i));
+    else
+      mPlaces.rows[i]->DropTotals();
+  mFamily = FamilyTree(mPlaces.parents);
+  mTotals.Forget();
+}
+
+namespace {
+
+FamilyTree FamilyOf(const std::vector<RowDictionary*>& rows) {
+  for (std::size_t i = 0; i < rows.size(); ++i) rows[i]->place = static_cast<int>(i);
+  std::vector<int> parents;
+  parents.reserve(rows.size());
+  for (const auto* row : rows)
+    parents.push_back(row->above != nullptr ? row->above->place : FamilyTree::kNobody);
+  return FamilyTree(std::move(parents));
+}
+
+}  // namespace
 
 void RowTree::Build(const ProcessRows& rows, TableShape shape) {
-  mShape = shape;
   if (shape == TableShape::kList) {
-    mNodes.clear();
+    mPlaces = {};
+    mFamily = {};
     mGroups.Assign({});
     return;
   }
   LinkToParents(rows);
-  Lay(rows.All());
-  mGroups.Assign(shape == TableShape::kApplications ? Members()
-                                                    : std::vector<ApplicationGroups::Member>());
-  if (shape == TableShape::kApplications) Order(rows.All(), nullptr, {});
+  const auto family = FamilyOf(rows.All());
+  if (shape == TableShape::kTree) {
+    mGroups.Assign({});
+    Settle(rows.All(), family);
+  } else {
+    Assign(rows.All(), family);
+    auto all = mGroups.Rows();
+    all.insert(all.end(), rows.All().begin(), rows.All().end());
+    Settle(all, FamilyOf(all));
+  }
   DecideFolds();
 }
 
-void RowTree::Order(const std::vector<RowDictionary*>& rows, RowComparison comparison,
-                    const compareContextStructure& context) {
-  if (mShape != TableShape::kApplications) {
-    Lay(rows);
-  } else {
-    std::vector<RowDictionary*> outer(mGroups.Rows());
-    std::vector<RowDictionary*> inner;
-    for (auto* row : rows) (row->above == nullptr ? outer : inner).push_back(row);
-    if (comparison != nullptr) SortRows(outer, comparison, context);
-    outer.insert(outer.end(), inner.begin(), inner.end());
-    Lay(outer);
-  }
-  DecideFolds();
+void RowTree::Order(RowComparison comparison, const compareContextStructure& context) {
+  if (comparison == nullptr) return;
+  std::vector<RowDictionary*> siblings;
+  const auto sort = [&](std::span<int> places) {
+    if (places.size() < 2) return;
+    siblings.clear();
+    for (const int place : places) siblings.push_back(&RowAt(place));
+    if (SortRows(siblings, comparison, context))
+      std::ranges::transform(siblings, places.begin(), &RowDictionary::place);
+  };
+  sort(mFamily.ChildrenOf(FamilyTree::kNobody));
+  for (const int place : mPlaces.inner) sort(mFamily.ChildrenOf(place));
 }
 
 // ---- Folding ------------------------------------------------------------------------------------
@@ -122,9 +123,9 @@ std::string RowTree::NameForMemory(const RowDictionary& row) const {
 }
 
 void RowTree::DecideFolds() {
-  for (std::size_t i = 0; i < Count(); ++i) {
-    auto& row = *mNodes[i].row;
-    if (row.isFolded.has_value() || At(mNodes[i].end) == i + 1) continue;
+  for (const int place : mPlaces.inner) {
+    auto& row = RowAt(place);
+    if (row.isFolded.has_value()) continue;
     row.isFolded = row.Group() != nullptr ? !mUnfolded.Has(NameForMemory(row))
                                           : mFolded.Has(NameForMemory(row));
   }
@@ -135,11 +136,10 @@ bool RowTree::IsFolded(const RowDictionary& row, bool looksBelow) const {
 }
 
 void RowTree::Fold(RowDictionary& row, bool folded, bool all, bool looksBelow) {
-  if (row.node < 0) return;
-  const int end = all ? mNodes[At(row.node)].end : row.node + 1;
-  for (int i = row.node; i < end; ++i) {
-    auto& its = *mNodes[At(i)].row;
-    if (mNodes[At(i)].end == i + 1) continue;
+  const int end = all ? mPlaces.ends[At(row.place)] : row.place + 1;
+  for (int i = row.place; i < end; ++i) {
+    auto& its = RowAt(i);
+    if (mPlaces.ends[At(i)] == i + 1) continue;
     if (looksBelow) {
       its.isFoldedInFilter = folded;
     } else if (its.isFolded != folded) {
@@ -160,8 +160,8 @@ void RowTree::SetFolded(RowDictionary& row, bool folded, bool all, bool looksBel
 }
 
 void RowTree::SetAllFolded(bool folded, bool looksBelow) {
-  for (std::size_t i = 0; i < Count(); i = At(mNodes[i].end))
-    Fold(*mNodes[i].row, folded, true, looksBelow);
+  for (const int place : mFamily.ChildrenOf(FamilyTree::kNobody))
+    Fold(RowAt(place), folded, true, looksBelow);
   mFolded.Store();
   mUnfolded.Store();
 }
@@ -184,101 +184,77 @@ void RowTree::Reveal(std::span<RowDictionary* const> rows) {
 
 // ---- What can be seen ---------------------------------------------------------------------------
 
-void RowTree::CollectShown(const std::vector<bool>& matches) {
-  for (std::size_t i = 0; i < Count(); ++i) {
-    auto* group = mNodes[i].row->Group();
-    if (group == nullptr) continue;
-    group->shown.clear();
-    for (auto below = i + 1; below < At(mNodes[i].end); ++below)
-      if (const auto& row = *mNodes[below].row; matches[below])
-        group->shown.push_back({row.Pid(), row.origin.startStamp});
+void RowTree::CollectShown(const Matches& matches) {
+  for (const auto* row : mGroups.Rows()) {
+    auto& shown = row->Group()->shown;
+    shown.clear();
+    for (const int member : mFamily.ChildrenOf(row->place))
+      if (const auto& its = RowAt(member); matches.is[At(member)])
+        shown.push_back({its.Pid(), its.origin.startStamp});
   }
 }
 
-std::vector<RowDictionary*> RowTree::Visible(const IsShown& isShown, bool looksBelow) {
+RowTree::Matches RowTree::FindMatches(const IsShown& isShown) {
   const auto count = Count();
-  std::vector<bool> matches(count);
-  std::vector<int> below(count, 0);
+  Matches matches{std::vector<bool>(count), std::vector<int>(count, 0)};
+  mMatchCount = 0;
   for (auto i = count; i-- > 0;) {
-    const auto& row = *mNodes[i].row;
-    matches[i] = row.Group() == nullptr && (!isShown || isShown(row));
-    // A row that is there for those below counts as well: it has a line of its own.
-    if ((matches[i] || below[i] > 0) && mNodes[i].parent >= 0)
-      below[At(mNodes[i].parent)] += below[i] + 1;
+    const auto& row = *mPlaces.rows[i];
+    matches.is[i] = row.Group() == nullptr && (!isShown || isShown(row));
+    if (matches.is[i]) ++mMatchCount;
+    // A row that is there for those below it counts as well: it has a line of its own.
+    if ((matches.is[i] || matches.below[i] > 0) && mPlaces.parents[i] >= 0)
+      matches.below[At(mPlaces.parents[i])] += matches.below[i] + 1;
   }
-  mMatchCount = static_cast<std::size_t>(std::ranges::count(matches, true));
+  return matches;
+}
+
+std::vector<RowDictionary*> RowTree::Visible(const IsShown& isShown, bool looksBelow) {
+  using Fold = RowStanding::Fold;
+  const auto matches = FindMatches(isShown);
   CollectShown(matches);
   std::vector<RowDictionary*> visible;
-  std::vector<int> levels(count, 0);
-  for (std::size_t i = 0; i < count;) {
-    auto& row = *mNodes[i].row;
-    const int parent = mNodes[i].parent;
-    levels[i] = parent < 0 ? 0 : levels[At(parent)] + 1;
-    if (!matches[i] && below[i] == 0) {
-      i = At(mNodes[i].end);
-      continue;
-    }
-    using Fold = RowStanding::Fold;
-    const bool isFolded = below[i] > 0 && IsFolded(row, looksBelow);
-    row.SetStanding({levels[i],
-                     below[i] == 0 ? Fold::kNone
-                     : isFolded    ? Fold::kFolded
-                                   : Fold::kUnfolded,
-                     below[i], !matches[i] && row.Group() == nullptr});
+  visible.reserve(Count());
+  const auto roots = mFamily.ChildrenOf(FamilyTree::kNobody);
+  std::vector<int> waiting(roots.rbegin(), roots.rend());
+  while (!waiting.empty()) {
+    const int place = waiting.back();
+    waiting.pop_back();
+    const bool isMatch = matches.is[At(place)];
+    const int below = matches.below[At(place)];
+    if (!isMatch && below == 0) continue;
+    auto& row = RowAt(place);
+    const bool isFolded = below > 0 && IsFolded(row, looksBelow);
+    row.SetStanding({mPlaces.levels[At(place)],
+                     below == 0 ? Fold::kNone
+                     : isFolded ? Fold::kFolded
+                                : Fold::kUnfolded,
+                     below, !isMatch && row.Group() == nullptr});
     row.ShowTotals(isFolded);
     visible.push_back(&row);
-    i = isFolded ? At(mNodes[i].end) : i + 1;
+    if (below == 0 || isFolded) continue;
+    const auto children = mFamily.ChildrenOf(place);
+    waiting.insert(waiting.end(), children.rbegin(), children.rend());
   }
   return visible;
 }
 
 // ---- Totals -------------------------------------------------------------------------------------
 
-void RowTree::AddUp(KeyId key, bool forAll) {
-  mSums.assign(Count(), Missing::kNone);
-  for (auto i = Count(); i-- > 0;) {
-    const auto& node = mNodes[i];
-    auto& row = *node.row;
-    if (row.Group() == nullptr) AddTo(mSums[i], Addend(row, key));
-    if (node.parent >= 0) AddTo(mSums[At(node.parent)], mSums[i]);
-    if (At(node.end) == i + 1) {
-      row.DropTotals();
-      continue;
-    }
-    if (row.Group() != nullptr)
-      row.Set(key, std::move(mSums[i]));
-    else if (forAll || row.isFolded.value_or(false) || row.isFoldedInFilter)
-      row.SetTotal(key, std::move(mSums[i]));
-  }
-}
-
-void RowTree::ShowWhatIsCommon(std::span<const KeyId> columns, std::span<const KeyId> addedUp) {
-  for (const KeyId key : columns) {
-    if (key == kMetaName || key == kMetaPid || std::ranges::find(addedUp, key) != addedUp.end())
-      continue;
-    for (std::size_t i = 0; i < Count(); ++i) {
-      auto& row = *mNodes[i].row;
-      if (row.Group() == nullptr) continue;
-      const auto& first = mNodes[i + 1].row->Get(key);
-      auto next = i + 2;
-      while (next < At(mNodes[i].end) && mNodes[next].row->Get(key) == first) ++next;
-      row.Set(key, next == At(mNodes[i].end) ? first : RowValue(Missing::kNone));
-    }
-  }
-}
-
 void RowTree::AddUp(std::span<const KeyId> columns, KeyId sortKey) {
-  const auto keys = KeysToAddUp(columns);
-  for (const KeyId key : keys) AddUp(key, key == sortKey);
-  if (mShape == TableShape::kApplications) ShowWhatIsCommon(columns, keys);
+  // A process may have got another name.
+  DecideFolds();
+  mTotals.Update(mPlaces, columns, sortKey);
 }
 
 std::int64_t RowTree::BiggestTotal(KeyId key) const {
   std::int64_t biggest = 0;
-  for (const auto& node : mNodes)
-    if (node.row->Standing().fold == RowStanding::Fold::kFolded || node.row->Group() != nullptr)
-      if (const auto* total = std::get_if<std::int64_t>(&node.row->Shown(key)))
-        biggest = std::max(biggest, *total);
+  for (const int place : mPlaces.inner) {
+    const auto& row = RowAt(place);
+    if (row.Standing().fold != RowStanding::Fold::kFolded && row.Group() == nullptr) continue;
+    if (const auto* total = std::get_if<std::int64_t>(&row.Shown(key)))
+      biggest = std::max(biggest, *total);
+  }
   return biggest;
 }
 

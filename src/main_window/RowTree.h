@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <span>
-#include <unordered_map>
+#include <string>
 #include <vector>
 
+#include "consolidator/FamilyTree.h"
 #include "main_window/ApplicationGroups.h"
+#include "main_window/BranchTotals.h"
 #include "main_window/FoldMemory.h"
 #include "main_window/ProcessRows.h"
 #include "main_window/TableShape.h"
@@ -30,10 +34,9 @@ class RowTree {
   /// groups show besides is what all of their processes have in common.
   void AddUp(std::span<const KeyId> columns, KeyId sortKey);
 
-  /// Puts siblings into the order that `rows` has; groups are sorted the same way. A null
-  /// comparison leaves groups as they are.
-  void Order(const std::vector<RowDictionary*>& rows, RowComparison comparison,
-             const compareContextStructure& context);
+  /// Sorts siblings; those that are in order already cost one comparison each. A null comparison
+  /// leaves them as they are.
+  void Order(RowComparison comparison, const compareContextStructure& context);
 
   /// The rows that can be seen, and how each of them stands. Rows that `isShown` does not take are
   /// there for those below them alone. While `looksBelow` everything is unfolded but what the user
@@ -51,7 +54,8 @@ class RowTree {
   static void Reveal(std::span<RowDictionary* const> rows);
 
   bool IsBelow(const RowDictionary& row, const RowDictionary& above) const {
-    return row.node > above.node && row.node < mNodes[static_cast<std::size_t>(above.node)].end;
+    return row.place > above.place &&
+           row.place < mPlaces.ends[static_cast<std::size_t>(above.place)];
   }
   RowDictionary* FindGroup(const std::string& key) const { return mGroups.Find(key); }
   /// The largest of the totals that are shown; 0 for none.
@@ -60,41 +64,32 @@ class RowTree {
   void TidyUp() { mGroups.TidyUp(); }
 
  private:
-  struct Node {
-    RowDictionary* row;
-    /// -1 for none.
-    int parent;
-    /// One behind the last node below.
-    int end;
-  };
-
-  std::size_t Count() const { return mNodes.size(); }
+  std::size_t Count() const { return mPlaces.rows.size(); }
+  RowDictionary& RowAt(int place) const { return *mPlaces.rows[static_cast<std::size_t>(place)]; }
   void LinkToParents(const ProcessRows& rows);
-  /// Puts the nodes into their order, those below a row right behind it.
-  void Lay(const std::vector<RowDictionary*>& rows);
-  void Walk(const std::vector<RowDictionary*>& rows, int root);
-  void SetEnds();
-  std::vector<ApplicationGroups::Member> Members() const;
+  void Assign(const std::vector<RowDictionary*>& rows, const FamilyTree& family);
+  /// Gives the rows their places, each behind the one that it stands below.
+  void Settle(const std::vector<RowDictionary*>& rows, const FamilyTree& family);
   void Fold(RowDictionary& row, bool folded, bool all, bool looksBelow);
   bool IsFolded(const RowDictionary& row, bool looksBelow) const;
   void DecideFolds();
-  void AddUp(KeyId key, bool forAll);
-  void ShowWhatIsCommon(std::span<const KeyId> columns, std::span<const KeyId> addedUp);
-  void CollectShown(const std::vector<bool>& matches);
+  /// By places: whether rows are looked for, and how many lines below each that makes.
+  struct Matches {
+    std::vector<bool> is;
+    std::vector<int> below;
+  };
+  Matches FindMatches(const IsShown& isShown);
+  void CollectShown(const Matches& matches);
   std::string NameForMemory(const RowDictionary& row) const;
 
-  TableShape mShape = TableShape::kList;
-  /// In the order of the table, as if nothing were folded.
-  std::vector<Node> mNodes;
+  RowPlaces mPlaces;
+  /// The same places; siblings in the order of the table.
+  FamilyTree mFamily;
+  BranchTotals mTotals;
   ApplicationGroups mGroups;
   std::size_t mMatchCount = 0;
   FoldMemory mFolded{FoldMemory::Subject::kFoldedPrograms};
   FoldMemory mUnfolded{FoldMemory::Subject::kUnfoldedApplications};
-  // While nodes are laid: what is below what, by the places in the list of rows.
-  std::vector<int> mFirstBelow;
-  std::vector<int> mBelow;
-  std::vector<int> mStack;
-  std::vector<RowValue> mSums;
 };
 
 }  // namespace lurkwell

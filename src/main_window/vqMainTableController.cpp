@@ -197,10 +197,11 @@ void vqMainTableController::processesHaveChanged(const std::vector<std::int32_t>
 
 void vqMainTableController::resortTable() {
   fNeedsResort = false;
-  if (fSortColumn == kNoKey) return;
-  const auto comparison = SortingComparisonForColumn(KeyText(fSortColumn));
-  if (comparison == nullptr) return;
-  SortRows(fRows.All(), comparison, sortContext());
+  if (const auto comparison = sortComparison()) SortRows(fRows.All(), comparison, sortContext());
+}
+
+RowComparison vqMainTableController::sortComparison() const {
+  return fSortColumn != kNoKey ? SortingComparisonForColumn(KeyText(fSortColumn)) : nullptr;
 }
 
 compareContextStructure vqMainTableController::sortContext() const {
@@ -436,8 +437,8 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
       return static_cast<qlonglong>(IntegerOf(row.Shown(kPidRsz)));
     case kVirtualSizeRole:
       return static_cast<qlonglong>(IntegerOf(row.Shown(kPidVsz)));
-    case StripedTableView::kRowHasChangedRole:
-      return row.HasChanged();
+    case StripedTableView::kCellHasChangedRole:
+      return row.HaveCellsChanged(column.looksAt);
     default:
       return {};
   }

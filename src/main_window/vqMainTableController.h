@@ -198,6 +198,8 @@ class vqMainTableController final : public vqTableController,
     PropertyType type;
     bool isInternal;
     bool rightAligned;
+    /// Those cells of a row that the column's is among.
+    RowDictionary::Cells looksAt;
     /// A ps column that the last turn brought no figures for.
     bool isStale = false;
   };
@@ -243,6 +245,8 @@ class vqMainTableController final : public vqTableController,
   std::vector<RowDictionary*> rowsToShow();
   std::vector<RowDictionary*> rowsOfTree();
   compareContextStructure sortContext() const;
+  /// Null where sorting changes nothing.
+  RowComparison sortComparison() const;
   void addUp();
   /// Memory bars are measured by the totals, too.
   void measureBars();

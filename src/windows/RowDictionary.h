@@ -117,8 +117,11 @@ class RowDictionary {
   /// True when the value is another one than before.
   bool Set(KeyId key, RowValue value) {
     if (!mValues.Set(key, std::move(value))) return false;
-    return mChanged = true;
+    mChanged |= CellsOf(key);
+    return mHasNewFigures = true;
   }
+  /// Whether a value was set to another one since this was asked last.
+  bool TakeNewFigures() { return std::exchange(mHasNewFigures, false); }
 
   // ---- Totals of the row and all below it ------------------------------------------------------
 
@@ -132,10 +135,10 @@ class RowDictionary {
   }
   void SetTotal(KeyId key, RowValue value) {
     if (mTotals == nullptr) mTotals = std::make_unique<RowValues>();
-    if (mTotals->Set(key, std::move(value)) && mShowsTotals) mChanged = true;
+    if (mTotals->Set(key, std::move(value)) && mShowsTotals) mChanged |= CellsOf(key);
   }
   void ShowTotals(bool show) {
-    if (std::exchange(mShowsTotals, show) != show) mChanged = true;
+    if (std::exchange(mShowsTotals, show) != show) SetChanged(true);
   }
   void DropTotals() {
     ShowTotals(false);
@@ -149,7 +152,7 @@ class RowDictionary {
   void SetStanding(const RowStanding& standing) {
     if (mStanding == standing) return;
     mStanding = standing;
-    mChanged = true;
+    SetChanged(true);
   }
   /// Whether it is folded; nothing until it is known what is remembered for its name.
   std::optional<bool> isFolded;
@@ -157,9 +160,9 @@ class RowDictionary {
   bool isFoldChosen = false;
   /// The same while a filter looks below it.
   bool isFoldedInFilter = false;
-  /// The row that it stands below, and its place among the nodes; see RowTree.
+  /// The row that it stands below, and its own place; see RowTree.
   RowDictionary* above = nullptr;
-  int node = -1;
+  int place = -1;
 
   /// The record's stamp when the row was read last; see ProcessGlance.
   std::uint64_t changeStamp = 0;
@@ -170,19 +173,25 @@ class RowDictionary {
   /// True when it is another one than before.
   bool SetIndicator(const char* name) {
     if (std::exchange(mIndicator, name) == name) return false;
-    return mChanged = true;
+    SetChanged(true);
+    return true;
   }
 
   /// An ended process that its parent has not asked after looks different.
   void SetRunState(RunState state) {
     if ((std::exchange(mRunState, state) == RunState::kZombie) != (state == RunState::kZombie))
-      mChanged = true;
+      SetChanged(true);
   }
   bool IsZombie() const { return mRunState == RunState::kZombie; }
 
   /// Whether it looks different from when it was last drawn or announced.
-  bool HasChanged() const { return mChanged; }
-  void SetChanged(bool changed) { mChanged = changed; }
+  bool HasChanged() const { return mChanged != 0; }
+  void SetChanged(bool changed) { mChanged = changed ? kAllCells : 0; }
+
+  /// Some of the cells, as bits: those that show the value with the key, and some others.
+  using Cells = std::uint64_t;
+  static Cells CellsOf(KeyId key) { return Cells{1} << static_cast<unsigned>(key) % 64; }
+  bool HaveCellsChanged(Cells cells) const { return (mChanged & cells) != 0; }
 
   /// Its place among the rows that the view has, -1 while it has none.
   int shownIndex = -1;
@@ -199,7 +208,9 @@ class RowDictionary {
   RowStanding mStanding;
   const char* mIndicator = nullptr;
   RunState mRunState = RunState::kSleeping;
-  bool mChanged = true;
+  static constexpr Cells kAllCells = ~Cells{0};
+  Cells mChanged = kAllCells;
+  bool mHasNewFigures = true;
 };
 
 }  // namespace lurkwell

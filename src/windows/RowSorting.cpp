@@ -218,7 +218,7 @@ bool IgnoresPidZero() {
   return ReadSwitch("MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE");
 }
 
-void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,
+bool SortRows(std::span<RowDictionary*> rows, RowComparison comparison,
               const compareContextStructure& context) {
   const auto prepare = PreparationFor(comparison);
   std::vector<SortedRow> sorted(rows.size());
@@ -227,11 +227,12 @@ void SortRows(std::vector<RowDictionary*>& rows, RowComparison comparison,
     sorted[i].pid = rows[i]->OrderPid();
     prepare(sorted[i], context);
   }
-  if (IsInOrder(sorted, comparison, context)) return;
+  if (IsInOrder(sorted, comparison, context)) return false;
   std::ranges::sort(sorted, [&](const SortedRow& a, const SortedRow& b) {
     return comparison(a, b, context) < 0;
   });
   std::ranges::transform(sorted, rows.begin(), &SortedRow::row);
+  return true;
 }
 
 }  // namespace lurkwell

@@ -285,10 +285,11 @@ void StripedTableView::dataChanged(const QModelIndex& topLeft, const QModelIndex
   const int first = std::max(rowAt(0), topLeft.row());
   const int lastVisible = rowAt(viewport()->height() - 1);
   const int last = std::min(lastVisible < 0 ? bottomRight.row() : lastVisible, bottomRight.row());
-  const int width = viewport()->width();
   for (int row = first; row <= last; ++row)
-    if (model()->index(row, 0).data(kRowHasChangedRole).toBool())
-      viewport()->update(0, rowViewportPosition(row), width, rowHeight(row));
+    for (int column = topLeft.column(); column <= bottomRight.column(); ++column)
+      if (model()->index(row, column).data(kCellHasChangedRole).toBool())
+        viewport()->update(columnViewportPosition(column), rowViewportPosition(row),
+                           columnWidth(column), rowHeight(row));
 }
 
 void StripedTableView::highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const {

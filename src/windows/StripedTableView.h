@@ -20,9 +20,9 @@ class StripedTableView : public QTableView {
   /// What stands in the middle while there are no rows; nothing for an empty text.
   void setEmptyText(const QString& text);
 
-  /// A model answers this role, in a row's first column, with whether the row shows anything else
-  /// than at the last announcement.
-  static constexpr int kRowHasChangedRole = Qt::UserRole + 100;
+  /// A model answers this role with whether the cell shows anything else than at the last
+  /// announcement.
+  static constexpr int kCellHasChangedRole = Qt::UserRole + 100;
 
   explicit StripedTableView(QWidget* parent = nullptr);
   ~StripedTableView() override;
@@ -48,7 +48,7 @@ class StripedTableView : public QTableView {
   void showTheSpecialContextMenu(const QPoint& position, bool isRightClick, bool needToSelect,
                                  bool needToHit = true);
 
-  /// Repaints what the rows between show differently, as far as it can be seen.
+  /// Repaints the cells between that show something else, as far as they can be seen.
   void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                    const QList<int>& roles = {}) override;
 

@@ -2,9 +2,16 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollBar>
+#include <iterator>
+#include <map>
+#include <random>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "main_window/MainWindowTest.h"
+#include "main_window/RowTotals.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {
@@ -270,6 +277,81 @@ TEST_F(ShapeTest, WhatIsSelectedStaysWhereItIsWhenTheShapeChanges) {
     EXPECT_EQ(place(), before) << shape;
     Turn();
     EXPECT_EQ(place(), before) << shape;
+  }
+}
+
+TEST_F(ShapeTest, WhateverHappensRowsShowAndAreSortedByWhatIsBelowThem) {
+  std::minstd_rand random(7);
+  const auto any = [&](int least, int most) {
+    return least + static_cast<int>(random() % static_cast<unsigned>(most - least + 1));
+  };
+  const KeyId owner = InternKey("pid_owner");
+  std::set<int> pids;
+  int last = 400;
+  const auto birth = [&] {
+    const int parent = pids.empty() || any(0, 3) == 0
+                           ? 1
+                           : *std::next(pids.begin(), any(0, static_cast<int>(pids.size()) - 1));
+    const std::string name = "p" + std::to_string(any(0, 4));
+    auto& born = Birth(last, name.c_str(), parent, any(0, 4) == 0 ? "other" : "user");
+    born["pid_rsz"] = born["pid_pss"] = any(1, 99);
+    pids.insert(last++);
+  };
+  while (pids.size() < 40) birth();
+  OpenTree();
+  controller().addToKeysWeTrackForUI(kPidRsz);
+  controller().addToKeysWeTrackForUI(owner);
+  for (int step = 0; step < 120; ++step) {
+    SCOPED_TRACE(step);
+    if (step == 40) Choose("menu_view_shape_applications");
+    if (step == 80) ClickHeader("pid_rsz");
+    if (step == 20) ClickHeader("internal_CPUPercent");
+    const int pid = *std::next(pids.begin(), any(0, static_cast<int>(pids.size()) - 1));
+    auto& process = *machine.processTable.Find(pid);
+    switch (any(0, 5)) {
+      case 0:
+        machine.processTable.Death(pid);
+        pids.erase(pid);
+        birth();
+        break;
+      case 1:
+        process.texts.Set(FigureCalled("pid_owner"), any(0, 1) == 0 ? "user" : "other");
+        break;
+      case 2:
+        controller().foldRow(any(0, controller().rowCount() - 1), any(0, 1) == 0, any(0, 3) == 0);
+        break;
+      default:
+        process["pid_rsz"] = process["pid_pss"] = any(1, 99);
+        process.UseCPU(any(1, 400));
+    }
+    Turn();
+    std::map<const RowDictionary*, std::pair<std::int64_t, double>> sums;
+    std::map<const RowDictionary*, std::set<RowValue>> owners;
+    for (const auto* row : controller().pidEntries())
+      for (const auto* above = row; above != nullptr; above = above->above) {
+        sums[above].first += IntegerOf(Addend(*row, kPidRsz));
+        sums[above].second += NumberOf(row->Get(kInternalCpuUsage));
+        owners[above].insert(row->Get(owner));
+      }
+    std::map<const RowDictionary*, const RowDictionary*> lastBelow;
+    for (const auto* row : controller().rows().Shown()) {
+      const auto& [memory, share] = sums[row];
+      const bool isFolded = row->Standing().fold == RowStanding::Fold::kFolded;
+      if (isFolded || row->Group() != nullptr) {
+        EXPECT_EQ(IntegerOf(row->Shown(kPidRsz)), memory) << row->OrderPid();
+        EXPECT_NEAR(NumberOf(row->Shown(kInternalCpuUsage)), share, 1e-9) << row->OrderPid();
+      }
+      if (row->Group() != nullptr) {
+        EXPECT_EQ(row->Get(owner), owners[row].size() == 1 ? *owners[row].begin() : RowValue())
+            << row->Group()->key;
+      }
+      const auto* before = std::exchange(lastBelow[row->above], row);
+      if (before == nullptr || step < 20 || row->Pid() == 0 || before->Pid() == 0) continue;
+      if (step < 80)
+        EXPECT_GE(sums[before].second, share - 1e-9) << row->OrderPid();
+      else
+        EXPECT_GE(sums[before].first, memory) << row->OrderPid();
+    }
   }
 }
 
