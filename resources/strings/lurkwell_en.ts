@@ -2059,6 +2059,10 @@
         <source></source>
         <translation>Show &amp;Details</translation>
     </message>
+    <message id="menu_file_record">
+        <source></source>
+        <translation>&amp;Record…</translation>
+    </message>
     <message id="menu_file_close_window">
         <source></source>
         <translation>&amp;Close Window</translation>
@@ -2562,6 +2566,10 @@
     <message id="help_menu_view_overlay">
         <source></source>
         <translation>the animated view over the whole screen, and away again</translation>
+    </message>
+    <message id="help_menu_file_record">
+        <source></source>
+        <translation>record the processes to a file, to look at them later; a second time ends it</translation>
     </message>
     <message id="help_menu_file_close_window">
         <source></source>
@@ -3874,6 +3882,26 @@ Free: %5</translation>
     <message id="logging_save_as">
         <source></source>
         <translation>&amp;Save As…</translation>
+    </message>
+    <message id="record_title">
+        <source></source>
+        <translation>Record Processes</translation>
+    </message>
+    <message id="record_filter">
+        <source></source>
+        <translation>Recordings (*.lwr);;All files (*)</translation>
+    </message>
+    <message id="record_failed">
+        <source></source>
+        <translation>The processes are not recorded.</translation>
+    </message>
+    <message id="record_status">
+        <source></source>
+        <translation>Recording to %1</translation>
+    </message>
+    <message id="record_trouble">
+        <source></source>
+        <translation>Not recording to %1: %2</translation>
     </message>
     <message id="logging_save_title">
         <source></source>

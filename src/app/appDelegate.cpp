@@ -166,6 +166,7 @@ void vqAppDelegate::applicationWillTerminate() {
   mHelperStart.reset();
   QuitHelperDaemon();
   QubsDebuggingCleanup();
+  mRecording.End();
   ProcessInformationClient::DeleteAllProcessInformationClients();
   DestroyFlowControlFSMMgr();
   fQuintessentialWindows.reset();

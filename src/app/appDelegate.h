@@ -5,6 +5,7 @@
 #include <string>
 
 #include "animated_view/QuintessentialWindows.h"
+#include "app/RecordingSwitch.h"
 #include "main_window/MainWindow.h"
 #include "monitor_windows/FollowingWindows.h"
 #include "process_details/DetailsWindows.h"
@@ -47,6 +48,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void doShowMachineWindow() override;
   void showQuintessentialViewFullScreen() override;
   void doToggleQuintessentialViewFullScreen() override;
+  void doRecord() override { recording().Toggle(fMainWindow.get()); }
+  QString recordingStatus() const override { return mRecording.Status(); }
   bool isLastWindow(const QWidget& window) const override;
 
   /// From the end of the launch to the beginning of the end.
@@ -56,6 +59,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   /// the helper away, without the windows, which are gone.
   void displayWasLost();
 
+  RecordingSwitch& recording() { return mRecording; }
   MainWindow& mainWindow() { return *fMainWindow; }
   QuintessentialWindows& quintessentialWindows() { return *fQuintessentialWindows; }
   MonitorWindowKinds& monitorWindows() { return mFollowingWindows; }
@@ -85,6 +89,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   /// Serves the main window and the watchdog, which go before it.
   FollowingWindows mFollowingWindows;
   DetailsWindows mDetailsWindows;
+  RecordingSwitch mRecording;
   std::unique_ptr<MainWindow> fMainWindow;
   std::unique_ptr<QuintessentialWindows> fQuintessentialWindows;
 };

@@ -70,6 +70,7 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   connect(mController.get(), &vqMainTableController::contentsChanged, this,
           &MainWindow::UpdateStatus);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
+  connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtRecording);
   connect(mController.get(), &vqMainTableController::updated, this, [this] {
     const auto complaint = TheMachine().preferenceDomain.TakeComplaint();
     if (!complaint.empty())
@@ -111,6 +112,9 @@ void MainWindow::BuildContents() {
   statusBar()->removeWidget(mHelper);
   statusBar()->addPermanentWidget(mHelper);
   mHelper->show();
+  mRecording = new QLabel(statusBar());
+  mRecording->setTextFormat(Qt::PlainText);
+  statusBar()->addPermanentWidget(mRecording);
   mHelper->setTextFormat(Qt::RichText);
   mHelper->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   connect(mHelper, &QLabel::linkActivated, this, &MainWindow::AskAboutHelper);
@@ -243,6 +247,12 @@ void MainWindow::LookAtHelper() {
                      : status.rights == DaemonRights::kOwn ? "main_window_helper_unprivileged"
                                                            : "";
   mHelper->setText(*text != 0 ? LocalizedString(text) : QString());
+}
+
+void MainWindow::LookAtRecording() {
+  const auto text = mCommands.recordingStatus();
+  mRecording->setText(text);
+  mRecording->setVisible(!text.isEmpty());
 }
 
 void MainWindow::Report(const QString& text) {

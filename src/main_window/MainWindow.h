@@ -87,6 +87,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   /// Shows a text in the status line for a while.
   void Report(const QString& text);
   void LookAtHelper();
+  void LookAtRecording();
   void LookWhetherSeen();
   void AskAboutHelper();
   void UpdateStatus();
@@ -99,6 +100,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   std::vector<QComboBox*> mSwitchers;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
+  QLabel* mRecording = nullptr;
   DaemonRights mShownRights = DaemonRights::kStarting;
   /// Why there are no more rights, while that is shown.
   std::unique_ptr<Alert> mAboutHelper;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QWidget;
 
 namespace lurkwell {
@@ -14,6 +16,10 @@ class ApplicationCommands {
   virtual void doShowQuintessentialView() {}
   virtual void doShowMachineWindow() {}
   virtual void doToggleQuintessentialViewFullScreen() {}
+  /// Begins to record, after asking for a file, or ends it.
+  virtual void doRecord() {}
+  /// What is to be said of a recording that is being made; empty without one.
+  virtual QString recordingStatus() const { return {}; }
   virtual void doQuit() = 0;
   /// Whether nothing of the program would be seen without this window; closing it then quits.
   virtual bool isLastWindow(const QWidget& window) const = 0;

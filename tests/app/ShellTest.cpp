@@ -25,8 +25,10 @@
 #include "platform/simulated/SimulatedMachine.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "preferences_window/PreferencesUI.h"
+#include "recording/Recording.h"
 #include "resources/Resources.h"
 #include "support/RecordingClient.h"
+#include "support/TemporaryFolder.h"
 
 namespace lurkwell {
 namespace {
@@ -194,6 +196,39 @@ TEST_F(ShellTest, ThePanelComesByItselfOnceForAVersionOrWhereItIsWanted) {
     EXPECT_TRUE(SplashIsVisible()) << "wanted";
   }
   delegate->applicationWillTerminate();
+}
+
+TEST_F(ShellTest, TheProcessesAreRecordedWhileTheWindowsAreThere) {
+  Launch();
+  Pass(3000);
+  const TemporaryFolder folder;
+  const auto file = QString::fromStdString(folder / "day.lwr");
+  auto& recording = delegate->recording();
+  const auto isSaid = [this](const char* text) {
+    const auto labels = delegate->mainWindow().findChildren<QLabel*>();
+    return std::ranges::any_of(labels, [text](const QLabel* label) {
+      return label->isVisible() && label->text() == QLatin1String(text);
+    });
+  };
+  recording.Begin(QString::fromStdString(folder.Make("within")));
+  EXPECT_NE(machine.log.Take().find("RunAlertPanel \"The processes are not recorded.\""),
+            std::string::npos);
+  EXPECT_EQ(recording.Status(), QString());
+  recording.Begin(file);
+  Pass(10'000);
+  EXPECT_TRUE(isSaid("Recording to day.lwr"));
+  delegate->doRecord();
+  Pass(3000);
+  EXPECT_FALSE(isSaid("Recording to day.lwr"));
+  // The end of the program ends it, too.
+  recording.Begin(file);
+  Pass(5000);
+  delegate->applicationWillTerminate();
+  const auto opened = Recording::Open(folder / "day.lwr");
+  ASSERT_EQ(opened.index(), 0u);
+  const auto& minutes = std::get<0>(opened)->Minutes();
+  ASSERT_EQ(minutes.size(), 2u);
+  EXPECT_GE(minutes[0].lastSequence, 5u);
 }
 
 TEST_F(ShellTest, AtTheSessionsEndTheWindowCountsAsOpen) {
