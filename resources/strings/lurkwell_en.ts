@@ -2087,6 +2087,14 @@
         <source></source>
         <translation>&amp;Update Now</translation>
     </message>
+    <message id="menu_view_pause">
+        <source></source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message id="menu_view_follow">
+        <source></source>
+        <translation>&amp;Keep Selection in Place</translation>
+    </message>
     <message id="menu_view_sort_by">
         <source></source>
         <translation>&amp;Sort By</translation>
@@ -2375,6 +2383,10 @@
         <source></source>
         <translation>Processes</translation>
     </message>
+    <message id="main_window_title_paused">
+        <source></source>
+        <translation>Processes (paused)</translation>
+    </message>
     <message id="main_window_filter_placeholder">
         <source></source>
         <translation>Filter processes</translation>
@@ -2431,6 +2443,14 @@
         <source></source>
         <translation>%1 of %2 processes: %3; %4 selected</translation>
     </message>
+    <message id="main_window_status_paused">
+        <source></source>
+        <translation>Paused: %1 ended, %2 new since. </translation>
+    </message>
+    <message id="main_window_status_follows">
+        <source></source>
+        <translation>Selection stays in place. </translation>
+    </message>
     <message id="main_window_scope_hides_all">
         <source></source>
         <translation>No process is one of these: %1. View › Show › All Processes shows all again.</translation>
@@ -2478,6 +2498,10 @@
     <message id="row_folded">
         <source></source>
         <translation>, folded, %1 below</translation>
+    </message>
+    <message id="row_ended">
+        <source></source>
+        <translation>, ended</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -2594,6 +2618,14 @@
     <message id="help_menu_view_update_now">
         <source></source>
         <translation>update now</translation>
+    </message>
+    <message id="help_menu_view_pause">
+        <source></source>
+        <translation>hold rows and figures still; once more to go on</translation>
+    </message>
+    <message id="help_menu_view_follow">
+        <source></source>
+        <translation>keep the selected row where it is while others move</translation>
     </message>
     <message id="help_menu_view_shape_list">
         <source></source>
@@ -2774,6 +2806,10 @@
     <message id="main_window_zombie_tip">
         <source></source>
         <translation>A zombie: the process has ended, and its parent has not asked for its exit status yet.</translation>
+    </message>
+    <message id="main_window_ended_tip">
+        <source></source>
+        <translation>This process has ended while its row had to stay. No command reaches it.</translation>
     </message>
     <message id="main_window_stale_tip">
         <source></source>
@@ -5007,6 +5043,10 @@ Free: %5</translation>
         <source></source>
         <translation>Scope of the process table</translation>
     </message>
+    <message id="setting_title_MAIN_WINDOW_FOLLOWS_SELECTION">
+        <source></source>
+        <translation>Selection stays in place</translation>
+    </message>
     <message id="setting_title_WEB_SEARCH_ADDRESS">
         <source></source>
         <translation>Address that the web is searched with</translation>
@@ -5362,6 +5402,10 @@ Free: %5</translation>
     <message id="setting_MAIN_WINDOW_SCOPE">
         <source></source>
         <translation>Which processes the table shows: 0 – all, 1 – the user’s own, 2 – other users’, 3 – applications, 4 – all but kernel threads, 5 – what has used a processor since the last update.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_FOLLOWS_SELECTION">
+        <source></source>
+        <translation>Whether the selected row stays where it is on the screen while others change places.</translation>
     </message>
     <message id="setting_WEB_SEARCH_ADDRESS">
         <source></source>

@@ -52,6 +52,19 @@ void FoldAll(Scope scope) {
   scope.window.foldAll(folded);
 }
 
+void TogglePause(Scope scope) {
+  scope.window.setPaused(!scope.window.isPaused());
+}
+bool IsPaused(Scope scope) {
+  return scope.window.isPaused();
+}
+void ToggleFollowing(Scope scope) {
+  scope.window.setFollowsSelection(!scope.window.followsSelection());
+}
+bool FollowsSelection(Scope scope) {
+  return scope.window.followsSelection();
+}
+
 template <TableShape kShape>
 constexpr Command ShapeCommand(const char* text, Qt::Key key, bool beginsGroup = false) {
   return {.text = text,
@@ -160,6 +173,16 @@ constexpr Command kCommands[] = {
      .menu = Menu::kView,
      .keys = Keys(Qt::Key_F5),
      .run = Window<&WindowCommands::updateNow>},
+    {.text = "menu_view_pause",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::CTRL | Qt::Key_Space),
+     .run = TogglePause,
+     .isChecked = IsPaused},
+    {.text = "menu_view_follow",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::CTRL | Qt::SHIFT | Qt::Key_F),
+     .run = ToggleFollowing,
+     .isChecked = FollowsSelection},
     {.text = "menu_view_overlay",
      .menu = Menu::kView,
      .keys = {.isOverlayKey = true},

@@ -113,7 +113,8 @@ void vqMainTableController::removeFromKeysWeTrackForUI(KeyId key) {
   if (key == fSortColumn) {
     // Its figures are not read any more.
     setSortColumn(kMetaPid, fLayout.DirectionOf(kMetaPid));
-    setNeedsResort();
+    fNeedsResort = true;
+    setNeedsReload();
   }
   rebuildColumns();
   saveColumnPrefs();

@@ -189,10 +189,7 @@ void vqMainTableController::revealPids(const std::vector<std::int32_t>& pids) {
 void vqMainTableController::keepPlace(const std::function<void()>& change) {
   if (fTable == nullptr || fRows.Shown().empty()) return change();
   const auto focused = fTable->currentIndex();
-  const auto isInSight = [this](const QModelIndex& place) {
-    return place.isValid() && fTable->viewport()->rect().intersects(fTable->visualRect(place));
-  };
-  const int kept = isInSight(focused) ? focused.row() : std::max(fTable->rowAt(0), 0);
+  const int kept = placeInSight(focused) ? focused.row() : std::max(fTable->rowAt(0), 0);
   const auto* row = fRows.Shown()[static_cast<std::size_t>(kept)];
   const int before = fTable->rowViewportPosition(kept);
   const QPersistentModelIndex anchor = index(kept, 0);

@@ -71,6 +71,7 @@ MainWindow::MainWindow(ApplicationCommands& commands)
           &MainWindow::UpdateStatus);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtHelper);
   connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::LookAtRecording);
+  connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::UpdateStatus);
   connect(mController.get(), &vqMainTableController::updated, this, [this] {
     const auto complaint = TheMachine().preferenceDomain.TakeComplaint();
     if (!complaint.empty())
@@ -149,6 +150,8 @@ void MainWindow::ShowArrangement() {
       const auto text = box->itemData(item).toByteArray();
       if (FindCommand(text.constData())->isChecked(scope)) box->setCurrentIndex(item);
     }
+  setWindowTitle(
+      LocalizedString(mController->isPaused() ? "main_window_title_paused" : "main_window_title"));
   UpdateStatus();
 }
 
@@ -299,23 +302,35 @@ QString MainWindow::WhatIsShown() const {
   return words.join(QLatin1String(", "));
 }
 
+/// Ends where the counts begin; empty for a table that goes on by itself.
+QString MainWindow::HowItIsHeld() const {
+  QString text;
+  if (mController->isPaused())
+    text += LocalizedString("main_window_status_paused")
+                .arg(mController->rows().CountEnded())
+                .arg(mController->rows().CountWaiting());
+  if (mController->followsSelection()) text += LocalizedString("main_window_status_follows");
+  return text;
+}
+
 void MainWindow::UpdateStatus() {
   const auto selected = mController->selectedPids().size();
   const auto processes = mController->pidEntries().size();
   const auto matches = mController->countOfMatches();
   const auto what = WhatIsShown();
   if (what.isEmpty())
-    mCounts->setText(LocalizedString(processes == 1 ? "main_window_status_counts_one"
-                                                    : "main_window_status_counts")
-                         .arg(processes)
-                         .arg(matches)
-                         .arg(selected));
+    mCounts->setText(HowItIsHeld() + LocalizedString(processes == 1
+                                                         ? "main_window_status_counts_one"
+                                                         : "main_window_status_counts")
+                                         .arg(processes)
+                                         .arg(matches)
+                                         .arg(selected));
   else
-    mCounts->setText(LocalizedString("main_window_status_some")
-                         .arg(matches)
-                         .arg(processes)
-                         .arg(what)
-                         .arg(selected));
+    mCounts->setText(HowItIsHeld() + LocalizedString("main_window_status_some")
+                                         .arg(matches)
+                                         .arg(processes)
+                                         .arg(what)
+                                         .arg(selected));
   QString empty;
   if (processes > 0 && mController->rowCount() == 0)
     empty = mController->isFiltered() ? LocalizedString("main_window_filter_hides_all")

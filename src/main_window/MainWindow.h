@@ -74,6 +74,10 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void setScope(TableScope scope) override { mController->setScope(scope); }
   TableScope scope() const override { return mController->scope(); }
   void foldAll(bool folded) override { mController->foldAll(folded); }
+  void setPaused(bool paused) override { mController->setPaused(paused); }
+  bool isPaused() const override { return mController->isPaused(); }
+  void setFollowsSelection(bool follows) override { mController->setFollowsSelection(follows); }
+  bool followsSelection() const override { return mController->followsSelection(); }
   void showRememberedWindows() override;
   void closeFollowingWindows() override;
   void doThePreferences() override { mCommands.doThePrefs(); }
@@ -92,6 +96,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void AskAboutHelper();
   void UpdateStatus();
   QString WhatIsShown() const;
+  QString HowItIsHeld() const;
 
   ApplicationCommands& mCommands;
   std::unique_ptr<vqMainTableController> mController;

@@ -1,6 +1,7 @@
 #include "main_window/ProcessRows.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace lurkwell {
 
@@ -12,6 +13,11 @@ RowDictionary* ProcessRows::Find(std::int32_t pid) const {
 RowDictionary& ProcessRows::Add(std::int32_t pid) {
   auto& row = mByPid[pid];
   row = std::make_unique<RowDictionary>(pid);
+  row->isWaiting = mIsHeld;
+  if (mIsHeld) {
+    ++mWaitingCount;
+    return *row;
+  }
   mHaveComeOrGone = true;
   mAll.push_back(row.get());
   return *row;
@@ -20,14 +26,35 @@ RowDictionary& ProcessRows::Add(std::int32_t pid) {
 void ProcessRows::Remove(std::int32_t pid) {
   const auto found = mByPid.find(pid);
   if (found == mByPid.end()) return;
-  found->second->isDeparted = true;
-  mHaveComeOrGone = true;
-  mDeparted.push_back(std::move(found->second));
+  if (found->second->isWaiting) {
+    --mWaitingCount;
+  } else {
+    found->second->isDeparted = true;
+    found->second->SetChanged(true);
+    if (mIsHeld)
+      ++mEndedCount;
+    else
+      mHaveComeOrGone = true;
+    mDeparted.push_back(std::move(found->second));
+  }
   mByPid.erase(found);
 }
 
+void ProcessRows::SetHeld(bool held) {
+  if (std::exchange(mIsHeld, held) == held || held) return;
+  mHaveComeOrGone = mHaveComeOrGone || mEndedCount > 0 || mWaitingCount > 0;
+  mEndedCount = mWaitingCount = 0;
+  std::vector<RowDictionary*> came;
+  for (auto& [pid, row] : mByPid)
+    if (std::exchange(row->isWaiting, false)) came.push_back(row.get());
+  std::ranges::sort(came, {}, [](const RowDictionary* row) {
+    return std::pair(row->origin.startStamp, row->Pid());
+  });
+  mAll.insert(mAll.end(), came.begin(), came.end());
+}
+
 void ProcessRows::TidyUp() {
-  if (mDeparted.empty()) return;
+  if (mDeparted.empty() || mIsHeld) return;
   std::erase_if(mAll, [](const auto* row) { return row->isDeparted; });
   std::erase_if(mDeparted, [](const auto& row) { return row->shownIndex < 0; });
 }
@@ -80,7 +107,7 @@ void ProcessRows::Commit(std::vector<RowDictionary*> order) {
   }
   Place(order);
   DropTail(mShown.size() - wanted);
-  mDeparted.clear();
+  if (!mIsHeld) mDeparted.clear();
   mHaveComeOrGone = false;
   CommitCells();
 }

@@ -46,6 +46,14 @@ class ProcessRows {
   /// Whether a row came or went since the last commit.
   bool HaveComeOrGone() const { return mHaveComeOrGone; }
 
+  /// While they are held, All are those that there were at the beginning: ended ones stay, marked
+  /// as departed, and new ones wait, where Find has them and nobody else. Nothing when they are
+  /// held already, or not.
+  void SetHeld(bool held);
+  /// Since rows have been held; 0 when they are not.
+  std::size_t CountEnded() const { return mEndedCount; }
+  std::size_t CountWaiting() const { return mWaitingCount; }
+
   // ---- What the view has ------------------------------------------------------------------------
 
   const std::vector<RowDictionary*>& Shown() const { return mShown; }
@@ -70,6 +78,9 @@ class ProcessRows {
   /// Ended, but the view may still have them.
   std::vector<std::unique_ptr<RowDictionary>> mDeparted;
   bool mHaveComeOrGone = false;
+  bool mIsHeld = false;
+  std::size_t mEndedCount = 0;
+  std::size_t mWaitingCount = 0;
 };
 
 }  // namespace lurkwell

@@ -25,7 +25,8 @@ void RowTree::LinkToParents(const ProcessRows& rows) {
   for (auto* row : rows.All()) {
     auto* parent =
         row->origin.parentPid == kInvalidPID ? nullptr : rows.Find(row->origin.parentPid);
-    row->above = parent != nullptr && MayBeParent(*parent, *row) ? parent : nullptr;
+    const bool isThere = parent != nullptr && !parent->isWaiting;
+    row->above = isThere && MayBeParent(*parent, *row) ? parent : nullptr;
   }
 }
 

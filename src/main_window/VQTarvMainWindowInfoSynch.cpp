@@ -128,7 +128,7 @@ void VQTarvMainWindowInfoSynch::setCPUDelta(RowDictionary& row, TimeValue active
 }
 
 void VQTarvMainWindowInfoSynch::Set(RowDictionary& row, KeyId key, RowValue value) {
-  if (!row.Set(key, std::move(value))) return;
+  if (!row.Set(key, std::move(value)) || row.isWaiting) return;
   if (key == mSortedBy) mOwner.setNeedsResort();
   if (mOwner.standingDependsOn(key)) mOwner.noteStandingHasChanged();
   // What is remembered is remembered by name.
@@ -138,7 +138,8 @@ void VQTarvMainWindowInfoSynch::Set(RowDictionary& row, KeyId key, RowValue valu
 void VQTarvMainWindowInfoSynch::TakeOrigin(RowDictionary& row, const ProcessGlance& glance) {
   const RowOrigin origin{glance.parentPid, glance.startStamp, glance.isApplication,
                          glance.isKernelThread};
-  if (std::exchange(row.origin, origin) != origin) mOwner.noteStandingHasChanged();
+  if (std::exchange(row.origin, origin) != origin && !row.isWaiting)
+    mOwner.noteStandingHasChanged();
 }
 
 void VQTarvMainWindowInfoSynch::UpdateSingleFieldForPid(RowDictionary& row, KeyId key, int pid) {
@@ -173,7 +174,8 @@ void VQTarvMainWindowInfoSynch::RefreshBars() {
   const auto biggest = std::exchange(gBiggestVSZ, 0);
   const bool ignoresPidZero = IgnoresPidZero();
   for (auto* row : mOwner.rows().All()) {
-    if (row->SetIndicator(ProcessIndicatorImageName(row->Pid()))) {
+    // Its pid may be another's by now.
+    if (!row->isDeparted && row->SetIndicator(ProcessIndicatorImageName(row->Pid()))) {
       mOwner.noteFactsHaveChanged();
       if (mSortedBy == kNoKey) mOwner.setNeedsResort();
     }
@@ -220,6 +222,10 @@ void VQTarvMainWindowInfoSynch::BeepForHexadecimals() {
 }
 
 void VQTarvMainWindowInfoSynch::NotifyPSColumnsHaveChanged() {
+  if (mOwner.isPaused()) {
+    gNewColumnWasAddedRecently = true;
+    return;
+  }
   mOwner.showColumnsThatCame();
   mSortedBy = SortedBy(mOwner.sortedBy());
   for (const KeyId key : mOwner.layout().Keys()) {
@@ -237,11 +243,13 @@ std::vector<std::int32_t> VQTarvMainWindowInfoSynch::PidsInSight() {
 
 void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
   if (!mIsSeen) return mOwner.commitChanges();
-  RefreshRows();
-  gNewColumnWasAddedRecently = false;
-  mOwner.noteStaleColumns();
-  mOwner.showColumnsThatCame();
-  BeepForHexadecimals();
+  if (!mOwner.isPaused()) {
+    RefreshRows();
+    gNewColumnWasAddedRecently = false;
+    mOwner.noteStaleColumns();
+    mOwner.showColumnsThatCame();
+    BeepForHexadecimals();
+  }
   mFigures = ReadSystemFigures();
   UpdateSystemInfoToolbarItemCPU();
   UpdateSystemInfoToolbarItemMemory();
@@ -257,7 +265,7 @@ void VQTarvMainWindowInfoSynch::NotifyPidHasBeenAdded(int pid) {
   row.SetRunState(glance.runState);
   TakeOrigin(row, glance);
   UpdateAllFields(row, pid);
-  mOwner.setNeedsResort();
+  if (!row.isWaiting) mOwner.setNeedsResort();
 }
 
 void VQTarvMainWindowInfoSynch::NotifyPidHasBeenRemoved(int pid) {
@@ -269,6 +277,11 @@ void VQTarvMainWindowInfoSynch::NotifyPidHasChangedAppreciably(int pid) {
   auto* row = mOwner.rows().Find(pid);
   if (row == nullptr) return;
   row->icon.internal_Icon_Has_Been_Inited = false;
+  if (mOwner.isPaused() && !row->isWaiting) {
+    // So that the row is read when it goes on.
+    row->changeStamp = 0;
+    return;
+  }
   row->SetChanged(true);
   UpdateAllFields(*row, pid);
   mOwner.setNeedsResort();
@@ -278,7 +291,10 @@ void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
   if (const auto interval = StoredInt(kIntervalKey)) SetSeenInterval(*interval);
   mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) {
-    UpdateAllFields(*row, row->Pid());
+    if (mOwner.isPaused())
+      row->changeStamp = 0;
+    else
+      UpdateAllFields(*row, row->Pid());
     // Formats may be others, too.
     row->SetChanged(true);
   }

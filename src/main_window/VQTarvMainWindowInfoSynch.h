@@ -47,6 +47,9 @@ class SynchronisedTable {
   /// The processes whose rows can be seen, in the order of the rows.
   virtual std::vector<std::int32_t> pidsInSight() const = 0;
 
+  /// Rows show what they showed when the user paused; what comes and goes meanwhile is only noted.
+  virtual bool isPaused() const = 0;
+
   /// Rows came or changed so that their order may be another one; done at the next commit.
   virtual void setNeedsResort() = 0;
   virtual void setNeedsReload() = 0;

@@ -26,6 +26,10 @@ class WindowCommands {
   virtual TableScope scope() const = 0;
   /// Folds or unfolds every row that has others below.
   virtual void foldAll(bool folded) = 0;
+  virtual void setPaused(bool paused) = 0;
+  virtual bool isPaused() const = 0;
+  virtual void setFollowsSelection(bool follows) = 0;
+  virtual bool followsSelection() const = 0;
   virtual void showRememberedWindows() = 0;
   virtual void closeFollowingWindows() = 0;
   virtual void doThePreferences() = 0;

@@ -46,13 +46,18 @@ class vqMainTableController::FilteredRow final : public QuerySubject {
 
   TypedValue ValueOf(const std::string& property) const override {
     // Short names would match nothing that was typed in full.
-    if (property == KeyText(kMetaName)) return mTable.nameOf(mRow.Pid()).toStdString();
+    if (property == KeyText(kMetaName) && !mRow.isDeparted)
+      return mTable.nameOf(mRow.Pid()).toStdString();
+    if (const auto& shown = mRow.Get(InternKey(property)); mTable.isPaused() && IsKnown(shown))
+      return shown;
+    // Its pid may be another's by now.
+    if (mRow.isDeparted) return Missing::kNone;
     return GetPIDPropertyTypedValue(mRow.Pid(), property.c_str());
   }
   bool ShowsTextLike(const TextPattern& pattern) const override {
     if (pattern.Matches(std::to_string(mRow.Pid()))) return true;
     // Where names are shown, the columns below have them.
-    if (!mTable.isTracked(KeyText(kMetaName)) &&
+    if (!mTable.isTracked(KeyText(kMetaName)) && !mRow.isDeparted &&
         pattern.Matches(mTable.nameOf(mRow.Pid()).toStdString()))
       return true;
     return std::ranges::any_of(mTable.fColumns, [&](const Column& column) {
@@ -71,6 +76,7 @@ vqMainTableController::vqMainTableController() {
   fLayout.Read();
   fShape = static_cast<TableShape>(std::clamp(ReadInt("MAIN_WINDOW_SHAPE"), 0, 2));
   fScope = static_cast<TableScope>(std::clamp(ReadInt("MAIN_WINDOW_SCOPE"), 0, kScopeCount - 1));
+  fFollowsSelection = ReadSwitch("MAIN_WINDOW_FOLLOWS_SELECTION");
   readWhatIsNeeded();
 }
 
@@ -88,6 +94,7 @@ void vqMainTableController::awakeFromNib(QMainWindow& window, StripedTableView& 
   connect(&header, &QHeaderView::sectionClicked, this,
           [this](int column) { shouldSelectTableColumn(column); });
   connect(&table, &StripedTableView::foldWanted, this, &vqMainTableController::foldRow);
+  connect(&table, &StripedTableView::released, this, &vqMainTableController::setNeedsReload);
   connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &vqMainTableController::contentsChanged);
   const KeyId sortColumn = fLayout.TakeInitialSortColumn();
@@ -123,6 +130,8 @@ void vqMainTableController::windowDidBecomeKey() {
 void vqMainTableController::windowWillClose() {
   if (!gApplicationQuitting) StoreInt(kShowProcessListKey, 0);
   if (fInfoSynchronizer != nullptr) fInfoSynchronizer->UnhookFromConsolidator();
+  setPaused(false);
+  fRows.TidyUp();
   fRows.RemoveAll();
   fHolders.clear();
   commitChanges();
@@ -153,11 +162,8 @@ void vqMainTableController::noteAgeOfColumns(bool mayAge) {
 
 void vqMainTableController::commitChanges() {
   fCommitIsQueued = false;
-  // A filter's rows may be others after any change of a text.
-  const bool isArranged = !fNeedsResort && !fRows.HaveComeOrGone() && !fFilterHasChanged &&
-                          !fStandingHasChanged && !hidesRows();
-  if (!fHolders.empty() || isArranged) {
-    if (isTreeCurrent()) {
+  if (isOrderHeld() || isArranged()) {
+    if (isTreeCurrent() && !fIsPaused) {
       addUp();
       measureBars();
     }
@@ -176,10 +182,13 @@ void vqMainTableController::arrangeRows() {
   rememberSelection();
   auto wanted = rowsToShow();
   keepFocus(wanted);
+  const auto followed = followedRow();
+  const auto place = placeInSight(followed);
   fRows.Commit(std::move(wanted));
   fTree.TidyUp();
   restoreSelection();
   if (fTable != nullptr) stripedTable()->KeepFoundInSight();
+  keepFollowed(followed, place);
 }
 
 void vqMainTableController::triggerReload() {
@@ -206,15 +215,6 @@ RowComparison vqMainTableController::sortComparison() const {
 
 compareContextStructure vqMainTableController::sortContext() const {
   return {fSortColumn, fSortColumn == kNoKey || fLayout.DirectionOf(fSortColumn) != 0};
-}
-
-void vqMainTableController::holdOrder(const QObject* holder, bool hold) {
-  if (hold) {
-    fHolders.insert(holder);
-  } else if (fHolders.erase(holder) > 0 && fHolders.empty()) {
-    // After the command that closed the menu.
-    setNeedsReload();
-  }
 }
 
 void vqMainTableController::setFilter(Query query) {
@@ -291,7 +291,7 @@ int vqMainTableController::columnIndexOf(KeyId key) const {
 
 QVariant vqMainTableController::iconOf(RowDictionary& row) const {
   auto& icon = row.icon;
-  if (!icon.internal_Icon_Has_Been_Inited) {
+  if (!icon.internal_Icon_Has_Been_Inited && !row.isDeparted) {
     icon.internal_Icon_Has_Been_Inited = true;
     const double scale = fTable != nullptr ? fTable->devicePixelRatioF() : 1.0;
     const auto picture =
@@ -302,8 +302,12 @@ QVariant vqMainTableController::iconOf(RowDictionary& row) const {
   return icon.internal_Icon_Exists ? QVariant(icon.internal_Icon_Data) : QVariant();
 }
 
+const char* vqMainTableController::indicatorNameOf(const RowDictionary& row) {
+  return row.Group() == nullptr && !row.isDeparted ? ProcessIndicatorImageName(row.Pid()) : nullptr;
+}
+
 QVariant vqMainTableController::indicatorOf(const RowDictionary& row) const {
-  const char* name = row.Group() == nullptr ? ProcessIndicatorImageName(row.Pid()) : nullptr;
+  const char* name = indicatorNameOf(row);
   return name != nullptr ? QVariant(NamedImage(name)) : QVariant();
 }
 
@@ -344,8 +348,7 @@ QString vqMainTableController::spokenText(const RowDictionary& row, const Column
     return size(kPidRsz) + QLatin1String(" / ") + size(kPidVsz);
   }
   if (column.key == kInternalIndicator) {
-    if (row.Group() != nullptr) return {};
-    const char* name = ProcessIndicatorImageName(row.Pid());
+    const char* name = indicatorNameOf(row);
     return name != nullptr ? LocalizedString(name) : QString();
   }
   if (column.isInternal) return {};
@@ -372,6 +375,7 @@ std::vector<std::int32_t> vqMainTableController::pidsInSight() const {
 }
 
 QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column& column) const {
+  if (row.isDeparted) return LocalizedString("main_window_ended_tip");
   QStringList lines;
   if (row.Standing().fold == RowStanding::Fold::kFolded || row.Group() != nullptr)
     lines.append(totalTip(row, column));
@@ -418,13 +422,17 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
       return QVariant(
           Qt::Alignment(Qt::AlignVCenter | (column.rightAligned ? Qt::AlignRight : Qt::AlignLeft)));
     case Qt::AccessibleTextRole:
-      return isTreeColumn(column) ? spokenText(row, column) + spokenStanding(row)
-                                  : spokenText(row, column);
+      return spokenText(row, column) + (isTreeColumn(column) ? spokenStanding(row) : QString()) +
+             (row.isDeparted && column.key == treeColumn() ? LocalizedString("row_ended")
+                                                           : QString());
     case Qt::ToolTipRole:
       return tooltipOf(row, column);
     case kIsFaintRole:
-      return column.isStale || row.IsZombie() || row.Standing().isContext ||
+      return column.isStale || row.IsZombie() || row.isDeparted || row.Standing().isContext ||
+             (fIsPaused && column.key != kMetaName && column.key != kMetaPid) ||
              (!column.isInternal && !IsKnown(row.Shown(column.key)));
+    case kHasEndedRole:
+      return row.isDeparted;
     case kLevelRole:
       return isTreeColumn(column) ? row.Standing().level : -1;
     case kFoldRole:

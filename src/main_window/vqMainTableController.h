@@ -74,15 +74,29 @@ class vqMainTableController final : public vqTableController,
   const std::vector<RowDictionary*>& pidEntries() const { return fRows.All(); }
   VQTarvMainWindowInfoSynch* synchronizer() const { return fInfoSynchronizer; }
 
-  void setNeedsResort() override { fNeedsResort = true, setNeedsReload(); }
+  void setNeedsResort() override {
+    if (!fIsPaused) fNeedsResort = true, setNeedsReload();
+  }
   void setNeedsReload() override;
   void commitChanges() override;
   void triggerReload() override;
   /// Sorts the rows by the sort column; the view hears of it at the next commit.
   void resortTable();
 
-  /// While something holds the order (an open menu, a question), rows stay where they are.
+  /// While something holds the order (an open menu, a question), rows stay where they are. So they
+  /// do while the pointer presses on one.
   void holdOrder(const QObject* holder, bool hold) override;
+
+  /// While it is paused the table shows what it showed before, for the processes of then. It can be
+  /// sorted, filtered and folded all the same. Those that have ended meanwhile stay, marked, and no
+  /// command reaches them or who has their pids now.
+  void setPaused(bool paused);
+  bool isPaused() const override { return fIsPaused; }
+
+  /// Whether the selected row, the one with the focus if there are several, stays where it is on
+  /// the screen while others move. Remembered.
+  void setFollowsSelection(bool follows);
+  bool followsSelection() const { return fFollowsSelection; }
 
   /// Shows only processes that fulfil the query; its plain words look at name, pid and the text
   /// columns that are shown. What it looks at besides is read from the next update on, which comes
@@ -226,7 +240,9 @@ class vqMainTableController final : public vqTableController,
   KeyId sortedBy() const override { return sortColumn(); }
   std::span<const KeyId> keysBesideColumns() const override { return fKeysBesideColumns; }
   bool standingDependsOn(KeyId key) const override;
-  void noteStandingHasChanged() override { fStandingHasChanged = fShape != TableShape::kList; }
+  void noteStandingHasChanged() override {
+    if (!fIsPaused) fStandingHasChanged = fShape != TableShape::kList;
+  }
   std::int64_t biggestTotalVSZ() const override { return fBiggestTotal; }
   void noteStaleColumns() override { noteAgeOfColumns(true); }
   void noteFreshColumns() override { noteAgeOfColumns(false); }
@@ -237,6 +253,15 @@ class vqMainTableController final : public vqTableController,
 
   void noteAgeOfColumns(bool mayAge);
   void arrangeRows();
+  bool isOrderHeld() const;
+  /// Whether there is nothing that could have changed what stands where.
+  bool isArranged() const;
+  /// Invalid for none.
+  QPersistentModelIndex followedRow() const;
+  /// Where the row stands in the viewport; nothing for one that is out of sight.
+  std::optional<int> placeInSight(const QPersistentModelIndex& row) const;
+  /// Scrolls so that the row stands there again, or else anywhere in sight.
+  void keepFollowed(const QPersistentModelIndex& row, std::optional<int> place);
   /// Whether the filter or the scope takes not everything.
   bool hidesRows() const { return isFiltered() || fScope != TableScope::kAll; }
   bool isInScope(const RowDictionary& row) const;
@@ -279,6 +304,8 @@ class vqMainTableController final : public vqTableController,
   /// In their order, without those whose processes have ended.
   std::vector<RowDictionary*> selectedRows() const;
   QVariant iconOf(RowDictionary& row) const;
+  /// Null for none.
+  static const char* indicatorNameOf(const RowDictionary& row);
   QVariant indicatorOf(const RowDictionary& row) const;
   QString textOf(const RowDictionary& row, const Column& column) const;
   QString spokenText(const RowDictionary& row, const Column& column) const;
@@ -302,6 +329,8 @@ class vqMainTableController final : public vqTableController,
   RowTree fTree;
   std::int64_t fBiggestTotal = 0;
   std::vector<KeyId> fKeysBesideColumns;
+  bool fIsPaused = false;
+  bool fFollowsSelection = false;
   bool fStandingHasChanged = false;
   bool fFilterHasChanged = false;
   bool fFactsHaveChanged = false;

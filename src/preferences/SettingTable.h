@@ -145,6 +145,7 @@ inline constexpr Setting kRows[] = {
     Text("MAIN_WINDOW_RECENT_FILTERS", kAtOnce),
     Choice("MAIN_WINDOW_SHAPE", 0, 2, kNextStart),
     Choice("MAIN_WINDOW_SCOPE", 0, 5, kNextStart),
+    Switch("MAIN_WINDOW_FOLLOWS_SELECTION", false, kNextStart),
     Text("MAIN_WINDOW_FOLDED_PROGRAMS", kNextStart),
     Text("MAIN_WINDOW_UNFOLDED_APPLICATIONS", kNextStart),
     Record("DETAILS_WINDOW_FRAME", kAbsent),

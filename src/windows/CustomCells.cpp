@@ -74,7 +74,9 @@ void TextCell::DrawText(QPainter& painter, const QStyleOptionViewItem& option, c
   if (text.isEmpty()) return;
   const auto rect = place.adjusted(kTextMargin, 0, -kTextMargin, 0);
   const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-  painter.setFont(option.font);
+  auto font = option.font;
+  font.setStrikeOut(index.data(kHasEndedRole).toBool());
+  painter.setFont(font);
   const bool isFaint = index.data(kIsFaintRole).toBool();
   painter.setPen(
       option.palette.color(isFaint ? QPalette::Disabled : GroupOf(option),

@@ -9,16 +9,17 @@ namespace lurkwell {
 /// drawing. Colours follow the palette where it is dark. Main thread only.
 
 /// What cells draw from, besides the usual roles: the CPU share, resident and virtual size,
-/// whether a figure is an old one, an ended process's or missing, and whether the row is the idle
-/// task's.
+/// whether a figure is an old one, one of a paused table, an ended process's or missing, and
+/// whether the row is the idle task's.
 enum CellRole {
   kCpuShareRole = Qt::UserRole,
   kResidentSizeRole,
   kVirtualSizeRole,
   kIsFaintRole,
   kIsIdleTaskRole,
-  kLevelRole,  ///< how deep the row lies, from 0; -1 where rows have no places below others
-  kFoldRole    ///< RowStanding::Fold as a number
+  kHasEndedRole,  ///< the process has ended while its row has to stay
+  kLevelRole,     ///< how deep the row lies, from 0; -1 where rows have no places below others
+  kFoldRole       ///< RowStanding::Fold as a number
 };
 
 /// The largest virtual size among all processes in the last update, in bytes; what memory bars are
@@ -29,7 +30,7 @@ inline std::int64_t gBiggestVSZ = 0;
 inline bool gDrawVSZText = false;
 
 /// One line of text, cut at the end, with the selection behind it; what is old, ended or missing
-/// stands in a fainter colour.
+/// stands in a fainter colour, and what ended while it had to stay is struck through.
 class TextCell : public QStyledItemDelegate {
   Q_OBJECT
 

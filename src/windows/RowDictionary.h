@@ -195,8 +195,10 @@ class RowDictionary {
 
   /// Its place among the rows that the view has, -1 while it has none.
   int shownIndex = -1;
-  /// Its process has ended; the row goes with the next commit.
+  /// Its process has ended; the row goes with the next commit that changes places.
   bool isDeparted = false;
+  /// It came while rows were held; see ProcessRows.
+  bool isWaiting = false;
 
  private:
   std::int32_t mPid;

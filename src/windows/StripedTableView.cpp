@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "windows/CustomCells.h"
 #include "windows/RowDictionary.h"
@@ -127,9 +128,20 @@ void StripedTableView::showTheSpecialContextMenu(const QPoint& position, bool is
 
 void StripedTableView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && ClickArrow(event->pos())) return event->accept();
+  if (event->button() == Qt::LeftButton) mIsPressed = true;
   if (event->button() != Qt::RightButton) return QTableView::mousePressEvent(event);
   showTheSpecialContextMenu(event->pos(), true, true);
   event->accept();
+}
+
+void StripedTableView::mouseReleaseEvent(QMouseEvent* event) {
+  QTableView::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton && std::exchange(mIsPressed, false)) Q_EMIT released();
+}
+
+bool StripedTableView::IsPressed() const {
+  // Where the release went elsewhere, the buttons know.
+  return mIsPressed && (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
 }
 
 void StripedTableView::contextMenuEvent(QContextMenuEvent* event) {
@@ -171,6 +183,13 @@ void StripedTableView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
     return ShowMenuForKey();
   if (ServeTreeKey(*event)) return;
+  // With the control key it pauses.
+  if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && !IsSearching()) {
+    const auto current = currentIndex();
+    if (current.isValid())
+      selectionModel()->select(current, QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+    return;
+  }
   QTableView::keyPressEvent(event);
 }
 

@@ -12,7 +12,7 @@ namespace lurkwell {
 
 /// The process table's view: stripes over its whole height, vertical grid lines, and a context menu
 /// for rows on a right click, the menu key or Shift+F10. Home and End go to the first and the last
-/// row. Main thread only.
+/// row, the space bar selects a row besides others, or not any more. Main thread only.
 class StripedTableView : public QTableView {
   Q_OBJECT
 
@@ -64,10 +64,17 @@ class StripedTableView : public QTableView {
   void SelectFound(int row);
   /// Rows have changed places.
   void KeepFoundInSight();
+  /// Scrolls as little as shows the row, and to no side.
+  void ScrollToRow(const QModelIndex& place);
+
+  /// Whether the pointer presses on the rows, which then stay where they are.
+  bool IsPressed() const;
 
  Q_SIGNALS:
   /// A double click on a row, or Return.
   void doubleAction();
+  /// The pointer does not press on the rows any more.
+  void released();
   /// A click on an arrow, or a key: Right unfolds and Left folds a row, the asterisk unfolds `all`
   /// that lies below, too.
   void foldWanted(int row, bool folded, bool all);
@@ -76,6 +83,7 @@ class StripedTableView : public QTableView {
   bool eventFilter(QObject* object, QEvent* event) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -85,7 +93,6 @@ class StripedTableView : public QTableView {
   void highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const;
   void drawGridInClipRect(QPainter& painter, const QRect& clip) const;
   void ShowMenuForKey();
-  void ScrollToRow(const QModelIndex& place);
   bool RowMatches(int row, const QString& text) const;
   bool IsSearching() const;
   QModelIndex InTree(int row) const { return model()->index(row, mTreeColumn); }
@@ -100,6 +107,7 @@ class StripedTableView : public QTableView {
   /// The same, to be compared alone: events come while the menu ends, when it is none any more.
   const QObject* mWatched = nullptr;
   QElapsedTimer mSinceMenuCame;
+  bool mIsPressed = false;
   QPersistentModelIndex mFound;
   int mSearchColumn = -1;
   int mTreeColumn = -1;
