@@ -2163,6 +2163,54 @@
         <source></source>
         <translation>&amp;Busy Processes</translation>
     </message>
+    <message id="menu_columns_set">
+        <source></source>
+        <translation>Column &amp;Set</translation>
+    </message>
+    <message id="menu_set_standard">
+        <source></source>
+        <translation>&amp;Standard</translation>
+    </message>
+    <message id="menu_set_cpu">
+        <source></source>
+        <translation>&amp;CPU</translation>
+    </message>
+    <message id="menu_set_memory">
+        <source></source>
+        <translation>&amp;Memory</translation>
+    </message>
+    <message id="menu_set_disk_network">
+        <source></source>
+        <translation>&amp;Disk and Network</translation>
+    </message>
+    <message id="menu_set_commands">
+        <source></source>
+        <translation>C&amp;ommands</translation>
+    </message>
+    <message id="menu_set_containers">
+        <source></source>
+        <translation>Con&amp;tainers</translation>
+    </message>
+    <message id="menu_set_security">
+        <source></source>
+        <translation>Secu&amp;rity</translation>
+    </message>
+    <message id="menu_set_save_as">
+        <source></source>
+        <translation>Sa&amp;ve As…</translation>
+    </message>
+    <message id="menu_set_rename">
+        <source></source>
+        <translation>R&amp;ename…</translation>
+    </message>
+    <message id="menu_set_delete">
+        <source></source>
+        <translation>De&amp;lete…</translation>
+    </message>
+    <message id="menu_set_restore">
+        <source></source>
+        <translation>&amp;As It Was…</translation>
+    </message>
     <message id="menu_view_show_toolbar">
         <source></source>
         <translation>Show &amp;Toolbar</translation>
@@ -2487,6 +2535,62 @@
         <source></source>
         <translation>Which processes are shown</translation>
     </message>
+    <message id="switch_columns">
+        <source></source>
+        <translation>Set of columns</translation>
+    </message>
+    <message id="set_save_title">
+        <source></source>
+        <translation>Save Columns As a Set</translation>
+    </message>
+    <message id="set_rename_title">
+        <source></source>
+        <translation>Rename Set of Columns</translation>
+    </message>
+    <message id="set_title_label">
+        <source></source>
+        <translation>Name of the set:</translation>
+    </message>
+    <message id="set_title_agree">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="set_without_title">
+        <source></source>
+        <translation>A set needs a name.</translation>
+    </message>
+    <message id="set_title_too_long">
+        <source></source>
+        <translation>The name may have %1 letters at most.</translation>
+    </message>
+    <message id="set_title_is_taken">
+        <source></source>
+        <translation>There is a set “%1” already.</translation>
+    </message>
+    <message id="set_too_many">
+        <source></source>
+        <translation>There can be %1 sets of your own at most. Delete one that you do not need.</translation>
+    </message>
+    <message id="set_question_title">
+        <source></source>
+        <translation>Set of Columns</translation>
+    </message>
+    <message id="set_delete_question">
+        <source></source>
+        <translation>Delete the set “%1”? Its columns, their widths and order cannot be brought back.</translation>
+    </message>
+    <message id="set_delete_agree">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="set_restore_question">
+        <source></source>
+        <translation>Make the set “%1” what it was at first? What you have changed in it is lost.</translation>
+    </message>
+    <message id="set_restore_agree">
+        <source></source>
+        <translation>Restore</translation>
+    </message>
     <message id="group_kernel_threads">
         <source></source>
         <translation>Kernel threads</translation>
@@ -2594,6 +2698,34 @@
     <message id="help_menu_file_record">
         <source></source>
         <translation>record the processes to a file, to look at them later; a second time ends it</translation>
+    </message>
+    <message id="help_menu_set_standard">
+        <source></source>
+        <translation>Columns: Standard</translation>
+    </message>
+    <message id="help_menu_set_cpu">
+        <source></source>
+        <translation>Columns: CPU</translation>
+    </message>
+    <message id="help_menu_set_memory">
+        <source></source>
+        <translation>Columns: Memory</translation>
+    </message>
+    <message id="help_menu_set_disk_network">
+        <source></source>
+        <translation>Columns: Disk and Network</translation>
+    </message>
+    <message id="help_menu_set_commands">
+        <source></source>
+        <translation>Columns: Commands</translation>
+    </message>
+    <message id="help_menu_set_containers">
+        <source></source>
+        <translation>Columns: Containers</translation>
+    </message>
+    <message id="help_menu_set_security">
+        <source></source>
+        <translation>Columns: Security</translation>
     </message>
     <message id="help_menu_file_close_window">
         <source></source>
@@ -5037,7 +5169,7 @@ Free: %5</translation>
     </message>
     <message id="setting_title_MAIN_WINDOW_SHAPE">
         <source></source>
-        <translation>Shape of the process table</translation>
+        <translation>Shape of the process table, standard set</translation>
     </message>
     <message id="setting_title_MAIN_WINDOW_SCOPE">
         <source></source>
@@ -5066,6 +5198,14 @@ Free: %5</translation>
     <message id="setting_title_MAIN_WINDOW_COLUMNS">
         <source></source>
         <translation>Table: columns</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_COLUMN_SETS">
+        <source></source>
+        <translation>Table: sets of columns</translation>
+    </message>
+    <message id="setting_title_MAIN_WINDOW_COLUMN_SET">
+        <source></source>
+        <translation>Table: set that is shown</translation>
     </message>
     <message id="setting_title_HAS_RUN_TWO_POINT_THREE">
         <source></source>
@@ -5397,7 +5537,7 @@ Free: %5</translation>
     </message>
     <message id="setting_MAIN_WINDOW_SHAPE">
         <source></source>
-        <translation>How processes stand in the table: 0 – a list, 1 – children below their parents, 2 – below their applications.</translation>
+        <translation>How processes stand in the table with the standard set of columns: 0 – a list, 1 – children below their parents, 2 – below their applications.</translation>
     </message>
     <message id="setting_MAIN_WINDOW_SCOPE">
         <source></source>
@@ -5425,7 +5565,15 @@ Free: %5</translation>
     </message>
     <message id="setting_MAIN_WINDOW_COLUMNS">
         <source></source>
-        <translation>Columns of the table, with their widths and sort directions.</translation>
+        <translation>Columns of the standard set, with their widths and sort directions.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_COLUMN_SETS">
+        <source></source>
+        <translation>What the sets of columns keep, except the standard one: columns, widths, sort directions, sort column and shape.</translation>
+    </message>
+    <message id="setting_MAIN_WINDOW_COLUMN_SET">
+        <source></source>
+        <translation>The set of columns that the table shows.</translation>
     </message>
     <message id="setting_HAS_RUN_TWO_POINT_THREE">
         <source></source>

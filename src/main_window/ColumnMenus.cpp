@@ -27,7 +27,9 @@ KeyId KeyOf(const QAction& item) {
 
 }  // namespace
 
-ColumnMenus::ColumnMenus(vqMainTableController& controller) : mController(controller) {}
+ColumnMenus::ColumnMenus(vqMainTableController& controller) : mController(controller) {
+  connect(&controller, &vqMainTableController::columnsChanged, this, &ColumnMenus::ShowTicks);
+}
 
 QAction* ColumnMenus::AddItem(FilterMenu& menu, const char* key) {
   const auto group = PlaceOfColumn(key).group;
@@ -37,28 +39,23 @@ QAction* ColumnMenus::AddItem(FilterMenu& menu, const char* key) {
                             WithoutMnemonic(ColumnTitle(key)), words);
   item->setData(QByteArray(key));
   item->setCheckable(true);
-  item->setChecked(mController.isTracked(key));
   item->setToolTip(ColumnTip(key));
   return item;
 }
 
 void ColumnMenus::Build() {
-  const auto prepare = [this](QAction& item, const char* id, KeyId key,
-                              void (ColumnMenus::*handler)()) {
+  const auto prepare = [this](QAction& item, const char* id, void (ColumnMenus::*handler)()) {
     item.setText(LocalizedString(id));
     item.setCheckable(true);
-    item.setChecked(mController.isTracked(KeyText(key)));
     connect(&item, &QAction::triggered, this, handler);
   };
-  prepare(fTopLevelIconMenuItem, "menu_columns_icon", kInternalIcon,
-          &ColumnMenus::processIconMenuItem);
-  prepare(fTopLevelIndicatorMenuItem, "menu_columns_indicator", kInternalIndicator,
+  prepare(fTopLevelIconMenuItem, "menu_columns_icon", &ColumnMenus::processIconMenuItem);
+  prepare(fTopLevelIndicatorMenuItem, "menu_columns_indicator",
           &ColumnMenus::processIndicatorMenuItem);
-  prepare(fTopLevelNameMenuItem, "menu_columns_name", kMetaName, &ColumnMenus::processNameMenuItem);
-  prepare(fTopLevelCPUPercentMenuItem, "menu_columns_cpu_usage", kInternalCPUPercent,
+  prepare(fTopLevelNameMenuItem, "menu_columns_name", &ColumnMenus::processNameMenuItem);
+  prepare(fTopLevelCPUPercentMenuItem, "menu_columns_cpu_usage",
           &ColumnMenus::processCPUPercentMenuItem);
-  prepare(fTopLevelMemGraphMenuItem, "menu_columns_memory", kInternalMemGraph,
-          &ColumnMenus::processMemGraphMenuItem);
+  prepare(fTopLevelMemGraphMenuItem, "menu_columns_memory", &ColumnMenus::processMemGraphMenuItem);
 
   mBuiltInMenu.setTitle(LocalizedString("menu_columns_built_in"));
   mPSAvailableMenu.setTitle(LocalizedString("menu_columns_ps"));
@@ -72,6 +69,7 @@ void ColumnMenus::AddItems() {
   };
   std::vector<Column> columns;
   char header[64];
+  if (mHeadersSeen == CountProcPropertyHeaders()) return;
   while (mHeadersSeen < CountProcPropertyHeaders()) {
     const bool isBuiltIn = mHeadersSeen < CountBuiltInProcPropertyHeaders();
     if (!GetNthProcPropertyHeader(mHeadersSeen++, header, sizeof header)) continue;
@@ -89,6 +87,7 @@ void ColumnMenus::AddItems() {
       connect(item, &QAction::triggered, this, [this, item] { processPSAvailableMenuItem(item); });
     }
   }
+  ShowTicks();
 }
 
 void ColumnMenus::AppendTo(QMenu& menu) const {
@@ -110,65 +109,53 @@ QAction& ColumnMenus::TopLevelItem(KeyId key) {
   return fTopLevelMemGraphMenuItem;
 }
 
-QAction* ColumnMenus::ItemFor(KeyId key, const FilterMenu& menu) {
-  for (auto* item : menu.Items())
-    if (KeyText(key) == item->data().toByteArray().constData()) return item;
-  return nullptr;
+void ColumnMenus::ShowTicks() {
+  for (const auto* menu : {&mBuiltInMenu, &mPSAvailableMenu})
+    for (auto* item : menu->Items())
+      item->setChecked(mController.isTracked(item->data().toByteArray().constData()));
+  for (const KeyId key :
+       {kInternalIcon, kInternalIndicator, kMetaName, kInternalCPUPercent, kInternalMemGraph})
+    TopLevelItem(key).setChecked(mController.isTracked(KeyText(key)));
 }
 
-void ColumnMenus::Hide(KeyId key) {
-  if (!mController.isTracked(KeyText(key))) return;
-  mController.removeFromKeysWeTrackForUI(key);
-  for (auto* item : {ItemFor(key, mBuiltInMenu), ItemFor(key, mPSAvailableMenu)})
-    if (item != nullptr) item->setChecked(false);
-  if (IsInternalKey(KeyText(key)) || key == kMetaName) TopLevelItem(key).setChecked(false);
-}
-
-void ColumnMenus::processGeneralMenuItem(QAction* item, KeyId key, KeyId afterKey) {
-  // Qt has ticked the chosen item already; the column tells what it was before.
+void ColumnMenus::processGeneralMenuItem(KeyId key, KeyId afterKey) {
   if (mController.isTracked(KeyText(key))) {
-    item->setChecked(false);
     mController.removeFromKeysWeTrackForUI(key);
   } else {
-    item->setChecked(true);
     mController.addToKeysWeTrackForUI(key, afterKey);
   }
 }
 
 void ColumnMenus::processIconMenuItem() {
-  processGeneralMenuItem(&fTopLevelIconMenuItem, kInternalIcon);
+  processGeneralMenuItem(kInternalIcon);
 }
 
 void ColumnMenus::processIndicatorMenuItem() {
-  processGeneralMenuItem(&fTopLevelIndicatorMenuItem, kInternalIndicator, kInternalIcon);
+  processGeneralMenuItem(kInternalIndicator, kInternalIcon);
 }
 
 void ColumnMenus::processCPUPercentMenuItem() {
-  processGeneralMenuItem(&fTopLevelCPUPercentMenuItem, kInternalCPUPercent);
+  processGeneralMenuItem(kInternalCPUPercent);
 }
 
 void ColumnMenus::processMemGraphMenuItem() {
-  processGeneralMenuItem(&fTopLevelMemGraphMenuItem, kInternalMemGraph);
+  processGeneralMenuItem(kInternalMemGraph);
 }
 
 void ColumnMenus::processNameMenuItem() {
-  processGeneralMenuItem(&fTopLevelNameMenuItem, kMetaName);
-  // The same column has an item among the built-in ones.
-  if (auto* item = ItemFor(kMetaName, mBuiltInMenu))
-    item->setChecked(fTopLevelNameMenuItem.isChecked());
+  processGeneralMenuItem(kMetaName);
 }
 
 void ColumnMenus::processBuiltInMenuItem(QAction* item) {
   const bool isOurs = mBuiltInMenu.Items().contains(item);
   if (!Expect(isOurs, kMenusUnit, "builtInMenuItemToDealWith")) return;
-  processGeneralMenuItem(item, KeyOf(*item));
-  if (KeyOf(*item) == kMetaName) fTopLevelNameMenuItem.setChecked(item->isChecked());
+  processGeneralMenuItem(KeyOf(*item));
 }
 
 void ColumnMenus::processPSAvailableMenuItem(QAction* item) {
   const bool isOurs = mPSAvailableMenu.Items().contains(item);
   if (!Expect(isOurs, kMenusUnit, "PSAvailableMenuItemToDealWith")) return;
-  processGeneralMenuItem(item, KeyOf(*item));
+  processGeneralMenuItem(KeyOf(*item));
 }
 
 void ColumnMenus::Validate() {

@@ -28,6 +28,9 @@ class ColumnMenus : public QObject {
   /// The five items and the two submenus, to be put wherever columns can be chosen.
   void AppendTo(QMenu& menu) const;
 
+  /// Ticks the items whose columns are shown.
+  void ShowTicks();
+
   void processIconMenuItem();
   void processIndicatorMenuItem();
   void processNameMenuItem();
@@ -36,11 +39,8 @@ class ColumnMenus : public QObject {
   void processBuiltInMenuItem(QAction* item);
   void processPSAvailableMenuItem(QAction* item);
 
-  /// Ticks the item and shows the column, or the other way round; `item` was off or on before.
-  void processGeneralMenuItem(QAction* item, KeyId key, KeyId afterKey = kNoKey);
-
-  /// Takes a column off the table, and the tick off its item.
-  void Hide(KeyId key);
+  /// Shows the column, or takes it off the table.
+  void processGeneralMenuItem(KeyId key, KeyId afterKey = kNoKey);
 
   /// Enables the items of the submenus or not, and adds those that there were not before.
   void Validate();
@@ -53,7 +53,6 @@ class ColumnMenus : public QObject {
   QAction* AddItem(FilterMenu& menu, const char* key);
   /// For the properties that have become known: a slow ps may tell its columns later.
   void AddItems();
-  static QAction* ItemFor(KeyId key, const FilterMenu& menu);
 
   vqMainTableController& mController;
   int mHeadersSeen = 0;

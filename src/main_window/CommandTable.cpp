@@ -47,6 +47,14 @@ template <TableScope kScope>
 bool IsScope(Scope scope) {
   return scope.window.scope() == kScope;
 }
+template <int place>
+void ShowColumnSet(Scope scope) {
+  scope.window.showColumnSet(place);
+}
+template <int place>
+bool IsColumnSet(Scope scope) {
+  return scope.window.shownColumnSet() == place;
+}
 template <bool folded>
 void FoldAll(Scope scope) {
   scope.window.foldAll(folded);
@@ -78,6 +86,16 @@ template <TableScope kScope>
 constexpr Command ScopeCommand(const char* text) {
   return {
       .text = text, .menu = Menu::kScope, .run = SetScope<kScope>, .isChecked = IsScope<kScope>};
+}
+
+/// The key is the place's, counted from 1.
+template <int place>
+constexpr Command ColumnSetCommand(const char* text) {
+  return {.text = text,
+          .menu = Menu::kColumnSet,
+          .keys = {.keys = Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + place)},
+          .run = ShowColumnSet<place>,
+          .isChecked = IsColumnSet<place>};
 }
 
 constexpr CommandKeys Keys(QKeyCombination keys) {
@@ -231,6 +249,30 @@ constexpr Command kCommands[] = {
      .keys = Keys(Qt::ALT | Qt::SHIFT | Qt::Key_Down),
      .run = SortColumn<0, -20>},
 
+    ColumnSetCommand<0>("menu_set_standard"),
+    ColumnSetCommand<1>("menu_set_cpu"),
+    ColumnSetCommand<2>("menu_set_memory"),
+    ColumnSetCommand<3>("menu_set_disk_network"),
+    ColumnSetCommand<4>("menu_set_commands"),
+    ColumnSetCommand<5>("menu_set_containers"),
+    ColumnSetCommand<6>("menu_set_security"),
+    {.text = "menu_set_save_as",
+     .menu = Menu::kColumnSet,
+     .beginsGroup = true,
+     .run = Window<&WindowCommands::saveColumnSetAs>},
+    {.text = "menu_set_rename",
+     .menu = Menu::kColumnSet,
+     .needs = Need::kOwnSet,
+     .run = Window<&WindowCommands::renameColumnSet>},
+    {.text = "menu_set_delete",
+     .menu = Menu::kColumnSet,
+     .needs = Need::kOwnSet,
+     .run = Window<&WindowCommands::deleteColumnSet>},
+    {.text = "menu_set_restore",
+     .menu = Menu::kColumnSet,
+     .needs = Need::kBuiltInSet,
+     .run = Window<&WindowCommands::restoreColumnSet>},
+
     {.text = "menu_process_quit_or_kill",
      .keys = Keys(Qt::Key_Delete),
      .needs = Need::kSelection,
@@ -342,6 +384,10 @@ bool IsMet(Need need, const SelectionFacts& facts) {
       return facts.anyHalted;
     case Need::kTree:
       return facts.isTree;
+    case Need::kOwnSet:
+      return facts.isOwnColumnSet;
+    case Need::kBuiltInSet:
+      return !facts.isOwnColumnSet;
   }
   return true;
 }

@@ -13,8 +13,19 @@ namespace lurkwell {
 /// The one table of commands: menus, the context menu, the toolbar, its dialog, what can be chosen
 /// when, and the help page's keys follow from it. Main thread.
 
-/// The menu of the bar that has a command; kScope is one within the view's.
-enum class CommandMenu { kApplication, kFile, kEdit, kView, kScope, kProcess, kWindow, kHelp };
+/// The menu of the bar that has a command; kScope is one within the view's, kColumnSet one within
+/// the columns'.
+enum class CommandMenu {
+  kApplication,
+  kFile,
+  kEdit,
+  kView,
+  kScope,
+  kColumnSet,
+  kProcess,
+  kWindow,
+  kHelp
+};
 
 /// What has to be there for a command to be chosen.
 enum class Need {
@@ -25,6 +36,8 @@ enum class Need {
   kGoing,        ///< a selected process that can be halted
   kHalted,       ///< a selected process that is halted
   kTree,         ///< rows that stand below others
+  kOwnSet,       ///< one of the user's own sets of columns is shown
+  kBuiltInSet,   ///< one that came with the program is shown
 };
 
 bool IsMet(Need need, const SelectionFacts& facts);

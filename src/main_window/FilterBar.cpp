@@ -88,10 +88,6 @@ FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
   hide();
 }
 
-void FilterBar::addControl(QWidget& control) {
-  static_cast<QHBoxLayout*>(layout())->addWidget(&control);
-}
-
 void FilterBar::begin() {
   show();
   mField->setFocus();

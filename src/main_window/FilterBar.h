@@ -27,8 +27,8 @@ class FilterBar : public QWidget {
 
   QLineEdit& field() { return *mField; }
 
-  /// Puts a control of the same subject beside the field; it is the bar's then.
-  void addControl(QWidget& control);
+  /// What there is to say about the query that holds; empty for nothing.
+  void setRemark(const QString& text);
 
   void begin();
   /// Empties and hides the bar; what was typed is among the last ones then.

@@ -2,6 +2,7 @@
 
 #include <QMenuBar>
 #include <algorithm>
+#include <utility>
 
 #include "main_window/ColumnGroups.h"
 #include "main_window/MainToolbar.h"
@@ -83,16 +84,62 @@ void MainMenus::BuildMenuBar() {
   AppendCommands(*AddMenu("menu_edit"), CommandMenu::kEdit);
   auto* view = AddMenu("menu_view");
   AppendCommands(*view, CommandMenu::kView);
-  mScopeMenu.setTitle(LocalizedString("menu_view_scope"));
-  AppendCommands(mScopeMenu, CommandMenu::kScope);
-  view->insertMenu(ActionOf("menu_view_show_toolbar"), &mScopeMenu);
+  BuildSwitches(*view);
   BuildSortMenu(*view);
-  mColumnMenus.AppendTo(*AddMenu("menu_columns"));
+  auto* columns = AddMenu("menu_columns");
+  columns->addMenu(&mColumnSetMenu);
+  columns->addSeparator();
+  mColumnMenus.AppendTo(*columns);
   AppendCommands(*AddMenu("menu_process"), CommandMenu::kProcess);
   auto* window = AddMenu("menu_window");
   AppendCommands(*window, CommandMenu::kWindow);
   BuildOpenWindows(*window);
   AppendCommands(*AddMenu("menu_help"), CommandMenu::kHelp);
+}
+
+void MainMenus::BuildSwitches(QMenu& view) {
+  for (const char* shape :
+       {"menu_view_shape_list", "menu_view_shape_tree", "menu_view_shape_applications"})
+    mShapeMenu.addAction(ActionOf(shape));
+  mScopeMenu.setTitle(LocalizedString("menu_view_scope"));
+  AppendCommands(mScopeMenu, CommandMenu::kScope);
+  view.insertMenu(ActionOf("menu_view_show_toolbar"), &mScopeMenu);
+  mColumnSetMenu.setTitle(LocalizedString("menu_columns_set"));
+  AppendCommands(mColumnSetMenu, CommandMenu::kColumnSet);
+  ShowOwnColumnSets();
+  connect(&mController, &Controller::arrangementChanged, this, &MainMenus::ShowOwnColumnSets);
+  for (auto* menu : {&mShapeMenu, &mScopeMenu, &mColumnSetMenu}) WatchMenu(*menu);
+}
+
+void MainMenus::ShowOwnColumnSets() {
+  const auto& sets = mController.columnSets();
+  for (auto* item : std::exchange(mOwnColumnSets, {})) {
+    mColumnSetMenu.removeAction(item);
+    mWindow.removeAction(item);
+    // This may be its doing.
+    item->deleteLater();
+  }
+  // The line before the commands that are about sets.
+  const auto items = mColumnSetMenu.actions();
+  auto* line = items[items.indexOf(ActionOf("menu_set_save_as")) - 1];
+  for (int place = 0; place < sets.Count(); ++place) {
+    if (!sets.IsOwn(place)) continue;
+    auto* item =
+        new QAction(sets.TitleOf(place).replace(QLatin1Char('&'), QLatin1String("&&")), &mWindow);
+    item->setCheckable(true);
+    item->setChecked(place == sets.Shown());
+    constexpr int kKeys = 9;
+    if (place < kKeys)
+      item->setShortcut(QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + place)));
+    item->setAutoRepeat(false);
+    connect(item, &QAction::triggered, this, [this, place] {
+      mScope.window.showColumnSet(place);
+      ShowOwnColumnSets();
+    });
+    mColumnSetMenu.insertAction(line, item);
+    mWindow.addAction(item);
+    mOwnColumnSets.append(item);
+  }
 }
 
 void MainMenus::BuildOpenWindows(QMenu& menu) {
@@ -187,9 +234,11 @@ void MainMenus::BuildContextMenu() {
 void MainMenus::BuildHeaderMenu() {
   mHideColumn = mHeaderMenu.addAction(QString());
   mHeaderMenu.addSeparator();
+  mHeaderMenu.addMenu(&mColumnSetMenu);
+  mHeaderMenu.addSeparator();
   mColumnMenus.AppendTo(mHeaderMenu);
   connect(mHideColumn, &QAction::triggered, this,
-          [this] { mColumnMenus.Hide(mHideColumn->data().toInt()); });
+          [this] { mController.removeFromKeysWeTrackForUI(mHideColumn->data().toInt()); });
   for (auto* menu : std::initializer_list<QMenu*>{&mHeaderMenu, &mColumnMenus.BuiltInMenu(),
                                                   &mColumnMenus.PSAvailableMenu()})
     WatchMenu(*menu);

@@ -26,6 +26,10 @@ class MainMenus : public QObject {
   /// The columns, for a click on a header. Its first item hides `column`.
   QMenu& HeaderMenu(int column);
   ColumnMenus& columnMenus() { return mColumnMenus; }
+  /// What the table can be switched between, one menu for each subject.
+  QMenu& ShapeMenu() { return mShapeMenu; }
+  QMenu& ScopeMenu() { return mScopeMenu; }
+  QMenu& ColumnSetMenu() { return mColumnSetMenu; }
 
   /// The toolbar's own, for a click on it; the caller deletes it.
   QMenu* MakeToolbarMenu(QWidget* parent);
@@ -49,6 +53,9 @@ class MainMenus : public QObject {
   void BuildOpenWindows(QMenu& menu);
   /// For those without a mouse: what can be done to headers.
   void BuildSortMenu(QMenu& view);
+  void BuildSwitches(QMenu& view);
+  /// The user's own sets of columns, with the keys that are left, as they are now.
+  void ShowOwnColumnSets();
   void WatchMenu(QMenu& menu);
 
   QMainWindow& mWindow;
@@ -60,7 +67,10 @@ class MainMenus : public QObject {
   QMenu mHeaderMenu;
   QAction* mHideColumn = nullptr;
   QMenu mSortMenu;
+  QMenu mShapeMenu;
   QMenu mScopeMenu;
+  QMenu mColumnSetMenu;
+  QList<QAction*> mOwnColumnSets;
 };
 
 }  // namespace lurkwell

@@ -23,6 +23,9 @@ constexpr int kSmallestPidWidth = 45;
 constexpr int kSmallestNameWidth = 220;
 constexpr int kSmallestBarWidth = 110;
 constexpr int kWidestFirstName = 440;
+/// Where there are many columns, figures are worth more than the ends of names.
+constexpr int kNarrowestFirstName = 150;
+const KeyId kCommandLine = InternKey("pid_command_line");
 /// "Nov 22 09:00:00 2026", in characters as wide as they are counted when a date is fitted.
 constexpr int kDateLength = 20;
 constexpr int kPointsPerDateCharacter = 6;
@@ -164,6 +167,7 @@ void vqMainTableController::rebuildColumns() {
   showSortIndicator();
   restoreSelection();
   moveFocusTo(focusedRow);
+  Q_EMIT columnsChanged();
 }
 
 void vqMainTableController::addColumnToMainTable(KeyId key) {
@@ -201,14 +205,82 @@ void vqMainTableController::fillWidth(int width) {
   auto& header = *fTable->horizontalHeader();
   const int besideColumns = fTable->verticalScrollBar()->sizeHint().width() + fTable->frameWidth();
   const int rest = width - header.length() - besideColumns;
-  const int name = columnIndexOf(kMetaName);
-  if (!fLayout.HasUsualColumns() || name < 0 || rest <= 0) return;
-  header.resizeSection(name, std::min(header.sectionSize(name) + rest, kWidestFirstName));
+  const int line = columnIndexOf(kCommandLine);
+  const int longest = line >= 0 ? line : columnIndexOf(kMetaName);
+  if (!fLayout.IsOriginal() || longest < 0) return;
+  const int wanted = header.sectionSize(longest) + rest;
+  header.resizeSection(
+      longest, std::clamp(wanted, std::min(kNarrowestFirstName, header.sectionSize(longest)),
+                          line >= 0 ? std::max(wanted, kNarrowestFirstName) : kWidestFirstName));
 }
+
+// ---- Sets of columns ----------------------------------------------------------------------------
 
 void vqMainTableController::saveColumnPrefs() {
   adoptScreenLayout();
-  fLayout.Save(fSortColumn);
+  auto contents = fLayout.Contents(fSortColumn);
+  contents.shape = fShape;
+  fSets.Store(fSets.Shown(), contents);
+}
+
+void vqMainTableController::showColumnSet(int place) {
+  if (place < 0 || place >= fSets.Count() || place == fSets.Shown()) return;
+  saveColumnPrefs();
+  fSets.SetShown(place);
+  takeColumnSet();
+}
+
+void vqMainTableController::takeColumnSet() {
+  const auto contents = fSets.Read(fSets.Shown());
+  fLayout.Take(contents);
+  const auto change = [&] {
+    rebuildColumns();
+    const KeyId sortColumn = fLayout.TakeInitialSortColumn();
+    setSortColumn(sortColumn, fLayout.DirectionOf(sortColumn));
+    fNeedsResort = true;
+    if (contents.shape != fShape) changeShape(contents.shape);
+    readWhatIsNeeded();
+    commitChanges();
+  };
+  // Who has selected nothing sees the beginning of the order.
+  const bool keepsPlace = hasSelection();
+  if (keepsPlace) {
+    keepPlace(change);
+  } else {
+    change();
+    fTable->scrollToTop();
+  }
+  // The figures that the new order depends on come with the update.
+  fKeepsPlaceOnce = keepsPlace;
+  if (fWindow != nullptr) fillWidth(fWindow->width());
+  updateNow();
+  Q_EMIT arrangementChanged();
+}
+
+void vqMainTableController::saveColumnSetAs(const QString& title) {
+  saveColumnPrefs();
+  auto contents = fLayout.Contents(fSortColumn);
+  contents.shape = fShape;
+  fSets.SetShown(fSets.Add(title, contents));
+  Q_EMIT arrangementChanged();
+}
+
+void vqMainTableController::renameColumnSet(const QString& title) {
+  if (!fSets.IsOwn(fSets.Shown())) return;
+  fSets.Rename(fSets.Shown(), title);
+  Q_EMIT arrangementChanged();
+}
+
+void vqMainTableController::deleteColumnSet() {
+  if (!fSets.IsOwn(fSets.Shown())) return;
+  fSets.Remove(fSets.Shown());
+  takeColumnSet();
+}
+
+void vqMainTableController::restoreColumnSet() {
+  if (fSets.IsOwn(fSets.Shown())) return;
+  fSets.Forget(fSets.Shown());
+  takeColumnSet();
 }
 
 }  // namespace lurkwell

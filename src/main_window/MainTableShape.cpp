@@ -40,22 +40,26 @@ bool IsApplications(const RowDictionary& row) {
 
 void vqMainTableController::setShape(TableShape shape) {
   if (fShape == shape) return;
-  StoreInt("MAIN_WINDOW_SHAPE", static_cast<std::int32_t>(shape));
   keepPlace([&] {
-    fShape = shape;
-    fStandingHasChanged = shape != TableShape::kList;
-    fBiggestTotal = 0;
-    fNeedsResort = fFilterHasChanged = true;
-    for (auto* row : fRows.All()) {
-      row->DropTotals();
-      row->SetStanding({});
-      row->SetChanged(true);
-    }
+    changeShape(shape);
     readWhatIsNeeded();
     commitChanges();
   });
+  saveColumnPrefs();
   updateNow();
   Q_EMIT arrangementChanged();
+}
+
+void vqMainTableController::changeShape(TableShape shape) {
+  fShape = shape;
+  fStandingHasChanged = shape != TableShape::kList;
+  fBiggestTotal = 0;
+  fNeedsResort = fFilterHasChanged = true;
+  for (auto* row : fRows.All()) {
+    row->DropTotals();
+    row->SetStanding({});
+    row->SetChanged(true);
+  }
 }
 
 KeyId vqMainTableController::treeColumn() const {
@@ -192,13 +196,16 @@ void vqMainTableController::keepPlace(const std::function<void()>& change) {
   const int kept = placeInSight(focused) ? focused.row() : std::max(fTable->rowAt(0), 0);
   const auto* row = fRows.Shown()[static_cast<std::size_t>(kept)];
   const int before = fTable->rowViewportPosition(kept);
-  const QPersistentModelIndex anchor = index(kept, 0);
   change();
-  if (!anchor.isValid() || fRows.Shown()[static_cast<std::size_t>(anchor.row())] != row) return;
+  // It may have gone.
+  const auto after = std::ranges::find(fRows.Shown(), row);
+  if (after == fRows.Shown().end()) return;
   // So that there is room to scroll to.
   fTable->doItemsLayout();
   auto& bar = *fTable->verticalScrollBar();
-  bar.setValue(bar.value() + fTable->rowViewportPosition(anchor.row()) - before);
+  bar.setValue(bar.value() +
+               fTable->rowViewportPosition(static_cast<int>(after - fRows.Shown().begin())) -
+               before);
 }
 
 // ---- Scope --------------------------------------------------------------------------------------

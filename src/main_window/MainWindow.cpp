@@ -51,11 +51,7 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   mController->awakeFromNib(*this, *mTable);
   mMenus = std::make_unique<MainMenus>(
       *this, *mController, CommandScope{mController->processCommands(), *this, commands});
-  AddSwitcher("switch_shape",
-              {"menu_view_shape_list", "menu_view_shape_tree", "menu_view_shape_applications"});
-  AddSwitcher("switch_scope",
-              {"menu_scope_all", "menu_scope_mine", "menu_scope_others", "menu_scope_applications",
-               "menu_scope_without_kernel", "menu_scope_busy"});
+  BuildSwitchers();
   ShowArrangement();
   connect(mController.get(), &vqMainTableController::arrangementChanged, this,
           &MainWindow::ShowArrangement);
@@ -108,6 +104,10 @@ void MainWindow::BuildContents() {
   layout->addWidget(mTable);
   setCentralWidget(contents);
   mCounts = AddLabel(*statusBar(), 1);
+  // Where the texts of the table's first column begin; what does not fit the window is no reason to
+  // make it wider, and stands in the tooltip.
+  mCounts->setContentsMargins(TextCell::kWidthBesideText / 2, 0, 0, 0);
+  mCounts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   mHelper = AddLabel(*statusBar(), 0);
   // A message takes the place of the counts alone.
   statusBar()->removeWidget(mHelper);
@@ -127,32 +127,6 @@ void MainWindow::BuildContents() {
   }
   connect(mFilterBar, &FilterBar::left, mTable, [this] { mTable->setFocus(); });
   mTable->setFocus();
-}
-
-void MainWindow::AddSwitcher(const char* name, const std::vector<const char*>& commands) {
-  auto* box = new QComboBox(mFilterBar);
-  box->setAccessibleName(LocalizedString(name));
-  box->setToolTip(LocalizedString(name));
-  for (const char* text : commands)
-    box->addItem(LocalizedString(text).remove(QLatin1Char('&')), QByteArray(text));
-  connect(box, &QComboBox::activated, this, [this, box](int item) {
-    const auto text = box->itemData(item).toByteArray();
-    FindCommand(text.constData())->run({mController->processCommands(), *this, mCommands});
-  });
-  mFilterBar->addControl(*box);
-  mSwitchers.push_back(box);
-}
-
-void MainWindow::ShowArrangement() {
-  const CommandScope scope{mController->processCommands(), *this, mCommands};
-  for (auto* box : mSwitchers)
-    for (int item = 0; item < box->count(); ++item) {
-      const auto text = box->itemData(item).toByteArray();
-      if (FindCommand(text.constData())->isChecked(scope)) box->setCurrentIndex(item);
-    }
-  setWindowTitle(
-      LocalizedString(mController->isPaused() ? "main_window_title_paused" : "main_window_title"));
-  UpdateStatus();
 }
 
 // ---- Commands -----------------------------------------------------------------------------------

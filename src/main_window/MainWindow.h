@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QMainWindow>
@@ -16,6 +15,8 @@
 #include "platform/Alerts.h"
 #include "platform/ProcessIdentity.h"
 #include "windows/StripedTableView.h"
+
+class QToolButton;
 
 namespace lurkwell {
 
@@ -73,6 +74,12 @@ class MainWindow : public QMainWindow, private WindowCommands {
   TableShape shape() const override { return mController->shape(); }
   void setScope(TableScope scope) override { mController->setScope(scope); }
   TableScope scope() const override { return mController->scope(); }
+  void showColumnSet(int place) override { mController->showColumnSet(place); }
+  int shownColumnSet() const override { return mController->columnSets().Shown(); }
+  void saveColumnSetAs() override;
+  void renameColumnSet() override;
+  void deleteColumnSet() override;
+  void restoreColumnSet() override;
   void foldAll(bool folded) override { mController->foldAll(folded); }
   void setPaused(bool paused) override { mController->setPaused(paused); }
   bool isPaused() const override { return mController->isPaused(); }
@@ -84,8 +91,9 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void showHelp() override;
 
   void BuildContents();
-  /// Lets the user choose one of the commands of a kind beside the filter.
-  void AddSwitcher(const char* name, const std::vector<const char*>& commands);
+  void BuildSwitchers();
+  /// Empty when the user has given none.
+  QString AskForColumnSetTitle(const char* title, const QString& first, int place);
   void ShowArrangement();
   void RestoreFrame();
   /// Shows a text in the status line for a while.
@@ -102,7 +110,13 @@ class MainWindow : public QMainWindow, private WindowCommands {
   std::unique_ptr<vqMainTableController> mController;
   StripedTableView* mTable = nullptr;
   FilterBar* mFilterBar = nullptr;
-  std::vector<QComboBox*> mSwitchers;
+  /// A button of the status line that opens one of the menus, and says what is chosen there.
+  struct Switcher {
+    QToolButton* button;
+    const char* name;
+    QMenu* menu;
+  };
+  std::vector<Switcher> mSwitchers;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
   QLabel* mRecording = nullptr;

@@ -46,6 +46,8 @@ struct SelectionFacts {
   bool anyGoing = false;
   /// Rows stand below others.
   bool isTree = false;
+  /// The set of columns that is shown is one of the user's own.
+  bool isOwnColumnSet = false;
 };
 
 /// What can be done to the selected processes. Questions are asked where they must be, and what

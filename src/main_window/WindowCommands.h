@@ -24,6 +24,14 @@ class WindowCommands {
   virtual TableShape shape() const = 0;
   virtual void setScope(TableScope scope) = 0;
   virtual TableScope scope() const = 0;
+  /// Sets of columns by their places, see ColumnSets; the last four are about the one that is
+  /// shown.
+  virtual void showColumnSet(int place) = 0;
+  virtual int shownColumnSet() const = 0;
+  virtual void saveColumnSetAs() = 0;
+  virtual void renameColumnSet() = 0;
+  virtual void deleteColumnSet() = 0;
+  virtual void restoreColumnSet() = 0;
   /// Folds or unfolds every row that has others below.
   virtual void foldAll(bool folded) = 0;
   virtual void setPaused(bool paused) = 0;

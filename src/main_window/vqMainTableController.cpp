@@ -73,8 +73,9 @@ class vqMainTableController::FilteredRow final : public QuerySubject {
 
 vqMainTableController::vqMainTableController() {
   fInfoSynchronizer = new VQTarvMainWindowInfoSynch(ReadInt("MAIN_WINDOW_INTERVAL"), *this);
-  fLayout.Read();
-  fShape = static_cast<TableShape>(std::clamp(ReadInt("MAIN_WINDOW_SHAPE"), 0, 2));
+  const auto contents = fSets.Read(fSets.Shown());
+  fLayout.Take(contents);
+  fShape = contents.shape;
   fScope = static_cast<TableScope>(std::clamp(ReadInt("MAIN_WINDOW_SCOPE"), 0, kScopeCount - 1));
   fFollowsSelection = ReadSwitch("MAIN_WINDOW_FOLLOWS_SELECTION");
   readWhatIsNeeded();
@@ -171,7 +172,11 @@ void vqMainTableController::commitChanges() {
     if (std::exchange(fFactsHaveChanged, false)) Q_EMIT contentsChanged();
     return;
   }
-  arrangeRows();
+  if (std::exchange(fKeepsPlaceOnce, false)) {
+    keepPlace([this] { arrangeRows(); });
+  } else {
+    arrangeRows();
+  }
   fFactsHaveChanged = false;
   Q_EMIT contentsChanged();
 }
@@ -467,6 +472,9 @@ QVariant vqMainTableController::headerData(int section, Qt::Orientation orientat
   // A title has no room above a picture; the tooltip begins with it.
   const bool isPicture = column.key == kInternalIcon || column.key == kInternalIndicator;
   if (role == Qt::AccessibleTextRole) return ColumnTitle(key.c_str());
+  // A title stands above its figures.
+  if (role == Qt::TextAlignmentRole && column.rightAligned)
+    return QVariant(Qt::Alignment(Qt::AlignVCenter | Qt::AlignRight));
   if (role == Qt::DisplayRole) return isPicture ? QString() : ColumnTitle(key.c_str());
   if (role == Qt::ToolTipRole)
     return QString(ColumnTitle(key.c_str()) + QLatin1Char('\n') + ColumnTip(key.c_str()));

@@ -12,6 +12,7 @@
 
 #include "consolidator/TypedValue.h"
 #include "main_window/ColumnLayout.h"
+#include "main_window/ColumnSets.h"
 #include "main_window/CommandTable.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/ProcessCommands.h"
@@ -51,8 +52,8 @@ class vqMainTableController final : public vqTableController,
 
   /// Takes its view and window, builds columns and toolbar, and sorts as last time. Once.
   void awakeFromNib(QMainWindow& window, StripedTableView& table);
-  /// At a first start, whose columns are the usual ones, names get the room that a window of that
-  /// width has left.
+  /// While nothing is remembered of the columns, the longest texts get the room that a window of
+  /// that width has left.
   void fillWidth(int width);
 
   // ---- The window's life ------------------------------------------------------------------------
@@ -135,8 +136,23 @@ class vqMainTableController final : public vqTableController,
   /// Right behind `afterKey` when that is shown, else at the end; nothing when it is shown already.
   void addToKeysWeTrackForUI(KeyId key, KeyId afterKey = kNoKey);
   void removeFromKeysWeTrackForUI(KeyId key);
-  /// Keys, widths, directions and the sort column, as they stand on the screen.
+  /// Keys, widths, directions and the sort column, as they stand on the screen, and the shape: into
+  /// the set that is shown.
   void saveColumnPrefs() override;
+
+  // ---- Sets of columns --------------------------------------------------------------------------
+
+  const ColumnSets& columnSets() const { return fSets; }
+  /// What was changed is kept by the set that was shown; nothing for a place that there is not.
+  /// What is selected stays in sight.
+  void showColumnSet(int place);
+  /// Makes an own set of what is shown, and shows that.
+  void saveColumnSetAs(const QString& title);
+  void renameColumnSet(const QString& title);
+  /// The own set that is shown goes, and the first one comes.
+  void deleteColumnSet();
+  /// The set that is shown becomes what it was when it came with the program.
+  void restoreColumnSet();
 
   // ---- Sorting and selection --------------------------------------------------------------------
 
@@ -169,6 +185,7 @@ class vqMainTableController final : public vqTableController,
   SelectionFacts selectionFacts() const {
     auto facts = fCommands.Facts();
     facts.isTree = fShape != TableShape::kList;
+    facts.isOwnColumnSet = fSets.IsOwn(fSets.Shown());
     return facts;
   }
   static bool validateMenuItem(const Command& command, const SelectionFacts& facts) {
@@ -198,8 +215,10 @@ class vqMainTableController final : public vqTableController,
   void updated();
   /// The number of rows, or of selected ones, may be another one.
   void contentsChanged();
-  /// The shape or the scope is another one.
+  /// The shape, the scope, the set of columns or its title is another one.
   void arrangementChanged();
+  /// There are other columns, or the same in another order.
+  void columnsChanged();
   /// What became of a command, to be said in passing.
   void reported(const QString& text);
 
@@ -293,6 +312,9 @@ class vqMainTableController final : public vqTableController,
     return fShape != TableShape::kList && column.key == treeColumn();
   }
   QString spokenStanding(const RowDictionary& row) const;
+  /// Has the columns of the set that is shown, and its shape.
+  void takeColumnSet();
+  void changeShape(TableShape shape);
   void setupToolbar(QMainWindow& window);
   void adoptScreenLayout();
   int widthForColumn(KeyId key, const QString& title) const;
@@ -318,6 +340,7 @@ class vqMainTableController final : public vqTableController,
 
   VQTarvMainWindowInfoSynch* fInfoSynchronizer = nullptr;
   ProcessRows fRows{*this};
+  ColumnSets fSets;
   ColumnLayout fLayout;
   std::vector<Column> fColumns;
   std::vector<std::int32_t> fRememberedSelectionPIDs;
@@ -334,6 +357,7 @@ class vqMainTableController final : public vqTableController,
   bool fStandingHasChanged = false;
   bool fFilterHasChanged = false;
   bool fFactsHaveChanged = false;
+  bool fKeepsPlaceOnce = false;
   bool fNeedsResort = false;
   bool fCommitIsQueued = false;
   std::unordered_set<const QObject*> fHolders;

@@ -142,6 +142,8 @@ inline constexpr Setting kRows[] = {
     Switch("vqMainTableToolbarIdentifierTarvikTemp14_SHOWN", true, kNextStart),
     Record("MAIN_WINDOW_SORT_COLUMN_INDEX", 1),
     Array("MAIN_WINDOW_COLUMNS"),
+    Array("MAIN_WINDOW_COLUMN_SETS"),
+    Record("MAIN_WINDOW_COLUMN_SET", kAbsent),
     Text("MAIN_WINDOW_RECENT_FILTERS", kAtOnce),
     Choice("MAIN_WINDOW_SHAPE", 0, 2, kNextStart),
     Choice("MAIN_WINDOW_SCOPE", 0, 5, kNextStart),

@@ -30,6 +30,12 @@ bool TableHeader::HasRoomForArrow(const QRect& rect, int logicalIndex) const {
   return !title.isEmpty() && widthForTitle(title) <= rect.width();
 }
 
+void TableHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const {
+  QHeaderView::initStyleOptionForIndex(option, logicalIndex);
+  // Above the figures' last digits, not beside the next title.
+  if ((option->textAlignment & Qt::AlignRight) != 0) option->text += QChar(QChar::Nbsp);
+}
+
 void TableHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
   const bool isSorted = isSortIndicatorShown() && sortIndicatorSection() == logicalIndex;
   if (!isSorted || HasRoomForArrow(rect, logicalIndex))

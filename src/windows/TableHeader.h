@@ -16,6 +16,7 @@ class TableHeader final : public QHeaderView {
   int widthForTitle(const QString& title) const;
 
  protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
   void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
  private:

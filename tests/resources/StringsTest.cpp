@@ -112,7 +112,7 @@ TEST(StringsTest, EachMenuItemHasALetterOfItsOwnInItsMenu) {
     EXPECT_FALSE(lettersOfMenu[menu].contains(letter)) << qPrintable(menu + ": " + text);
     lettersOfMenu[menu].insert(letter);
   }
-  EXPECT_EQ(lettersOfMenu.size(), 10);
+  EXPECT_EQ(lettersOfMenu.size(), 11);
 }
 
 TEST(StringsTest, EveryIdThatTheSourceNamesHasAText) {
