@@ -283,6 +283,24 @@
         <source></source>
         <translation>The TCP ports on which the process waits for connections. From the kernel's socket diagnostics, by the process's descriptors; UDP and other network namespaces are left out. Of other users' processes it is not allowed.</translation>
     </message>
+    <message id="pid_ports">
+        <source></source>
+        <translation>Ports</translation>
+    </message>
+    <message id="pid_ports_tip">
+        <source></source>
+        <translation>The ports of the process’s TCP and UDP sockets: its own and those at the other ends.
+From its open descriptors and the tables of sockets in /proc/PID/net; of other users’ processes that is not allowed.</translation>
+    </message>
+    <message id="pid_open_files">
+        <source></source>
+        <translation>Open Files</translation>
+    </message>
+    <message id="pid_open_files_tip">
+        <source></source>
+        <translation>The names of the files that the process has open, and its working folder.
+From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not allowed.</translation>
+    </message>
     <message id="pid_unit_net_received">
         <source></source>
         <translation>Received (unit)</translation>
@@ -2441,7 +2459,7 @@
     </message>
     <message id="main_window_filter_tip">
         <source></source>
-        <translation>Shows only some processes, such as:&lt;br&gt;&lt;b&gt;ssh&lt;/b&gt; – with this in their ID or a text that is shown&lt;br&gt;&lt;b&gt;name:post&lt;/b&gt;, &lt;b&gt;user:root,mail&lt;/b&gt;, &lt;b&gt;name:/^k.*d$/&lt;/b&gt; – with this in one property&lt;br&gt;&lt;b&gt;mem&amp;gt;500M&lt;/b&gt;, &lt;b&gt;nice&amp;lt;0&lt;/b&gt;, &lt;b&gt;time&amp;gt;=1h&lt;/b&gt; – with more or less&lt;br&gt;&lt;b&gt;-sleep&lt;/b&gt; – without; &lt;b&gt;a b&lt;/b&gt; – both; &lt;b&gt;a | b&lt;/b&gt; – one of them</translation>
+        <translation>Shows only some processes, such as:&lt;br&gt;&lt;b&gt;ssh&lt;/b&gt; – with this in their ID or a text that is shown&lt;br&gt;&lt;b&gt;name:post&lt;/b&gt;, &lt;b&gt;user:root,mail&lt;/b&gt;, &lt;b&gt;name:/^k.*d$/&lt;/b&gt; – with this in one property&lt;br&gt;&lt;b&gt;mem&amp;gt;500M&lt;/b&gt;, &lt;b&gt;nice&amp;lt;0&lt;/b&gt;, &lt;b&gt;time&amp;gt;=1h&lt;/b&gt; – with more or less&lt;br&gt;&lt;b&gt;port:443&lt;/b&gt;, &lt;b&gt;file:/var/log&lt;/b&gt; – with a socket or a file open&lt;br&gt;&lt;b&gt;-sleep&lt;/b&gt; – without; &lt;b&gt;a b&lt;/b&gt; – both; &lt;b&gt;a | b&lt;/b&gt; – one of them</translation>
     </message>
     <message id="main_window_filter_hides_all">
         <source></source>
@@ -2526,6 +2544,22 @@
     <message id="scope_filter">
         <source></source>
         <translation>filter</translation>
+    </message>
+    <message id="filter_not_allowed">
+        <source></source>
+        <translation>not allowed: %1</translation>
+    </message>
+    <message id="filter_not_allowed_tip">
+        <source></source>
+        <translation>Other users’ processes that only an administrator may look into</translation>
+    </message>
+    <message id="filter_looks">
+        <source></source>
+        <translation>Looking into %1 processes…</translation>
+    </message>
+    <message id="filter_hides_all_not_allowed">
+        <source></source>
+        <translation>No process that may be looked into matches the filter; not allowed: %1. Escape takes the filter away.</translation>
     </message>
     <message id="switch_shape">
         <source></source>

@@ -2,15 +2,17 @@
 
 #include <algorithm>
 #include <compare>
+#include <iterator>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
 
 #include "consolidator/FamilyTree.h"
 #include "consolidator/ProcessQueries.h"
+#include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyValues.h"
 #include "consolidator/WholeNames.h"
-#include "platform/Clock.h"
+#include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "query/TextPattern.h"
 
@@ -18,6 +20,8 @@ namespace lurkwell {
 namespace {
 
 constexpr char kParent[] = "pid_parent_pid";
+constexpr double kPatienceInSeconds = 5;
+constexpr std::int32_t kTurnWhileWaiting = 50;
 
 class ListedSubject final : public QuerySubject {
  public:
@@ -63,7 +67,9 @@ ListingClient::ListingClient(ListingPlan plan, std::FILE* out)
     : ProcessInformationClient(nullptr, plan.intervalInMilliseconds),
       mPlan(std::move(plan)),
       mFormat(MakeListingFormat(mPlan.form, mPlan.columns, mPlan.isTree)),
-      mOut(out) {}
+      mOut(out) {
+  std::ranges::copy_if(mPlan.query.Properties(), std::back_inserter(mAwaited), IsReadInBackground);
+}
 
 ProcessInformationClient::NeedLevel ListingClient::NeedPidsForProcProperty(const char* property) {
   return NeedPidProcProperty(kInvalidPID, property) ? kNeedAllPids : kNeedNoPids;
@@ -121,6 +127,34 @@ std::vector<ListingClient::Candidate> ListingClient::AsTree(std::vector<Candidat
     tree.push_back(candidate);
   }
   return tree;
+}
+
+bool ListingClient::MustWait() {
+  if (mAwaited.empty()) return false;
+  const auto now = TheMachine().clock.Now();
+  if (!mFirstTurn) mFirstTurn = now;
+  std::size_t unknown = 0;
+  std::size_t refused = 0;
+  for (const auto pid : PidBlob(kPidBlobAll)) {
+    const auto lacks = [&](Missing why) {
+      return std::ranges::any_of(mAwaited, [&](const std::string& property) {
+        const auto value = GetPIDPropertyTypedValue(pid, property.c_str());
+        return std::holds_alternative<Missing>(value) && std::get<Missing>(value) == why;
+      });
+    };
+    if (lacks(Missing::kNotYetKnown)) ++unknown;
+    if (lacks(Missing::kNotAllowed)) ++refused;
+  }
+  if (unknown > 0 && InSeconds(now - *mFirstTurn) < kPatienceInSeconds) {
+    SetInterval(kTurnWhileWaiting);
+    return true;
+  }
+  SetInterval(mPlan.intervalInMilliseconds);
+  mAwaited.clear();
+  if (refused > 0)
+    Diagnose("not allowed to look into %zu of the processes, which are left out", refused);
+  if (unknown > 0) Diagnose("%zu of the processes could not be looked into in time", unknown);
+  return false;
 }
 
 void ListingClient::NotifyProcessesHaveBeenUpdated() {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "consolidator/ProcessInformationClient.h"
+#include "platform/Clock.h"
 #include "process_control/ListingFormat.h"
 #include "query/Query.h"
 
@@ -37,6 +38,9 @@ class ListingClient : public ProcessInformationClient {
   NeedLevel NeedPidsForProcProperty(const char* property) override;
   bool NeedPidProcProperty(int pid, const char* property) override;
   void NotifyProcessesHaveBeenUpdated() override;
+  /// Whether the first listing has to wait for what the query looks at and what is read in the
+  /// background, which it does for five seconds at most; asked once at each update.
+  bool MustWait();
   const char* TypeName() const override { return "ListingClient"; }
 
  private:
@@ -48,6 +52,9 @@ class ListingClient : public ProcessInformationClient {
   ListingPlan mPlan;
   std::unique_ptr<ListingFormat> mFormat;
   std::FILE* mOut;
+  /// Of the query, those that are read in the background.
+  std::vector<std::string> mAwaited;
+  std::optional<TimeValue> mFirstTurn;
 };
 
 }  // namespace lurkwell

@@ -72,6 +72,9 @@ class Watched : public Printer {
 
   void NotifyProcessesHaveBeenUpdated() override {
     if (mHooks.isPrinted && !mHooks.isPrinted()) return;
+    // What a recording lacks does not come.
+    if constexpr (requires { this->MustWait(); })
+      if (!mHooks.isPrinted && this->MustWait()) return;
     errno = 0;
     Printer::NotifyProcessesHaveBeenUpdated();
     mHooks.afterUpdate();

@@ -195,6 +195,11 @@ bool IsKnownProcProperty(const char* name) {
   return FindBuiltInProperty(name) != nullptr || FindPSHeader(name) >= 0;
 }
 
+bool IsReadInBackground(std::string_view name) {
+  const auto* row = FindBuiltInProperty(name);
+  return row != nullptr && (row->sources & kCostlyFigureSources) != 0;
+}
+
 int CountBuiltInProcPropertyHeaders() {
   return static_cast<int>(kRows.size());
 }

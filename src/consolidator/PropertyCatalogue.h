@@ -26,6 +26,9 @@ PropertyType GetProcPropertyType(const char* name, int* changes);
 /// Whether there is such a property, built-in or a ps column that was found at start-up.
 bool IsKnownProcProperty(const char* name);
 
+/// Whether its values come some time after they are asked for, from CostlyFigures.
+bool IsReadInBackground(std::string_view name);
+
 int CountBuiltInProcPropertyHeaders();
 
 /// The built-in properties and the ps columns together.

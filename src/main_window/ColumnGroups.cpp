@@ -67,10 +67,11 @@ constexpr Members kMembers[] = {
      "pid_disk_read_rate pid_disk_write_rate pid_disk_read pid_disk_written pid_read_rate "
      "pid_write_rate pid_bytes_read pid_bytes_written pid_syscalls_unix pid_unit_read_rate "
      "pid_unit_write_rate pid_unit_disk_read pid_unit_disk_written pid_descriptors WCBYTES ROPS "
-     "WOPS"},
+     "WOPS pid_open_files"},
     {kNetwork,
      "pid_net_receive_rate pid_net_send_rate pid_net_received pid_net_sent pid_connections "
-     "pid_listening_ports pid_unit_net_receive_rate pid_unit_net_send_rate pid_unit_net_received "
+     "pid_listening_ports pid_ports pid_unit_net_receive_rate pid_unit_net_send_rate "
+     "pid_unit_net_received "
      "pid_unit_net_sent"},
     {kGPU, "pid_gpu_share pid_gpu_memory pid_gpu_engine"},
     {kBelonging,

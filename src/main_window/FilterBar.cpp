@@ -58,14 +58,14 @@ FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
     : QWidget(parent),
       mOnQuery(std::move(onQuery)),
       mField(new QLineEdit(this)),
-      mError(new QLabel(this)) {
+      mWords(new QLabel(this)) {
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(mField, 1);
-  layout->addWidget(mError);
-  mError->setTextFormat(Qt::PlainText);
-  mError->setContentsMargins(6, 0, 6, 0);
-  mError->hide();
+  layout->addWidget(mWords);
+  mWords->setTextFormat(Qt::PlainText);
+  mWords->setContentsMargins(6, 0, 6, 0);
+  mWords->hide();
   mField->setPlaceholderText(LocalizedString("main_window_filter_placeholder"));
   mField->setToolTip(LocalizedString("main_window_filter_tip"));
   mField->setAccessibleName(LocalizedString("main_window_filter_placeholder"));
@@ -114,8 +114,20 @@ void FilterBar::takeText() {
 
 void FilterBar::tellError() {
   mPatience.stop();
-  mError->setText(mErrorWords);
-  mError->setVisible(!mErrorWords.isEmpty());
+  mIsErrorShown = !mErrorWords.isEmpty();
+  showWords();
+}
+
+void FilterBar::setRemark(const QString& text) {
+  if (text == mRemark) return;
+  mRemark = text;
+  showWords();
+}
+
+void FilterBar::showWords() {
+  mWords->setText(mIsErrorShown ? mErrorWords : mRemark);
+  mWords->setToolTip(mIsErrorShown ? QString() : LocalizedString("filter_not_allowed_tip"));
+  mWords->setVisible(!mWords->text().isEmpty());
 }
 
 void FilterBar::remember() {

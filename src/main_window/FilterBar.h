@@ -41,15 +41,19 @@ class FilterBar : public QWidget {
  private:
   void takeText();
   void tellError();
+  void showWords();
   void remember();
   void showLast();
 
   std::function<void(Query)> mOnQuery;
   QLineEdit* mField;
-  QLabel* mError;
+  /// What is wrong, or else what there is to say.
+  QLabel* mWords;
   /// A word is usually wrong until it has been typed to its end.
   QTimer mPatience;
   QString mErrorWords;
+  bool mIsErrorShown = false;
+  QString mRemark;
 };
 
 }  // namespace lurkwell

@@ -305,11 +305,22 @@ void MainWindow::UpdateStatus() {
                                          .arg(processes)
                                          .arg(what)
                                          .arg(selected));
-  QString empty;
-  if (processes > 0 && mController->rowCount() == 0)
-    empty = mController->isFiltered() ? LocalizedString("main_window_filter_hides_all")
-                                      : LocalizedString("main_window_scope_hides_all").arg(what);
-  mTable->setEmptyText(empty);
+  mCounts->setToolTip(mCounts->text());
+  const auto notAllowed = mController->filterGaps().notAllowed;
+  mFilterBar->setRemark(notAllowed > 0 ? LocalizedString("filter_not_allowed").arg(notAllowed)
+                                       : QString());
+  mTable->setEmptyText(processes > 0 && mController->rowCount() == 0 ? WhyNothingIsShown()
+                                                                     : QString());
+}
+
+QString MainWindow::WhyNothingIsShown() const {
+  const auto gaps = mController->filterGaps();
+  if (!mController->isFiltered())
+    return LocalizedString("main_window_scope_hides_all").arg(WhatIsShown());
+  if (gaps.notYetKnown > 0) return LocalizedString("filter_looks").arg(gaps.notYetKnown);
+  if (gaps.notAllowed > 0)
+    return LocalizedString("filter_hides_all_not_allowed").arg(gaps.notAllowed);
+  return LocalizedString("main_window_filter_hides_all");
 }
 
 // ---- Life ---------------------------------------------------------------------------------------

@@ -105,6 +105,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void UpdateStatus();
   QString WhatIsShown() const;
   QString HowItIsHeld() const;
+  QString WhyNothingIsShown() const;
 
   ApplicationCommands& mCommands;
   std::unique_ptr<vqMainTableController> mController;

@@ -5,9 +5,12 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
+#include <iterator>
 
 #include "consolidator/Applications.h"
 #include "consolidator/PI_Consolidator.h"
+#include "consolidator/PropertyCatalogue.h"
+#include "consolidator/PropertyValues.h"
 #include "main_window/ColumnGroups.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/Assertion.h"
@@ -224,12 +227,36 @@ compareContextStructure vqMainTableController::sortContext() const {
 
 void vqMainTableController::setFilter(Query query) {
   const bool looksAtMore = !query.Properties().empty();
+  const bool waits = std::ranges::any_of(query.Properties(), IsReadInBackground);
   fFilter = std::move(query);
   fFilterHasChanged = true;
   for (auto* row : fRows.All()) row->isFoldedInFilter = false;
   fTree.ForgetFoldsOfGroupsInFilter();
   commitChanges();
   if (looksAtMore) updateNow();
+  // What comes from the background is there long before the next turn.
+  if (waits)
+    for (const int milliseconds : {150, 600})
+      QTimer::singleShot(milliseconds, this, &vqMainTableController::updateNow);
+}
+
+vqMainTableController::FilterGaps vqMainTableController::filterGaps() const {
+  FilterGaps gaps;
+  std::vector<std::string> properties;
+  std::ranges::copy_if(fFilter.Properties(), std::back_inserter(properties), IsReadInBackground);
+  if (properties.empty()) return gaps;
+  for (const auto* row : fRows.All()) {
+    if (row->isDeparted || !isInScope(*row)) continue;
+    for (const auto& property : properties) {
+      const auto value = GetPIDPropertyTypedValue(row->Pid(), property.c_str());
+      const auto* why = std::get_if<Missing>(&value);
+      if (why == nullptr) continue;
+      if (*why == Missing::kNotAllowed) ++gaps.notAllowed;
+      if (*why == Missing::kNotYetKnown) ++gaps.notYetKnown;
+      if (*why != Missing::kNone) break;
+    }
+  }
+  return gaps;
 }
 
 bool vqMainTableController::needsProperty(const char* key) const {

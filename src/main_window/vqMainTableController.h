@@ -112,6 +112,13 @@ class vqMainTableController final : public vqTableController,
   TableScope scope() const { return fScope; }
   void setScope(TableScope scope);
   bool isFiltered() const { return !fFilter.IsEmpty(); }
+  /// Of how many processes in the scope the filter does not know what it looks at, since it may not
+  /// be read, or has not been yet. Counts what is read in the background alone.
+  struct FilterGaps {
+    std::size_t notAllowed = 0;
+    std::size_t notYetKnown = 0;
+  };
+  FilterGaps filterGaps() const;
   /// Processes that scope and filter take, in sight or below a folded row.
   std::size_t countOfMatches() const;
   /// Folds or unfolds a row and, with `all`, everything below it; nothing where nothing is below.

@@ -29,14 +29,17 @@ enum FigureSource : unsigned {
   kFromSockets = 1 << 18,          ///< TCP, by descriptors; the owner's and root's alone
   kFromUnitSockets = 1 << 19,      ///< TCP of all that its control group has made
   kFromGraphics = 1 << 20,         ///< graphics devices; the owner's and root's alone
+  kFromPorts = 1 << 21,            ///< TCP and UDP, by descriptors; the owner's and root's alone
+  kFromOpenFiles = 1 << 22,        ///< names of open files; the owner's and root's alone
 };
 /// Any of them together.
 using FigureSources = unsigned;
 /// All that the process table reads.
 inline constexpr FigureSources kAllFigureSources = 32767;
 /// All that is read in the background.
-inline constexpr FigureSources kCostlyFigureSources =
-    kFromMemoryMap | kFromDescriptorCount | kFromSockets | kFromUnitSockets | kFromGraphics;
+inline constexpr FigureSources kCostlyFigureSources = kFromMemoryMap | kFromDescriptorCount |
+                                                      kFromSockets | kFromUnitSockets |
+                                                      kFromGraphics | kFromPorts | kFromOpenFiles;
 
 /// Those that mostly stay what they are: read when the process becomes known, when it becomes
 /// another program, and ten seconds later at the earliest if it has run, a minute if it has not.

@@ -220,6 +220,9 @@ inline constexpr FigureRow kRows[] = {
     {"pid_gpu_memory", kBytes, kNoGroup, Single(kFromGraphics)},
     Text("pid_gpu_engine", Single(kFromGraphics)),
 
+    Text("pid_ports", Single(kFromPorts)),
+    Text("pid_open_files", Single(kFromOpenFiles)),
+
     Text("pid_cgroup", Single(kFromGroup)),
     Text("pid_unit", Single(kFromGroup)),
     Text("pid_slice", Single(kFromGroup)),

@@ -1,16 +1,19 @@
 #include "query/Query.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <optional>
 
 #include "platform/Clock.h"
+#include "query/QueryKeys.h"
 
 namespace lurkwell {
 namespace {
 
 /// Fractions are shown with one digit behind the point, and looked for as they are shown.
 constexpr double kHalfOfLastDigit = 0.05;
+constexpr std::string_view kBetweenNumbers = ", ";
 
 std::optional<double> NumberIn(const TypedValue& value) {
   if (const auto* number = std::get_if<std::int64_t>(&value)) return static_cast<double>(*number);
@@ -23,6 +26,22 @@ std::optional<std::string> TextIn(const TypedValue& value) {
   if (const auto* text = std::get_if<std::string>(&value)) return *text;
   if (const auto* number = std::get_if<std::int64_t>(&value)) return std::to_string(*number);
   return std::nullopt;
+}
+
+/// A process that has no unit is not of the unit that is asked for.
+std::optional<std::string> TextOrNothing(const TypedValue& value) {
+  const auto* why = std::get_if<Missing>(&value);
+  return why != nullptr && *why == Missing::kNone ? std::string() : TextIn(value);
+}
+
+/// Calls `take` with what stands between the separators.
+template <typename Take>
+void ForEachPart(std::string_view text, std::string_view separator, Take take) {
+  while (!text.empty()) {
+    const auto end = std::min(text.find(separator), text.size());
+    take(text.substr(0, end));
+    text.remove_prefix(std::min(end + separator.size(), text.size()));
+  }
 }
 
 }  // namespace
@@ -48,6 +67,28 @@ bool Query::Term::Compares(double value, bool isFraction) const {
   return false;
 }
 
+bool Query::Term::ComparesOneIn(std::string_view text) const {
+  const bool isNot = comparison == Comparison::kIsNot;
+  bool holds = isNot;
+  ForEachPart(text, kBetweenNumbers, [&](std::string_view part) {
+    double number = 0;
+    std::from_chars(part.data(), part.data() + part.size(), number);
+    // "Is not 80" holds when none is.
+    holds = isNot ? holds && Compares(number, false) : holds || Compares(number, false);
+  });
+  return holds;
+}
+
+bool Query::Term::MatchesOneIn(std::string_view text, std::string_view separator) const {
+  bool matches = false;
+  ForEachPart(text, separator, [&](std::string_view part) {
+    matches = matches || std::ranges::any_of(patterns, [part](const TextPattern& pattern) {
+                return pattern.Matches(part);
+              });
+  });
+  return matches != (comparison == Comparison::kIsNot);
+}
+
 std::optional<bool> Query::Term::Verdict(const QuerySubject& subject) const {
   const auto anyPattern = [this](const auto& matches) {
     return std::ranges::any_of(patterns, matches) != (comparison == Comparison::kIsNot);
@@ -55,13 +96,17 @@ std::optional<bool> Query::Term::Verdict(const QuerySubject& subject) const {
   if (property.empty())
     return anyPattern([&](const TextPattern& pattern) { return subject.ShowsTextLike(pattern); });
   const TypedValue value = subject.ValueOf(property);
+  if (const auto listed = ListedIn(property); listed != ListedValues::kNone) {
+    const auto text = TextOrNothing(value);
+    if (!text) return std::nullopt;
+    if (!numbers.empty()) return ComparesOneIn(*text);
+    return MatchesOneIn(*text, listed == ListedValues::kNumbers ? kBetweenNumbers : "\n");
+  }
   if (!numbers.empty()) {
     const auto number = NumberIn(value);
     if (number) return Compares(*number, std::holds_alternative<double>(value));
   } else {
-    // A process that has no unit is not of the unit that is asked for.
-    const auto* why = std::get_if<Missing>(&value);
-    const auto text = why != nullptr && *why == Missing::kNone ? std::string() : TextIn(value);
+    const auto text = TextOrNothing(value);
     if (text) return anyPattern([&](const TextPattern& pattern) { return pattern.Matches(*text); });
   }
   return std::nullopt;

@@ -56,6 +56,7 @@ struct QueryError {
 ///     cpu>5  mem>=500M  time<1h  started>2026-01-31
 ///     user:root,mail         one of several
 ///     -sleep  -user:root     not
+///     port:443  file:/var/log  one of its sockets, one of its open files
 ///     a b                    both;  a | b   one of them, which binds less
 ///     "two words"            what would mean something else
 ///
@@ -103,6 +104,9 @@ struct Query::Term {
 
  private:
   bool Compares(double value, bool isFraction) const;
+  /// The same of a text with several values, of which one has to.
+  bool ComparesOneIn(std::string_view text) const;
+  bool MatchesOneIn(std::string_view text, std::string_view separator) const;
   /// Whether it holds, apart from the negation; nothing where the value is missing.
   std::optional<bool> Verdict(const QuerySubject& subject) const;
 };

@@ -85,6 +85,9 @@ constexpr QueryKey kKeys[] = {
     {"cgroup", "pid_cgroup"},
     {"container", "pid_container"},
     {"label", "pid_label"},
+    {"port", "pid_ports"},
+    {"listens", "pid_listening_ports"},
+    {"file", "pid_open_files"},
 };
 
 bool IsSame(std::string_view a, std::string_view b) {
@@ -101,6 +104,11 @@ std::optional<std::string> PropertyOfQueryKey(std::string_view word) {
   for (const auto& name : AllPropertyNames())
     if (IsSame(name, word)) return name;
   return std::nullopt;
+}
+
+ListedValues ListedIn(std::string_view property) {
+  if (property == "pid_ports" || property == "pid_listening_ports") return ListedValues::kNumbers;
+  return property == "pid_open_files" ? ListedValues::kLines : ListedValues::kNone;
 }
 
 std::string NearQueryKeys(std::string_view word) {

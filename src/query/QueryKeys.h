@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -18,6 +19,10 @@ std::string NearNames(std::string_view word, std::span<const std::string> names)
 /// The property that a query means by `word`: one of the short words, the name of a property, or
 /// the header of a ps column, in any case. Nothing when there is none. Main thread.
 std::optional<std::string> PropertyOfQueryKey(std::string_view word);
+
+/// Properties whose text has several values, each of which a condition looks at.
+enum class ListedValues : std::uint8_t { kNone, kNumbers, kLines };
+ListedValues ListedIn(std::string_view property);
 
 /// The words and names that come nearest to what was typed, separated by commas; empty when none
 /// does.

@@ -45,6 +45,11 @@ std::optional<Scale> ScaleOf(PropertyType type) {
   return std::nullopt;
 }
 
+std::optional<Scale> ScaleOf(const std::string& property) {
+  if (ListedIn(property) == ListedValues::kNumbers) return Scale::kPlain;
+  return ScaleOf(GetProcPropertyType(property.c_str(), nullptr));
+}
+
 std::string ExampleOf(Scale scale) {
   switch (scale) {
     case Scale::kPlain:
@@ -209,7 +214,7 @@ class QueryReader {
     term.property = *property;
     if (std::ranges::find(mQuery.mProperties, *property) == mQuery.mProperties.end())
       mQuery.mProperties.push_back(*property);
-    const auto scale = ScaleOf(GetProcPropertyType(property->c_str(), nullptr));
+    const auto scale = ScaleOf(*property);
     const bool isOrder = term.comparison >= kLess;
     if (isOrder && !scale) {
       Fail(Kind::kTextIsNotCompared, keyAt, mAt - keyAt, key, std::string(key) + ":part");
@@ -288,12 +293,20 @@ class QueryReader {
     return std::nullopt;
   }
 
+  /// "file:/var/log/" is what people write who mean a folder.
+  static bool IsFolder(const Term& term, std::string_view text) {
+    return ListedIn(term.property) == ListedValues::kLines &&
+           text.find_first_of("^$.*+?()[]{}|\\") == text.npos;
+  }
+
   bool AddPattern(Term& term, const Written& written, bool isWhole) {
     std::string complaint = "it is no UTF-8";
     const std::string text = written.form == Written::Form::kBare && term.property == kState
                                  ? StateNamed(written.text)
                                  : written.text;
-    auto pattern = written.form == Written::Form::kExpression
+    const bool isFolder = written.form == Written::Form::kExpression && IsFolder(term, text);
+    auto pattern = isFolder ? TextPattern::Part('/' + text + '/')
+                   : written.form == Written::Form::kExpression
                        ? TextPattern::Expression(text, complaint)
                    : isWhole ? TextPattern::Whole(text)
                              : TextPattern::Part(text);

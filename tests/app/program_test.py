@@ -12,7 +12,9 @@ import re
 import resource
 import shutil
 import signal
+import socket
 import subprocess
+import tempfile
 import time
 import unittest
 
@@ -51,9 +53,9 @@ class Program(Desktop):
         out, errors = process.communicate(timeout=60)
         return process.returncode, out, errors
 
-    def child(self, *command):
+    def child(self, *command, **options):
         child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stdin=subprocess.PIPE,
-                                 start_new_session=True)
+                                 start_new_session=True, **options)
         self.addCleanup(child.wait)
         self.addCleanup(os.killpg, child.pid, signal.SIGKILL)
         self.addCleanup(child.stdin.close)
@@ -260,6 +262,18 @@ class Printing(Program):
                                     "--columns=mem", "--format=csv", "--filter=mem>0")
         sizes = [int(row["pid_rsz"]) for row in csv.DictReader(out.splitlines())]
         self.assertEqual((len(sizes), sizes), (3, sorted(sizes, reverse=True)))
+
+    def test_finds_by_port_and_by_open_file(self):
+        with socket.create_server(("127.0.0.1", 0)) as listener, \
+                tempfile.NamedTemporaryFile(suffix=", held") as file:
+            child = self.child("sh", "-c", "read line", pass_fds=[listener.fileno(), file.fileno()])
+            for query in (f"port:{listener.getsockname()[1]}", f"listens:{listener.getsockname()[1]}",
+                          f'file="{file.name}"'):
+                status, out, errors = self.run_to_end(
+                    "--print", "--count=1", "--format=csv", "--columns=name", "--filter", query)
+                self.assertEqual(status, 0, errors)
+                found = [int(row["pid"]) for row in csv.DictReader(out.splitlines())]
+                self.assertEqual(found, sorted([os.getpid(), child.pid], reverse=True), query)
 
     def test_without_a_home_it_still_prints(self):
         for name in "HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR":

@@ -186,5 +186,50 @@ TEST_F(CommandsTest, FindByIdTakesWholeNumbersOfLiveProcesses) {
             QStringList({"There is no process 9999.", noNumber, noNumber, noNumber, noNumber}));
 }
 
+TEST_F(CommandsTest, AFilterSaysWhatItCouldNotLookInto) {
+  machine.processTable.TellFigures(true);
+  const auto open = [&](int pid, const char* owner, const char* files, const char* ports) {
+    auto& process = *machine.processTable.Find(pid);
+    process.owner = owner;
+    process.texts.Set(FigureCalled("pid_open_files"), files);
+    process.texts.Set(FigureCalled("pid_ports"), ports);
+  };
+  OpenWith({300, 301, 302});
+  open(300, "user", "/dev/null\n/var/log/a", "22, 443");
+  open(301, "user", "/var/logs", "4430");
+  open(302, "root", "/var/log/b", "443");
+  const auto counts = [this] {
+    for (const auto* label : window->statusBar()->findChildren<QLabel*>())
+      if (label->text().contains(QLatin1String(" of "))) return label->text().toStdString();
+    return std::string();
+  };
+  const auto remark = [this] {
+    return window->findChild<FilterBar*>()->findChild<QLabel*>()->text().toStdString();
+  };
+  machine.costlyFigures.isBusy = true;
+  Filter("port:443");
+  Turn();
+  EXPECT_EQ(Pids(), "");
+  EXPECT_NE(counts().find("0 of 5"), std::string::npos) << counts();
+  machine.costlyFigures.isBusy = false;
+  // Nobody waits for the interval.
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Turn(1), Pids() == "300"; }, 1500)) << Pids();
+  EXPECT_EQ(counts(), "1 of 5 processes: filter; 0 selected");
+  EXPECT_EQ(remark(), "not allowed: 1");
+  Filter("file:/var/log/");
+  Turn();
+  Turn();
+  EXPECT_EQ(Pids(), "300");
+  Filter("-port:443");
+  Turn();
+  EXPECT_EQ(Pids(), "1 301") << "what may not be looked into is not without it";
+  Filter("");
+  EXPECT_EQ(remark(), "");
+  machine.log.Clear();
+  Turn(4000);
+  EXPECT_EQ(machine.log.Take().find("CostlyFigures.Ask"), std::string::npos)
+      << "nothing is read for a filter that has gone";
+}
+
 }  // namespace
 }  // namespace lurkwell

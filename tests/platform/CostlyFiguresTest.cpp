@@ -205,6 +205,71 @@ TEST(CostlyFigures, TellWhatTwoProcessesHaveSentEachOther) {
   EXPECT_EQ(sent->figures.GetText(FigureCalled("pid_listening_ports")), "");
 }
 
+TEST(CostlyFigures, TellWhatAProcessHasOpen) {
+  ASSERT_EQ(::geteuid(), 0u);
+  const TemporaryFolder folder;
+  const std::string file = folder.Path() + "/held";
+  WriteFile(file, "x");
+  const int tcp = Listen(), udp = Listen(SOCK_DGRAM);
+  const auto port = [](int socket) { return std::to_string(ntohs(AddressOf(socket).sin_port)); };
+  const auto has = [](const std::optional<CostlyReading>& reading, Figure figure,
+                      const std::string& separator, const std::string& part) {
+    const auto text = separator + (reading ? reading->figures.GetText(figure) : "") + separator;
+    return text.find(separator + part + separator) != std::string::npos;
+  };
+  constexpr Figure kPorts = FigureCalled("pid_ports"), kFiles = FigureCalled("pid_open_files");
+  const Child holder([&] {
+    EXPECT_GE(::open(file.c_str(), O_RDONLY), 0);
+    EXPECT_EQ(::chdir(folder.Path().c_str()), 0);
+  });
+  const Child other([&] {
+    ::close(tcp);
+    ConnectTo(AddressOf(udp), SOCK_DGRAM);
+    ::close(udp);
+  });
+  // A network of its own has its own ports; the numbers of its sockets are nobody else's.
+  const Child elsewhere([&] {
+    ::close(tcp);
+    ::close(udp);
+    ASSERT_EQ(::unshare(CLONE_NEWNET), 0);
+    const int listener = ::socket(AF_INET6, SOCK_STREAM, 0);
+    sockaddr_in6 address{};
+    address.sin6_family = AF_INET6;
+    address.sin6_port = htons(4711);
+    EXPECT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    EXPECT_EQ(::listen(listener, 8), 0);
+  });
+  LinuxCostlyFigures figures;
+  const auto ports = ReadingOf(figures, holder.Pid(), kFromPorts);
+  EXPECT_TRUE(has(ports, kPorts, ", ", port(tcp)));
+  EXPECT_TRUE(has(ports, kPorts, ", ", port(udp)));
+  const auto remote = ReadingOf(figures, other.Pid(), kFromPorts);
+  EXPECT_TRUE(has(remote, kPorts, ", ", port(udp))) << "at the other end";
+  EXPECT_FALSE(has(remote, kPorts, ", ", port(tcp)));
+  const auto foreign = ReadingOf(figures, elsewhere.Pid(), kFromPorts);
+  ASSERT_TRUE(foreign);
+  EXPECT_EQ(foreign->figures.GetText(kPorts), "4711");
+
+  const auto files = ReadingOf(figures, holder.Pid(), kFromOpenFiles);
+  EXPECT_TRUE(has(files, kFiles, "\n", file));
+  EXPECT_TRUE(has(files, kFiles, "\n", folder.Path())) << "where it works";
+  EXPECT_FALSE(has(ReadingOf(figures, other.Pid(), kFromOpenFiles), kFiles, "\n", file));
+  EXPECT_EQ(RunForked([&]() -> std::string {
+              BecomeUser(kStranger);
+              LinuxCostlyFigures its;
+              for (const auto source : {kFromPorts, kFromOpenFiles}) {
+                const auto reading = ReadingOf(its, holder.Pid(), source);
+                const auto figure = source == kFromPorts ? kPorts : kFiles;
+                if (!reading || reading->figures.StateOf(figure) != FigureState::kRefused)
+                  return "not refused";
+              }
+              return "";
+            }),
+            "");
+  ::close(tcp);
+  ::close(udp);
+}
+
 TEST(CostlyFigures, WhatIsNotCountedOfTheNetworkIsNeverZero) {
   ASSERT_EQ(::geteuid(), 0u);
   const int tcp = Listen();

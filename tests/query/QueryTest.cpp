@@ -32,7 +32,10 @@ MadeUp Server() {
                    {"pid_p_nice", std::int64_t{-5}},
                    {"pid_state", std::string("uninterruptible")},
                    {"pid_syscalls_unix", Missing::kNotAllowed},
-                   {"carbonpsn_name", Missing::kNone}};
+                   {"carbonpsn_name", Missing::kNone},
+                   {"pid_ports", std::string("22, 443, 50022")},
+                   {"pid_listening_ports", Missing::kNone},
+                   {"pid_open_files", std::string("/dev/null\n/var/log/a, b.log")}};
   return server;
 }
 
@@ -52,13 +55,19 @@ TEST(Query, HoldsOrNot) {
         "mem=524288000", "time>90", "time>1.5m", "time<1h", "nice<0", "nice=-5", "meta_name:sshd",
         "state:D", "state:D,Z", "-state:R", "state:unin", "post | ssh", "post OR ssh name:sshd",
         "name:\"ss\"", "sleep | -sleep",
+        // One of several is enough, and none of them has to be.
+        "port:443", "port:80,22", "port>50000", "port<100", "port!=80", "-port:80", "port:/^44/",
+        "-listens:22", "file:/var/log", "file=/dev/null", "file:/\\.log$/", "file:/var/",
+        "-file:\"/a b\"", "file:\"a, b\"",
         // What is not there at all is not what is asked for.
         "-carbonpsn_name:Mail"}) {
     EXPECT_TRUE(Fulfils(server, text)) << text;
   }
   for (const char* text :
        {"post", "ssh post", "-ssh", "name=ssh", "name:/^hd/", "pid:47", "pid:1,2", "mem>500M",
-        "mem<500M", "time>2m", "nice>0", "nice!=-5", "name!=sshd,post", "post | sleep",
+        "mem<500M", "time>2m", "nice>0", "nice!=-5", "name!=sshd,post", "post | sleep", "port:44",
+        "port:2", "port!=22", "-port:443", "port>60000", "listens:22", "listens>0", "file=/var/log",
+        "file:/^log/", "file:/log/a/", "-file:null",
         // A figure that is not told neither is large nor is not.
         "pid_syscalls_unix>5", "-pid_syscalls_unix>5", "pid_vsz<1G", "-pid_vsz<1G"}) {
     EXPECT_FALSE(Fulfils(server, text)) << text;
@@ -110,6 +119,8 @@ TEST(Query, SaysWhatIsWrongAndWhere) {
         {"mem>nan", Kind::kNoNumber, 4, "500M"},
         {"time>5k", Kind::kNoNumber, 5, "2h"},
         {"started>yesterday", Kind::kNoNumber, 8, "2026"},
+        {"port:https", Kind::kNoNumber, 5, "5"},
+        {"file>/a", Kind::kTextIsNotCompared, 0, "file:part"},
         {"name:/(/", Kind::kNoExpression, 5, "missing"},
         {"\xFF", Kind::kNoExpression, 0, "UTF-8"}}) {
     SCOPED_TRACE(text);

@@ -46,11 +46,12 @@ void SetAll(ProcessFigures& figures, FigureSource source, FigureState why) {
 
 CostlyReader::CostlyReader(const std::string& root, const std::string& units,
                            const std::string& devices)
-    : mFiles(root), mDescriptors(mFiles, units, devices) {}
+    : mFiles(root), mDescriptors(mFiles, units, devices), mOpenFiles(mFiles) {}
 
 void CostlyReader::Keep(std::span<const CostlyWish> wishes) {
   ++mRound;
   mDescriptors.BeginRound();
+  mOpenFiles.BeginRound();
   for (const auto& wish : wishes) {
     auto& known = mKnown[wish.process.pid];
     if (known.startStamp != wish.process.startStamp) known = {};
@@ -130,6 +131,10 @@ FigureState CostlyReader::ReadSource(FigureSource source, int folder, Known& kno
         return mDescriptors.ReadSocketsOfUnit(folder, known.open, figures);
       case kFromGraphics:
         return mDescriptors.ReadGraphics(folder, known.open, figures);
+      case kFromPorts:
+        return mOpenFiles.ReadPorts(folder, figures);
+      case kFromOpenFiles:
+        return mOpenFiles.ReadFiles(folder, figures);
       default:
         return FigureState::kUnread;
     }

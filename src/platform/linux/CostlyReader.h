@@ -11,6 +11,7 @@
 #include "platform/CostlyFigures.h"
 #include "platform/FileDescriptor.h"
 #include "platform/linux/DescriptorFigures.h"
+#include "platform/linux/OpenFileFigures.h"
 #include "platform/linux/ProcFiles.h"
 
 namespace lurkwell {
@@ -63,6 +64,7 @@ class CostlyReader {
 
   ProcFiles mFiles;
   DescriptorFigures mDescriptors;
+  OpenFileFigures mOpenFiles;
   std::unordered_map<std::int32_t, Known> mKnown;
   std::uint64_t mRound = 0;
   /// Whether the process that is read has memory of its own, as the kernel's threads have not.

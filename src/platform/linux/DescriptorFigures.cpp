@@ -5,15 +5,15 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <charconv>
 #include <filesystem>
 #include <string_view>
 #include <utility>
 
+#include "platform/linux/SocketLinks.h"
+
 namespace lurkwell {
 namespace {
 
-constexpr std::size_t kMostDescriptors = 65'536;
 constexpr std::int64_t kDumpEvery = 1000;
 constexpr std::int64_t kDumpRestFactor = 50;
 constexpr std::int64_t kRestAfterFailure = 10'000;
@@ -24,17 +24,6 @@ std::int64_t ExactTime() {
   timespec time{};
   ::clock_gettime(CLOCK_MONOTONIC, &time);
   return time.tv_sec * std::int64_t{1'000'000'000} + time.tv_nsec;
-}
-
-/// The number in "socket:[NUMBER]".
-std::optional<std::uint64_t> InodeOf(std::string_view link) {
-  constexpr std::string_view kBegin = "socket:[";
-  if (!link.starts_with(kBegin) || !link.ends_with(']')) return std::nullopt;
-  link = link.substr(kBegin.size(), link.size() - kBegin.size() - 1);
-  std::uint64_t inode = 0;
-  const auto [end, error] = std::from_chars(link.data(), link.data() + link.size(), inode);
-  if (error != std::errc() || end != link.data() + link.size()) return std::nullopt;
-  return inode;
 }
 
 void SetMoved(const NetworkUse& use, Figure received, Figure sent, ProcessFigures& figures) {
@@ -104,7 +93,7 @@ FigureState DescriptorFigures::ReadSockets(int folder, Known& known, ProcessFigu
   if (!EnsureDump()) return FigureState::kUncounted;
   std::vector<std::uint64_t> inodes;
   for (const auto number : mNumbers)
-    if (const auto inode = InodeOf(LinkIn(folder, ("fd/" + std::to_string(number)).c_str())))
+    if (const auto inode = InodeOfSocket(LinkIn(folder, ("fd/" + std::to_string(number)).c_str())))
       inodes.push_back(*inode);
   std::ranges::sort(inodes);
   inodes.erase(std::unique(inodes.begin(), inodes.end()), inodes.end());

@@ -105,7 +105,7 @@ class SimulatedProcessTable final : public ProcessTable {
 };
 
 /// Answers every wish at the next collection, from the simulated processes as they are then; of
-/// those that others own, memory is refused.
+/// those that others own, memory, ports and open files are refused.
 class SimulatedCostlyFigures final : public CostlyFigures {
  public:
   SimulatedCostlyFigures(SimulatedProcessTable& table, AccessLog& log) : mTable(table), mLog(log) {}
@@ -126,10 +126,11 @@ class SimulatedCostlyFigures final : public CostlyFigures {
         const auto figure = static_cast<Figure>(i);
         const auto source = kFigures[i].origin.source;
         if ((source & wish.sources) == 0) continue;
-        if (kFigures[i].kind == FigureKind::kText) {
-          reading.figures.SetText(figure, process->texts.Get(figure));
-        } else if (source == kFromMemoryMap && process->owner != "user") {
+        constexpr FigureSources kOwnersAlone = kFromMemoryMap | kFromPorts | kFromOpenFiles;
+        if ((source & kOwnersAlone) != 0 && process->owner != "user") {
           reading.figures.SetMissing(figure, FigureState::kRefused);
+        } else if (kFigures[i].kind == FigureKind::kText) {
+          reading.figures.SetText(figure, process->texts.Get(figure));
         } else {
           reading.figures.Set(figure, process->Tell(figure));
         }
