@@ -272,8 +272,8 @@ class Printing(Program):
                 status, out, errors = self.run_to_end(
                     "--print", "--count=1", "--format=csv", "--columns=name", "--filter", query)
                 self.assertEqual(status, 0, errors)
-                found = [int(row["pid"]) for row in csv.DictReader(out.splitlines())]
-                self.assertEqual(found, sorted([os.getpid(), child.pid], reverse=True), query)
+                found = sorted(int(row["pid"]) for row in csv.DictReader(out.splitlines()))
+                self.assertEqual(found, sorted([os.getpid(), child.pid]), query)
 
     def test_without_a_home_it_still_prints(self):
         for name in "HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR":

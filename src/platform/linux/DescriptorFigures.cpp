@@ -86,7 +86,8 @@ bool DescriptorFigures::ListDescriptors(int folder) {
 
 FigureState DescriptorFigures::ReadSockets(int folder, Known& known, ProcessFigures& figures) {
   const auto network = LinkIn(folder, "ns/net");
-  if (network.empty()) return FigureState::kUnread;
+  // A process that has ended, but for its parent's word, has none.
+  if (network.empty()) return errno == ENOENT ? FigureState::kUncounted : FigureState::kUnread;
   if (network != mOurNetwork) return FigureState::kUncounted;
   if (!ListDescriptors(folder)) return FigureState::kUnread;
   if (mNumbers.size() > kMostDescriptors) return FigureState::kUncounted;
