@@ -4,9 +4,11 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -34,8 +36,22 @@ constexpr char kFrameKey[] = "MAIN_WINDOW_FRAME";
 constexpr QSize kFirstSize(860, 560);
 constexpr int kMessageMilliseconds = 15'000;
 
-QLabel* AddLabel(QStatusBar& bar, int stretch) {
-  auto* label = new QLabel(&bar);
+/// What does not fit has dots at its end, and stands in the tooltip.
+class CountsLabel final : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const auto place = contentsRect();
+    style()->drawItemText(&painter, place, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideRight, place.width()),
+                          foregroundRole());
+  }
+};
+
+QLabel* AddLabel(QStatusBar& bar, QLabel* label, int stretch) {
   label->setTextFormat(Qt::PlainText);
   bar.addWidget(label, stretch);
   return label;
@@ -103,12 +119,11 @@ void MainWindow::BuildContents() {
   layout->addWidget(mFilterBar);
   layout->addWidget(mTable);
   setCentralWidget(contents);
-  mCounts = AddLabel(*statusBar(), 1);
-  // Where the texts of the table's first column begin; what does not fit the window is no reason to
-  // make it wider, and stands in the tooltip.
+  mCounts = AddLabel(*statusBar(), new CountsLabel(statusBar()), 1);
+  // Where the texts of the table's first column begin. A long text is no reason for a wider window.
   mCounts->setContentsMargins(TextCell::kWidthBesideText / 2, 0, 0, 0);
   mCounts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  mHelper = AddLabel(*statusBar(), 0);
+  mHelper = AddLabel(*statusBar(), new QLabel(statusBar()), 0);
   // A message takes the place of the counts alone.
   statusBar()->removeWidget(mHelper);
   statusBar()->addPermanentWidget(mHelper);

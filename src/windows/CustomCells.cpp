@@ -93,13 +93,23 @@ void TextCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
   DrawText(*painter, option, option.rect, index);
 }
 
+namespace {
+
+/// In a narrow column a name is worth more than its level.
+int InsetIn(const QRect& cell, const QModelIndex& index) {
+  constexpr int kRoomForName = 72;
+  return std::min(TreeCell::InsetOf(index), std::max(cell.width() - kRoomForName, kArrowWidth));
+}
+
+}  // namespace
+
 int TreeCell::InsetOf(const QModelIndex& index) {
   const int level = index.data(kLevelRole).toInt();
   return level < 0 ? 0 : std::min(level, kDeepestDrawn) * kLevelWidth + kArrowWidth;
 }
 
 QRect TreeCell::ArrowPlace(const QRect& cell, const QModelIndex& index) {
-  const int inset = InsetOf(index);
+  const int inset = InsetIn(cell, index);
   if (inset == 0 || index.data(kFoldRole).toInt() == 0) return {};
   return QRect(cell.left() + inset - kArrowWidth, cell.top(), kArrowWidth, cell.height());
 }
@@ -118,7 +128,7 @@ void TreeCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                                                        : QPalette::Text));
   }
   painter->restore();
-  DrawText(*painter, option, option.rect.adjusted(InsetOf(index), 0, 0, 0), index);
+  DrawText(*painter, option, option.rect.adjusted(InsetIn(option.rect, index), 0, 0, 0), index);
 }
 
 void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -177,10 +187,12 @@ void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
   const auto share = [&](std::int64_t size) {
     return maximum > 0.0 ? std::clamp(static_cast<double>(size) / maximum, 0.0, 1.0) : 0.0;
   };
+  // On a dark ground it is the lighter one that is seen first: the memory that is there.
+  const bool isDark = IsDark(palette);
+  const auto size = isDark ? Colour(0.15, 0.4, 0.22) : Colour(0.2, 0.9, 0.2);
+  const auto resident = isDark ? Colour(0.4, 0.84, 0.48) : Colour(0.0, 0.3, 0.0);
   painter.fillRect(BarIn(frame.adjusted(3, 5, -3, -5), share(mVSZ), 3),
-                   isLarger ? Colour(0.5, 0.7, 0.0) : Colour(0.2, 0.9, 0.2));
-  // The usual dark green would not be seen on a dark ground.
-  const auto resident = IsDark(palette) ? Colour(0.05, 0.5, 0.2) : Colour(0.0, 0.3, 0.0);
+                   isLarger ? Colour(0.5, 0.7, 0.0) : size);
   painter.fillRect(BarIn(frame.adjusted(2, 2, -2, -2), share(mRSZ), 2),
                    isLarger ? Colour(0.35, 0.4, 0.0) : resident);
   if (gDrawVSZText) DrawText(painter, frame, palette);
