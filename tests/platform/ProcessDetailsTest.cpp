@@ -153,13 +153,14 @@ TEST(ProcessDetails, TellThreadsMappingsAndLimits) {
     const rlimit limit{100, 200};
     ::setrlimit(RLIMIT_NOFILE, &limit);
   });
+  // A sanitizer may have one of its own besides.
   const auto threads = Rows<ThreadDetails>(child.Pid(), DetailsKind::kThreads);
-  ASSERT_EQ(threads.size(), 2u);
+  ASSERT_GE(threads.size(), 2u);
   EXPECT_EQ(threads[0].tid, child.Pid());
-  EXPECT_EQ(threads[1].name, "busy) \n");
-  EXPECT_EQ(threads[1].state, 'S');
-  EXPECT_GT(threads[1].cpuTime, 5'000);
-  EXPECT_LT(threads[1].cpuTime, 10'000'000);
+  const auto busy = Find(threads, [](const auto& row) { return row.name == "busy) \n"; });
+  EXPECT_EQ(busy.state, 'S');
+  EXPECT_GT(busy.cpuTime, 5'000);
+  EXPECT_LT(busy.cpuTime, 10'000'000);
   const auto mapping = Find(Rows<MappingDetails>(child.Pid(), DetailsKind::kMappings),
                             [&](const auto& row) { return row.file == file; });
   EXPECT_EQ(mapping.end - mapping.begin, kBytes);
