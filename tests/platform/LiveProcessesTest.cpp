@@ -251,7 +251,7 @@ TEST(LiveProcesses, AreShownToDoWhatTheyDo) {
   };
   EXPECT_EQ(number(FigureCalled("pid_shared_memory")) / (10 * kMiB), 5) << "half of 100 MiB";
   EXPECT_GE(number(FigureCalled("pid_highest_rsz")), 50 * kMiB);
-  EXPECT_LT(number(FigureCalled("pid_highest_rsz")), 100 * kMiB);
+  EXPECT_LT(number(FigureCalled("pid_highest_rsz")), 200 * kMiB) << "a sanitizer's memory included";
   EXPECT_GE(number(FigureCalled("pid_vsz")), 100 * kMiB);
   EXPECT_GE(number(FigureCalled("pid_bytes_written")), 64 * kMiB);
   EXPECT_EQ(words(FigureCalled("pid_affinity")), "0");

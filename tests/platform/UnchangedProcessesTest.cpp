@@ -34,6 +34,7 @@ struct Counts {
   std::int64_t milliseconds = 0;
 };
 
+/// What the thread that made it reads; that of the names has no part in a pass.
 class CountingFiles final : public ProcFiles {
  public:
   explicit CountingFiles(Counts& counts) : ProcFiles("/proc"), mCounts(counts) {}
@@ -50,20 +51,20 @@ class CountingFiles final : public ProcFiles {
 
   FileDescriptor OpenStat(std::int32_t pid) override {
     FileDescriptor file = ProcFiles::OpenStat(pid);
-    mPids[file.Get()] = pid;
+    if (IsCounted()) mPids[file.Get()] = pid;
     return file;
   }
   std::ptrdiff_t Read(int file, std::span<char> buffer) override {
-    ++mCounts.reads[mPids[file]];
+    if (IsCounted()) ++mCounts.reads[mPids[file]];
     return ProcFiles::Read(file, buffer);
   }
   FileDescriptor OpenFolder(std::int32_t pid) override {
     FileDescriptor folder = ProcFiles::OpenFolder(pid);
-    mPids[folder.Get()] = pid;
+    if (IsCounted()) mPids[folder.Get()] = pid;
     return folder;
   }
   std::ptrdiff_t ReadIn(int folder, const char* name, std::span<char> buffer) override {
-    ++mCounts.readsOf[mPids[folder]][name];
+    if (IsCounted()) ++mCounts.readsOf[mPids[folder]][name];
     return ProcFiles::ReadIn(folder, name, buffer);
   }
   std::optional<Assignment> AssignmentOf(std::int32_t pid) override {
@@ -72,8 +73,11 @@ class CountingFiles final : public ProcFiles {
   }
 
  private:
+  bool IsCounted() const { return std::this_thread::get_id() == mOwner; }
+
   Counts& mCounts;
   std::map<int, std::int32_t> mPids;
+  const std::thread::id mOwner = std::this_thread::get_id();
 };
 
 struct Described {
