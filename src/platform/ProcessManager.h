@@ -74,6 +74,7 @@ class ProcessManager {
   }
 
   /// Has the desktop open an address of the web; otherwise as ShowFile.
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it.
   virtual void ShowAddress(const std::string& url, std::function<void()> failed) {
     static_cast<void>(url);
     failed();

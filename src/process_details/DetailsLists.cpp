@@ -116,6 +116,7 @@ TypedValue BoundOrUnlimited(std::optional<std::int64_t> bound) {
 
 std::vector<DetailsRow> RowsOf(const std::vector<LimitDetails>& limits) {
   std::vector<DetailsRow> rows;
+  rows.reserve(limits.size());
   for (const auto& its : limits)
     rows.push_back({rows.size(),
                     {its.name, BoundOrUnlimited(its.soft), BoundOrUnlimited(its.hard), its.unit}});

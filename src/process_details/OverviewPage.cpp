@@ -80,7 +80,7 @@ QString OverviewText(std::int32_t pid, const char* property) {
 /// The process's own bytes as they are, to be escaped and cut where they are shown.
 TypedValue OverviewValue(std::int32_t pid, const char* property) {
   if (std::string_view(property) == "meta_name") return WholeNameOf(pid);
-  const auto value = GetPIDPropertyTypedValue(pid, property);
+  auto value = GetPIDPropertyTypedValue(pid, property);
   if (std::holds_alternative<std::string>(value)) return value;
   return OverviewText(pid, property).toStdString();
 }
@@ -113,7 +113,7 @@ OverviewPage::OverviewPage(ProcessIdentity process, QWidget* parent)
 }
 
 void OverviewPage::AddGraph(const char* title, GraphUnit unit,
-                            std::vector<std::pair<const char*, const char*>> series,
+                            const std::vector<std::pair<const char*, const char*>>& series,
                             double leastTop) {
   Graph graph{new TimeGraph(LocalizedString(title), unit, this), {}};
   std::vector<TimeGraph::Series> shown;

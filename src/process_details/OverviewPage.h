@@ -34,7 +34,7 @@ class OverviewPage final : public DetailsPage {
   };
 
   void AddGraph(const char* title, GraphUnit unit,
-                std::vector<std::pair<const char*, const char*>> series, double leastTop);
+                const std::vector<std::pair<const char*, const char*>>& series, double leastTop);
   void AddMoment();
   void FillTable();
 
