@@ -84,8 +84,8 @@ TEST(CostlyFigures, TellWhatMemoryIsItsOwnAndWhatIsShared) {
     return static_cast<double>(reading.figures.Get(figure) - none->figures.Get(figure));
   };
   EXPECT_LT(none->figures.Get(kUss), 50 * kMebibyte);
-  EXPECT_NEAR(besides(*own, kUss), 50 * kMebibyte, 2 * kMebibyte);
-  EXPECT_NEAR(besides(*own, kPss), 50 * kMebibyte, 2 * kMebibyte);
+  EXPECT_NEAR(besides(*own, kUss), 50 * kMebibyte, 4 * kMebibyte);
+  EXPECT_NEAR(besides(*own, kPss), 50 * kMebibyte, 4 * kMebibyte);
   const Child sharing([] {
     TakeMemory();
     if (::fork() == 0) {
@@ -107,8 +107,10 @@ TEST(CostlyFigures, CountDescriptorsAndTellWhatIsNotAllowed) {
     for (int i = 0; i < 40; ++i) EXPECT_GE(::open("/dev/null", O_RDONLY), 0);
   });
   constexpr Figure kCount = FigureCalled("pid_descriptors");
-  LinuxCostlyFigures ours;
-  const auto reading = ReadingOf(ours, child.Pid(), kFromDescriptorCount);
+  // Its thread ends before a process is forked that has threads, too.
+  auto ours = std::make_optional<LinuxCostlyFigures>();
+  const auto reading = ReadingOf(*ours, child.Pid(), kFromDescriptorCount);
+  ours.reset();
   ASSERT_TRUE(reading);
   EXPECT_EQ(std::to_string(reading->figures.Get(kCount)), Descriptors(child.Pid()));
   EXPECT_GE(reading->figures.Get(kCount), 40);

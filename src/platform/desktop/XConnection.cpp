@@ -6,7 +6,10 @@
 #include <xcb/xcbext.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
+#include <mutex>
+#include <string>
 #include <string_view>
 #include <thread>
 #include <utility>
@@ -227,10 +230,21 @@ std::vector<std::uint32_t> PropertyWords(const xcb_get_property_reply_t* reply) 
 
 namespace {
 
+/// Where the environment does not name the file with the server's keys, libXau writes its name into
+/// a buffer that all threads share.
+void NameAuthorityFile() {
+  static std::once_flag named;
+  std::call_once(named, [] {
+    if (const char* home = std::getenv("HOME"))
+      ::setenv("XAUTHORITY", (std::string(home) + "/.Xauthority").c_str(), 0);
+  });
+}
+
 /// The thread's owner may be gone before a server that hangs lets it end, and nothing can end it
 /// sooner; so it owns all it uses. Where there are no threads left the promise is broken, which
 /// counts as no server.
 std::future<std::unique_ptr<XConnection>> OpenInBackground(const std::string& display) {
+  NameAuthorityFile();
   auto promise = std::make_shared<std::promise<std::unique_ptr<XConnection>>>();
   auto future = promise->get_future();
   auto thread = StartWithoutSignals(
