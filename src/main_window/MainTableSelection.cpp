@@ -225,6 +225,7 @@ QString vqMainTableController::selectionAs(ListingForm form) const {
   const auto pids = selectedPids();
   if (pids.empty()) return {};
   std::vector<ListingColumn> columns;
+  columns.reserve(keys.size());
   for (const auto& key : keys) columns.push_back({key, GetProcPropertyType(key.c_str(), nullptr)});
   Listing listing{.time = TheMachine().clock.Now(), .processes = {}};
   for (const auto pid : pids) {
