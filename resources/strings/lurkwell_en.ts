@@ -2081,6 +2081,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>&amp;Record…</translation>
     </message>
+    <message id="menu_file_open_recording">
+        <source></source>
+        <translation>&amp;Open Recording…</translation>
+    </message>
     <message id="menu_file_close_window">
         <source></source>
         <translation>&amp;Close Window</translation>
@@ -2760,6 +2764,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
     <message id="help_menu_set_security">
         <source></source>
         <translation>Columns: Security</translation>
+    </message>
+    <message id="help_menu_file_open_recording">
+        <source></source>
+        <translation>look at what was recorded, in a window of its own</translation>
     </message>
     <message id="help_menu_file_close_window">
         <source></source>
@@ -4104,6 +4112,50 @@ Free: %5</translation>
     <message id="record_trouble">
         <source></source>
         <translation>Not recording to %1: %2</translation>
+    </message>
+    <message id="replay_open_title">
+        <source></source>
+        <translation>Open Recording</translation>
+    </message>
+    <message id="replay_failed">
+        <source></source>
+        <translation>The recording cannot be shown.</translation>
+    </message>
+    <message id="replay_title">
+        <source></source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message id="replay_bar">
+        <source></source>
+        <translation>Time line</translation>
+    </message>
+    <message id="replay_back">
+        <source></source>
+        <translation>One beat back</translation>
+    </message>
+    <message id="replay_play">
+        <source></source>
+        <translation>Play</translation>
+    </message>
+    <message id="replay_forth">
+        <source></source>
+        <translation>One beat on</translation>
+    </message>
+    <message id="replay_peak">
+        <source></source>
+        <translation>Next peak of processor use</translation>
+    </message>
+    <message id="replay_speed">
+        <source></source>
+        <translation>Speed</translation>
+    </message>
+    <message id="replay_no_peak">
+        <source></source>
+        <translation>There is no later peak of processor use.</translation>
+    </message>
+    <message id="replay_no_actions">
+        <source></source>
+        <translation>This is a recording: nothing can be done to its processes.</translation>
     </message>
     <message id="logging_save_title">
         <source></source>

@@ -42,7 +42,8 @@ Watches the processes of this machine.
   --tree               print children below their parents (with --print)
   --interval SECONDS   time between two updates (with --print); 1 without it;
                        and between two beats (with --record); 2 without it
-  --replay FILE        print the processes of a recording (with --print)
+  --replay FILE        show a recording instead of this machine, or print the
+                       processes of one of its moments (with --print)
   --at TIME            as they were then (with --replay): '03:12', a date with a time
                        as in '2026-11-22T03:12', or '-2h' before the recording's end;
                        its end without it
@@ -137,9 +138,8 @@ class Reader {
     if (!mLine.recordingOption.empty() && !records)
       return Complain(mLine.recordingOption + " needs --record");
     if (!mLine.at.empty() && mLine.replay.empty()) return Complain("--at needs --replay");
-    if (!mLine.replay.empty() && mLine.action != CommandLine::Action::kPrint)
-      return Complain(records ? "--record and --replay exclude each other"
-                              : "--replay needs --print");
+    if (!mLine.replay.empty() && records)
+      return Complain("--record and --replay exclude each other");
     if (!records) return true;
     mLine.action = CommandLine::Action::kRecord;
     const bool isForPrinting =

@@ -19,6 +19,7 @@
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
+#include "platform/ProcessTable.h"
 #include "platform/RunLoop.h"
 #include "platform/Uuid.h"
 #include "preferences_window/AllSettings.h"
@@ -183,21 +184,24 @@ void EndAfterLostDisplay() {
   std::_Exit(kExitFailure);
 }
 
-int RunWindowMode(const CommandLine& commandLine) {
+int RunWindowMode(const CommandLine& commandLine, const std::function<void(MainWindow&)>& furnish) {
   QApplication::setQuitOnLastWindowClosed(false);
   InstallResources(*qApp);
   QApplication::setWindowIcon(NamedImage("lurkwell"));
   ApplyTheme(commandLine.theme);
   SetHelperUnprivileged(commandLine.unprivileged);
   const bool picture = commandLine.screenshot.has_value();
-  vqAppDelegate delegate(picture ? vqAppDelegate::Launch::kForPicture
-                                 : vqAppDelegate::Launch::kUsual);
+  const bool isRecorded = TheMachine().processTable.IsRecorded();
+  vqAppDelegate delegate(isRecorded ? vqAppDelegate::Launch::kOfRecording
+                         : picture  ? vqAppDelegate::Launch::kForPicture
+                                    : vqAppDelegate::Launch::kUsual);
   delegate.init();
+  if (furnish) furnish(delegate.mainWindow());
   std::atexit(&EndAfterLostDisplay);
   std::unique_ptr<Photographer> photographer;
   if (picture) photographer = std::make_unique<Photographer>(delegate, commandLine);
   delegate.applicationDidFinishLaunching();
-  if (picture) delegate.doShowMainWindow();
+  if (picture || isRecorded) delegate.doShowMainWindow();
   TheMachine().runLoop.Run();
   const int status = photographer != nullptr ? photographer->Status() : kExitSuccess;
   photographer.reset();

@@ -1,15 +1,21 @@
 #pragma once
 
+#include <functional>
+
 #include "app/CommandLine.h"
 
 class QGuiApplication;
 
 namespace lurkwell {
 
+class MainWindow;
+
 /// Runs the program with its windows until the user quits, on the installed machine, whose run loop
 /// must be Qt's; or, for a picture, shows the wanted window, waits for two updates of the table,
 /// writes the file and ends. A QApplication exists. Gives the exit status.
-int RunWindowMode(const CommandLine& commandLine);
+/// `furnish`, if there is one, is called once the windows are made.
+int RunWindowMode(const CommandLine& commandLine,
+                  const std::function<void(MainWindow&)>& furnish = {});
 
 /// Makes the program's windows light or dark, whatever the desktop has; nothing for kSystem.
 void ApplyTheme(CommandLine::Theme theme);

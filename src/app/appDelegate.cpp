@@ -1,8 +1,12 @@
 #include "app/appDelegate.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <algorithm>
 #include <cstdlib>
+#include <variant>
 
 #include "animated_view/FlowControlFSMMgr.h"
 #include "animated_view/QuintessentialGlobals.h"
@@ -30,6 +34,7 @@
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "preferences_window/PreferencesUI.h"
+#include "recording/Recording.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
 
@@ -105,8 +110,9 @@ void vqAppDelegate::applicationDidFinishLaunching() {
   }
   mIsRunning = true;
   CreateFlowControlFSMMgr();
-  mHelperStart = TheMachine().runLoop.AddTimer(
-      TheMachine().clock.AbsoluteTime() + kHelperStartSeconds, 0.0, [] { LaunchHelperDaemon(); });
+  if (mLaunch != Launch::kOfRecording)
+    mHelperStart = TheMachine().runLoop.AddTimer(
+        TheMachine().clock.AbsoluteTime() + kHelperStartSeconds, 0.0, [] { LaunchHelperDaemon(); });
   if (mLaunch == Launch::kUsual) {
     ClassicPSNSetupProcessExtractionAppleEvent();
     TurnOnClassicNub();
@@ -206,6 +212,40 @@ void vqAppDelegate::doAboutPanel() {
 
 void vqAppDelegate::doShowMainWindow() {
   BringToFront(*fMainWindow);
+}
+
+void vqAppDelegate::doRecord() {
+  if (mLaunch == Launch::kOfRecording)
+    return Complain("record_failed", LocalizedString("replay_no_actions").toStdString());
+  mRecording.Toggle(fMainWindow.get());
+}
+
+void vqAppDelegate::doOpenRecording() {
+  auto* dialog = new QFileDialog(fMainWindow.get(), LocalizedString("replay_open_title"),
+                                 QDir::homePath(), LocalizedString("record_filter"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  connect(dialog, &QFileDialog::fileSelected, this, &vqAppDelegate::OpenRecording);
+  dialog->open();
+}
+
+/// In a program of its own: there is one machine in each.
+void vqAppDelegate::OpenRecording(const QString& path) {
+  const auto file = QFile::encodeName(path).toStdString();
+  const auto opened = Recording::Open(file);
+  if (const auto* words = std::get_if<std::string>(&opened))
+    return Complain("replay_failed", *words);
+  const auto program = QFile::encodeName(QCoreApplication::applicationFilePath()).toStdString();
+  if (!TheMachine().tools.StartInBackground({program, "--replay", file}))
+    Complain("replay_failed", program);
+}
+
+void vqAppDelegate::Complain(const char* title, const std::string& words) {
+  AlertText text;
+  text.title = LocalizedString(title).toStdString();
+  text.message = words;
+  text.otherButton = "OK";
+  mComplaint = TheMachine().alerts.Ask(text, [](AlertAnswer) {});
 }
 
 void vqAppDelegate::CheckGraphicsOnce() {

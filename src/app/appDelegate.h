@@ -24,6 +24,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
     /// Without the about panel, what the user left open, and figures for debugging: for taking a
     /// picture.
     kForPicture,
+    /// The same without the helper, as nothing is done to what has been.
+    kOfRecording,
   };
 
   explicit vqAppDelegate(Launch launch = Launch::kUsual);
@@ -48,7 +50,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void doShowMachineWindow() override;
   void showQuintessentialViewFullScreen() override;
   void doToggleQuintessentialViewFullScreen() override;
-  void doRecord() override { recording().Toggle(fMainWindow.get()); }
+  void doRecord() override;
+  void doOpenRecording() override;
   QString recordingStatus() const override { return mRecording.Status(); }
   bool isLastWindow(const QWidget& window) const override;
 
@@ -73,6 +76,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void OpenFirstWindows();
   void ShowSomething();
   void KeepArrangement();
+  void OpenRecording(const QString& path);
+  void Complain(const char* title, const std::string& words);
   void CheckGraphicsOnce();
   void OnceNothingIsVisible(void (vqAppDelegate::*then)());
   void ComeBack();
@@ -90,6 +95,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   FollowingWindows mFollowingWindows;
   DetailsWindows mDetailsWindows;
   RecordingSwitch mRecording;
+  std::unique_ptr<Alert> mComplaint;
   std::unique_ptr<MainWindow> fMainWindow;
   std::unique_ptr<QuintessentialWindows> fQuintessentialWindows;
 };

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QTimer>
 #include <cerrno>
 #include <clocale>
 #include <csignal>
@@ -7,6 +8,7 @@
 #include <cstring>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <variant>
@@ -15,9 +17,13 @@
 #include "app/CommandLine.h"
 #include "app/PrintMode.h"
 #include "app/RecordMode.h"
+#include "app/ReplayBar.h"
+#include "app/ReplayRunLoop.h"
 #include "app/ReplayedBeats.h"
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
+#include "consolidator/PSHeaders.h"
+#include "consolidator/Feeders.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/desktop/ClassicProcessManager.h"
@@ -155,11 +161,20 @@ class RecordedTerminalMachine {
                    eventBus,       costlyFigures, processDetails,   scheduler};
 };
 
-int PrintRecording(CommandLine commandLine) {
+/// A recording and the moment that is asked for.
+struct Replay {
+  std::unique_ptr<Recording> recording;
+  /// Microseconds since the epoch.
+  std::int64_t moment = 0;
+};
+
+/// Says why there is none, and sets the exit status.
+std::optional<Replay> OpenReplay(const CommandLine& commandLine, int& status) {
   auto opened = Recording::Open(commandLine.replay);
   if (const auto* words = std::get_if<std::string>(&opened)) {
     Diagnose("%s", words->c_str());
-    return kExitFailure;
+    status = kExitFailure;
+    return std::nullopt;
   }
   auto recording = std::move(std::get<std::unique_ptr<Recording>>(opened));
   const std::int64_t end = recording->Minutes().back().lastWall;
@@ -167,11 +182,19 @@ int PrintRecording(CommandLine commandLine) {
   if (!commandLine.at.empty()) moment = ReadMoment(commandLine.at, end);
   if (const auto* words = std::get_if<std::string>(&moment)) {
     Diagnose("--at: %s", words->c_str());
-    return kExitUsage;
+    status = kExitUsage;
+    return std::nullopt;
   }
-  RecordedTerminalMachine machine(std::move(recording),
+  return Replay{std::move(recording), std::get<std::int64_t>(moment)};
+}
+
+int PrintRecording(CommandLine commandLine) {
+  int status = kExitSuccess;
+  auto replay = OpenReplay(commandLine, status);
+  if (!replay) return status;
+  RecordedTerminalMachine machine(std::move(replay->recording),
                                   commandLine.intervalInMilliseconds.value_or(0));
-  if (const auto words = machine.beats.Begin(std::get<std::int64_t>(moment)); !words.empty()) {
+  if (const auto words = machine.beats.Begin(replay->moment); !words.empty()) {
     Diagnose("%s", words.c_str());
     return kExitFailure;
   }
@@ -179,6 +202,67 @@ int PrintRecording(CommandLine commandLine) {
   if (!commandLine.count) commandLine.count = 1;
   const MachineInstallation installation(machine.services);
   return RunPrintMode(commandLine, [&machine] { return machine.beats.IsPrinted(); });
+}
+
+/// A recording with the desktop's windows. What is set counts until the end.
+class RecordedDesktopMachine {
+ public:
+  explicit RecordedDesktopMachine(std::unique_ptr<Recording> recording)
+      : player(std::move(recording)) {}
+
+  RecordingPlayer player;
+  LinuxClock clock;
+  QtRunLoop real{clock};
+  ReplayRunLoop runLoop{real, player};
+  UnstoredPreferences stored;
+  RecordedMachinePreferences preferenceDomain{stored};
+  RecordedProcessTable processTable{player};
+  NoProcessManager processManager;
+  NoIconServices iconServices;
+  RecordedHostStatistics hostStatistics{player};
+  /// For other instances; ps is left out.
+  LinuxTools tools;
+  NoSignals signals;
+  LinuxNamedPipes namedPipes;
+  LinuxBundle bundle;
+  PolkitAuthorization authorization{bundle, PolkitAuthorization::Consent::kOnlyIfGiven};
+  DesktopAlerts alerts;
+  LinuxLogFiles logFiles;
+  NoHotKeys hotKeys;
+  DesktopScreen screen{DesktopSettings::FromEnvironment()};
+  NoEventBus eventBus;
+  UnrecordedFigures costlyFigures;
+  UnrecordedDetails processDetails;
+  NoScheduler scheduler;
+
+  Machine services{player.Clock(), runLoop,       preferenceDomain, processTable,
+                   processManager, iconServices,  hostStatistics,   tools,
+                   signals,        namedPipes,    authorization,    bundle,
+                   alerts,         logFiles,      hotKeys,          screen,
+                   eventBus,       costlyFigures, processDetails,   scheduler};
+};
+
+/// A QApplication exists.
+int ShowRecording(const CommandLine& commandLine, Replay replay, EndingSignals& signals) {
+  RecordedDesktopMachine machine(std::move(replay.recording));
+  auto& source = machine.player.Source();
+  std::string words = source.GoToTime(replay.moment);
+  const auto first = words.empty() ? source.Header().sequence : 0;
+  const auto before = words.empty() ? source.Preceding() : std::nullopt;
+  // The beat before is shown first, so that there are rates.
+  if (words.empty() && (!before || !machine.player.GoTo(*before).empty()))
+    words = machine.player.GoTo(first);
+  if (!words.empty()) {
+    Diagnose("%s", words.c_str());
+    return kExitFailure;
+  }
+  LeavePSOut(true);
+  const MachineInstallation installation(machine.services);
+  signals.Watch([&machine] { machine.runLoop.Stop(); });
+  return RunWindowMode(commandLine, [&](MainWindow& window) {
+    auto* bar = new ReplayBar(machine.player, machine.runLoop, window);
+    QTimer::singleShot(0, bar, [bar, first] { bar->GoTo(first); });
+  });
 }
 
 std::string BusAddress() {
@@ -226,7 +310,8 @@ bool BecomeTheInstance(RunningInstance& instance) {
   return true;
 }
 
-int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
+int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv,
+                 std::optional<Replay> replay) {
   if (!commandLine.printingOption.empty()) {
     Diagnose("%s needs --print\nTry 'lurkwell --help'.", commandLine.printingOption.c_str());
     return kExitUsage;
@@ -242,14 +327,15 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv) {
   withoutDisplay.reset();
   // Qt takes the user's language for texts; numbers are read and written with a point.
   std::setlocale(LC_NUMERIC, "C");
-  const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot;
-  if (commandLine.screenshot) {
+  const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot || replay;
+  if (commandLine.screenshot || replay) {
     NeverRestartWithSession(application);
   } else {
     RestartWithSession(application);
   }
   RunningInstance instance(isOnItsOwn ? "" : BusAddress());
   if (!isOnItsOwn && !BecomeTheInstance(instance)) return kExitSuccess;
+  if (replay) return ShowRecording(commandLine, std::move(*replay), signals);
   using Use = DesktopMachine::Use;
   DesktopMachine machine(commandLine.screenshot ? Use::kForPicture : Use::kBySomebody,
                          commandLine.screenshot ? "" : BusAddress());
@@ -280,11 +366,14 @@ int Run(const CommandLine& commandLine, int& argc, char** argv) {
       Diagnose(
           "no display; printing the processes. Start it in a graphical session, or "
           "with DISPLAY set, to see the window.");
-      return RunInTerminal(commandLine);
+      return commandLine.replay.empty() ? RunInTerminal(commandLine) : PrintRecording(commandLine);
     }
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
   }
-  return RunOnDesktop(commandLine, argc, argv);
+  std::optional<Replay> replay;
+  int status = kExitSuccess;
+  if (!commandLine.replay.empty() && !(replay = OpenReplay(commandLine, status))) return status;
+  return RunOnDesktop(commandLine, argc, argv, std::move(replay));
 }
 
 }  // namespace

@@ -90,6 +90,13 @@ std::vector<std::int32_t> WithDescendants(std::vector<std::int32_t> pids) {
   return pids;
 }
 
+/// Says so where the processes are recorded ones.
+bool IsRefused(ProcessSelection& selection) {
+  if (!TheMachine().processTable.IsRecorded()) return false;
+  selection.report(LocalizedString("replay_no_actions"));
+  return true;
+}
+
 bool IsKernelPid(std::int32_t pid) {
   return pid >= 0;
 }
@@ -97,6 +104,7 @@ bool IsKernelPid(std::int32_t pid) {
 }  // namespace
 
 void ProcessCommands::Act(ProcessCommand command, const std::vector<std::int32_t>& pids) {
+  if (IsRefused(mSelection)) return;
   const auto plan = PlanAction(command, pids);
   if (plan.asks) {
     ActionQuestion question(plan, mSelection.parentOfQuestions());
@@ -127,6 +135,7 @@ void ProcessCommands::KillWithChildren() {
 }
 
 void ProcessCommands::SendAnySignal() {
+  if (IsRefused(mSelection)) return;
   auto plan = PlanAction(ProcessCommand::kSignal, mSelection.selectedPids());
   if (plan.targets.empty()) return mSelection.report(Do(plan));
   SignalQuestion question(plan, mSelection.parentOfQuestions());
@@ -136,6 +145,7 @@ void ProcessCommands::SendAnySignal() {
 }
 
 void ProcessCommands::ChangeScheduling() {
+  if (IsRefused(mSelection)) return;
   auto plan = PlanAction(ProcessCommand::kScheduling, mSelection.selectedPids());
   if (plan.targets.empty()) return mSelection.report(Do(plan));
   SchedulingQuestion question(plan, mSelection.parentOfQuestions());

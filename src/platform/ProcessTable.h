@@ -100,6 +100,9 @@ class ProcessTable {
   /// out. Waits half a second at most, and leaves out what could not be read until then.
   virtual std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) = 0;
 
+  /// Whether these processes have been, so that nothing can be done to them.
+  virtual bool IsRecorded() const { return false; }
+
   /// This program's own process.
   virtual std::int32_t OwnPid() const = 0;
 

@@ -27,6 +27,7 @@ class RecordedProcessTable final : public ProcessTable {
   const ProcessFigures& FiguresOf(const ProcessTableEntry& entry) override;
   std::optional<ProcessIdentity> CurrentIdentity(std::int32_t pid) override;
   std::vector<ProcessDescription> Describe(std::span<const std::int32_t> pids) override;
+  bool IsRecorded() const override { return true; }
   /// This program was another process then, if any.
   std::int32_t OwnPid() const override { return kInvalidPID; }
   std::int32_t MaximumPid() const override { return INT32_MAX; }

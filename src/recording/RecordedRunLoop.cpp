@@ -9,10 +9,14 @@ class RecordedRunLoop::Timer final : public RunLoopTimer {
   Timer(RecordedRunLoop& loop, double date, double interval, std::function<void()> callback)
       : mLoop(loop), mDate(date), mInterval(interval), mCallback(std::move(callback)) {
     mLoop.mTimers.push_back(this);
+    mLoop.TellOf(Date());
   }
   ~Timer() override { mLoop.mTimers.remove(this); }
 
-  void SetNextFireDate(double date) override { mDate = date; }
+  void SetNextFireDate(double date) override {
+    mDate = date;
+    mLoop.TellOf(Date());
+  }
   double Date() const { return Orderable(mDate); }
 
   void Fire(double now) {
@@ -42,16 +46,24 @@ RecordedRunLoop::Timer* RecordedRunLoop::DueTimer() const {
   return due;
 }
 
-void RecordedRunLoop::Run() {
+void RecordedRunLoop::TellOf(double date) const {
+  if (mDateIsSet && date <= mPlayer.Clock().AbsoluteTime()) mDateIsSet();
+}
+
+void RecordedRunLoop::ServeDue() {
   // A timer that is due again at once must not hold the time up.
   constexpr int kMostAtOnce = 16;
+  for (int i = 0; i < kMostAtOnce && !mIsStopped; ++i) {
+    auto* due = DueTimer();
+    if (due == nullptr) return;
+    due->Fire(mPlayer.Clock().AbsoluteTime());
+  }
+}
+
+void RecordedRunLoop::Run() {
   mIsStopped = false;
   do {
-    for (int i = 0; i < kMostAtOnce && !mIsStopped; ++i) {
-      auto* due = DueTimer();
-      if (due == nullptr) break;
-      due->Fire(mPlayer.Clock().AbsoluteTime());
-    }
+    ServeDue();
   } while (!mIsStopped && mGoOn());
 }
 

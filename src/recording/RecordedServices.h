@@ -41,7 +41,8 @@ class RecordedHostStatistics final : public HostStatistics {
   const RecordingPlayer& mPlayer;
 };
 
-/// There is no ps that knows a recording, and nothing is started for one.
+/// For a program in a terminal: there is no ps that knows a recording, and nothing is started for
+/// one.
 class NoTools final : public Tools {
  public:
   std::unique_ptr<RunningTool> Start(const std::string&) override { return nullptr; }

@@ -213,6 +213,31 @@ std::string Recording::GoToTime(std::int64_t wall) {
   return GoTo(best->sequence);
 }
 
+std::optional<std::uint64_t> Recording::NextPeak(std::uint64_t behind) {
+  std::vector<std::int64_t> ranks;
+  for (const auto& minute : mMinutes) ranks.push_back(minute.busiest);
+  const auto rank = ranks.begin() + static_cast<std::ptrdiff_t>(ranks.size() * 9 / 10);
+  std::ranges::nth_element(ranks, rank);
+  const auto busiestOf = [this](std::size_t place) {
+    return place < mMinutes.size() ? mMinutes[place].busiest : -1;
+  };
+  for (std::size_t i = MinuteWith(behind); i < mMinutes.size(); ++i) {
+    if (busiestOf(i) < *rank || busiestOf(i) < busiestOf(i + 1) || busiestOf(i) <= busiestOf(i - 1))
+      continue;
+    const auto headers = HeadersOf(i);
+    std::optional<std::uint64_t> busiest;
+    double most = -1;
+    for (std::size_t k = 1; k < headers.size(); ++k) {
+      const double share = BusyShare(headers[k - 1], headers[k]).value_or(-1);
+      if (share <= most) continue;
+      most = share;
+      busiest = headers[k].sequence;
+    }
+    if (busiest && *busiest > behind) return busiest;
+  }
+  return std::nullopt;
+}
+
 std::optional<std::uint64_t> Recording::Following() const {
   const auto& headers = mLoaded->headers;
   if (mLoaded->at + 1 < headers.size()) return headers[mLoaded->at + 1].sequence;

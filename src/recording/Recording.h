@@ -54,6 +54,10 @@ class Recording {
   /// Those that lived, in the order in which they became known.
   std::vector<RecordedProcess> Processes() const { return mLoaded->decoder.Living(); }
 
+  /// The busiest beat of the next minute that is among the busiest tenth of all and busier than its
+  /// neighbours; nothing behind the last of them.
+  std::optional<std::uint64_t> NextPeak(std::uint64_t behind);
+
   /// The numbers of the neighbours; nothing at the ends.
   std::optional<std::uint64_t> Following() const;
   std::optional<std::uint64_t> Preceding() const;

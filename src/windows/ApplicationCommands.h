@@ -18,6 +18,8 @@ class ApplicationCommands {
   virtual void doToggleQuintessentialViewFullScreen() {}
   /// Begins to record, after asking for a file, or ends it.
   virtual void doRecord() {}
+  /// Shows a recording that the user chooses, in another instance.
+  virtual void doOpenRecording() {}
   /// What is to be said of a recording that is being made; empty without one.
   virtual QString recordingStatus() const { return {}; }
   virtual void doQuit() = 0;
