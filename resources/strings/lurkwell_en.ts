@@ -2513,13 +2513,17 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>%1 of %2 processes: %3; %4 selected</translation>
     </message>
+    <message id="main_window_status_totals">
+        <source></source>
+        <translation>: CPU %1 %, memory %2</translation>
+    </message>
     <message id="main_window_status_paused">
         <source></source>
-        <translation>Paused: %1 ended, %2 new since. </translation>
+        <translation>Paused: %1 ended, %2 new since.</translation>
     </message>
     <message id="main_window_status_follows">
         <source></source>
-        <translation>Selection stays in place. </translation>
+        <translation>Selection stays in place.</translation>
     </message>
     <message id="main_window_scope_hides_all">
         <source></source>
@@ -4771,11 +4775,11 @@ Free: %5</translation>
     </message>
     <message id="preferences_memoryGraph">
         <source></source>
-        <translation>Show the &amp;virtual size on memory bars</translation>
+        <translation>Show the &amp;size on memory bars</translation>
     </message>
     <message id="preferences_memoryGraph_tip">
         <source></source>
-        <translation>Writes the size of a process's address space on its memory bar.</translation>
+        <translation>Writes on each memory bar the size that its length shows: the virtual one, unless MEMORY_BAR_FIGURE among all settings says otherwise.</translation>
     </message>
     <message id="preferences_frameInterval">
         <source></source>
@@ -5179,7 +5183,11 @@ Free: %5</translation>
     </message>
     <message id="setting_title_MEM_GRAPH_DRAW_VSZ">
         <source></source>
-        <translation>Table: virtual size on memory bars</translation>
+        <translation>Table: size on memory bars</translation>
+    </message>
+    <message id="setting_title_MEMORY_BAR_FIGURE">
+        <source></source>
+        <translation>Table: what memory bars show</translation>
     </message>
     <message id="setting_title_MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE">
         <source></source>
@@ -5575,7 +5583,11 @@ Free: %5</translation>
     </message>
     <message id="setting_MEM_GRAPH_DRAW_VSZ">
         <source></source>
-        <translation>Write the virtual size on memory bars.</translation>
+        <translation>Write on memory bars the size that their length shows.</translation>
+    </message>
+    <message id="setting_MEMORY_BAR_FIGURE">
+        <source></source>
+        <translation>What the length of memory bars shows, and their order when the table is sorted by them: 0 – the virtual size, with the resident one within, 1 – the resident size, 2 – the proportional size, which counts shared memory in parts. Virtual sizes larger than the memory of the machine measure no other bar.</translation>
     </message>
     <message id="setting_MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE">
         <source></source>

@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "main_window/RowTotals.h"
+#include "windows/CustomCells.h"
 
 namespace lurkwell {
 namespace {
@@ -79,6 +80,7 @@ bool BranchTotals::Sum::IsAnother(int place) const {
 
 void BranchTotals::TakeColumns(std::span<const KeyId> columns, std::size_t rows) {
   mColumns.assign(columns.begin(), columns.end());
+  mFigureOfBars = MemoryFigureKey();
   mSums.clear();
   mCommons.clear();
   const auto keys = KeysToAddUp(columns);
@@ -144,7 +146,7 @@ void BranchTotals::Show(const RowPlaces& places, KeyId sortKey) {
 }
 
 void BranchTotals::Update(const RowPlaces& places, std::span<const KeyId> columns, KeyId sortKey) {
-  if (mIsNew || !std::ranges::equal(columns, mColumns)) {
+  if (mIsNew || !std::ranges::equal(columns, mColumns) || mFigureOfBars != MemoryFigureKey()) {
     mIsNew = true;
     TakeColumns(columns, places.rows.size());
   }

@@ -71,6 +71,7 @@ class BranchTotals {
 
   bool mIsNew = true;
   std::vector<KeyId> mColumns;
+  KeyId mFigureOfBars = kNoKey;
   KeyId mSortKey = kNoKey;
   std::vector<Sum> mSums;
   std::vector<Common> mCommons;

@@ -3,11 +3,13 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <iterator>
+#include <span>
 #include <string_view>
 #include <utility>
 
 #include "consolidator/PropertyCatalogue.h"
 #include "main_window/ColumnGroups.h"
+#include "main_window/RowTotals.h"
 #include "main_window/vqMainTableController.h"
 #include "resources/Resources.h"
 #include "windows/ControllerAssertion.h"
@@ -37,8 +39,13 @@ bool IsPicture(KeyId key) {
 bool IsRightAligned(KeyId key, PropertyType type) {
   if (IsInternalKey(KeyText(key))) return false;
   return key == kMetaActiveTime || type == kPropertyTypeInteger || type == kPropertyTypeMemory ||
-         type == kPropertyTypeTime || type == kPropertyTypeDate || type == kPropertyTypeClock ||
-         type == kPropertyTypeShare || type == kPropertyTypeRate;
+         type == kPropertyTypeReal || type == kPropertyTypeTime || type == kPropertyTypeDate ||
+         type == kPropertyTypeClock || type == kPropertyTypeShare || type == kPropertyTypeRate;
+}
+
+/// A number of things, which may be large, and not one that names something.
+bool IsCount(KeyId key, PropertyType type) {
+  return type == kPropertyTypeInteger && !KeysToAddUp(std::span(&key, 1)).empty();
 }
 
 /// Bars draw other values than one under their own key.
@@ -46,7 +53,8 @@ RowDictionary::Cells CellsOf(KeyId column) {
   auto cells = RowDictionary::CellsOf(column);
   if (column == kInternalCPUPercent) cells |= RowDictionary::CellsOf(kInternalCpuUsage);
   if (column == kInternalMemGraph)
-    cells |= RowDictionary::CellsOf(kPidRsz) | RowDictionary::CellsOf(kPidVsz);
+    for (const KeyId key : {kPidRsz, kPidVsz, InternKey("pid_pss")})
+      cells |= RowDictionary::CellsOf(key);
   return cells;
 }
 
@@ -163,7 +171,7 @@ void vqMainTableController::rebuildColumns() {
   }
   stripedTable()->setSearchColumn(columnIndexOf(kMetaName));
   stripedTable()->setTreeColumn(columnIndexOf(treeColumn()));
-  if (fShape == TableShape::kApplications) readWhatIsNeeded();
+  readWhatIsNeeded();
   showSortIndicator();
   restoreSelection();
   moveFocusTo(focusedRow);
@@ -176,7 +184,8 @@ void vqMainTableController::addColumnToMainTable(KeyId key) {
   const auto type = GetProcPropertyType(name.c_str(), nullptr);
   if (fLayout.WidthOf(key) <= 0)
     fLayout.SetWidth(key, widthForColumn(key, ColumnTitle(name.c_str())));
-  fColumns.push_back({key, type, IsInternalKey(name), IsRightAligned(key, type), CellsOf(key)});
+  fColumns.push_back({key, type, IsInternalKey(name), IsRightAligned(key, type), IsCount(key, type),
+                      CellsOf(key)});
 }
 
 int vqMainTableController::widthForColumn(KeyId key, const QString& title) const {

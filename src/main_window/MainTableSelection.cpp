@@ -9,6 +9,7 @@
 #include "consolidator/PropertyCatalogue.h"
 #include "consolidator/PropertyValues.h"
 #include "consolidator/WholeNames.h"
+#include "main_window/RowTotals.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Clock.h"
 #include "platform/Machine.h"
@@ -90,6 +91,17 @@ std::vector<std::int32_t> vqMainTableController::selectedPids() const {
     }
   }
   return pids;
+}
+
+vqMainTableController::SelectionTotals vqMainTableController::selectionTotals() const {
+  SelectionTotals totals{Missing::kNone, Missing::kNone};
+  for (const auto pid : selectedPids()) {
+    const auto& row = *fRows.Find(pid);
+    // What the idle task has, nobody used.
+    if (pid != 0) AddTo(totals.share, row.Get(kInternalCpuUsage));
+    AddTo(totals.memory, Addend(row, kPidRsz));
+  }
+  return totals;
 }
 
 void vqMainTableController::rememberSelection() {

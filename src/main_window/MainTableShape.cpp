@@ -73,10 +73,18 @@ bool vqMainTableController::standingDependsOn(KeyId key) const {
 }
 
 void vqMainTableController::measureBars() {
-  fBiggestTotal = fTree.BiggestTotal(kPidVsz);
+  fBiggestTotal = fTree.BiggestTotal(MemoryFigureKey(), gMostMeasured);
   if (fBiggestTotal <= gBiggestVSZ) return;
   gBiggestVSZ = fBiggestTotal;
   for (auto* row : fRows.Shown()) row->SetChanged(true);
+}
+
+void vqMainTableController::readMemoryFigure() {
+  const auto figure = static_cast<MemoryFigure>(std::clamp(ReadInt("MEMORY_BAR_FIGURE"), 0, 2));
+  if (std::exchange(gMemoryFigure, figure) == figure) return;
+  readWhatIsNeeded();
+  setNeedsResort();
+  updateNow();
 }
 
 void vqMainTableController::readWhatIsNeeded() {
@@ -90,6 +98,8 @@ void vqMainTableController::readWhatIsNeeded() {
     if (fLayout.Has(KeyText(kInternalMemGraph)) || fLayout.Has(KeyText(kPidRsz)))
       need(kProportionalSize);
   }
+  if (gMemoryFigure == MemoryFigure::kProportional && fLayout.Has(KeyText(kInternalMemGraph)))
+    need(kProportionalSize);
   if (fScope == TableScope::kMine || fScope == TableScope::kOthers) need(kOwner);
   if (fScope == TableScope::kApplications) need(kScopeOfApplication);
   // What never changes has to be read once.
@@ -111,7 +121,7 @@ std::vector<RowDictionary*> vqMainTableController::rowsToShow() {
 
 void vqMainTableController::addUp() {
   const KeyId sortKey = fSortColumn == kInternalCPUPercent ? kInternalCpuUsage
-                        : fSortColumn == kInternalMemGraph ? kPidVsz
+                        : fSortColumn == kInternalMemGraph ? MemoryFigureKey()
                                                            : fSortColumn;
   fTree.AddUp(keysWeTrackForUI(), sortKey);
 }

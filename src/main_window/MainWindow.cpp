@@ -297,8 +297,10 @@ QString MainWindow::HowItIsHeld() const {
   if (mController->isPaused())
     text += LocalizedString("main_window_status_paused")
                 .arg(mController->rows().CountEnded())
-                .arg(mController->rows().CountWaiting());
-  if (mController->followsSelection()) text += LocalizedString("main_window_status_follows");
+                .arg(mController->rows().CountWaiting()) +
+            QLatin1Char(' ');
+  if (mController->followsSelection())
+    text += LocalizedString("main_window_status_follows") + QLatin1Char(' ');
   return text;
 }
 
@@ -320,6 +322,14 @@ void MainWindow::UpdateStatus() {
                                          .arg(processes)
                                          .arg(what)
                                          .arg(selected));
+  if (selected > 0) {
+    const auto totals = mController->selectionTotals();
+    mCounts->setText(mCounts->text() +
+                     LocalizedString("main_window_status_totals")
+                         .arg(NumberOf(totals.share) * 100.0, 0, 'f', 1)
+                         .arg(DisplayText(kPropertyTypeMemory, totals.memory, 0, 0)));
+  }
+  // What does not fit can be read all the same.
   mCounts->setToolTip(mCounts->text());
   const auto notAllowed = mController->filterGaps().notAllowed;
   mFilterBar->setRemark(notAllowed > 0 ? LocalizedString("filter_not_allowed").arg(notAllowed)

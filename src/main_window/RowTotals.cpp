@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "windows/CustomCells.h"
+
 namespace lurkwell {
 namespace {
 
@@ -63,7 +65,7 @@ std::vector<KeyId> KeysToAddUp(std::span<const KeyId> columns) {
     if (column == kInternalCPUPercent) Append(keys, kInternalCpuUsage);
     if (column == kInternalMemGraph) {
       Append(keys, kPidRsz);
-      Append(keys, kPidVsz);
+      Append(keys, MemoryFigureKey());
     }
     if (IsAddedUp(KeyText(column))) Append(keys, column);
   }

@@ -248,12 +248,12 @@ void RowTree::AddUp(std::span<const KeyId> columns, KeyId sortKey) {
   mTotals.Update(mPlaces, columns, sortKey);
 }
 
-std::int64_t RowTree::BiggestTotal(KeyId key) const {
+std::int64_t RowTree::BiggestTotal(KeyId key, std::int64_t most) const {
   std::int64_t biggest = 0;
   for (const int place : mPlaces.inner) {
     const auto& row = RowAt(place);
     if (row.Standing().fold != RowStanding::Fold::kFolded && row.Group() == nullptr) continue;
-    if (const auto* total = std::get_if<std::int64_t>(&row.Shown(key)))
+    if (const auto* total = std::get_if<std::int64_t>(&row.Shown(key)); total && *total <= most)
       biggest = std::max(biggest, *total);
   }
   return biggest;

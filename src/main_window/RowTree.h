@@ -58,8 +58,8 @@ class RowTree {
            row.place < mPlaces.ends[static_cast<std::size_t>(above.place)];
   }
   RowDictionary* FindGroup(const std::string& key) const { return mGroups.Find(key); }
-  /// The largest of the totals that are shown; 0 for none.
-  std::int64_t BiggestTotal(KeyId key) const;
+  /// The largest of the totals that are shown and not larger than `most`; 0 for none.
+  std::int64_t BiggestTotal(KeyId key, std::int64_t most) const;
   /// After the view has let go of rows.
   void TidyUp() { mGroups.TidyUp(); }
 

@@ -9,6 +9,7 @@
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
+#include "platform/HostStatistics.h"
 #include "platform/Machine.h"
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
@@ -39,7 +40,7 @@ const std::array<KeyId, 3>& AlwaysRead() {
 /// which are no values.
 KeyId SortedBy(KeyId column) {
   if (column == kInternalCPUPercent) return kInternalCpuUsage;
-  if (column == kInternalMemGraph) return kPidVsz;
+  if (column == kInternalMemGraph) return MemoryFigureKey();
   if (column == kInternalIcon) return kMetaName;
   return column == kInternalIndicator ? kNoKey : column;
 }
@@ -171,6 +172,10 @@ void VQTarvMainWindowInfoSynch::UpdateAllFields(RowDictionary& row, int pid) {
 
 void VQTarvMainWindowInfoSynch::RefreshBars() {
   const bool drewText = std::exchange(gDrawVSZText, ReadSwitch("MEM_GRAPH_DRAW_VSZ"));
+  const KeyId figure = MemoryFigureKey();
+  const auto physical = mFigures.physicalBytes > 0 ? mFigures.physicalBytes
+                                                   : TheMachine().hostStatistics.PhysicalMemory();
+  gMostMeasured = physical > 0 ? physical : std::numeric_limits<std::int64_t>::max();
   const auto biggest = std::exchange(gBiggestVSZ, 0);
   const bool ignoresPidZero = IgnoresPidZero();
   for (auto* row : mOwner.rows().All()) {
@@ -179,8 +184,9 @@ void VQTarvMainWindowInfoSynch::RefreshBars() {
       mOwner.noteFactsHaveChanged();
       if (mSortedBy == kNoKey) mOwner.setNeedsResort();
     }
-    if (row->Pid() != 0 || !ignoresPidZero)
-      gBiggestVSZ = std::max(gBiggestVSZ, IntegerOf(row->Get(kPidVsz)));
+    const auto size = IntegerOf(row->Get(figure));
+    if ((row->Pid() != 0 || !ignoresPidZero) && size <= gMostMeasured)
+      gBiggestVSZ = std::max(gBiggestVSZ, size);
   }
   gBiggestVSZ = std::max(gBiggestVSZ, mOwner.biggestTotalVSZ());
   // Every bar is measured by the biggest.
@@ -289,6 +295,7 @@ void VQTarvMainWindowInfoSynch::NotifyPidHasChangedAppreciably(int pid) {
 
 void VQTarvMainWindowInfoSynch::NotifyPreferencesHaveBeenUpdated() {
   if (const auto interval = StoredInt(kIntervalKey)) SetSeenInterval(*interval);
+  mOwner.readMemoryFigure();
   mOwner.rows().TidyUp();
   for (auto* row : mOwner.rows().All()) {
     if (mOwner.isPaused())

@@ -53,6 +53,8 @@ class SynchronisedTable {
   /// Rows came or changed so that their order may be another one; done at the next commit.
   virtual void setNeedsResort() = 0;
   virtual void setNeedsReload() = 0;
+  /// What memory bars show may be another figure.
+  virtual void readMemoryFigure() = 0;
   /// What commands depend on may be something else: a badge came or went.
   virtual void noteFactsHaveChanged() = 0;
   /// Marks the ps columns that the turn brought no figures for; what they had stays, greyed.

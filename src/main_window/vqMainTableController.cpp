@@ -1,6 +1,7 @@
 #include "main_window/vqMainTableController.h"
 
 #include <QHeaderView>
+#include <QLocale>
 #include <QMainWindow>
 #include <QScrollBar>
 #include <QTimer>
@@ -43,6 +44,7 @@ vqMainTableController::vqMainTableController() {
   fShape = contents.shape;
   fScope = static_cast<TableScope>(std::clamp(ReadInt("MAIN_WINDOW_SCOPE"), 0, kScopeCount - 1));
   fFollowsSelection = ReadSwitch("MAIN_WINDOW_FOLLOWS_SELECTION");
+  readMemoryFigure();
   readWhatIsNeeded();
 }
 
@@ -263,6 +265,9 @@ QVariant vqMainTableController::indicatorOf(const RowDictionary& row) const {
 QString vqMainTableController::textOf(const RowDictionary& row, const Column& column) const {
   // A group's pid is no pid.
   if (row.Group() != nullptr && column.key == kMetaPid) return {};
+  if (const auto* count = std::get_if<std::int64_t>(&row.Shown(column.key));
+      count != nullptr && column.isCount)
+    return QLocale().toString(qlonglong{*count});
   if (column.type != kPropertyTypeDate || fTable == nullptr) {
     const auto text = DisplayText(column.type, row.Shown(column.key), 15, row.Pid());
     const bool counts = row.Group() != nullptr || row.Standing().fold == RowStanding::Fold::kFolded;
@@ -275,6 +280,12 @@ QString vqMainTableController::textOf(const RowDictionary& row, const Column& co
   const int points = fTable->columnWidth(columnIndexOf(column.key));
   const auto width = static_cast<int>(points / std::max(digit, kPointsPerCharacter));
   return DisplayText(column.type, row.Shown(column.key), width, row.Pid());
+}
+
+QString vqMainTableController::barTextOf(const RowDictionary& row, const Column& column) {
+  if (column.key == kInternalCPUPercent)
+    return QString::number(NumberOf(row.Shown(kInternalCpuUsage)) * 100.0, 'f', 1);
+  return DisplayText(kPropertyTypeMemory, row.Shown(MemoryFigureKey()), 0, row.Pid());
 }
 
 QVariant vqMainTableController::objectValueForTableColumn(int columnIndex, int rowIndex) const {
@@ -294,6 +305,7 @@ QString vqMainTableController::spokenText(const RowDictionary& row, const Column
     const auto size = [&](KeyId key) {
       return DisplayText(kPropertyTypeMemory, row.Shown(key), 0, row.Pid());
     };
+    if (gMemoryFigure != MemoryFigure::kVirtual) return size(MemoryFigureKey());
     return size(kPidRsz) + QLatin1String(" / ") + size(kPidVsz);
   }
   if (column.key == kInternalIndicator) {
@@ -391,9 +403,12 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
     case kCpuShareRole:
       return NumberOf(row.Shown(kInternalCpuUsage));
     case kResidentSizeRole:
-      return static_cast<qlonglong>(IntegerOf(row.Shown(kPidRsz)));
+      return static_cast<qlonglong>(IntegerOf(
+          row.Shown(gMemoryFigure == MemoryFigure::kVirtual ? kPidRsz : MemoryFigureKey())));
     case kVirtualSizeRole:
-      return static_cast<qlonglong>(IntegerOf(row.Shown(kPidVsz)));
+      return static_cast<qlonglong>(IntegerOf(row.Shown(MemoryFigureKey())));
+    case kBarTextRole:
+      return barTextOf(row, column);
     case StripedTableView::kCellHasChangedRole:
       return row.HaveCellsChanged(column.looksAt);
     default:

@@ -189,6 +189,14 @@ class vqMainTableController final : public vqTableController,
   /// Reads and shows everything now instead of at the next turn.
   void updateNow();
 
+  /// What the selected processes use together: a share of one processor, and bytes of memory, as
+  /// applications' rows add them up. Missing where nothing is selected.
+  struct SelectionTotals {
+    RowValue share;
+    RowValue memory;
+  };
+  SelectionTotals selectionTotals() const;
+
   SelectionFacts selectionFacts() const {
     auto facts = fCommands.Facts();
     facts.isTree = fShape != TableShape::kList;
@@ -238,6 +246,8 @@ class vqMainTableController final : public vqTableController,
     PropertyType type;
     bool isInternal;
     bool rightAligned;
+    /// Its digits stand in groups.
+    bool isCount;
     /// Those cells of a row that the column's is among.
     RowDictionary::Cells looksAt;
     /// A ps column that the last turn brought no figures for.
@@ -305,7 +315,8 @@ class vqMainTableController final : public vqTableController,
   bool isTreeCurrent() const {
     return fShape != TableShape::kList && !fRows.HaveComeOrGone() && !fStandingHasChanged;
   }
-  /// Reads what shape and scope need from the next update on, which comes at once.
+  void readMemoryFigure() override;
+  /// Reads what shape, scope and bars need from the next update on, which comes at once.
   void readWhatIsNeeded();
   void revealKeptRows();
   /// Unfolds what hides these processes.
@@ -337,6 +348,8 @@ class vqMainTableController final : public vqTableController,
   static const char* indicatorNameOf(const RowDictionary& row);
   QVariant indicatorOf(const RowDictionary& row) const;
   QString textOf(const RowDictionary& row, const Column& column) const;
+  /// What stands on a bar.
+  static QString barTextOf(const RowDictionary& row, const Column& column);
   QString spokenText(const RowDictionary& row, const Column& column) const;
   /// The process's arguments on one line, as they are now; empty when they are not known.
   static QString commandLineOf(std::int32_t pid);

@@ -144,67 +144,134 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
   }
 }
 
+namespace {
+
+QColor ReadableOn(const QColor& ground) {
+  return qGray(ground.rgb()) < 128 ? QColor(Qt::white) : QColor(Qt::black);
+}
+
+/// That part of the text that lies between two columns of points, at the right of its place.
+void DrawTextBetween(QPainter& painter, std::pair<int, int> columns, const QRect& place,
+                     const QColor& colour, const QString& text) {
+  const int begin = place.right() + 1 - painter.fontMetrics().horizontalAdvance(text);
+  const int from = std::max(columns.first, place.left());
+  if (columns.second <= from || columns.second <= begin) return;
+  painter.save();
+  painter.setClipRect(QRect(from, place.top(), columns.second - from, place.height()),
+                      Qt::IntersectClip);
+  painter.setPen(colour);
+  painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text);
+  painter.restore();
+}
+
+QRect InsideCPUFrame(const QRect& frame) {
+  return frame.adjusted(3, 3, -3, -3);
+}
+QColor CPUGround(bool isDark) {
+  return isDark ? QColor(72, 76, 84) : QColor(Qt::lightGray);
+}
+QColor CPUBar(bool isDark, bool isFaint) {
+  if (isFaint) return isDark ? QColor(120, 124, 132) : QColor(Qt::gray);
+  return isDark ? QColor(94, 158, 255) : QColor(Qt::blue);
+}
+
+}  // namespace
+
 void CPUCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame, bool isDark,
-                                    bool isIdleTask) const {
-  const auto inside = frame.adjusted(3, 3, -3, -3);
-  painter.fillRect(inside, isDark ? QColor(72, 76, 84) : QColor(Qt::lightGray));
-  const auto bar = BarIn(inside, cpuPercent(), 1);
+                                    bool isIdleTask, bool isFaint) const {
+  const auto inside = InsideCPUFrame(frame);
+  painter.fillRect(inside, CPUGround(isDark));
+  const auto bar = BarIn(inside, mCpuPercentage, 1);
   if (isIdleTask)
-    painter.fillRect(bar,
-                     QBrush(isDark ? QColor(120, 124, 132) : QColor(Qt::gray), Qt::BDiagPattern));
+    painter.fillRect(bar, QBrush(CPUBar(isDark, true), Qt::BDiagPattern));
   else
-    painter.fillRect(bar, isDark ? QColor(94, 158, 255) : QColor(Qt::blue));
+    painter.fillRect(bar, CPUBar(isDark, isFaint));
 }
 
 void CPUCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                     const QModelIndex& index) const {
   DrawBackground(*painter, option);
-  setCpuPercent(index.data(kCpuShareRole).toDouble());
-  drawInteriorWithFrame(*painter, option.rect, IsDark(option.palette),
-                        index.data(kIsIdleTaskRole).toBool());
+  mCpuPercentage = index.data(kCpuShareRole).toDouble();
+  const bool isDark = IsDark(option.palette);
+  const bool isIdleTask = index.data(kIsIdleTaskRole).toBool();
+  const bool isFaint = index.data(kIsFaintRole).toBool();
+  drawInteriorWithFrame(*painter, option.rect, isDark, isIdleTask, isFaint);
+  const auto text = index.data(kBarTextRole).toString();
+  const auto inside = InsideCPUFrame(option.rect);
+  const auto place = inside.adjusted(kTextMargin, 0, -kTextMargin, 0);
+  const int width = option.fontMetrics.horizontalAdvance(text);
+  if (text.isEmpty() || width > place.width()) return;
+  const int end = isIdleTask ? inside.left() : BarIn(inside, mCpuPercentage, 1).right() + 1;
+  painter->setFont(option.font);
+  DrawTextBetween(*painter, {inside.left(), end}, place, ReadableOn(CPUBar(isDark, isFaint)), text);
+  DrawTextBetween(*painter, {end, inside.right() + 1}, place, ReadableOn(CPUGround(isDark)), text);
 }
 
-void MemGraphCell::DrawText(QPainter& painter, const QRect& frame, const QPalette& palette) const {
-  const auto text = QString::fromStdString(MemoryString(mVSZ));
-  auto rect = frame.adjusted(3, 1, -3, -1);
-  // A narrow column keeps the end of the text.
-  if (rect.width() < 40 && frame.width() >= 40) rect.setLeft(rect.right() - 39);
-  const auto draw = [&](const QRect& place, const QColor& colour) {
-    painter.setPen(colour);
-    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text);
-  };
-  // Bars of any darkness may lie below: a rim of the ground's colour keeps the text readable.
-  const auto rim = palette.color(QPalette::Base);
-  for (const auto& [x, y] : {std::pair(-1, 0), std::pair(1, 0), std::pair(0, -1), std::pair(0, 1)})
-    draw(rect.translated(x, y), rim);
-  draw(rect, palette.color(QPalette::Text));
+KeyId MemoryFigureKey() {
+  static const KeyId kProportional = InternKey("pid_pss");
+  if (gMemoryFigure == MemoryFigure::kResident) return kPidRsz;
+  return gMemoryFigure == MemoryFigure::kProportional ? kProportional : kPidVsz;
 }
 
-void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
-                                         const QPalette& palette) const {
+MemGraphCell::Bars MemGraphCell::BarsIn(const QRect& frame, const QPalette& palette,
+                                        bool isFaint) const {
   const bool isLarger = mVSZ > gBiggestVSZ;
   const auto maximum = static_cast<double>(isLarger ? mVSZ : gBiggestVSZ);
   const auto share = [&](std::int64_t size) {
     return maximum > 0.0 ? std::clamp(static_cast<double>(size) / maximum, 0.0, 1.0) : 0.0;
   };
-  // On a dark ground it is the lighter one that is seen first: the memory that is there.
+  Bars bars{BarIn(frame.adjusted(3, 5, -3, -5), share(mVSZ), 3),
+            BarIn(frame.adjusted(2, 2, -2, -2), share(mRSZ), 2), Colour(0.2, 0.9, 0.2),
+            Colour(0.0, 0.3, 0.0)};
   const bool isDark = IsDark(palette);
-  const auto size = isDark ? Colour(0.15, 0.4, 0.22) : Colour(0.2, 0.9, 0.2);
-  const auto resident = isDark ? Colour(0.4, 0.84, 0.48) : Colour(0.0, 0.3, 0.0);
-  painter.fillRect(BarIn(frame.adjusted(3, 5, -3, -5), share(mVSZ), 3),
-                   isLarger ? Colour(0.5, 0.7, 0.0) : size);
-  painter.fillRect(BarIn(frame.adjusted(2, 2, -2, -2), share(mRSZ), 2),
-                   isLarger ? Colour(0.35, 0.4, 0.0) : resident);
-  if (gDrawVSZText) DrawText(painter, frame, palette);
+  // On a dark ground it is the lighter one that is seen first: the memory that is there.
+  if (isDark) {
+    bars.outerColour = Colour(0.15, 0.4, 0.22);
+    bars.innerColour = Colour(0.4, 0.84, 0.48);
+  }
+  if (isLarger) {
+    bars.outerColour = Colour(0.5, 0.7, 0.0);
+    bars.innerColour = Colour(0.35, 0.4, 0.0);
+  }
+  if (isFaint) {
+    bars.outerColour = isDark ? QColor(96, 100, 108) : QColor(Qt::lightGray);
+    bars.innerColour = isDark ? QColor(136, 140, 148) : QColor(Qt::gray);
+  }
+  return bars;
+}
+
+void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
+                                         const QPalette& palette, bool isFaint) const {
+  const auto bars = BarsIn(frame, palette, isFaint);
+  painter.fillRect(bars.outer, bars.outerColour);
+  painter.fillRect(bars.inner, bars.innerColour);
+}
+
+void MemGraphCell::DrawText(QPainter& painter, const QRect& frame, const Bars& bars,
+                            const QColor& beside, const QString& text) {
+  auto rect = frame.adjusted(3, 1, -3, -1);
+  // A narrow column keeps the end of the text.
+  if (rect.width() < 40 && frame.width() >= 40) rect.setLeft(rect.right() - 39);
+  const int innerEnd = bars.inner.right() + 1;
+  const int outerEnd = std::max(bars.outer.right() + 1, innerEnd);
+  DrawTextBetween(painter, {frame.left(), innerEnd}, rect, ReadableOn(bars.innerColour), text);
+  DrawTextBetween(painter, {innerEnd, outerEnd}, rect, ReadableOn(bars.outerColour), text);
+  DrawTextBetween(painter, {outerEnd, frame.right() + 1}, rect, beside, text);
 }
 
 void MemGraphCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   DrawBackground(*painter, option);
-  setRSZ(index.data(kResidentSizeRole).toLongLong());
-  setVSZ(index.data(kVirtualSizeRole).toLongLong());
+  mRSZ = index.data(kResidentSizeRole).toLongLong();
+  mVSZ = index.data(kVirtualSizeRole).toLongLong();
+  const bool isFaint = index.data(kIsFaintRole).toBool();
+  drawInteriorWithFrame(*painter, option.rect, option.palette, isFaint);
+  if (!gDrawVSZText) return;
   painter->setFont(option.font);
-  drawInteriorWithFrame(*painter, option.rect, option.palette);
+  DrawText(*painter, option.rect, BarsIn(option.rect, option.palette, isFaint),
+           option.palette.color(GroupOf(option),
+                                IsSelected(option) ? QPalette::HighlightedText : QPalette::Text),
+           index.data(kBarTextRole).toString());
 }
 
 }  // namespace lurkwell

@@ -1,5 +1,6 @@
 #include "windows/PropertyText.h"
 
+#include <QLocale>
 #include <span>
 #include <string>
 
@@ -25,6 +26,14 @@ QString MarkOf(Missing why) {
       break;
   }
   return {};
+}
+
+/// Digits alone, which are bytes, stand in groups.
+QString SizeText(std::int64_t bytes) {
+  const auto text = QString::fromStdString(MemoryString(bytes));
+  bool isNumber = false;
+  const auto number = text.toLongLong(&isNumber);
+  return isNumber ? QLocale().toString(number) : text;
 }
 
 const char* IdOfMissing(const TypedValue& value) {
@@ -102,9 +111,9 @@ QString DisplayText(PropertyType type, const TypedValue& value, int width, std::
     case kPropertyTypeReal:
       return QString::number(NumberOf(value), 'g', 6);
     case kPropertyTypeMemory:
-      return QString::fromStdString(MemoryString(IntegerOf(value)));
+      return SizeText(IntegerOf(value));
     case kPropertyTypeRate:
-      return QString::fromStdString(MemoryString(IntegerOf(value))) + QLatin1String("/s");
+      return SizeText(IntegerOf(value)) + QLatin1String("/s");
     case kPropertyTypeShare:
       return QString::number(NumberOf(value), 'f', 1);
     case kPropertyTypeTime:

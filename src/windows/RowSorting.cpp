@@ -8,6 +8,7 @@
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
 #include "windows/ControllerAssertion.h"
+#include "windows/CustomCells.h"
 #include "windows/PropertyText.h"
 
 namespace lurkwell {
@@ -66,7 +67,7 @@ void PrepareCPUPercent(SortedRow& row, const compareContextStructure&) {
 }
 
 void PrepareVirtualSize(SortedRow& row, const compareContextStructure&) {
-  SetNumber(row, row.row->SortValue(kPidVsz));
+  SetNumber(row, row.row->SortValue(MemoryFigureKey()));
   if (row.pid != 0 || !IgnoresPidZero()) return;
   row.isMissing = false;
   row.integer = 0;

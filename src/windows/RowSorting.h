@@ -51,7 +51,7 @@ int timeCompare(const SortedRow& a, const SortedRow& b, const compareContextStru
 /// next one. Two of them cannot be ("pid1 || pid2").
 int cpuPercentCompare(const SortedRow& a, const SortedRow& b,
                       const compareContextStructure& context);
-/// By virtual size.
+/// By the size that the bars' length shows, usually the virtual one.
 int memGraphCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);
 /// Applications first when ascending, then by name.
 int iconCompare(const SortedRow& a, const SortedRow& b, const compareContextStructure& context);

@@ -1,6 +1,7 @@
 // Rows: what they show from turn to turn, and how little the view hears of it.
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -63,6 +64,60 @@ TEST_F(TableTest, ANewUserSeesSevenColumnsAndSharesFromTheSecondTurnOn) {
   Turn();
   EXPECT_EQ(Cell(2, 5), "100.0 %") << "never more than one CPU";
   EXPECT_EQ(Cell(2, 4), "14.50");
+}
+
+TEST_F(TableTest, NumbersStandOnBarsInTheStatusLineAndInGroups) {
+  machine.processTable.TellFigures(true);
+  machine.processTable.SetOwnPid(300);
+  for (const int pid : {300, 301, 302}) {
+    auto& process = machine.processTable.Birth(pid, "p");
+    process["pid_rsz"] = (pid - 299) << 20;
+    process["pid_pss"] = (pid - 299) << 19;
+    process["pid_vsz"] = 0x20000000 + ((303 - pid) << 24);
+    process["pid_faults"] = 1'234'567;
+  }
+  (*machine.processTable.Find(301))["pid_vsz"] = std::int64_t{1} << 40;
+  Open();
+  ClickHeader("meta_pid");
+  controller().addToKeysWeTrackForUI(InternKey("pid_faults"));
+  for (const int pid : {300, 302}) machine.processTable.Find(pid)->UseCPU(10);
+  Turn();
+  for (const int pid : {300, 302}) machine.processTable.Find(pid)->UseCPU((pid - 299) * 100);
+  Turn();
+  const auto bar = [&](int row, const char* key, int role) {
+    return controller().index(row, ColumnOf(key)).data(role);
+  };
+  EXPECT_EQ(bar(2, "internal_CPUPercent", kBarTextRole).toString(), QLatin1String("5.0"));
+  EXPECT_EQ(gBiggestVSZ, 3 << 24) << "a terabyte is no measure for others";
+  EXPECT_EQ(bar(2, "internal_MemGraph", kBarTextRole).toString(), QLatin1String("48.0 M"));
+  Select({300, 302});
+  const auto says = [&] {
+    for (const auto* label : window->findChildren<QLabel*>())
+      if (label->text().contains(QLatin1String("process"))) return label->text().toStdString();
+    return std::string();
+  };
+  EXPECT_EQ(says(), "5 processes, 5 shown, 2 selected: CPU 20.0 %, memory 4.0 M");
+  // Other figures have other lengths and another order.
+  ClickHeader("internal_MemGraph");
+  EXPECT_EQ(Pids().substr(0, 11), "301 300 302");
+  const auto show = [&](int figure) {
+    SetPrefInt("MEMORY_BAR_FIGURE", figure);
+    controller().synchronizer()->NotifyPreferencesHaveBeenUpdated();
+    Turn();
+    return Pids().substr(0, 11) + ": " +
+           bar(0, "internal_MemGraph", kBarTextRole).toString().toStdString();
+  };
+  EXPECT_EQ(show(1), "302 301 300: 3.0 M");
+  EXPECT_EQ(gBiggestVSZ, 3 << 20);
+  EXPECT_EQ(bar(0, "internal_MemGraph", Qt::AccessibleTextRole).toString(), QLatin1String("3.0 M"));
+  EXPECT_EQ(show(2), "302 301 300: 1.5 M");
+  EXPECT_EQ(show(0).substr(0, 11), "301 300 302");
+  const QLocale before;
+  QLocale::setDefault(QLocale(QLocale::German));
+  EXPECT_EQ(Cell(0, ColumnOf("pid_faults")), QLatin1String("1.234.567"));
+  SetPrefInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", 1);
+  EXPECT_EQ(bar(1, "internal_MemGraph", kBarTextRole).toString(), QLatin1String("50.331.648"));
+  QLocale::setDefault(before);
 }
 
 TEST_F(TableTest, ATurnReachesTheViewInOnePiece) {
