@@ -4153,6 +4153,14 @@ Free: %5</translation>
         <source></source>
         <translation>Speed</translation>
     </message>
+    <message id="replay_moment">
+        <source></source>
+        <translation>Go to a moment</translation>
+    </message>
+    <message id="replay_moment_tip">
+        <source></source>
+        <translation>Go to a moment (%1): a time such as 03:12, a date with a time, or -2h, which is before the end</translation>
+    </message>
     <message id="replay_no_peak">
         <source></source>
         <translation>There is no later peak of processor use.</translation>

@@ -6,6 +6,7 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <algorithm>
+#include <variant>
 
 #include "consolidator/PI_Consolidator.h"
 #include "recording/RecordingTime.h"
@@ -68,10 +69,50 @@ void ReplayBar::AddControls() {
   connect(mLine, &QSlider::valueChanged, this,
           [this](int place) { GoTo(First() + static_cast<std::uint64_t>(place)); });
   addWidget(mLine);
-  mMoment = new QLabel(this);
-  mMoment->setTextFormat(Qt::PlainText);
-  mMoment->setMargin(4);
+  AddMoment();
+}
+
+void ReplayBar::AddMoment() {
+  mMoment = new QLineEdit(this);
+  mMoment->setAccessibleName(LocalizedString("replay_moment"));
+  auto* edit = new QAction(LocalizedString("replay_moment"), this);
+  edit->setShortcut(Qt::CTRL | Qt::Key_T);
+  mWindow.addAction(edit);
+  mMoment->setToolTip(LocalizedString("replay_moment_tip")
+                          .arg(edit->shortcut().toString(QKeySequence::NativeText)));
+  const auto widest = QString::fromStdString(RecordedMomentText(0));
+  mMoment->setFixedWidth(mMoment->fontMetrics().horizontalAdvance(widest) +
+                         mMoment->fontMetrics().averageCharWidth() * 4);
+  connect(edit, &QAction::triggered, this, [this] {
+    mMoment->setFocus(Qt::ShortcutFocusReason);
+    mMoment->selectAll();
+  });
+  connect(mMoment, &QLineEdit::textEdited, this, [this] { Play(false); });
+  connect(mMoment, &QLineEdit::returnPressed, this, [this] { GoToMoment(mMoment->text()); });
+  connect(mMoment, &QLineEdit::editingFinished, this, [this] {
+    mMoment->setModified(false);
+    ShowMoment();
+  });
   addWidget(mMoment);
+}
+
+void ReplayBar::Say(const std::string& words) {
+  mWindow.statusBar()->showMessage(PlainText(words), kMessageTime);
+}
+
+void ReplayBar::GoToMoment(const QString& text) {
+  auto& source = mPlayer.Source();
+  const auto now = mPlayer.Header().sequence;
+  const auto moment = ReadMoment(text.trimmed().toStdString(), source.Minutes().back().lastWall);
+  auto words = std::holds_alternative<std::string>(moment)
+                   ? std::get<std::string>(moment)
+                   : source.GoToTime(std::get<std::int64_t>(moment));
+  mMoment->setModified(false);
+  if (words.empty()) return GoTo(source.Header().sequence);
+  Say(words);
+  // The recording may stand nowhere now.
+  mPlayer.GoTo(now);
+  ShowMoment();
 }
 
 int ReplayBar::PlaceOf(std::uint64_t sequence) const {
@@ -85,8 +126,7 @@ void ReplayBar::GoTo(std::uint64_t sequence) {
   const bool isNext = sequence == mPlayer.Header().sequence + 1;
   // By way of the beat before, so that rates are those of the time.
   if (!isNext && sequence > First() && mPlayer.GoTo(sequence - 1).empty()) Update();
-  if (const auto words = mPlayer.GoTo(sequence); !words.empty())
-    mWindow.statusBar()->showMessage(PlainText(words), kMessageTime);
+  if (const auto words = mPlayer.GoTo(sequence); !words.empty()) Say(words);
   Update();
   ShowMoment();
 }
@@ -128,7 +168,7 @@ void ReplayBar::ShowMoment() {
   const QSignalBlocker blocker(mLine);
   mLine->setValue(PlaceOf(mPlayer.Header().sequence));
   const auto moment = QString::fromStdString(RecordedMomentText(mPlayer.Header().wall));
-  mMoment->setText(moment);
+  if (!mMoment->isModified()) mMoment->setText(moment);
   const auto file = QFileInfo(QFile::decodeName(mPlayer.Source().Path().c_str())).fileName();
   mWindow.setWindowTitle(LocalizedString("replay_title").arg(file, moment));
 }

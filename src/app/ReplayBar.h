@@ -2,11 +2,12 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QLabel>
+#include <QLineEdit>
 #include <QSlider>
 #include <QTimer>
 #include <QToolBar>
 #include <cstdint>
+#include <string>
 
 #include "app/ReplayRunLoop.h"
 #include "main_window/MainWindow.h"
@@ -28,10 +29,15 @@ class ReplayBar : public QToolBar {
   void GoTo(std::uint64_t sequence);
   void Step(int beats);
   void NextPeak();
+  /// To a moment as people write it; see ReadMoment. What cannot be read, and a moment of which
+  /// nothing was recorded, is said, and the one before stays.
+  void GoToMoment(const QString& text);
   void Play(bool plays);
 
  private:
   void AddControls();
+  void AddMoment();
+  void Say(const std::string& words);
   QAction* AddButton(const char* text, QStyle::StandardPixmap picture, const QKeySequence& keys);
   void Advance();
   /// The table shows where the player is, now.
@@ -47,7 +53,7 @@ class ReplayBar : public QToolBar {
   QAction* mPlay = nullptr;
   QComboBox* mSpeed = nullptr;
   QSlider* mLine = nullptr;
-  QLabel* mMoment = nullptr;
+  QLineEdit* mMoment = nullptr;
   QTimer mNext;
 };
 

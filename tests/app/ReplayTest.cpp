@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QSlider>
 #include <QStatusBar>
 #include <QTest>
@@ -111,6 +112,26 @@ TEST_F(ReplayTest, TheWindowShowsEachMomentAndDoesNothingToIt) {
   EXPECT_EQ(player.Header().sequence, 140u);
   EXPECT_EQ(window.statusBar()->currentMessage().toStdString(),
             "There is no later peak of processor use.");
+
+  // A moment as it is typed; what says none changes nothing.
+  auto* moment = bar->findChild<QLineEdit*>();
+  const auto type = [&](const char* text) {
+    moment->selectAll();
+    QTest::keyClicks(moment, QLatin1String(text));
+    QTest::keyClick(moment, Qt::Key_Return);
+    return player.Header().sequence;
+  };
+  EXPECT_EQ(type("-20s"), 140u);
+  EXPECT_EQ(type("-3m"), 60u);
+  EXPECT_TRUE(IsShown(200));
+  const auto shown = moment->text();
+  for (const char* none : {"noon", "1999-01-01"}) {
+    window.statusBar()->clearMessage();
+    EXPECT_EQ(type(none), 60u);
+    EXPECT_NE(window.statusBar()->currentMessage(), "");
+    EXPECT_EQ(moment->text(), shown);
+  }
+  EXPECT_TRUE(IsShown(200));
 
   // Played, it goes on by itself, and ends at the end.
   bar->findChild<QComboBox*>()->setCurrentIndex(2);
