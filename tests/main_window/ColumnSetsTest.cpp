@@ -118,7 +118,7 @@ TEST_F(ColumnSetsTest, EachKeepsItsColumnsWidthsOrderSortingAndShape) {
   EXPECT_TRUE(Keys().ends_with("pid_csw")) << Keys();
   EXPECT_EQ(Switches(), "CPU|List|All Processes");
   Press(1);
-  columns.TopLevelItem(kInternalMemGraph).trigger();
+  window->menus().columnMenus().TopLevelItem(kInternalMemGraph).trigger();
   Choose("menu_view_shape_applications");
   ChooseAndAgree("menu_set_restore", "Restore");
   EXPECT_EQ(Keys(), kStandard);

@@ -1,4 +1,5 @@
 // The process table and signals on the real machine.
+#include <dirent.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
@@ -8,15 +9,19 @@
 #include <sys/resource.h>
 #include <sys/syscall.h>
 #include <time.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -300,23 +305,28 @@ TEST(LiveProcesses, HaveNoUnknownParentsWhereOthersAreHidden) {
   EXPECT_EQ(complaint, "");
 }
 
-/// Descriptors of this process that lead to what is called so, or lies there. The table's thread of
-/// names may have the last one for a moment.
-std::size_t CountOpen(const std::string& path) {
-  std::size_t count = 0;
-  std::error_code full, gone;
-  std::filesystem::directory_iterator descriptors;
-  for (int tries = 0; tries < 1000; ++tries) {
-    descriptors = std::filesystem::directory_iterator("/proc/self/fd", full);
-    if (!full) break;
-    SleepMilliseconds(5);
+/// The folder of this process's descriptors, opened while there still are some.
+class OwnDescriptors {
+ public:
+  OwnDescriptors() : mFolder(::opendir("/proc/self/fd"), &::closedir) {}
+
+  /// Those that lead to what is called so, or lies there.
+  std::size_t CountTo(std::string_view path) {
+    std::size_t count = 0;
+    std::array<char, 4096> target;
+    ::rewinddir(mFolder.get());
+    while (const dirent* entry = ::readdir(mFolder.get())) {
+      const auto length =
+          ::readlinkat(::dirfd(mFolder.get()), entry->d_name, target.data(), target.size());
+      const auto size = static_cast<std::size_t>(std::max<ssize_t>(length, 0));
+      if (std::string_view(target.data(), size).starts_with(path)) ++count;
+    }
+    return count;
   }
-  if (full) throw std::filesystem::filesystem_error("/proc/self/fd", full);
-  for (const auto& entry : descriptors) {
-    if (std::filesystem::read_symlink(entry, gone).native().starts_with(path)) ++count;
-  }
-  return count;
-}
+
+ private:
+  std::unique_ptr<DIR, int (*)(DIR*)> mFolder;
+};
 
 TEST(LiveProcesses, AreNotMixedUpWhenAPidComesRound) {
   const TemporaryFolder folder;
@@ -331,7 +341,7 @@ TEST(LiveProcesses, AreNotMixedUpWhenAPidComesRound) {
     if (first.Pid() != 300) return "pid " + std::to_string(first.Pid());
     const auto before = Find(table.Read(), 300);
     if (!before || std::string_view(before->commandName) != "first") return "no first";
-    if (CountOpen(folder.Path() + "/300") != 1) return "not kept open";
+    if (OwnDescriptors().CountTo(folder.Path() + "/300") != 1) return "not kept open";
     first.End();
     // Into another tick.
     SleepMilliseconds(40);
@@ -356,11 +366,13 @@ TEST(LiveProcesses, AreAllShownWithFewDescriptors) {
               ::setrlimit(RLIMIT_NOFILE, &limit);
               std::vector<Child> children;
               for (int i = 0; i < 100; ++i) children.emplace_back();
+              OwnDescriptors descriptors;
               LinuxProcessTable table;
               // Then other code takes all that are left.
               for (int pass = 0; pass < 4; ++pass) {
                 const auto entries = table.Read();
-                if (CountOpen("/proc/") > DescriptorLimit() / 2 + 3) return "too many kept";
+                if (descriptors.CountTo("/proc/") > DescriptorLimit() / 2 + 3)
+                  return "too many kept";
                 for (const auto& child : children) {
                   if (!Find(entries, child.Pid())) return "missing in pass " + std::to_string(pass);
                 }

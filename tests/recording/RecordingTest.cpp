@@ -72,7 +72,7 @@ class RecordingTest : public ConsolidatorTest {
     auto& table = machine.processTable;
     auto& busy = *table.Find(100);
     busy.UseCPU(30 + round);
-    busy["pid_disk_read"] += 123'456'789 * round;
+    busy["pid_disk_read"] += 123'456'789LL * round;
     busy["pid_vsz"] = 0x30000000 + 4096LL * (round % 7);
     busy["pid_rsz"] = round % 5 == 0 ? 0 : 8192 * round;
     busy["pid_state"] = round % 2 == 0 ? 'R' : 'S';
