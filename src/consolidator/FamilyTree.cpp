@@ -6,7 +6,8 @@ namespace lurkwell {
 namespace {
 
 std::size_t Slot(int place) {
-  return static_cast<std::size_t>(place + 1);
+  const int slot = place + 1;
+  return static_cast<std::size_t>(slot);
 }
 
 }  // namespace

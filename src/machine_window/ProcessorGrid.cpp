@@ -96,8 +96,9 @@ QRectF ProcessorGrid::CellOf(std::size_t place) const {
   const double wide = area.width() / columns;
   const double high = area.height() / rows;
   const double gap = std::min(kGap, std::min(wide, high) / 6);
-  return {area.left() + wide * (number % columns), area.top() + high * (number / columns),
-          wide - gap, high - gap};
+  const int row = number / columns;
+  const int column = number % columns;
+  return {area.left() + wide * column, area.top() + high * row, wide - gap, high - gap};
 }
 
 std::optional<std::size_t> ProcessorGrid::CellAt(const QPointF& place) const {

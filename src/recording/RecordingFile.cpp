@@ -214,6 +214,7 @@ RecordingFile::Outcome RecordingFile::CloseMinute() {
     const auto data = Compressed(BeatEncoder().Encode(beats));
     if (data.empty()) return {"there is not enough memory", true};
     std::vector<BeatHeader> headers;
+    headers.reserve(beats.size());
     for (const auto& beat : beats) headers.push_back(beat.header);
     if (!mDatabase
              .Prepare("INSERT INTO block(session, layout, first_sequence, last_sequence, "

@@ -46,7 +46,7 @@ QString WidestFigure(GraphUnit unit) {
 /// In minutes where the whole span has some.
 QString AgoText(std::int64_t milliseconds, std::int64_t span) {
   if (milliseconds == 0) return LocalizedString("graph_now");
-  const bool inMinutes = span >= 2 * 60'000;
+  const bool inMinutes = span >= 120'000;
   const double ago = static_cast<double>(milliseconds) / (inMinutes ? 60'000 : 1000);
   return LocalizedString(inMinutes ? "graph_minutes_ago" : "graph_seconds_ago")
       .arg(QLocale::c().toString(ago, 'g', 3));

@@ -35,6 +35,7 @@ std::vector<xcb_window_t> Closeable(XConnection& connection,
                                     const std::vector<xcb_window_t>& windows) {
   const auto deadline = XConnection::BatchDeadline();
   std::vector<xcb_get_property_cookie_t> asked;
+  asked.reserve(windows.size());
   for (const xcb_window_t window : windows) {
     asked.push_back(connection.AskProperty(window, connection.Atom(XAtom::kProtocols), 32));
   }
@@ -71,6 +72,7 @@ xcb_window_t WhichTakesKeyboard(XConnection& connection, const std::vector<xcb_w
   constexpr std::uint32_t kHasInput = 1;
   const auto deadline = XConnection::BatchDeadline();
   std::vector<xcb_get_property_cookie_t> asked;
+  asked.reserve(windows.size());
   for (const xcb_window_t window : windows) {
     asked.push_back(connection.AskProperty(window, XCB_ATOM_WM_HINTS, 9));
   }
