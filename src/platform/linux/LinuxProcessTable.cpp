@@ -65,6 +65,7 @@ std::span<const ProcessTableEntry> LinuxProcessTable::Read(const Wanted& wanted)
     return LastPassAgain();
   }
   NoteNewest(last);
+  mReader.Expect(mListed.size());
   if (!IsListedAlready()) TakeOverListed();
   if (!LookAtAll(wanted, isTold)) LeaveOutTheGone();
   FinishPass();

@@ -10,10 +10,12 @@
 #include <time.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstring>
+#include <limits>
 #include <string_view>
 
 #include "platform/ProcStat.h"
@@ -124,6 +126,11 @@ std::optional<std::int32_t> ProcFiles::LastPid() {
   if (bytes <= 0 || text[static_cast<std::size_t>(bytes) - 1] != '\n') return std::nullopt;
   const std::string_view line(text.data(), static_cast<std::size_t>(bytes) - 1);
   return ParsePid(line.substr(line.rfind(' ') + 1));
+}
+
+void ProcFiles::MakeRoomForDescriptors(std::size_t count) const {
+  const auto last = std::min<std::size_t>(count, std::numeric_limits<int>::max());
+  FileDescriptor(::fcntl(mRoot.Get(), F_DUPFD_CLOEXEC, static_cast<int>(last)));
 }
 
 std::optional<std::uint64_t> ProcFiles::RunTime(std::int32_t pid) {

@@ -81,6 +81,11 @@ class ProcFiles {
   /// process was born. Nothing where the tree does not tell.
   virtual std::optional<std::int32_t> LastPid();
 
+  /// Has the kernel make room for so many descriptors at once: a table that doubles again and again
+  /// makes a program of several threads wait for milliseconds each time. What the limit does not
+  /// allow is left.
+  void MakeRoomForDescriptors(std::size_t count) const;
+
   /// ReadRunTime, ReadScheduling and ReadAssignment where the tree's pids are those of the calling
   /// process's namespace, else nothing.
   virtual std::optional<std::uint64_t> RunTime(std::int32_t pid);

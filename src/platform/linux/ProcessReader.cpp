@@ -93,6 +93,13 @@ void ProcessReader::BeginPass() {
   mFigureFiles.BeginPass();
 }
 
+void ProcessReader::Expect(std::size_t processes) {
+  const auto kept = std::min(processes, mMostKept);
+  if (kept <= mExpected) return;
+  mExpected = kept;
+  mFiles->MakeRoomForDescriptors(kept);
+}
+
 ProcessReader::Outcome ProcessReader::Look(ProcessTableEntry& entry, KnownProcess& known,
                                            FigureSources sources) {
   // The line in the table tells when it has become another program, or its memory another.

@@ -38,6 +38,8 @@ class ProcessReader {
 
   /// A pass begins.
   void BeginPass();
+  /// How many processes the pass has.
+  void Expect(std::size_t processes);
 
   /// `kGone` also where the text is not understood; `kShort` when the machine has no descriptor or
   /// memory to spare: then all stays as it was.
@@ -101,6 +103,7 @@ class ProcessReader {
   std::int64_t mNow = 0;
   std::int64_t mMillisecondsSinceBoot = 0;
   std::size_t mMostKept = 0;
+  std::size_t mExpected = 0;
   std::size_t mKept = 0;
   bool mHaveParentsChanged = false;
   std::vector<std::int32_t> mLostParents;
