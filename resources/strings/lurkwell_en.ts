@@ -4109,6 +4109,14 @@ Free: %5</translation>
         <source></source>
         <translation>The processes are not recorded.</translation>
     </message>
+    <message id="record_behind">
+        <source></source>
+        <translation>The disk has not yet taken all that was recorded.</translation>
+    </message>
+    <message id="record_behind_message">
+        <source></source>
+        <translation>The rest is written while Lurkwell runs. Until then the file cannot be recorded to again.</translation>
+    </message>
     <message id="record_status">
         <source></source>
         <translation>Recording to %1</translation>

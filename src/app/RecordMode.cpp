@@ -1,5 +1,6 @@
 #include "app/RecordMode.h"
 
+#include <chrono>
 #include <string>
 
 #include "app/CommandLine.h"
@@ -14,6 +15,9 @@
 
 namespace lurkwell {
 namespace {
+
+/// For a disk that has fallen behind, or the last minute's compression on a slow machine.
+constexpr std::chrono::seconds kLongestClosing{60};
 
 RecorderOptions OptionsOf(const CommandLine& commandLine) {
   RecorderOptions options;
@@ -58,11 +62,14 @@ int RunRecordMode(const CommandLine& commandLine) {
   QuitHelperDaemon();
   RemoveProcessInformationClient(recorder);
   const auto counts = recorder->Counted();
-  const auto progress = recorder->Close();
+  const auto progress = recorder->Close(kLongestClosing);
   SayWhatWasRecorded(counts, progress);
+  if (!progress.isClosed)
+    Diagnose("the disk has not taken the last %llu beats in %d seconds", Plain(progress.waiting),
+             static_cast<int>(kLongestClosing.count()));
   ProcessInformationClient::DeleteAllProcessInformationClients();
   DestroyProcessInformationConsolidator();
-  return progress.trouble.empty() ? kExitSuccess : kExitFailure;
+  return progress.trouble.empty() && progress.isClosed ? kExitSuccess : kExitFailure;
 }
 
 }  // namespace lurkwell

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <chrono>
 #include <string>
 #include <utility>
 
@@ -14,12 +15,17 @@
 #include "windows/PropertyText.h"
 
 namespace lurkwell {
+namespace {
+
+constexpr std::chrono::milliseconds kShortPatience{100};
+
+}  // namespace
 
 RecordingSwitch::RecordingSwitch() = default;
 RecordingSwitch::~RecordingSwitch() = default;
 
 void RecordingSwitch::Toggle(QWidget* window) {
-  if (mRecorder != nullptr) return End();
+  if (mRecorder != nullptr) return Stop();
   auto* dialog = new QFileDialog(window, LocalizedString("record_title"), QDir::homePath(),
                                  LocalizedString("record_filter"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -38,20 +44,31 @@ void RecordingSwitch::Begin(const QString& path) {
   std::string words;
   mRecorder = Recorder::Create(QFile::encodeName(path).toStdString(), {}, words);
   if (mRecorder == nullptr) {
-    AlertText text;
-    text.title = LocalizedString("record_failed").toStdString();
-    text.message = std::move(words);
-    text.otherButton = "OK";
-    mComplaint = TheMachine().alerts.Ask(text, [](AlertAnswer) {});
-    return;
+    return Complain("record_failed", std::move(words));
   }
   mPath = path;
   AddProcessInformationClient(mRecorder);
   RequestUpdate(mRecorder);
 }
 
+/// The user sees the window wait.
+void RecordingSwitch::Stop() {
+  const auto progress = mRecorder->Close(kShortPatience);
+  End();
+  if (!progress.isClosed)
+    Complain("record_behind", LocalizedString("record_behind_message").toStdString());
+}
+
 void RecordingSwitch::End() {
   delete std::exchange(mRecorder, nullptr);
+}
+
+void RecordingSwitch::Complain(const char* title, std::string message) {
+  AlertText text;
+  text.title = LocalizedString(title).toStdString();
+  text.message = std::move(message);
+  text.otherButton = "OK";
+  mComplaint = TheMachine().alerts.Ask(text, [](AlertAnswer) {});
 }
 
 QString RecordingSwitch::Status() const {

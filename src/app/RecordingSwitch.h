@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <memory>
+#include <string>
 
 #include "platform/Alerts.h"
 
@@ -23,13 +24,17 @@ class RecordingSwitch {
   void Toggle(QWidget* window);
   /// Begins, or says in an alert why not. A recording that is there is gone on with.
   void Begin(const QString& path);
-  /// Waits for what is still to be written. Before the consolidator's clients go.
+  /// Waits five seconds at most for what is still to be written. Before the consolidator's clients
+  /// go.
   void End();
 
   /// What is to be said about it; empty while nothing is recorded.
   QString Status() const;
 
  private:
+  void Stop();
+  void Complain(const char* title, std::string message);
+
   /// One of the consolidator's clients; null while nothing is recorded.
   Recorder* mRecorder = nullptr;
   QString mPath;

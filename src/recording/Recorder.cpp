@@ -52,10 +52,13 @@ Recorder* Recorder::Create(const std::string& path, const RecorderOptions& optio
     words = std::move(*complaint);
     return nullptr;
   }
-  return new Recorder(
-      std::make_unique<RecordingWriter>(std::move(std::get<std::unique_ptr<RecordingFile>>(file)),
-                                        options.limits),
-      options);
+  auto recorder = std::unique_ptr<Recorder>(
+      new Recorder(std::make_unique<RecordingWriter>(
+                       std::move(std::get<std::unique_ptr<RecordingFile>>(file)), options.limits),
+                   options));
+  if (recorder->mThread.Exists()) return recorder.release();
+  words = "cannot record: the system has no thread to spare";
+  return nullptr;
 }
 
 Recorder::Recorder(std::unique_ptr<RecordingWriter> writer, const RecorderOptions& options)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -46,8 +47,8 @@ class Recorder final : public ProcessInformationClient {
 
   /// As of the beats that the disk has taken.
   RecordingProgress Progress() const { return mThread.Progress(); }
-  /// Writes what is still waiting, waits for the disk, and records no more.
-  RecordingProgress Close() { return mThread.Close(); }
+  /// Records no more, and waits as RecorderThread::Close does.
+  RecordingProgress Close(std::chrono::milliseconds patience) { return mThread.Close(patience); }
   const Counts& Counted() const { return mCounts; }
 
  private:

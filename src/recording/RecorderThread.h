@@ -1,23 +1,25 @@
 #pragma once
 
-#include <condition_variable>
-#include <deque>
+#include <chrono>
 #include <memory>
 #include <thread>
 
-#include "platform/Mutex.h"
 #include "recording/RecordingWriter.h"
 
 namespace lurkwell {
 
-/// Writes beats in the background, so that no heartbeat waits for a disk. Main thread only, but for
-/// what it says of itself.
+/// Writes beats in the background, so that nothing waits for a disk but who says for how long. Main
+/// thread only.
 class RecorderThread {
  public:
   explicit RecorderThread(std::unique_ptr<RecordingWriter> writer);
-  ~RecorderThread() { Close(); }
+  /// Gives the disk five seconds for what is left.
+  ~RecorderThread();
   RecorderThread(const RecorderThread&) = delete;
   RecorderThread& operator=(const RecorderThread&) = delete;
+
+  /// False where the system has no thread to spare: then nothing is written.
+  bool Exists() const { return mThread.joinable(); }
 
   /// Never waits. Where the disk is far behind, this beat's figures go with the next one, and the
   /// beat is counted as lost.
@@ -25,22 +27,16 @@ class RecorderThread {
 
   RecordingProgress Progress() const;
 
-  /// Writes what is still waiting, closes the file and waits for that. Nothing is appended then.
-  RecordingProgress Close();
+  /// Has all that waits be written and the file closed, and waits for that, but no longer than
+  /// `patience`: then the thread goes on by itself, for as long as the program runs. Nothing is
+  /// appended from now on.
+  RecordingProgress Close(std::chrono::milliseconds patience);
 
  private:
-  void Work();
-  void Write(Beat beat);
+  class Shared;
 
-  /// Null once it is closed.
-  std::unique_ptr<RecordingWriter> mWriter;
-  mutable Mutex mMutex;
-  std::condition_variable mNews;
-  std::deque<Beat> mWaiting LURKWELL_GUARDED_BY(mMutex);
-  RecordingProgress mProgress LURKWELL_GUARDED_BY(mMutex);
-  bool mIsWriting LURKWELL_GUARDED_BY(mMutex) = false;
-  bool mEnds LURKWELL_GUARDED_BY(mMutex) = false;
-  /// Without one, where the system has none to spare, beats are written at once.
+  /// The thread's as well, which outlives this object when the disk hangs.
+  std::shared_ptr<Shared> mShared;
   std::thread mThread;
 };
 

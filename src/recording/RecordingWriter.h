@@ -20,6 +20,8 @@ struct RecordingProgress {
   std::uint64_t waiting = 0;
   /// Why nothing is written at present; empty while all is well.
   std::string trouble;
+  /// All has been written and the file is closed. Only a RecorderThread's progress has it.
+  bool isClosed = false;
 };
 
 /// Turns beats into the file's minutes: each begins with every process there is, so that it can be

@@ -9,6 +9,7 @@
 #include <QSlider>
 #include <QStatusBar>
 #include <QTest>
+#include <chrono>
 #include <memory>
 #include <string>
 #include <thread>
@@ -49,7 +50,7 @@ class ReplayTest : public testing::Test {
       machine.runLoop.RunFor(2000);
       while (recorder->Progress().waiting > 0) std::this_thread::yield();
     }
-    recorder->Close();
+    EXPECT_TRUE(recorder->Close(std::chrono::minutes(1)).isClosed);
     ProcessInformationClient::DeleteAllProcessInformationClients();
     DestroyProcessInformationConsolidator();
   }

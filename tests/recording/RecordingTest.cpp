@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <ctime>
 #include <fstream>
 #include <limits>
@@ -46,7 +47,7 @@ class RecordingTest : public ConsolidatorTest {
 
   void Stop(Recorder* recorder) {
     RemoveProcessInformationClient(recorder);
-    recorder->Close();
+    EXPECT_TRUE(recorder->Close(std::chrono::minutes(1)).isClosed);
   }
 
   /// All that is shown of the recording, a text for each of its beats.
@@ -289,6 +290,36 @@ TEST_F(RecordingTest, DamageEndsNothingElse) {
     testing::internal::GetCapturedStderr();
   }
   EXPECT_GT(readable, 20);
+}
+
+TEST_F(RecordingTest, ADiskThatDoesNotTakeItIsWaitedForAsLongAsSaid) {
+  Start();
+  auto* recorder = Record();
+  Run(2000);
+  Database other(path, Database::Use::kWrite);
+  ASSERT_TRUE(other.Run("BEGIN IMMEDIATE"));
+  // More than wait for the disk at a time: the figures of some go with the beat after them.
+  for (int beat = 0; beat < 40; ++beat) {
+    machine.processTable.Birth(1000 + beat, "born", 100);
+    machine.runLoop.RunFor(2000);
+  }
+  RemoveProcessInformationClient(recorder);
+  const auto before = std::chrono::steady_clock::now();
+  const auto behind = recorder->Close(std::chrono::milliseconds(20));
+  EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(1));
+  EXPECT_FALSE(behind.isClosed);
+  EXPECT_GT(behind.waiting, 30u);
+  ASSERT_TRUE(other.Run("COMMIT"));
+  // The thread goes on by itself, whoever lets go of the recorder.
+  while (!recorder->Progress().isClosed) std::this_thread::yield();
+  const auto progress = recorder->Progress();
+  EXPECT_GT(progress.lost, 0u);
+  EXPECT_GE(progress.written + progress.lost, 40u);
+  RecordingPlayer player(OpenRecording(path));
+  std::uint64_t lost = 0;
+  while (player.Next()) lost += player.Header().lost;
+  EXPECT_EQ(lost, progress.lost);
+  for (int beat = 0; beat < 40; ++beat) EXPECT_NE(player.Find(1000 + beat), nullptr) << beat;
 }
 
 TEST(BeatCodecTest, AnyBeatsComeBack) {
