@@ -15,7 +15,7 @@ std::string ReplayedBeats::Begin(std::int64_t wall) {
 }
 
 bool ReplayedBeats::GoOn() {
-  if (!IsPrinted()) return mPlayer.Next();
+  if (!IsShown()) return mPlayer.Next();
   const auto from = mPlayer.Clock().Now();
   do {
     if (!mPlayer.Next()) return false;

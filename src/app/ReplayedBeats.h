@@ -7,7 +7,7 @@
 
 namespace lurkwell {
 
-/// Which beats of a recording are printed: from one moment on, some time apart. The beat before the
+/// Which beats of a recording are shown: from one moment on, some time apart. The beat before the
 /// first one is gone through, too, so that there are rates.
 class ReplayedBeats {
  public:
@@ -20,7 +20,9 @@ class ReplayedBeats {
   /// To the next one; false at the recording's end.
   bool GoOn();
 
-  bool IsPrinted() const { return mPlayer.Header().sequence >= mFirst; }
+  bool IsShown() const { return mPlayer.Header().sequence >= mFirst; }
+  /// The first one's number.
+  std::uint64_t First() const { return mFirst; }
   /// When the first one was.
   std::int64_t BeginsAt() const { return mBeginsAt; }
 

@@ -125,40 +125,58 @@ int RunInTerminal(const CommandLine& commandLine) {
   return records ? RunRecordMode(commandLine) : RunPrintMode(commandLine);
 }
 
-/// A recording as a program in a terminal sees it.
-class RecordedTerminalMachine {
+/// What every recorded machine has. What is missing is the user's side: how time passes, what is
+/// remembered, what is started, how a question is asked.
+class RecordedMachine {
  public:
-  RecordedTerminalMachine(std::unique_ptr<Recording> recording, std::int64_t millisecondsBetween)
-      : player(std::move(recording)), beats(player, millisecondsBetween) {}
+  explicit RecordedMachine(std::unique_ptr<Recording> recording) : player(std::move(recording)) {}
 
   RecordingPlayer player;
-  ReplayedBeats beats;
-  RecordedRunLoop runLoop{player, [this] { return beats.GoOn(); }};
-  PropertyListDomain stored;
-  RecordedMachinePreferences preferenceDomain{stored};
+
+ protected:
+  Machine With(RunLoop& runLoop, PreferenceDomain& preferences, Tools& tools, Alerts& alerts,
+               Screen& screen) {
+    return {player.Clock(), runLoop,        preferences,   processTable,   processManager,
+            iconServices,   hostStatistics, tools,         signals,        namedPipes,
+            authorization,  bundle,         alerts,        logFiles,       hotKeys,
+            screen,         eventBus,       costlyFigures, processDetails, scheduler};
+  }
+
+ private:
   RecordedProcessTable processTable{player};
   NoProcessManager processManager;
   NoIconServices iconServices;
   RecordedHostStatistics hostStatistics{player};
-  NoTools tools;
   NoSignals signals;
   LinuxNamedPipes namedPipes;
   LinuxBundle bundle;
   PolkitAuthorization authorization{bundle, PolkitAuthorization::Consent::kOnlyIfGiven};
-  TerminalAlerts alerts;
   LinuxLogFiles logFiles;
   NoHotKeys hotKeys;
-  NoScreen screen;
   NoEventBus eventBus;
   UnrecordedFigures costlyFigures;
   UnrecordedDetails processDetails;
   NoScheduler scheduler;
+};
 
-  Machine services{player.Clock(), runLoop,       preferenceDomain, processTable,
-                   processManager, iconServices,  hostStatistics,   tools,
-                   signals,        namedPipes,    authorization,    bundle,
-                   alerts,         logFiles,      hotKeys,          screen,
-                   eventBus,       costlyFigures, processDetails,   scheduler};
+/// A recording as a program in a terminal sees it.
+class RecordedTerminalMachine : public RecordedMachine {
+ public:
+  RecordedTerminalMachine(std::unique_ptr<Recording> recording, std::int64_t millisecondsBetween)
+      : RecordedMachine(std::move(recording)), beats(player, millisecondsBetween) {}
+
+  ReplayedBeats beats;
+
+ private:
+  RecordedRunLoop runLoop{player, [this] { return beats.GoOn(); }};
+  PropertyListDomain stored;
+  RecordedMachinePreferences preferences{stored};
+  NoTools tools;
+  TerminalAlerts alerts;
+  NoScreen screen;
+
+ public:
+  Machine services = With(runLoop, preferences, tools, alerts, screen);
 };
 
 /// A recording and the moment that is asked for.
@@ -201,58 +219,38 @@ int PrintRecording(CommandLine commandLine) {
   Diagnose("as of %s", RecordedMomentText(machine.beats.BeginsAt()).c_str());
   if (!commandLine.count) commandLine.count = 1;
   const MachineInstallation installation(machine.services);
-  return RunPrintMode(commandLine, [&machine] { return machine.beats.IsPrinted(); });
+  return RunPrintMode(commandLine, [&machine] { return machine.beats.IsShown(); });
 }
 
 /// A recording with the desktop's windows. What is set counts until the end.
-class RecordedDesktopMachine {
+class RecordedDesktopMachine : public RecordedMachine {
  public:
-  explicit RecordedDesktopMachine(std::unique_ptr<Recording> recording)
-      : player(std::move(recording)) {}
+  using RecordedMachine::RecordedMachine;
 
-  RecordingPlayer player;
+ private:
   LinuxClock clock;
   QtRunLoop real{clock};
+
+ public:
   ReplayRunLoop runLoop{real, player};
+
+ private:
   UnstoredPreferences stored;
-  RecordedMachinePreferences preferenceDomain{stored};
-  RecordedProcessTable processTable{player};
-  NoProcessManager processManager;
-  NoIconServices iconServices;
-  RecordedHostStatistics hostStatistics{player};
+  RecordedMachinePreferences preferences{stored};
   /// For other instances; ps is left out.
   LinuxTools tools;
-  NoSignals signals;
-  LinuxNamedPipes namedPipes;
-  LinuxBundle bundle;
-  PolkitAuthorization authorization{bundle, PolkitAuthorization::Consent::kOnlyIfGiven};
   DesktopAlerts alerts;
-  LinuxLogFiles logFiles;
-  NoHotKeys hotKeys;
   DesktopScreen screen{DesktopSettings::FromEnvironment()};
-  NoEventBus eventBus;
-  UnrecordedFigures costlyFigures;
-  UnrecordedDetails processDetails;
-  NoScheduler scheduler;
 
-  Machine services{player.Clock(), runLoop,       preferenceDomain, processTable,
-                   processManager, iconServices,  hostStatistics,   tools,
-                   signals,        namedPipes,    authorization,    bundle,
-                   alerts,         logFiles,      hotKeys,          screen,
-                   eventBus,       costlyFigures, processDetails,   scheduler};
+ public:
+  Machine services = With(runLoop, preferences, tools, alerts, screen);
 };
 
 /// A QApplication exists.
 int ShowRecording(const CommandLine& commandLine, Replay replay, EndingSignals& signals) {
   RecordedDesktopMachine machine(std::move(replay.recording));
-  auto& source = machine.player.Source();
-  std::string words = source.GoToTime(replay.moment);
-  const auto first = words.empty() ? source.Header().sequence : 0;
-  const auto before = words.empty() ? source.Preceding() : std::nullopt;
-  // The beat before is shown first, so that there are rates.
-  if (words.empty() && (!before || !machine.player.GoTo(*before).empty()))
-    words = machine.player.GoTo(first);
-  if (!words.empty()) {
+  ReplayedBeats beats(machine.player, 0);
+  if (const auto words = beats.Begin(replay.moment); !words.empty()) {
     Diagnose("%s", words.c_str());
     return kExitFailure;
   }
@@ -261,7 +259,7 @@ int ShowRecording(const CommandLine& commandLine, Replay replay, EndingSignals& 
   signals.Watch([&machine] { machine.runLoop.Stop(); });
   return RunWindowMode(commandLine, [&](MainWindow& window) {
     auto* bar = new ReplayBar(machine.player, machine.runLoop, window);
-    QTimer::singleShot(0, bar, [bar, first] { bar->GoTo(first); });
+    QTimer::singleShot(0, bar, [bar, first = beats.First()] { bar->GoTo(first); });
   });
 }
 
