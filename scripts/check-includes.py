@@ -16,6 +16,7 @@ FLOORS = [
     {"consolidator"},
     {"process_control"},
     {"query"},
+    {"alerts"},
     {"recording"},
     {"resources"},  # beside src
     {"windows"},  # what every window uses
@@ -31,7 +32,8 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
 # The engine links without the toolkit.
 TOOLKIT = re.compile(r'^\s*#\s*include\s*<(Q[A-Za-z]+|Qt[A-Za-z]*/.*)>')
 WITHOUT_TOOLKIT = {"platform", "platform/linux", "platform/simulated", "preferences", "consolidator",
-                   "channel", "process_control", "query", "recording", "helper", "permission_step"}
+                   "channel", "process_control", "query", "alerts", "recording", "helper",
+                   "permission_step"}
 
 
 # Settings by any text for a key; all others name them by the table's.

@@ -117,6 +117,29 @@ bool Query::Term::IsFulfilledBy(const QuerySubject& subject) const {
   return verdict && *verdict != isNegated;
 }
 
+std::optional<bool> Query::Term::VerdictOn(const QuerySubject& subject) const {
+  if (const auto verdict = Verdict(subject)) return *verdict != isNegated;
+  const TypedValue value = subject.ValueOf(property);
+  const auto* why = std::get_if<Missing>(&value);
+  const bool isNothing = why == nullptr || *why == Missing::kNone;
+  return isNothing ? std::optional(false) : std::nullopt;
+}
+
+std::optional<bool> Query::VerdictOn(const QuerySubject& subject) const {
+  std::optional<bool> any = mAlternatives.empty();
+  for (const auto& terms : mAlternatives) {
+    std::optional<bool> all = true;
+    for (const auto& term : terms) {
+      const auto its = term.VerdictOn(subject);
+      if (its != true) all = its;
+      if (its == false) break;
+    }
+    if (all == true) return true;
+    if (!all) any = all;
+  }
+  return any;
+}
+
 bool Query::IsFulfilledBy(const QuerySubject& subject) const {
   const auto holds = [&](const Term& term) { return term.IsFulfilledBy(subject); };
   return mAlternatives.empty() || std::ranges::any_of(mAlternatives, [&](const auto& terms) {

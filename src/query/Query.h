@@ -69,6 +69,12 @@ class Query {
   /// there are now, ps columns included. Main thread.
   static std::variant<Query, QueryError> Read(std::string_view text);
 
+  /// Reads a query that is part of a longer text: from the byte `at` up to the first of the words
+  /// `ends` that stands by itself, or to the end of the text. `at` is then where it has stopped.
+  /// Positions in an error are those in the whole text. Main thread.
+  static std::variant<Query, QueryError> ReadPart(std::string_view text, std::size_t& at,
+                                                  std::span<const std::string_view> ends);
+
   Query();
   ~Query();
   Query(Query&& other) noexcept;
@@ -80,6 +86,10 @@ class Query {
   std::span<const std::string> Properties() const { return mProperties; }
 
   bool IsFulfilledBy(const QuerySubject& subject) const;
+
+  /// Whether it is fulfilled; nothing when that depends on a value that is not known, not allowed
+  /// or not counted. Where there is nothing of the kind, a condition on it is not fulfilled.
+  std::optional<bool> VerdictOn(const QuerySubject& subject) const;
 
  private:
   friend class QueryReader;
@@ -101,6 +111,8 @@ struct Query::Term {
   std::vector<double> numbers;
 
   bool IsFulfilledBy(const QuerySubject& subject) const;
+  /// See Query::VerdictOn.
+  std::optional<bool> VerdictOn(const QuerySubject& subject) const;
 
  private:
   bool Compares(double value, bool isFraction) const;

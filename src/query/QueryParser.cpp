@@ -130,10 +130,15 @@ struct Written {
 /// Reads from left to right; the first mistake ends it.
 class QueryReader {
  public:
-  explicit QueryReader(std::string_view text) : mText(text) {}
+  explicit QueryReader(std::string_view text, std::size_t at = 0,
+                       std::span<const std::string_view> ends = {})
+      : mText(text), mAt(at), mEnds(ends) {}
+
+  std::size_t StoppedAt() const { return mAt; }
 
   std::variant<Query, QueryError> Read() {
-    for (SkipBlanks(); !mError && mAt < mText.size(); SkipBlanks()) ReadTermOrBar();
+    for (SkipBlanks(); !mError && mAt < mText.size() && !IsAtEndWord(); SkipBlanks())
+      ReadTermOrBar();
     if (!mError && mBarAt) Fail(QueryError::Kind::kNoTerm, *mBarAt, mBarLength, "|");
     if (mError) return std::move(*mError);
     return std::move(mQuery);
@@ -150,6 +155,10 @@ class QueryReader {
 
   void SkipBlanks() {
     while (mAt < mText.size() && IsSpace(mText[mAt])) ++mAt;
+  }
+  bool IsAtEndWord() const {
+    const auto word = mText.substr(mAt, WordEnd(mAt) - mAt);
+    return std::ranges::find(mEnds, word) != mEnds.end();
   }
   bool IsAt(char c) const { return mAt < mText.size() && mText[mAt] == c; }
   std::size_t WordEnd(std::size_t from) const {
@@ -329,7 +338,8 @@ class QueryReader {
   }
 
   std::string_view mText;
-  std::size_t mAt = 0;
+  std::size_t mAt;
+  std::span<const std::string_view> mEnds;
   /// An "or" that waits for what is behind it.
   std::optional<std::size_t> mBarAt;
   std::size_t mBarLength = 0;
@@ -339,6 +349,14 @@ class QueryReader {
 
 std::variant<Query, QueryError> Query::Read(std::string_view text) {
   return QueryReader(text).Read();
+}
+
+std::variant<Query, QueryError> Query::ReadPart(std::string_view text, std::size_t& at,
+                                                std::span<const std::string_view> ends) {
+  QueryReader reader(text, at, ends);
+  auto query = reader.Read();
+  at = reader.StoppedAt();
+  return query;
 }
 
 }  // namespace lurkwell

@@ -1,9 +1,10 @@
-// The filter's field and --filter: any text is a query or a mistake inside the text.
+// The filter's field, --filter and rules of alerts: any text is one, or a mistake inside the text.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
 
+#include "alerts/AlertRule.h"
 #include "query/Query.h"
 #include "query/TextPattern.h"
 
@@ -34,6 +35,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::abort();
   } else {
     std::get<Query>(query).IsFulfilledBy(Echo(text));
+    std::get<Query>(query).VerdictOn(Echo(text));
+  }
+  const auto rule = AlertRule::Read(text);
+  if (const auto* error = std::get_if<AlertRuleError>(&rule)) {
+    if (error->position + error->length > size) std::abort();
+  } else if (std::get<AlertRule>(rule).hold.count() < 0) {
+    std::abort();
   }
   return 0;
 }

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/Clock.h"
 #include "query/Query.h"
@@ -72,6 +74,36 @@ TEST(Query, HoldsOrNot) {
         "pid_syscalls_unix>5", "-pid_syscalls_unix>5", "pid_vsz<1G", "-pid_vsz<1G"}) {
     EXPECT_FALSE(Fulfils(server, text)) << text;
   }
+}
+
+TEST(Query, SaysWhereItCannotTell) {
+  const auto server = Server();
+  const auto verdict = [&](const char* text) {
+    return std::get<Query>(Query::Read(text)).VerdictOn(server);
+  };
+  EXPECT_EQ(verdict(""), true);
+  EXPECT_EQ(verdict("name:ssh mem>499M"), true);
+  EXPECT_EQ(verdict("-name:ssh | mem>1G"), false);
+  // One part decides, whatever is not known.
+  EXPECT_EQ(verdict("pid_syscalls_unix>5 name:post"), false);
+  EXPECT_EQ(verdict("pid_syscalls_unix>5 | name:ssh"), true);
+  for (const char* text : {"pid_syscalls_unix>5", "-pid_syscalls_unix>5", "ssh pid_vsz<1G",
+                           "pid_vsz<1G | name:post", "name:post | pid_vsz<1G"})
+    EXPECT_EQ(verdict(text), std::nullopt) << text;
+  // There is nothing that could be compared.
+  EXPECT_EQ(verdict("listens>22"), false);
+}
+
+TEST(Query, IsPartOfALongerText) {
+  constexpr std::string_view kText = "any cpu>5 \"for\" name:for for 5m";
+  constexpr std::string_view kEnds[] = {"until", "for"};
+  std::size_t at = 3;
+  auto query = std::get<Query>(Query::ReadPart(kText, at, kEnds));
+  EXPECT_EQ(kText.substr(at), "for 5m");
+  EXPECT_EQ(query.Properties().size(), 2u);
+  at = 3;
+  const auto error = std::get<QueryError>(Query::ReadPart("any cpu>x for 5m", at, kEnds));
+  EXPECT_EQ(error.position, 8u);
 }
 
 TEST(Query, LettersAreTheSameInEveryScript) {
