@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "main_window/NameList.h"
+#include "windows/NameList.h"
 #include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"

@@ -7,9 +7,10 @@
 #include <QShortcut>
 #include <utility>
 
-#include "main_window/NameList.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/NameList.h"
+#include "windows/QueryErrorWords.h"
 
 namespace lurkwell {
 namespace {
@@ -17,12 +18,6 @@ namespace {
 constexpr int kMostRemembered = 10;
 constexpr int kPatienceInMilliseconds = 500;
 constexpr int kRoomForRemembered = 8192;
-
-QString Words(const char* id, const QueryError& error) {
-  return LocalizedString(id)
-      .replace(QLatin1String("%1"), QString::fromStdString(error.word))
-      .replace(QLatin1String("%2"), QString::fromStdString(error.hint));
-}
 
 /// The last ones first.
 QStringList RememberedFilters() {
@@ -32,27 +27,6 @@ QStringList RememberedFilters() {
 }
 
 }  // namespace
-
-QString QueryErrorWords(const QueryError& error) {
-  using Kind = QueryError::Kind;
-  switch (error.kind) {
-    case Kind::kUnknownKey:
-      return Words(error.hint.empty() ? "filter_unknown_key" : "filter_unknown_key_near", error);
-    case Kind::kNoValue:
-      return Words("filter_no_value", error);
-    case Kind::kNoTerm:
-      return Words("filter_no_term", error);
-    case Kind::kNoEnd:
-      return Words("filter_no_end", error);
-    case Kind::kTextIsNotCompared:
-      return Words("filter_text_is_not_compared", error);
-    case Kind::kNoNumber:
-      return Words("filter_no_number", error);
-    case Kind::kNoExpression:
-      return Words("filter_no_expression", error);
-  }
-  return {};
-}
 
 FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
     : QWidget(parent),

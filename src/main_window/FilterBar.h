@@ -12,9 +12,6 @@ class QMenu;
 
 namespace lurkwell {
 
-/// What is wrong with a query, in the user's words.
-QString QueryErrorWords(const QueryError& error);
-
 /// The filter above the table: a field for a query, beside it what is wrong with the query, and a
 /// list of those that were used last. What is typed counts at once; while it is no query, the one
 /// before holds. Main thread only.

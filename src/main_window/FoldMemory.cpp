@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <utility>
 
-#include "main_window/NameList.h"
+#include "windows/NameList.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "consolidator/TypedValue.h"
+#include "query/QueryKeys.h"
 #include "query/TextPattern.h"
 
 namespace lurkwell {
@@ -65,9 +66,12 @@ struct QueryError {
 /// thread at a time.
 class Query {
  public:
+  struct Term;
+
   /// Reads a query; one of blanks alone is fulfilled by every process. The keys are those that
-  /// there are now, ps columns included. Main thread.
-  static std::variant<Query, QueryError> Read(std::string_view text);
+  /// there are now, ps columns included, unless another vocabulary has them. Main thread.
+  static std::variant<Query, QueryError> Read(
+      std::string_view text, const QueryVocabulary& vocabulary = ProcessVocabulary());
 
   /// Reads a query that is part of a longer text: from the byte `at` up to the first of the words
   /// `ends` that stands by itself, or to the end of the text. `at` is then where it has stopped.
@@ -91,9 +95,11 @@ class Query {
   /// or not counted. Where there is nothing of the kind, a condition on it is not fulfilled.
   std::optional<bool> VerdictOn(const QuerySubject& subject) const;
 
+  /// Its conditions, for those who have others look: one list has to hold as a whole.
+  std::span<const std::vector<Term>> Alternatives() const { return mAlternatives; }
+
  private:
   friend class QueryReader;
-  struct Term;
 
   std::vector<std::vector<Term>> mAlternatives;
   std::vector<std::string> mProperties;

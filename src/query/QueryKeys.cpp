@@ -118,4 +118,24 @@ std::string NearQueryKeys(std::string_view word) {
   return NearNames(word, names);
 }
 
+namespace {
+
+class VocabularyOfProcesses final : public QueryVocabulary {
+ public:
+  std::optional<std::string> PropertyOf(std::string_view word) const override {
+    return PropertyOfQueryKey(word);
+  }
+  PropertyType TypeOf(const std::string& property) const override {
+    return GetProcPropertyType(property.c_str(), nullptr);
+  }
+  std::string Near(std::string_view word) const override { return NearQueryKeys(word); }
+};
+
+}  // namespace
+
+const QueryVocabulary& ProcessVocabulary() {
+  static const VocabularyOfProcesses vocabulary;
+  return vocabulary;
+}
+
 }  // namespace lurkwell

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "consolidator/TypedValue.h"
+
 namespace lurkwell {
 
 /// The names of all properties, built-in ones first, then the ps columns. Main thread.
@@ -27,5 +29,19 @@ ListedValues ListedIn(std::string_view property);
 /// The words and names that come nearest to what was typed, separated by commas; empty when none
 /// does.
 std::string NearQueryKeys(std::string_view word);
+
+/// What the keys of a query mean. Main thread.
+class QueryVocabulary {
+ public:
+  virtual ~QueryVocabulary() = default;
+  /// What a condition with this key is about; nothing when there is no such key.
+  virtual std::optional<std::string> PropertyOf(std::string_view word) const = 0;
+  virtual PropertyType TypeOf(const std::string& property) const = 0;
+  /// Keys that come near to what was typed, separated by commas; empty when none does.
+  virtual std::string Near(std::string_view word) const = 0;
+};
+
+/// The one of processes, whose keys are those above.
+const QueryVocabulary& ProcessVocabulary();
 
 }  // namespace lurkwell

@@ -45,9 +45,9 @@ std::optional<Scale> ScaleOf(PropertyType type) {
   return std::nullopt;
 }
 
-std::optional<Scale> ScaleOf(const std::string& property) {
+std::optional<Scale> ScaleOf(const std::string& property, const QueryVocabulary& vocabulary) {
   if (ListedIn(property) == ListedValues::kNumbers) return Scale::kPlain;
-  return ScaleOf(GetProcPropertyType(property.c_str(), nullptr));
+  return ScaleOf(vocabulary.TypeOf(property));
 }
 
 std::string ExampleOf(Scale scale) {
@@ -130,9 +130,9 @@ struct Written {
 /// Reads from left to right; the first mistake ends it.
 class QueryReader {
  public:
-  explicit QueryReader(std::string_view text, std::size_t at = 0,
+  explicit QueryReader(std::string_view text, const QueryVocabulary& vocabulary, std::size_t at = 0,
                        std::span<const std::string_view> ends = {})
-      : mText(text), mAt(at), mEnds(ends) {}
+      : mText(text), mVocabulary(vocabulary), mAt(at), mEnds(ends) {}
 
   std::size_t StoppedAt() const { return mAt; }
 
@@ -215,15 +215,15 @@ class QueryReader {
     const bool isWhole = its->first != ":";
     mAt += its->first.size();
     term.comparison = its->second;
-    const auto property = PropertyOfQueryKey(key);
+    const auto property = mVocabulary.PropertyOf(key);
     if (!property) {
-      Fail(Kind::kUnknownKey, keyAt, key.size(), key, NearQueryKeys(key));
+      Fail(Kind::kUnknownKey, keyAt, key.size(), key, mVocabulary.Near(key));
       return false;
     }
     term.property = *property;
     if (std::ranges::find(mQuery.mProperties, *property) == mQuery.mProperties.end())
       mQuery.mProperties.push_back(*property);
-    const auto scale = ScaleOf(*property);
+    const auto scale = ScaleOf(*property, mVocabulary);
     const bool isOrder = term.comparison >= kLess;
     if (isOrder && !scale) {
       Fail(Kind::kTextIsNotCompared, keyAt, mAt - keyAt, key, std::string(key) + ":part");
@@ -338,6 +338,7 @@ class QueryReader {
   }
 
   std::string_view mText;
+  const QueryVocabulary& mVocabulary;
   std::size_t mAt;
   std::span<const std::string_view> mEnds;
   /// An "or" that waits for what is behind it.
@@ -347,13 +348,14 @@ class QueryReader {
   std::optional<QueryError> mError;
 };
 
-std::variant<Query, QueryError> Query::Read(std::string_view text) {
-  return QueryReader(text).Read();
+std::variant<Query, QueryError> Query::Read(std::string_view text,
+                                            const QueryVocabulary& vocabulary) {
+  return QueryReader(text, vocabulary).Read();
 }
 
 std::variant<Query, QueryError> Query::ReadPart(std::string_view text, std::size_t& at,
                                                 std::span<const std::string_view> ends) {
-  QueryReader reader(text, at, ends);
+  QueryReader reader(text, ProcessVocabulary(), at, ends);
   auto query = reader.Read();
   at = reader.StoppedAt();
   return query;

@@ -33,10 +33,11 @@ void TextPattern::Release::operator()(Compiled* compiled) const {
   delete compiled;
 }
 
-TextPattern::TextPattern(std::unique_ptr<Compiled, Release> compiled)
-    : mCompiled(std::move(compiled)) {}
+TextPattern::TextPattern(Form form, std::string_view text,
+                         std::unique_ptr<Compiled, Release> compiled)
+    : mForm(form), mText(text), mCompiled(std::move(compiled)) {}
 
-std::optional<TextPattern> TextPattern::Compile(std::string_view text, unsigned options,
+std::optional<TextPattern> TextPattern::Compile(Form form, std::string_view text, unsigned options,
                                                 std::string* complaint) {
   int error = 0;
   std::size_t place = 0;
@@ -56,21 +57,22 @@ std::optional<TextPattern> TextPattern::Compile(std::string_view text, unsigned 
   if (data == nullptr || context == nullptr) throw std::bad_alloc();
   pcre2_set_match_limit(context.get(), kMatchLimit);
   pcre2_set_heap_limit(context.get(), kHeapLimitInKiB);
-  return TextPattern(std::unique_ptr<Compiled, Release>(
-      new Compiled{std::move(code), std::move(data), std::move(context)}));
+  return TextPattern(form, text,
+                     std::unique_ptr<Compiled, Release>(
+                         new Compiled{std::move(code), std::move(data), std::move(context)}));
 }
 
 std::optional<TextPattern> TextPattern::Part(std::string_view part) {
-  return Compile(part, PCRE2_LITERAL, nullptr);
+  return Compile(Form::kPart, part, PCRE2_LITERAL, nullptr);
 }
 
 std::optional<TextPattern> TextPattern::Whole(std::string_view text) {
-  return Compile(text, PCRE2_LITERAL | PCRE2_ANCHORED | PCRE2_ENDANCHORED, nullptr);
+  return Compile(Form::kWhole, text, PCRE2_LITERAL | PCRE2_ANCHORED | PCRE2_ENDANCHORED, nullptr);
 }
 
 std::optional<TextPattern> TextPattern::Expression(std::string_view expression,
                                                    std::string& complaint) {
-  return Compile(expression, PCRE2_UCP, &complaint);
+  return Compile(Form::kExpression, expression, PCRE2_UCP, &complaint);
 }
 
 bool TextPattern::Matches(std::string_view text) const {

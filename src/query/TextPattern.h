@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,6 +14,8 @@ namespace lurkwell {
 /// at a time.
 class TextPattern {
  public:
+  enum class Form : std::uint8_t { kPart, kWhole, kExpression };
+
   /// Nothing when `part` is no UTF-8.
   static std::optional<TextPattern> Part(std::string_view part);
   /// The same, for the whole text.
@@ -22,16 +25,22 @@ class TextPattern {
 
   bool Matches(std::string_view text) const;
 
+  /// What it was made of, for those who have others search.
+  Form HowItLooks() const { return mForm; }
+  const std::string& Text() const { return mText; }
+
  private:
   struct Compiled;
   struct Release {
     void operator()(Compiled* compiled) const;
   };
 
-  static std::optional<TextPattern> Compile(std::string_view text, unsigned options,
+  static std::optional<TextPattern> Compile(Form form, std::string_view text, unsigned options,
                                             std::string* complaint);
-  explicit TextPattern(std::unique_ptr<Compiled, Release> compiled);
+  TextPattern(Form form, std::string_view text, std::unique_ptr<Compiled, Release> compiled);
 
+  Form mForm;
+  std::string mText;
   std::unique_ptr<Compiled, Release> mCompiled;
 };
 

@@ -1,4 +1,4 @@
-#include "main_window/NameList.h"
+#include "windows/NameList.h"
 
 #include <QUrl>
 
