@@ -20,8 +20,9 @@ FLOORS = [
     {"recording"},
     {"resources"},  # beside src
     {"windows"},  # what every window uses
+    {"fleet"},  # what servers tell of many machines
     {"main_window", "monitor_windows", "animated_view", "preferences_window",
-     "machine_window", "process_details"},
+     "machine_window", "process_details", "fleet_window"},
     {"app"},
 ]
 # Know the interfaces of platform and nothing else; only main.cpp and the tests name them.

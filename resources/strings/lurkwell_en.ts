@@ -5969,6 +5969,294 @@ Free: %5</translation>
         <source></source>
         <translation>The machine as a whole: processors, memory, disks, network, and who was busiest</translation>
     </message>
+    <message id="fleet_error_unreachable">
+        <source></source>
+        <translation>The server cannot be reached: %1. Check the address, and that the server runs.</translation>
+    </message>
+    <message id="fleet_error_timed_out">
+        <source></source>
+        <translation>The server has given no whole answer within %1 seconds. It may have too much to do; a filter, or a longer time between two questions, makes it less.</translation>
+    </message>
+    <message id="fleet_error_too_large">
+        <source></source>
+        <translation>The server's answer goes on beyond %1 MiB, and has been left out. A filter makes it smaller.</translation>
+    </message>
+    <message id="fleet_error_certificate">
+        <source></source>
+        <translation>The server has not shown that it is the one it should be: %1. Nothing was sent to it. Use the name that its certificate is for, or have this system trust who issued it.</translation>
+    </message>
+    <message id="fleet_error_no_encryption">
+        <source></source>
+        <translation>This system's Qt has no TLS, so that no https address can be asked. Install its OpenSSL part.</translation>
+    </message>
+    <message id="fleet_error_credentials">
+        <source></source>
+        <translation>The server wants to know who asks, or does not let this one ask (%1). “Sign In…” takes a name and a password, or a token.</translation>
+    </message>
+    <message id="fleet_error_redirected">
+        <source></source>
+        <translation>The server sends all questions on to another one, %1, which has not been asked. Open that address if it is the right one.</translation>
+    </message>
+    <message id="fleet_error_not_prometheus">
+        <source></source>
+        <translation>What answers at this address is no Prometheus: %1. Check the port and the path.</translation>
+    </message>
+    <message id="fleet_error_server">
+        <source></source>
+        <translation>The server has failed: %1. It is asked again in a while.</translation>
+    </message>
+    <message id="fleet_error_query">
+        <source></source>
+        <translation>The server has refused the question: %1.</translation>
+    </message>
+    <message id="fleet_address_empty">
+        <source></source>
+        <translation>Type the address of a Prometheus server, such as http://monitor:9090.</translation>
+    </message>
+    <message id="fleet_address_has_password">
+        <source></source>
+        <translation>An address has no name and no password in it, as it is kept and shown. You are asked for them when the server wants them.</translation>
+    </message>
+    <message id="fleet_address_wrong">
+        <source></source>
+        <translation>“%1” is no address such as http://monitor:9090.</translation>
+    </message>
+    <message id="fleet_address_scheme">
+        <source></source>
+        <translation>Servers are asked over http or https, not over “%1”.</translation>
+    </message>
+    <message id="fleet_credentials_unreadable">
+        <source></source>
+        <translation>%1 cannot be read: %2.</translation>
+    </message>
+    <message id="fleet_credentials_open">
+        <source></source>
+        <translation>Others may read or change %1, too. Take that right away (chmod 600), and use a new password if it was a secret.</translation>
+    </message>
+    <message id="fleet_credentials_no_line">
+        <source></source>
+        <translation>%1 is no file of one line, NAME:PASSWORD or a token.</translation>
+    </message>
+    <message id="fleet_filter_of_processes">
+        <source></source>
+        <translation>“%1” is known of single processes alone, not of the sums that the server has.</translation>
+    </message>
+    <message id="fleet_filter_no_text">
+        <source></source>
+        <translation>“%1” is a number: compare it, as in cpu&gt;50.</translation>
+    </message>
+    <message id="fleet_filter_either">
+        <source></source>
+        <translation>The server can be asked for one of several texts of a kind, as in “a | b”, but not for one of unlike conditions.</translation>
+    </message>
+    <message id="fleet_filter_two_kinds">
+        <source></source>
+        <translation>Each group is of one kind alone, so there is none of both: %1.</translation>
+    </message>
+    <message id="fleet_filter_not_groups">
+        <source></source>
+        <translation>Machines without such a group cannot be asked for.</translation>
+    </message>
+    <message id="fleet_filter_not_here">
+        <source></source>
+        <translation>“%1” is not known here.</translation>
+    </message>
+    <message id="fleet_filter_one_number">
+        <source></source>
+        <translation>“%1” is compared with one number.</translation>
+    </message>
+    <message id="fleet_filter_order">
+        <source></source>
+        <translation>“%1” is compared with &lt; or &gt;, as fractions are hardly ever equal.</translation>
+    </message>
+    <message id="fleet_filter_too_long">
+        <source></source>
+        <translation>The filter is too long.</translation>
+    </message>
+    <message id="fleet_cpu">
+        <source></source>
+        <translation>CPU %</translation>
+    </message>
+    <message id="fleet_cpu_tip">
+        <source></source>
+        <translation>Share of the processors' time: of a machine of all of them, of a group of one, so that 250 are two and a half. Over the server's last two visits.</translation>
+    </message>
+    <message id="fleet_memory">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="fleet_memory_tip">
+        <source></source>
+        <translation>Of a machine, memory that is not available; of a group, the resident memory of its processes.</translation>
+    </message>
+    <message id="fleet_memory_all">
+        <source></source>
+        <translation>Memory, all</translation>
+    </message>
+    <message id="fleet_memory_all_tip">
+        <source></source>
+        <translation>All memory of the machine.</translation>
+    </message>
+    <message id="fleet_swap">
+        <source></source>
+        <translation>Swap</translation>
+    </message>
+    <message id="fleet_swap_tip">
+        <source></source>
+        <translation>Memory that is swapped out.</translation>
+    </message>
+    <message id="fleet_load">
+        <source></source>
+        <translation>Load</translation>
+    </message>
+    <message id="fleet_load_tip">
+        <source></source>
+        <translation>Load over one minute.</translation>
+    </message>
+    <message id="fleet_disk">
+        <source></source>
+        <translation>Disk</translation>
+    </message>
+    <message id="fleet_disk_tip">
+        <source></source>
+        <translation>Bytes read from and written to disks, by second.</translation>
+    </message>
+    <message id="fleet_network">
+        <source></source>
+        <translation>Network</translation>
+    </message>
+    <message id="fleet_network_tip">
+        <source></source>
+        <translation>Bytes received and sent, by second; without the machine's talk with itself.</translation>
+    </message>
+    <message id="fleet_waits_cpu">
+        <source></source>
+        <translation>Waits: CPU %</translation>
+    </message>
+    <message id="fleet_waits_cpu_tip">
+        <source></source>
+        <translation>Share of time in which something waited for a processor.</translation>
+    </message>
+    <message id="fleet_waits_memory">
+        <source></source>
+        <translation>Waits: memory %</translation>
+    </message>
+    <message id="fleet_waits_memory_tip">
+        <source></source>
+        <translation>Share of time in which something waited for memory.</translation>
+    </message>
+    <message id="fleet_waits_disk">
+        <source></source>
+        <translation>Waits: disk %</translation>
+    </message>
+    <message id="fleet_waits_disk_tip">
+        <source></source>
+        <translation>Share of time in which something waited for disks.</translation>
+    </message>
+    <message id="fleet_processes">
+        <source></source>
+        <translation>Processes</translation>
+    </message>
+    <message id="fleet_processes_tip">
+        <source></source>
+        <translation>How many processes there are.</translation>
+    </message>
+    <message id="fleet_threads">
+        <source></source>
+        <translation>Threads</translation>
+    </message>
+    <message id="fleet_threads_tip">
+        <source></source>
+        <translation>How many threads there are.</translation>
+    </message>
+    <message id="fleet_machines">
+        <source></source>
+        <translation>Machines</translation>
+    </message>
+    <message id="fleet_machines_tip">
+        <source></source>
+        <translation>On how many machines there are processes of the group.</translation>
+    </message>
+    <message id="fleet_oldest">
+        <source></source>
+        <translation>Runs for</translation>
+    </message>
+    <message id="fleet_oldest_tip">
+        <source></source>
+        <translation>How long ago the machine, or the oldest process of the group, was started.</translation>
+    </message>
+    <message id="fleet_seen">
+        <source></source>
+        <translation>Last seen</translation>
+    </message>
+    <message id="fleet_seen_tip">
+        <source></source>
+        <translation>How long ago the server heard of the machine. A machine that it does not reach is shown as down.</translation>
+    </message>
+    <message id="fleet_up">
+        <source></source>
+        <translation>Up</translation>
+    </message>
+    <message id="fleet_up_tip">
+        <source></source>
+        <translation>Whether the server reaches the machine.</translation>
+    </message>
+    <message id="fleet_read">
+        <source></source>
+        <translation>Read</translation>
+    </message>
+    <message id="fleet_read_tip">
+        <source></source>
+        <translation>Bytes read from disks, by second.</translation>
+    </message>
+    <message id="fleet_written">
+        <source></source>
+        <translation>Written</translation>
+    </message>
+    <message id="fleet_written_tip">
+        <source></source>
+        <translation>Bytes written to disks, by second.</translation>
+    </message>
+    <message id="fleet_received">
+        <source></source>
+        <translation>Received</translation>
+    </message>
+    <message id="fleet_received_tip">
+        <source></source>
+        <translation>Bytes received, by second.</translation>
+    </message>
+    <message id="fleet_sent">
+        <source></source>
+        <translation>Sent</translation>
+    </message>
+    <message id="fleet_sent_tip">
+        <source></source>
+        <translation>Bytes sent, by second.</translation>
+    </message>
+    <message id="fleet_seconds">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="fleet_minutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="fleet_hours">
+        <source></source>
+        <translation>%1 h</translation>
+    </message>
+    <message id="fleet_days">
+        <source></source>
+        <translation>%1 d</translation>
+    </message>
+    <message id="graph_hours_ago">
+        <source></source>
+        <translation>−%1 h</translation>
+    </message>
+    <message id="graph_days_ago">
+        <source></source>
+        <translation>−%1 d</translation>
+    </message>
     <message id="machine_title">
         <source></source>
         <translation>Machine</translation>
