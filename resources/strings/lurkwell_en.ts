@@ -2989,6 +2989,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>This process has ended while its row had to stay. No command reaches it.</translation>
     </message>
+    <message id="main_window_late_tip">
+        <source></source>
+        <translation>This column was added while the table was paused: its figures are of then, and of those processes that were still there.</translation>
+    </message>
     <message id="main_window_stale_tip">
         <source></source>
         <translation>The last update brought no figures for this column; these are older ones.</translation>
@@ -4795,7 +4799,27 @@ Free: %5</translation>
     </message>
     <message id="preferences_memoryGraph_tip">
         <source></source>
-        <translation>Writes on each memory bar the size that its length shows: the virtual one, unless MEMORY_BAR_FIGURE among all settings says otherwise.</translation>
+        <translation>Writes on each memory bar the size that its length shows.</translation>
+    </message>
+    <message id="preferences_memoryFigure">
+        <source></source>
+        <translation>Memory &amp;bars show:</translation>
+    </message>
+    <message id="preferences_memoryFigure_tip">
+        <source></source>
+        <translation>What the length of memory bars shows; where the table is sorted by them it is the order of the rows, too.</translation>
+    </message>
+    <message id="preferences_memoryFigure_virtual">
+        <source></source>
+        <translation>the virtual size, the resident one within</translation>
+    </message>
+    <message id="preferences_memoryFigure_resident">
+        <source></source>
+        <translation>the resident size</translation>
+    </message>
+    <message id="preferences_memoryFigure_proportional">
+        <source></source>
+        <translation>the proportional size: shared memory in parts</translation>
     </message>
     <message id="preferences_frameInterval">
         <source></source>

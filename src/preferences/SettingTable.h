@@ -126,7 +126,7 @@ inline constexpr Setting kRows[] = {
 
     Interval("MAIN_WINDOW_INTERVAL", 2000, kAtOnce, kTable, "mainWindowIntervalSlider"),
     Switch("MEM_GRAPH_DRAW_VSZ", false, kAtOnce, kTable, "memoryGraphCheckBox"),
-    Choice("MEMORY_BAR_FIGURE", 0, 2, kAtOnce, kTable),
+    Choice("MEMORY_BAR_FIGURE", 0, 2, kAtOnce, kTable, "memoryFigureChoice"),
     Switch("MAIN_WINDOW_FAKILY_IGNORE_PID_ZERO_CPU_USAGE", true, kAtOnce, kTable),
     Switch("CPU_SHARE_OF_MACHINE", false, kAtOnce, kTable),
     Switch("KEEP_COMMAND_LINES", false, kAtOnce),

@@ -1,5 +1,6 @@
 #include "preferences_window/PreferenceControls.h"
 
+#include <QComboBox>
 #include <QIcon>
 #include <QPainter>
 #include <QPixmap>
@@ -184,12 +185,15 @@ QString PercentText(double fraction) {
 void SelectRow(const QWidget& window, const Setting& setting, int row) {
   const auto* matrix = Find<QWidget>(window, setting);
   if (matrix == nullptr) return;
+  if (auto* list = Find<QComboBox>(window, setting))
+    return list->setCurrentIndex(row >= 0 && row < list->count() ? row : 0);
   const auto rows = matrix->findChildren<QRadioButton*>();
   if (row < 0 || row >= rows.size()) row = 0;
   if (row < rows.size()) rows[row]->setChecked(true);
 }
 
 int SelectedRow(const QWidget& matrix) {
+  if (const auto* list = qobject_cast<const QComboBox*>(&matrix)) return list->currentIndex();
   const auto rows = matrix.findChildren<QRadioButton*>();
   const auto at = std::ranges::find_if(rows, [](const auto* row) { return row->isChecked(); });
   return at != rows.end() ? static_cast<int>(at - rows.begin()) : 0;

@@ -40,7 +40,7 @@ QString DescriptionOfStored(int milliseconds);
 
 /// What a control of the preferences window looks like, which follows from its setting's kind.
 enum class ControlKind : std::uint8_t {
-  kMatrix,          ///< a box of radio buttons; the selected row
+  kMatrix,          ///< a box of radio buttons, or a list; the selected row
   kIntervalSlider,  ///< milliseconds, by the interval scale
   kFractionSlider,  ///< a real from 0 to 1
   kCheckBox,        ///< 0 or 1

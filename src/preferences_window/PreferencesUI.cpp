@@ -158,7 +158,9 @@ void vqPreferencesUI::windowWillClose() {
 
 void vqPreferencesUI::connectControl(const Setting& setting) {
   auto* widget = fWindow->findChild<QWidget*>(QLatin1String(setting.control));
-  if (ControlKindOf(setting) == ControlKind::kMatrix) {
+  if (auto* list = qobject_cast<QComboBox*>(widget)) {
+    connect(list, &QComboBox::activated, this, [this, list] { takeValueFrom(*list); });
+  } else if (ControlKindOf(setting) == ControlKind::kMatrix) {
     for (auto* row : widget->findChildren<QRadioButton*>())
       connect(row, &QRadioButton::clicked, this, [this, widget] { takeValueFrom(*widget); });
   } else if (auto* slider = qobject_cast<QSlider*>(widget)) {

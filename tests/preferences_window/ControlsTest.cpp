@@ -101,6 +101,7 @@ TEST_F(PanelTest, SlidersShowTheirKeysAndChangeThem) {
 TEST_F(PanelTest, MatricesShowTheirKeysAndChangeThem) {
   SetPrefInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", 3);
   SetPrefInt("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT", 2);
+  SetPrefInt("MEMORY_BAR_FIGURE", 1);
   Open();
   EXPECT_TRUE(Find<QRadioButton>("memoryFormatMatrixMegabytes").isChecked());
   EXPECT_TRUE(Find<QRadioButton>("dateFormatMatrixMicroseconds").isChecked());
@@ -115,6 +116,13 @@ TEST_F(PanelTest, MatricesShowTheirKeysAndChangeThem) {
     Find<QRadioButton>((std::string("dateFormatMatrix") + dates[row]).c_str()).click();
     EXPECT_EQ(Stored("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT"), row);
     EXPECT_EQ(Heard(), kEverybody);
+  }
+  auto& figures = Find<QComboBox>("memoryFigureChoice");
+  EXPECT_EQ(figures.currentIndex(), 1);
+  for (const int row : {2, 1, 0}) {
+    QTest::keyClick(&figures, row == 2 ? Qt::Key_Down : Qt::Key_Up);
+    EXPECT_EQ(Stored("MEMORY_BAR_FIGURE"), row);
+    EXPECT_EQ(Heard(), kTable);
   }
 }
 
