@@ -34,6 +34,8 @@ void vqMainTableController::setPaused(bool paused) {
   if (fIsPaused == paused) return;
   if (paused) commitChanges();
   fIsPaused = paused;
+  fKeysOfPause.clear();
+  if (paused) fKeysOfPause = keysToRead();
   fRows.SetHeld(paused);
   for (auto* row : fRows.All()) row->SetChanged(true);
   for (auto* row : fRows.Shown()) row->SetChanged(true);
@@ -44,6 +46,28 @@ void vqMainTableController::setPaused(bool paused) {
   commitChanges();
   if (!paused) updateNow();
   Q_EMIT arrangementChanged();
+}
+
+std::vector<KeyId> vqMainTableController::keysToRead() const {
+  auto keys = fLayout.Keys();
+  keys.insert(keys.end(), fKeysBesideColumns.begin(), fKeysBesideColumns.end());
+  return keys;
+}
+
+std::vector<KeyId> vqMainTableController::keysSincePause() const {
+  if (!fIsPaused) return {};
+  auto keys = keysToRead();
+  std::erase_if(keys, [this](KeyId key) {
+    return IsInternalKey(KeyText(key)) ||
+           std::ranges::find(fKeysOfPause, key) != fKeysOfPause.end();
+  });
+  return keys;
+}
+
+void vqMainTableController::noteHeldRowsWereRead(KeyId key) {
+  fNeedsResort = fNeedsResort || key == fSortColumn || fSortColumn == kInternalMemGraph;
+  fStandingHasChanged = fStandingHasChanged || standingDependsOn(key);
+  fFilterHasChanged = true;
 }
 
 // ---- Following ----------------------------------------------------------------------------------

@@ -45,6 +45,11 @@ KeyId SortedBy(KeyId column) {
   return column == kInternalIndicator ? kNoKey : column;
 }
 
+bool IsOfPS(KeyId key) {
+  const char* name = KeyText(key).data();
+  return !IsInternalKey(name) && FindBuiltInProperty(name) == nullptr;
+}
+
 }  // namespace
 
 VQTarvMainWindowInfoSynch::VQTarvMainWindowInfoSynch(long interval, SynchronisedTable& owner)
@@ -223,6 +228,19 @@ void VQTarvMainWindowInfoSynch::RefreshRows() {
   RefreshBars();
 }
 
+void VQTarvMainWindowInfoSynch::ReadForHeldRows(bool psHasEnded) {
+  for (const KeyId key : mOwner.keysSincePause()) {
+    if (IsOfPS(key) != psHasEnded) continue;
+    // What the record has may be of long ago; what it has not may come from the background.
+    const bool isNew = std::ranges::find(mReadInPause, key) == mReadInPause.end();
+    if (isNew) mReadInPause.push_back(key);
+    for (auto* row : mOwner.rows().All())
+      if (!row->isDeparted && (isNew || !IsKnown(row->Get(key))))
+        UpdateSingleFieldForPid(*row, key, row->Pid());
+    mOwner.noteHeldRowsWereRead(key);
+  }
+}
+
 void VQTarvMainWindowInfoSynch::BeepForHexadecimals() {
   if (std::exchange(mHexadecimalWasMet, false)) QApplication::beep();
 }
@@ -230,13 +248,14 @@ void VQTarvMainWindowInfoSynch::BeepForHexadecimals() {
 void VQTarvMainWindowInfoSynch::NotifyPSColumnsHaveChanged() {
   if (mOwner.isPaused()) {
     gNewColumnWasAddedRecently = true;
+    ReadForHeldRows(true);
+    mOwner.commitChanges();
     return;
   }
   mOwner.showColumnsThatCame();
   mSortedBy = SortedBy(mOwner.sortedBy());
   for (const KeyId key : mOwner.layout().Keys()) {
-    const char* name = KeyText(key).data();
-    if (IsInternalKey(name) || FindBuiltInProperty(name) != nullptr) continue;
+    if (!IsOfPS(key)) continue;
     for (auto* row : mOwner.rows().All()) UpdateSingleFieldForPid(*row, key, row->Pid());
   }
   mOwner.noteFreshColumns();
@@ -249,7 +268,10 @@ std::vector<std::int32_t> VQTarvMainWindowInfoSynch::PidsInSight() {
 
 void VQTarvMainWindowInfoSynch::NotifyProcessesHaveBeenUpdated() {
   if (!mIsSeen) return mOwner.commitChanges();
-  if (!mOwner.isPaused()) {
+  if (mOwner.isPaused()) {
+    ReadForHeldRows(false);
+  } else {
+    mReadInPause.clear();
     RefreshRows();
     gNewColumnWasAddedRecently = false;
     mOwner.noteStaleColumns();

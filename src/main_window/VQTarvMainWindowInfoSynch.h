@@ -49,6 +49,10 @@ class SynchronisedTable {
 
   /// Rows show what they showed when the user paused; what comes and goes meanwhile is only noted.
   virtual bool isPaused() const = 0;
+  /// What has to be read of every process and was not when the user paused.
+  virtual std::vector<KeyId> keysSincePause() const = 0;
+  /// Rows of the pause have got such a figure.
+  virtual void noteHeldRowsWereRead(KeyId key) = 0;
 
   /// Rows came or changed so that their order may be another one; done at the next commit.
   virtual void setNeedsResort() = 0;
@@ -154,6 +158,9 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   /// Takes a row's share, and its figures where they are others than before.
   void RefreshRow(RowDictionary& row, TimeValue now);
   void RefreshRows();
+  /// What is asked for during a pause is read once for its rows; of columns of ps while one of its
+  /// runs has ended, of others at the end of a turn.
+  void ReadForHeldRows(bool psHasEnded);
   /// Has the names that may go on completed.
   void LearnNames();
   /// By the figures that the rows have: badges, and what the memory bars are measured by.
@@ -167,6 +174,8 @@ class VQTarvMainWindowInfoSynch final : public ProcessInformationClient {
   bool mHexadecimalWasMet = false;
   /// Whose names may go on; those that came last are the first.
   NamesToLearn mNamesToLearn;
+  /// What has been read for the rows of the pause.
+  std::vector<KeyId> mReadInPause;
   /// The value that the rows are sorted by; see Set.
   KeyId mSortedBy = kNoKey;
 

@@ -345,6 +345,9 @@ QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column&
     return lines.join(QLatin1Char('\n'));
   }
   const bool isMissing = !column.isInternal && !IsKnown(row.Get(column.key));
+  const auto late = keysSincePause();
+  if (std::ranges::find(late, column.key) != late.end())
+    lines.append(LocalizedString("main_window_late_tip"));
   if (column.isStale) lines.append(LocalizedString("main_window_stale_tip"));
   if (isMissing) lines.append(MissingTip(KeyText(column.key), row.Get(column.key)));
   constexpr std::int64_t kWorthTelling = 5000;

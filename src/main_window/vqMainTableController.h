@@ -93,6 +93,7 @@ class vqMainTableController final : public vqTableController,
   /// command reaches them or who has their pids now.
   void setPaused(bool paused);
   bool isPaused() const override { return fIsPaused; }
+  std::vector<KeyId> keysSincePause() const override;
 
   /// Whether the selected row, the one with the focus if there are several, stays where it is on
   /// the screen while others move. Remembered.
@@ -279,6 +280,7 @@ class vqMainTableController final : public vqTableController,
   void noteStandingHasChanged() override {
     if (!fIsPaused) fStandingHasChanged = fShape != TableShape::kList;
   }
+  void noteHeldRowsWereRead(KeyId key) override;
   std::int64_t biggestTotalVSZ() const override { return fBiggestTotal; }
   void noteStaleColumns() override { noteAgeOfColumns(true); }
   void noteFreshColumns() override { noteAgeOfColumns(false); }
@@ -290,6 +292,7 @@ class vqMainTableController final : public vqTableController,
   void noteAgeOfColumns(bool mayAge);
   void arrangeRows();
   bool isOrderHeld() const;
+  std::vector<KeyId> keysToRead() const;
   /// Whether there is nothing that could have changed what stands where.
   bool isArranged() const;
   /// Invalid for none.
@@ -373,6 +376,8 @@ class vqMainTableController final : public vqTableController,
   std::int64_t fBiggestTotal = 0;
   std::vector<KeyId> fKeysBesideColumns;
   bool fIsPaused = false;
+  /// What its rows were read with.
+  std::vector<KeyId> fKeysOfPause;
   bool fFollowsSelection = false;
   bool fStandingHasChanged = false;
   bool fFilterHasChanged = false;

@@ -80,6 +80,48 @@ TEST_F(StillTest, APausedTableShowsWhatItShowedAndReachesNobodyElse) {
   EXPECT_EQ(Says().substr(0, 33), "6 processes, 6 shown, 2 selected:");
 }
 
+TEST_F(StillTest, WhatIsAskedForDuringAPauseIsReadOnceForThoseThatAreStillThere) {
+  machine.processTable.TellFigures(true);
+  machine.helper.SetRecordsFigures(false);
+  for (const int pid : {300, 301, 302}) {
+    auto& process = machine.processTable.Birth(pid, "p" + std::to_string(pid), 1);
+    process.texts.Set(FigureCalled("pid_unit"), "web.service");
+    process["pid_threads"] = 303 - pid;
+  }
+  Open();
+  ClickHeader("meta_pid");
+  Press(Qt::Key_Space, Qt::ControlModifier);
+  machine.processTable.Death(301);
+  machine.processTable.Birth(310, "late")["pid_threads"] = 9;
+  Turn();
+  controller().addToKeysWeTrackForUI(InternKey("pid_threads"));
+  ClickHeader("pid_threads");
+  Turn();
+  const auto threads = [&](int pid) {
+    return At(pid, "pid_threads").data().toString().toStdString();
+  };
+  EXPECT_EQ(threads(300), "3");
+  EXPECT_EQ(threads(302), "1");
+  EXPECT_EQ(threads(301), "") << "it had ended";
+  EXPECT_TRUE(Pids().ends_with("302 300 301")) << "sorted by what came: " << Pids();
+  EXPECT_TRUE(At(300, "pid_threads")
+                  .data(Qt::ToolTipRole)
+                  .toString()
+                  .startsWith(QLatin1String("This column was added while")));
+  (*machine.processTable.Find(300))["pid_threads"] = 19;
+  Turn();
+  EXPECT_EQ(threads(300), "3") << "held from then on";
+  Choose("menu_view_shape_applications");
+  Turn();
+  EXPECT_NE(Table().find("web.service (2)"), std::string::npos) << Table();
+  Choose("menu_view_shape_list");
+  Press(Qt::Key_Space, Qt::ControlModifier);
+  Turn();
+  EXPECT_EQ(threads(300), "19");
+  EXPECT_EQ(threads(310), "9");
+  EXPECT_EQ(RowOf(301), -1);
+}
+
 TEST_F(StillTest, AFollowedSelectionStaysWhereItIsOnTheScreen) {
   machine.helper.SetRecordsFigures(false);
   for (int pid = 400; pid < 500; ++pid) machine.processTable.Birth(pid, "p");
