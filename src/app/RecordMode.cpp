@@ -37,7 +37,10 @@ void SayWhatWasRecorded(const Recorder::Counts& counts, const RecordingProgress&
   Diagnose("%llu beats recorded, %llu lost; %llu processes began, %llu ended",
            Plain(progress.written), Plain(progress.lost), Plain(counts.births),
            Plain(counts.deaths));
-  if (counts.unseen > 0)
+  if (counts.unseenProcesses)
+    Diagnose("%lld more processes began and ended between two beats, and are not in it",
+             static_cast<long long>(*counts.unseenProcesses));
+  else if (counts.unseen > 0)
     Diagnose("%llu more processes or threads began and ended between two beats, and are not in it",
              Plain(counts.unseen));
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -144,6 +145,16 @@ struct VirtualMemoryStatistics {
   std::int64_t pageouts = 0;
 };
 
+/// Counts the processes that begin while it lives, those that end at once among them. Main thread.
+class ProcessBirths {
+ public:
+  virtual ~ProcessBirths() = default;
+
+  /// How many processes (no threads) have begun since the last call; nothing for the first call,
+  /// and where the machine has not told all of them.
+  virtual std::optional<std::int64_t> Since() = 0;
+};
+
 /// Figures of the machine as a whole. Main thread.
 class HostStatistics {
  public:
@@ -162,6 +173,10 @@ class HostStatistics {
   /// What the machine tells of these; nothing else is read. Files that are missing or make no sense
   /// leave their figures out.
   virtual MachineFigures Read(MachineSources wanted) const = 0;
+
+  /// Begins to count processes that begin; null where the user has no right to know, or the machine
+  /// does not count them.
+  virtual std::unique_ptr<ProcessBirths> CountBirths() const { return nullptr; }
 
   /// Bytes; 0 when the machine does not tell.
   virtual std::int64_t PhysicalMemory() const = 0;

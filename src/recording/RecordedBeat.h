@@ -65,10 +65,12 @@ inline constexpr auto kRecordedFigures = [] {
 
 /// What is recorded of the machine with each beat: microseconds that all processors together were
 /// busy and idle since the start; how many there are; tasks that the kernel has begun, and of those
-/// how many the recorder has not seen, since it runs; bytes of memory; pages and swapped pages.
+/// how many the recorder has not seen, since it runs; bytes of memory; pages and swapped pages; of
+/// the unseen tasks those that are processes, -1 where that is not known.
 inline constexpr auto kRecordedMachine = std::to_array<std::string_view>(
     {"busy", "idle", "processors", "begun_tasks", "unseen_tasks", "memory", "available", "swap",
-     "swap_free", "page_size", "free_pages", "inactive_pages", "wired_pages", "pageouts"});
+     "swap_free", "page_size", "free_pages", "inactive_pages", "wired_pages", "pageouts",
+     "unseen_processes"});
 namespace recorded {
 enum MachineNumber : std::size_t {
   kBusyTime,
@@ -85,6 +87,7 @@ enum MachineNumber : std::size_t {
   kInactivePages,
   kWiredPages,
   kPageouts,
+  kUnseenProcesses,
 };
 }  // namespace recorded
 inline constexpr std::size_t kMachineCount = kRecordedMachine.size();

@@ -152,6 +152,36 @@ void Recorder::DropEnded(Beat& beat) {
   mCounts.deaths += beat.ended.size();
 }
 
+void Recorder::CountUnseen(const MachineFigures& figures, BeatHeader& header) {
+  if (figures.begunTasks) {
+    const auto begun = *figures.begunTasks;
+    if (mBegunTasks)
+      mCounts.unseen += static_cast<std::uint64_t>(
+          std::max<std::int64_t>(begun - *mBegunTasks - mSeenThreads, 0));
+    mBegunTasks = header.machine[kBegunTasks] = begun;
+  }
+  CountUnseenProcesses();
+  header.machine[kUnseenTasks] = static_cast<std::int64_t>(mCounts.unseen);
+  header.machine[kUnseenProcesses] = mCounts.unseenProcesses.value_or(-1);
+}
+
+/// After the list was read: what has begun until then is told.
+void Recorder::CountUnseenProcesses() {
+  const auto seen = static_cast<std::int64_t>(mCounts.births - mSeenBirths);
+  mSeenBirths = mCounts.births;
+  if (mTurn == 1) mBirths = TheMachine().hostStatistics.CountBirths();
+  if (mBirths == nullptr) return;
+  const auto begun = mBirths->Since();
+  if (mTurn == 1) return;
+  if (begun) {
+    mUnseenBirths += *begun - seen;
+    mCounts.unseenProcesses = std::max<std::int64_t>(mUnseenBirths, 0);
+  } else {
+    mBirths.reset();
+    mCounts.unseenProcesses.reset();
+  }
+}
+
 void Recorder::TakeMachine(BeatHeader& header) {
   const auto& statistics = TheMachine().hostStatistics;
   const auto figures = statistics.Read(kProcessorTimes | kMachineMemory);
@@ -161,14 +191,7 @@ void Recorder::TakeMachine(BeatHeader& header) {
     machine[kIdleTime] += processor.idle;
   }
   machine[kProcessorCount] = statistics.Processors();
-  if (figures.begunTasks) {
-    const auto begun = *figures.begunTasks;
-    if (mBegunTasks)
-      mCounts.unseen += static_cast<std::uint64_t>(
-          std::max<std::int64_t>(begun - *mBegunTasks - mSeenThreads, 0));
-    mBegunTasks = machine[kBegunTasks] = begun;
-  }
-  machine[kUnseenTasks] = static_cast<std::int64_t>(mCounts.unseen);
+  CountUnseen(figures, header);
   if (figures.memory) {
     machine[kMemory] = figures.memory->total;
     machine[kAvailableMemory] = figures.memory->available;

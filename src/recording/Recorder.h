@@ -11,6 +11,7 @@
 
 #include "consolidator/ProcessInformationClient.h"
 #include "consolidator/ProcessReading.h"
+#include "platform/HostStatistics.h"
 #include "recording/RecordedBeat.h"
 #include "recording/RecorderThread.h"
 #include "recording/RecordingFile.h"
@@ -33,6 +34,8 @@ class Recorder final : public ProcessInformationClient {
     std::uint64_t deaths = 0;
     /// Processes and threads that the kernel has begun and the recorder has not seen.
     std::uint64_t unseen = 0;
+    /// The same of processes alone, as far as the kernel has told of each; else nothing.
+    std::optional<std::int64_t> unseenProcesses;
   };
 
   /// Makes a recorder that writes to `path`, to be added to the consolidator's clients by the
@@ -65,6 +68,8 @@ class Recorder final : public ProcessInformationClient {
   void Take(const ProcessReading& reading, RecordedProcess& process) const;
   void DropEnded(Beat& beat);
   void TakeMachine(BeatHeader& header);
+  void CountUnseen(const MachineFigures& figures, BeatHeader& header);
+  void CountUnseenProcesses();
 
   bool mKeepsArguments;
   RecorderThread mThread;
@@ -74,6 +79,10 @@ class Recorder final : public ProcessInformationClient {
   /// Threads that have begun since the last turn, as far as they are seen.
   std::int64_t mSeenThreads = 0;
   std::optional<std::int64_t> mBegunTasks;
+  std::unique_ptr<ProcessBirths> mBirths;
+  std::uint64_t mSeenBirths = 0;
+  /// May be below what has ended unseen: what begins during a beat is seen with the next one.
+  std::int64_t mUnseenBirths = 0;
   Counts mCounts;
 };
 

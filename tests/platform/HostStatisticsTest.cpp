@@ -1,11 +1,17 @@
 // The machine's memory, from a made-up proc file system and from the real one.
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
+#include <system_error>
+#include <thread>
 
 #include "platform/linux/LinuxHostStatistics.h"
 #include "support/TemporaryFolder.h"
@@ -203,6 +209,40 @@ TEST(HostStatistics, BecomeRatesByTheTimeThatHasPassed) {
   EXPECT_EQ(activity.received, 100.0) << "without the loopback";
   EXPECT_EQ(activity.sent, 0.0);
   EXPECT_FALSE(rates.Take(after, 5'000'000).received) << "no time has passed";
+}
+
+/// The kernel tells of births in the namespaces that it has begun with.
+bool MayHearOfBirths() {
+  std::error_code error;
+  const auto pids = std::filesystem::read_symlink("/proc/self/ns/pid", error).string();
+  const auto sameNetwork =
+      std::filesystem::equivalent("/proc/self/ns/net", "/proc/1/ns/net", error);
+  return ::geteuid() == 0 && pids == "pid:[4026531836]" && sameNetwork;
+}
+
+TEST(HostStatistics, CountEachProcessThatBeginsAndNoThread) {
+  const LinuxHostStatistics host;
+  const auto births = host.CountBirths();
+  if (births != nullptr) {
+    EXPECT_EQ(births->Since(), std::nullopt);
+  }
+  constexpr int kProcesses = 200;
+  constexpr int kThreads = 50;
+  const auto begun = [&host] { return host.Read(kProcessorTimes).begunTasks.value_or(0); };
+  const auto before = begun();
+  for (int i = 0; i < kProcesses; ++i) {
+    const auto child = ::fork();
+    if (child == 0) ::_exit(0);
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+  }
+  for (int i = 0; i < kThreads; ++i) std::thread([] {}).join();
+  const auto told = births == nullptr ? std::nullopt : births->Since();
+  if (told) {
+    EXPECT_GE(*told, kProcesses);
+    // Others may have begun meanwhile.
+    EXPECT_LE(*told, begun() - before - kThreads);
+  }
+  EXPECT_TRUE(told || !MayHearOfBirths());
 }
 
 }  // namespace

@@ -168,6 +168,20 @@ TEST_F(RecordingTest, WhatTheKernelBeganAndNobodySawIsCounted) {
   machine.processTable.Death(300);
   Run(2000);
   EXPECT_EQ(recorder->Counted().deaths, 1u);
+  EXPECT_EQ(recorder->Counted().unseenProcesses, std::nullopt);
+  Stop(recorder);
+
+  // Where the kernel tells of each process, threads do not count; until it leaves some out.
+  machine.hostStatistics.births = 0;
+  recorder = Record();
+  Run(2500);
+  machine.hostStatistics.births = 5;
+  machine.processTable.Birth(300, "seen")["pid_threads"] = 3;
+  Run(2000);
+  EXPECT_EQ(recorder->Counted().unseenProcesses, 4);
+  machine.hostStatistics.births.reset();
+  Run(2000);
+  EXPECT_EQ(recorder->Counted().unseenProcesses, std::nullopt);
   Stop(recorder);
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/HostStatistics.h"
 #include "platform/linux/ProcFiles.h"
+#include "platform/linux/ProcessConnector.h"
 
 namespace lurkwell {
 
@@ -60,6 +62,7 @@ class LinuxHostStatistics final : public HostStatistics {
   std::int64_t PhysicalMemory() const override;
   int Processors() const override;
   MachineFigures Read(MachineSources wanted) const override { return mMachine.Read(wanted); }
+  std::unique_ptr<ProcessBirths> CountBirths() const override { return ProcessConnector::Open(); }
 
  private:
   mutable ProcFiles mFiles;

@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,6 +36,9 @@ class SimulatedHostStatistics final : public HostStatistics {
   std::int64_t PhysicalMemory() const override { return physicalMemory; }
   int Processors() const override { return processors; }
   MachineFigures Read(MachineSources) const override { return machine; }
+  std::unique_ptr<ProcessBirths> CountBirths() const override {
+    return births ? std::make_unique<Births>(*this) : nullptr;
+  }
 
   std::optional<std::int64_t> pageSize = 4096;
   std::optional<VirtualMemoryStatistics> virtualMemory =
@@ -42,6 +46,18 @@ class SimulatedHostStatistics final : public HostStatistics {
   std::int64_t physicalMemory = 1'073'741'824;
   int processors = 1;
   MachineFigures machine;
+  /// How many have begun each time it is asked for; with nothing from the beginning nobody counts.
+  std::optional<std::int64_t> births;
+
+ private:
+  class Births final : public ProcessBirths {
+   public:
+    explicit Births(const SimulatedHostStatistics& machine) : mMachine(machine) {}
+    std::optional<std::int64_t> Since() override { return mMachine.births; }
+
+   private:
+    const SimulatedHostStatistics& mMachine;
+  };
 };
 
 /// Signals are recorded, never sent; a test may have them refused.
