@@ -97,7 +97,8 @@ class RealMachine {
                     mRest.eventBus,
                     mRest.costlyFigures,
                     mRest.processDetails,
-                    mRest.scheduler};
+                    mRest.scheduler,
+                    mRest.notifications};
   MachineInstallation mInstallation{mServices};
 };
 

@@ -79,7 +79,8 @@ class RealCycle {
       machine.processManager, machine.iconServices,  machine.hostStatistics,   machine.tools,
       machine.signals,        machine.namedPipes,    machine.authorization,    machine.bundle,
       machine.alerts,         machine.logFiles,      machine.hotKeys,          machine.screen,
-      machine.eventBus,       machine.costlyFigures, machine.processDetails,   machine.scheduler};
+      machine.eventBus,       machine.costlyFigures, machine.processDetails,   machine.scheduler,
+      machine.notifications};
   MachineInstallation installation{real};
 };
 

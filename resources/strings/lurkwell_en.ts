@@ -2477,6 +2477,38 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>No filter has been used yet</translation>
     </message>
+    <message id="setting_title_ALERT_RULES">
+        <source></source>
+        <translation>Alerts: rules</translation>
+    </message>
+    <message id="setting_ALERT_RULES">
+        <source></source>
+        <translation>The rules of alerts, each with its command and whether it is on. They are made in the window for alerts.</translation>
+    </message>
+    <message id="setting_title_ALERT_NOTIFICATIONS">
+        <source></source>
+        <translation>Alerts: notifications</translation>
+    </message>
+    <message id="setting_ALERT_NOTIFICATIONS">
+        <source></source>
+        <translation>Show a notification on the desktop when an alert begins. The window for alerts and the log have it in any case.</translation>
+    </message>
+    <message id="setting_title_ALERTS_WINDOW_FRAME">
+        <source></source>
+        <translation>Alerts: place and size of the window</translation>
+    </message>
+    <message id="setting_ALERTS_WINDOW_FRAME">
+        <source></source>
+        <translation>Place and size of the window for alerts.</translation>
+    </message>
+    <message id="setting_title_DEFAULT_SHOW_ALERTS_WINDOW">
+        <source></source>
+        <translation>Alerts: the window was open</translation>
+    </message>
+    <message id="setting_DEFAULT_SHOW_ALERTS_WINDOW">
+        <source></source>
+        <translation>Open the window for alerts at the start. The program notes here whether it was open.</translation>
+    </message>
     <message id="filter_unknown_key">
         <source></source>
         <translation>There is no “%1” to look at; in quotation marks it is a text to look for.</translation>

@@ -31,6 +31,7 @@
 #include "platform/desktop/DesktopAlerts.h"
 #include "platform/desktop/DesktopHotKeys.h"
 #include "platform/desktop/DesktopIconServices.h"
+#include "platform/desktop/DesktopNotifications.h"
 #include "platform/desktop/DesktopProcessManager.h"
 #include "platform/desktop/DesktopScreen.h"
 #include "platform/desktop/DisplayAccess.h"
@@ -109,13 +110,14 @@ class DesktopMachine {
   LinuxCostlyFigures costlyFigures;
   LinuxProcessDetails processDetails;
   LinuxScheduler scheduler;
+  DesktopNotifications notifications{eventBus.Connection()};
   ClassicProcessManager applications{processManager, eventBus, eventBus.Connection()};
 
-  Machine services{clock,        runLoop,       preferenceDomain, processTable,
-                   applications, iconServices,  hostStatistics,   tools,
-                   signals,      namedPipes,    authorization,    bundle,
-                   alerts,       logFiles,      hotKeys,          screen,
-                   eventBus,     costlyFigures, processDetails,   scheduler};
+  Machine services{
+      clock,          runLoop,   preferenceDomain, processTable, applications,  iconServices,
+      hostStatistics, tools,     signals,          namedPipes,   authorization, bundle,
+      alerts,         logFiles,  hotKeys,          screen,       eventBus,      costlyFigures,
+      processDetails, scheduler, notifications};
 };
 
 int RunInTerminal(const CommandLine& commandLine) {
@@ -136,10 +138,10 @@ class RecordedMachine {
  protected:
   Machine With(RunLoop& runLoop, PreferenceDomain& preferences, Tools& tools, Alerts& alerts,
                Screen& screen) {
-    return {player.Clock(), runLoop,        preferences,   processTable,   processManager,
-            iconServices,   hostStatistics, tools,         signals,        namedPipes,
-            authorization,  bundle,         alerts,        logFiles,       hotKeys,
-            screen,         eventBus,       costlyFigures, processDetails, scheduler};
+    return {player.Clock(), runLoop,   preferences,  processTable, processManager, iconServices,
+            hostStatistics, tools,     signals,      namedPipes,   authorization,  bundle,
+            alerts,         logFiles,  hotKeys,      screen,       eventBus,       costlyFigures,
+            processDetails, scheduler, notifications};
   }
 
  private:
@@ -157,6 +159,7 @@ class RecordedMachine {
   UnrecordedFigures costlyFigures;
   UnrecordedDetails processDetails;
   NoScheduler scheduler;
+  NoNotifications notifications;
 };
 
 /// A recording as a program in a terminal sees it.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -35,6 +36,14 @@ class LogFiles {
   /// name. Never one that is there, through a link or otherwise; nobody but the user may read it.
   /// `name` has no slash.
   virtual Creation Create(std::string_view name) = 0;
+
+  /// The file called `name` and ".tsv" that grows from one run to the next; a new one begins with
+  /// the line `header`. Before it would become larger than `mostBytes` it becomes `name` and
+  /// "-1.tsv", in the place of that, and a new one is begun. Only an ordinary file of the user's
+  /// without other names, and never through a link; nobody but the user may read it. Several
+  /// programs may write lines to it at a time. `name` has no slash.
+  virtual Creation Continue(std::string_view name, std::string_view header,
+                            std::int64_t mostBytes) = 0;
 };
 
 }  // namespace lurkwell

@@ -13,6 +13,7 @@ class HotKeys;
 class IconServices;
 class LogFiles;
 class NamedPipes;
+class Notifications;
 class PreferenceDomain;
 class ProcessDetails;
 class ProcessManager;
@@ -46,6 +47,7 @@ struct Machine {
   CostlyFigures& costlyFigures;
   ProcessDetails& processDetails;
   Scheduler& scheduler;
+  Notifications& notifications;
 };
 
 /// The installed machine. Any thread. It is a programming error to ask before one is installed.

@@ -47,6 +47,20 @@ class RunningTool {
   virtual ToolOutput TakeOutput() = 0;
 };
 
+/// A command of the user's that was started. Destroying it kills it, and what it has started.
+/// Main thread only.
+class RunningCommand {
+ public:
+  virtual ~RunningCommand() = default;
+
+  /// Its exit status, or 128 and the number of the signal that has ended it; nothing while it runs.
+  /// Does not wait.
+  virtual std::optional<int> Status() = 0;
+
+  /// Asks it to end, and what it has started; or ends it.
+  virtual void End(bool atOnce) = 0;
+};
+
 /// Programs of the system that run beside ours. Main thread only, but for starting one in the
 /// background. Nothing passes through a shell, and every program gets the same fixed environment
 /// and language.
@@ -74,6 +88,20 @@ class Tools {
   /// of ours but the standard three, and ends when it likes. `arguments` starts with the program's
   /// path. False when it could not be started. Any thread; takes two seconds at most.
   virtual bool StartInBackground(const std::vector<std::string>& arguments) = 0;
+
+  struct CommandStart {
+    /// Null when there is a problem.
+    std::unique_ptr<RunningCommand> command;
+    /// Why not, in the system's words.
+    std::string problem;
+  };
+
+  /// Starts a command of the user's, with the user's rights and environment, to which `variables`
+  /// ("NAME=VALUE") are added, in the folder "/"; its input is empty, and nobody reads what it
+  /// prints. `arguments` starts with the program's path, or its name, which is looked for where the
+  /// user's PATH says. Does not wait for it. Main thread.
+  virtual CommandStart StartCommand(const std::vector<std::string>& arguments,
+                                    const std::vector<std::string>& variables) = 0;
 
   /// stat: 0 when there is such a file, -1 when not.
   virtual int Stat(const std::string& path) = 0;

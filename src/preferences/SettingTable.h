@@ -245,6 +245,11 @@ inline constexpr Setting kRows[] = {
     Record("MACHINE_WINDOW_MINUTES", 5, kNewWindows),
     Record("DEFAULT_SHOW_MACHINE_WINDOW", 0),
 
+    Array("ALERT_RULES"),
+    Switch("ALERT_NOTIFICATIONS", true, kAtOnce),
+    Record("ALERTS_WINDOW_FRAME", kAbsent),
+    Record("DEFAULT_SHOW_ALERTS_WINDOW", 0),
+
     Real("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", 0.1, 0, 1, kNextStart),
     Real("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", 0.05, 0, 1, kAtOnce),
     Interval("CLASSIC_WATCHDOG_INTERVAL", 5000, kNextStart),

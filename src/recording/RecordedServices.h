@@ -49,6 +49,10 @@ class NoTools final : public Tools {
   bool MayLookInto(std::int32_t) const override { return false; }
   void Await(std::span<RunningTool* const>, std::chrono::milliseconds) override {}
   bool StartInBackground(const std::vector<std::string>&) override { return false; }
+  CommandStart StartCommand(const std::vector<std::string>&,
+                            const std::vector<std::string>&) override {
+    return {nullptr, "nothing is started for a recording"};
+  }
   int Stat(const std::string&) override { return -1; }
 };
 

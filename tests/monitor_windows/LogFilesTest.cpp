@@ -44,6 +44,40 @@ TEST_F(LogFilesTest, AFileIsNewPrivateAndGrowsByLines) {
   EXPECT_NE(first.file->Append("three"), "") << "the file is gone";
 }
 
+TEST_F(LogFilesTest, OneThatIsContinuedIsBegunAnewBeforeItIsTooLarge) {
+  auto log = files.Continue("alerts", "header", 60);
+  ASSERT_NE(log.file, nullptr) << log.problem;
+  const std::string path = log.file->Path();
+  EXPECT_EQ(ModeOf(path), 0600U);
+  EXPECT_EQ(log.file->Append("one"), "");
+  log = files.Continue("alerts", "header", 60);
+  // Another program's.
+  const auto other = files.Continue("alerts", "header", 60);
+  EXPECT_EQ(other.file->Append("two"), "");
+  EXPECT_EQ(log.file->Append("three"), "");
+  EXPECT_EQ(ReadFile(path), "header\none\ntwo\nthree\n");
+  EXPECT_EQ(log.file->Append(std::string(40, 'x')), "");
+  EXPECT_EQ(other.file->Append("four"), "");
+  EXPECT_EQ(ReadFile(path), "header\n" + std::string(40, 'x') + "\nfour\n");
+  EXPECT_EQ(ReadFile(Logs() / "alerts-1.tsv"), "header\none\ntwo\nthree\n");
+  fs::remove(path);
+  EXPECT_EQ(log.file->Append("five"), "");
+  EXPECT_EQ(ReadFile(path), "header\nfive\n");
+  // What others put there is not written to.
+  fs::remove(path);
+  std::ofstream(folder / "victim") << "mine";
+  fs::create_symlink(folder / "victim", path);
+  EXPECT_NE(log.file->Append("six"), "");
+  EXPECT_EQ(files.Continue("alerts", "header", 60).file, nullptr);
+  fs::remove(path);
+  fs::create_hard_link(folder / "victim", path);
+  EXPECT_EQ(files.Continue("alerts", "header", 60).file, nullptr);
+  fs::remove(path);
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  EXPECT_EQ(files.Continue("alerts", "header", 60).file, nullptr);
+  EXPECT_EQ(ReadFile(folder / "victim"), "mine");
+}
+
 TEST_F(LogFilesTest, WhatWaitsUnderAGuessedNameIsNotTouched) {
   const auto victim = folder / "victim";
   std::ofstream(victim) << "mine";

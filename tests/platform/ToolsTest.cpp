@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/FileDescriptor.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/ProcpsDialect.h"
 #include "support/PidNamespace.h"
@@ -351,6 +352,60 @@ TEST(Tools, SurviveThatNothingCanBeStarted) {
   EXPECT_EQ(tools.Stat("/nowhere"), -1);
   EXPECT_EQ(tools.Stat("/bin/ps"), 0);
   EXPECT_TRUE(HasNoChildren());
+}
+
+/// Runs a command of the user's to its end; 999 if it has none.
+int StatusOf(LinuxTools& tools, const std::vector<std::string>& arguments) {
+  const auto [command, problem] = tools.StartCommand(arguments, {"LURKWELL_TEST=a b"});
+  if (command == nullptr) return -1;
+  const auto deadline = Ample();
+  while (!command->Status() && std::chrono::steady_clock::now() < deadline) ::usleep(1000);
+  return command->Status().value_or(999);
+}
+
+TEST(UserCommand, RunsAsTheUserWouldAndWithoutAShell) {
+  LinuxTools tools;
+  const TemporaryFolder folder;
+  const std::string file = folder / "told";
+  // One variable more, the user's own, no input, nobody to tell, no descriptor of ours.
+  const FileDescriptor ours(::open("/dev/null", O_RDONLY));
+  const std::string script =
+      "echo \"$LURKWELL_TEST|$HOME|$(pwd)|$1|$(cat)|$(ls /proc/$$/fd | tr '\\n' ,)\" > " + file;
+  EXPECT_EQ(StatusOf(tools, {"sh", "-c", script, "sh", "$(x) `y`"}), 0);
+  EXPECT_TRUE(
+      ReadFile(file).starts_with("a b|" + std::string(::getenv("HOME")) + "|/|$(x) `y`||0,1,2,"))
+      << ReadFile(file);
+  EXPECT_EQ(StatusOf(tools, {"sh", "-c", "exit 3"}), 3);
+  EXPECT_EQ(StatusOf(tools, {"sh", "-c", "kill -9 $$"}), 137);
+  EXPECT_NE(tools.StartCommand({"/nonexistent"}, {}).problem, "");
+  EXPECT_NE(tools.StartCommand({}, {}).problem, "");
+  // No shell is asked what a text without an interpreter may mean.
+  WriteFile(folder / "text", "exit 5\n");
+  ::chmod((folder / "text").c_str(), 0755);
+  EXPECT_EQ(tools.StartCommand({folder / "text"}, {}).command, nullptr);
+}
+
+TEST(UserCommand, EndsWithAllThatItHasStarted) {
+  LinuxTools tools;
+  const TemporaryFolder folder;
+  const std::string file = folder / "pid";
+  auto started = tools.StartCommand(
+      {"sh", "-c",
+       "sleep 1000 & echo $! > " + file + ".part; mv " + file + ".part " + file + "; wait"},
+      {});
+  ASSERT_NE(started.command, nullptr);
+  const auto deadline = Ample();
+  while (ReadFile(file).empty() && std::chrono::steady_clock::now() < deadline) ::usleep(1000);
+  const int child = std::stoi(ReadFile(file));
+  const auto isGone = [child] {
+    // One that nobody has collected yet has ended, too.
+    const auto text = ReadFile("/proc/" + std::to_string(child) + "/stat");
+    return text.empty() || text.find(") Z ") != text.npos;
+  };
+  EXPECT_FALSE(isGone());
+  started.command.reset();
+  while (!isGone() && std::chrono::steady_clock::now() < deadline) ::usleep(1000);
+  EXPECT_TRUE(isGone());
 }
 
 }  // namespace

@@ -41,7 +41,8 @@ Machine MachineOf(SimulatedMachine& simulated, Own&... own) {
           ServiceOf(its.eventBus, own...),
           ServiceOf(its.costlyFigures, own...),
           ServiceOf(its.processDetails, own...),
-          ServiceOf(its.scheduler, own...)};
+          ServiceOf(its.scheduler, own...),
+          ServiceOf(its.notifications, own...)};
 }
 
 }  // namespace lurkwell

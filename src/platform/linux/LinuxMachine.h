@@ -40,12 +40,13 @@ class LinuxMachine {
   LinuxCostlyFigures costlyFigures;
   LinuxProcessDetails processDetails;
   LinuxScheduler scheduler;
+  NoNotifications notifications;
 
-  Machine services{clock,          runLoop,       preferenceDomain, processTable,
-                   processManager, iconServices,  hostStatistics,   tools,
-                   signals,        namedPipes,    authorization,    bundle,
-                   alerts,         logFiles,      hotKeys,          screen,
-                   eventBus,       costlyFigures, processDetails,   scheduler};
+  Machine services{
+      clock,          runLoop,   preferenceDomain, processTable, processManager, iconServices,
+      hostStatistics, tools,     signals,          namedPipes,   authorization,  bundle,
+      alerts,         logFiles,  hotKeys,          screen,       eventBus,       costlyFigures,
+      processDetails, scheduler, notifications};
 };
 
 }  // namespace lurkwell

@@ -7,8 +7,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "platform/Diagnostics.h"
@@ -162,6 +164,12 @@ class LinuxLogFile final : public LogFile {
 
   const std::string& Path() const override { return mPath; }
 
+  bool Is(const struct stat& other) const {
+    struct stat status {};
+    return ::fstat(mFile.Get(), &status) == 0 && status.st_dev == other.st_dev &&
+           status.st_ino == other.st_ino;
+  }
+
   std::string Append(std::string_view line) override {
     struct stat status {};
     if (::fstat(mFile.Get(), &status) != 0) return InWords(errno);
@@ -198,6 +206,51 @@ class LinuxLogFile final : public LogFile {
   FileDescriptor mFile;
 };
 
+/// A log that is continued, and begun anew before it is too large.
+class RotatedLogFile final : public LogFile {
+ public:
+  RotatedLogFile(std::string base, std::string_view header, std::int64_t mostBytes)
+      : mPath(base + ".tsv"), mOldPath(base + "-1.tsv"), mHeader(header), mMostBytes(mostBytes) {}
+
+  const std::string& Path() const override { return mPath; }
+
+  /// Opens the file that has its name now; empty, or why not.
+  std::string Open() {
+    FileDescriptor file(
+        ::open(mPath.c_str(),
+               O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NOCTTY | O_NONBLOCK,
+               S_IRUSR | S_IWUSR));
+    struct stat status {};
+    if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0) return InWords(errno);
+    if (!S_ISREG(status.st_mode) || status.st_nlink != 1 || status.st_uid != ::geteuid())
+      return InWords(EPERM);
+    if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0 && ::fchmod(file.Get(), S_IRUSR | S_IWUSR) != 0)
+      return InWords(errno);
+    mFile.emplace(mPath, std::move(file));
+    return status.st_size == 0 ? mFile->Append(mHeader) : std::string();
+  }
+
+  std::string Append(std::string_view line) override {
+    struct stat status {};
+    // Another program may have begun a new one, or somebody has taken it away.
+    const bool isThere = mFile && ::lstat(mPath.c_str(), &status) == 0 && mFile->Is(status);
+    if (!isThere)
+      if (auto problem = Open(); !problem.empty()) return problem;
+    if (isThere && status.st_size + static_cast<std::int64_t>(line.size()) >= mMostBytes) {
+      if (::rename(mPath.c_str(), mOldPath.c_str()) != 0) return InWords(errno);
+      if (auto problem = Open(); !problem.empty()) return problem;
+    }
+    return mFile->Append(line);
+  }
+
+ private:
+  std::string mPath;
+  std::string mOldPath;
+  std::string mHeader;
+  std::int64_t mMostBytes;
+  std::optional<LinuxLogFile> mFile;
+};
+
 }  // namespace
 
 LogFiles::Creation LinuxLogFiles::Create(std::string_view name) {
@@ -215,6 +268,15 @@ LogFiles::Creation LinuxLogFiles::Create(std::string_view name) {
     if (errno != EEXIST && errno != EINTR) error = errno;
   }
   return {nullptr, InWords(error != 0 ? error : EEXIST)};
+}
+
+LogFiles::Creation LinuxLogFiles::Continue(std::string_view name, std::string_view header,
+                                           std::int64_t mostBytes) {
+  const auto folder = LogFolder();
+  if (const int error = MakeFolder(folder); error != 0) return {nullptr, InWords(error)};
+  auto file = std::make_unique<RotatedLogFile>(folder + '/' + std::string(name), header, mostBytes);
+  if (auto problem = file->Open(); !problem.empty()) return {nullptr, std::move(problem)};
+  return {std::move(file), {}};
 }
 
 }  // namespace lurkwell

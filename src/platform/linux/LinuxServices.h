@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <set>
 #include <string>
 #include <string_view>
@@ -84,6 +85,8 @@ class TerminalAlerts final : public Alerts {
 class LinuxLogFiles final : public LogFiles {
  public:
   Creation Create(std::string_view name) override;
+  Creation Continue(std::string_view name, std::string_view header,
+                    std::int64_t mostBytes) override;
 };
 
 }  // namespace lurkwell

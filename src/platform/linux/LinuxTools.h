@@ -19,6 +19,8 @@ class LinuxTools final : public Tools {
   bool MayLookInto(std::int32_t pid) const override;
   void Await(std::span<RunningTool* const> tools, std::chrono::milliseconds limit) override;
   bool StartInBackground(const std::vector<std::string>& arguments) override;
+  CommandStart StartCommand(const std::vector<std::string>& arguments,
+                            const std::vector<std::string>& variables) override;
   int Stat(const std::string& path) override;
 
  private:

@@ -5,10 +5,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/EventBus.h"
 #include "platform/HotKeys.h"
 #include "platform/IconServices.h"
+#include "platform/Notifications.h"
 #include "platform/ProcessManager.h"
 #include "platform/Screen.h"
 
@@ -54,6 +56,20 @@ class NoHotKeys final : public HotKeys {
     return false;
   }
   std::string KeyName(std::uint32_t) const override { return {}; }
+};
+
+/// Nobody would see a notification.
+class NoNotifications final : public Notifications {
+ public:
+  void Show(const std::string&, const Notification&, std::function<void()>) override {
+    if (mFailed) mFailed("there is no desktop");
+  }
+  void WhenOneFails(std::function<void(const std::string&)> failed) override {
+    mFailed = std::move(failed);
+  }
+
+ private:
+  std::function<void(const std::string&)> mFailed;
 };
 
 /// A terminal shows no windows.

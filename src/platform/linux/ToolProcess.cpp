@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <string_view>
 #include <utility>
 
 #include "platform/FileDescriptor.h"
@@ -85,10 +86,32 @@ void SpawnSettings::SetOwnGroup() {
   mFlags |= POSIX_SPAWN_SETPGROUP;
 }
 
-int SpawnSettings::Start(const std::vector<std::string>& arguments, pid_t& pid) {
-  // The last of the actions, which the others need descriptors for.
+/// The last of the actions, which the others need descriptors for.
+void SpawnSettings::Finish() {
   ::posix_spawn_file_actions_addclosefrom_np(&mActions, STDERR_FILENO + 1);
   ::posix_spawnattr_setflags(&mAttributes, mFlags);
+}
+
+int SpawnSettings::StartAsUser(const std::vector<std::string>& arguments,
+                               const std::vector<std::string>& variables, pid_t& pid) {
+  Finish();
+  const auto vector = ArgumentVector(arguments);
+  auto environment = ArgumentVector(variables);
+  environment.pop_back();
+  const auto isSet = [&](std::string_view ours) {
+    const auto name = ours.substr(0, ours.find('=') + 1);
+    return std::ranges::any_of(variables,
+                               [name](const auto& its) { return its.starts_with(name); });
+  };
+  for (char** ours = ::environ; ours != nullptr && *ours != nullptr; ++ours)
+    if (!isSet(*ours)) environment.push_back(*ours);
+  environment.push_back(nullptr);
+  return ::posix_spawnp(&pid, vector.front(), &mActions, &mAttributes, vector.data(),
+                        environment.data());
+}
+
+int SpawnSettings::Start(const std::vector<std::string>& arguments, pid_t& pid) {
+  Finish();
   const auto vector = ArgumentVector(arguments);
   return ::posix_spawn(&pid, vector.front(), &mActions, &mAttributes, vector.data(),
                        FixedEnvironment());

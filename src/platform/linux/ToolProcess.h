@@ -34,8 +34,14 @@ class SpawnSettings {
 
   /// Starts it, once; `arguments` starts with the program's path. 0, or the number of the error.
   int Start(const std::vector<std::string>& arguments, pid_t& pid);
+  /// The same in the environment of ours with these variables ("NAME=VALUE") in it; the program may
+  /// be a name that is looked for along the path.
+  int StartAsUser(const std::vector<std::string>& arguments,
+                  const std::vector<std::string>& variables, pid_t& pid);
 
  private:
+  void Finish();
+
   posix_spawn_file_actions_t mActions;
   posix_spawnattr_t mAttributes;
   short mFlags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;

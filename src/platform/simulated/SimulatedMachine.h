@@ -37,13 +37,14 @@ class SimulatedMachine {
   SimulatedCostlyFigures costlyFigures{processTable, log};
   SimulatedProcessDetails processDetails{processTable, log};
   SimulatedScheduler scheduler{log};
+  SimulatedNotifications notifications{log};
   SimulatedHelper helper{processTable, log};
 
-  Machine services{clock,          runLoop,       preferenceDomain, processTable,
-                   processManager, iconServices,  hostStatistics,   tools,
-                   signals,        namedPipes,    authorization,    bundle,
-                   alerts,         logFiles,      hotKeys,          screen,
-                   eventBus,       costlyFigures, processDetails,   scheduler};
+  Machine services{
+      clock,          runLoop,   preferenceDomain, processTable, processManager, iconServices,
+      hostStatistics, tools,     signals,          namedPipes,   authorization,  bundle,
+      alerts,         logFiles,  hotKeys,          screen,       eventBus,       costlyFigures,
+      processDetails, scheduler, notifications};
 };
 
 }  // namespace lurkwell

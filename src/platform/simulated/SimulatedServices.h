@@ -16,6 +16,7 @@
 #include "platform/Bundle.h"
 #include "platform/HostStatistics.h"
 #include "platform/LogFiles.h"
+#include "platform/Notifications.h"
 #include "platform/PreferenceDomain.h"
 #include "platform/Scheduler.h"
 #include "platform/Signals.h"
@@ -201,6 +202,14 @@ class SimulatedLogFiles final : public LogFiles {
     return {std::make_unique<File>(*this, std::move(path)), {}};
   }
 
+  Creation Continue(std::string_view name, std::string_view header, std::int64_t) override {
+    if (!mProblem.empty()) return {nullptr, mProblem};
+    auto path = "/logs/" + std::string(name) + ".tsv";
+    auto& text = mTexts[path];
+    if (text.empty()) text = std::string(header) + '\n';
+    return {std::make_unique<File>(*this, std::move(path)), {}};
+  }
+
   /// Everything fails with these words from now on; works again with none.
   void Refuse(std::string problem) { mProblem = std::move(problem); }
 
@@ -230,6 +239,36 @@ class SimulatedLogFiles final : public LogFiles {
   std::map<std::string, std::string> mTexts;
   std::string mProblem;
   int mOpen = 0;
+};
+
+/// Notifications are recorded; a test may press their buttons, or have them refused.
+class SimulatedNotifications final : public Notifications {
+ public:
+  explicit SimulatedNotifications(AccessLog& log) : mLog(log) {}
+
+  void Show(const std::string& key, const Notification& notification,
+            std::function<void()> chosen) override {
+    mLog.Add("Notifications.Show " + key + " \"" + notification.title + "\" \"" +
+             notification.body + "\" [" + notification.button + "]");
+    if (!mProblem.empty() && mFailed) return mFailed(mProblem);
+    mChosen.insert_or_assign(key, std::move(chosen));
+  }
+  void WhenOneFails(std::function<void(const std::string&)> failed) override {
+    mFailed = std::move(failed);
+  }
+
+  /// All fail with these words from now on.
+  void Refuse(std::string problem) { mProblem = std::move(problem); }
+  /// How many are on the screen.
+  std::size_t Count() const { return mChosen.size(); }
+  /// Presses the button of one that is on the screen.
+  void Choose(const std::string& key) { mChosen.at(key)(); }
+
+ private:
+  AccessLog& mLog;
+  std::map<std::string, std::function<void()>> mChosen;
+  std::function<void(const std::string&)> mFailed;
+  std::string mProblem;
 };
 
 /// Settings in memory only. Main thread.

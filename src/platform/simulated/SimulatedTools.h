@@ -2,10 +2,13 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/Tools.h"
 #include "platform/simulated/AccessLog.h"
@@ -32,6 +35,23 @@ class SimulatedTools final : public Tools {
     mLog.Add(line);
     return mStarting(arguments);
   }
+
+  /// Runs until the test says how it ends.
+  CommandStart StartCommand(const std::vector<std::string>& arguments,
+                            const std::vector<std::string>& variables) override {
+    std::string line = "Tools.StartCommand";
+    for (const auto& argument : arguments) line += " [" + argument + ']';
+    mLog.Add(line);
+    commandVariables = variables;
+    if (mIsShort) return {nullptr, "Resource temporarily unavailable"};
+    ++runningCommands;
+    return {std::make_unique<Command>(*this), {}};
+  }
+  /// Of the command that was started last.
+  std::vector<std::string> commandVariables;
+  int runningCommands = 0;
+  /// What all commands end with; nothing while they run.
+  std::optional<int> commandStatus;
 
   std::optional<ToolColumn> ColumnNamed(std::string_view header) const override {
     const auto found = mColumns.find(header);
@@ -70,6 +90,21 @@ class SimulatedTools final : public Tools {
   }
 
  private:
+  class Command final : public RunningCommand {
+   public:
+    explicit Command(SimulatedTools& tools) : mTools(tools) {}
+    ~Command() override { --mTools.runningCommands; }
+    std::optional<int> Status() override { return mEnded ? mEnded : mTools.commandStatus; }
+    void End(bool atOnce) override {
+      mTools.mLog.Add(atOnce ? "RunningCommand.Kill" : "RunningCommand.Terminate");
+      mEnded = atOnce ? std::optional(137) : mEnded;
+    }
+
+   private:
+    SimulatedTools& mTools;
+    std::optional<int> mEnded;
+  };
+
   class Program final : public RunningTool {
    public:
     Program(const SimulatedTools& tools, std::string command, std::string text)
