@@ -23,9 +23,10 @@ FLOORS = [
     {"fleet"},  # what servers tell of many machines
     {"main_window", "monitor_windows", "animated_view", "preferences_window",
      "machine_window", "process_details", "fleet_window"},
-    {"app"},
+    {"app", "exporter"},
 ]
-# Know the interfaces of platform and nothing else; only main.cpp and the tests name them.
+# Know the interfaces of platform and nothing else; only the main.cpp of app and exporter and the
+# tests name them.
 MACHINES = {"platform/linux", "platform/desktop", "platform/simulated"}
 # Programs of their own.
 PROGRAMS = {"helper", "permission_step", "classic_nub"}
@@ -71,7 +72,7 @@ def may_include(file, folder, included):
     if folder in PROGRAMS or included in PROGRAMS:
         return False
     if included in MACHINES:
-        return file == "app/main.cpp"
+        return file in {"app/main.cpp", "exporter/main.cpp"}
     if folder in MACHINES:
         return included == "platform"
     mine, theirs = floor_of(folder), floor_of(included)

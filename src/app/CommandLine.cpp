@@ -54,6 +54,9 @@ Watches the processes of this machine.
   --keep DAYS          let go of what is older (with --record); 7 without it
   --limit-size SIZE    let go of the oldest beyond that size, such as 500M or 2G
                        (with --record); 1G without it
+  --export [ADDRESS]   serve figures to Prometheus, without a window: 'lurkwell-export'
+                       (a package of its own) with all that follows; without an
+                       address at 127.0.0.1:19256
   --unprivileged       never ask for an administrator's password; other users'
                        processes then show and obey only as far as your own
                        rights go
@@ -92,10 +95,14 @@ class Reader {
       : mArguments(arguments.subspan(arguments.empty() ? 0 : 1)), mErrors(errors) {}
 
   std::optional<CommandLine> Read() {
-    while (!mArguments.empty()) {
+    for (bool isFirst = true; !mArguments.empty(); isFirst = false) {
       const std::string_view argument = Take();
       const auto equals = argument.find('=');
       mOption = argument.substr(0, equals);
+      if (mOption == "--export" && !isFirst) {
+        Complain("--export comes first, and only its own options follow it");
+        return std::nullopt;
+      }
       if (IsForPrinting(mOption) && (mOption != "--interval" || mLine.printingOption.empty()))
         mLine.printingOption = mOption;
       if (IsForRecording(mOption)) mLine.recordingOption = mOption;
@@ -161,6 +168,7 @@ class Reader {
     if (mOption == "--replay") return ReadText(mLine.replay);
     if (mOption == "--at") return ReadText(mLine.at);
     if (mOption == "--screenshot") return ReadScreenshot();
+    if (mOption == "--export") return ReadExport();
     if (mOption == "--window") return ReadWindow();
     if (mOption == "--theme") return ReadTheme();
     // Of a session manager; Qt reads it.
@@ -280,6 +288,14 @@ class Reader {
     if (!TakeValue()) return false;
     mLine.screenshot = *mValue;
     return !mValue->empty() || Complain("--screenshot needs a file name");
+  }
+
+  /// The exporter reads what follows, and complains of it.
+  bool ReadExport() {
+    mLine.action = CommandLine::Action::kExport;
+    if (mValue) mLine.exportArguments.emplace_back(*mValue);
+    while (!mArguments.empty()) mLine.exportArguments.emplace_back(Take());
+    return true;
   }
 
   bool ReadWindow() {

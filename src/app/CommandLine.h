@@ -13,10 +13,12 @@ namespace lurkwell {
 
 /// What the command line asks for.
 struct CommandLine {
-  enum class Action { kRun, kPrint, kRecord, kHelp, kVersion };
+  enum class Action { kRun, kPrint, kRecord, kExport, kHelp, kVersion };
   enum class Theme { kSystem, kLight, kDark };
 
   Action action = Action::kRun;
+  /// What follows --export, for the exporter.
+  std::vector<std::string> exportArguments;
   /// End after that many updates; without it, go on until a signal.
   std::optional<std::int32_t> count;
   /// Properties to print instead of the usual five.

@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <QApplication>
 #include <QTimer>
 #include <cerrno>
@@ -6,10 +8,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -353,6 +357,27 @@ int Say(const char* text) {
   return kExitFailure;
 }
 
+/// The exporter is a program of its own, beside this one or on the path; comes back only when it
+/// cannot be started.
+int BecomeTheExporter(const CommandLine& commandLine) {
+  std::string name = "lurkwell-export";
+  std::vector<char*> arguments{name.data()};
+  auto words = commandLine.exportArguments;
+  for (auto& word : words) arguments.push_back(word.data());
+  arguments.push_back(nullptr);
+  std::error_code ignored;
+  const auto beside =
+      std::filesystem::read_symlink("/proc/self/exe", ignored).replace_filename(name);
+  ::execv(beside.c_str(), arguments.data());
+  if (errno == ENOENT) ::execvp(name.c_str(), arguments.data());
+  if (errno == ENOENT) {
+    Diagnose("--export needs lurkwell-export, which is not installed: it is a package of its own");
+  } else {
+    Diagnose("lurkwell-export cannot be started: %s", std::strerror(errno));
+  }
+  return kExitFailure;
+}
+
 int Run(const CommandLine& commandLine, int& argc, char** argv) {
   using enum CommandLine::Action;
   if (commandLine.action == kPrint && !commandLine.replay.empty())
@@ -388,6 +413,7 @@ int main(int argc, char** argv) {
   if (commandLine->action == CommandLine::Action::kHelp) return Say(HelpText());
   if (commandLine->action == CommandLine::Action::kVersion)
     return Say("lurkwell " LURKWELL_VERSION "\n");
+  if (commandLine->action == CommandLine::Action::kExport) return BecomeTheExporter(*commandLine);
   // The helper's end of a pipe may go at any time; writing to it then is an error, not the end.
   std::signal(SIGPIPE, SIG_IGN);
   // A file that must not grow is a failed write.

@@ -32,6 +32,20 @@ struct ProcessorTime {
   std::int64_t idle = 0;
 };
 
+/// All processors together since the machine started, in microseconds.
+struct ProcessorModes {
+  std::int64_t user = 0;
+  std::int64_t nice = 0;
+  std::int64_t system = 0;
+  std::int64_t idle = 0;
+  /// For input and output, with nothing else to do.
+  std::int64_t waiting = 0;
+  std::int64_t interrupts = 0;
+  std::int64_t softInterrupts = 0;
+  /// What other virtual machines had.
+  std::int64_t stolen = 0;
+};
+
 /// Bytes. What could be had at once counts as available: the page cache, and what ZFS would give
 /// back of its own cache.
 struct MachineMemory {
@@ -39,6 +53,11 @@ struct MachineMemory {
   std::int64_t available = 0;
   std::int64_t swap = 0;
   std::int64_t swapFree = 0;
+  /// As the kernel counts them; nothing where it is not told.
+  std::optional<std::int64_t> free = {};
+  std::optional<std::int64_t> cached = {};
+  std::optional<std::int64_t> buffers = {};
+  std::optional<std::int64_t> shared = {};
 };
 
 /// A disk or a network interface and the bytes it has moved since it is there.
@@ -55,6 +74,9 @@ struct MovedBytes {
 struct PressureShares {
   std::array<double, 3> some{};
   std::array<double, 3> full{};
+  /// The time of it since the machine started, in microseconds, where it is told.
+  std::optional<std::int64_t> someTime = {};
+  std::optional<std::int64_t> fullTime = {};
 };
 
 struct Temperature {
@@ -90,6 +112,7 @@ struct MachineLimits {
 /// What was asked for and is there; all else is nothing or empty.
 struct MachineFigures {
   std::vector<ProcessorTime> processors;
+  std::optional<ProcessorModes> modes;
   /// Processes and threads that have begun since the machine started, those that ended among them;
   /// with the processors' times.
   std::optional<std::int64_t> begunTasks;

@@ -68,6 +68,16 @@ std::array<double, 3> Averages(std::string_view line) {
   return averages;
 }
 
+/// The number behind total=, in microseconds.
+std::optional<std::int64_t> TotalTime(std::string_view line) {
+  constexpr std::string_view kName = "total=";
+  const auto at = line.find(kName);
+  if (at == std::string_view::npos) return std::nullopt;
+  auto rest = line.substr(at + kName.size());
+  const auto time = Parsed<std::int64_t>(NextWord(rest));
+  return time && *time >= 0 ? time : std::nullopt;
+}
+
 /// Names in a folder that begin so, sorted.
 std::vector<std::string> NamesBeginning(const std::string& folder, std::string_view begin) {
   std::vector<std::string> names;
@@ -135,8 +145,8 @@ std::optional<std::int64_t> MachineReader::Number(const std::string& path) {
   return Parsed<std::int64_t>(Line(path));
 }
 
-/// "cpuN" and the times as user, nice, system, idle, waiting, for interrupts twice, stolen. Guests'
-/// times are in the users'.
+/// "cpu" for all together, or "cpuN", and the times as user, nice, system, idle, waiting, for
+/// interrupts twice, stolen. Guests' times are in the users'.
 void MachineReader::ReadProcessorTimes(MachineFigures& figures) {
   const std::int64_t tick = 1'000'000 / std::max(1L, ::sysconf(_SC_CLK_TCK));
   ForEachLine(mProc.ReadText("stat"), [&](std::string_view line) {
@@ -144,8 +154,14 @@ void MachineReader::ReadProcessorTimes(MachineFigures& figures) {
     if (name == "processes") figures.begunTasks = Parsed<std::int64_t>(NextWord(line));
     if (!name.starts_with("cpu")) return;
     const auto number = Parsed<int>(name.substr(3));
-    const auto times = NextNumbers<8>(line);
-    if (!number || !times) return;
+    auto times = NextNumbers<8>(line);
+    if (!times) return;
+    if (name == "cpu") {
+      for (auto& time : *times) time *= tick;
+      const auto& [user, nice, system, idle, waiting, interrupts, soft, stolen] = *times;
+      figures.modes = {user, nice, system, idle, waiting, interrupts, soft, stolen};
+    }
+    if (!number) return;
     const auto& [user, nice, system, idle, waiting, interrupts, soft, stolen] = *times;
     figures.processors.push_back({*number,
                                   (user + nice + system + interrupts + soft + stolen) * tick,
@@ -159,6 +175,15 @@ void MachineReader::ReadMemory(MachineFigures& figures) {
   if (!NumberOf(text, "MemTotal:") || !NumberOf(text, "MemAvailable:")) return;
   auto& memory = figures.memory.emplace();
   memory = {bytes("MemTotal:"), bytes("MemAvailable:"), bytes("SwapTotal:"), bytes("SwapFree:")};
+  const auto told = [&](std::string_view name) -> std::optional<std::int64_t> {
+    const auto kibibytes = NumberOf(text, name);
+    if (!kibibytes) return std::nullopt;
+    return *kibibytes * 1024;
+  };
+  memory.free = told("MemFree:");
+  memory.cached = told("Cached:");
+  memory.buffers = told("Buffers:");
+  memory.shared = told("Shmem:");
   // ZFS keeps its cache apart from the pages that the kernel calls available: lines of a name, a
   // type and the number.
   std::int64_t size = 0;
@@ -209,6 +234,7 @@ std::optional<PressureShares> MachineReader::ReadPressure(const char* file) {
     if (kind != "some" && kind != "full") return;
     if (!shares) shares.emplace();
     (kind == "some" ? shares->some : shares->full) = Averages(line);
+    (kind == "some" ? shares->someTime : shares->fullTime) = TotalTime(line);
   });
   return shares;
 }
