@@ -43,6 +43,7 @@
 #include "platform/desktop/RunningInstance.h"
 #include "platform/linux/LinuxCostlyFigures.h"
 #include "platform/linux/LinuxMachine.h"
+#include "platform/linux/OwnFolders.h"
 #include "platform/linux/ProcFiles.h"
 #include "recording/RecordedProcessTable.h"
 #include "recording/RecordedRunLoop.h"
@@ -419,5 +420,6 @@ int main(int argc, char** argv) {
   // A file that must not grow is a failed write.
   std::signal(SIGXFSZ, SIG_IGN);
   RaiseDescriptorLimit();
+  if (const auto words = KeepToOwnFolders(); !words.empty()) Diagnose("%s", words.c_str());
   return Run(*commandLine, argc, argv);
 }

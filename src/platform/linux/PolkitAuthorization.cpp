@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "platform/FileDescriptor.h"
+#include "platform/linux/OwnFolders.h"
 #include "platform/linux/ToolProcess.h"
 
 namespace lurkwell {
@@ -39,27 +40,6 @@ constexpr int kUnknown = -2;
 
 bool IsRoot() {
   return ::geteuid() == 0;
-}
-
-bool IsRootsAlone(const std::filesystem::path& path) {
-  struct stat info {};
-  if (::lstat(path.c_str(), &info) != 0 || info.st_uid != 0) return false;
-  // Names in a sticky folder can be exchanged by their owners alone; a link's mode says nothing.
-  const bool isSticky = S_ISDIR(info.st_mode) && (info.st_mode & S_ISVTX) != 0;
-  return S_ISLNK(info.st_mode) || isSticky || (info.st_mode & (S_IWGRP | S_IWOTH)) == 0;
-}
-
-/// Whether nobody but root can exchange the program or a folder on the way to it.
-bool BelongsToRoot(const std::string& program) {
-  std::error_code error;
-  const auto real = std::filesystem::canonical(program, error);
-  if (error) return false;
-  for (const auto& path : {std::filesystem::path(program), real}) {
-    std::filesystem::path reached;
-    for (const auto& part : path)
-      if (reached /= part; !IsRootsAlone(reached)) return false;
-  }
-  return true;
 }
 
 /// What keeps programs in the folder from getting rights; empty when nothing does. The step looks
