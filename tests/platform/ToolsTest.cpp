@@ -6,7 +6,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -19,6 +21,7 @@
 #include "platform/FileDescriptor.h"
 #include "platform/linux/LinuxTools.h"
 #include "platform/linux/ProcpsDialect.h"
+#include "support/Child.h"
 #include "support/PidNamespace.h"
 #include "support/TemporaryFolder.h"
 
@@ -308,6 +311,45 @@ TEST(Tools, AreReadWithoutWaitingAndKilledWithTheirOwner) {
   ps.reset();
   for (int tries = 0; !HasNoChildren() && tries < 3000; ++tries) ::usleep(1000);
   EXPECT_TRUE(HasNoChildren());
+}
+
+/// Others' arguments are no limit to what ps tells of ours.
+TEST(Tools, KeepOfEachProcessNoMoreThanAColumnHolds) {
+  constexpr int kFat = 512;
+  const auto before = ::getpid();
+  const std::string arguments(131'000, 'x');
+  std::array<int, 2> life{};
+  ASSERT_EQ(::pipe2(life.data(), O_CLOEXEC), 0);
+  std::vector<pid_t> children;
+  for (int i = 0; i < kFat; ++i)
+    children.push_back(Fork([&] {
+      ::dup2(life[0], STDIN_FILENO);
+      ::execl("/bin/sh", "sh", "-c", "read line", arguments.c_str(), nullptr);
+      return 97;
+    }));
+  // A shell that reads has its arguments.
+  const auto isShell = [](pid_t pid) {
+    return ReadFile("/proc/" + std::to_string(pid) + "/comm") == "sh\n";
+  };
+  for (int tries = 0; !std::ranges::all_of(children, isShell) && tries < 30'000; ++tries)
+    ::usleep(1000);
+  LinuxTools tools;
+  const auto output = RunOne(tools, "/bin/ps -axww -o pid,args");
+  ::close(life[1]);
+  for (const auto child : children) WaitFor(child);
+  ::close(life[0]);
+  EXPECT_TRUE(output.complete);
+  EXPECT_LT(output.text.size(), 2u * 1024 * 1024 + kFat * 2049u);
+  std::istringstream lines(output.text);
+  int fat = 0;
+  bool isOwnThere = false;
+  for (std::string line; std::getline(lines, line);) {
+    EXPECT_LE(line.size(), 2048u);
+    fat += line.find("sh -c read line xxx") != std::string::npos && line.size() == 2048 ? 1 : 0;
+    isOwnThere = isOwnThere || std::atoi(line.c_str()) == before;
+  }
+  EXPECT_EQ(fat, kFat);
+  EXPECT_TRUE(isOwnThere);
 }
 
 TEST(Tools, SurviveThatNothingCanBeStarted) {

@@ -20,6 +20,8 @@ namespace {
 
 constexpr std::size_t kMostOutput = 67'108'864;
 constexpr std::size_t kPiece = 65536;
+/// Of a line; who reads a column keeps less.
+constexpr std::size_t kLongestLine = 2048;
 // As much as a busy program may have us read at a time.
 constexpr int kMostPieces = 16;
 
@@ -156,21 +158,35 @@ void ToolProcess::ReadOutput() {
 
 /// False when there is nothing to be read at present.
 bool ToolProcess::ReadPiece() {
-  std::string& text = mOutput.text;
-  const std::size_t had = text.size();
-  text.resize(had + kPiece);
-  const auto bytes = ::read(mPipe.Get(), text.data() + had, kPiece);
-  text.resize(had + static_cast<std::size_t>(std::max<ssize_t>(bytes, 0)));
+  std::array<char, kPiece> piece;
+  const auto bytes = ::read(mPipe.Get(), piece.data(), piece.size());
   if (bytes < 0 && (errno == EAGAIN || errno == EINTR)) return false;
   mReachedEnd = bytes == 0;
   if (bytes <= 0) {
     mPipe.Close();
-  } else if (text.size() > kMostOutput) {
-    text.resize(kMostOutput);
+    return true;
+  }
+  TakeIn({piece.data(), static_cast<std::size_t>(bytes)});
+  if (mOutput.text.size() > kMostOutput) {
+    mOutput.text.resize(kMostOutput);
     mPipe.Close();
     Kill();
   }
   return true;
+}
+
+/// A process may have megabytes of arguments, on which no other's column depends.
+void ToolProcess::TakeIn(std::string_view piece) {
+  while (!piece.empty()) {
+    const auto newline = piece.find('\n');
+    const auto part = piece.substr(0, newline);
+    mOutput.text += part.substr(0, kLongestLine - std::min(mLine, kLongestLine));
+    mLine += part.size();
+    if (newline == std::string_view::npos) return;
+    mOutput.text += '\n';
+    mLine = 0;
+    piece.remove_prefix(newline + 1);
+  }
 }
 
 void ToolProcess::Kill() {

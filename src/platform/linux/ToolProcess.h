@@ -4,8 +4,10 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <cstddef>
 #include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -76,17 +78,21 @@ class ToolProcess {
   /// Gives up an ended or killed child that cannot be collected yet; its pid.
   pid_t Abandon() { return std::exchange(mPid, -1); }
 
-  /// What it printed, at most 64 MiB; more is an incomplete answer.
+  /// What it printed, of each line the first 2048 bytes. At most 64 MiB; more is an incomplete
+  /// answer.
   ToolOutput TakeOutput();
 
  private:
   void ReadOutput();
   bool ReadPiece();
+  void TakeIn(std::string_view piece);
 
   pid_t mPid = -1;
   FileDescriptor mPipe;
   FileDescriptor mEnd;
   ToolOutput mOutput;
+  /// Bytes of the line that is being read.
+  std::size_t mLine = 0;
   bool mReachedEnd = false;
 };
 
