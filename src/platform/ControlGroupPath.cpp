@@ -4,6 +4,8 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
+#include <system_error>
 #include <vector>
 
 namespace lurkwell {
@@ -66,16 +68,31 @@ std::optional<ApplicationScope> ScopeOfName(std::string_view name) {
   if (!id.starts_with(kPrefix)) return {};
   id.remove_prefix(std::max(id.rfind('-') + 1, kPrefix.size()));
   if (id.empty()) return {};
-  return ApplicationScope{std::string(name), UnescapedUnit(id)};
+  return ApplicationScope{std::string(name), UnescapedUnit(id), {}, {}};
+}
+
+/// The number in "user@1000.service"; nothing for any other name.
+std::optional<std::uint32_t> UserOfManager(std::string_view folder) {
+  const auto number = Between(folder, "user@", kService);
+  const char* end = number.data() + number.size();
+  std::uint32_t user = 0;
+  const auto [at, error] = std::from_chars(number.data(), end, user);
+  if (number.empty() || error != std::errc{} || at != end) return {};
+  return user;
 }
 
 /// The first such folder below the slice of applications.
 std::optional<ApplicationScope> ScopeOfPath(std::string_view path) {
   bool inSlice = false;
+  std::optional<std::uint32_t> user;
   for (const auto folder : FoldersOf(path)) {
     if (!inSlice) {
       inSlice = folder == "app.slice";
+      if (const auto manager = UserOfManager(folder)) user = manager;
     } else if (auto scope = ScopeOfName(folder)) {
+      const auto end = folder.data() + folder.size() - path.data();
+      scope->path = path.substr(0, static_cast<std::size_t>(end));
+      scope->user = user;
       return scope;
     }
   }

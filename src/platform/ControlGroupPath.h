@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,11 @@ struct ApplicationScope {
   std::string name;
   /// The desktop entry's id, such as "org.example.Editor".
   std::string entryId;
+  /// The path of the group, which other users' groups of that name do not share.
+  std::string path;
+  /// Whose service manager has the group, by the path; nothing where that is cut off, as in a
+  /// container.
+  std::optional<std::uint32_t> user;
 
   friend bool operator==(const ApplicationScope&, const ApplicationScope&) = default;
 };

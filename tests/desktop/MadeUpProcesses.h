@@ -14,14 +14,19 @@ namespace lurkwell {
 /// A proc tree and a folder of desktop entries, for a desktop without an X server.
 class MadeUpProcesses {
  public:
+  static constexpr std::uint32_t kUser = 1000;
+
   /// `group` is the path of the control group.
   void Write(int pid, std::uint64_t start, const std::string& group,
-             const std::string& name = "prog", const std::string& executable = "") const {
+             const std::string& name = "prog", const std::string& executable = "",
+             std::uint32_t user = kUser) const {
     const std::string folder = "proc/" + std::to_string(pid);
     std::string stat = std::to_string(pid) + " (" + name + ") S 1 1 1 0 -1 4194560";
     for (int field = 10; field < 22; ++field) stat += " 7";
     mTree.Write(folder + "/stat", stat + ' ' + std::to_string(start) + " 1 2 3\n");
     mTree.Write(folder + "/comm", name + '\n');
+    const auto uid = std::to_string(user);
+    mTree.Write(folder + "/status", "Name:\t" + name + "\nUid:\t" + uid + "\t0\t0\t0\n");
     mTree.Write(folder + "/cgroup", "0::" + group + '\n');
     if (executable.empty()) return;
     std::filesystem::create_symlink(executable, mTree.Path() + '/' + folder + "/exe");
@@ -46,6 +51,7 @@ class MadeUpProcesses {
   DesktopSettings Settings() const {
     DesktopSettings settings;
     settings.usesScopes = true;
+    settings.user = kUser;
     settings.procFolder = mTree.Path() + "/proc";
     settings.applicationFolders = {mTree.Path() + "/applications"};
     return settings;

@@ -93,6 +93,26 @@ TEST(Scopes, WithoutAnXServerTheFirstProcessOfAGroupIsTheApplication) {
   EXPECT_TRUE(ComesTrue([&] { return Walk(manager) == std::vector{40, 19, 51}; }));
 }
 
+TEST(Scopes, OtherUsersTakeNoApplicationsPlace) {
+  const MadeUpProcesses processes;
+  const std::string editor = "app-org.example.Editor-1.scope";
+  const std::string theirs = "/user.slice/user-1001.slice/user@1001.service/app.slice/";
+  constexpr std::uint32_t kOther = 1001;
+  constexpr std::uint32_t kRoot = 0;
+  // All of them older than the one that counts.
+  processes.Write(10, 300, theirs + editor, "theirs", "", kOther);
+  processes.Write(11, 310, theirs + "app-other-2.scope", "pretends", "", MadeUpProcesses::kUser);
+  processes.Write(12, 320, kAppSlice + editor, "asRoot", "", kRoot);
+  processes.Write(20, 400, kAppSlice + editor);
+  // Groups of one name may stand below different ones, as they do for programs started by hand.
+  processes.Write(30, 500, kAppSlice + std::string("app-outer.slice/") + editor);
+  // A container shows no more of the path.
+  processes.Write(40, 600, "/app.slice/app-inside-3.scope");
+  processes.Write(41, 590, "/app.slice/app-inside-3.scope", "theirs", "", kOther);
+  DesktopProcessManager manager(processes.Settings());
+  EXPECT_EQ(Walk(manager), (std::vector{20, 30, 40}));
+}
+
 }  // namespace
 
 }  // namespace lurkwell

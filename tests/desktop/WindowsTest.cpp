@@ -252,6 +252,7 @@ TEST(DesktopWindows, ScopesTellOfApplicationsThatTheServerDoesNotKnow) {
   processes.Write(client->Pid(), 5, kAppSlice + std::string("app-a-1.scope"));
   auto settings = desktop.Settings();
   settings.usesScopes = true;
+  settings.user = MadeUpProcesses::kUser;
   settings.procFolder = processes.Settings().procFolder;
   desktop.manager = std::make_unique<DesktopProcessManager>(settings);
   const auto pid = static_cast<std::uint32_t>(client->Pid());

@@ -15,9 +15,17 @@ constexpr int kLooksPerRefresh = 8;
 
 }  // namespace
 
+/// A program that runs with another user's rights may be in a group of the session's, and be older
+/// than the application itself.
+std::optional<ApplicationScope> ApplicationScopes::ScopeOf(std::int32_t pid) const {
+  auto scope = ScopeOfControlGroups(mFolder.ControlGroups(pid));
+  if (!scope || scope->user.value_or(mUser) != mUser || mFolder.User(pid) != mUser) return {};
+  return scope;
+}
+
 void ApplicationScopes::Read(Process& process, std::int32_t pid) {
   const auto identity = mFolder.Identify(pid).value_or(ProcessIdentity{});
-  auto scope = ScopeOfControlGroups(mFolder.ControlGroups(pid));
+  auto scope = ScopeOf(pid);
   if (identity == process.identity && scope == process.scope) return;
   process.identity = identity;
   process.scope = std::move(scope);
@@ -90,12 +98,12 @@ std::vector<ApplicationScopes::Application> ApplicationScopes::FirstOfEach() con
   std::map<std::string_view, const Process*> first;
   for (const auto& [pid, process] : mProcesses) {
     if (!process.scope || process.identity.pid == kInvalidPID) continue;
-    const auto [place, isNew] = first.emplace(process.scope->name, &process);
+    const auto [place, isNew] = first.emplace(process.scope->path, &process);
     if (!isNew && age(process.identity) < age(place->second->identity)) place->second = &process;
   }
   std::vector<Application> applications;
   applications.reserve(first.size());
-  for (const auto& [name, process] : first) {
+  for (const auto& [path, process] : first) {
     applications.push_back({process->identity, *process->scope});
   }
   std::ranges::sort(applications,
@@ -103,10 +111,10 @@ std::vector<ApplicationScopes::Application> ApplicationScopes::FirstOfEach() con
   return applications;
 }
 
-std::string ApplicationScopes::NameOfScope(std::int32_t pid) const {
+std::string ApplicationScopes::PathOfScope(std::int32_t pid) const {
   const auto known = mProcesses.find(pid);
   if (known == mProcesses.end() || !known->second.scope) return {};
-  return known->second.scope->name;
+  return known->second.scope->path;
 }
 
 }  // namespace lurkwell

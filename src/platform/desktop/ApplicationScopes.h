@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,7 +17,8 @@ namespace lurkwell {
 /// The applications of a session as the session manager keeps them. Files are read once for each
 /// new process, and again for a while because a process is moved to its group after its start; of
 /// the others a few per second, in turn, so that none is wrong for ever. Nothing is listed while
-/// no process was born. Main thread only.
+/// no process was born. Other users' groups and processes are no applications of this session.
+/// Main thread only.
 class ApplicationScopes {
  public:
   struct Application {
@@ -25,7 +27,9 @@ class ApplicationScopes {
     ApplicationScope scope;
   };
 
-  explicit ApplicationScopes(const ProcFolder& processes) : mFolder(processes) {}
+  /// `user` is whose session it is.
+  ApplicationScopes(const ProcFolder& processes, std::uint32_t user)
+      : mFolder(processes), mUser(user) {}
 
   /// The present applications, first started first; one that has ended since a process was born
   /// may be among them.
@@ -34,8 +38,8 @@ class ApplicationScopes {
   /// The process of an application has ended: the next refresh lists.
   void NoteEnd(std::int32_t pid);
 
-  /// The group of a process as of the last refresh; "" for none.
-  std::string NameOfScope(std::int32_t pid) const;
+  /// The path of the group of a process as of the last refresh; "" for none.
+  std::string PathOfScope(std::int32_t pid) const;
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -49,9 +53,11 @@ class ApplicationScopes {
   void LookAtSomeKnown();
   void ReadThoseThatSettle(Clock::time_point now);
   void Read(Process& process, std::int32_t pid);
+  std::optional<ApplicationScope> ScopeOf(std::int32_t pid) const;
   std::vector<Application> FirstOfEach() const;
 
   const ProcFolder& mFolder;
+  std::uint32_t mUser;
   bool mHasLooked = false;
   std::optional<std::int32_t> mLastPid;
   Clock::time_point mNextLook;

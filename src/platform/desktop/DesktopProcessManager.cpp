@@ -46,7 +46,7 @@ class DesktopProcessManager::Desktop {
     if (!settings.display.empty()) {
       mX.emplace(settings.display, settings.hostName, settings.retryInterval);
     }
-    if (settings.usesScopes) mScopes.emplace(mProcesses);
+    if (settings.usesScopes) mScopes.emplace(mProcesses, settings.user);
   }
 
   void Refresh();
@@ -147,10 +147,10 @@ void DesktopProcessManager::Desktop::TakeScopes() {
   const auto& present = mScopes->Refresh();
   std::unordered_set<std::string> taken;
   for (const auto& known : mApplications.All()) {
-    taken.insert(mScopes->NameOfScope(known->process.pid));
+    taken.insert(mScopes->PathOfScope(known->process.pid));
   }
   for (const auto& found : present) {
-    if (taken.contains(found.scope.name) || mApplications.FindPid(found.process.pid) != nullptr)
+    if (taken.contains(found.scope.path) || mApplications.FindPid(found.process.pid) != nullptr)
       continue;
     if (!mProcesses.IsThere(found.process)) {
       mScopes->NoteEnd(found.process.pid);

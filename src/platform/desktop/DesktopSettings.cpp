@@ -52,6 +52,7 @@ DesktopSettings DesktopSettings::FromEnvironment() {
   DesktopSettings settings;
   settings.display = Variable("DISPLAY");
   settings.usesScopes = settings.display.empty() || !Variable("WAYLAND_DISPLAY").empty();
+  settings.user = ::getuid();
   settings.applicationFolders = ApplicationFolders();
   settings.locale = FirstSet({"LC_ALL", "LC_MESSAGES", "LANG"});
   std::array<char, HOST_NAME_MAX + 1> name{};

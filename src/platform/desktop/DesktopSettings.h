@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,8 @@ struct DesktopSettings {
   /// Whether the session manager's scopes tell applications: where there is no X server, or where
   /// there are also windows that it does not know.
   bool usesScopes = false;
+  /// Whose scopes and processes count.
+  std::uint32_t user = 0;
   std::string procFolder = "/proc";
   /// The folders of desktop entries, the most important one first.
   std::vector<std::string> applicationFolders;

@@ -118,6 +118,16 @@ std::string ProcFolder::Executable(std::int32_t pid) const {
   return path;
 }
 
+std::optional<std::uint32_t> ProcFolder::User(std::int32_t pid) const {
+  // Not the folder's owner, which is root for programs that hide their memory.
+  constexpr std::string_view kLine = "\nUid:\t";
+  const auto text = Read(pid, "status").value_or("");
+  const auto line = text.find(kLine);
+  if (line == std::string::npos) return {};
+  auto words = std::string_view(text).substr(line + kLine.size());
+  return WholeNumber<std::uint32_t>(words.substr(0, words.find('\t')));
+}
+
 std::string ProcFolder::ControlGroups(std::int32_t pid) const {
   return Read(pid, "cgroup").value_or("");
 }

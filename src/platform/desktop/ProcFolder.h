@@ -40,6 +40,9 @@ class ProcFolder {
   /// The program's file, without the kernel's mark of deleted ones; "" when it cannot be read.
   std::string Executable(std::int32_t pid) const;
 
+  /// Whose process it is, by the user who has started it; nothing when that cannot be read.
+  std::optional<std::uint32_t> User(std::int32_t pid) const;
+
   /// The text of the control group file; "" when it cannot be read.
   std::string ControlGroups(std::int32_t pid) const;
 
