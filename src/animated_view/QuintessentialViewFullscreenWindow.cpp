@@ -9,6 +9,7 @@
 #include "platform/Screen.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/FrontmostWindow.h"
 #include "windows/OverlayKey.h"
 
 namespace lurkwell {
@@ -16,14 +17,21 @@ namespace {
 
 constexpr double kSecondsUntilVisible = 1.0;
 constexpr char kToldKey[] = "QUIVA_CHECK_COMPOSITOR";
-/// What Qt's X11 side takes a window's type from, and the bit for notifications there: window
-/// managers keep those above full-screen windows, too.
+/// What Qt's X11 side takes a window's type from, and the bit for notifications there, by which
+/// compositors tell it from menus.
 constexpr char kWindowTypeProperty[] = "_q_xcb_wm_window_type";
 constexpr int kNotificationType = 0x800;
 
 constexpr Qt::WindowFlags kOverlayFlags = Qt::Window | Qt::FramelessWindowHint |
                                           Qt::WindowStaysOnTopHint | Qt::WindowTransparentForInput |
                                           Qt::WindowDoesNotAcceptFocus;
+
+/// Most window managers put a frame around every window, which takes the clicks that the window
+/// itself lets through. On Wayland the toolkit would not show such a window.
+Qt::WindowFlags OverlayFlags() {
+  const bool isOnX = QGuiApplication::platformName() == QLatin1String("xcb");
+  return isOnX ? kOverlayFlags | Qt::BypassWindowManagerHint : kOverlayFlags;
+}
 
 /// Not at once: a question inside a timer's callback would hold up all other timers.
 void TellOnce(QObject& context) {
@@ -51,7 +59,7 @@ void QuintessentialViewFullscreenWindow::setUpOverlayStuff() {
     // Window managers look at these when a window comes up, and no later.
     if (!isVisible()) destroy();
     setProperty(kWindowTypeProperty, blends ? QVariant(kNotificationType) : QVariant());
-    setFlags(blends ? kOverlayFlags : Qt::Window | Qt::FramelessWindowHint);
+    setFlags(blends ? OverlayFlags() : Qt::Window | Qt::FramelessWindowHint);
     view().SetMode(blends ? ViewMode::kOverlay : ViewMode::kOpaqueFullscreen);
     setGeometry(QGuiApplication::primaryScreen()->geometry());
   }
@@ -75,7 +83,7 @@ void QuintessentialViewFullscreenWindow::myTimer() {
   }
   if (view().Mode() == ViewMode::kOverlay) {
     setAlphaValue(OverlayWindowAlpha());
-    if (isVisible()) TheMachine().screen.KeepInSight(winId());
+    if (isVisible()) KeepAboveManaged(*this);
   }
   view().drawRect();
 }

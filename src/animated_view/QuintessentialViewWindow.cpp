@@ -87,7 +87,6 @@ void QuintessentialViewWindow::makeKeyAndOrderFront(Showing showing) {
   TakeSize();
   raise();
   if (takesKeyboard) requestActivate();
-  if (mView.Mode() == ViewMode::kOverlay) TheMachine().screen.KeepInSight(winId());
 }
 
 void QuintessentialViewWindow::performClose() {

@@ -14,6 +14,7 @@
 
 #include "platform/Machine.h"
 #include "platform/Screen.h"
+#include "windows/FrontmostWindow.h"
 
 namespace lurkwell {
 namespace {
@@ -57,8 +58,13 @@ FloatingWindow::FloatingWindow(const QRect& contentBounds, std::uint32_t attribu
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                            Qt::WindowDoesNotAcceptFocus),
       mContent(new Content(this)),
-      mAttributes(attributes) {
-  setAttribute(Qt::WA_ShowWithoutActivating);
+      mAttributes(attributes),
+      mIsManaged(TheMachine().screen.KeepsWindowsAbove()) {
+  // Some managers would tile it, and give it the keyboard at a click.
+  setWindowFlag(Qt::BypassWindowManagerHint, !mIsManaged);
+  // Not WA_ShowWithoutActivating: mutter takes a window that says so for one that asks for
+  // attention, and tells the user of it. A window that does not accept the keyboard gets none
+  // anyway.
   setAttribute(Qt::WA_QuitOnClose, false);
   setAttribute(Qt::WA_Hover);
   // It is never the active window, which alone has tooltips otherwise.
@@ -98,6 +104,7 @@ bool FloatingWindow::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::Show:
       MakeFloating();
+      if (!mIsManaged) KeepAboveManaged(*windowHandle());
       Tell(kEventWindowShowing);
       Tell(kEventWindowDrawContent);
       Tell(kEventWindowShown);
@@ -172,9 +179,12 @@ void FloatingWindow::HandleMouse(QEvent& event) {
   if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::LeftButton) {
     EndDrag();
     const auto edges = EdgesAt(place);
-    if (edges && windowHandle() != nullptr && windowHandle()->startSystemResize(edges)) return;
+    if (edges && mIsManaged && windowHandle() != nullptr &&
+        windowHandle()->startSystemResize(edges))
+      return;
+    mHeldEdges = edges;
     mPressedCloseBox = CloseBox().contains(place);
-    mMayDrag = !mPressedCloseBox;
+    mMayDrag = !mPressedCloseBox && !edges;
     mGrip = place;
     Tell(kEventWindowGetClickActivation);
   } else if (event.type() == QEvent::MouseMove && mMayDrag && !mDragging) {
@@ -182,7 +192,7 @@ void FloatingWindow::HandleMouse(QEvent& event) {
     mDragging = true;
     Tell(kEventWindowDragStarted);
     // The window manager knows edges and other desktops; where it does not help, move by hand.
-    if (windowHandle() != nullptr && windowHandle()->startSystemMove()) {
+    if (mIsManaged && windowHandle() != nullptr && windowHandle()->startSystemMove()) {
       mMayDrag = false;
       return;
     }
@@ -193,6 +203,7 @@ void FloatingWindow::HandleMouse(QEvent& event) {
     return;
   }
   if (event.type() != QEvent::MouseMove) return;
+  if (mHeldEdges) return DragEdges(mouse.globalPosition().toPoint());
   if (mDragging && mMayDrag) move(mouse.globalPosition().toPoint() - mGrip);
   // After a move by the window manager the release never comes.
   if (mouse.buttons() == Qt::NoButton) EndDrag();
@@ -245,7 +256,22 @@ void FloatingWindow::Flash() {
   });
 }
 
+void FloatingWindow::DragEdges(const QPoint& to) {
+  const auto before = geometry();
+  QSize size = before.size();
+  if (mHeldEdges & Qt::LeftEdge) size.setWidth(before.right() - to.x() + 1);
+  if (mHeldEdges & Qt::RightEdge) size.setWidth(to.x() - before.left() + 1);
+  if (mHeldEdges & Qt::TopEdge) size.setHeight(before.bottom() - to.y() + 1);
+  if (mHeldEdges & Qt::BottomEdge) size.setHeight(to.y() - before.top() + 1);
+  size = size.expandedTo(minimumSize()).boundedTo(maximumSize());
+  QRect after(before.topLeft(), size);
+  if (mHeldEdges & Qt::LeftEdge) after.moveRight(before.right());
+  if (mHeldEdges & Qt::TopEdge) after.moveBottom(before.bottom());
+  setGeometry(after);
+}
+
 void FloatingWindow::EndDrag() {
+  mHeldEdges = {};
   mMayDrag = false;
   if (std::exchange(mDragging, false)) Tell(kEventWindowDragCompleted);
 }

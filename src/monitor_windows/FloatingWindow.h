@@ -94,6 +94,8 @@ class FloatingWindow final : public QWidget {
   void ShowEdge(const QPoint& place);
   void HandleStateChange(Qt::WindowStates before);
   void EndDrag();
+  /// Moves the edges that are held to where the pointer is on the desktop.
+  void DragEdges(const QPoint& to);
 
   std::function<void(WindowEventKind)> mHandler;
   std::function<void(QMenu&)> mFillMenu;
@@ -107,6 +109,9 @@ class FloatingWindow final : public QWidget {
   bool mMayDrag = false;
   bool mDragging = false;
   QPoint mGrip;
+  /// By hand, where no window manager looks after the window.
+  Qt::Edges mHeldEdges;
+  bool mIsManaged;
 };
 
 /// A label that is laid over a floating window, with an opacity of its own. Unseen until its

@@ -22,10 +22,14 @@ class Screen {
   /// windows.
   virtual void MakeFloating(std::uint64_t window) = 0;
 
-  /// The window, one of this application's, stays above others and is seen whichever desktop is;
-  /// call it when the window has just been shown. Does nothing where the desktop does not know of
-  /// such windows.
-  virtual void KeepInSight(std::uint64_t window) = 0;
+  /// Whether the desktop itself keeps floating windows above others. Where it does not, as under
+  /// most tiling window managers, they are better off without a manager.
+  virtual bool KeepsWindowsAbove() = 0;
+
+  /// Puts one of this application's windows that no window manager looks after above all that one
+  /// does, and no further: menus and a locked screen stay above it. Windows that open later come
+  /// above it, so call it again. Does nothing for windows that are managed.
+  virtual void PutAboveManaged(std::uint64_t window) = 0;
 
   /// Whether some other, opaque window hides all of it.
   virtual bool IsCovered(std::uint64_t window) = 0;

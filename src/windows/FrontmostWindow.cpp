@@ -3,7 +3,13 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QTimer>
+#include <QWindow>
+#include <chrono>
 #include <utility>
+
+#include "platform/Machine.h"
+#include "platform/Screen.h"
 
 namespace lurkwell {
 namespace {
@@ -52,6 +58,17 @@ void BringToFront(QWidget& window) {
   window.show();
   window.raise();
   window.activateWindow();
+}
+
+void KeepAboveManaged(QWindow& window) {
+  // Nothing tells of windows that come above it.
+  constexpr std::chrono::seconds kTimeBetween{1};
+  auto* timer = new QTimer(&window);
+  QObject::connect(timer, &QTimer::timeout, timer, [&window, timer] {
+    if (!window.isVisible()) return timer->deleteLater();
+    TheMachine().screen.PutAboveManaged(window.winId());
+  });
+  timer->start(kTimeBetween);
 }
 
 QList<QWidget*> orderedWindows() {

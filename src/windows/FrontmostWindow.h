@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <functional>
 
+class QWindow;
+
 namespace lurkwell {
 
 /// The order of the program's own windows, as far as it can be told: the one that was used last
@@ -17,6 +19,10 @@ void BringToFront(QWidget& window);
 
 /// Front to back, invisible ones among them.
 QList<QWidget*> orderedWindows();
+
+/// Has a window that is shown and that no window manager looks after stay above all that one does,
+/// until it is hidden.
+void KeepAboveManaged(QWindow& window);
 
 /// Why the order of the windows has changed.
 enum class OrderChange {

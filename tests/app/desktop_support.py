@@ -87,6 +87,15 @@ class Desktop(unittest.TestCase):
         self.wait_for(lambda: "_NET_SUPPORTING_WM_CHECK" in self.output("xprop", "-root"))
         return server
 
+    def open_bus(self):
+        """A session bus that starts nothing: what it starts would outlive it."""
+        settings = pathlib.Path(self.home, "bus.conf")
+        settings.write_text(f"""<busconfig><type>session</type><listen>unix:dir={self.run_folder}</listen>
+<policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy>
+</busconfig>""")
+        bus = self.start(["dbus-daemon", f"--config-file={settings}", "--nofork", "--print-address"])
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+
     def start(self, command):
         process = subprocess.Popen(command, env=self.environment, stdout=subprocess.PIPE,
                                    stderr=subprocess.PIPE, text=True)

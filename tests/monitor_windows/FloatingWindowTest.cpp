@@ -218,5 +218,32 @@ TEST_F(FloatingWindowTest, ItIsDraggedAnywhereAndClosedByItsBox) {
   EXPECT_NE(recorder.heard.Take().find("closed\n"), std::string::npos);
 }
 
+TEST_F(FloatingWindowTest, WhereNothingElseKeepsItAboveItDoesWithoutAManager) {
+  machine.screen.keepsWindowsAbove = false;
+  Recorder recorder;
+  Open(recorder);
+  auto* window = recorder.Window();
+  EXPECT_TRUE(window->windowFlags().testFlag(Qt::BypassWindowManagerHint));
+  machine.log.Clear();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return machine.log.Take() == "Screen.PutAboveManaged\n"; }));
+  // Nobody else moves its edges, either.
+  window->setMinimumSize(100, 50);
+  window->setMaximumSize(400, 200);
+  const auto before = window->geometry();
+  const auto drag = [&](QPoint from, QPoint to) {
+    QTest::mousePress(window, Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, QPointF(to), window->mapToGlobal(QPointF(to)), Qt::NoButton,
+                     Qt::LeftButton, {});
+    QApplication::sendEvent(window, &move);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, to);
+  };
+  const QPoint corner(before.width() - 1, before.height() - 1);
+  drag(corner, corner + QPoint(30, 20));
+  EXPECT_EQ(window->geometry(), before.adjusted(0, 0, 30, 20));
+  drag({window->width() / 2, 0}, {window->width() / 2, -1000});
+  EXPECT_EQ(window->height(), 200) << "no larger than it may be";
+  EXPECT_EQ(window->geometry().bottom(), before.bottom() + 20) << "the other edge stays";
+}
+
 }  // namespace
 }  // namespace lurkwell

@@ -9,7 +9,6 @@
 #include <QWindow>
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -19,7 +18,6 @@ namespace {
 
 constexpr std::uint32_t kMostWords = 1U << 16;
 constexpr std::uint32_t kEveryDesktop = 0xffffffff;
-constexpr std::uint32_t kAddState = 1;
 constexpr int kOpaqueDepth = 24;
 
 /// Whether the renderer, by its name, is a program on the machine's processor.
@@ -140,30 +138,63 @@ void DesktopScreen::MakeFloating(std::uint64_t number) {
   xcb_flush(link);
 }
 
-void DesktopScreen::KeepInSight(std::uint64_t window) {
+bool DesktopScreen::KeepsWindowsAbove() {
+  auto* server = Server();
+  if (server == nullptr) return true;
+  const auto reply = server->Wait<xcb_get_property_reply_t>(
+      server->AskProperty(server->Root(), AtomNamed("_NET_SUPPORTED"), kMostWords),
+      XConnection::BatchDeadline());
+  if (!reply) return true;
+  const auto supported = PropertyWords(reply.get());
+  return std::ranges::find(supported, AtomNamed("_NET_WM_STATE_ABOVE")) != supported.end();
+}
+
+/// The windows, and those that they stand in.
+std::vector<xcb_window_t> DesktopScreen::ClientsAnd(std::vector<xcb_window_t> clients,
+                                                    XConnection::Deadline deadline) {
+  constexpr int kMostFrames = 4;
+  auto* server = mLink.Connection();
+  auto within = clients;
+  for (int frame = 0; frame < kMostFrames && !within.empty(); ++frame) {
+    std::vector<xcb_query_tree_cookie_t> questions;
+    for (const auto window : within)
+      questions.push_back(xcb_query_tree_unchecked(server->Raw(), window));
+    within.clear();
+    for (const auto question : questions) {
+      const auto tree = server->Wait<xcb_query_tree_reply_t>(question, deadline);
+      if (tree && tree->parent != XCB_NONE && tree->parent != tree->root)
+        within.push_back(tree->parent);
+    }
+    clients.insert(clients.end(), within.begin(), within.end());
+  }
+  return clients;
+}
+
+void DesktopScreen::PutAboveManaged(std::uint64_t number) {
   auto* server = Server();
   if (server == nullptr) return;
-  const auto send = [&](const std::string& type, const std::array<std::uint32_t, 5>& words) {
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = static_cast<xcb_window_t>(window);
-    message.type = AtomNamed(type);
-    std::copy(words.begin(), words.end(), message.data.data32);
-    char event[32] = {};
-    std::memcpy(event, &message, sizeof message);
-    xcb_send_event(server->Raw(), 0, server->Root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   event);
-  };
-  constexpr std::uint32_t kFromApplication = 1;
-  const auto addStates = [&](const std::string& first, const std::string& second) {
-    send("_NET_WM_STATE", {kAddState, AtomNamed(first), second.empty() ? 0 : AtomNamed(second),
-                           kFromApplication, 0});
-  };
-  addStates("_NET_WM_STATE_ABOVE", "_NET_WM_STATE_STICKY");
-  addStates("_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER");
-  send("_NET_WM_DESKTOP", {kEveryDesktop, kFromApplication, 0, 0, 0});
+  const auto deadline = XConnection::BatchDeadline();
+  const auto tree = server->Wait<xcb_query_tree_reply_t>(
+      xcb_query_tree_unchecked(server->Raw(), server->Root()), deadline);
+  if (!tree) return;
+  const std::span children(xcb_query_tree_children(tree.get()), tree->children_len);
+  const auto window = static_cast<xcb_window_t>(number);
+  const auto own = std::ranges::find(children, window);
+  // One that is managed stands in a frame.
+  if (own == children.end() || own + 1 == children.end()) return;
+  const auto reply = server->Wait<xcb_get_property_reply_t>(
+      server->AskProperty(server->Root(), server->Atom(XAtom::kClientListStacking), kMostWords),
+      deadline);
+  auto managed = ClientsAnd(PropertyWords(reply.get()), deadline);
+  std::ranges::sort(managed);
+  const std::span above(own + 1, children.end());
+  const auto highest = std::find_if(above.rbegin(), above.rend(), [&](xcb_window_t other) {
+    return std::ranges::binary_search(managed, other);
+  });
+  if (highest == above.rend()) return;
+  const std::uint32_t words[] = {*highest, XCB_STACK_MODE_ABOVE};
+  xcb_configure_window(server->Raw(), window,
+                       XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, words);
   server->Flush();
 }
 

@@ -27,7 +27,8 @@ class DesktopScreen final : public Screen {
   bool UsesOpenGLAcceleration() override;
   bool BlendsWindows() override;
   void MakeFloating(std::uint64_t window) override;
-  void KeepInSight(std::uint64_t window) override;
+  bool KeepsWindowsAbove() override;
+  void PutAboveManaged(std::uint64_t window) override;
   bool IsCovered(std::uint64_t window) override;
   bool IsKeyboardElsewhere() override;
 
@@ -42,6 +43,8 @@ class DesktopScreen final : public Screen {
   xcb_atom_t AtomNamed(const std::string& name);
   bool AreaOf(xcb_get_geometry_cookie_t geometry, xcb_translate_coordinates_cookie_t place,
               XConnection::Deadline deadline, Area& area, int& depth);
+  std::vector<xcb_window_t> ClientsAnd(std::vector<xcb_window_t> clients,
+                                       XConnection::Deadline deadline);
   std::vector<xcb_window_t> WindowsAbove(xcb_window_t window, XConnection::Deadline deadline);
 
   DesktopSettings mSettings;

@@ -78,7 +78,8 @@ class NoScreen final : public Screen {
   bool UsesOpenGLAcceleration() override { return false; }
   bool BlendsWindows() override { return false; }
   void MakeFloating(std::uint64_t) override {}
-  void KeepInSight(std::uint64_t) override {}
+  bool KeepsWindowsAbove() override { return true; }
+  void PutAboveManaged(std::uint64_t) override {}
   bool IsCovered(std::uint64_t) override { return false; }
   bool IsKeyboardElsewhere() override { return true; }
 };

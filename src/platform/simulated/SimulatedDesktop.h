@@ -148,12 +148,14 @@ class SimulatedScreen final : public Screen {
   }
   bool BlendsWindows() override { return blends; }
   void MakeFloating(std::uint64_t) override { mLog.Add("Screen.MakeFloating"); }
-  void KeepInSight(std::uint64_t) override { mLog.Add("Screen.KeepInSight"); }
+  bool KeepsWindowsAbove() override { return keepsWindowsAbove; }
+  void PutAboveManaged(std::uint64_t) override { mLog.Add("Screen.PutAboveManaged"); }
   bool IsCovered(std::uint64_t) override { return isCovered; }
   bool IsKeyboardElsewhere() override { return isKeyboardElsewhere; }
 
   bool isAccelerated = true;
   bool blends = true;
+  bool keepsWindowsAbove = true;
   bool isCovered = false;
   bool isKeyboardElsewhere = false;
 
