@@ -22,7 +22,7 @@ FLOORS = [
     {"windows"},  # what every window uses
     {"fleet"},  # what servers tell of many machines
     {"main_window", "monitor_windows", "animated_view", "preferences_window",
-     "machine_window", "process_details", "fleet_window"},
+     "machine_window", "process_details", "alerts_window", "fleet_window"},
     {"app", "exporter"},
 ]
 # Know the interfaces of platform and nothing else; only the main.cpp of app and exporter and the

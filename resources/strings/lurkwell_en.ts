@@ -2509,6 +2509,339 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Open the window for alerts at the start. The program notes here whether it was open.</translation>
     </message>
+    <message id="menu_process_alert">
+        <source></source>
+        <translation>Aler&amp;t When…</translation>
+    </message>
+    <message id="menu_window_show_alerts">
+        <source></source>
+        <translation>A&amp;lerts</translation>
+    </message>
+    <message id="help_menu_window_show_alerts">
+        <source></source>
+        <translation>Rules for what you want to be told of, what they say now, and what has happened</translation>
+    </message>
+    <message id="help_menu_process_alert">
+        <source></source>
+        <translation>be told when a process like the selected one does something</translation>
+    </message>
+    <message id="alerts_title">
+        <source></source>
+        <translation>Alerts</translation>
+    </message>
+    <message id="alerts_rules">
+        <source></source>
+        <translation>Rules</translation>
+    </message>
+    <message id="alerts_occurrences">
+        <source></source>
+        <translation>What has happened</translation>
+    </message>
+    <message id="alerts_none">
+        <source></source>
+        <translation>There are no rules yet. A rule says what you want to be told of, such as “any cpu&gt;90% for 10m” or “unit:backup.service absent for 1h”.</translation>
+    </message>
+    <message id="alerts_column_rule">
+        <source></source>
+        <translation>Rule</translation>
+    </message>
+    <message id="alerts_column_state">
+        <source></source>
+        <translation>Now</translation>
+    </message>
+    <message id="alerts_column_last">
+        <source></source>
+        <translation>Last alert</translation>
+    </message>
+    <message id="alerts_column_began">
+        <source></source>
+        <translation>Began</translation>
+    </message>
+    <message id="alerts_column_process">
+        <source></source>
+        <translation>Process</translation>
+    </message>
+    <message id="alerts_column_lasted">
+        <source></source>
+        <translation>Lasted</translation>
+    </message>
+    <message id="alerts_column_figures">
+        <source></source>
+        <translation>Figures</translation>
+    </message>
+    <message id="alerts_add">
+        <source></source>
+        <translation>Add…</translation>
+    </message>
+    <message id="alerts_change">
+        <source></source>
+        <translation>Change…</translation>
+    </message>
+    <message id="alerts_remove">
+        <source></source>
+        <translation>Remove</translation>
+    </message>
+    <message id="alerts_add_title">
+        <source></source>
+        <translation>New rule</translation>
+    </message>
+    <message id="alerts_change_title">
+        <source></source>
+        <translation>Change the rule</translation>
+    </message>
+    <message id="alerts_remove_question">
+        <source></source>
+        <translation>Remove this rule?</translation>
+    </message>
+    <message id="alerts_notifies">
+        <source></source>
+        <translation>Notify me on the desktop</translation>
+    </message>
+    <message id="alerts_show_process">
+        <source></source>
+        <translation>Show process</translation>
+    </message>
+    <message id="alerts_show_window">
+        <source></source>
+        <translation>Show alerts</translation>
+    </message>
+    <message id="alerts_show_log">
+        <source></source>
+        <translation>Show the log</translation>
+    </message>
+    <message id="alerts_never">
+        <source></source>
+        <translation>Never</translation>
+    </message>
+    <message id="alerts_state_off">
+        <source></source>
+        <translation>Off</translation>
+    </message>
+    <message id="alerts_state_damaged">
+        <source></source>
+        <translation>What is stored cannot be read; change the rule, or remove it.</translation>
+    </message>
+    <message id="alerts_state_calm">
+        <source></source>
+        <translation>Not met</translation>
+    </message>
+    <message id="alerts_state_pending">
+        <source></source>
+        <translation>Met for %1 of %2</translation>
+    </message>
+    <message id="alerts_state_firing">
+        <source></source>
+        <translation>Alert</translation>
+    </message>
+    <message id="alerts_state_firing_for">
+        <source></source>
+        <translation>Alert: %1 processes</translation>
+    </message>
+    <message id="alerts_not_allowed">
+        <source></source>
+        <translation>cannot tell of %1: not allowed</translation>
+    </message>
+    <message id="alerts_not_counted">
+        <source></source>
+        <translation>cannot tell of %1: not counted on this machine</translation>
+    </message>
+    <message id="alerts_not_yet_known">
+        <source></source>
+        <translation>cannot tell of %1 yet</translation>
+    </message>
+    <message id="alerts_nothing_there">
+        <source></source>
+        <translation>No such process</translation>
+    </message>
+    <message id="alerts_together">
+        <source></source>
+        <translation>All together</translation>
+    </message>
+    <message id="alerts_seconds">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="alerts_minutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="alerts_hours">
+        <source></source>
+        <translation>%1 h</translation>
+    </message>
+    <message id="alerts_days">
+        <source></source>
+        <translation>%1 d</translation>
+    </message>
+    <message id="alerts_lasts">
+        <source></source>
+        <translation>%1 so far</translation>
+    </message>
+    <message id="alerts_lasted">
+        <source></source>
+        <translation>%1</translation>
+    </message>
+    <message id="alerts_lasted_to_process_end">
+        <source></source>
+        <translation>%1; the process ended</translation>
+    </message>
+    <message id="alerts_lasted_to_rule_change">
+        <source></source>
+        <translation>%1; the rule was changed</translation>
+    </message>
+    <message id="alerts_no_condition">
+        <source></source>
+        <translation>A rule needs a condition, such as “cpu&gt;90%”.</translation>
+    </message>
+    <message id="alerts_no_span">
+        <source></source>
+        <translation>“%1” needs a time, such as 30s, 5m or 1h30m.</translation>
+    </message>
+    <message id="alerts_too_long">
+        <source></source>
+        <translation>“%1” is longer than the 30 days that a rule can wait.</translation>
+    </message>
+    <message id="alerts_twice">
+        <source></source>
+        <translation>“%1” is there twice.</translation>
+    </message>
+    <message id="alerts_does_not_fit">
+        <source></source>
+        <translation>“%1” means nothing in a rule of this kind.</translation>
+    </message>
+    <message id="alerts_unknown_word">
+        <source></source>
+        <translation>“%1” stands behind the time; conditions stand before “for” and “until”.</translation>
+    </message>
+    <message id="alerts_no_total">
+        <source></source>
+        <translation>Behind “total” stands a comparison of a figure that can be added up, such as “mem&gt;8G”.</translation>
+    </message>
+    <message id="alerts_other_total">
+        <source></source>
+        <translation>Behind “until” stands a comparison of the same figure as behind “total”.</translation>
+    </message>
+    <message id="alerts_text_too_large">
+        <source></source>
+        <translation>A rule has %1 letters at most.</translation>
+    </message>
+    <message id="alerts_rule_label">
+        <source></source>
+        <translation>&amp;Rule:</translation>
+    </message>
+    <message id="alerts_rule_placeholder">
+        <source></source>
+        <translation>name:postgres mem&gt;4G for 5m until mem&lt;3G</translation>
+    </message>
+    <message id="alerts_trial_label">
+        <source></source>
+        <translation>Now:</translation>
+    </message>
+    <message id="alerts_trial_wait">
+        <source></source>
+        <translation>Looking…</translation>
+    </message>
+    <message id="alerts_trial_none">
+        <source></source>
+        <translation>No process meets it.</translation>
+    </message>
+    <message id="alerts_trial_some">
+        <source></source>
+        <translation>Processes that meet it: %1</translation>
+    </message>
+    <message id="alerts_trial_total">
+        <source></source>
+        <translation>%1 in %2 processes</translation>
+    </message>
+    <message id="alerts_trial_met">
+        <source></source>
+        <translation>The condition is met.</translation>
+    </message>
+    <message id="alerts_trial_not_met">
+        <source></source>
+        <translation>The condition is not met.</translation>
+    </message>
+    <message id="alerts_command_label">
+        <source></source>
+        <translation>&amp;Command:</translation>
+    </message>
+    <message id="alerts_command_placeholder">
+        <source></source>
+        <translation>Nothing is started</translation>
+    </message>
+    <message id="alerts_command_tip">
+        <source></source>
+        <translation>A program and its arguments, to be started when an alert begins. There is no shell: words are separated by blanks, and quotation marks keep some together. The environment has LURKWELL_ALERT_RULE, _TIME, _PID, _NAME and _FIGURES.</translation>
+    </message>
+    <message id="alerts_command_no_end">
+        <source></source>
+        <translation>In the command, a quotation mark has no second one.</translation>
+    </message>
+    <message id="alerts_command_long">
+        <source></source>
+        <translation>The command is too long.</translation>
+    </message>
+    <message id="alerts_command_not_started">
+        <source></source>
+        <translation>the command could not be started: %1</translation>
+    </message>
+    <message id="alerts_command_status">
+        <source></source>
+        <translation>the command ended with status %1</translation>
+    </message>
+    <message id="alerts_command_too_long">
+        <source></source>
+        <translation>the command took longer than %1 seconds and was ended</translation>
+    </message>
+    <message id="alerts_command_left_out">
+        <source></source>
+        <translation>too many commands at a time; some were left out</translation>
+    </message>
+    <message id="alerts_editor_note">
+        <source></source>
+        <translation>A rule is a condition as in the filter. “any” in front makes it one alert for all processes, “total mem&gt;8G” adds a figure up, “absent” waits for there to be none. “for 5m” says how long it has to hold, and “until cpu&lt;70%” what ends it; else it ends when it has not been met for half a minute.</translation>
+    </message>
+    <message id="alerts_more">
+        <source></source>
+        <translation>%1 more alerts</translation>
+    </message>
+    <message id="alerts_more_latest">
+        <source></source>
+        <translation>The latest: %1
+%2</translation>
+    </message>
+    <message id="alerts_left_out">
+        <source></source>
+        <translation>%1 more rules are stored than the %2 that are watched. Remove some to have them watched at the next start.</translation>
+    </message>
+    <message id="alerts_too_many">
+        <source></source>
+        <translation>There can be no more rules.</translation>
+    </message>
+    <message id="alerts_log_problem">
+        <source></source>
+        <translation>The log of alerts cannot be written: %1</translation>
+    </message>
+    <message id="alerts_log_not_shown">
+        <source></source>
+        <translation>No file manager could show the log, which is %1</translation>
+    </message>
+    <message id="alerts_notification_problem">
+        <source></source>
+        <translation>Notifications cannot be shown: %1</translation>
+    </message>
+    <message id="alerts_has_ended">
+        <source></source>
+        <translation>%1 has ended.</translation>
+    </message>
+    <message id="alerts_not_in_table">
+        <source></source>
+        <translation>%1 is running, but the filter or the scope of the table leaves it out.</translation>
+    </message>
+    <message id="alerts_not_of_recordings">
+        <source></source>
+        <translation>Alerts are about the processes that are running. In a recording nothing is watched.</translation>
+    </message>
     <message id="filter_unknown_key">
         <source></source>
         <translation>There is no “%1” to look at; in quotation marks it is a text to look for.</translation>

@@ -15,8 +15,8 @@ constexpr double kSecondsBetweenColumnLooks = 1.0;
 
 }  // namespace
 
-AlertCentre::AlertCentre()
-    : mCommands([this](std::uint64_t ruleId, const auto& failure) {
+AlertCentre::AlertCentre(Duty duty)
+    : mDuty(duty), mCommands([this](std::uint64_t ruleId, const auto& failure) {
         auto* rule = FindRule(ruleId);
         if (rule == nullptr) return;
         rule->commandFailure = failure;
@@ -191,6 +191,7 @@ void AlertCentre::End(AlertOccurrence& occurrence, AlertOccurrence::Ending endin
 }
 
 void AlertCentre::Log(const AlertOccurrence& occurrence, TimeValue calendar) {
+  if (mDuty == Duty::kWatch) return;
   if (mLog == nullptr) {
     auto creation = TheMachine().logFiles.Continue(kAlertLogName, kAlertLogHeader, kMostLogBytes);
     mLog = std::move(creation.file);
@@ -202,7 +203,7 @@ void AlertCentre::Log(const AlertOccurrence& occurrence, TimeValue calendar) {
 }
 
 void AlertCentre::RunCommand(Rule& rule, const AlertOccurrence& occurrence) {
-  if (rule.setting.command.empty()) return;
+  if (rule.setting.command.empty() || mDuty == Duty::kWatch) return;
   auto arguments = SplitCommand(rule.setting.command);
   if (arguments && !arguments->empty())
     mCommands.Run(rule.id, std::move(*arguments), VariablesFor(occurrence));

@@ -51,7 +51,13 @@ class AlertCentre {
   static constexpr std::size_t kMostOccurrences = 500;
   static constexpr std::int64_t kMostLogBytes = 1 << 20;
 
-  AlertCentre();
+  enum class Duty : std::uint8_t {
+    kAll,
+    /// Nothing is logged, and no command is run: for a picture.
+    kWatch,
+  };
+
+  explicit AlertCentre(Duty duty = Duty::kAll);
   ~AlertCentre();
   AlertCentre(const AlertCentre&) = delete;
   AlertCentre& operator=(const AlertCentre&) = delete;
@@ -94,6 +100,7 @@ class AlertCentre {
   template <typename Call>
   void Tell(Call call);
 
+  Duty mDuty;
   AlertWatcher* mWatcher = nullptr;
   std::vector<Rule> mRules;
   std::size_t mLeftOut = 0;

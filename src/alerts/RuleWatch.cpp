@@ -170,11 +170,11 @@ void RuleWatch::EndOfProcesses(const Describe& describe, std::vector<AlertEvent>
       mWatched.erase(process);
     }
   }
-  std::erase_if(mWatched, [&](auto& entry) {
-    auto& watched = entry.second;
+  std::erase_if(mWatched, [&](const auto& entry) {
+    const auto& watched = entry.second;
     if (watched.turn == mTurn) return false;
     if (watched.condition.CurrentState() == AlertCondition::State::kFiring)
-      events.push_back({AlertEvent::Kind::kProcessEnded, std::move(watched.atBegin)});
+      events.push_back({AlertEvent::Kind::kProcessEnded, watched.atBegin});
     return true;
   });
   if (mRule.scope != AlertRule::Scope::kAny) return;

@@ -19,8 +19,8 @@ Watches the processes of this machine.
   --screenshot FILE    write a picture of a window (PNG) after two updates and end;
                        works without a display, too
   --window NAME        which window (with --screenshot only): main, machine,
-                       history, logging, preferences, settings, animated or
-                       about; history and logging follow lurkwell itself;
+                       alerts, history, logging, preferences, settings,
+                       animated or about; history and logging follow lurkwell itself;
                        animated needs a display
   --new-instance       start another instance; without it, one that is running comes
                        to the front
@@ -69,7 +69,7 @@ Exit status: 0 after a normal end, 1 when something failed, 2 for options that
 make no sense.
 )";
 
-constexpr const char* kWindows[] = {"main",        "machine",  "history",  "logging",
+constexpr const char* kWindows[] = {"main",        "machine",  "alerts",   "history", "logging",
                                     "preferences", "settings", "animated", "about"};
 
 constexpr double kLeastSecondsBetween = 0.1;

@@ -89,7 +89,8 @@ class Photographer : public QObject {
  private:
   bool Follows() const {
     return mCommandLine.window == "history" || mCommandLine.window == "logging" ||
-           mCommandLine.window == "animated" || mCommandLine.window == "machine";
+           mCommandLine.window == "animated" || mCommandLine.window == "machine" ||
+           mCommandLine.window == "alerts";
   }
 
   void Open() {
@@ -99,6 +100,7 @@ class Photographer : public QObject {
     mBefore = QApplication::topLevelWidgets();
     if (mCommandLine.window == "about") ShowSplashScreen();
     if (mCommandLine.window == "machine") mDelegate.doShowMachineWindow();
+    if (mCommandLine.window == "alerts") mDelegate.doShowAlerts();
     if (mCommandLine.window == "animated") mDelegate.quintessentialWindows().ShowForPicture();
     // With a page's number the remembered one is not asked for.
     if (mCommandLine.window == "preferences" || mCommandLine.window == "settings")

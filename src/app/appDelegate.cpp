@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <variant>
 
+#include "alerts_window/AlertTexts.h"
 #include "animated_view/FlowControlFSMMgr.h"
 #include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/QuintessentialWindows.h"
@@ -117,6 +118,7 @@ void vqAppDelegate::applicationDidFinishLaunching() {
     ClassicPSNSetupProcessExtractionAppleEvent();
     TurnOnClassicNub();
   }
+  if (mLaunch == Launch::kUsual) StartAlerts();
   if (mLaunch == Launch::kUsual) OpenFirstWindows();
   if (mLaunch == Launch::kUsual) {
     QubsDebugging();
@@ -131,6 +133,7 @@ void vqAppDelegate::applicationDidFinishLaunching() {
 void vqAppDelegate::OpenFirstWindows() {
   if (ReadSwitch("MACHINE_HISTORY_ALWAYS")) MachineRecorder::Running();
   if (MachineWindow::WasOpen()) doShowMachineWindow();
+  if (AlertsWindow::WasOpen()) doShowAlerts();
   InitializeProcessWatchdog(ReadInt("DEFAULT_WATCHDOG_INTERVAL"), mFollowingWindows, *this);
   // A start that shows nothing would leave a program that nobody can reach.
   if (IsAnythingVisibleBut(nullptr)) return;
@@ -162,6 +165,9 @@ void vqAppDelegate::applicationWillTerminate() {
   mDetailsWindows.CloseAll();
   if (mLaunch == Launch::kUsual) KeepArrangement();
   delete MachineWindow::IfOpen();
+  delete AlertsWindow::IfOpen();
+  mNotifier.reset();
+  mAlerts.reset();
   gApplicationQuitting = true;
   {
     const PreferenceBatch batch;
@@ -187,6 +193,7 @@ void vqAppDelegate::KeepArrangement() {
   fQuintessentialWindows->SaveFrame();
   mFollowingWindows.RememberPlaces();
   if (auto* machine = MachineWindow::IfOpen()) machine->Remember();
+  if (auto* alerts = AlertsWindow::IfOpen()) alerts->Remember();
 }
 
 void vqAppDelegate::displayWasLost() {
@@ -270,11 +277,51 @@ void vqAppDelegate::doShowQuintessentialView() {
   fQuintessentialWindows->ShowCurrentWindow();
 }
 
+bool vqAppDelegate::ShowInTable(std::int32_t pid) {
+  doShowMainWindow();
+  return VQTarvMainWindowInfoSynch::SelectPID(pid);
+}
+
 void vqAppDelegate::doShowMachineWindow() {
-  MachineWindow::Open([this](std::int32_t pid) {
-    doShowMainWindow();
-    return VQTarvMainWindowInfoSynch::SelectPID(pid);
-  });
+  MachineWindow::Open([this](std::int32_t pid) { return ShowInTable(pid); });
+}
+
+void vqAppDelegate::StartAlerts() {
+  if (mAlerts != nullptr) return;
+  const bool isForPicture = mLaunch != Launch::kUsual;
+  mAlerts = std::make_unique<AlertCentre>(isForPicture ? AlertCentre::Duty::kWatch
+                                                       : AlertCentre::Duty::kAll);
+  if (isForPicture) return;
+  mNotifier = std::make_unique<AlertNotifier>(
+      *mAlerts, [this](const AlertOccurrence& occurrence) { ShowAlert(occurrence); });
+}
+
+void vqAppDelegate::doShowAlerts() {
+  if (mLaunch == Launch::kOfRecording)
+    return Complain("alerts_title", LocalizedString("alerts_not_of_recordings").toStdString());
+  StartAlerts();
+  AlertsWindow::Open(*mAlerts, {[this](std::int32_t pid) { return ShowInTable(pid); },
+                                [this] {
+                                  return mNotifier != nullptr
+                                             ? QString::fromStdString(mNotifier->Problem())
+                                             : QString();
+                                }});
+}
+
+void vqAppDelegate::doAlertAbout(std::int32_t pid) {
+  const auto rule = ProposedAlertRule(pid);
+  doShowAlerts();
+  if (auto* window = AlertsWindow::IfOpen(); window != nullptr && !rule.isEmpty())
+    window->AskForRule(rule);
+}
+
+void vqAppDelegate::ShowAlert(const AlertOccurrence& occurrence) {
+  const auto& process = occurrence.subject.process;
+  const bool isThere =
+      process.pid != kInvalidPID && GetPidsStartStamp(process.pid) == process.startStamp;
+  if (isThere && ShowInTable(process.pid)) return;
+  doShowAlerts();
+  if (auto* window = AlertsWindow::IfOpen()) window->ShowProcessOf(occurrence);
 }
 
 void vqAppDelegate::showQuintessentialViewFullScreen() {

@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "alerts_window/AlertNotifier.h"
+#include "alerts_window/AlertsWindow.h"
 #include "animated_view/QuintessentialWindows.h"
 #include "app/RecordingSwitch.h"
 #include "main_window/MainWindow.h"
@@ -48,6 +50,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void doQuit() override;
   void doShowQuintessentialView() override;
   void doShowMachineWindow() override;
+  void doShowAlerts() override;
+  void doAlertAbout(std::int32_t pid) override;
   void showQuintessentialViewFullScreen() override;
   void doToggleQuintessentialViewFullScreen() override;
   void doRecord() override;
@@ -79,6 +83,10 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void OpenRecording(const QString& path);
   void Complain(const char* title, const std::string& words);
   void CheckGraphicsOnce();
+  /// Begins to watch.
+  void StartAlerts();
+  void ShowAlert(const AlertOccurrence& occurrence);
+  bool ShowInTable(std::int32_t pid);
   void OnceNothingIsVisible(void (vqAppDelegate::*then)());
   void ComeBack();
   bool IsAnythingVisibleBut(const QWidget* window) const;
@@ -95,6 +103,9 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   FollowingWindows mFollowingWindows;
   DetailsWindows mDetailsWindows;
   RecordingSwitch mRecording;
+  std::unique_ptr<AlertCentre> mAlerts;
+  /// Knows the centre.
+  std::unique_ptr<AlertNotifier> mNotifier;
   std::unique_ptr<Alert> mComplaint;
   std::unique_ptr<MainWindow> fMainWindow;
   std::unique_ptr<QuintessentialWindows> fQuintessentialWindows;

@@ -241,6 +241,11 @@ void ProcessCommands::doubleClickAction() {
   ShowDetails();
 }
 
+std::int32_t ProcessCommands::FirstSelected() const {
+  const auto pids = mSelection.selectedPids();
+  return pids.empty() ? kInvalidPID : pids.front();
+}
+
 void ProcessCommands::ShowDetails() {
   if (mProcessWindows == nullptr) return;
   const auto asked = mSelection.selectedPids().size();

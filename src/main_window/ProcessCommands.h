@@ -68,6 +68,9 @@ class ProcessCommands {
 
   SelectionFacts Facts() const;
 
+  /// The first of the selected processes; kInvalidPID when there is none.
+  std::int32_t FirstSelected() const;
+
   void processKillMenuItem() { Act(ProcessCommand::kKill); }
   void processHaltMenuItem() { Act(ProcessCommand::kHalt); }
   void processContMenuItem() { Act(ProcessCommand::kContinue); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 
 class QWidget;
 
@@ -15,6 +16,9 @@ class ApplicationCommands {
   virtual void doShowMainWindow() = 0;
   virtual void doShowQuintessentialView() {}
   virtual void doShowMachineWindow() {}
+  virtual void doShowAlerts() {}
+  /// Asks for a rule of an alert, to begin with one for what is like this process.
+  virtual void doAlertAbout(std::int32_t) {}
   virtual void doToggleQuintessentialViewFullScreen() {}
   /// Begins to record, after asking for a file, or ends it.
   virtual void doRecord() {}

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
@@ -11,6 +12,7 @@
 #include <functional>
 #include <memory>
 
+#include "alerts_window/AlertsWindow.h"
 #include "animated_view/FlowControlFSMMgr.h"
 #include "app/SplashScreen.h"
 #include "app/WindowMode.h"
@@ -23,6 +25,7 @@
 #include "monitor_windows/SystemWideInfo.h"
 #include "platform/ApplicationQuitting.h"
 #include "platform/simulated/SimulatedMachine.h"
+#include "preferences/PreferenceArrays.h"
 #include "preferences/PreferencesRetrieval.h"
 #include "preferences_window/PreferencesUI.h"
 #include "recording/Recording.h"
@@ -159,6 +162,41 @@ TEST_F(ShellTest, StartsAndEndsInOrder) {
   EXPECT_GT(GetPrefArrayCount("MAIN_WINDOW_COLUMNS"), 6);
   EXPECT_TRUE(IsPrefArrayValuePresent("MAIN_WINDOW_COLUMNS", 0, "COLUMN_WIDTH"));
   delegate->applicationWillTerminate();
+}
+
+TEST_F(ShellTest, ARememberedAlertLeadsToItsProcess) {
+  machine.processTable.Birth(300, "p");
+  SetPrefArrayString("ALERT_RULES", 0, "RULE", "name=p for 30s");
+  Launch();
+  Pass(20'000);
+  EXPECT_EQ(machine.notifications.Count(), 0u);
+  delegate->mainWindow().hide();
+  Pass(20'000);
+  ASSERT_EQ(machine.notifications.Count(), 1u);
+  machine.notifications.Choose("alert-1");
+  EXPECT_TRUE(MainWindowIsVisible());
+  EXPECT_EQ(delegate->mainWindow().controller().selectedPids(), std::vector<std::int32_t>{300});
+  EXPECT_EQ(AlertsWindow::IfOpen(), nullptr);
+  // Once it has ended, the window for alerts says so.
+  machine.processTable.Death(300);
+  Pass(10'000);
+  machine.notifications.Choose("alert-1");
+  ASSERT_NE(AlertsWindow::IfOpen(), nullptr);
+  bool isSaid = false;
+  for (const auto* label : AlertsWindow::IfOpen()->findChildren<QLabel*>())
+    isSaid = isSaid || label->text().contains(QLatin1String("p (300) has ended."));
+  EXPECT_TRUE(isSaid);
+  delegate->doAlertAbout(1);
+  EXPECT_NE(AlertsWindow::IfOpen()->findChild<QDialog*>(), nullptr);
+  delegate->applicationWillTerminate();
+  EXPECT_EQ(AlertsWindow::IfOpen(), nullptr);
+  // It comes back with the next start.
+  gApplicationQuitting = false;
+  Launch();
+  EXPECT_NE(AlertsWindow::IfOpen(), nullptr);
+  delegate->applicationWillTerminate();
+  // Nobody is left to be told.
+  machine.notifications.Choose("alert-1");
 }
 
 TEST_F(ShellTest, ThePanelComesByItselfOnceForAVersionOrWhereItIsWanted) {

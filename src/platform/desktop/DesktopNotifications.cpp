@@ -119,7 +119,7 @@ void DesktopNotifications::HandleToken(uint id, const QString& token) {
 
 void DesktopNotifications::HandleClosed(uint id, uint) {
   mChosen.remove(id);
-  mIds.removeIf([id](const auto& entry) { return entry.value() == id; });
+  mIds.removeIf([id](QHash<QString, uint>::iterator entry) { return entry.value() == id; });
 }
 
 void DesktopNotifications::Fail(const QString& reason) {
