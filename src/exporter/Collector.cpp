@@ -171,6 +171,11 @@ void Collector::SortIn(const ProcessTableEntry& entry, const ProcessFigures& fig
       (entry.pid == kKernelThreadsParent || entry.parentPid == kKernelThreadsParent);
   tracked.isLineWanted = !tracked.isKernelThread && tracked.hasMemory &&
                          std::string_view(entry.commandName).size() >= kShortenedName;
+  // These are read anew when the process has run, and now and then when it has not; what takes long
+  // goes by them.
+  constexpr FigureSources kTellRunning = kFromStatus | kFromIO;
+  if ((entry.read & kTellRunning) != 0 || (WantedOf(entry.pid) & kTellRunning) == 0)
+    tracked.proportional.isDue = tracked.openFiles.isDue = true;
   EnterControlGroup(entry, figures, tracked);
 }
 
@@ -285,6 +290,7 @@ void Collector::ForgetTheGone() {
 void Collector::Costly::Take(const ProcessFigures& figures, Figure figure, std::int64_t pass) {
   state = figures.StateOf(figure);
   value = figures.Get(figure);
+  isDue = false;
   nextPass = state == FigureState::kRefused ? pass + kPassesAfterRefusal : pass;
 }
 
@@ -355,7 +361,9 @@ CostlyWish Collector::WishFor(const ProcessTableEntry& entry, const Tracked& tra
   // What is new is read first.
   CostlyWish wish{{entry.pid, entry.startStamp}, 0, tracked.firstPass == mPass};
   const bool isLikeOthers = tracked.hasMemory && entry.state != RunState::kZombie;
-  const auto isDue = [&](const Costly& costly) { return isLikeOthers && mPass >= costly.nextPass; };
+  const auto isDue = [&](const Costly& costly) {
+    return isLikeOthers && costly.isDue && mPass >= costly.nextPass;
+  };
   if (mRules.countsOpenFiles && isDue(tracked.openFiles)) wish.sources |= kFromDescriptorCount;
   if (mRules.readsProportionalMemory && isDue(tracked.proportional)) wish.sources |= kFromMemoryMap;
   if (mRules.network != GroupRules::Network::kNone && tracked.isReader)

@@ -56,6 +56,8 @@ class Collector {
   struct Costly {
     FigureState state = FigureState::kUnread;
     std::int64_t value = 0;
+    /// The process may have changed it since it was read.
+    bool isDue = true;
     /// It is not asked for again before this pass.
     std::int64_t nextPass = 0;
 
