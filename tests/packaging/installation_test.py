@@ -77,8 +77,15 @@ class Installation(unittest.TestCase):
     def text(self, path):
         return (self.prefix / path).read_text()
 
-    def options_of_help(self):
-        return set(re.findall(r"--[a-z-]+", self.run_program("--help")))
+    def options_of_help(self, *begin):
+        return set(re.findall(r"--[a-z-]+", self.run_program(*begin, "--help")))
+
+    def shown_page(self, name):
+        page = self.prefix / f"share/man/man1/{name}.1.gz"
+        done = words("man", "--warnings", "--nh", "--nj", "-E", "UTF-8", "-l", str(page),
+                     env={**self.environment, "MANWIDTH": "80", "MANPAGER": "cat"})
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        return page, done.stdout
 
     def test_it_works_from_its_own_place(self):
         self.assertRegex(self.run_program("--version"), r"^lurkwell \d+\.\d+\.\d+\n$")
@@ -135,17 +142,39 @@ class Installation(unittest.TestCase):
             self.assertEqual(who.text, "auth_admin")
 
     def test_the_manual_agrees_with_the_help(self):
-        page = self.prefix / "share/man/man1/lurkwell.1.gz"
-        done = words("man", "--warnings", "--nh", "--nj", "-E", "UTF-8", "-l", str(page),
-                     env={**self.environment, "MANWIDTH": "80", "MANPAGER": "cat"})
-        self.assertEqual((done.returncode, done.stderr), (0, ""))
-        options = done.stdout.split("\nOPTIONS\n")[1].split("\nEXIT STATUS\n")[0]
+        page, shown = self.shown_page("lurkwell")
+        options = shown.split("\nOPTIONS\n")[1].split("\nEXIT STATUS\n")[0]
         self.assertEqual(set(re.findall(r"^ +(--[a-z-]+)", options, re.M)), self.options_of_help())
         windows = words(self.program, "--window", "?", env=self.environment).stderr
         for window in windows.split("there are ")[1].split("\n")[0].split(", "):
             self.assertIn(window, options)
         version = self.run_program("--version").split()[1]
         self.assertIn(version, gzip.decompress(page.read_bytes()).decode())
+
+    def test_the_exporter_is_there_with_its_service(self):
+        if not (self.prefix / "bin/lurkwell-export").exists():
+            self.skipTest("this build has no exporter")
+        version = self.run_program("--version").split()[1]
+        self.assertEqual(self.run_program("--export", "--version"), f"lurkwell-export {version}\n")
+        page, shown = self.shown_page("lurkwell-export")
+        self.assertIn(version, gzip.decompress(page.read_bytes()).decode())
+        options = shown.split("\nOPTIONS\n")[1].split("\nCONFIGURATION\n")[0]
+        self.assertEqual(set(re.findall(r"^ +(--[a-z-]+)", options, re.M)),
+                         self.options_of_help("--export"))
+        configuration = str(self.prefix / "etc/lurkwell/export.conf")
+        self.run_program("--export", "--check", "--config", configuration)
+        # The example of the page makes sense, too.
+        example = re.search(r"\[server\].*network = units\n", shown, re.S).group(0)
+        example = re.sub("(?m)^ *(certificate|key|passwords) .*$", "", example)
+        pathlib.Path(configuration).write_text(
+            re.sub("(?m)^ +", "", example), encoding="utf-8")
+        self.run_program("--export", "--check", "--config", configuration)
+        unit = self.text("lib/systemd/system/lurkwell-export.service")
+        for line in ("DynamicUser=yes", "NoNewPrivileges=yes", "CapabilityBoundingSet=",
+                     "ProtectSystem=strict"):
+            self.assertIn(line + "\n", unit)
+        for file in "lurkwell.rules.yml", "lurkwell-dashboard.json", "scrape.yml":
+            self.assertTrue((self.prefix / "share/lurkwell-export" / file).is_file())
 
 
 if __name__ == "__main__":
