@@ -6646,6 +6646,346 @@ Free: %5</translation>
         <source></source>
         <translation>−%1 d</translation>
     </message>
+    <message id="fleet_title">
+        <source></source>
+        <translation>Fleet of %1</translation>
+    </message>
+    <message id="fleet_machine">
+        <source></source>
+        <translation>Machine</translation>
+    </message>
+    <message id="fleet_group">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="fleet_down">
+        <source></source>
+        <translation>down</translation>
+    </message>
+    <message id="fleet_down_for">
+        <source></source>
+        <translation>down, %1</translation>
+    </message>
+    <message id="fleet_show_machines">
+        <source></source>
+        <translation>Machines</translation>
+    </message>
+    <message id="fleet_show_program">
+        <source></source>
+        <translation>Programs</translation>
+    </message>
+    <message id="fleet_show_unit">
+        <source></source>
+        <translation>Units</translation>
+    </message>
+    <message id="fleet_show_container">
+        <source></source>
+        <translation>Containers</translation>
+    </message>
+    <message id="fleet_show_user">
+        <source></source>
+        <translation>Users</translation>
+    </message>
+    <message id="fleet_back">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="fleet_back_tip">
+        <source></source>
+        <translation>What was looked at before (Alt+Left)</translation>
+    </message>
+    <message id="fleet_on">
+        <source></source>
+        <translation>on %1</translation>
+    </message>
+    <message id="fleet_with">
+        <source></source>
+        <translation>with %1</translation>
+    </message>
+    <message id="fleet_filter">
+        <source></source>
+        <translation>Filter, asked of the server</translation>
+    </message>
+    <message id="fleet_filter_tip">
+        <source></source>
+        <translation>As in the table of processes: web, name:postgres, machine:web-1, unit:nginx, user:root, cpu&gt;50, mem&gt;4G, processes&gt;100. The server looks, so that it may have any number of machines.</translation>
+    </message>
+    <message id="fleet_interval">
+        <source></source>
+        <translation>How often the server is asked</translation>
+    </message>
+    <message id="fleet_interval_never">
+        <source></source>
+        <translation>Not by itself</translation>
+    </message>
+    <message id="fleet_interval_seconds">
+        <source></source>
+        <translation>Every %1 s</translation>
+    </message>
+    <message id="fleet_interval_minutes">
+        <source></source>
+        <translation>Every %1 min</translation>
+    </message>
+    <message id="fleet_sign_in">
+        <source></source>
+        <translation>Sign In…</translation>
+    </message>
+    <message id="fleet_again">
+        <source></source>
+        <translation>Try Again</translation>
+    </message>
+    <message id="fleet_open_machine">
+        <source></source>
+        <translation>Show What Runs on It</translation>
+    </message>
+    <message id="fleet_open_group">
+        <source></source>
+        <translation>Show Its Machines</translation>
+    </message>
+    <message id="fleet_ssh">
+        <source></source>
+        <translation>Open ssh in a Terminal</translation>
+    </message>
+    <message id="fleet_copy">
+        <source></source>
+        <translation>Copy</translation>
+    </message>
+    <message id="fleet_ssh_no_host">
+        <source></source>
+        <translation>“%1” is no name of a host that ssh could go to.</translation>
+    </message>
+    <message id="fleet_ssh_no_ssh">
+        <source></source>
+        <translation>There is no ssh on this machine. Install the OpenSSH client.</translation>
+    </message>
+    <message id="fleet_ssh_no_terminal">
+        <source></source>
+        <translation>There is no terminal on this machine that is known. Install one, such as xterm, or name yours in the variable TERMINAL.</translation>
+    </message>
+    <message id="fleet_ssh_failed">
+        <source></source>
+        <translation>%1 cannot be started.</translation>
+    </message>
+    <message id="fleet_old_figures">
+        <source></source>
+        <translation>The figures below are those of %1.</translation>
+    </message>
+    <message id="fleet_count_machines">
+        <source></source>
+        <translation>%1 machines</translation>
+    </message>
+    <message id="fleet_count_groups">
+        <source></source>
+        <translation>%1 rows</translation>
+    </message>
+    <message id="fleet_count_down">
+        <source></source>
+        <translation>%1 down</translation>
+    </message>
+    <message id="fleet_shown_most">
+        <source></source>
+        <translation>the %1 with the highest %2 are shown; a filter finds others</translation>
+    </message>
+    <message id="fleet_shown_least">
+        <source></source>
+        <translation>the %1 with the lowest %2 are shown; a filter finds others</translation>
+    </message>
+    <message id="fleet_as_of">
+        <source></source>
+        <translation>as of %1</translation>
+    </message>
+    <message id="fleet_left_out">
+        <source></source>
+        <translation>%1 values of the answer made no sense and are left out</translation>
+    </message>
+    <message id="fleet_asking">
+        <source></source>
+        <translation>Asking the server…</translation>
+    </message>
+    <message id="fleet_nothing_known">
+        <source></source>
+        <translation>Nothing is known yet.</translation>
+    </message>
+    <message id="fleet_nothing_fulfils">
+        <source></source>
+        <translation>Nothing fulfils the filter.</translation>
+    </message>
+    <message id="fleet_nothing_there">
+        <source></source>
+        <translation>The server knows no figures of this kind. Machines are seen once the server scrapes their exporter, lurkwell-export.</translation>
+    </message>
+    <message id="fleet_span">
+        <source></source>
+        <translation>History:</translation>
+    </message>
+    <message id="fleet_span_hour">
+        <source></source>
+        <translation>1 hour</translation>
+    </message>
+    <message id="fleet_span_6_hours">
+        <source></source>
+        <translation>6 hours</translation>
+    </message>
+    <message id="fleet_span_day">
+        <source></source>
+        <translation>1 day</translation>
+    </message>
+    <message id="fleet_span_week">
+        <source></source>
+        <translation>7 days</translation>
+    </message>
+    <message id="fleet_no_row">
+        <source></source>
+        <translation>Select a row to see its history.</translation>
+    </message>
+    <message id="fleet_no_history">
+        <source></source>
+        <translation>The server has no figures of that time.</translation>
+    </message>
+    <message id="fleet_graph_cpu_machine">
+        <source></source>
+        <translation>CPU, of all processors</translation>
+    </message>
+    <message id="fleet_graph_cpu">
+        <source></source>
+        <translation>CPU, of one processor</translation>
+    </message>
+    <message id="fleet_graph_waits">
+        <source></source>
+        <translation>Waits</translation>
+    </message>
+    <message id="fleet_graph_traffic">
+        <source></source>
+        <translation>Disk and network</translation>
+    </message>
+    <message id="fleet_memory_series">
+        <source></source>
+        <translation>Used</translation>
+    </message>
+    <message id="fleet_memory_all_series">
+        <source></source>
+        <translation>All</translation>
+    </message>
+    <message id="fleet_swap_series">
+        <source></source>
+        <translation>Swap</translation>
+    </message>
+    <message id="fleet_waits_cpu_series">
+        <source></source>
+        <translation>CPU</translation>
+    </message>
+    <message id="fleet_waits_memory_series">
+        <source></source>
+        <translation>Memory</translation>
+    </message>
+    <message id="fleet_waits_disk_series">
+        <source></source>
+        <translation>Disk</translation>
+    </message>
+    <message id="fleet_read_series">
+        <source></source>
+        <translation>Read</translation>
+    </message>
+    <message id="fleet_written_series">
+        <source></source>
+        <translation>Written</translation>
+    </message>
+    <message id="fleet_received_series">
+        <source></source>
+        <translation>Received</translation>
+    </message>
+    <message id="fleet_sent_series">
+        <source></source>
+        <translation>Sent</translation>
+    </message>
+    <message id="fleet_open_title">
+        <source></source>
+        <translation>Open a Fleet</translation>
+    </message>
+    <message id="fleet_open_words">
+        <source></source>
+        <translation>The address of a Prometheus server that scrapes the exporters of your machines:</translation>
+    </message>
+    <message id="fleet_address">
+        <source></source>
+        <translation>Address</translation>
+    </message>
+    <message id="fleet_sign_in_title">
+        <source></source>
+        <translation>Sign In at %1</translation>
+    </message>
+    <message id="fleet_sign_in_words">
+        <source></source>
+        <translation>A name and a password, a token, or a file with either. They are sent to this server alone, and kept until the window is closed.</translation>
+    </message>
+    <message id="fleet_sign_in_in_clear">
+        <source></source>
+        <translation>A name and a password, a token, or a file with either. They are kept until the window is closed. This address is not encrypted: everybody on the way can read them. An https address is better.</translation>
+    </message>
+    <message id="fleet_sign_in_name">
+        <source></source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message id="fleet_sign_in_password">
+        <source></source>
+        <translation>&amp;Password:</translation>
+    </message>
+    <message id="fleet_sign_in_token">
+        <source></source>
+        <translation>&amp;Token:</translation>
+    </message>
+    <message id="fleet_sign_in_file">
+        <source></source>
+        <translation>&amp;File:</translation>
+    </message>
+    <message id="fleet_sign_in_choose">
+        <source></source>
+        <translation>&amp;Choose…</translation>
+    </message>
+    <message id="fleet_sign_in_nothing">
+        <source></source>
+        <translation>Type a name, a token or a file's path.</translation>
+    </message>
+    <message id="fleet_sign_in_wrong">
+        <source></source>
+        <translation>That cannot be sent: a name has no colon, and a token no blanks and no letters beyond ASCII.</translation>
+    </message>
+    <message id="fleet_failed">
+        <source></source>
+        <translation>The fleet cannot be opened</translation>
+    </message>
+    <message id="menu_file_open_fleet">
+        <source></source>
+        <translation>Open &amp;Fleet…</translation>
+    </message>
+    <message id="help_menu_file_open_fleet">
+        <source></source>
+        <translation>look at all machines that a Prometheus server knows, in a window of its own</translation>
+    </message>
+    <message id="setting_title_FLEET_WINDOW_FRAME">
+        <source></source>
+        <translation>Fleet window's place</translation>
+    </message>
+    <message id="setting_FLEET_WINDOW_FRAME">
+        <source></source>
+        <translation>Where the window on a fleet was last, with its size.</translation>
+    </message>
+    <message id="setting_title_FLEET_WINDOW_SECONDS">
+        <source></source>
+        <translation>Fleet window's interval</translation>
+    </message>
+    <message id="setting_FLEET_WINDOW_SECONDS">
+        <source></source>
+        <translation>How many seconds the window on a fleet waits before it asks its server again; 0 when it asks only when told.</translation>
+    </message>
+    <message id="setting_title_FLEET_RECENT_ADDRESSES">
+        <source></source>
+        <translation>Last fleets</translation>
+    </message>
+    <message id="setting_FLEET_RECENT_ADDRESSES">
+        <source></source>
+        <translation>The addresses of the servers that were opened last, the latest first, with percent signs in place of other letters. Names and passwords are not among them.</translation>
+    </message>
     <message id="machine_title">
         <source></source>
         <translation>Machine</translation>

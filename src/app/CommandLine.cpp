@@ -57,6 +57,10 @@ Watches the processes of this machine.
   --export [ADDRESS]   serve figures to Prometheus, without a window: 'lurkwell-export'
                        (a package of its own) with all that follows; without an
                        address at 127.0.0.1:19256
+  --fleet ADDRESS      show the machines that a Prometheus server knows, such as
+                       http://monitor:9090, instead of this one
+  --credentials FILE   a file of one line that says who asks (with --fleet),
+                       NAME:PASSWORD or a token; nobody else may read it
   --unprivileged       never ask for an administrator's password; other users'
                        processes then show and obey only as far as your own
                        rights go
@@ -137,7 +141,22 @@ class Reader {
     if (alone.size() > 1)
       return Complain(std::string(alone[0]) + " and " + alone[1] + " exclude each other");
     if (mWindowIsNamed && !mLine.screenshot) return Complain("--window needs --screenshot");
-    return RecordingFitsTogether();
+    return FleetFitsTogether() && RecordingFitsTogether();
+  }
+
+  bool FleetFitsTogether() {
+    if (!mLine.credentials.empty() && mLine.fleet.empty())
+      return Complain("--credentials needs --fleet");
+    if (mLine.fleet.empty()) return true;
+    const bool prints = mLine.action == CommandLine::Action::kPrint;
+    const char* other = prints                    ? "--print"
+                        : !mLine.recordTo.empty() ? "--record"
+                        : !mLine.replay.empty()   ? "--replay"
+                        : mLine.toggleOverlay     ? "--toggle-overlay"
+                        : mWindowIsNamed          ? "--window"
+                                                  : nullptr;
+    return other == nullptr ||
+           Complain(std::string("--fleet and ") + other + " exclude each other");
   }
 
   bool RecordingFitsTogether() {
@@ -167,6 +186,8 @@ class Reader {
     if (mOption == "--limit-size") return ReadSize();
     if (mOption == "--replay") return ReadText(mLine.replay);
     if (mOption == "--at") return ReadText(mLine.at);
+    if (mOption == "--fleet") return ReadText(mLine.fleet);
+    if (mOption == "--credentials") return ReadText(mLine.credentials);
     if (mOption == "--screenshot") return ReadScreenshot();
     if (mOption == "--export") return ReadExport();
     if (mOption == "--window") return ReadWindow();

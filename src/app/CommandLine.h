@@ -45,6 +45,10 @@ struct CommandLine {
   std::string replay;
   /// A moment in it, see RecordingTime.h; empty for its last one.
   std::string at;
+  /// The address of a metrics server whose machines are shown; empty for this machine.
+  std::string fleet;
+  /// A file that says who asks it; empty for nobody in particular.
+  std::string credentials;
   /// Start the helper with the user's own rights.
   bool unprivileged = false;
   /// A file to write a window's picture to, instead of running on.

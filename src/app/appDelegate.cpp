@@ -16,6 +16,8 @@
 #include "app/SplashScreen.h"
 #include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
+#include "fleet_window/FleetWindow.h"
+#include "fleet_window/OpenFleetDialog.h"
 #include "machine_window/MachineWindow.h"
 #include "main_window/VQTarvMainWindowInfoSynch.h"
 #include "monitor_windows/CPUHistoryWindow.h"
@@ -168,6 +170,7 @@ void vqAppDelegate::applicationWillTerminate() {
   delete AlertsWindow::IfOpen();
   mNotifier.reset();
   mAlerts.reset();
+  FleetWindow::CloseAll();
   gApplicationQuitting = true;
   {
     const PreferenceBatch batch;
@@ -233,6 +236,13 @@ void vqAppDelegate::doOpenRecording() {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setFileMode(QFileDialog::ExistingFile);
   connect(dialog, &QFileDialog::fileSelected, this, &vqAppDelegate::OpenRecording);
+  dialog->open();
+}
+
+void vqAppDelegate::doOpenFleet() {
+  auto* dialog = new OpenFleetDialog(fMainWindow.get());
+  connect(dialog, &OpenFleetDialog::chosen, this,
+          [](const QUrl& address) { FleetWindow::Open(address); });
   dialog->open();
 }
 

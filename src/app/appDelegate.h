@@ -56,6 +56,7 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void doToggleQuintessentialViewFullScreen() override;
   void doRecord() override;
   void doOpenRecording() override;
+  void doOpenFleet() override;
   QString recordingStatus() const override { return mRecording.Status(); }
   bool isLastWindow(const QWidget& window) const override;
 

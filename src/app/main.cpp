@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "app/CommandLine.h"
+#include "app/FleetMode.h"
 #include "app/PrintMode.h"
 #include "app/RecordMode.h"
 #include "app/ReplayBar.h"
@@ -49,6 +50,7 @@
 #include "recording/RecordedRunLoop.h"
 #include "recording/RecordedServices.h"
 #include "recording/RecordingTime.h"
+#include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {
@@ -316,6 +318,18 @@ bool BecomeTheInstance(RunningInstance& instance) {
   return true;
 }
 
+/// A QApplication exists.
+int ShowFleet(const CommandLine& commandLine, EndingSignals& signals) {
+  using Use = DesktopMachine::Use;
+  InstallResources(*qApp);
+  const auto choice = ReadFleetChoice(commandLine);
+  if (!choice) return kExitUsage;
+  DesktopMachine machine(commandLine.screenshot ? Use::kForPicture : Use::kBySomebody, "");
+  const MachineInstallation installation(machine.services);
+  signals.Watch([&machine] { machine.runLoop.Stop(); });
+  return RunFleetMode(commandLine, *choice);
+}
+
 int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv,
                  std::optional<Replay> replay) {
   if (!commandLine.printingOption.empty()) {
@@ -333,7 +347,8 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv,
   withoutDisplay.reset();
   // Qt takes the user's language for texts; numbers are read and written with a point.
   std::setlocale(LC_NUMERIC, "C");
-  const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot || replay;
+  const bool isOfFleet = !commandLine.fleet.empty();
+  const bool isOnItsOwn = commandLine.newInstance || commandLine.screenshot || replay || isOfFleet;
   if (commandLine.screenshot || replay) {
     NeverRestartWithSession(application);
   } else {
@@ -341,6 +356,7 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv,
   }
   RunningInstance instance(isOnItsOwn ? "" : BusAddress());
   if (!isOnItsOwn && !BecomeTheInstance(instance)) return kExitSuccess;
+  if (isOfFleet) return ShowFleet(commandLine, signals);
   if (replay) return ShowRecording(commandLine, std::move(*replay), signals);
   using Use = DesktopMachine::Use;
   DesktopMachine machine(commandLine.screenshot ? Use::kForPicture : Use::kBySomebody,
@@ -389,6 +405,10 @@ int Run(const CommandLine& commandLine, int& argc, char** argv) {
   const char* platform = std::getenv("QT_QPA_PLATFORM");
   const bool platformIsChosen = platform != nullptr && *platform != '\0';
   if (!platformIsChosen && !IsDisplayReachable()) {
+    if (!commandLine.screenshot && !commandLine.fleet.empty()) {
+      Diagnose("no display to show the fleet on");
+      return kExitFailure;
+    }
     if (!commandLine.screenshot) {
       Diagnose(
           "no display; printing the processes. Start it in a graphical session, or "

@@ -92,8 +92,8 @@ constexpr FleetFigureRow kRows[] = {
 static_assert(std::size(kRows) == kFleetFigures);
 
 constexpr FleetFigure kColumnsOfMachines[] = {
-    kCpu,     kMemory,   kMemoryAll,   kSwap,      kLoad,   kProcesses, kDisk,
-    kNetwork, kWaitsCpu, kWaitsMemory, kWaitsDisk, kOldest, kSeen};
+    kSeen, kCpu,     kMemory,   kMemoryAll,   kSwap,      kLoad,  kProcesses,
+    kDisk, kNetwork, kWaitsCpu, kWaitsMemory, kWaitsDisk, kOldest};
 constexpr FleetFigure kColumnsOfGroups[] = {kCpu,     kMemory,    kSwap,    kDisk,
                                             kNetwork, kProcesses, kThreads, kMachines};
 constexpr FleetFigure kColumnsOfOne[] = {kCpu,     kMemory,    kSwap,    kDisk,

@@ -149,10 +149,14 @@ QString HistoryQuery(const FleetView& view, const QString& row,
 QString SeenQuery(const QStringList& machines) {
   QStringList names;
   for (const auto& machine : machines) names.append(PromEscaped(machine));
-  return QStringLiteral(
-             "max by (instance) (max_over_time(timestamp(lurkwell_machine_cpus{"
-             "instance=~%1})[1d:1m]))")
-      .arg(PromLiteral(names.join(QLatin1Char('|'))));
+  // Coarse steps over a whole day miss what has gone a moment ago, or was there for a moment.
+  const auto within = [&](const char* steps) {
+    return QStringLiteral(
+               "max by (instance) (max_over_time(timestamp(lurkwell_machine_cpus{"
+               "instance=~%1})[%2]))")
+        .arg(PromLiteral(names.join(QLatin1Char('|'))), QLatin1String(steps));
+  };
+  return within("10m:5s") + QLatin1String(" or ") + within("1d:1m");
 }
 
 }  // namespace lurkwell

@@ -54,7 +54,6 @@ void FleetSession::SetInterval(int milliseconds) {
 
 void FleetSession::Ask() {
   mNext.stop();
-  mSeenRequest.reset();
   mRequest =
       mClient.Ask(TableQuery(mView, mFilter), {kFigureLabel, RowLabel(mView.level)},
                   [this](PrometheusClient::Outcome outcome) { TakeTable(std::move(outcome)); });
@@ -90,6 +89,8 @@ void FleetSession::FillInSeen() {
 }
 
 void FleetSession::AskWhenSeen() {
+  // That takes its time, and may last longer than tables are apart.
+  if (mSeenRequest != nullptr) return;
   QStringList unknown;
   for (const auto& row : mTable->rows)
     if (row.IsDown() && !mSeen.contains(row.name) && unknown.size() < kMostDownRows)

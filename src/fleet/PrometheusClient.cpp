@@ -81,7 +81,7 @@ class PrometheusClient::Request final : public QObject, public PrometheusRequest
   void LetGo() {
     if (auto* reply = std::exchange(mReply, nullptr)) {
       reply->disconnect(this);
-      reply->abort();
+      if (reply->isRunning()) reply->abort();
       reply->deleteLater();
     }
   }

@@ -15,6 +15,7 @@
 #include "machine_window/MachineFacts.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/CheckedButtons.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/WindowFrame.h"
 
@@ -271,7 +272,7 @@ void MachineWindow::resizeEvent(QResizeEvent* event) {
 void MachineWindow::changeEvent(QEvent* event) {
   ControlledWindow::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) LookWhetherSeen();
-  if (event->type() == QEvent::PaletteChange && mSpans != nullptr) MarkSpan();
+  if (event->type() == QEvent::PaletteChange && mSpans != nullptr) MarkChecked(*mSpans);
 }
 
 void MachineWindow::LookWhetherSeen() {
@@ -375,17 +376,9 @@ void MachineWindow::ShowBusiest() {
 }
 
 /// A pressed button is hardly another than the rest in dark themes.
-void MachineWindow::MarkSpan() {
-  auto marked = palette();
-  marked.setBrush(QPalette::Button, marked.highlight());
-  marked.setBrush(QPalette::ButtonText, marked.highlightedText());
-  for (auto* button : mSpans->buttons())
-    button->setPalette(button->isChecked() ? marked : QPalette());
-}
-
 void MachineWindow::SetSpan(int minutes) {
   if (auto* button = mSpans->button(minutes)) button->setChecked(true);
-  MarkSpan();
+  MarkChecked(*mSpans);
   for (auto* graph : mGraphs) graph->setSpan(minutes * 60'000LL);
   mProcessors->setSpan(minutes * 60'000LL);
 }

@@ -79,7 +79,6 @@ class MachineWindow final : public ControlledWindow {
   void ShowGraphics();
   void ShowBusiest();
   void SetSpan(int minutes);
-  void MarkSpan();
   void SetCursor(std::optional<std::int64_t> when);
   void Choose(std::optional<std::int64_t> when);
   void ChooseProcess(std::int32_t pid, std::uint64_t startStamp);

@@ -404,7 +404,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::ChooseProcess(std::int32_t pid, const QPoint& place, bool wantsMenu) {
-  auto* table = gTheStripedTableView;
+  auto* table = mTable;
   if (gNSMainWindow == nullptr || table == nullptr) return;
   if (StoredInt(kShowProcessListKey).value_or(0) == 0) return;
   if (!VQTarvMainWindowInfoSynch::SelectPID(pid)) return;

@@ -250,6 +250,10 @@ inline constexpr Setting kRows[] = {
     Record("ALERTS_WINDOW_FRAME", kAbsent),
     Record("DEFAULT_SHOW_ALERTS_WINDOW", 0),
 
+    Record("FLEET_WINDOW_FRAME", kAbsent),
+    Record("FLEET_WINDOW_SECONDS", 30, kNewWindows),
+    Text("FLEET_RECENT_ADDRESSES", kAtOnce),
+
     Real("CLASSIC_INITIAL_ASSUMED_CPU_USAGE", 0.1, 0, 1, kNextStart),
     Real("CLASSIC_ENVIRONMENT_USAGE_TRACKING_FILTER", 0.05, 0, 1, kAtOnce),
     Interval("CLASSIC_WATCHDOG_INTERVAL", 5000, kNextStart),

@@ -24,6 +24,8 @@ class ApplicationCommands {
   virtual void doRecord() {}
   /// Shows a recording that the user chooses, in another instance.
   virtual void doOpenRecording() {}
+  /// Shows the machines that a metrics server knows, after asking for its address.
+  virtual void doOpenFleet() {}
   /// What is to be said of a recording that is being made; empty without one.
   virtual QString recordingStatus() const { return {}; }
   virtual void doQuit() = 0;

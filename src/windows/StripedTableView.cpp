@@ -14,8 +14,6 @@
 
 namespace lurkwell {
 
-StripedTableView* gTheStripedTableView = nullptr;
-
 namespace {
 
 /// A column that is fitted to its texts may become so wide in a narrow window, too.
@@ -38,7 +36,6 @@ QColor GridColour(const QPalette& palette) {
 }  // namespace
 
 StripedTableView::StripedTableView(QWidget* parent) : QTableView(parent) {
-  gTheStripedTableView = this;
   setShowGrid(false);
   setWordWrap(false);
   setCornerButtonEnabled(false);
@@ -58,10 +55,6 @@ StripedTableView::StripedTableView(QWidget* parent) : QTableView(parent) {
   rows.setMinimumSectionSize(1);
   rows.setDefaultSectionSize(std::max(fontMetrics().height() + 4, ImageCell::kSize + 4));
   setHorizontalHeader(new TableHeader(this));
-}
-
-StripedTableView::~StripedTableView() {
-  if (gTheStripedTableView == this) gTheStripedTableView = nullptr;
 }
 
 // ---- The context menu ---------------------------------------------------------------------------

@@ -10,9 +10,10 @@
 
 namespace lurkwell {
 
-/// The process table's view: stripes over its whole height, vertical grid lines, and a context menu
-/// for rows on a right click, the menu key or Shift+F10. Home and End go to the first and the last
-/// row, the space bar selects a row besides others, or not any more. Main thread only.
+/// The view of a table of processes, or of what is shown like one: stripes over its whole height,
+/// vertical grid lines, and a context menu for rows on a right click, the menu key or Shift+F10.
+/// Home and End go to the first and the last row, the space bar selects a row besides others, or
+/// not any more. Main thread only.
 class StripedTableView : public QTableView {
   Q_OBJECT
 
@@ -25,7 +26,6 @@ class StripedTableView : public QTableView {
   static constexpr int kCellHasChangedRole = Qt::UserRole + 100;
 
   explicit StripedTableView(QWidget* parent = nullptr);
-  ~StripedTableView() override;
 
   /// For so long after it has come up under the pointer, in milliseconds, the context menu takes no
   /// click: it was meant for something else.
@@ -115,8 +115,5 @@ class StripedTableView : public QTableView {
   QElapsedTimer mSinceLastKey;
   QString mEmptyText;
 };
-
-/// The one view there is, while there is one.
-extern StripedTableView* gTheStripedTableView;
 
 }  // namespace lurkwell

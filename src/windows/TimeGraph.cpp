@@ -43,13 +43,24 @@ QString WidestFigure(GraphUnit unit) {
   return {};
 }
 
-/// In minutes where the whole span has some.
+/// In the largest unit of which the whole span has more than one.
 QString AgoText(std::int64_t milliseconds, std::int64_t span) {
   if (milliseconds == 0) return LocalizedString("graph_now");
-  const bool inMinutes = span >= 120'000;
-  const double ago = static_cast<double>(milliseconds) / (inMinutes ? 60'000 : 1000);
-  return LocalizedString(inMinutes ? "graph_minutes_ago" : "graph_seconds_ago")
-      .arg(QLocale::c().toString(ago, 'g', 3));
+  constexpr std::int64_t kHour = 3'600'000;
+  const auto in = [milliseconds](const char* text, std::int64_t unit) {
+    const double ago = static_cast<double>(milliseconds) / static_cast<double>(unit);
+    return LocalizedString(text).arg(QLocale::c().toString(ago, 'g', 3));
+  };
+  if (span >= 48 * kHour) return in("graph_days_ago", 24 * kHour);
+  if (span >= 2 * kHour) return in("graph_hours_ago", kHour);
+  return span >= 120'000 ? in("graph_minutes_ago", 60'000) : in("graph_seconds_ago", 1000);
+}
+
+/// With the date where the span has several.
+QString CursorText(std::int64_t when, std::int64_t span) {
+  constexpr std::int64_t kHalfDay = 12 * 3'600'000;
+  if (span < kHalfDay) return MomentText(when);
+  return QDateTime::fromMSecsSinceEpoch(when).toString(QStringLiteral("yyyy-MM-dd HH:mm"));
 }
 
 /// A colour between two of the palette.
@@ -146,7 +157,7 @@ QString TimeGraph::figures() const {
   }
   auto text = parts.join(QStringLiteral(", "));
   if (mHistory == nullptr || mHistory->IsEmpty()) return text;
-  return MomentText(mCursor.value_or(mHistory->TimeOf(mHistory->Size() - 1))) +
+  return CursorText(mCursor.value_or(mHistory->TimeOf(mHistory->Size() - 1)), mPlot.span) +
          QStringLiteral(": ") + text;
 }
 
@@ -352,7 +363,7 @@ void TimeGraph::DrawCursor(QPainter& painter) const {
   DrawLineAt(painter, *mCursor, Qt::DashLine);
   if (!hasFocus() && !mPointer) return;
   painter.setFont(ScaleFont());
-  const auto text = MomentText(*mCursor);
+  const auto text = CursorText(*mCursor, mPlot.span);
   const QFontMetricsF metrics(painter.font());
   const double wide = metrics.horizontalAdvance(text) + 2 * kGap;
   const auto& area = mPlot.area;
