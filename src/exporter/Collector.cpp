@@ -337,8 +337,8 @@ void Collector::AskForCostly(Entries entries) {
   std::vector<CostlyWish> wishes;
   for (const auto& entry : entries)
     if (entry.pid != 0)
-      if (auto wish = WishFor(entry, mTracked[entry.pid]); wish.sources != 0)
-        wishes.push_back(std::move(wish));
+      if (const auto wish = WishFor(entry, mTracked[entry.pid]); wish.sources != 0)
+        wishes.push_back(wish);
   mSources.costly.Ask(wishes);
   std::erase_if(wishes, [](const CostlyWish& wish) { return !wish.isInSight; });
   const auto isUnread = [this](const CostlyWish& wish) {
