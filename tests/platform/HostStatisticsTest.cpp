@@ -120,7 +120,10 @@ TEST(HostStatistics, OfAMadeUpMachineHaveWhatThisOneLacks) {
   const auto empty = host.Read(kAllMachineSources);
   EXPECT_FALSE(empty.memory || empty.load || empty.processorPressure || empty.limits.memory);
 
-  proc("meminfo", "MemTotal: 1000 kB\nMemAvailable: 300 kB\nSwapTotal: 50 kB\nSwapFree: 20 kB\n");
+  proc("meminfo",
+       "MemTotal: 1000 kB\nMemAvailable: 300 kB\nCached: 70 kB\nSwapTotal: 50 kB\n"
+       "SwapFree: 20 kB\nSwapCached: 9 kB\n");
+  proc("stat", "cpu  1 2 3 4 5 6 7 8 0 0\ncpu0 1 2 3 4 5 6 7 8 0 0\nprocesses 9\n");
   proc("spl/kstat/zfs/arcstats", "13 1 0x01\nname type data\nc_min 4 51200\nsize 4 153600\n");
   proc("pressure/cpu", "some avg10=1.50 avg60=2.00 avg300=0.25 total=7\n");
   proc("pressure/io",
@@ -155,6 +158,14 @@ TEST(HostStatistics, OfAMadeUpMachineHaveWhatThisOneLacks) {
   ASSERT_TRUE(figures.memory);
   EXPECT_EQ(figures.memory->available, 300 * 1024 + 102'400) << "what ZFS would give back counts";
   EXPECT_EQ(figures.memory->swapFree, 20 * 1024);
+  EXPECT_EQ(figures.memory->cached, 70 * 1024);
+  EXPECT_FALSE(figures.memory->buffers) << "what is not told is not 0";
+  const std::int64_t tick = 1'000'000 / ::sysconf(_SC_CLK_TCK);
+  ASSERT_TRUE(figures.modes && figures.processors.size() == 1);
+  EXPECT_EQ(figures.modes->user, tick);
+  EXPECT_EQ(figures.modes->stolen, 8 * tick);
+  EXPECT_EQ(figures.processorPressure.value().someTime, 7);
+  EXPECT_FALSE(figures.processorPressure.value().fullTime);
   EXPECT_EQ(figures.processorPressure.value().some, (std::array{1.5, 2.0, 0.25}));
   EXPECT_EQ(figures.diskPressure.value().some[2], 100.0) << "no absurd value";
   EXPECT_EQ(figures.diskPressure.value().full[0], 3.0);
