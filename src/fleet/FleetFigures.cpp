@@ -78,7 +78,8 @@ constexpr FleetFigureRow kRows[] = {
     // before.
     {kUp, "up", "fleet_up", Unit::kCount, kPropertyTypeInteger,
      "max by (@by) (up{@m} and on (job) (lurkwell_build_info"
-     " or lurkwell_build_info offset 1h or lurkwell_build_info offset 1d))",
+     " or lurkwell_build_info offset 5m or lurkwell_build_info offset 1h"
+     " or lurkwell_build_info offset 1d))",
      nullptr},
     {kDiskRead, "read", "fleet_read", Unit::kBytesPerSecond, kPropertyTypeRate, kReadOfMachine,
      kReadOfGroup},

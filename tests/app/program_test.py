@@ -118,6 +118,8 @@ class CommandLine(Program):
                 (["--record", "x", "--limit-size", "3Q"], "--limit-size needs a size"),
                 (["--keep", "3"], "--keep needs --record"),
                 (["--print", "--at", "03:12"], "--at needs --replay"),
+                (["--credentials", "x"], "--credentials needs --fleet"),
+                (["--fleet", "x", "--print"], "--fleet and --print exclude each other"),
                 (["--print", "--columns", "zzzzzzzzzzzz"],
                  "no property or ps column 'zzzzzzzzzzzz'\n")):
             with self.subTest(arguments):
