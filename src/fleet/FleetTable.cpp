@@ -23,6 +23,8 @@ class TableReader {
     // Nobody knows which of two is right.
     for (const auto& [row, figure] : mTwice) mTable.rows[row].Set(figure, kNoFigure);
     mTable.leftOut += static_cast<std::int64_t>(mTwice.size());
+    for (auto& row : mTable.rows)
+      if (row.IsDown()) ForgetPast(row);
     mTable.all = std::max<std::int64_t>(mTable.all, static_cast<std::int64_t>(mTable.rows.size()));
     return std::move(mTable);
   }
@@ -54,6 +56,13 @@ class TableReader {
     }
     row.Set(*figure, value);
     return true;
+  }
+
+  /// For some minutes a server goes on telling the rates of a machine that has gone.
+  static void ForgetPast(FleetRow& row) {
+    for (const auto& figure : FleetFigures())
+      if (figure.figure != FleetFigure::kUp && figure.figure != FleetFigure::kSeen)
+        row.Set(figure.figure, kNoFigure);
   }
 
   FleetTable mTable;

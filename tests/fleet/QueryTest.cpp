@@ -98,6 +98,7 @@ TEST(FleetSessionTest, ShowsNoWrongFigureAndKeepsTheLastGoodOnes) {
                                                          {nullptr, "web", "3"},
                                                          {"cpu", nullptr, "3"},
                                                          {"up", "lost", "0"},
+                                                         {"disk", "lost", "4096"},
                                                          {"all", nullptr, "2000"},
                                                          {"down", nullptr, "1"}}));
   });
@@ -118,6 +119,7 @@ TEST(FleetSessionTest, ShowsNoWrongFigureAndKeepsTheLastGoodOnes) {
   EXPECT_FALSE(std::isfinite(RowNamed(table, "twice")->Of(FleetFigure::kCpu)));
   EXPECT_EQ(RowNamed(table, "twice")->Of(FleetFigure::kMemory), 5);
   EXPECT_TRUE(RowNamed(table, "lost")->IsDown());
+  EXPECT_FALSE(std::isfinite(RowNamed(table, "lost")->Of(FleetFigure::kDisk)));
   EXPECT_EQ(table.time - RowNamed(table, "lost")->Of(FleetFigure::kSeen), 1000);
   EXPECT_EQ(table.leftOut, 5);
 
