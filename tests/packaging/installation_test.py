@@ -141,6 +141,29 @@ class Installation(unittest.TestCase):
         for who in policy.findall("action/defaults/*"):
             self.assertEqual(who.text, "auth_admin")
 
+    def test_shells_complete_what_the_help_has(self):
+        places = {"bash": "bash-completion/completions/lurkwell",
+                  "zsh": "zsh/vendor-completions/_lurkwell",
+                  "fish": "fish/vendor_completions.d/lurkwell.fish"}
+        scripts = {shell: self.text(f"share/{place}") for shell, place in places.items()}
+        for option in self.options_of_help():
+            self.assertRegex(scripts["zsh"], f"'{option}[=[]")
+            self.assertRegex(scripts["fish"], f" -l {option[2:]} ")
+        ask = "COMP_WORDS=(lurkwell {words}); COMP_CWORD={last}; _lurkwell; echo ${{COMPREPLY[*]}}"
+
+        def completed(*line):
+            done = words("bash", "-c", scripts["bash"] + ask.format(
+                words=" ".join(f"'{word}'" for word in line), last=len(line)))
+            self.assertEqual((done.returncode, done.stderr), (0, ""))
+            return set(done.stdout.split())
+        self.assertEqual(completed(""), self.options_of_help())
+        self.assertEqual(completed("--th"), {"--theme"})
+        self.assertEqual(completed("--theme", "=", "d"), {"dark"})
+        self.assertEqual(completed("--format", ""), {"text", "json", "jsonl", "csv"})
+        self.assertEqual(completed("--count", ""), set())
+        self.assertEqual(completed("--replay", "/etc/host"), {
+            str(path) for path in pathlib.Path("/etc").glob("host*")})
+
     def test_the_manual_agrees_with_the_help(self):
         page, shown = self.shown_page("lurkwell")
         options = shown.split("\nOPTIONS\n")[1].split("\nEXIT STATUS\n")[0]
