@@ -5578,6 +5578,38 @@ Free: %5</translation>
         <source></source>
         <translation>About panel at every start</translation>
     </message>
+    <message id="hint_details">
+        <source></source>
+        <translation>A double click on a process opens its details; a right click has what can be done to it.</translation>
+    </message>
+    <message id="hint_filter">
+        <source></source>
+        <translation>Ctrl+F finds processes by anything: try user:root cpu&gt;5, or port:443.</translation>
+    </message>
+    <message id="hint_columns">
+        <source></source>
+        <translation>A right click on the header adds columns; Ctrl+1 to Ctrl+7 switch between whole sets of them.</translation>
+    </message>
+    <message id="hint_follow">
+        <source></source>
+        <translation>Ctrl+N lets a small graph of the selected process float above all windows; it comes back with its program.</translation>
+    </message>
+    <message id="hint_shapes">
+        <source></source>
+        <translation>Alt+2 shows the processes as a tree, Alt+3 by application; totals are those of the whole branch.</translation>
+    </message>
+    <message id="hints_none">
+        <source></source>
+        <translation>No More Hints</translation>
+    </message>
+    <message id="hints_close">
+        <source></source>
+        <translation>Put this hint away</translation>
+    </message>
+    <message id="setting_title_HINTS_SEEN">
+        <source></source>
+        <translation>Hints that were put away</translation>
+    </message>
     <message id="setting_title_ABOUT_PANEL_SEEN_VERSION">
         <source></source>
         <translation>About panel: version seen</translation>
@@ -5977,6 +6009,10 @@ Free: %5</translation>
     <message id="setting_ABOUT_PANEL_AT_EVERY_START">
         <source></source>
         <translation>Show the about panel for three seconds at every start, not only at the first one of a version.</translation>
+    </message>
+    <message id="setting_HINTS_SEEN">
+        <source></source>
+        <translation>How many of the hints above the table have been put away; 0 shows them again, one at each start.</translation>
     </message>
     <message id="setting_ABOUT_PANEL_SEEN_VERSION">
         <source></source>

@@ -16,6 +16,7 @@
 #include "platform/Screen.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/OverlayKey.h"
 #include "windows/WindowFrame.h"
 
@@ -216,6 +217,7 @@ void QuintessentialViewWindow::keyPressEvent(QKeyEvent* event) {
   if (is(Qt::NoModifier, Qt::Key_Escape) || is(Qt::ControlModifier, Qt::Key_W))
     return closeByUser();
   if (is(Qt::ControlModifier, Qt::Key_Q)) return mCommands.doQuit();
+  if (is(Qt::NoModifier, Qt::Key_F1)) return ShowHelpAbout(HelpSection::kAnimatedView);
   if (is(Qt::NoModifier, Qt::Key_Menu) || is(Qt::NoModifier, Qt::Key_F10) ||
       is(Qt::ShiftModifier, Qt::Key_F10))
     return ShowMenu(mapToGlobal(QPoint(8, 8)));

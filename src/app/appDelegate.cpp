@@ -124,6 +124,7 @@ void vqAppDelegate::applicationDidFinishLaunching() {
   if (mLaunch == Launch::kUsual) OpenFirstWindows();
   if (mLaunch == Launch::kUsual) {
     QubsDebugging();
+    fMainWindow->ShowHint();
     ShowSplashScreenAtStart();
     SetUpHotKey();
   } else {

@@ -17,6 +17,7 @@
 #include "resources/Resources.h"
 #include "windows/CheckedButtons.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/WindowFrame.h"
 
 namespace lurkwell {
@@ -72,6 +73,7 @@ MachineWindow::MachineWindow(ShowProcess showProcess)
     : mShowProcess(std::move(showProcess)), mRecorder(MachineRecorder::Running()) {
   setWindowTitle(LocalizedString("machine_title"));
   WatchWindowOrder(*this);
+  AddHelpKey(*this, HelpSection::kMachine);
   auto* contents = new QWidget;
   mGrid = new QGridLayout(contents);
   mGrid->setContentsMargins(0, 0, 6, 0);

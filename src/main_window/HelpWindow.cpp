@@ -55,15 +55,28 @@ QString KeysOfCommands() {
   return rows;
 }
 
-/// Gives the page to the desktop's browser, in a file that is its own.
-bool ShowInBrowser(const QString& page) {
+/// The file's path; empty when it cannot be written.
+QString WriteForBrowser(const QString& name, const QString& page) {
   const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                     QLatin1String("/lurkwell"));
-  QSaveFile file(folder.filePath(QStringLiteral("Documentation.html")));
+  QSaveFile file(folder.filePath(name));
   const auto bytes = page.toUtf8();
-  return folder.mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
-         file.write(bytes) == bytes.size() && file.commit() &&
-         QDesktopServices::openUrl(QUrl::fromLocalFile(file.fileName()));
+  const bool isWritten = folder.mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
+                         file.write(bytes) == bytes.size() && file.commit();
+  return isWritten ? file.fileName() : QString();
+}
+
+/// Gives the page to the desktop's browser, in a file that is its own.
+bool ShowInBrowser(const QString& page, const QString& section) {
+  const auto name = QStringLiteral("Documentation.html");
+  auto path = WriteForBrowser(name, page);
+  // Desktops give browsers the file alone, without the place in it: another page leads there.
+  if (!path.isEmpty() && !section.isEmpty())
+    path = WriteForBrowser(
+        QStringLiteral("help-%1.html").arg(section),
+        QStringLiteral("<!DOCTYPE html><meta http-equiv=\"refresh\" content=\"0; url=%1#%2\">")
+            .arg(name, section));
+  return !path.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 }  // namespace
@@ -75,16 +88,17 @@ QString FillHelpPage(QString page) {
                overlay.isEmpty() ? LocalizedString("help_no_key") : MarkedKeys(overlay));
 }
 
-bool ShowHelp(const QString& file, QWidget& owner) {
+bool ShowHelp(const QString& file, const QString& section, QWidget& owner) {
   QFile source(file);
   if (!source.open(QIODevice::ReadOnly)) return false;
   const auto page = FillHelpPage(QString::fromUtf8(source.readAll()));
-  if (!ShowInBrowser(page)) ShowHelpWindow(page, owner);
+  if (!ShowInBrowser(page, section)) ShowHelpWindow(page, section, owner);
   return true;
 }
 
-void ShowHelpWindow(const QString& page, QWidget& owner) {
+void ShowHelpWindow(const QString& page, const QString& section, QWidget& owner) {
   static QPointer<ControlledWindow> sWindow;
+  static QPointer<QTextBrowser> sText;
   if (sWindow == nullptr) {
     sWindow = new ControlledWindow(&owner);
     sWindow->setWindowTitle(LocalizedString("help_title"));
@@ -95,6 +109,7 @@ void ShowHelpWindow(const QString& page, QWidget& owner) {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(text);
     text->setFocus();
+    sText = text;
     const auto* escape = new QShortcut(Qt::Key_Escape, sWindow);
     QObject::connect(escape, &QShortcut::activated, sWindow, &QWidget::close);
     const auto metrics = text->fontMetrics();
@@ -102,6 +117,10 @@ void ShowHelpWindow(const QString& page, QWidget& owner) {
         FitOnScreens(QSize(metrics.averageCharWidth() * 80, metrics.lineSpacing() * 40)));
   }
   BringToFront(*sWindow);
+  // The page is laid out when it is seen.
+  if (!section.isEmpty())
+    QMetaObject::invokeMethod(
+        sText, [section] { sText->scrollToAnchor(section); }, Qt::QueuedConnection);
 }
 
 }  // namespace lurkwell

@@ -13,11 +13,12 @@ namespace lurkwell {
 QString FillHelpPage(QString page);
 
 /// Shows the page of that file, filled in, in the desktop's browser, and where there is none, or
-/// none can be given a page, in a window of the program's own. False when it cannot be read.
-bool ShowHelp(const QString& file, QWidget& owner);
+/// none can be given a page, in a window of the program's own; at the section with that id, or
+/// from its beginning for none. False when it cannot be read.
+bool ShowHelp(const QString& file, const QString& section, QWidget& owner);
 
 /// Shows a page in a window of the program's own. One window at a time, above its owner; closed, it
 /// deletes itself.
-void ShowHelpWindow(const QString& page, QWidget& owner);
+void ShowHelpWindow(const QString& page, const QString& section, QWidget& owner);
 
 }  // namespace lurkwell

@@ -26,6 +26,7 @@
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/PropertyText.h"
 #include "windows/WindowFrame.h"
 
@@ -96,9 +97,11 @@ MainWindow::MainWindow(ApplicationCommands& commands)
   RestoreFrame();
   mController->fillWidth(width());
   WatchWindowOrder(*this);
+  SetHelp([this](HelpSection section) { ShowHelpSection(QLatin1String(AnchorOf(section))); });
 }
 
 MainWindow::~MainWindow() {
+  SetHelp(nullptr);
   TheMachine().processManager.WhenRevealFails({});
   // It arranges the controller's toolbar.
   delete mCustomising;
@@ -116,6 +119,7 @@ void MainWindow::BuildContents() {
       new FilterBar([this](Query query) { mController->setFilter(std::move(query)); }, contents);
   mTable = new StripedTableView(contents);
   mTable->setAccessibleName(LocalizedString("main_window_title"));
+  layout->addWidget(mHintBar = new HintBar(contents));
   layout->addWidget(mFilterBar);
   layout->addWidget(mTable);
   setCentralWidget(contents);
@@ -194,9 +198,14 @@ void MainWindow::closeFollowingWindows() {
 }
 
 void MainWindow::showHelp() {
+  ShowHelpSection({});
+}
+
+void MainWindow::ShowHelpSection(const QString& section) {
   const auto page = QString::fromStdString(TheMachine().bundle.Path() +
                                            "/Contents/Resources/Documentation/Documentation.html");
-  if (!ShowHelp(page, *this)) Report(LocalizedString("main_window_help_missing").arg(page));
+  if (!ShowHelp(page, section, *this))
+    Report(LocalizedString("main_window_help_missing").arg(page));
 }
 
 void MainWindow::toggleToolbar() {

@@ -10,6 +10,7 @@
 
 #include "channel/DaemonCommunication.h"
 #include "main_window/FilterBar.h"
+#include "main_window/HintBar.h"
 #include "main_window/MainMenus.h"
 #include "main_window/vqMainTableController.h"
 #include "platform/Alerts.h"
@@ -33,6 +34,8 @@ class MainWindow : public QMainWindow, private WindowCommands {
   vqMainTableController& controller() { return *mController; }
   StripedTableView& table() { return *mTable; }
   MainMenus& menus() { return *mMenus; }
+  /// Tells a newcomer what is easily missed, one thing at each start.
+  void ShowHint() { mHintBar->begin(); }
   QLineEdit& filterField() { return mFilterBar->field(); }
 
   /// Writes the window's size and place into the preferences.
@@ -96,6 +99,8 @@ class MainWindow : public QMainWindow, private WindowCommands {
   QString AskForColumnSetTitle(const char* title, const QString& first, int place);
   void ShowArrangement();
   void RestoreFrame();
+  /// From the beginning without one.
+  void ShowHelpSection(const QString& section);
   /// Shows a text in the status line for a while.
   void Report(const QString& text);
   void LookAtHelper();
@@ -110,6 +115,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   ApplicationCommands& mCommands;
   std::unique_ptr<vqMainTableController> mController;
   StripedTableView* mTable = nullptr;
+  HintBar* mHintBar = nullptr;
   FilterBar* mFilterBar = nullptr;
   /// A button of the status line that opens one of the menus, and says what is chosen there.
   struct Switcher {

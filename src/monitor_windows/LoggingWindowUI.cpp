@@ -22,6 +22,7 @@
 #include "preferences/PreferenceBatch.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/PropertyText.h"
 #include "windows/WindowFrame.h"
 
@@ -86,6 +87,7 @@ LoggingWindowUI* LoggingWindowUI::CreateLoggingWindowWithInterval(
   controller->setTitle();
   controller->placeWindow(windowSize, others);
   WatchWindowOrder(*window);
+  AddHelpKey(*window, HelpSection::kLogs);
   // A window that comes back must not take the keyboard from another program.
   const bool isActive = QApplication::applicationState() == Qt::ApplicationActive;
   window->setAttribute(Qt::WA_ShowWithoutActivating, !isActive);

@@ -123,6 +123,7 @@ inline constexpr Setting kRows[] = {
     Record("PREFERENCES_UI_DEFAULT_TAB", 0, kNewWindows),
     Switch("ABOUT_PANEL_AT_EVERY_START", false, kNextStart),
     Record("ABOUT_PANEL_SEEN_VERSION", kAbsent),
+    Record("HINTS_SEEN", 0),
 
     Interval("MAIN_WINDOW_INTERVAL", 2000, kAtOnce, kTable, "mainWindowIntervalSlider"),
     Switch("MEM_GRAPH_DRAW_VSZ", false, kAtOnce, kTable, "memoryGraphCheckBox"),

@@ -20,6 +20,7 @@
 #include "resources/Resources.h"
 #include "windows/CustomCells.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 
 namespace lurkwell {
 namespace {
@@ -106,6 +107,7 @@ AllSettings* AllSettings::ShowOver(QWidget& parent) {
     }
     window->setUpTable();
     WatchWindowOrder(*window);
+    AddHelpKey(*window, HelpSection::kPreferences);
   }
   BringToFront(*window);
   return window;

@@ -23,6 +23,7 @@
 #include "resources/Resources.h"
 #include "windows/ControllerAssertion.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/WindowFrame.h"
 
 namespace lurkwell {
@@ -67,6 +68,7 @@ void vqPreferencesUI::runWithTab(int tab, const QString& form) {
   controller->awakeFromNib();
   window->willClose = [controller] { controller->windowWillClose(); };
   WatchWindowOrder(*window);
+  AddHelpKey(*window, HelpSection::kPreferences);
   // It deletes itself when it is closed.
   BringToFront(*window.release());
 }

@@ -15,6 +15,7 @@
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/PropertyText.h"
 #include "windows/TimeGraph.h"
 #include "windows/WindowFrame.h"
@@ -66,6 +67,7 @@ DetailsWindow::DetailsWindow(ProcessIdentity process, FillProcessMenu fillMenu)
   LookWhatIsSeen();
   CurrentPage().Table().TakeFocus();
   WatchWindowOrder(*this);
+  AddHelpKey(*this, HelpSection::kDetails);
 }
 
 DetailsWindow::~DetailsWindow() {

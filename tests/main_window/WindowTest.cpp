@@ -2,12 +2,18 @@
 #include <QFile>
 #include <QLabel>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTextBrowser>
+#include <QToolButton>
 
 #include "channel/DaemonChannel.h"
 #include "main_window/HelpWindow.h"
+#include "main_window/HintBar.h"
 #include "main_window/MainWindowTest.h"
+#include "resources/Resources.h"
+#include "windows/HelpKey.h"
+#include "windows/WindowFrame.h"
 
 namespace lurkwell {
 namespace {
@@ -77,7 +83,8 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
 TEST_F(WindowTest, HelpNeedsNoBrowser) {
   Open();
   const auto browsers = [this] { return window->findChildren<QTextBrowser*>(); };
-  for (int time = 0; time < 2; ++time) ShowHelpWindow(QStringLiteral("<h1>Heading</h1>"), *window);
+  for (int time = 0; time < 2; ++time)
+    ShowHelpWindow(QStringLiteral("<h1>Heading</h1>"), {}, *window);
   ASSERT_EQ(browsers().size(), 1) << "one window";
   EXPECT_EQ(browsers().first()->toPlainText(), QLatin1String("Heading"));
   browsers().first()->window()->close();
@@ -86,6 +93,50 @@ TEST_F(WindowTest, HelpNeedsNoBrowser) {
   EXPECT_TRUE(browsers().isEmpty());
   EXPECT_TRUE(window->statusBar()->currentMessage().contains("Documentation.html"))
       << "this machine's bundle has no page";
+}
+
+TEST_F(WindowTest, HelpBeginsAtTheSectionOfItsWindow) {
+  Open();
+  QFile file(QStringLiteral(SOURCE_FOLDER "/resources/Documentation/Documentation.html"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const auto page = QString::fromUtf8(file.readAll());
+  int last = 0;
+  for (int n = 0; n < static_cast<int>(HelpSection::kCount); ++n) {
+    const auto section = QString::fromLatin1(AnchorOf(static_cast<HelpSection>(n)));
+    ASSERT_TRUE(page.contains(QStringLiteral("<h2 id=\"%1\">").arg(section))) << n;
+    ShowHelpWindow(page, section, *window);
+    auto* bar = window->findChild<QTextBrowser*>()->verticalScrollBar();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar->value() > last; })) << qPrintable(section);
+    last = bar->value();
+  }
+  window->findChild<QTextBrowser*>()->window()->close();
+  // A key in another window finds the main window, which has the page.
+  ControlledWindow other;
+  AddHelpKey(other, HelpSection::kMachine);
+  other.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  QTest::keyClick(&other, Qt::Key_F1);
+  EXPECT_TRUE(window->statusBar()->currentMessage().contains("Documentation.html"));
+}
+
+TEST_F(WindowTest, HintsGoAwayOneByOneAndForGood) {
+  Open();
+  const auto bar = [this] { return window->findChild<HintBar*>(); };
+  const auto press = [&](int button) {
+    window->ShowHint();
+    ASSERT_TRUE(bar()->isVisible());
+    bar()->findChildren<QToolButton*>().at(button)->click();
+    EXPECT_TRUE(bar()->isHidden());
+  };
+  window->ShowHint();
+  const auto first = bar()->findChild<QLabel*>()->text();
+  EXPECT_EQ(first, LocalizedString("hint_details"));
+  press(1);
+  window->ShowHint();
+  EXPECT_NE(bar()->findChild<QLabel*>()->text(), first);
+  press(0);
+  window->ShowHint();
+  EXPECT_TRUE(bar()->isHidden());
 }
 
 TEST_F(WindowTest, TheHelpPageTellsTheKeysThatThereAre) {
