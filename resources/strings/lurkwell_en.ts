@@ -3362,6 +3362,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>The last update brought no figures for this column; these are older ones.</translation>
     </message>
+    <message id="main_window_no_address">
+        <source></source>
+        <translation>This is no address of a process, such as lurkwell://pid/4711: %1</translation>
+    </message>
     <message id="main_window_by_id_title">
         <source></source>
         <translation>Find Process by ID</translation>

@@ -12,8 +12,8 @@ namespace lurkwell {
 namespace {
 
 constexpr char kHelpText[] =
-    R"(Usage: lurkwell [OPTION]...
-Watches the processes of this machine.
+    R"(Usage: lurkwell [OPTION]... [lurkwell://pid/N]
+Watches the processes of this machine. An address selects the process with that number.
 
   --theme THEME        light, dark, or system: what the desktop has
   --screenshot FILE    write a picture of a window (PNG) after two updates and end;
@@ -101,6 +101,10 @@ class Reader {
   std::optional<CommandLine> Read() {
     for (bool isFirst = true; !mArguments.empty(); isFirst = false) {
       const std::string_view argument = Take();
+      if (argument.starts_with("lurkwell:")) {
+        mLine.address = argument;
+        continue;
+      }
       const auto equals = argument.find('=');
       mOption = argument.substr(0, equals);
       if (mOption == "--export" && !isFirst) {
@@ -138,6 +142,7 @@ class Reader {
     if (!mLine.recordTo.empty()) alone.push_back("--record");
     if (mLine.toggleOverlay) alone.push_back("--toggle-overlay");
     if (mLine.screenshot) alone.push_back("--screenshot");
+    if (!mLine.address.empty()) alone.push_back("an address");
     if (alone.size() > 1)
       return Complain(std::string(alone[0]) + " and " + alone[1] + " exclude each other");
     if (mWindowIsNamed && !mLine.screenshot) return Complain("--window needs --screenshot");

@@ -60,6 +60,8 @@ struct CommandLine {
   bool newInstance = false;
   /// Have the running instance change between the animated view's window and overlay, and end.
   bool toggleOverlay = false;
+  /// An address to show, "lurkwell:" and anything; empty for none.
+  std::string address;
 };
 
 /// Exit statuses of the program.

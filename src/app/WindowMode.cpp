@@ -204,6 +204,8 @@ int RunWindowMode(const CommandLine& commandLine, const std::function<void(MainW
   if (picture) photographer = std::make_unique<Photographer>(delegate, commandLine);
   delegate.applicationDidFinishLaunching();
   if (picture || isRecorded) delegate.doShowMainWindow();
+  if (!commandLine.address.empty())
+    delegate.doShowAddress(QString::fromLocal8Bit(commandLine.address.c_str()));
   TheMachine().runLoop.Run();
   const int status = photographer != nullptr ? photographer->Status() : kExitSuccess;
   photographer.reset();

@@ -225,6 +225,11 @@ void vqAppDelegate::doShowMainWindow() {
   BringToFront(*fMainWindow);
 }
 
+void vqAppDelegate::doShowAddress(const QString& address) {
+  doShowMainWindow();
+  fMainWindow->ShowAddress(address);
+}
+
 void vqAppDelegate::doRecord() {
   if (mLaunch == Launch::kOfRecording)
     return Complain("record_failed", LocalizedString("replay_no_actions").toStdString());

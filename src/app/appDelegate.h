@@ -47,6 +47,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   void doThePrefs() override;
   void doAboutPanel() override;
   void doShowMainWindow() override;
+  /// Brings the main window to the front, with the process that the address is about.
+  void doShowAddress(const QString& address);
   void doQuit() override;
   void doShowQuintessentialView() override;
   void doShowMachineWindow() override;

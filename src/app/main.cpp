@@ -291,17 +291,17 @@ int ToggleOverlay(int& argc, char** argv) {
 }
 
 /// Has an instance that is running come to the front; says so when it does not answer.
-RunningInstance::Answer AskTheInstance(RunningInstance& instance) {
-  const auto answer = instance.BringToFront();
+RunningInstance::Answer AskTheInstance(RunningInstance& instance, const std::string& address) {
+  const auto answer = address.empty() ? instance.BringToFront() : instance.ShowAddress(address);
   if (answer == RunningInstance::Answer::kSilent)
     Diagnose("an instance that is running does not answer; starting another");
   return answer;
 }
 
 /// Has others find this instance; false when one that is running has come to the front instead.
-bool BecomeTheInstance(RunningInstance& instance) {
+bool BecomeTheInstance(RunningInstance& instance, const std::string& address) {
   using Answer = RunningInstance::Answer;
-  const auto answer = AskTheInstance(instance);
+  const auto answer = AskTheInstance(instance, address);
   if (answer == Answer::kDone) return false;
   const bool isTheInstance = instance.Become(
       [] {
@@ -310,10 +310,14 @@ bool BecomeTheInstance(RunningInstance& instance) {
       [] {
         if (gAppDelegate != nullptr && gAppDelegate->isRunning())
           gAppDelegate->doToggleQuintessentialViewFullScreen();
+      },
+      [](const QString& asked) {
+        if (gAppDelegate != nullptr && gAppDelegate->isRunning())
+          gAppDelegate->doShowAddress(asked);
       });
   if (isTheInstance) return true;
   // No instance was there, and now one is: both started at the same time.
-  if (answer == Answer::kNobody && AskTheInstance(instance) == Answer::kDone) return false;
+  if (answer == Answer::kNobody && AskTheInstance(instance, address) == Answer::kDone) return false;
   instance.WaitInLine();
   return true;
 }
@@ -355,7 +359,7 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv,
     RestartWithSession(application);
   }
   RunningInstance instance(isOnItsOwn ? "" : BusAddress());
-  if (!isOnItsOwn && !BecomeTheInstance(instance)) return kExitSuccess;
+  if (!isOnItsOwn && !BecomeTheInstance(instance, commandLine.address)) return kExitSuccess;
   if (isOfFleet) return ShowFleet(commandLine, signals);
   if (replay) return ShowRecording(commandLine, std::move(*replay), signals);
   using Use = DesktopMachine::Use;

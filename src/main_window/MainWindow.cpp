@@ -12,11 +12,13 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "main_window/AskForPid.h"
 #include "main_window/HelpWindow.h"
 #include "main_window/MainToolbar.h"
 #include "main_window/OneProcess.h"
+#include "main_window/ProcessAddress.h"
 #include "main_window/ToolbarCustomiseDialog.h"
 #include "platform/Bundle.h"
 #include "platform/Machine.h"
@@ -90,6 +92,7 @@ MainWindow::MainWindow(ApplicationCommands& commands)
     if (!complaint.empty())
       Report(LocalizedString("main_window_preferences").arg(PlainText(complaint)));
   });
+  connect(mController.get(), &vqMainTableController::updated, this, &MainWindow::ShowAwaitedPid);
   connect(mController.get(), &vqMainTableController::reported, this, &MainWindow::Report);
   TheMachine().processManager.WhenRevealFails([this](const std::string& file) {
     Report(LocalizedString("main_window_not_revealed").arg(PlainText(file)));
@@ -281,11 +284,31 @@ void MainWindow::AskAboutHelper() {
 void MainWindow::findByPid() {
   const auto pid = AskForPid(
       this, [this](std::int32_t asked) { return mController->rows().Find(asked) != nullptr; });
-  if (pid == kInvalidPID) return;
+  if (pid != kInvalidPID) ShowPid(pid);
+}
+
+void MainWindow::ShowPid(std::int32_t pid) {
   mFilterBar->end();
-  // It may have ended while the question was open.
+  // It may have ended while it was being asked for.
+  const auto* row = mController->rows().Find(pid);
+  if (row != nullptr && row->shownIndex < 0) mController->setScope(TableScope::kAll);
   if (!VQTarvMainWindowInfoSynch::SelectPID(pid))
     Report(LocalizedString("main_window_by_id_not_found").arg(pid));
+}
+
+void MainWindow::ShowAddress(const QString& address) {
+  constexpr int kMostShown = 80;
+  const auto pid = PidOfAddress(address.toStdString());
+  if (!pid)
+    return Report(LocalizedString("main_window_no_address")
+                      .arg(PlainText(address.left(kMostShown).toStdString())));
+  mAwaitedPid = *pid;
+  if (mController->rowCount() > 0) ShowAwaitedPid();
+}
+
+void MainWindow::ShowAwaitedPid() {
+  const auto pid = std::exchange(mAwaitedPid, kInvalidPID);
+  if (pid != kInvalidPID) ShowPid(pid);
 }
 
 /// Which processes the scope and the filter leave: "mine, filter"; empty for all.

@@ -48,6 +48,10 @@ class MainWindow : public QMainWindow, private WindowCommands {
   /// a process without a row.
   void ChooseProcess(std::int32_t pid, const QPoint& place, bool wantsMenu);
 
+  /// Selects the process that an address is about, see ProcessAddress.h, or says why it cannot; at
+  /// the start, once the processes are known. Nothing else is done to it.
+  void ShowAddress(const QString& address);
+
   /// What can be done to a process that another window shows; `report` takes what became of it. The
   /// menu is filled again at each opening.
   void FillProcessMenu(QMenu& menu, ProcessIdentity process,
@@ -99,6 +103,9 @@ class MainWindow : public QMainWindow, private WindowCommands {
   QString AskForColumnSetTitle(const char* title, const QString& first, int place);
   void ShowArrangement();
   void RestoreFrame();
+  /// Whatever hides the process goes; says so when there is none.
+  void ShowPid(std::int32_t pid);
+  void ShowAwaitedPid();
   /// From the beginning without one.
   void ShowHelpSection(const QString& section);
   /// Shows a text in the status line for a while.
@@ -124,6 +131,8 @@ class MainWindow : public QMainWindow, private WindowCommands {
     QMenu* menu;
   };
   std::vector<Switcher> mSwitchers;
+  /// Asked for before the processes were known; kInvalidPID for none.
+  std::int32_t mAwaitedPid = kInvalidPID;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
   QLabel* mRecording = nullptr;

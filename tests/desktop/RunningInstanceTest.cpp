@@ -20,21 +20,27 @@ TEST(RunningInstance, IsFoundByTheNextOneAndDoesWhatItIsAsked) {
   EXPECT_EQ(program()->BringToFront(), Answer::kNobody);
   int fronts = 0;
   int toggles = 0;
+  QString shown;
   auto first = program();
-  ASSERT_TRUE(first->Become([&] { ++fronts; }, [&] { ++toggles; }));
+  ASSERT_TRUE(first->Become([&] { ++fronts; }, [&] { ++toggles; },
+                            [&](const QString& address) { shown = address; }));
   // The others are programs of their own, as far as the bus can tell.
-  const auto ask = [&](const std::string& method) {
-    ChildProgram caller({"dbus-send", "--bus=" + bus.Address(), "--print-reply",
-                         "--dest=com.velquarin.lurkwell", "/com/velquarin/lurkwell/Instance",
-                         "com.velquarin.lurkwell.Instance." + method});
+  const auto ask = [&](const std::string& method, std::vector<std::string> arguments = {}) {
+    std::vector<std::string> words(
+        {"dbus-send", "--bus=" + bus.Address(), "--print-reply", "--dest=com.velquarin.lurkwell",
+         "/com/velquarin/lurkwell/Instance", "com.velquarin.lurkwell.Instance." + method});
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    ChildProgram caller(words);
     EXPECT_TRUE(SoonTrue([&] { return caller.Ends(0); }));
   };
+  ask("Show", {"string:lurkwell://pid/7"});
   ask("Present");
   ask("Toggle");
   ask("Toggle");
   QCoreApplication::processEvents();
   EXPECT_EQ(fronts, 1);
   EXPECT_EQ(toggles, 2);
+  EXPECT_EQ(shown, QLatin1String("lurkwell://pid/7"));
   first.reset();
   EXPECT_EQ(program()->ToggleOverlay(), Answer::kNobody);
 }
@@ -92,7 +98,7 @@ TEST(RunningInstance, FollowsASilentOneAndNeitherHearsNorTrustsStrangers) {
   auto holder = hold(0);
   auto instance = std::make_unique<RunningInstance>(bus.Address());
   EXPECT_EQ(instance->BringToFront(), Answer::kSilent);
-  EXPECT_FALSE(instance->Become([&] { ++fronts; }, [] {}));
+  EXPECT_FALSE(instance->Become([&] { ++fronts; }, [] {}, [](const QString&) {}));
   instance->WaitInLine();
   holder.reset();
   EXPECT_TRUE(ComesTrue([&] { return present(0); }));

@@ -186,6 +186,39 @@ TEST_F(CommandsTest, FindByIdTakesWholeNumbersOfLiveProcesses) {
             QStringList({"There is no process 9999.", noNumber, noNumber, noNumber, noNumber}));
 }
 
+TEST_F(CommandsTest, AnAddressSelectsItsProcessWhateverHidesItAndDoesNothingElse) {
+  const auto said = [this] { return window->statusBar()->currentMessage().toStdString(); };
+  // At the start the processes are not known yet.
+  for (const int pid : {300, 301}) machine.processTable.Birth(pid, "p" + std::to_string(pid));
+  Open();
+  window->ShowAddress(QStringLiteral("lurkwell://pid/301"));
+  Turn();
+  EXPECT_EQ(Selected(), "301");
+  Choose("menu_scope_applications");
+  Choose("menu_edit_filter");
+  window->filterField().setText(QStringLiteral("nothing at all"));
+  Turn();
+  ASSERT_EQ(controller().rowCount(), 0);
+  machine.log.Clear();
+  window->ShowAddress(QStringLiteral("lurkwell://pid/300/"));
+  Turn();
+  EXPECT_EQ(Selected(), "300");
+  EXPECT_EQ(said(), "");
+  window->ShowAddress(QStringLiteral("lurkwell://pid/4711"));
+  Turn();
+  EXPECT_NE(said().find("4711"), std::string::npos);
+  for (const char* text : {"lurkwell://pid/", "lurkwell://pid/0", "lurkwell://pid/-1",
+                           "lurkwell:", "lurkwell://pid/300x", "lurkwell://pid/99999999999",
+                           "http://pid/300", "lurkwell://kill/300", "lurkwell://pid/300\n"}) {
+    window->statusBar()->clearMessage();
+    window->ShowAddress(QString::fromUtf8(text));
+    EXPECT_NE(said().find("no address of a process"), std::string::npos) << text;
+  }
+  EXPECT_EQ(Selected(), "300");
+  for (const auto& line : machine.log.Lines())
+    EXPECT_EQ(line.find("Signals."), std::string::npos) << line;
+}
+
 TEST_F(CommandsTest, AFilterSaysWhatItCouldNotLookInto) {
   machine.processTable.TellFigures(true);
   const auto open = [&](int pid, const char* owner, const char* files, const char* ports) {

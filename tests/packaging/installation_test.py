@@ -115,7 +115,7 @@ class Installation(unittest.TestCase):
         entry = self.prefix / f"share/applications/{ID}.desktop"
         done = words("desktop-file-validate", str(entry))
         self.assertEqual((done.returncode, done.stdout + done.stderr), (0, ""))
-        for option in re.findall(r"^Exec=lurkwell (\S+)$", entry.read_text(), re.M):
+        for option in re.findall(r"^Exec=lurkwell (-\S+)$", entry.read_text(), re.M):
             self.assertIn(option, self.options_of_help())
         metainfo = self.prefix / f"share/metainfo/{ID}.metainfo.xml"
         done = words("appstreamcli", "validate", "--no-net", "--pedantic", str(metainfo))

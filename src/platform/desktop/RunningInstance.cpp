@@ -53,12 +53,13 @@ RunningInstance::~RunningInstance() {
   QDBusConnection::disconnectFromBus(kConnection);
 }
 
-RunningInstance::Answer RunningInstance::Ask(const QString& method) {
+RunningInstance::Answer RunningInstance::Ask(const QString& method, const QVariantList& arguments) {
   if (!mBus.isConnected()) return Answer::kNobody;
   const auto owner = FirstOf<QString>(AskBus(mBus, QStringLiteral("GetNameOwner"), {kService}));
   if (owner.isEmpty() || !IsOurs(mBus, owner)) return Answer::kNobody;
   auto message = QDBusMessage::createMethodCall(owner, kPath, kInterface, method);
   message.setAutoStartService(false);
+  message.setArguments(arguments);
   const QDBusMessage answer = mBus.call(message, QDBus::Block, kInstanceAnswers);
   if (answer.type() == QDBusMessage::ReplyMessage) return Answer::kDone;
   const QString error = answer.errorName();
@@ -76,10 +77,16 @@ RunningInstance::Answer RunningInstance::ToggleOverlay() {
   return Ask(QStringLiteral("Toggle"));
 }
 
+RunningInstance::Answer RunningInstance::ShowAddress(const std::string& address) {
+  return Ask(QStringLiteral("Show"), {QString::fromStdString(address)});
+}
+
 bool RunningInstance::Become(std::function<void()> bringToFront,
-                             std::function<void()> toggleOverlay) {
+                             std::function<void()> toggleOverlay,
+                             std::function<void(const QString&)> showAddress) {
   mBringToFront = std::move(bringToFront);
   mToggleOverlay = std::move(toggleOverlay);
+  mShowAddress = std::move(showAddress);
   // First the object, so that the name is never found without it.
   return mBus.isConnected() && mBus.registerObject(kPath, this, QDBusConnection::ExportAllSlots) &&
          RequestName(kDoNotQueue);
@@ -118,6 +125,10 @@ void RunningInstance::Present() {
 
 void RunningInstance::Toggle() {
   if (calledFromDBus()) Serve(mToggleOverlay);
+}
+
+void RunningInstance::Show(const QString& address) {
+  if (calledFromDBus()) Serve([this, address] { mShowAddress(address); });
 }
 
 }  // namespace lurkwell

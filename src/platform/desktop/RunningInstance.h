@@ -3,6 +3,8 @@
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QObject>
+#include <QString>
+#include <QVariantList>
 #include <functional>
 #include <string>
 
@@ -35,10 +37,13 @@ class RunningInstance : public QObject, protected QDBusContext {
   /// view's window and overlay.
   Answer BringToFront();
   Answer ToggleOverlay();
+  /// Asks it to show an address; it says itself what is wrong with one.
+  Answer ShowAddress(const std::string& address);
 
   /// Becomes the session's instance; false when another one is, or there is no bus. Others are
   /// served as long as this object lives.
-  bool Become(std::function<void()> bringToFront, std::function<void()> toggleOverlay);
+  bool Become(std::function<void()> bringToFront, std::function<void()> toggleOverlay,
+              std::function<void(const QString&)> showAddress);
 
   /// After Become has failed: becomes the instance once the other one has gone. Does nothing
   /// without a bus.
@@ -48,9 +53,10 @@ class RunningInstance : public QObject, protected QDBusContext {
   // What other instances call.
   void Present();
   void Toggle();
+  void Show(const QString& address);
 
  private:
-  Answer Ask(const QString& method);
+  Answer Ask(const QString& method, const QVariantList& arguments = {});
   /// Does what the method that is being called is for, once the caller is known to be ours.
   void Serve(const std::function<void()>& action);
   /// Asks the bus for the name, with its own flags; true when it is ours.
@@ -60,6 +66,7 @@ class RunningInstance : public QObject, protected QDBusContext {
   BusUsers mUsers{mBus};
   std::function<void()> mBringToFront;
   std::function<void()> mToggleOverlay;
+  std::function<void(const QString&)> mShowAddress;
 };
 
 }  // namespace lurkwell
