@@ -1,4 +1,5 @@
 #include <cstdint>
+#include <optional>
 #include <unordered_set>
 #include <vector>
 
@@ -46,6 +47,13 @@ void ReportIdleTask() LURKWELL_IN_REGION {
     if (IsCostly(row)) report.NoValue(row, Missing::kNotCounted);
 }
 
+/// The kernel counts processor time in hundredths of a second, its memory in pages.
+std::optional<std::uint64_t> ActivityOf(const MetaProcessInformation& record) LURKWELL_IN_REGION {
+  if (!AreTimesRead(record)) return std::nullopt;
+  const auto size = static_cast<std::uint64_t>((*record.pidInfo)[FigureCalled("pid_rsz")]);
+  return static_cast<std::uint64_t>(MicrosecondsOf(record.activeTime)) + (size << 16);
+}
+
 /// What all clients need, so that one with short turns does not push aside what others asked for.
 std::vector<CostlyWish> WishesOf(const Client::Clients& clients,
                                  const SourceNeeds& needs) LURKWELL_IN_REGION {
@@ -57,8 +65,10 @@ std::vector<CostlyWish> WishesOf(const Client::Clients& clients,
     if (!record.valid || record.pidInfo == nullptr || record.pid <= 0) continue;
     const auto sources = needs.Of(record.pid);
     if (sources == 0) continue;
-    wishes.push_back(
-        {{record.pid, record.pidInfo->startStamp}, sources, inSight.contains(record.pid)});
+    wishes.push_back({{record.pid, record.pidInfo->startStamp},
+                      sources,
+                      inSight.contains(record.pid),
+                      ActivityOf(record)});
   }
   return wishes;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "platform/ProcessFigures.h"
@@ -15,6 +16,9 @@ struct CostlyWish {
   FigureSources sources = 0;
   /// The user can see it now: it is read before those that are out of sight.
   bool isInSight = false;
+  /// Another number whenever it has run or has another size; nothing where that is not known. What
+  /// hardly changes otherwise need not be read again while it stays the same.
+  std::optional<std::uint64_t> activity = std::nullopt;
 };
 
 /// What was found.

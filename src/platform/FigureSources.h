@@ -48,8 +48,11 @@ inline constexpr FigureSources kSeldomChanging =
 
 /// Those that only the process itself changes: read as soon as it has run, and after a minute if it
 /// has not. What the longer description says of memory others take away, which its line in the
-/// table tells at the usual time.
-inline constexpr FigureSources kByRunningAlone = kFromStatus | kFromIO | kFromThreads;
+/// table tells at the usual time. Others put it into its control group, but mostly as it begins.
+inline constexpr FigureSources kByRunningAlone = kFromStatus | kFromIO | kFromThreads | kFromGroup;
+
+/// Those of both kinds that are kept for five minutes instead of one.
+inline constexpr FigureSources kKeptForLong = kFromIdentity | kFromGroup;
 
 inline constexpr std::size_t kCostlySourceCount = std::popcount(kCostlyFigureSources);
 

@@ -71,6 +71,27 @@ std::string Descriptors(pid_t pid) {
   return std::fscanf(pipe.get(), "%d", &count) == 1 ? std::to_string(count) : "";
 }
 
+TEST(CostlyFigures, OfAProcessThatHasNotRunAreNotReadAgainSoon) {
+  LinuxCostlyFigures figures;
+  const Child child;
+  const CostlyWish wish{IdentityOf(child.Pid()), kFromMemoryMap, false, 5};
+  ASSERT_TRUE(NextReading(figures, {wish}));
+  const auto isReadAgain = [&](std::optional<std::uint64_t> activity, int tenths) {
+    auto next = wish;
+    next.activity = activity;
+    bool isRead = false;
+    for (int i = 0; i < tenths && !isRead; ++i) {
+      figures.Ask({next});
+      std::this_thread::sleep_for(std::chrono::milliseconds(100));
+      isRead = !figures.Collect().empty();
+    }
+    return isRead;
+  };
+  EXPECT_FALSE(isReadAgain(5, 15));
+  EXPECT_TRUE(isReadAgain(6, 100)) << "it has run";
+  EXPECT_TRUE(isReadAgain({}, 100)) << "nobody knows";
+}
+
 TEST(CostlyFigures, TellWhatMemoryIsItsOwnAndWhatIsShared) {
   constexpr Figure kPss = FigureCalled("pid_pss"), kUss = FigureCalled("pid_uss");
   LinuxCostlyFigures figures;

@@ -18,6 +18,11 @@ namespace {
 constexpr std::int64_t kRestFactor = 50;
 constexpr std::int64_t kLongestRest = 60'000;
 constexpr std::int64_t kRestAfterRefusal = 10'000;
+constexpr std::int64_t kMoreRestAsleep = 10'000;
+constexpr std::int64_t kMoreRestAsleepUnseen = 300'000;
+/// What is shared with a process that sleeps changes its shares, too, but hardly.
+constexpr FigureSources kHardlyChangeAsleep =
+    kFromMemoryMap | kFromDescriptorCount | kFromOpenFiles;
 constexpr std::size_t kVirtualSizeField = 23;
 
 /// The number in the line "name:   NUMBER kB".
@@ -56,6 +61,7 @@ void CostlyReader::Keep(std::span<const CostlyWish> wishes) {
     auto& known = mKnown[wish.process.pid];
     if (known.startStamp != wish.process.startStamp) known = {};
     known.startStamp = wish.process.startStamp;
+    known.activity = wish.activity;
     known.round = mRound;
   }
   std::erase_if(mKnown, [this](const auto& known) { return known.second.round != mRound; });
@@ -68,7 +74,11 @@ CostlyReader::Due CostlyReader::DueOf(const CostlyWish& wish, std::int64_t now) 
   if (known == mKnown.end()) return due;
   for (std::size_t i = 0; i < kCostlySourceCount; ++i) {
     const auto& source = known->second.sources[i];
-    if ((wish.sources & CostlySource(i)) == 0 || now < source.due) continue;
+    if ((wish.sources & CostlySource(i)) == 0) continue;
+    const bool sleeps = wish.activity && source.activity == wish.activity &&
+                        (CostlySource(i) & kHardlyChangeAsleep) != 0;
+    const auto more = wish.isInSight ? kMoreRestAsleep : kMoreRestAsleepUnseen;
+    if (now < source.due + (sleeps ? more : 0)) continue;
     due.sources |= CostlySource(i);
     due.hasNeverBeenRead |= !source.isRead;
     due.oldest = std::min(due.oldest, source.readAt);
@@ -92,7 +102,9 @@ std::vector<CostlyReading> CostlyReader::Read(ProcessIdentity process, FigureSou
     const auto rest = state == FigureState::kRefused
                           ? kRestAfterRefusal
                           : std::min((ended - begun) * kRestFactor, kLongestRest);
-    known->second.sources[i] = {true, ended, ended + rest};
+    known->second.sources[i] = {
+        true, ended, ended + rest,
+        state == FigureState::kKnown ? known->second.activity : std::nullopt};
     // Ended meanwhile, or nothing to open it with: no word on the figures.
     if (state == FigureState::kUnread) continue;
     if (state != FigureState::kKnown) SetAll(reading.figures, which, state);

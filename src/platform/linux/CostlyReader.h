@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -18,7 +19,8 @@ namespace lurkwell {
 
 /// Reads the costly figures of one process at a time, and remembers when each is worth another
 /// reading: a source that took long rests for fifty times as long, a minute at most, one that is
-/// refused for ten seconds. One thread at a time.
+/// refused for ten seconds. What hardly changes unless the process runs rests ten seconds more
+/// while it sleeps, and five minutes out of sight. One thread at a time.
 class CostlyReader {
  public:
   /// As in ProcFiles and DescriptorFigures.
@@ -50,9 +52,12 @@ class CostlyReader {
       bool isRead = false;
       std::int64_t readAt = 0;
       std::int64_t due = 0;
+      /// As in CostlyWish, when it was read; nothing unless that succeeded.
+      std::optional<std::uint64_t> activity;
     };
     std::array<Source, kCostlySourceCount> sources;
     DescriptorFigures::Known open;
+    std::optional<std::uint64_t> activity;
     std::uint64_t round = 0;
   };
 

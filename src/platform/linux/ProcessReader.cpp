@@ -139,7 +139,8 @@ FigureSources ProcessReader::StaleOf(KnownProcess& known, FigureSources sources,
     const auto& reading = std::as_const(known).readings[source];
     const bool hasNotRun = runTime && reading.runTime == runTime;
     const bool isKeptLonger = hasNotRun && (source & kKeptAsleep) != 0;
-    const auto due = reading.due + (isKeptLonger ? kLongestKeptAsleep : 0);
+    const auto longer = (source & kKeptForLong) != 0 ? kLongestKeptAsleepAtAll : kLongestKeptAsleep;
+    const auto due = reading.due + (isKeptLonger ? longer : 0);
     const bool isKept = mNow < due && (hasNotRun || (source & kSeldomChanging) != 0);
     if (!isKept) stale |= source;
     until = std::min(until, due);

@@ -30,6 +30,8 @@ class ProcessReader {
   /// How much longer what seldom changes, and what others do not change, is kept while the process
   /// does not run.
   static constexpr std::int64_t kLongestKeptAsleep = 60'000;
+  /// The same for kKeptForLong.
+  static constexpr std::int64_t kLongestKeptAsleepAtAll = 300'000;
 
   /// `giveBack` closes some of the kept files and gives false when there are none left.
   /// `units` is where control groups are, see UnitFiles.
