@@ -27,11 +27,13 @@ std::int32_t ParentOf(std::int32_t pid, Family family) {
 
 class Window : public ApplicationCommands {
  public:
-  explicit Window(std::int64_t processes, Family family = Family::kUsual) {
+  explicit Window(std::int64_t processes, Family family = Family::kUsual)
+      : mFamily(family), mNext(static_cast<std::int32_t>(processes) + 98) {
     EnsureApplication();
-    for (std::int32_t pid = 100; pid < processes + 98; ++pid)
+    for (std::int32_t pid = 100; pid < mNext; ++pid)
       machine.processTable.Birth(pid, "process" + std::to_string(pid % 50), ParentOf(pid, family));
     machine.helper.SetRecordsFigures(false);
+    machine.processTable.TellFigures(true);
     InitializeProcessInformationConsolidator();
     window = std::make_unique<MainWindow>(*this);
     window->show();
@@ -46,11 +48,27 @@ class Window : public ApplicationCommands {
 
   /// Two of a hundred processes have worked since the last turn; what is measured is the window's.
   void Work() {
-    int at = 0;
-    for (const auto& row : window->controller().rows().All())
-      if (++at % 50 == 0) machine.processTable.Find(row->Pid())->UseCPU(10 + at % 90);
+    UseCPU();
     machine.runLoop.RunFor(1900);
     machine.log.Clear();
+  }
+
+  /// The same before a whole beat; one process has ended and another one begun, if wanted.
+  void WorkForBeat(bool comeAndGo) {
+    UseCPU();
+    machine.log.Clear();
+    if (!comeAndGo) return;
+    const int ended = mOldest++;
+    const int begun = mNext++;
+    machine.processTable.Death(ended);
+    machine.processTable.Birth(begun, "process" + std::to_string(ended % 50),
+                               mFamily == Family::kChain ? begun - 1 : ParentOf(ended, mFamily));
+  }
+
+  /// Collecting included.
+  [[gnu::noinline]] void Beat() {
+    machine.runLoop.RunFor(2000);
+    QApplication::processEvents();
   }
 
   /// What the consolidator does at the end of a heartbeat, and the drawing.
@@ -88,6 +106,17 @@ class Window : public ApplicationCommands {
   void doQuit() override {}
   bool isLastWindow(const QWidget&) const override { return false; }
 
+  void UseCPU() {
+    int at = 0;
+    for (const auto& row : window->controller().rows().All())
+      if (++at % 50 == 0)
+        if (auto* process = machine.processTable.Find(row->Pid())) process->UseCPU(10 + at % 90);
+  }
+
+  Family mFamily;
+  /// The next process to end, where they come and go.
+  std::int32_t mOldest = 130;
+  std::int32_t mNext;
   SimulatedMachine machine;
   MachineInstallation installation{machine.services};
   HelperChannel channel{machine};
@@ -113,21 +142,23 @@ void BM_MainWindowTurn(benchmark::State& state) {
 }
 BENCHMARK(BM_MainWindowTurn)->Arg(250)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
 
-/// The same in another shape: 0 list, 1 tree, 2 applications; of a usual family, a flat one or one
-/// in which everybody has one child. Sorted by name, where nothing moves, or by CPU usage.
-void BM_MainWindowTurnOfShape(benchmark::State& state) {
+/// Whole beats in each shape: 0 list, 1 tree, 2 applications; of a usual family, a flat one or one
+/// in which everybody has one child. Sorted by name, where nothing moves, or by CPU usage; with the
+/// same processes all the time, or one that ends and one that begins in each beat.
+void BM_MainWindowBeat(benchmark::State& state) {
   Window window(5000, static_cast<Family>(state.range(1)));
   window.SortBy(state.range(2) != 0 ? "internal_CPUPercent" : "meta_name");
   window.SetShape(static_cast<TableShape>(state.range(0)));
   for (auto _ : state) {
     state.PauseTiming();
-    window.Work();
+    window.WorkForBeat(state.range(3) != 0);
     state.ResumeTiming();
-    window.Turn();
+    window.Beat();
   }
 }
-BENCHMARK(BM_MainWindowTurnOfShape)
-    ->ArgsProduct({{0, 1, 2}, {0, 1, 2}, {0, 1}})
+BENCHMARK(BM_MainWindowBeat)
+    ->ArgNames({"shape", "family", "by_cpu", "births"})
+    ->ArgsProduct({{0, 1, 2}, {0, 1, 2}, {0, 1}, {0, 1}})
     ->Unit(benchmark::kMillisecond);
 
 /// A turn with next to no table: the gauges' pictures stay what they are, or one of them changes.

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QPixmap>
+#include <QString>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "consolidator/TypedValue.h"
@@ -117,8 +119,18 @@ class RowDictionary {
   /// True when the value is another one than before.
   bool Set(KeyId key, RowValue value) {
     if (!mValues.Set(key, std::move(value))) return false;
+    if (key == mFoldedKey) mFoldedKey = kNoKey;
     mChanged |= CellsOf(key);
     return mHasNewFigures = true;
+  }
+  /// A text without regard to case, empty for what is none. Kept for the key that was asked for
+  /// last, which is what the rows are sorted by.
+  const QString& CaseFolded(KeyId key) const {
+    if (mFoldedKey == key) return mFolded;
+    const auto* text = std::get_if<std::string>(&Get(key));
+    mFolded = text != nullptr ? QString::fromStdString(*text).toCaseFolded() : QString();
+    mFoldedKey = key;
+    return mFolded;
   }
   /// Whether a value was set to another one since this was asked last.
   bool TakeNewFigures() { return std::exchange(mHasNewFigures, false); }
@@ -204,6 +216,8 @@ class RowDictionary {
   std::int32_t mPid;
   std::unique_ptr<RowGroup> mGroup;
   RowValues mValues;
+  mutable KeyId mFoldedKey = kNoKey;
+  mutable QString mFolded;
   /// Null where nothing is added up.
   std::unique_ptr<RowValues> mTotals;
   bool mShowsTotals = false;

@@ -35,39 +35,35 @@ int OrderOfValues(const SortedRow& a, const SortedRow& b, T SortedRow::*value,
 /// Reads what one comparison needs of every row.
 using Preparation = void (*)(SortedRow& row, const compareContextStructure& context);
 
-QString Folded(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toCaseFolded();
-}
+// Texts have no totals.
 
 void PrepareText(SortedRow& row, const compareContextStructure& context) {
-  const auto* text = std::get_if<std::string>(&row.row->SortValue(context.sortKey));
-  row.isMissing = text == nullptr;
-  if (text != nullptr) row.text = Folded(*text);
+  row.isMissing = !std::holds_alternative<std::string>(row.row->Get(context.sortKey));
+  row.text = row.row->CaseFolded(context.sortKey);
 }
 
-void SetNumber(SortedRow& row, const RowValue& value) {
+void SetNumber(SortedRow& row, KeyId key) {
+  const auto& value = row.row->SortValue(key);
   row.isMissing = !IsKnown(value);
   row.integer = IntegerOf(value);
   row.number = NumberOf(value);
-  if (const auto* text = std::get_if<std::string>(&value)) {
-    row.isText = true;
-    row.text = Folded(*text);
-  }
+  row.isText = std::holds_alternative<std::string>(value);
+  if (row.isText) row.text = row.row->CaseFolded(key);
 }
 
 void PrepareNumber(SortedRow& row, const compareContextStructure& context) {
-  SetNumber(row, row.row->SortValue(context.sortKey));
+  SetNumber(row, context.sortKey);
 }
 
 void PrepareCPUPercent(SortedRow& row, const compareContextStructure&) {
-  SetNumber(row, row.row->SortValue(kInternalCpuUsage));
+  SetNumber(row, kInternalCpuUsage);
   if (row.pid != 0 || !IgnoresPidZero()) return;
   row.isMissing = false;
   row.number = 0.0;
 }
 
 void PrepareVirtualSize(SortedRow& row, const compareContextStructure&) {
-  SetNumber(row, row.row->SortValue(MemoryFigureKey()));
+  SetNumber(row, MemoryFigureKey());
   if (row.pid != 0 || !IgnoresPidZero()) return;
   row.isMissing = false;
   row.integer = 0;
@@ -78,8 +74,7 @@ void PrepareApplication(SortedRow& row, const compareContextStructure&) {
   PID2PSN(row.row->LeadPid(), &psn);
   row.hasApplication = !psn.IsNone();
   row.hasAction = GetProcessAction(row.row->LeadPid(), kProcessActionAny, nullptr);
-  if (const auto* name = std::get_if<std::string>(&row.row->Get(kMetaName)))
-    row.text = Folded(*name);
+  row.text = row.row->CaseFolded(kMetaName);
 }
 
 struct Comparison {
@@ -103,13 +98,6 @@ constexpr Comparison kComparisons[] = {
 
 Preparation PreparationFor(RowComparison compare) {
   return std::ranges::find(kComparisons, compare, &Comparison::compare)->prepare;
-}
-
-bool IsInOrder(const std::vector<SortedRow>& rows, RowComparison compare,
-               const compareContextStructure& context) {
-  for (std::size_t i = 1; i < rows.size(); ++i)
-    if (compare(rows[i - 1], rows[i], context) > 0) return false;
-  return true;
 }
 
 RowComparison ComparisonForType(PropertyType type) {
@@ -228,10 +216,14 @@ bool SortRows(std::span<RowDictionary*> rows, RowComparison comparison,
     sorted[i].pid = rows[i]->OrderPid();
     prepare(sorted[i], context);
   }
-  if (IsInOrder(sorted, comparison, context)) return false;
-  std::ranges::sort(sorted, [&](const SortedRow& a, const SortedRow& b) {
+  const auto isBefore = [&](const SortedRow& a, const SortedRow& b) {
     return comparison(a, b, context) < 0;
-  });
+  };
+  const auto disorder = std::ranges::is_sorted_until(sorted, isBefore);
+  if (disorder == sorted.end()) return false;
+  // Those that have come stand at the end; the others are in order.
+  std::ranges::sort(disorder, sorted.end(), isBefore);
+  std::ranges::inplace_merge(sorted, disorder, isBefore);
   std::ranges::transform(sorted, rows.begin(), &SortedRow::row);
   return true;
 }

@@ -71,7 +71,8 @@ RowComparison SortingComparisonForColumn(std::string_view key);
 /// Whether the idle task's CPU share and size count as 0 where they would hide all others'.
 bool IgnoresPidZero();
 
-/// Sorts with n log n comparisons; n when the rows are in order already. True when a row has moved.
+/// Sorts with n log n comparisons; with n and those of the rest when all but the last few are in
+/// order already. True when a row has moved.
 bool SortRows(std::span<RowDictionary*> rows, RowComparison comparison,
               const compareContextStructure& context);
 
