@@ -164,25 +164,30 @@ milliseconds AlertWatcher::TimeSinceLastTurn() {
   return std::clamp(milliseconds(MillisecondsBetween(last, now)), milliseconds(0), kLongestTurn);
 }
 
-void AlertWatcher::Judge(std::int32_t pid, Known& known) const {
+void AlertWatcher::Judge(ProcessIdentity process, Known& known) const {
   known.verdicts.resize(mWatches.size());
-  for (std::size_t i = 0; i < mWatches.size(); ++i)
-    known.verdicts[i] = VerdictOf(mWatches[i]->Rule(), pid, mNeeds[i].readsCostly);
+  known.seenBy.clear();
+  for (std::size_t i = 0; i < mWatches.size(); ++i) {
+    auto& verdict = known.verdicts[i];
+    verdict = VerdictOf(mWatches[i]->Rule(), process.pid, mNeeds[i].readsCostly);
+    if (verdict.isMet != false || mWatches[i]->Watches(process))
+      known.seenBy.push_back(static_cast<std::uint16_t>(i));
+  }
 }
 
 void AlertWatcher::See(std::int32_t pid) {
   const auto glance = GlanceAt(pid);
   if (glance.changeStamp == 0) return;
+  const ProcessIdentity process{pid, glance.startStamp};
   auto& known = mKnown[pid];
   known.turn = mTurn;
   if (known.startStamp != glance.startStamp || known.changeStamp != glance.changeStamp) {
     if (known.startStamp != glance.startStamp || known.changeStamp == 0) mNamesToLearn.Add(pid);
     known.startStamp = glance.startStamp;
     known.changeStamp = glance.changeStamp;
-    Judge(pid, known);
+    Judge(process, known);
   }
-  const ProcessIdentity process{pid, glance.startStamp};
-  for (std::size_t i = 0; i < mWatches.size(); ++i) {
+  for (const std::size_t i : known.seenBy) {
     const auto& verdict = known.verdicts[i];
     const auto& property = mWatches[i]->Rule().totalProperty;
     if (verdict.isMet == true && !property.empty()) {

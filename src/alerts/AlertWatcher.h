@@ -55,6 +55,8 @@ class AlertWatcher final : public ProcessInformationClient {
     std::uint64_t turn = 0;
     /// By rules.
     std::vector<AlertVerdict> verdicts;
+    /// The rules that have to see it in every turn.
+    std::vector<std::uint16_t> seenBy;
   };
   /// What a rule needs.
   struct Needs {
@@ -64,7 +66,7 @@ class AlertWatcher final : public ProcessInformationClient {
 
   void ForgetVerdicts();
   void See(std::int32_t pid);
-  void Judge(std::int32_t pid, Known& known) const;
+  void Judge(ProcessIdentity process, Known& known) const;
   std::chrono::milliseconds TimeSinceLastTurn();
   std::vector<std::pair<std::shared_ptr<RuleWatch>, AlertEvent>> EndTurn();
 

@@ -59,7 +59,7 @@ struct AlertVerdict {
   bool dependsOnCostly = false;
 };
 
-/// One rule and all that it waits for. Every turn is Begin, See for each process, and End. Main
+/// One rule and all that it waits for. Every turn is Begin, See for processes, and End. Main
 /// thread.
 class RuleWatch {
  public:
@@ -73,6 +73,11 @@ class RuleWatch {
   void Begin(std::chrono::milliseconds elapsed);
   /// Of a total, `figure` is what is added up where the verdict takes the process in.
   void See(ProcessIdentity process, const AlertVerdict& verdict, const TypedValue* figure);
+  /// Whether the process is pending or fires: then it has to be seen in every turn, else only where
+  /// its verdict is not plainly that it does not meet the condition.
+  bool Watches(ProcessIdentity process) const {
+    return !mWatched.empty() && mWatched.contains(process);
+  }
   /// What has begun and ended.
   std::vector<AlertEvent> End(const Describe& describe);
 
