@@ -19,6 +19,11 @@ class AlertCentreTest : public ConsolidatorTest, public AlertListener {
     machine.processTable.TellFigures(true);
     for (std::int32_t pid = 200; pid < 300; ++pid) machine.processTable.Birth(pid, "make");
     SetMemory(200, 1);
+    machine.tools.SetOutput("/bin/ps -Lww", "pid tt\n");
+    machine.tools.SetOutput("/bin/ps 0 -o pid", "PID\n");
+    machine.tools.SetOutput("/bin/ps 0 -o tt", "TT\n");
+    machine.tools.SetOutput("/bin/ps -axww -o pid,tt", "PID TT\n200 s0\n201 s1\n");
+    machine.tools.SetStuck("/bin/ps -Lww");
     Start();
     centre = std::make_unique<AlertCentre>();
     centre->AddListener(this);
@@ -127,6 +132,20 @@ TEST_F(AlertCentreTest, WhatIsStoredIsNeverLost) {
   SetPrefString("ALERT_RULES", "no list");
   centre = std::make_unique<AlertCentre>();
   EXPECT_TRUE(centre->Rules().empty());
+}
+
+TEST_F(AlertCentreTest, ARuleWaitsForTheColumnsOfPs) {
+  centre->Add({"TT:s1", "", true});
+  EXPECT_TRUE(centre->Rules()[0].error.has_value());
+  centre.reset();
+  centre = std::make_unique<AlertCentre>();
+  Run(10);
+  EXPECT_TRUE(centre->Rules()[0].error.has_value());
+  machine.tools.SetStuck("/bin/ps -Lww", false);
+  Run(10);
+  EXPECT_FALSE(centre->Rules()[0].error.has_value());
+  ASSERT_EQ(centre->Occurrences().size(), 1u);
+  EXPECT_EQ(centre->Occurrences()[0].subject.process.pid, 201);
 }
 
 TEST_F(AlertCentreTest, ALogThatCannotBeWrittenIsSaidAndTriedAgain) {
