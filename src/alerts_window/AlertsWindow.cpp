@@ -35,7 +35,14 @@ constexpr QSize kFirstAlertsSize(860, 560);
 constexpr QSize kLeastAlertsSize(480, 320);
 
 enum RuleColumn { kRuleText, kRuleState, kRuleLast, kRuleColumns };
-enum OccurrenceColumn { kBegan, kSubject, kLasted, kFigures, kOfRule, kOccurrenceColumns };
+enum OccurrenceColumn {
+  kBeganColumn,
+  kSubjectColumn,
+  kLastedColumn,
+  kFiguresColumn,
+  kOfRuleColumn,
+  kOccurrenceColumns
+};
 
 QPointer<AlertsWindow> sAlertsWindow;
 
@@ -152,10 +159,10 @@ void AlertsWindow::BuildOccurrences() {
       {LocalizedString("alerts_column_began"), LocalizedString("alerts_column_process"),
        LocalizedString("alerts_column_lasted"), LocalizedString("alerts_column_figures"),
        LocalizedString("alerts_column_rule")});
-  mOccurrences->setColumnWidth(kBegan, 110);
-  mOccurrences->setColumnWidth(kSubject, 190);
-  mOccurrences->setColumnWidth(kLasted, 170);
-  mOccurrences->setColumnWidth(kFigures, 200);
+  mOccurrences->setColumnWidth(kBeganColumn, 110);
+  mOccurrences->setColumnWidth(kSubjectColumn, 190);
+  mOccurrences->setColumnWidth(kLastedColumn, 170);
+  mOccurrences->setColumnWidth(kFiguresColumn, 200);
   mOccurrences->installEventFilter(this);
   connect(mOccurrences, &QTableWidget::cellDoubleClicked, this, &AlertsWindow::ShowChosenProcess);
   connect(mOccurrences, &QTableWidget::itemSelectionChanged, this,
@@ -302,7 +309,7 @@ void AlertsWindow::ShowRule(int row) {
 void AlertsWindow::ShowOccurrences() {
   const auto& occurrences = mCentre.Occurrences();
   const auto numberIn = [this](int row) {
-    const auto* item = mOccurrences->item(row, kBegan);
+    const auto* item = mOccurrences->item(row, kBeganColumn);
     return item != nullptr ? item->data(Qt::UserRole).toULongLong() : 0;
   };
   const auto selected = numberIn(mOccurrences->currentRow());
@@ -310,7 +317,7 @@ void AlertsWindow::ShowOccurrences() {
   for (int row = 0; row < mOccurrences->rowCount(); ++row) ShowOccurrence(row);
   for (int row = 0; selected != 0 && row < mOccurrences->rowCount(); ++row)
     if (numberIn(row) == selected && row != mOccurrences->currentRow())
-      mOccurrences->setCurrentCell(row, kBegan);
+      mOccurrences->setCurrentCell(row, kBeganColumn);
   ShowWhatCanBeDone();
   ShowNotes();
 }
@@ -319,12 +326,12 @@ void AlertsWindow::ShowOccurrence(int row) {
   const auto& occurrences = mCentre.Occurrences();
   if (static_cast<std::size_t>(row) >= occurrences.size()) return;
   const auto& occurrence = occurrences[static_cast<std::size_t>(row)];
-  SetCell(*mOccurrences, row, kBegan, CalendarText(occurrence.began));
-  SetCell(*mOccurrences, row, kSubject, AlertSubjectText(occurrence));
-  SetCell(*mOccurrences, row, kLasted, AlertLastedText(occurrence));
-  SetCell(*mOccurrences, row, kFigures, AlertFiguresText(occurrence.subject));
-  SetCell(*mOccurrences, row, kOfRule, PlainText(occurrence.rule));
-  mOccurrences->item(row, kBegan)->setData(Qt::UserRole, qulonglong{occurrence.number});
+  SetCell(*mOccurrences, row, kBeganColumn, CalendarText(occurrence.began));
+  SetCell(*mOccurrences, row, kSubjectColumn, AlertSubjectText(occurrence));
+  SetCell(*mOccurrences, row, kLastedColumn, AlertLastedText(occurrence));
+  SetCell(*mOccurrences, row, kFiguresColumn, AlertFiguresText(occurrence.subject));
+  SetCell(*mOccurrences, row, kOfRuleColumn, PlainText(occurrence.rule));
+  mOccurrences->item(row, kBeganColumn)->setData(Qt::UserRole, qulonglong{occurrence.number});
 }
 
 void AlertsWindow::ShowNotes() {
