@@ -13,6 +13,7 @@
 #include "alerts/AlertCommands.h"
 #include "alerts_window/AlertTexts.h"
 #include "resources/Resources.h"
+#include "windows/HelpKey.h"
 
 namespace lurkwell {
 namespace {
@@ -38,6 +39,7 @@ AlertEditor::AlertEditor(const QString& title, const AlertSetting& first, QWidge
   mWatcher = new AlertWatcher({[](const RuleWatch&, const AlertEvent&) {}, [this] { ShowTrial(); },
                                [this] { mWatcher = nullptr; }});
   Build(first);
+  AddHelpKey(*this, HelpSection::kAlerts);
   mPatience.setSingleShot(true);
   mPatience.setInterval(kEditorPatience);
   connect(&mPatience, &QTimer::timeout, this, &AlertEditor::TellError);

@@ -23,6 +23,7 @@
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/PropertyText.h"
 
 namespace lurkwell {
@@ -124,6 +125,7 @@ AlertsWindow::AlertsWindow(AlertCentre& centre, AlertsWindowCommands commands)
   layout->addWidget(mNotes);
   connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
   connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, mAdd, &QPushButton::click);
+  AddHelpKey(*this, HelpSection::kAlerts);
   setMinimumSize(kLeastAlertsSize);
   RestoreFrame();
   mCentre.AddListener(this);

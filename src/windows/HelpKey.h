@@ -14,6 +14,7 @@ enum class HelpSection : std::uint8_t {
   kHistories,
   kLogs,
   kMachine,
+  kAlerts,
   kAnimatedView,
   kPreferences,
   kCount,
