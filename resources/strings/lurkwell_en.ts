@@ -2469,6 +2469,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>No process is as the filter wants it. Esc shows all again.</translation>
     </message>
+    <message id="filter_clear">
+        <source></source>
+        <translation>Clear the filter</translation>
+    </message>
     <message id="filter_last">
         <source></source>
         <translation>Filters that were used last</translation>

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QShortcut>
+#include <QToolButton>
 #include <utility>
 
 #include "preferences/Settings.h"
@@ -46,6 +47,13 @@ FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
   mField->setClearButtonEnabled(true);
   auto* last = mField->addAction(NamedImage("filter"), QLineEdit::LeadingPosition);
   last->setToolTip(LocalizedString("filter_last"));
+  // The field's own have pictures alone.
+  for (auto* button : mField->findChildren<QToolButton*>()) {
+    const auto text =
+        LocalizedString(button->defaultAction() == last ? "filter_last" : "filter_clear");
+    button->setAccessibleName(text);
+    button->setToolTip(text);
+  }
   connect(last, &QAction::triggered, this, &FilterBar::showLast);
   auto* down = new QShortcut(Qt::Key_Down, mField);
   down->setContext(Qt::WidgetShortcut);

@@ -1,4 +1,5 @@
 // Windows, menus and rows that are looked for.
+#include <QToolButton>
 #include <functional>
 
 #include "main_window/CommandsTest.h"
@@ -239,6 +240,8 @@ TEST_F(CommandsTest, AFilterSaysWhatItCouldNotLookInto) {
   const auto remark = [this] {
     return window->findChild<FilterBar*>()->findChild<QLabel*>()->text().toStdString();
   };
+  for (const auto* button : window->findChild<FilterBar*>()->findChildren<QToolButton*>())
+    EXPECT_FALSE(button->accessibleName().isEmpty());
   machine.costlyFigures.isBusy = true;
   Filter("port:443");
   Turn();
