@@ -7230,9 +7230,25 @@ Free: %5</translation>
         <source></source>
         <translation>%1 of memory (%2 taken)</translation>
     </message>
+    <message id="tray_cpu">
+        <source></source>
+        <translation>CPU %1</translation>
+    </message>
+    <message id="tray_busy">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="setting_title_TRAY_ICON">
+        <source></source>
+        <translation>Icon in the tray</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>Machine's history from the start</translation>
+    </message>
+    <message id="setting_TRAY_ICON">
+        <source></source>
+        <translation>Show an icon with a small graph of the processors in the desktop's tray; its tip and its menu have the busiest three processes. While it is there the program goes on when its last window is closed.</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

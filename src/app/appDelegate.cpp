@@ -14,6 +14,7 @@
 #include "animated_view/QuintessentialWindows.h"
 #include "animated_view/flowcontrolfsm.h"
 #include "app/SplashScreen.h"
+#include "app/TrayIcon.h"
 #include "channel/DaemonCommunication.h"
 #include "consolidator/PI_Consolidator.h"
 #include "fleet_window/FleetWindow.h"
@@ -135,6 +136,8 @@ void vqAppDelegate::applicationDidFinishLaunching() {
 
 void vqAppDelegate::OpenFirstWindows() {
   if (ReadSwitch("MACHINE_HISTORY_ALWAYS")) MachineRecorder::Running();
+  if (ReadSwitch("TRAY_ICON"))
+    mTrayIcon = std::make_unique<TrayIcon>(*this, [this](std::int32_t pid) { ShowInTable(pid); });
   if (MachineWindow::WasOpen()) doShowMachineWindow();
   if (AlertsWindow::WasOpen()) doShowAlerts();
   InitializeProcessWatchdog(ReadInt("DEFAULT_WATCHDOG_INTERVAL"), mFollowingWindows, *this);
@@ -164,6 +167,7 @@ void vqAppDelegate::applicationWillTerminate() {
   if (!std::exchange(mIsRunning, false)) return;
   SetWayBack(nullptr);
   mFirstLook.reset();
+  mTrayIcon.reset();
   vqPreferencesUI::closeIfOpen();
   mDetailsWindows.CloseAll();
   if (mLaunch == Launch::kUsual) KeepArrangement();
@@ -389,6 +393,7 @@ bool vqAppDelegate::isLastWindow(const QWidget& window) const {
 bool vqAppDelegate::IsAnythingVisibleBut(const QWidget* window) const {
   // Between window and overlay there is neither.
   if (gFCFSMMgr != nullptr && gFCFSMMgr->IsBusy()) return true;
+  if (mTrayIcon != nullptr && mTrayIcon->IsSeen()) return true;
   return fQuintessentialWindows->IsAnyVisible() || IsWidgetVisibleBut(window);
 }
 

@@ -14,6 +14,8 @@
 
 namespace lurkwell {
 
+class TrayIcon;
+
 /// Starts the program's parts in their order and ends them in theirs, and serves the commands that
 /// concern the application as a whole. One per process; main thread only.
 class vqAppDelegate final : public QObject, public ApplicationCommands, public StartUpWindows {
@@ -96,6 +98,8 @@ class vqAppDelegate final : public QObject, public ApplicationCommands, public S
   bool IsWidgetVisibleBut(const QWidget* window) const;
 
   Launch mLaunch;
+  /// Null where nobody wants one.
+  std::unique_ptr<TrayIcon> mTrayIcon;
   bool mIsRunning = false;
   bool mHasLaunched = false;
   bool mIsQuitting = false;

@@ -242,6 +242,7 @@ inline constexpr Setting kRows[] = {
     Record("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0),
 
     Switch("MACHINE_HISTORY_ALWAYS", false, kNextStart),
+    Switch("TRAY_ICON", false, kNextStart),
     Record("MACHINE_WINDOW_FRAME", kAbsent),
     Record("MACHINE_WINDOW_MINUTES", 5, kNewWindows),
     Record("DEFAULT_SHOW_MACHINE_WINDOW", 0),

@@ -4,17 +4,21 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDialog>
+#include <QImage>
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
+#include <vector>
 
 #include "alerts_window/AlertsWindow.h"
 #include "animated_view/FlowControlFSMMgr.h"
 #include "app/SplashScreen.h"
+#include "app/TrayIcon.h"
 #include "app/WindowMode.h"
 #include "app/appDelegate.h"
 #include "channel/DaemonCommunication.h"
@@ -32,6 +36,7 @@
 #include "resources/Resources.h"
 #include "support/RecordingClient.h"
 #include "support/TemporaryFolder.h"
+#include "windows/FigureHistory.h"
 
 namespace lurkwell {
 namespace {
@@ -323,6 +328,39 @@ TEST_F(ShellTest, AWindowClosedByHandStaysClosedUnlessNothingElseWouldBeSeen) {
   Pass(2000);
   EXPECT_TRUE(MainWindowIsVisible()) << "nor one whose last window went with its process";
   delegate->applicationWillTerminate();
+}
+
+TEST_F(ShellTest, TheTraysBarsStandOnPixelsAtEverySize) {
+  const std::vector<float> shares{1.0F, 0.5F, FigureHistory::kMissing, 0.0F, 2.0F, 1.0F};
+  for (const int size : {16, 22, 24, 33, 44, 72}) {
+    const auto picture = TrayPicture(shares, size);
+    ASSERT_EQ(picture.size(), QSize(size, size));
+    std::map<QRgb, int> colours;
+    std::vector<int> heights;
+    for (int x = 0; x < size; ++x) {
+      int height = 0;
+      for (int y = 0; y < size; ++y) {
+        ++colours[picture.pixel(x, y)];
+        height += picture.pixel(x, y) == picture.pixel(size - 1, size - 1) ? 1 : 0;
+      }
+      heights.push_back(height);
+    }
+    EXPECT_EQ(colours.size(), 2U) << "no edge between two pixels, at " << size;
+    EXPECT_EQ(heights.back(), size);
+    EXPECT_EQ(heights.front(), 0) << "no moment yet";
+    const auto middle = [&](int bar) {
+      return heights[static_cast<std::size_t>((2 * bar + 1) * size / 32)];
+    };
+    EXPECT_EQ((std::vector{middle(10), middle(12), middle(13), middle(14)}),
+              (std::vector{size, 0, 0, size}));
+    EXPECT_NEAR(middle(11), size / 2.0, 0.51);
+  }
+  BusyProcess busy[2];
+  busy[0].SetName("make & co");
+  busy[0].share = 0.25F;
+  busy[1].SetName("<b>bold</b>");
+  EXPECT_EQ(TrayTip(0.5F, busy),
+            QString::fromUtf8("CPU 50.0 %\nmake & co: 25.0 %\n‹b>bold‹/b>: 0.0 %"));
 }
 
 TEST_F(ShellTest, WithoutAToolItEndsBeforeTheHelperStarts) {
