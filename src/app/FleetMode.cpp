@@ -12,10 +12,13 @@
 #include "app/WindowMode.h"
 #include "fleet/FleetAddress.h"
 #include "fleet_window/FleetWindow.h"
+#include "main_window/HelpWindow.h"
+#include "platform/Bundle.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
 #include "resources/Resources.h"
+#include "windows/HelpKey.h"
 
 namespace lurkwell {
 namespace {
@@ -111,6 +114,12 @@ int RunFleetMode(const CommandLine& commandLine, const FleetChoice& choice) {
   FleetEnd end(commandLine.screenshot.has_value());
   qApp->installEventFilter(&end);
   auto& window = FleetWindow::Open(choice.address, choice.credentials);
+  SetHelp([shown = QPointer<FleetWindow>(&window)](HelpSection section) {
+    const auto page = QString::fromStdString(
+        TheMachine().bundle.Path() + "/Contents/Resources/Documentation/Documentation.html");
+    if (shown != nullptr && !ShowHelp(page, QLatin1String(AnchorOf(section)), *shown))
+      Diagnose("cannot read '%s'", page.toUtf8().constData());
+  });
   std::unique_ptr<FleetPhotographer> photographer;
   if (commandLine.screenshot)
     photographer = std::make_unique<FleetPhotographer>(window, *commandLine.screenshot);
@@ -119,6 +128,7 @@ int RunFleetMode(const CommandLine& commandLine, const FleetChoice& choice) {
   photographer.reset();
   qApp->removeEventFilter(&end);
   FleetWindow::CloseAll();
+  SetHelp(nullptr);
   return status;
 }
 

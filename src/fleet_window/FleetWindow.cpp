@@ -25,6 +25,7 @@
 #include "resources/Resources.h"
 #include "windows/CheckedButtons.h"
 #include "windows/FrontmostWindow.h"
+#include "windows/HelpKey.h"
 #include "windows/QueryErrorWords.h"
 
 namespace lurkwell {
@@ -74,6 +75,7 @@ void FleetWindow::CloseAll() {
 FleetWindow::FleetWindow(const QUrl& address) : mSession(address) {
   setWindowTitle(LocalizedString("fleet_title").arg(address.authority()));
   WatchWindowOrder(*this);
+  AddHelpKey(*this, HelpSection::kFleet);
   mPatience.setSingleShot(true);
   mPatience.setInterval(kPatienceInMilliseconds);
   connect(&mPatience, &QTimer::timeout, this, &FleetWindow::Ask);

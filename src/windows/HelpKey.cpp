@@ -9,7 +9,7 @@ namespace lurkwell {
 namespace {
 
 constexpr std::array<const char*, static_cast<std::size_t>(HelpSection::kCount)> kAnchors = {
-    "details", "histories", "logs", "machine", "alerts", "animated", "preferences"};
+    "details", "histories", "logs", "machine", "alerts", "fleet", "animated", "preferences"};
 
 std::function<void(HelpSection)> gShowHelp;
 

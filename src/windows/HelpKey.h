@@ -15,6 +15,7 @@ enum class HelpSection : std::uint8_t {
   kLogs,
   kMachine,
   kAlerts,
+  kFleet,
   kAnimatedView,
   kPreferences,
   kCount,
