@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QProcess>
 #include <algorithm>
 #include <cstdlib>
 #include <variant>
@@ -262,9 +263,10 @@ void vqAppDelegate::OpenRecording(const QString& path) {
   const auto opened = Recording::Open(file);
   if (const auto* words = std::get_if<std::string>(&opened))
     return Complain("replay_failed", *words);
-  const auto program = QFile::encodeName(QCoreApplication::applicationFilePath()).toStdString();
-  if (!TheMachine().tools.StartInBackground({program, "--replay", file}))
-    Complain("replay_failed", program);
+  // With this program's environment, which has the display.
+  const auto program = QCoreApplication::applicationFilePath();
+  if (!QProcess::startDetached(program, {QStringLiteral("--replay"), path}))
+    Complain("replay_failed", QFile::encodeName(program).toStdString());
 }
 
 void vqAppDelegate::Complain(const char* title, const std::string& words) {

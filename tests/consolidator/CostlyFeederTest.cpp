@@ -59,10 +59,10 @@ TEST_F(CostlyFeederTest, WhatIsInSightIsMarkedAndTheClientsOfOtherTurnsAreAskedT
   Add("quick", 1000).Needs({"pid_descriptors"}).OfPids({302});
   machine.runLoop.RunFor(2500);
   std::string asked;
-  for (const auto& [process, sources, isInSight] : machine.costlyFigures.wishes)
-    if (process.pid >= 300)
-      asked += std::to_string(process.pid) + ' ' + std::to_string(sources >> 16) +
-               (isInSight ? "! " : " ");
+  for (const auto& wish : machine.costlyFigures.wishes)
+    if (wish.process.pid >= 300)
+      asked += std::to_string(wish.process.pid) + ' ' + std::to_string(wish.sources >> 16) +
+               (wish.isInSight ? "! " : " ");
   EXPECT_EQ(asked, "300 1 301 1! 302 3 ");
 }
 
