@@ -133,6 +133,11 @@ TEST(DesktopWindows, KnowsProgramsThatDoNotSayWhoTheyAre) {
   const auto psn = desktop.Await(xterm.Pid());
   EXPECT_EQ(desktop.NameOf(psn), "Terminal");
   EXPECT_TRUE(desktop.manager->Quit(psn));
+  // A terminal that has only just shown its window does not listen to its first messages.
+  EXPECT_TRUE(ComesTrue([&] {
+    desktop.Walk();
+    return !desktop.manager->Quit(psn);
+  }));
   EXPECT_TRUE(xterm.Ends());
 }
 
