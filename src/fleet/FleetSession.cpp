@@ -126,8 +126,8 @@ void FleetSession::AskHistory(const QString& row, std::vector<FleetFigure> figur
   const PrometheusRange range{end - static_cast<double>(span) / 1000, end, step};
   mHistoryRequest = mClient.AskRange(query, range, {kFigureLabel},
                                      [this, asked, end](PrometheusClient::Outcome outcome) {
-        TakeHistory(std::move(outcome), asked, end);
-      });
+                                       TakeHistory(std::move(outcome), asked, end);
+                                     });
   Q_EMIT historyChanged();
 }
 

@@ -6,11 +6,11 @@
 #include <optional>
 #include <span>
 
-#include "windows/NameList.h"
 #include "preferences/PreferenceArrays.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/NameList.h"
 
 namespace lurkwell {
 namespace {

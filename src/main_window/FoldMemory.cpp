@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <utility>
 
-#include "windows/NameList.h"
 #include "preferences/Settings.h"
+#include "windows/NameList.h"
 
 namespace lurkwell {
 namespace {
