@@ -127,7 +127,7 @@ AlertsWindow::AlertsWindow(AlertCentre& centre, AlertsWindowCommands commands)
   connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, mAdd, &QPushButton::click);
   AddHelpKey(*this, HelpSection::kAlerts);
   setMinimumSize(kLeastAlertsSize);
-  RestoreFrame();
+  RestoreFrame(kAlertsFrameKey, kFirstAlertsSize);
   mCentre.AddListener(this);
   ShowRules();
   ShowOccurrences();
@@ -218,18 +218,8 @@ QWidget* AlertsWindow::BuildOccurrencesPart() {
   return part;
 }
 
-void AlertsWindow::RestoreFrame() {
-  const auto [frame, isMaximised] = ReadWindowFrame(kAlertsFrameKey);
-  if (!frame.isValid()) return resize(FitOnScreens(kFirstAlertsSize));
-  const auto place = FitOnScreens(frame);
-  resize(place.size());
-  move(place.topLeft());
-  if (isMaximised) setWindowState(Qt::WindowMaximized);
-}
-
 void AlertsWindow::Remember() {
-  WriteWindowFrame(kAlertsFrameKey, isMaximized() ? normalGeometry() : QRect(pos(), size()),
-                   isMaximized());
+  RememberFrame(kAlertsFrameKey);
   StoreInt(kAlertsOpenKey, 1);
 }
 

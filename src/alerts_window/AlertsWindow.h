@@ -60,7 +60,6 @@ class AlertsWindow final : public ControlledWindow, public AlertListener {
   void BuildOccurrences();
   QWidget* BuildRulesPart();
   QWidget* BuildOccurrencesPart();
-  void RestoreFrame();
 
   void ShowRules();
   void ShowRule(int row);

@@ -103,7 +103,7 @@ FleetWindow::FleetWindow(const QUrl& address) : mSession(address) {
   layout->addWidget(mStatus);
   BuildKeys();
   setMinimumSize(kLeastSize);
-  RestoreFrame();
+  RestoreFrame(kFrameKey, kFirstSize);
   connect(&mSession, &FleetSession::changed, this, &FleetWindow::Look);
   const int seconds = StoredInt(kSecondsKey).value_or(30);
   SetSeconds(std::ranges::find(kSecondsToChoose, seconds) != std::end(kSecondsToChoose) ? seconds
@@ -393,18 +393,8 @@ void FleetWindow::SignIn() {
 
 // ---- The window ---------------------------------------------------------------------------------
 
-void FleetWindow::RestoreFrame() {
-  const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
-  if (!frame.isValid()) return resize(FitOnScreens(kFirstSize));
-  const auto place = FitOnScreens(frame);
-  resize(place.size());
-  move(place.topLeft());
-  if (isMaximised) setWindowState(Qt::WindowMaximized);
-}
-
 void FleetWindow::Remember() {
-  WriteWindowFrame(kFrameKey, isMaximized() ? normalGeometry() : QRect(pos(), size()),
-                   isMaximized());
+  RememberFrame(kFrameKey);
 }
 
 void FleetWindow::closeEvent(QCloseEvent* event) {

@@ -85,7 +85,6 @@ class FleetWindow final : public ControlledWindow {
   void OpenShell();
   void SignIn();
   void SetSeconds(int seconds);
-  void RestoreFrame();
   void Remember();
 
   FleetSession mSession;

@@ -91,7 +91,7 @@ MachineWindow::MachineWindow(ShowProcess showProcess)
   layout->addLayout(middle, 1);
   connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &MachineWindow::GoBack);
   setMinimumSize(kLeastSize);
-  RestoreFrame();
+  RestoreFrame(kFrameKey, kFirstSize);
   Arrange();
   const int minutes = StoredInt(kMinutesKey).value_or(kUsualMinutes);
   SetSpan(std::ranges::find(kSpansInMinutes, minutes) != std::end(kSpansInMinutes) ? minutes
@@ -232,18 +232,8 @@ QWidget* MachineWindow::BuildSide() {
   return side;
 }
 
-void MachineWindow::RestoreFrame() {
-  const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
-  if (!frame.isValid()) return resize(FitOnScreens(kFirstSize));
-  const auto place = FitOnScreens(frame);
-  resize(place.size());
-  move(place.topLeft());
-  if (isMaximised) setWindowState(Qt::WindowMaximized);
-}
-
 void MachineWindow::Remember() {
-  WriteWindowFrame(kFrameKey, isMaximized() ? normalGeometry() : QRect(pos(), size()),
-                   isMaximized());
+  RememberFrame(kFrameKey);
   StoreInt(kIsOpenKey, 1);
 }
 

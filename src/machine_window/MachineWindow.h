@@ -68,7 +68,6 @@ class MachineWindow final : public ControlledWindow {
   QWidget* BuildTop();
   TimeGraph* AddGraph(const char* title, GraphUnit unit, const char* whyEmpty);
   QWidget* AddDeviceGraph(DeviceGraph& devices, const char* title, const char* whyEmpty);
-  void RestoreFrame();
 
   void LookWhetherSeen();
   void MomentHasCome();

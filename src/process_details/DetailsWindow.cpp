@@ -59,7 +59,9 @@ DetailsWindow::DetailsWindow(ProcessIdentity process, FillProcessMenu fillMenu)
   layout->addWidget(mStatus);
   AddKeys();
   ShowNames();
-  RestoreFrame();
+  const auto metrics = fontMetrics();
+  RestoreFrame(kDetailsFrameKey,
+               QSize(metrics.averageCharWidth() * 130, metrics.lineSpacing() * 46));
   AddProcessInformationClient(mClient);
   const int last = ReadInt(kDetailsPageKey);
   mPages->setCurrentIndex(std::clamp(last, 0, mPages->count() - 1));
@@ -201,21 +203,8 @@ void DetailsWindow::processHasEnded() {
 
 // ---- Life ---------------------------------------------------------------------------------------
 
-void DetailsWindow::RestoreFrame() {
-  const auto metrics = fontMetrics();
-  const auto [frame, isMaximised] = ReadWindowFrame(kDetailsFrameKey);
-  if (!frame.isValid())
-    return resize(
-        FitOnScreens(QSize(metrics.averageCharWidth() * 130, metrics.lineSpacing() * 46)));
-  const auto place = FitOnScreens(frame);
-  resize(place.size());
-  move(place.topLeft());
-  if (isMaximised) setWindowState(Qt::WindowMaximized);
-}
-
 void DetailsWindow::SaveFrame() {
-  const bool fills = isMaximized() || isFullScreen();
-  WriteWindowFrame(kDetailsFrameKey, fills ? normalGeometry() : QRect(pos(), size()), fills);
+  RememberFrame(kDetailsFrameKey);
 }
 
 void DetailsWindow::closeEvent(QCloseEvent* event) {

@@ -59,7 +59,6 @@ class DetailsWindow final : public ControlledWindow, private DetailsViewer {
   void StepPage(int by);
   void LookWhatIsSeen();
   void ShowNames();
-  void RestoreFrame();
   void Escape();
 
   ProcessIdentity mProcess;

@@ -81,6 +81,20 @@ ControlledWindow::ControlledWindow(QWidget* parent) : QWidget(parent, Qt::Window
   });
 }
 
+void ControlledWindow::RestoreFrame(TextSetting setting, QSize usual) {
+  const auto [frame, isMaximised] = ReadWindowFrame(setting);
+  if (!frame.isValid()) return resize(FitOnScreens(usual));
+  const auto place = FitOnScreens(frame);
+  resize(place.size());
+  move(place.topLeft());
+  if (isMaximised) setWindowState(Qt::WindowMaximized);
+}
+
+void ControlledWindow::RememberFrame(TextSetting setting) const {
+  const bool fills = isMaximized() || isFullScreen();
+  WriteWindowFrame(setting, fills ? normalGeometry() : QRect(pos(), size()), fills);
+}
+
 void ControlledWindow::closeEvent(QCloseEvent* event) {
   event->accept();
   if (const auto tell = std::exchange(willClose, nullptr)) tell();

@@ -43,6 +43,10 @@ class ControlledWindow : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+
+  /// Goes where it was last, as far as there are screens; the first time it has a usual size.
+  void RestoreFrame(TextSetting setting, QSize usual);
+  void RememberFrame(TextSetting setting) const;
 };
 
 }  // namespace lurkwell

@@ -35,10 +35,16 @@ std::unique_ptr<QProcess> Started(const QString& program, const QStringList& arg
   return process;
 }
 
+/// While events go on, as the main thread is watched.
+bool HasEnded(const QProcess& process, double seconds) {
+  return SoonTrue([&] { return process.state() == QProcess::NotRunning; }, seconds);
+}
+
 void End(QProcess& process) {
   process.terminate();
-  if (!process.waitForFinished(10'000)) process.kill();
-  process.waitForFinished(10'000);
+  if (HasEnded(process, 10)) return;
+  process.kill();
+  HasEnded(process, 10);
 }
 
 int FreePort() {
@@ -217,7 +223,7 @@ TEST_F(RealPrometheusTest, ChoosesFrom2000MachinesOnTheServer) {
   promtool.setProcessChannelMode(QProcess::MergedChannels);
   promtool.start(sTools + "/promtool",
                  {"tsdb", "create-blocks-from", "openmetrics", Path("samples"), Path("data")});
-  ASSERT_TRUE(promtool.waitForFinished(120'000));
+  ASSERT_TRUE(HasEnded(promtool, 120));
   ASSERT_EQ(promtool.exitCode(), 0) << promtool.readAll().constData();
   StartServer({});
   auto& window = Open();
