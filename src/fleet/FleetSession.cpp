@@ -78,9 +78,15 @@ void FleetSession::TakeTable(PrometheusClient::Outcome outcome) {
 }
 
 void FleetSession::FillInSeen() {
+  if (mView.level != FleetLevel::kMachines) return;
   for (auto& row : mTable->rows) {
     if (!row.IsDown()) {
-      mSeen.remove(row.name);
+      // Of a machine that is there for seconds alone the server has no answer afterwards.
+      if (const auto now = row.Of(FleetFigure::kSeen); std::isfinite(now)) {
+        mSeen[row.name] = now;
+      } else {
+        mSeen.remove(row.name);
+      }
     } else if (const auto seen = mSeen.constFind(row.name);
                seen != mSeen.cend() && *seen > 0 && !std::isfinite(row.Of(FleetFigure::kSeen))) {
       row.Set(FleetFigure::kSeen, *seen);

@@ -89,7 +89,7 @@ class FleetSession final : public QObject {
   std::optional<FleetTable> mTable;
   std::optional<FleetError> mError;
   bool mIsCurrent = false;
-  /// When machines that are down were seen last; 0 for longer ago than is asked for.
+  /// When machines were seen last; 0 for longer ago than is asked for.
   QHash<QString, double> mSeen;
   std::optional<FleetHistory> mHistory;
   std::optional<FleetError> mHistoryError;
