@@ -15,38 +15,10 @@ import shlex
 import socket
 import subprocess
 import sys
-import tempfile
 import time
 import urllib.request
 
-IDLER = r"""
-#include <stdio.h>
-#include <stdlib.h>
-#include <sys/prctl.h>
-#include <unistd.h>
-int main(int argc, char** argv) {
-  const int count = argc > 1 ? atoi(argv[1]) : 0;
-  for (int i = 0; i < count; ++i) {
-    const pid_t pid = fork();
-    if (pid < 0) return 1;
-    if (pid == 0) {
-      char name[16];
-      snprintf(name, sizeof name, "idler-%02d", i % 50);
-      prctl(PR_SET_NAME, name);
-      prctl(PR_SET_PDEATHSIG, 9);
-      for (;;) pause();
-    }
-  }
-  puts("ready");
-  fflush(stdout);
-  for (;;) pause();
-}
-"""
-
-
-def cpu_seconds(pid):
-    """User and system time of a process with all its threads."""
-    return time.clock_gettime((~pid << 3) | 2)
+from idlers import Idlers, cpu_seconds
 
 
 def free_address():
@@ -102,19 +74,14 @@ def main():
     columns = ("idle processes", "exporter", "CPU ms per scrape", "shortest answer ms",
                "answer KiB", "resident MiB")
     print("| " + " | ".join(columns) + " |\n| ---: | --- |" + " ---: |" * 4, flush=True)
-    with tempfile.TemporaryDirectory() as folder:
-        source = pathlib.Path(folder, "idler.c")
-        source.write_text(IDLER, encoding="ascii")
-        subprocess.run(["cc", "-O1", "-o", folder + "/idler", source], check=True)
+    with Idlers() as idlers:
         for count in options.n.split(","):
-            idlers = subprocess.Popen([folder + "/idler", count], stdout=subprocess.PIPE)
-            if idlers.stdout.readline() != b"ready\n":
-                print(f"| {count} | not that many processes are allowed here |" + " |" * 4)
-            else:
+            with idlers.running(count, 50) as are_there:
+                if not are_there:
+                    print(f"| {count} | not that many processes are allowed here |" + " |" * 4)
+                    continue
                 for exporter in options.exporters:
                     measure(*exporter.split("=", 1), count, options)
-            idlers.kill()
-            idlers.wait()
 
 
 if __name__ == "__main__":

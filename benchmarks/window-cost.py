@@ -23,64 +23,12 @@ import sys
 import tempfile
 import time
 
+from idlers import Idlers, cpu_seconds
+
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "app"))
 from window_ping import WindowPing  # pylint: disable=wrong-import-position
 
 MARK = "LURKWELL_WINDOW_COST"
-IDLER = r"""
-#include <dirent.h>
-#include <fcntl.h>
-#include <stdio.h>
-#include <stdlib.h>
-#include <string.h>
-#include <sys/prctl.h>
-#include <time.h>
-#include <unistd.h>
-/* The processor time of a pass over all stat files, in milliseconds. */
-static double floor_of_a_pass(void) {
-  enum { kPasses = 10 };
-  DIR* const folder = opendir("/proc");
-  for (int pass = 0; pass < kPasses; ++pass) {
-    rewinddir(folder);
-    for (struct dirent* entry; (entry = readdir(folder)) != NULL;) {
-      if (entry->d_name[0] < '1' || entry->d_name[0] > '9') continue;
-      char text[4096];
-      snprintf(text, sizeof text, "%s/stat", entry->d_name);
-      const int file = openat(dirfd(folder), text, O_RDONLY);
-      if (file >= 0 && read(file, text, sizeof text) >= 0) close(file);
-    }
-  }
-  struct timespec used;
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
-  return ((double)used.tv_sec * 1e3 + (double)used.tv_nsec / 1e6) / kPasses;
-}
-int main(int argc, char** argv) {
-  if (argc > 1 && strcmp(argv[1], "floor") == 0) return printf("%.3f\n", floor_of_a_pass()) < 0;
-  const int count = argc > 1 ? atoi(argv[1]) : 0;
-  for (int i = 0; i < count; ++i) {
-    const pid_t pid = fork();
-    if (pid < 0) return 1;
-    if (pid == 0) {
-      char name[16];
-      snprintf(name, sizeof name, "idler-%05d", i);
-      prctl(PR_SET_NAME, name);
-      prctl(PR_SET_PDEATHSIG, 9);
-      for (;;) pause();
-    }
-  }
-  puts("ready");
-  fflush(stdout);
-  for (;;) pause();
-}
-"""
-
-
-def cpu_seconds(pid):
-    """User and system time of a process with all its threads; 0 when it is gone."""
-    try:
-        return time.clock_gettime((~pid << 3) | 2)
-    except OSError:
-        return 0.0
 
 
 def processes():
@@ -231,23 +179,17 @@ def main():
     columns = ("idle processes", "program", "state", "CPU ms per update", "application", "helper",
                "X server", "bare stat pass ms", "× that", "longest silence ms", "start-up s")
     print("| " + " | ".join(columns) + " |\n| ---: | --- | --- |" + " ---: |" * 8, flush=True)
-    with tempfile.TemporaryDirectory() as folder:
-        source = pathlib.Path(folder, "idler.c")
-        source.write_text(IDLER)
-        subprocess.run(["cc", "-O1", "-o", folder + "/idler", source], check=True)
+    with Idlers() as idlers:
         for count in options.n.split(","):
-            idlers = subprocess.Popen([folder + "/idler", count], stdout=subprocess.PIPE)
-            if idlers.stdout.readline() != b"ready\n":
-                print(f"| {count} | not that many processes are allowed here |" + " |" * 9)
-            else:
-                floor = float(subprocess.run([folder + "/idler", "floor"], check=True,
-                                             stdout=subprocess.PIPE).stdout)
+            with idlers.running(count) as are_there:
+                if not are_there:
+                    print(f"| {count} | not that many processes are allowed here |" + " |" * 9)
+                    continue
+                floor = idlers.bare_pass()
                 for monitor in options.monitors:
                     name, command = monitor.split("=", 1)
                     for state in options.state.split(","):
                         measure(name, command, count, state, floor, options)
-            idlers.kill()
-            idlers.wait()
 
 
 if __name__ == "__main__":
