@@ -247,7 +247,7 @@ class RecordedDesktopMachine : public RecordedMachine {
  private:
   UnstoredPreferences stored;
   RecordedMachinePreferences preferences{stored};
-  /// For other instances; ps is left out.
+  /// The start looks whether the system's are there; ps is left out.
   LinuxTools tools;
   DesktopAlerts alerts;
   DesktopScreen screen{DesktopSettings::FromEnvironment()};
