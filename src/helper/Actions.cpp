@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::string_view kDone = "ok";
 constexpr std::string_view kNotPermitted = "!Error not permitted\n";
-constexpr std::string_view kNoSuchProcess = "!Error no such process\n";
 constexpr std::string_view kOtherProcess = "!Error another process has this pid\n";
 constexpr std::string_view kRefused = "!Error refused by the system\n";
 constexpr std::string_view kDenied = "!Error this takes an administrator's rights\n";
@@ -41,6 +40,7 @@ bool IsRefused(const Surroundings& surroundings, const ActionRequest& request) {
 std::string_view AnswerTo(int result) {
   if (result >= 0) return kDone;
   if (result == -ESRCH) return kNoSuchProcess;
+  if (result == -ESTALE) return kOtherProcess;
   return result == -EPERM || result == -EACCES ? kDenied : kRefused;
 }
 

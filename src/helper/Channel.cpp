@@ -30,16 +30,12 @@ int OpenPipe(const char* path, int flags, uid_t user) {
   return -1;
 }
 
-ssize_t ReadRequest(int pipe) {
-  return read(pipe, gRequest, sizeof gRequest);
-}
-
 /// Throws away what is left of a request that was too long. Its writer may still be at it, so the
 /// pipe has to have been quiet for a moment.
 void Drain(int pipe) {
   constexpr timespec kQuiet{0, 20000000};
   pollfd waiting{pipe, POLLIN, 0};
-  while (ppoll(&waiting, 1, &kQuiet, nullptr) > 0 && ReadRequest(pipe) > 0) {
+  while (ppoll(&waiting, 1, &kQuiet, nullptr) > 0 && read(pipe, gRequest, sizeof gRequest) > 0) {
   }
 }
 
@@ -50,31 +46,29 @@ bool OpenChannel(const char* requests, const char* answers, uid_t user, Channel&
   channel.requests = OpenPipe(requests, O_RDONLY, user);
   if (channel.requests < 0) return false;
   channel.answers = OpenPipe(answers, O_WRONLY, user);
-  if (channel.answers < 0 || ReadRequest(channel.requests) <= 0) return false;
+  if (channel.answers < 0 || read(channel.requests, gRequest, sizeof gRequest) <= 0) return false;
   alarm(0);
   return true;
 }
 
 /// The application locks its end.
 pid_t FindPeer(int pipe) {
-  struct flock lock {
-    F_WRLCK, SEEK_SET, 0, 0, 0
-  };
+  flock lock{F_WRLCK, SEEK_SET, 0, 0, 0};
   return fcntl(pipe, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK && lock.l_pid > 0 ? lock.l_pid
                                                                                       : -1;
 }
 
 void Serve(const Channel& channel, Session& session) {
-  if (write(channel.answers, kGreeting.data(), kGreeting.size()) < 0) return;
-  for (;;) {
-    const ssize_t size = ReadRequest(channel.requests);
+  for (std::string_view answer = kGreeting;
+       write(channel.answers, answer.data(), answer.size()) >= 0;) {
+    const ssize_t size = read(channel.requests, gRequest, sizeof gRequest);
     if (size <= 0) return;
-    std::string_view answer = kTooLong;
-    if (static_cast<std::size_t>(size) < sizeof gRequest)
+    if (static_cast<std::size_t>(size) < sizeof gRequest) {
       answer = session.Answer({gRequest, static_cast<std::size_t>(size)});
-    else
+    } else {
       Drain(channel.requests);
-    if (write(channel.answers, answer.data(), answer.size()) < 0) return;
+      answer = kTooLong;
+    }
   }
 }
 

@@ -37,14 +37,18 @@ constexpr unsigned long kLockedBits =
     SECBIT_NOROOT | SECBIT_NOROOT_LOCKED | SECBIT_NO_SETUID_FIXUP | SECBIT_NO_SETUID_FIXUP_LOCKED |
     SECBIT_KEEP_CAPS_LOCKED | SECBIT_NO_CAP_AMBIENT_RAISE | SECBIT_NO_CAP_AMBIENT_RAISE_LOCKED;
 
-/// What is not in the process already cannot be kept.
-bool KeepCapabilities(std::uint32_t kept) {
+/// Of the two capabilities, those that the process may have.
+std::uint32_t PermittedCapabilities() {
   __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
   __user_cap_data_struct data[2] = {};
-  if (syscall(SYS_capget, &header, data) != 0) return false;
-  kept &= data[0].permitted;
-  data[0] = {kept, kept, 0};
-  data[1] = {0, 0, 0};
+  return syscall(SYS_capget, &header, data) == 0 ? data[0].permitted & kKeptCapabilities : 0;
+}
+
+/// What is not in the process already cannot be kept.
+bool KeepCapabilities(bool privileged) {
+  const std::uint32_t kept = privileged ? PermittedCapabilities() : 0;
+  __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+  const __user_cap_data_struct data[2] = {{kept, kept, 0}, {0, 0, 0}};
   return syscall(SYS_capset, &header, data) == 0;
 }
 
@@ -59,17 +63,6 @@ bool ShrinkBoundingSet(bool privileged) {
   return true;
 }
 
-/// How /proc shows the processes of others; where it hides them, it shows the user's own only to
-/// who may trace them, which a process with restricted files may not.
-enum class View { kAll, kOwn, kUnknown };
-View ViewOfProcesses() {
-  const int file = open("/proc/1/stat", O_RDONLY | O_CLOEXEC);
-  if (file < 0)
-    return errno == ENOENT || errno == EPERM || errno == EACCES ? View::kOwn : View::kUnknown;
-  close(file);
-  return View::kAll;
-}
-
 bool RestrictFiles() {
   constexpr std::uint64_t kRead = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
   // All rights of the kernel's version: 13 in the first, one more in the second, third and fifth.
@@ -77,8 +70,11 @@ bool RestrictFiles() {
   const long version =
       syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
   if (version < 1) return version < 0 && (errno == ENOSYS || errno == EOPNOTSUPP);
-  const View view = ViewOfProcesses();
-  if (view != View::kAll) return view == View::kOwn;
+  // Where /proc hides the processes of others, it shows the user's own only to who may trace them,
+  // which a process with restricted files may not.
+  const int process = open("/proc/1/stat", O_RDONLY | O_CLOEXEC);
+  if (process < 0) return errno == ENOENT || errno == EPERM || errno == EACCES;
+  close(process);
   landlock_ruleset_attr attributes{};
   attributes.handled_access_fs = (1ull << kRights[version < 5 ? version : 5]) - 1;
   const long rules = syscall(SYS_landlock_create_ruleset, &attributes, sizeof attributes, 0);
@@ -161,16 +157,18 @@ bool RestrictCalls() {
 }  // namespace
 
 bool Become(const Identity& identity) {
-  if (!ShrinkBoundingSet(identity.privileged)) return false;
-  if (identity.privileged && prctl(PR_SET_SECUREBITS, kLockedBits, 0, 0, 0) != 0) return false;
-  if (identity.privileged && getuid() == 0 && setgroups(0, nullptr) != 0) return false;
-  if (setresgid(identity.group, identity.group, identity.group) != 0 ||
-      setresuid(identity.user, identity.user, identity.user) != 0)
-    return false;
-  if (prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0) != 0) return false;
-  // The change of user may have made the process traceable again.
-  return KeepCapabilities(identity.privileged ? kKeptCapabilities : 0) &&
-         prctl(PR_SET_DUMPABLE, 0) == 0;
+  const auto& [user, group, privileged] = identity;
+  // The change of user may make the process traceable again.
+  return ShrinkBoundingSet(privileged) &&
+         (!privileged || prctl(PR_SET_SECUREBITS, kLockedBits, 0, 0, 0) == 0) &&
+         (!privileged || getuid() != 0 || setgroups(0, nullptr) == 0) &&
+         setresgid(group, group, group) == 0 && setresuid(user, user, user) == 0 &&
+         prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0) == 0 &&
+         KeepCapabilities(privileged) && prctl(PR_SET_DUMPABLE, 0) == 0;
+}
+
+bool HasBothRights() {
+  return PermittedCapabilities() == kKeptCapabilities;
 }
 
 bool Confine() {

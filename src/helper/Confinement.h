@@ -12,6 +12,10 @@ struct Identity {
   bool privileged = false;
 };
 
+/// Whether the process may have the right to signal and the right to renice, which containers may
+/// keep even from root.
+bool HasBothRights();
+
 /// Becomes `identity` for good, with no other capability than those two. False when the kernel does
 /// not allow it; the process is of no use then and has to end.
 bool Become(const Identity& identity);

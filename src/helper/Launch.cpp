@@ -25,17 +25,15 @@ bool TakePath(const char* argument, char* path) {
   return true;
 }
 
-/// The user id that `variable`, written as NAME=, has in the environment.
-bool FindUser(std::string_view variable, uid_t& user) {
+/// The user id that `variable`, written as NAME=, has in the environment, or `otherwise`.
+uid_t UserIn(std::string_view variable, uid_t otherwise) {
   for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
     std::string_view text(*entry);
     std::int32_t number = 0;
-    if (!TakePrefix(text, variable) || !TakeNumber(text, INT32_MAX, number) || !text.empty())
-      continue;
-    user = static_cast<uid_t>(number);
-    return true;
+    if (TakePrefix(text, variable) && TakeNumber(text, INT32_MAX, number) && text.empty())
+      return static_cast<uid_t>(number);
   }
-  return false;
+  return otherwise;
 }
 
 bool ResetDescriptors(Output output) {
@@ -78,7 +76,7 @@ bool TakeArguments(int argc, char** argv, Arguments& arguments) {
 
 uid_t TakeAskingUser() {
   uid_t user = getuid();
-  if (user == 0 && !FindUser("PKEXEC_UID=", user)) FindUser("SUDO_UID=", user);
+  if (user == 0) user = UserIn("PKEXEC_UID=", UserIn("SUDO_UID=", user));
   environ = nullptr;
   return user;
 }

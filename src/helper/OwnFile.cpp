@@ -44,8 +44,7 @@ void Digest::AddBlock() {
     words[i] = words[i - 16] + (std::rotr(early, 7) ^ std::rotr(early, 18) ^ early >> 3) +
                words[i - 7] + (std::rotr(late, 17) ^ std::rotr(late, 19) ^ late >> 10);
   }
-  std::uint32_t s[8];
-  for (unsigned i = 0; i < 8; ++i) s[i] = mState[i];
+  auto s = std::to_array(mState);
   for (unsigned i = 0; i < 64; ++i) {
     const std::uint32_t first = s[7] +
                                 (std::rotr(s[4], 6) ^ std::rotr(s[4], 11) ^ std::rotr(s[4], 25)) +
@@ -120,10 +119,8 @@ int OpenChecked(int folder, const char* name, int flags, uid_t user,
   if (handle < 0) return -1;
   struct stat info;
   int file = -1;
-  if (fstat(handle, &info) == 0 && accepts(info, user)) {
-    PathWriter path("/proc/self/fd/", handle);
-    file = open(path.Terminated(), flags | O_CLOEXEC | O_NOCTTY);
-  }
+  if (fstat(handle, &info) == 0 && accepts(info, user))
+    file = open(PathWriter("/proc/self/fd/", handle).Terminated(), flags | O_CLOEXEC | O_NOCTTY);
   close(handle);
   return file;
 }
@@ -152,19 +149,22 @@ bool MayServe(uid_t user) {
 #ifdef LURKWELL_PACKAGED
 namespace {
 
-/// Looks for `line`, a digest with its newline, in a list: alone it may serve, behind "- " it is
-/// withdrawn, whatever else is listed. False when there is no such list of root's.
-bool LookUp(const char* path, std::string_view line, Version& version) {
+/// Looks for `digest` in a list: alone on a line it may serve, and any other line that has it
+/// withdraws it, however it is spelled. False when there is no such list of root's.
+bool LookUp(const char* path, std::string_view digest, Version& version) {
   static char list[65536];
   const int file = OpenChecked(AT_FDCWD, path, O_RDONLY, 0, OwnedByRootAlone);
   if (file < 0) return false;
   const ssize_t size = read(file, list, sizeof list);
   close(file);
   std::string_view rest(list, size > 0 ? static_cast<std::size_t>(size) : 0);
+  for (char& letter : std::span(list, rest.size()))
+    letter |= letter >= 'A' && letter <= 'F' ? 0x20 : 0;
   while (!rest.empty()) {
-    const Version says = TakePrefix(rest, "- ") ? Version::kWithdrawn : Version::kServing;
-    if (rest.starts_with(line)) version = std::max(version, says);
-    rest.remove_prefix(std::min(rest.find('\n'), rest.size() - 1) + 1);
+    const std::string_view line = rest.substr(0, rest.find('\n'));
+    if (line.find(digest) < line.size())
+      version = std::max(version, line == digest ? Version::kServing : Version::kWithdrawn);
+    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
   }
   return true;
 }
@@ -172,10 +172,9 @@ bool LookUp(const char* path, std::string_view line, Version& version) {
 }  // namespace
 
 Version FindVersion(const Digest::Value& digest) {
-  char line[65];
+  char line[64];
   TextWriter writer(line, sizeof line);
   for (const std::uint8_t byte : digest) writer.Add(kHexDigits[byte >> 4], kHexDigits[byte & 15]);
-  writer.Add('\n');
   Version version = Version::kUnknown;
   // Without the package's own list there is no package any more.
   if (LookUp(LURKWELL_DIGEST_LIST, writer.Text(), version))

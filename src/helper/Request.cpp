@@ -49,11 +49,9 @@ bool TakeFiguresLine(std::string_view& text, FiguresLine& line) {
 }
 
 bool AreFiguresLines(std::string_view text) {
-  FiguresLine line;
-  do {
-    if (!TakeFiguresLine(text, line)) return false;
-  } while (!text.empty());
-  return true;
+  for (FiguresLine line; TakeFiguresLine(text, line);)
+    if (text.empty()) return true;
+  return false;
 }
 
 }  // namespace lurkwell::helper

@@ -8,7 +8,6 @@ namespace lurkwell::helper {
 
 namespace {
 constexpr std::string_view kMalformed = "!Error malformed request\n";
-constexpr std::string_view kNobody = "!Error no such process\n";
 }  // namespace
 
 void Session::Begin(const System& system, const Surroundings& surroundings) {
@@ -38,7 +37,7 @@ std::string_view Session::AnswerFigures(std::string_view lines) {
   while (TakeFiguresLine(lines, line) &&
          AddFigures(*mSystem, mSurroundings, mStarts, line, answer)) {
   }
-  return answer.Size() > 0 ? answer.Text() : kNobody;
+  return !answer.Text().empty() ? answer.Text() : kNoSuchProcess;
 }
 
 }  // namespace lurkwell::helper

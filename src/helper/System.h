@@ -12,13 +12,14 @@ struct System {
   /// A descriptor that stands for the process itself, whichever process has its pid later.
   int (*openProcess)(std::int32_t pid);
   int (*signalProcess)(int process, int signal);
-  /// Of all threads of the process.
+  /// Of all threads of the process. -ESTALE: done, but the number of one that ended meanwhile may
+  /// have been another process's by then.
   int (*setNice)(std::int32_t pid, int nice);
   /// One read of a file below /proc; the number of bytes.
   std::ptrdiff_t (*readFile)(const char* path, char* buffer, std::size_t capacity);
   /// What openProcess gave.
-  void (*close)(int process);
-  /// One line for the system log; without effect where there is none.
+  int (*close)(int process);
+  /// One line for the system log, as CarryOut writes it; without effect where there is none.
   void (*log)(std::string_view line);
 };
 
@@ -40,5 +41,9 @@ extern const System kRealSystem;
 
 /// Connects to the system log, for kRealSystem's log; to be called before the confinement.
 void ConnectLog();
+
+/// Says in the system log how many lines it has not taken, if any. kRealSystem's log does that
+/// first; to be called at the end, too.
+void TellLostLines();
 
 }  // namespace lurkwell::helper

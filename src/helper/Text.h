@@ -32,7 +32,6 @@ class TextWriter {
   }
 
   bool Fits() const { return mFits; }
-  std::size_t Size() const { return mSize; }
   std::string_view Text() const { return {mBuffer, mSize}; }
 
  private:
@@ -60,7 +59,7 @@ class PathWriter : public TextWriter {
   }
   /// The path with a NUL behind it, valid until the next Add.
   const char* Terminated() {
-    mPath[Size()] = '\0';
+    mPath[Text().size()] = '\0';
     return mPath;
   }
 
@@ -84,16 +83,14 @@ inline bool IsDigit(char character) {
 /// Removes a plain decimal (digits alone, no leading zero) of at most `limit` from the front of
 /// `text`; false when there is none or it is larger.
 inline bool TakeNumber(std::string_view& text, std::int32_t limit, std::int32_t& number) {
-  if (text.empty() || !IsDigit(text.front())) return false;
-  const bool leadingZero = text.front() == '0';
-  std::int64_t value = 0;
-  std::size_t digits = 0;
-  for (; !text.empty() && IsDigit(text.front()); text.remove_prefix(1), ++digits) {
-    value = value * 10 + (text.front() - '0');
+  std::int64_t value = -1;
+  for (; !text.empty() && IsDigit(text.front()); text.remove_prefix(1)) {
+    if (value == 0) return false;
+    value = (value < 0 ? 0 : value * 10) + (text.front() - '0');
     if (value > limit) return false;
   }
   number = static_cast<std::int32_t>(value);
-  return !leadingZero || digits == 1;
+  return value >= 0;
 }
 
 }  // namespace lurkwell::helper

@@ -23,40 +23,39 @@ namespace {
 constexpr int kExitUsage = 64;
 constexpr int kExitSystem = 71;
 constexpr int kExitChannel = 76;
+constexpr gid_t kNoGroup = 65534;
 
 Session gSession;
 
 /// As whom to serve, and the user id to report: 0 promises the rights to signal and to renice, so
-/// whoever may not have them is told his own. For root, the owner of the pipes tells whether root
-/// itself or `asking` is the one to serve.
+/// whoever does not get both is told his own. Root serves the user who is `asking`; nobody says his
+/// group but the pipe, if it is his.
 Identity TakeIdentity(uid_t asking, const char* pipe, uid_t& reported) {
   Identity identity{getuid(), getgid(), geteuid() == 0};
   if (identity.user != 0 && identity.privileged) identity.privileged = MayServe(identity.user);
-  reported = identity.privileged ? 0 : identity.user;
-  struct stat info;
-  if (identity.user == 0 && asking != 0 && lstat(pipe, &info) == 0 && info.st_uid == asking) {
-    identity.user = asking;
-    identity.group = info.st_gid;
+  if (identity.user == 0 && asking != 0) {
+    struct stat info;
+    const bool isHis = lstat(pipe, &info) == 0 && info.st_uid == asking;
+    identity = {asking, isHis ? info.st_gid : kNoGroup, identity.privileged};
   }
+  reported = identity.privileged && HasBothRights() ? 0 : identity.user;
   return identity;
 }
 
 int Run(const Arguments& arguments, uid_t asking) {
-  Surroundings surroundings;
-  const Identity identity = TakeIdentity(asking, arguments.requests, surroundings.startUser);
+  uid_t reported = 0;
+  const Identity identity = TakeIdentity(asking, arguments.requests, reported);
   ConnectLog();
   Channel channel;
   if (chdir("/") != 0 || !Become(identity)) return kExitSystem;
   if (!OpenChannel(arguments.requests, arguments.answers, identity.user, channel))
     return kExitChannel;
-  surroundings.user = identity.user;
-  surroundings.ownPid = getpid();
-  surroundings.peerPid = FindPeer(channel.requests);
-  surroundings.ticksPerSecond = static_cast<std::uint32_t>(getauxval(AT_CLKTCK));
-  surroundings.pageSize = static_cast<std::uint32_t>(getauxval(AT_PAGESZ));
-  gSession.Begin(kRealSystem, surroundings);
+  gSession.Begin(kRealSystem, {reported, identity.user, getpid(), FindPeer(channel.requests),
+                               static_cast<std::uint32_t>(getauxval(AT_CLKTCK)),
+                               static_cast<std::uint32_t>(getauxval(AT_PAGESZ))});
   if (!Confine()) return kExitSystem;
   Serve(channel, gSession);
+  TellLostLines();
   return 0;
 }
 

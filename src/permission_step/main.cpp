@@ -167,7 +167,7 @@ int SetPermissions(uid_t user) {
   char buffer[160];
   TextWriter line(buffer, sizeof buffer);
   line.Add("Lurkwell_permissions: ", refusal.reason, '\n');
-  const ssize_t written = write(STDERR_FILENO, line.Text().data(), line.Size());
+  const ssize_t written = write(STDERR_FILENO, line.Text().data(), line.Text().size());
   static_cast<void>(written);
   return refusal.status;
 }

@@ -3,10 +3,16 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/mount.h>
+#include <sys/ptrace.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <chrono>
+#include <filesystem>
 #include <memory>
 #include <thread>
 #include <utility>
@@ -54,6 +60,61 @@ TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneReported) {
       if (helper.Act(kill) != "ok") return "at 9";
     }
     return {};
+  });
+  EXPECT_EQ(complaint, "");
+}
+
+/// Lets a traced process go on until it has made that system call.
+bool RunBehind(pid_t pid, std::uint64_t call) {
+  for (int status = 0;;) {
+    __ptrace_syscall_info info{};
+    if (ptrace(PTRACE_SYSCALL, pid, nullptr, nullptr) != 0 || waitpid(pid, &status, 0) != pid ||
+        !WIFSTOPPED(status))
+      return false;
+    const bool entered = ptrace(PTRACE_GET_SYSCALL_INFO, pid, sizeof info, &info) > 0 &&
+                         info.op == PTRACE_SYSCALL_INFO_ENTRY && info.entry.nr == call;
+    if (entered)
+      return ptrace(PTRACE_SYSCALL, pid, nullptr, nullptr) == 0 && waitpid(pid, &status, 0) == pid;
+  }
+}
+
+TEST(CanaryTest, AThreadsNumberThatHasPassedOnIsNoticedByARenice) {
+  const auto complaint = RunInPidNamespace("/proc", "", []() -> std::string {
+    std::array<int, 2> end{};
+    if (pipe(end.data()) != 0) return "at 3";
+    Child owner([&] {
+      close(end[1]);
+      std::thread([from = end[0]] {
+        char nothing = 0;
+        if (read(from, &nothing, 1) < 0) _exit(98);
+      }).detach();
+    });
+    const std::string threads = "/proc/" + std::to_string(owner.Pid()) + "/task";
+    pid_t thread = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(threads))
+      thread = std::max(thread, std::stoi(entry.path().filename()));
+    if (thread == owner.Pid()) return "at 4";
+    HelperProcess helper(0);
+    if (ptrace(PTRACE_SEIZE, helper.Pid(), nullptr, PTRACE_O_TRACESYSGOOD) != 0 ||
+        ptrace(PTRACE_INTERRUPT, helper.Pid(), nullptr, nullptr) != 0 ||
+        waitpid(helper.Pid(), nullptr, 0) != helper.Pid())
+      return "at 5";
+    if (!helper.Send("Lkw Action Request:\nrenice " + std::to_string(owner.Pid()) + " 7"))
+      return "at 6";
+    // It has read which threads there are, and now one of them is no more.
+    if (!RunBehind(helper.Pid(), SYS_getdents64)) return "at 7";
+    close(end[1]);
+    while (std::filesystem::exists(threads + '/' + std::to_string(thread)))
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    // Its number is free a moment later.
+    std::this_thread::sleep_for(std::chrono::milliseconds(25));
+    WriteFile("/proc/sys/kernel/ns_last_pid", std::to_string(thread - 1));
+    const Canary stranger(kStranger);
+    if (stranger.Pid() != thread) return "at 8";
+    ptrace(PTRACE_DETACH, helper.Pid(), nullptr, nullptr);
+    if (helper.Receive() != "!Error another process has this pid\n") return "at 9";
+    if (helper.Act("renice " + std::to_string(owner.Pid()) + " 8") != "ok") return "at 10";
+    return getpriority(PRIO_PROCESS, static_cast<id_t>(owner.Pid())) == 8 ? "" : "at 11";
   });
   EXPECT_EQ(complaint, "");
 }

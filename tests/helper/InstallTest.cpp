@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cctype>
 #include <cstring>
 #include <filesystem>
 #include <thread>
@@ -256,6 +257,11 @@ std::string HexDigest(const std::string& path) {
   return ReadFile(folder / "digest").substr(0, 64);
 }
 
+std::string UpperCase(std::string text) {
+  for (char& letter : text) letter = static_cast<char>(std::toupper(letter));
+  return text;
+}
+
 /// A helper built for a package, whose list lies in a folder that this test has to itself.
 class PackagedTest : public ::testing::Test {
  protected:
@@ -290,7 +296,7 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
   const auto keepsRights = [&] { return EffectiveUser(kUser, home.copy) == "0"; };
   ASSERT_TRUE(keepsRights());
   for (const std::string& list :
-       {std::string(), mOther, own.substr(0, 64), own.substr(1), 'x' + own, mOther + ' ' + own}) {
+       {std::string(), mOther, own.substr(0, 63), own.substr(1), 'x' + own, mOther + ' ' + own}) {
     WriteList(list);
     EXPECT_FALSE(keepsRights()) << list;
   }
@@ -306,8 +312,14 @@ TEST_F(PackagedTest, OnlyAListedVersionInItsPlaceKeepsItsRights) {
   EXPECT_FALSE(keepsRights()) << "a removed package";
   WriteList(mOther);
   EXPECT_TRUE(keepsRights()) << "replaced";
-  WriteList("- " + own);
-  EXPECT_FALSE(keepsRights()) << "withdrawn later";
+  // Withdrawn in whatever spelling, in front of the version and behind it.
+  for (const std::string& mark : {"- " + own, '-' + own, " -\t" + own, "- " + own.substr(0, 64),
+                                  "- " + UpperCase(own), "- " + mOther.substr(0, 64) + ' ' + own,
+                                  own.substr(0, 64) + " withdrawn\n", own.substr(0, 64) + "\r\n"})
+    for (const std::string& list : {mark, own + mark, mark.back() == '\n' ? mark + own : mark}) {
+      WriteList(list);
+      EXPECT_FALSE(keepsRights()) << list;
+    }
   WriteList(mOther);
   Shell("chown 61001 " + mReplaced);
   EXPECT_FALSE(keepsRights()) << "a user's list";

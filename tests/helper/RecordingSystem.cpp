@@ -56,7 +56,7 @@ int SignalProcess(int process, int signal) {
 int SetNice(std::int32_t pid, int nice) {
   if (gSystem->beforeEffect != nullptr) gSystem->beforeEffect(*gSystem);
   gSystem->effects.push_back("nice " + std::to_string(pid) + ' ' + std::to_string(nice));
-  return 0;
+  return gSystem->niceError;
 }
 
 std::ptrdiff_t ReadFile(const char* path, char* buffer, std::size_t capacity) {
@@ -68,8 +68,9 @@ std::ptrdiff_t ReadFile(const char* path, char* buffer, std::size_t capacity) {
   return static_cast<std::ptrdiff_t>(size);
 }
 
-void Close(int descriptor) {
+int Close(int descriptor) {
   if (gSystem->open.erase(descriptor) != 1) std::abort();
+  return 0;
 }
 
 void Log(std::string_view line) {

@@ -28,7 +28,7 @@ class RecordingSystem {
 
   std::map<std::int32_t, Process> processes;
   std::string machineStat = "cpu  1 2 3 1234 56 7 8\n";
-  int signalError = 0;
+  int signalError = 0, niceError = 0;
   /// Each signal and change of a nice value: "signal 12 15", "nice 12 -5".
   std::vector<std::string> effects;
   std::vector<std::string> log;

@@ -2,8 +2,10 @@
 #include <fcntl.h>
 #include <grp.h>
 #include <gtest/gtest.h>
+#include <linux/capability.h>
 #include <sched.h>
 #include <signal.h>
+#include <sys/inotify.h>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
@@ -19,6 +21,7 @@
 #include <chrono>
 #include <filesystem>
 #include <future>
+#include <map>
 #include <memory>
 #include <set>
 #include <sstream>
@@ -101,9 +104,26 @@ TEST(ServeTest, StartedByRootForAUserItIsThatUserWithTwoRights) {
     EXPECT_EQ(Value(status, "Groups"), "NStgid:") << "keeps root's groups";
     EXPECT_EQ(Value(status, "CapBnd"), "0000000000800020");
     EXPECT_EQ(Value(status, "CapPrm"), "0000000000800020");
+    // Nobody but the user who was named is served then, not even root.
+    for (const uid_t other : {kStranger, uid_t{0}}) {
+      HelperProcess refused(other, HelperPath(), asking(variable), true);
+      EXPECT_FALSE(refused.IsOpen()) << other;
+      EXPECT_EQ(refused.Close(), kExitChannel) << other;
+    }
+    // A container may keep a right from root; what is left is of use, but "0" would promise both.
+    for (const int missing : {CAP_KILL, CAP_SYS_NICE}) {
+      HelperProcess poor(
+          kUser, HelperPath(),
+          [&] {
+            asking(variable)();
+            if (prctl(PR_CAPBSET_DROP, missing, 0, 0, 0) != 0) _exit(98);
+          },
+          true);
+      EXPECT_EQ(poor.Ask("geteuid"), std::to_string(kUser));
+      EXPECT_EQ(Value(Proc(poor.Pid(), "status"), "CapPrm"),
+                missing == CAP_KILL ? "0000000000800000" : "0000000000000020");
+    }
   }
-  // Pipes of a user who was not named are not root's to open.
-  EXPECT_FALSE(HelperProcess(kStranger, HelperPath(), asking("PKEXEC_UID"), true).IsOpen());
 }
 
 TEST(ServeTest, RenicesEveryThread) {
@@ -242,6 +262,57 @@ TEST(ServeTest, OpensNothingButAPrivateWidePipeOfTheUser) {
     }
 }
 
+/// In a process of the user: puts one thing after another at `path`, as fast as it can.
+[[noreturn]] void SwapForEver(const std::string& path, const std::string& folder,
+                              const std::vector<std::string>& others) {
+  BecomeUser(kUser);
+  for (std::size_t round = 0;; ++round) {
+    const std::string fresh = folder + "/fresh";
+    const std::string& other = others[round / 3 % others.size()];
+    // A link to something, another name of it, and a pipe of the user's own.
+    bool made = false;
+    if (round % 3 == 0)
+      made = symlink(other.c_str(), fresh.c_str()) == 0;
+    else if (round % 3 == 1)
+      made = link(other.c_str(), fresh.c_str()) == 0;
+    else
+      made = mkfifo(fresh.c_str(), 0600) == 0;
+    if (made) rename(fresh.c_str(), path.c_str());
+    unlink(fresh.c_str());
+  }
+}
+
+TEST(ServeTest, PipesSwappedBetweenTheLookAndTheOpeningAreNotOpened) {
+  const TemporaryFolder folder(0700, kUser), foreign(0755);
+  std::vector<std::string> others;
+  const int watch = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+  for (const char* make : {"echo > $P", "mkfifo $P", "mkfifo $P; chown 61002 $P"}) {
+    others.push_back(foreign / ("other" + std::to_string(others.size())));
+    Shell("P=" + others.back() + "; " + make + "; chmod 666 $P");
+    ASSERT_GE(inotify_add_watch(watch, others.back().c_str(), IN_OPEN), 0);
+  }
+  const std::string path = folder / "requests", answers = folder / "answers";
+  Shell("mkfifo -m 600 " + answers + "; chown 61001 " + answers);
+  const pid_t swapper = Fork();
+  if (swapper == 0) SwapForEver(path, folder.Path(), others);
+  std::map<int, int> ends;
+  for (int round = 0; round < 400; ++round) {
+    const pid_t helper = StartWith(path, answers);
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    kill(helper, SIGTERM);
+    ++ends[WaitFor(helper)];
+  }
+  kill(swapper, SIGKILL);
+  WaitFor(swapper);
+  // It was refused, or waited for whoever writes to a pipe of its user's.
+  EXPECT_GT(ends[kExitChannel], 0);
+  EXPECT_EQ(ends[kExitChannel] + ends[-SIGTERM], 400);
+  char events[4096];
+  EXPECT_EQ(read(watch, events, sizeof events), -1) << "something foreign was opened";
+  EXPECT_EQ(errno, EAGAIN);
+  close(watch);
+}
+
 TEST(ServeTest, GivesUpWhenNobodyOpensTheOtherEnds) {
   const TemporaryFolder closed(0700, kUser), halfOpen(0700, kUser);
   const auto neither = MakePipes(closed), first = MakePipes(halfOpen);
@@ -343,16 +414,66 @@ TEST(ServeTest, TheUserCannotLookIntoIt) {
   EXPECT_TRUE(WIFSIGNALED(status) && !WCOREDUMP(status));
 }
 
-TEST(ServeTest, AThousandActionsAreAThousandLinesOfTheSystemLog) {
-  // A system log of our own, in a mount namespace of our own.
-  ASSERT_EQ(unshare(CLONE_NEWNS), 0);
+constexpr sockaddr_un kLogPlace{AF_UNIX, "/dev/log"};
+const auto* const kLogAddress = reinterpret_cast<const sockaddr*>(&kLogPlace);
+
+/// A system log of the test's own, in a mount namespace of its own; the socket's descriptor.
+int OpenSystemLog() {
+  if (unshare(CLONE_NEWNS) != 0) return -1;
   Shell(
       "mount --make-rprivate / && mount -t tmpfs -o mode=755 none /dev && "
       "mknod -m 666 /dev/null c 1 3");
   const int log = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-  constexpr sockaddr_un kAddress{AF_UNIX, "/dev/log"};
-  ASSERT_EQ(bind(log, reinterpret_cast<const sockaddr*>(&kAddress), sizeof kAddress), 0);
-  ASSERT_EQ(chmod("/dev/log", 0666), 0);
+  const bool bound = bind(log, kLogAddress, sizeof(sockaddr_un)) == 0;
+  return bound && chmod("/dev/log", 0666) == 0 ? log : -1;
+}
+
+/// The lines that wait in it, without what the test has put there itself.
+std::vector<std::string> LinesIn(int log) {
+  std::vector<std::string> lines;
+  char line[1024];
+  for (ssize_t size; (size = recv(log, line, sizeof line, MSG_DONTWAIT)) > 0;)
+    if (size > 1) lines.emplace_back(line, static_cast<std::size_t>(size));
+  return lines;
+}
+
+TEST(ServeTest, LinesThatTheSystemLogDoesNotTakeAreCountedAndTold) {
+  const int log = OpenSystemLog();
+  ASSERT_GE(log, 0);
+  Canary canary(kUser);
+  HelperProcess helper(kUser);
+  const std::string continued = "kill_cont " + std::to_string(canary.Pid());
+  const auto fill = [&] {
+    const int other = socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    while (sendto(other, "x", 1, 0, kLogAddress, sizeof(sockaddr_un)) == 1) {
+    }
+    close(other);
+  };
+  const std::string who = "<86>Lurkwell_helper[" + std::to_string(helper.Pid()) + "]: uid=61001";
+  fill();
+  for (int round = 0; round < 3; ++round) EXPECT_EQ(helper.Act(continued), "ok");
+  EXPECT_EQ(LinesIn(log).size(), 0u);
+  EXPECT_EQ(helper.Act(continued), "ok");
+  auto lines = LinesIn(log);
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_EQ(lines[0], who + " lost=3");
+  EXPECT_TRUE(lines[1].starts_with(who + " verb=kill_cont ")) << lines[1];
+  EXPECT_EQ(helper.Act(continued), "ok");
+  EXPECT_EQ(LinesIn(log).size(), 1u) << "told once";
+  // At its end at the latest.
+  fill();
+  EXPECT_EQ(helper.Act(continued), "ok");
+  EXPECT_EQ(LinesIn(log).size(), 0u);
+  EXPECT_EQ(helper.Close(), 0);
+  lines = LinesIn(log);
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_EQ(lines[0], who + " lost=1");
+  close(log);
+}
+
+TEST(ServeTest, AThousandActionsAreAThousandLinesOfTheSystemLog) {
+  const int log = OpenSystemLog();
+  ASSERT_GE(log, 0);
   std::vector<std::string> lines;
   std::thread reader([&] {
     char line[1024];
@@ -365,7 +486,7 @@ TEST(ServeTest, AThousandActionsAreAThousandLinesOfTheSystemLog) {
   for (int round = 0; round < 1000; ++round)
     done += helper.Act("kill_cont " + std::to_string(canary.Pid())) == "ok";
   EXPECT_EQ(helper.Close(), 0);
-  sendto(log, "x", 1, 0, reinterpret_cast<const sockaddr*>(&kAddress), sizeof kAddress);
+  sendto(log, "x", 1, 0, kLogAddress, sizeof(sockaddr_un));
   reader.join();
   close(log);
   EXPECT_EQ(done, 1000);

@@ -83,8 +83,9 @@ TEST_F(SessionTest, AProcessOtherThanTheOneReportedIsLeftAlone) {
   for (const auto& [error, words] : {std::pair(EPERM, "this takes an administrator's rights"),
                                      {ESRCH, "no such process"},
                                      {EINVAL, "refused by the system"}}) {
-    mMachine.signalError = -error;
+    mMachine.signalError = mMachine.niceError = -error;
     EXPECT_EQ(Act("kill_cont 2"), "!Error " + std::string(words) + "\n");
+    EXPECT_EQ(Act("renice 2 5"), "!Error " + std::string(words) + "\n");
   }
 }
 

@@ -177,6 +177,12 @@ class Upgrade(unittest.TestCase):
         self.install("3")
         self.assertTrue(self.has_rights())
         self.assertEqual(self.replaced(), [digest_of(version) for version in ("3", "2", "1")])
+        # An administrator who wants every earlier helper gone.
+        self.become(helper_of("1"))
+        self.within(COPY).chmod(0o4750)
+        self.assertTrue(self.has_rights())
+        self.within(PREFIX + "/lib/lurkwell/replaced-helpers").unlink()
+        self.assertFalse(self.has_rights())
 
     def test_a_withdrawn_version_serves_no_more_and_never_again(self):
         self.install("1")
