@@ -1,4 +1,7 @@
+#include <sys/xattr.h>
+
 #include <algorithm>
+#include <cstdint>
 #include <random>
 #include <set>
 #include <thread>
@@ -291,6 +294,14 @@ TEST_F(RealChannelTest, PipesOfAKilledProgramGoWithTheNextOnesAndNothingElse) {
 
 TEST_F(RealChannelTest, PipesArePrivateAndNeverNarrow) {
   auto& pipes = machine.namedPipes;
+  // By default everything in there is for another user, too: user::rwx user:61002:rwx group::---
+  // mask::rwx other::---, as the kernel keeps it.
+  constexpr std::uint16_t kList[] = {2,      0,      1,  7, 0xffff, 0xffff, 2,  7,
+                                     61002,  0,      4,  0, 0xffff, 0xffff, 16, 7,
+                                     0xffff, 0xffff, 32, 0, 0xffff, 0xffff};
+  ASSERT_EQ(
+      ::setxattr((folder / "pipes").c_str(), "system.posix_acl_default", kList, sizeof kList, 0),
+      0);
   const std::string path = pipes.TemporaryName("Lkw_a2d_");
   ASSERT_TRUE(pipes.MakeFifo(path, 010666));
   EXPECT_EQ(ModeOf(path), 0600u);

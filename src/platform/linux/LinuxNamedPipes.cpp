@@ -8,6 +8,7 @@
 #include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -85,8 +86,11 @@ std::string MakePrivateFolder() {
     if (value == nullptr || !IsSafeParent(value)) continue;
     RemoveLeftFolders(value);
     std::string path = std::string(value) + '/' + std::string(kPattern);
-    // Made with mode 0700.
-    if (::mkdtemp(path.data()) != nullptr) return path;
+    // Made with mode 0700. What an access list of the folder above grants by default would count
+    // for the pipes, whatever their mode.
+    if (::mkdtemp(path.data()) == nullptr) continue;
+    ::removexattr(path.c_str(), "system.posix_acl_default");
+    return path;
   }
   return {};
 }
