@@ -37,12 +37,18 @@ def machine():
             f" {platform.machine()}")
 
 
+def kept(name):
+    """The figures that a part has kept, {} for none."""
+    path = FIGURES / f"{name}.json"
+    return json.loads(path.read_text(encoding="utf-8")) if path.is_file() else {}
+
+
 def keep(name, figures, of_commit, seconds):
     """Writes the figures of a part, with where they are from."""
     FIGURES.mkdir(exist_ok=True)
-    kept = {"date": datetime.datetime.now(datetime.timezone.utc).date().isoformat(),
+    all_of_it = {"date": datetime.datetime.now(datetime.timezone.utc).date().isoformat(),
             "commit": of_commit, "seconds": round(seconds), "machine": machine(), **figures}
-    text = json.dumps(kept, indent=1, ensure_ascii=False) + "\n"
+    text = json.dumps(all_of_it, indent=1, ensure_ascii=False) + "\n"
     (FIGURES / f"{name}.json").write_text(text, encoding="utf-8")
 
 
@@ -80,19 +86,18 @@ def section(name, part, figures):
 
 def page():
     from . import parts
-    kept = {path.stem: json.loads(path.read_text(encoding="utf-8"))
-            for path in sorted(FIGURES.glob("*.json"))}
+    there = {path.stem: kept(path.stem) for path in sorted(FIGURES.glob("*.json"))}
     summary, sections = [], []
     for name in parts.names():
-        if name not in kept:
+        if name not in there:
             continue
-        figures = kept.pop(name)
+        figures = there.pop(name)
         for one in figures.get("goals", []):
             found = one["found"] if one["met"] else f"{one['found']} (not reached)"
             summary.append([one["what"], one["wanted"], found, figures["date"], figures["commit"]])
         sections += section(name, parts.load(name), figures)
-    if kept:
-        raise Failure(f"docs/proof has figures of no part: {', '.join(kept)}")
+    if there:
+        raise Failure(f"docs/proof has figures of no part: {', '.join(there)}")
     goals = rows(["what", "wanted", "found", "on", "of commit"], summary) + [""] if summary else []
     return "\n".join([HEAD, *goals, *sections]).rstrip() + "\n"
 

@@ -64,20 +64,6 @@ TEST(CanaryTest, TheNextHolderOfAPidIsNotTakenForTheOneReported) {
   EXPECT_EQ(complaint, "");
 }
 
-/// Lets a traced process go on until it has made that system call.
-bool RunBehind(pid_t pid, std::uint64_t call) {
-  for (int status = 0;;) {
-    __ptrace_syscall_info info{};
-    if (ptrace(PTRACE_SYSCALL, pid, nullptr, nullptr) != 0 || waitpid(pid, &status, 0) != pid ||
-        !WIFSTOPPED(status))
-      return false;
-    const bool entered = ptrace(PTRACE_GET_SYSCALL_INFO, pid, sizeof info, &info) > 0 &&
-                         info.op == PTRACE_SYSCALL_INFO_ENTRY && info.entry.nr == call;
-    if (entered)
-      return ptrace(PTRACE_SYSCALL, pid, nullptr, nullptr) == 0 && waitpid(pid, &status, 0) == pid;
-  }
-}
-
 TEST(CanaryTest, AThreadsNumberThatHasPassedOnIsNoticedByARenice) {
   const auto complaint = RunInPidNamespace("/proc", "", []() -> std::string {
     std::array<int, 2> end{};

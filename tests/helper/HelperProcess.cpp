@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
+#include <sys/ptrace.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -71,6 +72,19 @@ int RunPermissionStep(const std::string& program, const std::string& folder, uid
 
 void Shell(const std::string& command) {
   Check(std::system(command.c_str()) == 0, command.c_str());
+}
+
+bool RunBehind(pid_t pid, std::uint64_t call) {
+  for (int status = 0;;) {
+    __ptrace_syscall_info info{};
+    if (ptrace(PTRACE_SYSCALL, pid, nullptr, nullptr) != 0 || waitpid(pid, &status, 0) != pid ||
+        !WIFSTOPPED(status))
+      return false;
+    const bool entered = ptrace(PTRACE_GET_SYSCALL_INFO, pid, sizeof info, &info) > 0 &&
+                         info.op == PTRACE_SYSCALL_INFO_ENTRY && info.entry.nr == call;
+    if (entered)
+      return ptrace(PTRACE_SYSCALL, pid, nullptr, nullptr) == 0 && waitpid(pid, &status, 0) == pid;
+  }
 }
 
 HelperProcess::HelperProcess(uid_t user, const std::string& program,

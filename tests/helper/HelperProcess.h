@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ int RunPermissionStep(const std::string& program, const std::string& folder, uid
 
 /// Runs a command that has to succeed.
 void Shell(const std::string& command);
+
+/// Lets a traced process go on until it has made that system call; false when it ends before.
+bool RunBehind(pid_t pid, std::uint64_t call);
 
 /// A helper started as a user, with the test as the application at the other end.
 class HelperProcess {

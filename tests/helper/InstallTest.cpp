@@ -4,7 +4,10 @@
 #include <sched.h>
 #include <signal.h>
 #include <sys/mman.h>
+#include <sys/ptrace.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -206,6 +209,27 @@ TEST(InstallTest, SwappingTheCopyDuringTheStepBlessesNothingForeign) {
   EXPECT_TRUE(OnlyHelpersAreBlessed(home.path, bytes));
   EXPECT_EQ(done + refused, 500);
   EXPECT_GT(refused, 0);
+}
+
+TEST(InstallTest, AnExchangeRightBehindTheStepIsNoticed) {
+  const Home home(kUser);
+  const pid_t step = Fork([&] {
+    if (chdir(home.path.c_str()) != 0 || setenv("PKEXEC_UID", "61001", 1) != 0) return 98;
+    ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+    execl(StepPath().c_str(), "p", "--set_permissions_appropriately", nullptr);
+    return 97;
+  });
+  int status = 0;
+  ASSERT_EQ(waitpid(step, &status, 0), step);
+  ptrace(PTRACE_SETOPTIONS, step, nullptr, PTRACE_O_TRACESYSGOOD);
+  ASSERT_TRUE(RunBehind(step, SYS_renameat));
+  ASSERT_EQ(home.Info().st_mode & S_ISUID, mode_t{S_ISUID});
+  const std::string hidden = home.path + "/hidden";
+  ASSERT_EQ(rename(home.copy.c_str(), hidden.c_str()), 0);
+  Install("/bin/true", home.copy, kUser, kUser, 0755);
+  ptrace(PTRACE_DETACH, step, nullptr, nullptr);
+  EXPECT_EQ(WaitFor(step), kCannotWrite);
+  EXPECT_EQ(ModeOf(hidden), mode_t{0}) << "a set-user-id file under another name";
 }
 
 TEST(InstallTest, AFileHeldOpenBeforeTheStepNeverBecomesTheHelper) {

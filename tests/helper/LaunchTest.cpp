@@ -220,6 +220,18 @@ TEST(LaunchTest, NothingInheritedIsLeft) {
     EXPECT_EQ(state, plain) << combination;
     EXPECT_EQ(helper.Close(), 0) << combination;
   }
+  // Hard limits cannot be undone: too few descriptors for the null device, or for all three.
+  for (const rlim_t descriptors : {0u, 2u})
+    EXPECT_EQ(InChild([descriptors] {
+                BecomeUser(kUser);
+                const rlimit few{descriptors, descriptors};
+                close(1);
+                close(2);
+                setrlimit(RLIMIT_NOFILE, &few);
+                return execl(HelperPath().c_str(), "h", "/a", "/b", nullptr);
+              }),
+              71)
+        << descriptors;
 }
 
 }  // namespace

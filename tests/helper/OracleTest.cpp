@@ -1,6 +1,8 @@
 // A million requests, each read by the helper and by a second reader of the same rules.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdlib>
 #include <memory>
 #include <random>
 
@@ -124,9 +126,11 @@ class OracleTest : public ::testing::Test {
 };
 
 TEST_F(OracleTest, AMillionRequestsAreReadAlikeAndTouchOnlyWhomTheyName) {
+  const char* asked = std::getenv("LURKWELL_REQUESTS");
+  const int requests = asked != nullptr ? std::atoi(asked) : 1000000;
   std::array<int, 4> seen{};
-  for (int count = 0; count < 1000000 && !HasFailure(); ++count) ++seen[Check(mGenerator.Next())];
-  for (const int kind : seen) EXPECT_GT(kind, 20000);
+  for (int count = 0; count < requests && !HasFailure(); ++count) ++seen[Check(mGenerator.Next())];
+  for (const int kind : seen) EXPECT_GT(kind, requests / 50);
 }
 
 }  // namespace

@@ -123,6 +123,15 @@ TEST(ServeTest, StartedByRootForAUserItIsThatUserWithTwoRights) {
       EXPECT_EQ(Value(Proc(poor.Pid(), "status"), "CapPrm"),
                 missing == CAP_KILL ? "0000000000800000" : "0000000000000020");
     }
+    // Without the right to give up rights for good it serves nobody.
+    HelperProcess unsafe(
+        kUser, HelperPath(),
+        [&] {
+          asking(variable)();
+          if (prctl(PR_CAPBSET_DROP, CAP_SETPCAP, 0, 0, 0) != 0) _exit(98);
+        },
+        true);
+    EXPECT_EQ(unsafe.Close(), kExitSystem);
   }
 }
 
