@@ -357,9 +357,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>The engine that was busiest for the process between the last two looks, in the driver's words (render, video, copy and the like). From the usage figures that the kernel keeps with the process's descriptors of graphics devices (/proc/PID/fdinfo); each client of a device counts once. Drivers that keep none, such as NVIDIA's own, are not counted. No device is opened or woken. Of other users' processes it is not allowed.</translation>
     </message>
-    <message id="value_age_tip">
+    <message id="value_age_tip" numerus="yes">
         <source></source>
-        <translation>Read %1 seconds ago.</translation>
+        <translation>
+            <numerusform>Read %n second ago.</numerusform>
+            <numerusform>Read %n seconds ago.</numerusform>
+        </translation>
     </message>
     <message id="pid_suspend_count">
         <source></source>
@@ -2337,9 +2340,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Find a column</translation>
     </message>
-    <message id="column_filter_more">
+    <message id="column_filter_more" numerus="yes">
         <source></source>
-        <translation>%1 more: type more letters</translation>
+        <translation>
+            <numerusform>%n more: type more letters</numerusform>
+            <numerusform>%n more: type more letters</numerusform>
+        </translation>
     </message>
     <message id="column_filter_nothing">
         <source></source>
@@ -2637,9 +2643,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Alert</translation>
     </message>
-    <message id="alerts_state_firing_for">
+    <message id="alerts_state_firing_for" numerus="yes">
         <source></source>
-        <translation>Alert: %1 processes</translation>
+        <translation>
+            <numerusform>Alert: %n process</numerusform>
+            <numerusform>Alert: %n processes</numerusform>
+        </translation>
     </message>
     <message id="alerts_not_allowed">
         <source></source>
@@ -2753,9 +2762,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Processes that meet it: %1</translation>
     </message>
-    <message id="alerts_trial_total">
+    <message id="alerts_trial_total" numerus="yes">
         <source></source>
-        <translation>%1 in %2 processes</translation>
+        <translation>
+            <numerusform>%1 in %n process</numerusform>
+            <numerusform>%1 in %n processes</numerusform>
+        </translation>
     </message>
     <message id="alerts_trial_met">
         <source></source>
@@ -2805,18 +2817,24 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>A rule is a condition as in the filter. “any” in front makes it one alert for all processes, “total mem&gt;8G” adds a figure up, “absent” waits for there to be none. “for 5m” says how long it has to hold, and “until cpu&lt;70%” what ends it; else it ends when it has not been met for half a minute.</translation>
     </message>
-    <message id="alerts_more">
+    <message id="alerts_more" numerus="yes">
         <source></source>
-        <translation>%1 more alerts</translation>
+        <translation>
+            <numerusform>%n more alert</numerusform>
+            <numerusform>%n more alerts</numerusform>
+        </translation>
     </message>
     <message id="alerts_more_latest">
         <source></source>
         <translation>The latest: %1
 %2</translation>
     </message>
-    <message id="alerts_left_out">
+    <message id="alerts_left_out" numerus="yes">
         <source></source>
-        <translation>%1 more rules are stored than the %2 that are watched. Remove some to have them watched at the next start.</translation>
+        <translation>
+            <numerusform>%n more rule is stored than the %1 that are watched. Remove some to have it watched at the next start.</numerusform>
+            <numerusform>%n more rules are stored than the %1 that are watched. Remove some to have them watched at the next start.</numerusform>
+        </translation>
     </message>
     <message id="alerts_too_many">
         <source></source>
@@ -2878,9 +2896,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>“%1” is no regular expression: %2.</translation>
     </message>
-    <message id="main_window_status_some">
+    <message id="main_window_status_some" numerus="yes">
         <source></source>
-        <translation>%1 of %2 processes: %3; %4 selected</translation>
+        <translation>
+            <numerusform>%1 of %n process: %2; %3 selected</numerusform>
+            <numerusform>%1 of %n processes: %2; %3 selected</numerusform>
+        </translation>
     </message>
     <message id="main_window_status_totals">
         <source></source>
@@ -2930,9 +2951,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Other users’ processes that only an administrator may look into</translation>
     </message>
-    <message id="filter_looks">
+    <message id="filter_looks" numerus="yes">
         <source></source>
-        <translation>Looking into %1 processes…</translation>
+        <translation>
+            <numerusform>Looking into %n process…</numerusform>
+            <numerusform>Looking into %n processes…</numerusform>
+        </translation>
     </message>
     <message id="filter_hides_all_not_allowed">
         <source></source>
@@ -3022,21 +3046,23 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>, unfolded, %1 below</translation>
     </message>
-    <message id="total_tip">
+    <message id="total_tip" numerus="yes">
         <source></source>
-        <translation>Total of %1 processes, as far as it is known</translation>
+        <translation>
+            <numerusform>Total of %n process, as far as it is known</numerusform>
+            <numerusform>Total of %n processes, as far as it is known</numerusform>
+        </translation>
     </message>
     <message id="total_memory_tip">
         <source></source>
         <translation>Resident memory: what processes share is counted in parts where that is known (PSS), else for each of them</translation>
     </message>
-    <message id="main_window_status_counts">
+    <message id="main_window_status_counts" numerus="yes">
         <source></source>
-        <translation>%1 processes, %2 shown, %3 selected</translation>
-    </message>
-    <message id="main_window_status_counts_one">
-        <source></source>
-        <translation>%1 process, %2 shown, %3 selected</translation>
+        <translation>
+            <numerusform>%n process, %1 shown, %2 selected</numerusform>
+            <numerusform>%n processes, %1 shown, %2 selected</numerusform>
+        </translation>
     </message>
     <message id="main_window_helper_unprivileged">
         <source></source>
@@ -3402,9 +3428,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>None of the selected processes has a child.</translation>
     </message>
-    <message id="main_window_hidden_children">
+    <message id="main_window_hidden_children" numerus="yes">
         <source></source>
-        <translation>%1 of the children are hidden by the filter.</translation>
+        <translation>
+            <numerusform>%n of the children is hidden by the filter.</numerusform>
+            <numerusform>%n of the children are hidden by the filter.</numerusform>
+        </translation>
     </message>
     <message id="main_window_preferences">
         <source></source>
@@ -3430,9 +3459,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>%1 (%2)</translation>
     </message>
-    <message id="context_menu_several">
+    <message id="context_menu_several" numerus="yes">
         <source></source>
-        <translation>%1 processes</translation>
+        <translation>
+            <numerusform>%n process</numerusform>
+            <numerusform>%n processes</numerusform>
+        </translation>
     </message>
     <message id="action_ask_window">
         <source></source>
@@ -3442,33 +3474,45 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Quit process %1 (%2)?</translation>
     </message>
-    <message id="action_ask_quit_several">
+    <message id="action_ask_quit_several" numerus="yes">
         <source></source>
-        <translation>Quit %1 processes?</translation>
+        <translation>
+            <numerusform>Quit %n process?</numerusform>
+            <numerusform>Quit %n processes?</numerusform>
+        </translation>
     </message>
     <message id="action_ask_kill_one">
         <source></source>
         <translation>Kill process %1 (%2)?</translation>
     </message>
-    <message id="action_ask_kill_several">
+    <message id="action_ask_kill_several" numerus="yes">
         <source></source>
-        <translation>Kill %1 processes?</translation>
+        <translation>
+            <numerusform>Kill %n process?</numerusform>
+            <numerusform>Kill %n processes?</numerusform>
+        </translation>
     </message>
     <message id="action_ask_halt_one">
         <source></source>
         <translation>Halt process %1 (%2)?</translation>
     </message>
-    <message id="action_ask_halt_several">
+    <message id="action_ask_halt_several" numerus="yes">
         <source></source>
-        <translation>Halt %1 processes?</translation>
+        <translation>
+            <numerusform>Halt %n process?</numerusform>
+            <numerusform>Halt %n processes?</numerusform>
+        </translation>
     </message>
     <message id="action_ask_lower_one">
         <source></source>
         <translation>Lower the priority of process %1 (%2)?</translation>
     </message>
-    <message id="action_ask_lower_several">
+    <message id="action_ask_lower_several" numerus="yes">
         <source></source>
-        <translation>Lower the priority of %1 processes?</translation>
+        <translation>
+            <numerusform>Lower the priority of %n process?</numerusform>
+            <numerusform>Lower the priority of %n processes?</numerusform>
+        </translation>
     </message>
     <message id="action_button_quit">
         <source></source>
@@ -3562,13 +3606,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Lurkwell itself is among them.</translation>
     </message>
-    <message id="action_warn_others">
+    <message id="action_warn_others" numerus="yes">
         <source></source>
-        <translation>%1 of them belong to other users.</translation>
-    </message>
-    <message id="action_warn_others_one">
-        <source></source>
-        <translation>%1 of them belongs to another user.</translation>
+        <translation>
+            <numerusform>%n of them belongs to another user.</numerusform>
+            <numerusform>%n of them belong to other users.</numerusform>
+        </translation>
     </message>
     <message id="action_owner">
         <source></source>
@@ -3610,17 +3653,23 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>twice</translation>
     </message>
-    <message id="times_many">
+    <message id="times_many" numerus="yes">
         <source></source>
-        <translation>%1 times</translation>
+        <translation>
+            <numerusform>%n time</numerusform>
+            <numerusform>%n times</numerusform>
+        </translation>
     </message>
     <message id="action_process">
         <source></source>
         <translation>%1 (%2)</translation>
     </message>
-    <message id="action_processes">
+    <message id="action_processes" numerus="yes">
         <source></source>
-        <translation>%1 processes (%2)</translation>
+        <translation>
+            <numerusform>%n process (%1)</numerusform>
+            <numerusform>%n processes (%1)</numerusform>
+        </translation>
     </message>
     <message id="action_failed">
         <source></source>
@@ -3658,73 +3707,68 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>this desktop has no way to do it</translation>
     </message>
-    <message id="action_done_quit_one">
+    <message id="action_done_quit" numerus="yes">
         <source></source>
-        <translation>%1 was asked to quit.</translation>
+        <translation>
+            <numerusform>%1 was asked to quit.</numerusform>
+            <numerusform>%1 were asked to quit.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_quit_several">
+    <message id="action_done_terminate" numerus="yes">
         <source></source>
-        <translation>%1 were asked to quit.</translation>
+        <translation>
+            <numerusform>%1 was asked to end.</numerusform>
+            <numerusform>%1 were asked to end.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_terminate_one">
+    <message id="action_done_force" numerus="yes">
         <source></source>
-        <translation>%1 was asked to end.</translation>
+        <translation>
+            <numerusform>%1 was ended by force.</numerusform>
+            <numerusform>%1 were ended by force.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_terminate_several">
+    <message id="action_done_halt" numerus="yes">
         <source></source>
-        <translation>%1 were asked to end.</translation>
+        <translation>
+            <numerusform>%1 was halted.</numerusform>
+            <numerusform>%1 were halted.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_force_one">
+    <message id="action_done_continue" numerus="yes">
         <source></source>
-        <translation>%1 was ended by force.</translation>
+        <translation>
+            <numerusform>%1 was continued.</numerusform>
+            <numerusform>%1 were continued.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_force_several">
+    <message id="action_done_high" numerus="yes">
         <source></source>
-        <translation>%1 were ended by force.</translation>
+        <translation>
+            <numerusform>%1 now has a high priority.</numerusform>
+            <numerusform>%1 now have a high priority.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_halt_one">
+    <message id="action_done_normal" numerus="yes">
         <source></source>
-        <translation>%1 was halted.</translation>
+        <translation>
+            <numerusform>%1 now has the normal priority.</numerusform>
+            <numerusform>%1 now have the normal priority.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_halt_several">
+    <message id="action_done_low" numerus="yes">
         <source></source>
-        <translation>%1 were halted.</translation>
+        <translation>
+            <numerusform>%1 now has a low priority.</numerusform>
+            <numerusform>%1 now have a low priority.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_continue_one">
+    <message id="follow_confirmation_title" numerus="yes">
         <source></source>
-        <translation>%1 was continued.</translation>
-    </message>
-    <message id="action_done_continue_several">
-        <source></source>
-        <translation>%1 were continued.</translation>
-    </message>
-    <message id="action_done_high_one">
-        <source></source>
-        <translation>%1 now has a high priority.</translation>
-    </message>
-    <message id="action_done_high_several">
-        <source></source>
-        <translation>%1 now have a high priority.</translation>
-    </message>
-    <message id="action_done_normal_one">
-        <source></source>
-        <translation>%1 now has the normal priority.</translation>
-    </message>
-    <message id="action_done_normal_several">
-        <source></source>
-        <translation>%1 now have the normal priority.</translation>
-    </message>
-    <message id="action_done_low_one">
-        <source></source>
-        <translation>%1 now has a low priority.</translation>
-    </message>
-    <message id="action_done_low_several">
-        <source></source>
-        <translation>%1 now have a low priority.</translation>
-    </message>
-    <message id="follow_confirmation_title">
-        <source></source>
-        <translation>Open %1 new windows?</translation>
+        <translation>
+            <numerusform>Open %n new window?</numerusform>
+            <numerusform>Open %n new windows?</numerusform>
+        </translation>
     </message>
     <message id="follow_confirmation_text">
         <source></source>
@@ -3734,9 +3778,12 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>&amp;Open</translation>
     </message>
-    <message id="follow_limit_title">
+    <message id="follow_limit_title" numerus="yes">
         <source></source>
-        <translation>%1 of %2 windows were opened.</translation>
+        <translation>
+            <numerusform>%n of %1 windows was opened.</numerusform>
+            <numerusform>%n of %1 windows were opened.</numerusform>
+        </translation>
     </message>
     <message id="follow_limit_text">
         <source></source>
@@ -3775,13 +3822,12 @@ Free software under the MIT licence</translation>
         <source></source>
         <translation>How busy the machine's processors are.</translation>
     </message>
-    <message id="toolbar_system_cpu_figure_one">
+    <message id="toolbar_system_cpu_figure" numerus="yes">
         <source></source>
-        <translation>CPU: %1 % of %2 processor</translation>
-    </message>
-    <message id="toolbar_system_cpu_figure">
-        <source></source>
-        <translation>CPU: %1 % of %2 processors</translation>
+        <translation>
+            <numerusform>CPU: %1 % of %n processor</numerusform>
+            <numerusform>CPU: %1 % of %n processors</numerusform>
+        </translation>
     </message>
     <message id="toolbar_system_ram">
         <source></source>
@@ -3806,13 +3852,12 @@ Free: %5</translation>
         <source></source>
         <translation>Green while no memory is being swapped out, yellow while some is, flashing red while it is so much that the machine slows down.</translation>
     </message>
-    <message id="toolbar_vm_thrashing_figure_one">
+    <message id="toolbar_vm_thrashing_figure" numerus="yes">
         <source></source>
-        <translation>%1 page swapped out since the last update</translation>
-    </message>
-    <message id="toolbar_vm_thrashing_figure">
-        <source></source>
-        <translation>%1 pages swapped out since the last update</translation>
+        <translation>
+            <numerusform>%n page swapped out since the last update</numerusform>
+            <numerusform>%n pages swapped out since the last update</numerusform>
+        </translation>
     </message>
     <message id="toolbar_usage_history">
         <source></source>
@@ -3962,17 +4007,23 @@ Free: %5</translation>
         <source></source>
         <translation>Send a signal to process %1 (%2)?</translation>
     </message>
-    <message id="action_ask_signal_several">
+    <message id="action_ask_signal_several" numerus="yes">
         <source></source>
-        <translation>Send a signal to %1 processes?</translation>
+        <translation>
+            <numerusform>Send a signal to %n process?</numerusform>
+            <numerusform>Send a signal to %n processes?</numerusform>
+        </translation>
     </message>
     <message id="action_ask_scheduling_one">
         <source></source>
         <translation>Priority and processors of process %1 (%2)</translation>
     </message>
-    <message id="action_ask_scheduling_several">
+    <message id="action_ask_scheduling_several" numerus="yes">
         <source></source>
-        <translation>Priority and processors of %1 processes</translation>
+        <translation>
+            <numerusform>Priority and processors of %n process</numerusform>
+            <numerusform>Priority and processors of %n processes</numerusform>
+        </translation>
     </message>
     <message id="action_button_signal">
         <source></source>
@@ -3994,45 +4045,40 @@ Free: %5</translation>
         <source></source>
         <translation>this machine has no such processor or priority</translation>
     </message>
-    <message id="action_done_signal_one">
+    <message id="action_done_signal" numerus="yes">
         <source></source>
-        <translation>%1 was sent %2.</translation>
+        <translation>
+            <numerusform>%1 was sent %2.</numerusform>
+            <numerusform>%1 were sent %2.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_signal_several">
+    <message id="action_done_nice" numerus="yes">
         <source></source>
-        <translation>%1 were sent %2.</translation>
+        <translation>
+            <numerusform>%1 now has the nice value %2.</numerusform>
+            <numerusform>%1 now have the nice value %2.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_nice_one">
+    <message id="action_done_policy" numerus="yes">
         <source></source>
-        <translation>%1 now has the nice value %2.</translation>
+        <translation>
+            <numerusform>%1 is now scheduled as %2.</numerusform>
+            <numerusform>%1 are now scheduled as %2.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_nice_several">
+    <message id="action_done_io_priority" numerus="yes">
         <source></source>
-        <translation>%1 now have the nice value %2.</translation>
+        <translation>
+            <numerusform>%1 now has the disk priority %2.</numerusform>
+            <numerusform>%1 now have the disk priority %2.</numerusform>
+        </translation>
     </message>
-    <message id="action_done_policy_one">
+    <message id="action_done_processors" numerus="yes">
         <source></source>
-        <translation>%1 is now scheduled as %2.</translation>
-    </message>
-    <message id="action_done_policy_several">
-        <source></source>
-        <translation>%1 are now scheduled as %2.</translation>
-    </message>
-    <message id="action_done_io_priority_one">
-        <source></source>
-        <translation>%1 now has the disk priority %2.</translation>
-    </message>
-    <message id="action_done_io_priority_several">
-        <source></source>
-        <translation>%1 now have the disk priority %2.</translation>
-    </message>
-    <message id="action_done_processors_one">
-        <source></source>
-        <translation>%1 now runs on the processors %2.</translation>
-    </message>
-    <message id="action_done_processors_several">
-        <source></source>
-        <translation>%1 now run on the processors %2.</translation>
+        <translation>
+            <numerusform>%1 now runs on the processors %2.</numerusform>
+            <numerusform>%1 now run on the processors %2.</numerusform>
+        </translation>
     </message>
     <message id="scheduling_unchanged">
         <source></source>
@@ -4934,9 +4980,12 @@ Free: %5</translation>
         <source></source>
         <translation>Group</translation>
     </message>
-    <message id="details_group_processors">
+    <message id="details_group_processors" numerus="yes">
         <source></source>
-        <translation>%1 processors</translation>
+        <translation>
+            <numerusform>%n processor</numerusform>
+            <numerusform>%n processors</numerusform>
+        </translation>
     </message>
     <message id="details_group_memory">
         <source></source>
@@ -5038,29 +5087,26 @@ Free: %5</translation>
         <source></source>
         <translation>A part of the program is missing: the layout of the preferences window. Install Lurkwell again.</translation>
     </message>
-    <message id="preferences_once_per_second">
+    <message id="preferences_times_per_second" numerus="yes">
         <source></source>
-        <translation>once per second</translation>
+        <translation>
+            <numerusform>once per second</numerusform>
+            <numerusform>%n times per second</numerusform>
+        </translation>
     </message>
-    <message id="preferences_every_second">
+    <message id="preferences_every_seconds" numerus="yes">
         <source></source>
-        <translation>every second</translation>
+        <translation>
+            <numerusform>every second</numerusform>
+            <numerusform>every %n seconds</numerusform>
+        </translation>
     </message>
-    <message id="preferences_every_minute">
+    <message id="preferences_every_minutes" numerus="yes">
         <source></source>
-        <translation>every minute</translation>
-    </message>
-    <message id="preferences_times_per_second">
-        <source></source>
-        <translation>%1 times per second</translation>
-    </message>
-    <message id="preferences_every_seconds">
-        <source></source>
-        <translation>every %1 seconds</translation>
-    </message>
-    <message id="preferences_every_minutes">
-        <source></source>
-        <translation>every %1 minutes</translation>
+        <translation>
+            <numerusform>every minute</numerusform>
+            <numerusform>every %n minutes</numerusform>
+        </translation>
     </message>
     <message id="preferences_every_hour">
         <source></source>
@@ -5506,13 +5552,12 @@ Free: %5</translation>
         <source></source>
         <translation>What is stored is no number and is read as 0. Enter a number, or reset the setting.</translation>
     </message>
-    <message id="settings_element">
+    <message id="settings_elements" numerus="yes">
         <source></source>
-        <translation>1 record</translation>
-    </message>
-    <message id="settings_elements">
-        <source></source>
-        <translation>%1 records</translation>
+        <translation>
+            <numerusform>1 record</numerusform>
+            <numerusform>%n records</numerusform>
+        </translation>
     </message>
     <message id="settings_problem_no_number">
         <source></source>
@@ -6814,33 +6859,51 @@ Free: %5</translation>
         <source></source>
         <translation>The figures below are those of %1.</translation>
     </message>
-    <message id="fleet_count_machines">
+    <message id="fleet_count_machines" numerus="yes">
         <source></source>
-        <translation>%1 machines</translation>
+        <translation>
+            <numerusform>%n machine</numerusform>
+            <numerusform>%n machines</numerusform>
+        </translation>
     </message>
-    <message id="fleet_count_groups">
+    <message id="fleet_count_groups" numerus="yes">
         <source></source>
-        <translation>%1 rows</translation>
+        <translation>
+            <numerusform>%n row</numerusform>
+            <numerusform>%n rows</numerusform>
+        </translation>
     </message>
-    <message id="fleet_count_down">
+    <message id="fleet_count_down" numerus="yes">
         <source></source>
-        <translation>%1 down</translation>
+        <translation>
+            <numerusform>%n down</numerusform>
+            <numerusform>%n down</numerusform>
+        </translation>
     </message>
-    <message id="fleet_shown_most">
+    <message id="fleet_shown_most" numerus="yes">
         <source></source>
-        <translation>the %1 with the highest %2 are shown; a filter finds others</translation>
+        <translation>
+            <numerusform>the %n with the highest %1 is shown; a filter finds others</numerusform>
+            <numerusform>the %n with the highest %1 are shown; a filter finds others</numerusform>
+        </translation>
     </message>
-    <message id="fleet_shown_least">
+    <message id="fleet_shown_least" numerus="yes">
         <source></source>
-        <translation>the %1 with the lowest %2 are shown; a filter finds others</translation>
+        <translation>
+            <numerusform>the %n with the lowest %1 is shown; a filter finds others</numerusform>
+            <numerusform>the %n with the lowest %1 are shown; a filter finds others</numerusform>
+        </translation>
     </message>
     <message id="fleet_as_of">
         <source></source>
         <translation>as of %1</translation>
     </message>
-    <message id="fleet_left_out">
+    <message id="fleet_left_out" numerus="yes">
         <source></source>
-        <translation>%1 values of the answer made no sense and are left out</translation>
+        <translation>
+            <numerusform>%n value of the answer made no sense and is left out</numerusform>
+            <numerusform>%n values of the answer made no sense and are left out</numerusform>
+        </translation>
     </message>
     <message id="fleet_asking">
         <source></source>
@@ -7210,17 +7273,23 @@ Free: %5</translation>
         <source></source>
         <translation>Temperature: not told by this machine</translation>
     </message>
-    <message id="machine_more_temperatures">
+    <message id="machine_more_temperatures" numerus="yes">
         <source></source>
-        <translation>%1 more sensors are cooler</translation>
+        <translation>
+            <numerusform>%n more sensor is cooler</numerusform>
+            <numerusform>%n more sensors are cooler</numerusform>
+        </translation>
     </message>
     <message id="machine_limits">
         <source></source>
         <translation>This container may use %1.</translation>
     </message>
-    <message id="machine_limit_processors">
+    <message id="machine_limit_processors" numerus="yes">
         <source></source>
-        <translation>%1 processors</translation>
+        <translation>
+            <numerusform>%n processor</numerusform>
+            <numerusform>%n processors</numerusform>
+        </translation>
     </message>
     <message id="machine_limit_memory">
         <source></source>
@@ -7277,6 +7346,50 @@ Free: %5</translation>
     <message id="setting_DEFAULT_SHOW_MACHINE_WINDOW">
         <source></source>
         <translation>Open the machine's window at the start. The program notes here whether it was open.</translation>
+    </message>
+    <message id="alert_ok">
+        <source></source>
+        <translation>OK</translation>
+    </message>
+    <message id="helper_refused_title">
+        <source></source>
+        <translation>Lurkwell must be authenticated in order to run on this computer with an administrator password.</translation>
+    </message>
+    <message id="helper_refused_text">
+        <source></source>
+        <translation>Without an administrator's rights Lurkwell shows every process and acts on your own. It will not ask at the next start; the status line says how to be asked.</translation>
+    </message>
+    <message id="helper_refused_again">
+        <source></source>
+        <translation>Authenticate Again</translation>
+    </message>
+    <message id="helper_refused_quit">
+        <source></source>
+        <translation>Quit Lurkwell</translation>
+    </message>
+    <message id="helper_refused_without">
+        <source></source>
+        <translation>Continue Without</translation>
+    </message>
+    <message id="helper_not_wanted">
+        <source></source>
+        <translation>Lurkwell was started without an administrator's rights</translation>
+    </message>
+    <message id="helper_refused_by_user">
+        <source></source>
+        <translation>Lurkwell goes on without an administrator's rights, as you chose</translation>
+    </message>
+    <message id="shortcut_overlay">
+        <source></source>
+        <translation>Animated view over the screen</translation>
+    </message>
+    <message id="notifications_no_bus">
+        <source></source>
+        <translation>there is no session bus</translation>
+    </message>
+    <message id="notifications_too_many">
+        <source></source>
+        <translation>too many at a time</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,5 @@
 #include "alerts_window/AlertNotifier.h"
 
-#include <QLocale>
 #include <utility>
 
 #include "alerts_window/AlertTexts.h"
@@ -77,7 +76,7 @@ void AlertNotifier::SumUp(std::uint64_t ruleId, Recent& recent) {
   auto none = recent.latest;
   none.subject.process = {};
   Send("rule-" + std::to_string(ruleId),
-       LocalizedString("alerts_more").arg(QLocale().toString(qlonglong(recent.untold))), body,
+       LocalizedString("alerts_more", static_cast<qint64>(recent.untold)), body,
        "alerts_show_window", none);
   recent.untold = 0;
 }

@@ -1,6 +1,5 @@
 #include "alerts_window/AlertTexts.h"
 
-#include <QLocale>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -10,6 +9,7 @@
 #include "consolidator/PI_Consolidator.h"
 #include "platform/Machine.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/PropertyText.h"
 #include "windows/QueryErrorWords.h"
 
@@ -26,7 +26,7 @@ QString TextWith(const char* id, const std::string& word) {
 }
 
 QString NumberedText(const char* id, qlonglong number) {
-  return LocalizedString(id).arg(QLocale().toString(number));
+  return LocalizedString(id).arg(LocalNumber(number));
 }
 
 /// As a rule has it: the filter's own marks lose their meaning.
@@ -120,7 +120,7 @@ QString AlertStateText(const AlertCentre::Rule& rule) {
     const bool isOne = watch.Rule().IsOfMachine() || watch.Firing() == 1;
     texts += isOne
                  ? LocalizedString("alerts_state_firing")
-                 : NumberedText("alerts_state_firing_for", static_cast<qlonglong>(watch.Firing()));
+                 : LocalizedString("alerts_state_firing_for", static_cast<qint64>(watch.Firing()));
   } else if (watch.Pending() > 0) {
     texts += LocalizedString("alerts_state_pending")
                  .arg(AlertSpanText(watch.LongestPending()), AlertSpanText(watch.Rule().hold));
@@ -173,8 +173,8 @@ QString AlertTrialText(const RuleWatch& watch) {
     if (!isFraction) value = static_cast<std::int64_t>(*total);
     if (type == kPropertyTypeTime) value = TimeValue{static_cast<std::int64_t>(*total), 0};
     sum.figures.emplace_back(watch.Rule().totalProperty, std::move(value));
-    texts += LocalizedString("alerts_trial_total")
-                 .arg(AlertFiguresText(sum), QLocale().toString(qlonglong(watch.Meeting())));
+    texts += LocalizedString("alerts_trial_total", static_cast<qint64>(watch.Meeting()))
+                 .arg(AlertFiguresText(sum));
   } else if (watch.Meeting() == 0) {
     texts += LocalizedString("alerts_trial_none");
   } else {

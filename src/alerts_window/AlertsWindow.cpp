@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
 #include <QShortcut>
@@ -22,6 +21,7 @@
 #include "platform/ProcessManager.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/HelpKey.h"
 #include "windows/PropertyText.h"
@@ -50,10 +50,7 @@ QPointer<AlertsWindow> sAlertsWindow;
 QString CalendarText(TimeValue time) {
   const auto moment = QDateTime::fromSecsSinceEpoch(time.seconds);
   const bool isToday = moment.date() == QDate::currentDate();
-  return isToday ? QLocale()
-                       .toString(moment.time(), QLocale::LongFormat)
-                       .section(QLatin1Char(' '), 0, 0)
-                 : QLocale().toString(moment, QLocale::ShortFormat);
+  return isToday ? LocalTimeText(moment.time()) : LocalDateTimeText(moment);
 }
 
 void SetUp(QTableWidget& table, const char* name) {
@@ -330,9 +327,8 @@ void AlertsWindow::ShowNotes() {
   QStringList notes;
   if (!mSaid.isEmpty()) notes += mSaid;
   if (mCentre.CountLeftOut() > 0)
-    notes += LocalizedString("alerts_left_out")
-                 .arg(QLocale().toString(qlonglong(mCentre.CountLeftOut())),
-                      QLocale().toString(qlonglong(kMostAlertRules)));
+    notes += LocalizedString("alerts_left_out", static_cast<qint64>(mCentre.CountLeftOut()))
+                 .arg(LocalNumber(static_cast<qint64>(kMostAlertRules)));
   if (const auto& problem = mCentre.LogProblem(); !problem.empty())
     notes += LocalizedString("alerts_log_problem").arg(QString::fromStdString(problem));
   if (const auto problem = mCommands.notificationProblem(); !problem.isEmpty())

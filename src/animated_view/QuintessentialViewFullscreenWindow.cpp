@@ -44,7 +44,7 @@ void TellOnce(QObject& context) {
                                       LocalizedString("overlay_needs_compositor_text")
                                           .arg(OverlayKey().toString(QKeySequence::NativeText))
                                           .toStdString(),
-                                      "OK", "", "");
+                                      LocalizedString("alert_ok").toStdString(), "", "");
   };
   QMetaObject::invokeMethod(&context, tell, Qt::QueuedConnection);
 }

@@ -13,7 +13,6 @@
 #include "fleet/FleetAddress.h"
 #include "fleet_window/FleetWindow.h"
 #include "main_window/HelpWindow.h"
-#include "platform/Bundle.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
 #include "platform/RunLoop.h"
@@ -115,8 +114,7 @@ int RunFleetMode(const CommandLine& commandLine, const FleetChoice& choice) {
   qApp->installEventFilter(&end);
   auto& window = FleetWindow::Open(choice.address, choice.credentials);
   SetHelp([shown = QPointer<FleetWindow>(&window)](HelpSection section) {
-    const auto page = QString::fromStdString(
-        TheMachine().bundle.Path() + "/Contents/Resources/Documentation/Documentation.html");
+    const auto page = HelpPage();
     if (shown != nullptr && !ShowHelp(page, QLatin1String(AnchorOf(section)), *shown))
       Diagnose("cannot read '%s'", page.toUtf8().constData());
   });

@@ -67,7 +67,7 @@ void RecordingSwitch::Complain(const char* title, std::string message) {
   AlertText text;
   text.title = LocalizedString(title).toStdString();
   text.message = std::move(message);
-  text.otherButton = "OK";
+  text.otherButton = LocalizedString("alert_ok").toStdString();
   mComplaint = TheMachine().alerts.Ask(text, [](AlertAnswer) {});
 }
 

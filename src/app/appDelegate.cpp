@@ -110,7 +110,7 @@ void vqAppDelegate::init() {
 void vqAppDelegate::applicationDidFinishLaunching() {
   if (!SystemHasNecessaryTools()) {
     TheMachine().alerts.RunAlertPanel(LocalizedString("darwin_tools_not_found").toStdString(), " ",
-                                      "OK", "", "");
+                                      LocalizedString("alert_ok").toStdString(), "", "");
     std::exit(-1);
   }
   mIsRunning = true;
@@ -273,7 +273,7 @@ void vqAppDelegate::Complain(const char* title, const std::string& words) {
   AlertText text;
   text.title = LocalizedString(title).toStdString();
   text.message = words;
-  text.otherButton = "OK";
+  text.otherButton = LocalizedString("alert_ok").toStdString();
   mComplaint = TheMachine().alerts.Ask(text, [](AlertAnswer) {});
 }
 
@@ -289,7 +289,7 @@ void vqAppDelegate::CheckGraphicsOnce() {
       [] {
         if (TheMachine().screen.UsesOpenGLAcceleration()) return;
         TheMachine().alerts.RunAlertPanel(LocalizedString("no_quartz_extreme").toStdString(), " ",
-                                          "OK", "", "");
+                                          LocalizedString("alert_ok").toStdString(), "", "");
       },
       Qt::QueuedConnection);
 }

@@ -11,6 +11,7 @@
 #include "platform/Clock.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
+#include "platform/UserText.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -49,16 +50,17 @@ std::string Sentence(std::string clause) {
 
 AlertText RefusalText(const std::string& reason, bool mayAskAgain) {
   AlertText text;
-  text.title =
-      "Lurkwell must be authenticated in order to run on this computer with an administrator "
-      "password.";
-  text.message = Sentence(reason) +
-                 ".\n\nWithout an administrator's rights Lurkwell shows every process and acts on "
-                 "your own. It will not ask at the next start; the status line says how to be "
-                 "asked.";
-  if (mayAskAgain) text.defaultButton = "Authenticate Again";
-  text.alternateButton = "Quit Lurkwell";
-  text.otherButton = "Continue Without";
+  text.title = UserText("helper_refused_title",
+                        "Lurkwell must be authenticated in order to run on this computer with an "
+                        "administrator password.");
+  text.message =
+      Sentence(reason) + ".\n\n" +
+      UserText("helper_refused_text",
+               "Without an administrator's rights Lurkwell shows every process and acts on your "
+               "own. It will not ask at the next start; the status line says how to be asked.");
+  if (mayAskAgain) text.defaultButton = UserText("helper_refused_again", "Authenticate Again");
+  text.alternateButton = UserText("helper_refused_quit", "Quit Lurkwell");
+  text.otherButton = UserText("helper_refused_without", "Continue Without");
   return text;
 }
 
@@ -117,7 +119,9 @@ bool DaemonLaunch::AdvanceBeginning() {
   mAlways = AlwaysAuthenticates();
   if (const auto obstacle = Install(); !obstacle.empty()) return OpenOwnHelper(obstacle);
   if (mUnprivileged)
-    return ServeUnprivileged("Lurkwell was started without an administrator's rights", true);
+    return ServeUnprivileged(
+        UserText("helper_not_wanted", "Lurkwell was started without an administrator's rights"),
+        true);
   return mAlways ? SetPermissions() : CheckPermissions();
 }
 
@@ -218,7 +222,9 @@ bool DaemonLaunch::Checked(bool hasRights) {
     return Open(Purpose::kServeWithAuthorization);
   }
   if (GoesOnWithoutRights())
-    return ServeUnprivileged("Lurkwell goes on without an administrator's rights, as you chose",
+    return ServeUnprivileged(UserText("helper_refused_by_user",
+                                      "Lurkwell goes on without an administrator's rights, as you "
+                                      "chose"),
                              true);
   return SetPermissions();
 }

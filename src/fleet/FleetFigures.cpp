@@ -5,6 +5,7 @@
 
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 
 namespace lurkwell {
 namespace {
@@ -100,6 +101,8 @@ constexpr FleetFigure kColumnsOfGroups[] = {kCpu,     kMemory,    kSwap,    kDis
 constexpr FleetFigure kColumnsOfOne[] = {kCpu,     kMemory,    kSwap,    kDisk,
                                          kNetwork, kProcesses, kThreads, kOldest};
 
+constexpr double kMost = 9e18;
+
 /// "45 s", "12 min", "5 h", "3 d".
 QString SpanText(double seconds) {
   const struct {
@@ -117,9 +120,8 @@ QString SpanText(double seconds) {
 }
 
 QString BytesText(double value) {
-  constexpr double kMost = 9e18;
-  auto text = QString::fromStdString(
-      MemoryString(static_cast<std::int64_t>(std::clamp(value, 0.0, kMost))));
+  auto text = LocalFigure(QString::fromStdString(
+      MemoryString(static_cast<std::int64_t>(std::clamp(value, 0.0, kMost)))));
   if (text.back().isDigit()) text += QLatin1String(" B");
   return text;
 }
@@ -151,15 +153,15 @@ QString FleetFigureText(FleetFigure figure, double value, double now) {
   if (!std::isfinite(value)) return QStringLiteral("–");
   switch (RowOf(figure).unit) {
     case FleetUnit::kShare:
-      return QString::number(value * 100, 'f', 1);
+      return LocalNumber(value * 100, 'f', 1);
     case FleetUnit::kBytes:
       return BytesText(value);
     case FleetUnit::kBytesPerSecond:
       return BytesText(value) + QLatin1String("/s");
     case FleetUnit::kNumber:
-      return QString::number(value, 'f', 2);
+      return LocalNumber(value, 'f', 2);
     case FleetUnit::kCount:
-      return QString::number(value, 'f', 0);
+      return LocalNumber(static_cast<qint64>(std::clamp(value, -kMost, kMost)));
     case FleetUnit::kMoment:
       return SpanText(now - value);
   }

@@ -10,6 +10,7 @@
 #include "fleet/FleetError.h"
 #include "resources/Resources.h"
 #include "windows/CustomCells.h"
+#include "windows/PropertyText.h"
 #include "windows/StripedTableView.h"
 
 namespace lurkwell {
@@ -152,8 +153,7 @@ QVariant FleetModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole:
       return figure ? QVariant() : OneLine(row.name, kLongestName).toHtmlEscaped();
     case Qt::TextAlignmentRole:
-      return QVariant::fromValue(
-          Qt::Alignment((figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
+      return QVariant::fromValue((figure ? kAlignFigures : kAlignTexts) | Qt::AlignVCenter);
     case kCpuShareRole:
       return std::clamp(std::isfinite(row.Of(FleetFigure::kCpu)) ? row.Of(FleetFigure::kCpu) : 0.0,
                         0.0, 1.0);
@@ -173,8 +173,7 @@ QVariant FleetModel::headerData(int section, Qt::Orientation orientation, int ro
   if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return TitleOf(section);
   const auto figure = FigureOf(section);
   if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue(
-        Qt::Alignment((figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
+    return QVariant::fromValue((figure ? kAlignFigures : kAlignTexts) | Qt::AlignVCenter);
   if (role == Qt::ToolTipRole && figure)
     return LocalizedString((RowOf(*figure).title + std::string("_tip")).c_str());
   return {};

@@ -8,7 +8,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -23,6 +22,7 @@
 #include "fleet_window/SignInDialog.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/CheckedButtons.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/HelpKey.h"
@@ -296,8 +296,8 @@ void FleetWindow::ShowError() {
   auto words = error ? error->Text() : QString();
   if (hasOld) {
     const auto time = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(mSession.Table()->time));
-    words += QLatin1Char(' ') +
-             LocalizedString("fleet_old_figures").arg(time.toString(QStringLiteral("HH:mm:ss")));
+    words +=
+        QLatin1Char(' ') + LocalizedString("fleet_old_figures").arg(LocalTimeText(time.time()));
   }
   mErrorWords->setText(words);
   mErrorWords->setAccessibleName(words);
@@ -311,21 +311,17 @@ void FleetWindow::ShowStatus() {
   const bool isOfView = table && table->view.level == mModel.Level() && mModel.rowCount() > 0;
   if (isOfView) {
     const bool areMachines = RowsAreMachines(mModel.Level());
-    parts.append(LocalizedString(areMachines ? "fleet_count_machines" : "fleet_count_groups")
-                     .arg(QLocale().toString(qlonglong{table->all})));
-    if (table->down > 0)
-      parts.append(
-          LocalizedString("fleet_count_down").arg(QLocale().toString(qlonglong{table->down})));
+    parts.append(LocalizedString(areMachines ? "fleet_count_machines" : "fleet_count_groups",
+                                 qint64{table->all}));
+    if (table->down > 0) parts.append(LocalizedString("fleet_count_down", qint64{table->down}));
     if (table->all > static_cast<std::int64_t>(table->rows.size()))
       parts.append(
-          LocalizedString(table->view.isAscending ? "fleet_shown_least" : "fleet_shown_most")
-              .arg(QString::number(table->rows.size()),
-                   LocalizedString(RowOf(table->view.sortedBy).title)));
+          LocalizedString(table->view.isAscending ? "fleet_shown_least" : "fleet_shown_most",
+                          static_cast<qint64>(table->rows.size()))
+              .arg(LocalizedString(RowOf(table->view.sortedBy).title)));
     const auto time = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(table->time));
-    parts.append(LocalizedString("fleet_as_of").arg(time.toString(QStringLiteral("HH:mm:ss"))));
-    if (table->leftOut > 0)
-      parts.append(
-          LocalizedString("fleet_left_out").arg(QLocale().toString(qlonglong{table->leftOut})));
+    parts.append(LocalizedString("fleet_as_of").arg(LocalTimeText(time.time())));
+    if (table->leftOut > 0) parts.append(LocalizedString("fleet_left_out", qint64{table->leftOut}));
     for (const auto& warning : table->warnings) parts.append(warning);
   }
   if (mSession.IsAsking()) parts.append(LocalizedString("fleet_asking"));

@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <algorithm>
 #include <cmath>
 
 #include "consolidator/ProcessQueries.h"
@@ -37,21 +38,23 @@ BusiestTable::BusiestTable(QWidget* parent)
   header.setHighlightSections(false);
   header.setSectionsClickable(false);
   header.setSectionResizeMode(kName, QHeaderView::Stretch);
-  const auto wide = [this](const char* sample) {
-    return fontMetrics().horizontalAdvance(QLatin1String(sample)) + kCellMargin;
+  const auto widen = [this](int column, const char* sample) {
+    const int title = fontMetrics().horizontalAdvance(horizontalHeaderItem(column)->text());
+    const int figure = fontMetrics().horizontalAdvance(QLatin1String(sample));
+    setColumnWidth(column, std::max(title, figure) + kCellMargin);
   };
-  setColumnWidth(kPid, wide("8888888"));
-  setColumnWidth(kCPU, wide("1600.0 %"));
-  setColumnWidth(kMemory, wide("1023.9 M"));
+  widen(kPid, "8888888");
+  widen(kCPU, "1600.0 %");
+  widen(kMemory, "1023.9 M");
   for (int row = 0; row < rowCount(); ++row)
     for (int column = 0; column < kColumnCount; ++column) {
       auto* item = new QTableWidgetItem;
-      item->setTextAlignment((column == kName ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+      item->setTextAlignment((column == kName ? kAlignTexts : kAlignFigures) | Qt::AlignVCenter);
       setItem(row, column, item);
     }
   for (int column = 0; column < kColumnCount; ++column)
-    horizontalHeaderItem(column)->setTextAlignment(
-        (column == kName ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    horizontalHeaderItem(column)->setTextAlignment((column == kName ? kAlignTexts : kAlignFigures) |
+                                                   Qt::AlignVCenter);
   setMinimumHeight(header.sizeHint().height() +
                    rowCount() * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
   connect(this, &QTableWidget::cellClicked, this, &BusiestTable::Choose);

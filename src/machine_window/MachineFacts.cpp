@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/GraphScale.h"
 #include "windows/PropertyText.h"
 
@@ -15,7 +16,7 @@ constexpr std::size_t kMostTemperatures = 6;
 
 QString LoadText(const MachineFigures& figures) {
   if (!figures.load) return LocalizedString("machine_no_load");
-  const auto part = [&](std::size_t i) { return QString::number((*figures.load)[i], 'f', 2); };
+  const auto part = [&](std::size_t i) { return LocalNumber((*figures.load)[i], 'f', 2); };
   return LocalizedString("machine_load").arg(part(0), part(1), part(2));
 }
 
@@ -24,7 +25,7 @@ QString FrequencyText(const std::vector<Frequency>& frequencies) {
   double sum = 0;
   for (const auto& frequency : frequencies) sum += static_cast<double>(frequency.hertz);
   const auto [slowest, fastest] = std::ranges::minmax_element(frequencies, {}, &Frequency::hertz);
-  const auto gigahertz = [](double hertz) { return QString::number(hertz / 1e9, 'f', 2); };
+  const auto gigahertz = [](double hertz) { return LocalNumber(hertz / 1e9, 'f', 2); };
   return LocalizedString("machine_frequency")
       .arg(gigahertz(sum / static_cast<double>(frequencies.size())),
            gigahertz(static_cast<double>(slowest->hertz)),
@@ -39,10 +40,10 @@ QStringList TemperatureTexts(std::vector<Temperature> temperatures) {
   for (const auto& [name, celsius] : temperatures) {
     if (static_cast<std::size_t>(texts.size()) == kMostTemperatures) {
       const auto left = temperatures.size() - kMostTemperatures;
-      texts += LocalizedString("machine_more_temperatures").arg(left);
+      texts += LocalizedString("machine_more_temperatures", static_cast<qint64>(left));
       break;
     }
-    texts += PlainText(name) + QStringLiteral(": %1 °C").arg(celsius, 0, 'f', 0);
+    texts += PlainText(name) + QStringLiteral(": %1 °C").arg(LocalNumber(celsius, 'f', 0));
   }
   return texts;
 }
@@ -58,7 +59,8 @@ QString MachineFactsText(const MachineFigures& figures) {
 QString MachineLimitsText(const MachineLimits& limits) {
   QStringList parts;
   if (limits.processors)
-    parts += LocalizedString("machine_limit_processors").arg(*limits.processors, 0, 'g', 3);
+    parts += LocalizedString("machine_limit_processors", *limits.processors,
+                             LocalNumber(*limits.processors, 'g', 3));
   if (limits.memory) {
     const auto text = [](std::int64_t bytes) {
       return GraphFigureText(GraphUnit::kBytes, static_cast<double>(bytes));

@@ -133,6 +133,7 @@ QString ProcessorGrid::figures() const {
 
 void ProcessorGrid::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  painter.setLayoutDirection(Qt::LeftToRight);
   auto bold = font();
   bold.setBold(true);
   painter.setFont(bold);

@@ -42,10 +42,15 @@ QString Text(const char* prefix, const char* word, const char* suffix = "") {
   return LocalizedString((std::string(prefix) + word + suffix).c_str());
 }
 
+/// The same in the form for so many processes.
+QString CountedText(const std::string& id, std::size_t count) {
+  return LocalizedString(id.c_str(), static_cast<qint64>(count));
+}
+
 QString TimesText(int times) {
   if (times == 1) return LocalizedString("times_once");
   if (times == 2) return LocalizedString("times_twice");
-  return LocalizedString("times_many").arg(times);
+  return LocalizedString("times_many", qint64{times});
 }
 
 const char* StepWord(KillStep step, int timesAsked) {
@@ -166,7 +171,7 @@ QString Whom(const std::vector<const ActionReport*>& reports) {
   }
   auto list = names.join(QLatin1String(", "));
   if (static_cast<std::size_t>(names.size()) < reports.size()) list += QLatin1String(" …");
-  return LocalizedString("action_processes").arg(QString::number(reports.size()), list);
+  return CountedText("action_processes", reports.size()).arg(list);
 }
 
 }  // namespace
@@ -174,7 +179,7 @@ QString Whom(const std::vector<const ActionReport*>& reports) {
 QString QuestionTitle(const ActionPlan& plan) {
   const auto* word = CommandWord(plan);
   if (plan.targets.size() != 1)
-    return Text("action_ask_", word, "_several").arg(plan.targets.size());
+    return CountedText("action_ask_" + std::string(word) + "_several", plan.targets.size());
   const auto& target = plan.targets.front();
   return Text("action_ask_", word, "_one")
       .arg(QString::number(target.process.pid), PlainText(target.name));
@@ -204,8 +209,7 @@ QString QuestionWarning(const ActionPlan& plan) {
     warnings.append(LocalizedString(isOne ? "action_warn_own" : "action_warn_own_among"));
   const auto others = CountOthers(plan);
   if (others > 0 && !isOne)
-    warnings.append(
-        LocalizedString(others == 1 ? "action_warn_others_one" : "action_warn_others").arg(others));
+    warnings.append(LocalizedString("action_warn_others", static_cast<qint64>(others)));
   return warnings.join(QLatin1Char(' '));
 }
 
@@ -223,7 +227,7 @@ QString ReportText(const ActionPlan& plan, const std::vector<ActionReport>& repo
     sentences.append(LocalizedString("action_failed").arg(Whom(whom), why.second));
   const auto argument = ArgumentText(plan);
   for (const auto& [word, whom] : done) {
-    const auto text = Text("action_done_", word.c_str(), whom.size() == 1 ? "_one" : "_several");
+    const auto text = CountedText("action_done_" + word, whom.size());
     sentences.append(argument.isEmpty() ? text.arg(Whom(whom)) : text.arg(Whom(whom), argument));
   }
   return sentences.join(QLatin1Char(' '));

@@ -95,7 +95,7 @@ void FilterMenu::ShowMatches(const QString& text) {
   for (const auto& group : mGroups) group.menu->menuAction()->setVisible(wanted.isEmpty());
   const auto left = matches.size() - mShown.size();
   mRemark->setVisible(!wanted.isEmpty() && (left > 0 || mShown.isEmpty()));
-  mRemark->setText(left > 0 ? LocalizedString("column_filter_more").arg(left)
+  mRemark->setText(left > 0 ? LocalizedString("column_filter_more", qint64{left})
                             : LocalizedString("column_filter_nothing"));
   if (!mShown.isEmpty()) setActiveAction(mShown.first());
 }

@@ -13,6 +13,8 @@
 #include <QVBoxLayout>
 
 #include "main_window/CommandTable.h"
+#include "platform/Bundle.h"
+#include "platform/Machine.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/OverlayKey.h"
@@ -80,6 +82,13 @@ bool ShowInBrowser(const QString& page, const QString& section) {
 }
 
 }  // namespace
+
+QString HelpPage() {
+  const auto page = QString::fromStdString(TheMachine().bundle.Path()) +
+                    QLatin1String("/Contents/Resources/Documentation/Documentation");
+  const auto translated = page + QLatin1Char('_') + InstalledLanguage() + QLatin1String(".html");
+  return QFile::exists(translated) ? translated : page + QLatin1String(".html");
+}
 
 QString FillHelpPage(QString page) {
   const auto overlay = OverlayKey();

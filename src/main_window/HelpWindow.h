@@ -8,6 +8,9 @@ namespace lurkwell {
 
 // The help page. Main thread.
 
+/// The page's file in the language of the texts, else in English.
+QString HelpPage();
+
 /// The page with what it says about keys filled in: those of the table of commands, and the one of
 /// the preferences that lays the animated view over the screen.
 QString FillHelpPage(QString page);

@@ -206,7 +206,8 @@ void MainMenus::BuildSortMenu(QMenu& view) {
 
 QString MainMenus::NameOfSelection() const {
   const auto pids = mController.selectedPids();
-  if (pids.size() != 1) return LocalizedString("context_menu_several").arg(pids.size());
+  if (pids.size() != 1)
+    return LocalizedString("context_menu_several", static_cast<qint64>(pids.size()));
   const auto name = vqMainTableController::nameOf(pids.front());
   return LocalizedString("context_menu_one")
       .arg(mContextMenu.fontMetrics().elidedText(name, Qt::ElideMiddle, kWidestName),

@@ -270,7 +270,7 @@ QString vqMainTableController::totalTip(const RowDictionary& row, const Column& 
   const KeyId columns[] = {column.key};
   if (KeysToAddUp(columns).empty()) return {};
   const int count = row.Standing().below + (row.Group() == nullptr ? 1 : 0);
-  auto text = LocalizedString("total_tip").arg(count);
+  auto text = LocalizedString("total_tip", qint64{count});
   if (column.key == kPidRsz || column.key == kInternalMemGraph)
     text += QLatin1Char('\n') + LocalizedString("total_memory_tip");
   return text;

@@ -20,13 +20,13 @@
 #include "main_window/OneProcess.h"
 #include "main_window/ProcessAddress.h"
 #include "main_window/ToolbarCustomiseDialog.h"
-#include "platform/Bundle.h"
 #include "platform/Machine.h"
 #include "platform/PreferenceDomain.h"
 #include "platform/ProcessManager.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/HelpKey.h"
 #include "windows/PropertyText.h"
@@ -205,8 +205,7 @@ void MainWindow::showHelp() {
 }
 
 void MainWindow::ShowHelpSection(const QString& section) {
-  const auto page = QString::fromStdString(TheMachine().bundle.Path() +
-                                           "/Contents/Resources/Documentation/Documentation.html");
+  const auto page = HelpPage();
   if (!ShowHelp(page, section, *this))
     Report(LocalizedString("main_window_help_missing").arg(page));
 }
@@ -328,8 +327,8 @@ QString MainWindow::HowItIsHeld() const {
   QString text;
   if (mController->isPaused())
     text += LocalizedString("main_window_status_paused")
-                .arg(mController->rows().CountEnded())
-                .arg(mController->rows().CountWaiting()) +
+                .arg(LocalNumber(static_cast<qint64>(mController->rows().CountEnded())),
+                     LocalNumber(static_cast<qint64>(mController->rows().CountWaiting()))) +
             QLatin1Char(' ');
   if (mController->followsSelection())
     text += LocalizedString("main_window_status_follows") + QLatin1Char(' ');
@@ -337,29 +336,22 @@ QString MainWindow::HowItIsHeld() const {
 }
 
 void MainWindow::UpdateStatus() {
-  const auto selected = mController->selectedPids().size();
-  const auto processes = mController->pidEntries().size();
-  const auto matches = mController->countOfMatches();
+  const auto selected = static_cast<qint64>(mController->selectedPids().size());
+  const auto processes = static_cast<qint64>(mController->pidEntries().size());
+  const auto matches = static_cast<qint64>(mController->countOfMatches());
   const auto what = WhatIsShown();
   if (what.isEmpty())
-    mCounts->setText(HowItIsHeld() + LocalizedString(processes == 1
-                                                         ? "main_window_status_counts_one"
-                                                         : "main_window_status_counts")
-                                         .arg(processes)
-                                         .arg(matches)
-                                         .arg(selected));
+    mCounts->setText(HowItIsHeld() + LocalizedString("main_window_status_counts", processes)
+                                         .arg(LocalNumber(matches), LocalNumber(selected)));
   else
-    mCounts->setText(HowItIsHeld() + LocalizedString("main_window_status_some")
-                                         .arg(matches)
-                                         .arg(processes)
-                                         .arg(what)
-                                         .arg(selected));
+    mCounts->setText(HowItIsHeld() + LocalizedString("main_window_status_some", processes)
+                                         .arg(LocalNumber(matches), what, LocalNumber(selected)));
   if (selected > 0) {
     const auto totals = mController->selectionTotals();
     mCounts->setText(mCounts->text() +
                      LocalizedString("main_window_status_totals")
-                         .arg(NumberOf(totals.share) * 100.0, 0, 'f', 1)
-                         .arg(DisplayText(kPropertyTypeMemory, totals.memory, 0, 0)));
+                         .arg(LocalNumber(NumberOf(totals.share) * 100.0, 'f', 1),
+                              DisplayText(kPropertyTypeMemory, totals.memory, 0, 0)));
   }
   // What does not fit can be read all the same.
   mCounts->setToolTip(mCounts->text());
@@ -374,7 +366,8 @@ QString MainWindow::WhyNothingIsShown() const {
   const auto gaps = mController->filterGaps();
   if (!mController->isFiltered())
     return LocalizedString("main_window_scope_hides_all").arg(WhatIsShown());
-  if (gaps.notYetKnown > 0) return LocalizedString("filter_looks").arg(gaps.notYetKnown);
+  if (gaps.notYetKnown > 0)
+    return LocalizedString("filter_looks", static_cast<qint64>(gaps.notYetKnown));
   if (gaps.notAllowed > 0)
     return LocalizedString("filter_hides_all_not_allowed").arg(gaps.notAllowed);
   return LocalizedString("main_window_filter_hides_all");

@@ -205,7 +205,7 @@ void ProcessCommands::Follow(void (MonitorWindows::*open)(std::int32_t, std::int
   QMessageBox box(mSelection.parentOfQuestions());
   box.setIcon(QMessageBox::Information);
   box.setTextFormat(Qt::PlainText);
-  box.setText(LocalizedString("follow_limit_title").arg(pids.size()).arg(wanted));
+  box.setText(LocalizedString("follow_limit_title", static_cast<qint64>(pids.size())).arg(wanted));
   box.setInformativeText(LocalizedString("follow_limit_text"));
   box.exec();
 }
@@ -214,7 +214,7 @@ bool ProcessCommands::ConfirmFollowing(std::size_t windows) {
   QMessageBox box(mSelection.parentOfQuestions());
   box.setIcon(QMessageBox::Question);
   box.setTextFormat(Qt::PlainText);
-  box.setText(LocalizedString("follow_confirmation_title").arg(windows));
+  box.setText(LocalizedString("follow_confirmation_title", static_cast<qint64>(windows)));
   box.setInformativeText(LocalizedString("follow_confirmation_text"));
   const QAbstractButton* open =
       box.addButton(LocalizedString("follow_confirmation_open"), QMessageBox::AcceptRole);
@@ -305,7 +305,8 @@ void ProcessCommands::SelectChildren() {
   if (children.empty()) return mSelection.report(LocalizedString("main_window_no_children"));
   const auto shown = mSelection.selectPids(children);
   if (shown < children.size())
-    mSelection.report(LocalizedString("main_window_hidden_children").arg(children.size() - shown));
+    mSelection.report(LocalizedString("main_window_hidden_children",
+                                      static_cast<qint64>(children.size() - shown)));
 }
 
 bool ProcessCommands::anyPIDsInSelection(const std::vector<std::int32_t>& pids) {

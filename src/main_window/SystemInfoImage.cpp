@@ -7,6 +7,7 @@
 #include "platform/Diagnostics.h"
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/SystemFigures.h"
 
 namespace lurkwell {
@@ -88,14 +89,14 @@ void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures) {
 namespace {
 
 QString Size(std::int64_t bytes) {
-  return QString::fromStdString(MemoryString(bytes)).trimmed();
+  return LocalFigure(QString::fromStdString(MemoryString(bytes)).trimmed());
 }
 
 }  // namespace
 
 QString CPUGaugeText(double usage, int processors) {
-  const char* id = processors == 1 ? "toolbar_system_cpu_figure_one" : "toolbar_system_cpu_figure";
-  return LocalizedString(id).arg(std::lround(usage * 100.0)).arg(processors);
+  return LocalizedString("toolbar_system_cpu_figure", qint64{processors})
+      .arg(std::lround(usage * 100.0));
 }
 
 QString MemoryGaugeText(const SystemFigures& figures) {
@@ -105,8 +106,7 @@ QString MemoryGaugeText(const SystemFigures& figures) {
 }
 
 QString PageoutsText(std::int64_t pages) {
-  const char* id = pages == 1 ? "toolbar_vm_thrashing_figure_one" : "toolbar_vm_thrashing_figure";
-  return LocalizedString(id).arg(pages);
+  return LocalizedString("toolbar_vm_thrashing_figure", qint64{pages});
 }
 
 }  // namespace lurkwell

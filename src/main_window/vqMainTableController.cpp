@@ -1,7 +1,6 @@
 #include "main_window/vqMainTableController.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QMainWindow>
 #include <QScrollBar>
 #include <QTimer>
@@ -17,6 +16,7 @@
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/PropertyText.h"
 #include "windows/RowSorting.h"
 
@@ -267,12 +267,12 @@ QString vqMainTableController::textOf(const RowDictionary& row, const Column& co
   if (row.Group() != nullptr && column.key == kMetaPid) return {};
   if (const auto* count = std::get_if<std::int64_t>(&row.Shown(column.key));
       count != nullptr && column.isCount)
-    return QLocale().toString(qlonglong{*count});
+    return LocalNumber(qint64{*count});
   if (column.type != kPropertyTypeDate || fTable == nullptr) {
     const auto text = DisplayText(column.type, row.Shown(column.key), 15, row.Pid());
     const bool counts = row.Group() != nullptr || row.Standing().fold == RowStanding::Fold::kFolded;
     return counts && column.key == kMetaName
-               ? text + QLatin1String(" (") + QString::number(row.Standing().below) +
+               ? text + QLatin1String(" (") + LocalNumber(qint64{row.Standing().below}) +
                      QLatin1Char(')')
                : text;
   }
@@ -284,7 +284,7 @@ QString vqMainTableController::textOf(const RowDictionary& row, const Column& co
 
 QString vqMainTableController::barTextOf(const RowDictionary& row, const Column& column) {
   if (column.key == kInternalCPUPercent)
-    return QString::number(NumberOf(row.Shown(kInternalCpuUsage)) * 100.0, 'f', 1);
+    return LocalNumber(NumberOf(row.Shown(kInternalCpuUsage)) * 100.0, 'f', 1);
   return DisplayText(kPropertyTypeMemory, row.Shown(MemoryFigureKey()), 0, row.Pid());
 }
 
@@ -299,7 +299,7 @@ QVariant vqMainTableController::objectValueForTableColumn(int columnIndex, int r
 
 QString vqMainTableController::spokenText(const RowDictionary& row, const Column& column) const {
   if (column.key == kInternalCPUPercent)
-    return QString::number(NumberOf(row.Shown(kInternalCpuUsage)) * 100.0, 'f', 1) +
+    return LocalNumber(NumberOf(row.Shown(kInternalCpuUsage)) * 100.0, 'f', 1) +
            QLatin1String(" %");
   if (column.key == kInternalMemGraph) {
     const auto size = [&](KeyId key) {
@@ -352,7 +352,8 @@ QString vqMainTableController::tooltipOf(const RowDictionary& row, const Column&
   if (isMissing) lines.append(MissingTip(KeyText(column.key), row.Get(column.key)));
   constexpr std::int64_t kWorthTelling = 5000;
   const auto age = AgeOfPIDProperty(row.Pid(), KeyText(column.key).data());
-  if (age && *age >= kWorthTelling) lines.append(LocalizedString("value_age_tip").arg(*age / 1000));
+  if (age && *age >= kWorthTelling)
+    lines.append(LocalizedString("value_age_tip", qint64{*age / 1000}));
   const bool isName = column.key == kMetaName || column.key == kPidCommandName;
   if (row.Pid() == 0 && (isName || column.key == kInternalCPUPercent))
     lines.append(LocalizedString("main_window_idle_task_tip"));
@@ -383,8 +384,7 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
     case Qt::DecorationRole:
       return isPicture ? objectValueForTableColumn(index.column(), index.row()) : QVariant();
     case Qt::TextAlignmentRole:
-      return QVariant(
-          Qt::Alignment(Qt::AlignVCenter | (column.rightAligned ? Qt::AlignRight : Qt::AlignLeft)));
+      return QVariant(Qt::AlignVCenter | (column.rightAligned ? kAlignFigures : kAlignTexts));
     case Qt::AccessibleTextRole:
       return spokenText(row, column) + (isTreeColumn(column) ? spokenStanding(row) : QString()) +
              (row.isDeparted && column.key == treeColumn() ? LocalizedString("row_ended")
@@ -436,7 +436,7 @@ QVariant vqMainTableController::headerData(int section, Qt::Orientation orientat
   if (role == Qt::AccessibleTextRole) return ColumnTitle(key.c_str());
   // A title stands above its figures.
   if (role == Qt::TextAlignmentRole && column.rightAligned)
-    return QVariant(Qt::Alignment(Qt::AlignVCenter | Qt::AlignRight));
+    return QVariant(Qt::AlignVCenter | kAlignFigures);
   if (role == Qt::DisplayRole) return isPicture ? QString() : ColumnTitle(key.c_str());
   if (role == Qt::ToolTipRole)
     return QString(ColumnTitle(key.c_str()) + QLatin1Char('\n') + ColumnTip(key.c_str()));

@@ -8,6 +8,8 @@
 #include "platform/Clock.h"
 #include "platform/Machine.h"
 #include "process_control/DisplayFormats.h"
+#include "resources/UserLocale.h"
+#include "windows/PropertyText.h"
 
 namespace lurkwell {
 namespace {
@@ -32,7 +34,7 @@ constexpr LogField kFields[kLoggingColumns] = {
 class RowWriter {
  public:
   void WriteTime(TimeValue now) {
-    mRow.cells[kTimeStampColumn] = DateString(now, kDateCharacters);
+    mRow.cells[kTimeStampColumn] = DateText(now, kDateCharacters).toStdString();
     mRow.line = TimeString(now);
   }
   void WriteSpan(LoggingColumn column, TimeValue span) {
@@ -54,8 +56,9 @@ class RowWriter {
   LoggedRow Take() { return std::move(mRow); }
 
  private:
-  void Write(LoggingColumn column, std::string cell, const std::string& number) {
-    mRow.cells[column] = std::move(cell);
+  /// People read the cell, programs the line.
+  void Write(LoggingColumn column, const std::string& cell, const std::string& number) {
+    mRow.cells[column] = LocalFigure(QString::fromStdString(cell)).toStdString();
     mRow.line += '\t' + number;
   }
 

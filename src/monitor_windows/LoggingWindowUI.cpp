@@ -39,7 +39,7 @@ constexpr int kCellMargin = 16;
 constexpr qsizetype kMostNotes = 4;
 
 Qt::Alignment AlignmentOf(LoggingColumn column) {
-  return (column == kTimeStampColumn ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
+  return (column == kTimeStampColumn ? kAlignTexts : kAlignFigures) | Qt::AlignVCenter;
 }
 
 /// A line in the table's words at its widest, for the columns' first widths.

@@ -1,6 +1,5 @@
 #include "preferences_window/PreferenceChanges.h"
 
-#include <QLocale>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -11,6 +10,7 @@
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 
 namespace lurkwell {
 namespace {
@@ -39,7 +39,7 @@ std::set<std::string> ConcernedBy(std::span<const Setting* const> entries) {
 
 /// As it is typed: no exponents where a plain number will do.
 QString Plain(double number) {
-  return QString::number(number, 'g', 12);
+  return LocalNumber(number, 'g', 12);
 }
 
 }  // namespace
@@ -69,8 +69,7 @@ void NotifyOf(const Setting& entry) {
 ReadValue ReadNumber(const Setting& entry, const QString& text) {
   bool isNumber = false;
   const QString plain = text.trimmed();
-  double value = plain.toDouble(&isNumber);
-  if (!isNumber) value = QLocale().toDouble(plain, &isNumber);
+  const double value = NumberFromUser(plain, &isNumber);
   if (!isNumber || !std::isfinite(value))
     return {std::nullopt, LocalizedString("settings_problem_no_number").arg(text)};
   if (entry.IsInteger() && value != std::trunc(value))

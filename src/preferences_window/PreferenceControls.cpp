@@ -67,18 +67,14 @@ int ShortPosition(int milliseconds) {
   return static_cast<int>(at - std::begin(kShort)) * kPositionsOfShort;
 }
 
-QString Counted(const char* one, const char* several, int count) {
-  return count == 1 ? LocalizedString(one) : LocalizedString(several).arg(count);
-}
-
 QString InWords(int milliseconds) {
   if (milliseconds < kSecond)
-    return Counted("preferences_once_per_second", "preferences_times_per_second",
-                   static_cast<int>(1000.0 / milliseconds));
+    return LocalizedString("preferences_times_per_second",
+                           static_cast<qint64>(1000.0 / milliseconds));
   if (milliseconds < kMinute)
-    return Counted("preferences_every_second", "preferences_every_seconds", milliseconds / kSecond);
+    return LocalizedString("preferences_every_seconds", qint64{milliseconds / kSecond});
   if (milliseconds != kHour)
-    return Counted("preferences_every_minute", "preferences_every_minutes", milliseconds / kMinute);
+    return LocalizedString("preferences_every_minutes", qint64{milliseconds / kMinute});
   return LocalizedString("preferences_every_hour");
 }
 

@@ -61,7 +61,8 @@ void vqPreferencesUI::runWithTab(int tab, const QString& form) {
     window.reset();
     TheMachine().alerts.RunAlertPanel(
         LocalizedString("preferences_form_missing").toStdString(),
-        LocalizedString("preferences_form_missing_text").toStdString(), "OK", "", "");
+        LocalizedString("preferences_form_missing_text").toStdString(),
+        LocalizedString("alert_ok").toStdString(), "", "");
     return;
   }
   gThePreferencesUI = controller;

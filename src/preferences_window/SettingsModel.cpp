@@ -7,6 +7,7 @@
 #include "platform/PreferenceDomain.h"
 #include "preferences_window/PreferenceChanges.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 
 namespace lurkwell {
 namespace {
@@ -36,7 +37,7 @@ QString MeaningOf(const Setting& entry) {
 namespace {
 
 QString NumberText(double number) {
-  return QString::number(number, 'g', 12);
+  return LocalNumber(number, 'g', 12);
 }
 
 QString TextOf(std::int64_t integer) {
@@ -49,8 +50,7 @@ QString TextOf(const std::string& text) {
   return QString::fromStdString(text);
 }
 QString TextOf(const PreferenceArray& array) {
-  if (array.size() == 1) return LocalizedString("settings_element");
-  return LocalizedString("settings_elements").arg(array.size());
+  return LocalizedString("settings_elements", static_cast<qint64>(array.size()));
 }
 
 /// Null when nothing is stored.
@@ -95,8 +95,13 @@ QString EffectText(const Setting& entry) {
 
 bool IsNumberText(const QString& text) {
   bool isNumber = false;
-  text.toDouble(&isNumber);
+  NumberFromUser(text, &isNumber);
   return isNumber;
+}
+
+bool IsOn(const QString& text) {
+  bool isNumber = false;
+  return NumberFromUser(text, &isNumber) != 0;
 }
 
 }  // namespace
@@ -163,7 +168,7 @@ QVariant SettingsModel::ValueData(int row, int role) const {
   if (role == Qt::DisplayRole || role == Qt::EditRole) return counts;
   if (role == Qt::ToolTipRole) return NoteOf(row);
   if (role == Qt::CheckStateRole && entry.kind == SettingKind::kSwitch)
-    return counts.toDouble() != 0 ? Qt::Checked : Qt::Unchecked;
+    return IsOn(counts) ? Qt::Checked : Qt::Unchecked;
   if (role == Qt::FontRole && !entry.IsProgramsOwn()) {
     QFont font;
     font.setBold(!stored.isNull() && entry.HasDefault() && stored != DefaultText(entry));

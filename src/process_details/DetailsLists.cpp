@@ -14,6 +14,7 @@
 #include "platform/FigureWords.h"
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 
 namespace lurkwell {
 namespace {
@@ -130,14 +131,14 @@ TypedValue GroupNumber(ControlGroupDetails::Unit unit, std::optional<std::int64_
     case Unit::kNumber:
       break;
     case Unit::kBytes:
-      return MemoryString(*number);
+      return LocalFigure(QString::fromStdString(MemoryString(*number))).toStdString();
     case Unit::kMicroseconds:
       return QStringLiteral("%1 s")
-          .arg(static_cast<double>(*number) / 1e6, 0, 'f', 2)
+          .arg(LocalNumber(static_cast<double>(*number) / 1e6, 'f', 2))
           .toStdString();
     case Unit::kShareOfProcessor:
-      return LocalizedString("details_group_processors")
-          .arg(static_cast<double>(*number) / 1000, 0, 'g', 4)
+      return LocalizedString("details_group_processors", static_cast<double>(*number) / 1000,
+                             LocalNumber(static_cast<double>(*number) / 1000, 'g', 4))
           .toStdString();
   }
   return *number;
@@ -200,11 +201,11 @@ std::vector<DetailsRow> DetailsRows::Of(const std::vector<ThreadDetails>& thread
 }
 
 QString CountText(DetailsKind kind, const DetailsAnswer& answer) {
-  auto text = LocalizedString(LookOf(kind).count).arg(answer.count);
+  auto text = LocalizedString(LookOf(kind).count).arg(LocalNumber(qint64{answer.count}));
   if (const auto* mappings = std::get_if<std::vector<MappingDetails>>(&answer.list)) {
     const auto sum = [mappings](auto of) {
-      return QString::fromStdString(MemoryString(std::transform_reduce(
-          mappings->begin(), mappings->end(), std::int64_t{0}, std::plus<>(), of)));
+      return LocalFigure(QString::fromStdString(MemoryString(std::transform_reduce(
+          mappings->begin(), mappings->end(), std::int64_t{0}, std::plus<>(), of))));
     };
     text = text.arg(
         sum([](const auto& its) { return static_cast<std::int64_t>(its.end - its.begin); }),
@@ -215,7 +216,7 @@ QString CountText(DetailsKind kind, const DetailsAnswer& answer) {
       std::visit([](const auto& list) { return list.size(); }, answer.list));
   // Some may have ended while the others were read.
   if (answer.count > shown && shown == static_cast<std::int64_t>(kMostDetails))
-    text = LocalizedString("details_first_ones").arg(text).arg(shown);
+    text = LocalizedString("details_first_ones").arg(text, LocalNumber(qint64{shown}));
   return text;
 }
 

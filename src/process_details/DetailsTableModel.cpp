@@ -134,7 +134,7 @@ QVariant DetailsTableModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
       return IsKnown(value) ? QVariant() : MissingText(value);
     case Qt::TextAlignmentRole:
-      return QVariant::fromValue(Qt::Alignment(column.IsNumber() ? Qt::AlignRight : Qt::AlignLeft) |
+      return QVariant::fromValue((column.IsNumber() ? kAlignFigures : kAlignTexts) |
                                  Qt::AlignVCenter);
     default:
       return {};
@@ -146,7 +146,7 @@ QVariant DetailsTableModel::headerData(int section, Qt::Orientation orientation,
   const auto& column = mColumns[static_cast<std::size_t>(section)];
   if (role == Qt::DisplayRole) return LocalizedString(column.title);
   if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue(Qt::Alignment(column.IsNumber() ? Qt::AlignRight : Qt::AlignLeft) |
+    return QVariant::fromValue((column.IsNumber() ? kAlignFigures : kAlignTexts) |
                                Qt::AlignVCenter);
   return {};
 }

@@ -45,15 +45,17 @@ QRect BarIn(const QRect& rect, double share, int least) {
                rect.height());
 }
 
-/// An open angle, sharp at every scale.
-void DrawArrow(QPainter& painter, const QRect& place, bool isFolded, const QColor& colour) {
+/// An open angle, sharp at every scale; that of a folded row points to where its text goes on.
+void DrawArrow(QPainter& painter, const QRect& place, bool isFolded, bool isTurned,
+               const QColor& colour) {
   const QPointF middle = QRectF(place).center() + QPointF(1.0, 0.0);
   constexpr double kLong = 3.5;
   constexpr double kShort = 1.75;
+  const double ahead = isTurned ? -kShort : kShort;
   QPolygonF angle;
   if (isFolded)
-    angle << middle + QPointF(-kShort, -kLong) << middle + QPointF(kShort, 0.0)
-          << middle + QPointF(-kShort, kLong);
+    angle << middle + QPointF(-ahead, -kLong) << middle + QPointF(ahead, 0.0)
+          << middle + QPointF(-ahead, kLong);
   else
     angle << middle + QPointF(-kLong, -kShort) << middle + QPointF(0.0, kShort)
           << middle + QPointF(kLong, -kShort);
@@ -83,7 +85,10 @@ void TextCell::DrawText(QPainter& painter, const QStyleOptionViewItem& option, c
                            IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
   const auto& metrics = option.fontMetrics;
   const bool fits = metrics.horizontalAdvance(text) <= rect.width();
-  painter.drawText(rect, static_cast<int>(alignment) | Qt::TextSingleLine,
+  const auto placed = QStyle::visualAlignment(option.direction, alignment) | Qt::AlignAbsolute;
+  // In windows that are turned round a path begins at its left all the same.
+  painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+  painter.drawText(rect, static_cast<int>(placed) | Qt::TextSingleLine,
                    fits ? text : metrics.elidedText(text, Qt::ElideRight, rect.width()));
 }
 
@@ -108,27 +113,30 @@ int TreeCell::InsetOf(const QModelIndex& index) {
   return level < 0 ? 0 : std::min(level, kDeepestDrawn) * kLevelWidth + kArrowWidth;
 }
 
-QRect TreeCell::ArrowPlace(const QRect& cell, const QModelIndex& index) {
+QRect TreeCell::ArrowPlace(const QRect& cell, const QModelIndex& index,
+                           Qt::LayoutDirection direction) {
   const int inset = InsetIn(cell, index);
   if (inset == 0 || index.data(kFoldRole).toInt() == 0) return {};
-  return QRect(cell.left() + inset - kArrowWidth, cell.top(), kArrowWidth, cell.height());
+  const QRect place(cell.left() + inset - kArrowWidth, cell.top(), kArrowWidth, cell.height());
+  return QStyle::visualRect(direction, cell, place);
 }
 
 void TreeCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
                      const QModelIndex& index) const {
   DrawBackground(*painter, option);
-  const auto arrow = ArrowPlace(option.rect, index);
+  const auto arrow = ArrowPlace(option.rect, index, option.direction);
   painter->save();
   painter->setClipRect(option.rect, Qt::IntersectClip);
   if (arrow.isValid()) {
     const bool isFolded =
         index.data(kFoldRole).toInt() == static_cast<int>(RowStanding::Fold::kFolded);
-    DrawArrow(*painter, arrow, isFolded,
+    DrawArrow(*painter, arrow, isFolded, option.direction == Qt::RightToLeft,
               option.palette.color(GroupOf(option), IsSelected(option) ? QPalette::HighlightedText
                                                                        : QPalette::Text));
   }
   painter->restore();
-  DrawText(*painter, option, option.rect.adjusted(InsetIn(option.rect, index), 0, 0, 0), index);
+  const auto place = option.rect.adjusted(InsetIn(option.rect, index), 0, 0, 0);
+  DrawText(*painter, option, QStyle::visualRect(option.direction, option.rect, place), index);
 }
 
 void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -160,7 +168,8 @@ void DrawTextBetween(QPainter& painter, std::pair<int, int> columns, const QRect
   painter.setClipRect(QRect(from, place.top(), columns.second - from, place.height()),
                       Qt::IntersectClip);
   painter.setPen(colour);
-  painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text);
+  painter.drawText(
+      place, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine, text);
   painter.restore();
 }
 

@@ -74,7 +74,8 @@ class TreeCell final : public TextCell {
   /// What level and arrow take of the cell, in points; 0 where rows have no places below others.
   static int InsetOf(const QModelIndex& index);
   /// Where a click folds and unfolds, in a cell that lies at `cell`; nowhere for an empty one.
-  static QRect ArrowPlace(const QRect& cell, const QModelIndex& index);
+  static QRect ArrowPlace(const QRect& cell, const QModelIndex& index,
+                          Qt::LayoutDirection direction);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;

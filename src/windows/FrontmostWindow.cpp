@@ -5,11 +5,13 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
 #include "platform/Machine.h"
 #include "platform/Screen.h"
+#include "resources/Resources.h"
 
 namespace lurkwell {
 namespace {
@@ -76,10 +78,12 @@ QList<QWidget*> orderedWindows() {
 }
 
 bool EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange change) {
+  static constexpr const char* kTitles[] = {"main_window_title", "main_window_title_paused",
+                                            "preferences_title"};
   for (auto* window : orderedWindows()) {
-    const auto title = window->windowTitle();
-    const bool matches = title.startsWith(QLatin1String("Process")) ||
-                         title.startsWith(QLatin1String("Lurkwell Pref"));
+    const bool matches = std::ranges::any_of(kTitles, [window](const char* title) {
+      return window->windowTitle().startsWith(LocalizedString(title));
+    });
     // A minimised one counts as visible with the toolkit; its user has put it away.
     if (!window->isVisible() || window->isMinimized() || !matches) continue;
     // A user of another program keeps the keyboard there, and what is in front.

@@ -5,6 +5,7 @@
 
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 
 namespace lurkwell {
 namespace {
@@ -22,7 +23,7 @@ QString Plain(double value, int digits) {
     while (text.endsWith(QLatin1Char('0'))) text.chop(1);
     if (text.endsWith(QLatin1Char('.'))) text.chop(1);
   }
-  return text;
+  return LocalFigure(text);
 }
 
 QString PerSecond(const QString& text, GraphUnit unit) {
@@ -42,10 +43,10 @@ double NiceStep(double least, GraphUnit unit) {
 
 QString GraphFigureText(GraphUnit unit, double value) {
   if (!std::isfinite(value)) return LocalizedString("graph_missing");
-  if (unit == GraphUnit::kShare) return QString::number(value * 100, 'f', 1) + QLatin1String(" %");
-  if (unit == GraphUnit::kNumber) return QString::number(value, 'f', value < 100 ? 2 : 0);
+  if (unit == GraphUnit::kShare) return LocalNumber(value * 100, 'f', 1) + QLatin1String(" %");
+  if (unit == GraphUnit::kNumber) return LocalNumber(value, 'f', value < 100 ? 2 : 0);
   const auto bytes = static_cast<std::int64_t>(std::clamp(value, 0.0, kMostBytes));
-  auto text = QString::fromStdString(MemoryString(bytes));
+  auto text = LocalFigure(QString::fromStdString(MemoryString(bytes)));
   if (text.back().isDigit()) text += QLatin1String(" B");
   return PerSecond(text, unit);
 }

@@ -1,6 +1,5 @@
 #include "windows/PropertyText.h"
 
-#include <QLocale>
 #include <span>
 #include <string>
 
@@ -8,8 +7,10 @@
 #include "platform/Machine.h"
 #include "platform/PrintableText.h"
 #include "platform/ProcessTable.h"
+#include "preferences/Settings.h"
 #include "process_control/DisplayFormats.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 
 namespace lurkwell {
 namespace {
@@ -33,7 +34,7 @@ QString SizeText(std::int64_t bytes) {
   const auto text = QString::fromStdString(MemoryString(bytes));
   bool isNumber = false;
   const auto number = text.toLongLong(&isNumber);
-  return isNumber ? QLocale().toString(number) : text;
+  return isNumber ? LocalNumber(qint64{number}) : LocalFigure(text);
 }
 
 const char* IdOfMissing(const TypedValue& value) {
@@ -85,7 +86,14 @@ QString TimeText(TimeValue time) {
   while (!text.empty() && text.back() == '0') text.pop_back();
   if (text.back() == '.') text += '0';
   if (text[text.size() - 2] == '.') text += '0';
-  return QString::fromStdString(text);
+  return LocalFigure(QString::fromStdString(text));
+}
+
+QString DateText(TimeValue time, int width) {
+  const bool isCalendar = ReadInt("GENERAL_PREFERRED_DATE_DISPLAY_FORMAT") == 0;
+  if (isCalendar && HasOwnDates()) return LocalMoment(time.seconds, width);
+  const auto text = QString::fromStdString(DateString(time, width));
+  return isCalendar ? text : LocalFigure(text);
 }
 
 QString ClockText(TimeValue time) {
@@ -109,19 +117,19 @@ QString DisplayText(PropertyType type, const TypedValue& value, int width, std::
     case kPropertyTypeInteger:
       return QString::number(IntegerOf(value));
     case kPropertyTypeReal:
-      return QString::number(NumberOf(value), 'g', 6);
+      return LocalNumber(NumberOf(value), 'g', 6);
     case kPropertyTypeMemory:
       return SizeText(IntegerOf(value));
     case kPropertyTypeRate:
       return SizeText(IntegerOf(value)) + QLatin1String("/s");
     case kPropertyTypeShare:
-      return QString::number(NumberOf(value), 'f', 1);
+      return LocalNumber(NumberOf(value), 'f', 1);
     case kPropertyTypeTime:
       if (const auto* time = std::get_if<TimeValue>(&value)) return TimeText(*time);
       break;
     case kPropertyTypeDate:
       if (const auto* time = std::get_if<TimeValue>(&value); time != nullptr && pid >= 0)
-        return QString::fromStdString(DateString(*time, width)).trimmed();
+        return DateText(*time, width).trimmed();
       break;
     case kPropertyTypeClock:
       if (const auto* time = std::get_if<TimeValue>(&value)) return ClockText(*time);

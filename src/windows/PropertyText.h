@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <Qt>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -12,9 +13,17 @@ namespace lurkwell {
 
 /// From values to what the user reads. Main thread.
 
+/// Texts of cells stand where lines begin; figures at the right in every language, unit below unit.
+inline constexpr Qt::Alignment kAlignTexts = Qt::AlignLeft;
+inline constexpr Qt::Alignment kAlignFigures = Qt::AlignRight | Qt::AlignAbsolute;
+
 /// A span of time without its trailing zeros, but with two digits behind the point at least:
 /// 12.34, 12.50, 12.00, 3.1415.
 QString TimeText(TimeValue time);
+
+/// A point in time in the user's preferred format, cut to so many characters; 0 or less is room for
+/// all of it. Without a locale and in English as FormatDateString has it, else as the locale does.
+QString DateText(TimeValue time, int width);
 
 /// A span of time as [days-]hours:minutes:seconds, the way ps writes it.
 QString ClockText(TimeValue time);

@@ -191,7 +191,8 @@ void StripedTableView::keyPressEvent(QKeyEvent* event) {
 bool StripedTableView::ClickArrow(const QPoint& position) {
   const auto index = indexAt(position);
   if (!index.isValid() || index.column() != mTreeColumn) return false;
-  if (!TreeCell::ArrowPlace(visualRect(index), index).contains(position)) return false;
+  if (!TreeCell::ArrowPlace(visualRect(index), index, layoutDirection()).contains(position))
+    return false;
   using Fold = RowStanding::Fold;
   const bool isFolded = index.data(kFoldRole).toInt() == static_cast<int>(Fold::kFolded);
   Q_EMIT foldWanted(index.row(), !isFolded, false);
@@ -214,12 +215,15 @@ bool StripedTableView::ServeTreeKey(const QKeyEvent& event) {
   const int row = index.row();
   const auto fold = static_cast<Fold>(InTree(row).data(kFoldRole).toInt());
   const bool isPlain = (event.modifiers() & Qt::ShiftModifier) == 0;
-  if (event.key() == Qt::Key_Right && isPlain) {
+  // Branches grow to where texts go on.
+  const auto deeper = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
+  const auto back = isRightToLeft() ? Qt::Key_Right : Qt::Key_Left;
+  if (event.key() == deeper && isPlain) {
     if (fold == Fold::kFolded)
       Q_EMIT foldWanted(row, false, false);
     else if (fold == Fold::kUnfolded)
       SelectAlone(row + 1);
-  } else if (event.key() == Qt::Key_Left && isPlain) {
+  } else if (event.key() == back && isPlain) {
     if (fold == Fold::kUnfolded)
       Q_EMIT foldWanted(row, true, false);
     else if (const int above = RowAbove(row); above >= 0)
@@ -322,7 +326,8 @@ void StripedTableView::drawGridInClipRect(QPainter& painter, const QRect& clip) 
   painter.setPen(GridColour(palette()));
   const auto& header = *horizontalHeader();
   for (int column = 0; column < header.count(); ++column) {
-    const int x = header.sectionViewportPosition(column) + header.sectionSize(column) - 1;
+    const int begin = header.sectionViewportPosition(column);
+    const int x = isRightToLeft() ? begin : begin + header.sectionSize(column) - 1;
     if (x >= clip.left() && x <= clip.right()) painter.drawLine(x, clip.top(), x, clip.bottom());
   }
 }

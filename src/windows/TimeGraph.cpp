@@ -4,7 +4,6 @@
 #include <QDateTime>
 #include <QFontMetricsF>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStringList>
@@ -15,6 +14,7 @@
 #include <utility>
 
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/CustomCells.h"
 
 namespace lurkwell {
@@ -49,7 +49,7 @@ QString AgoText(std::int64_t milliseconds, std::int64_t span) {
   constexpr std::int64_t kHour = 3'600'000;
   const auto in = [milliseconds](const char* text, std::int64_t unit) {
     const double ago = static_cast<double>(milliseconds) / static_cast<double>(unit);
-    return LocalizedString(text).arg(QLocale::c().toString(ago, 'g', 3));
+    return LocalizedString(text).arg(LocalNumber(ago, 'g', 3));
   };
   if (span >= 48 * kHour) return in("graph_days_ago", 24 * kHour);
   if (span >= 2 * kHour) return in("graph_hours_ago", kHour);
@@ -60,7 +60,7 @@ QString AgoText(std::int64_t milliseconds, std::int64_t span) {
 QString CursorText(std::int64_t when, std::int64_t span) {
   constexpr std::int64_t kHalfDay = 12 * 3'600'000;
   if (span < kHalfDay) return MomentText(when);
-  return QDateTime::fromMSecsSinceEpoch(when).toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+  return LocalDateTimeText(QDateTime::fromMSecsSinceEpoch(when));
 }
 
 /// A colour between two of the palette.
@@ -73,7 +73,7 @@ QColor Mixed(const QColor& one, const QColor& other, double share) {
 }  // namespace
 
 QString MomentText(std::int64_t when) {
-  return QDateTime::fromMSecsSinceEpoch(when).toString(QStringLiteral("HH:mm:ss"));
+  return LocalTimeText(QDateTime::fromMSecsSinceEpoch(when).time());
 }
 
 TimeGraph::TimeGraph(const QString& title, GraphUnit unit, QWidget* parent)
@@ -245,6 +245,8 @@ GraphScale TimeGraph::CurrentScale() const {
 void TimeGraph::paintEvent(QPaintEvent*) {
   LayOut();
   QPainter painter(this);
+  // Time goes on to the right in every language, and the scale stands at the left.
+  painter.setLayoutDirection(Qt::LeftToRight);
   DrawHeader(painter);
   if (IsEmpty()) {
     painter.fillRect(mPlot.area, palette().color(QPalette::Base));

@@ -403,6 +403,8 @@ extern "C" const char* __lsan_default_suppressions() {
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("LC_ALL", "C.UTF-8");
+  qunsetenv("LANGUAGE");
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   lurkwell::InstallResources(*qApp);

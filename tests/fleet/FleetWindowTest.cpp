@@ -133,7 +133,7 @@ TEST_F(FleetWindowTest, ShowsTheFirstOf2000MachinesAndWhatRunsOnThem) {
   // Those that are down are last, whatever they are sorted by.
   EXPECT_EQ(Cell(window, 499, FleetFigure::kSeen), "down");
   EXPECT_EQ(Cell(window, 499, FleetFigure::kCpu), QStringLiteral("–"));
-  EXPECT_TRUE(window.StatusText().contains("2,000")) << qPrintable(window.StatusText());
+  EXPECT_TRUE(window.StatusText().contains("2000 machines")) << qPrintable(window.StatusText());
   EXPECT_TRUE(window.StatusText().contains("500")) << qPrintable(window.StatusText());
   EXPECT_TRUE(window.StatusText().contains("20 down")) << qPrintable(window.StatusText());
   EXPECT_TRUE(SoonTrue([&] { return window.Session().History() != nullptr; }));

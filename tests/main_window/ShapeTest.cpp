@@ -165,8 +165,9 @@ TEST_F(ShapeTest, ArrowsAndKeysFoldAndAreSpoken) {
   auto& table = window->table();
   const auto click = [&](int pid) {
     const auto place = NameAt(RowOf(pid));
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                      TreeCell::ArrowPlace(table.visualRect(place), place).center());
+    QTest::mouseClick(
+        table.viewport(), Qt::LeftButton, {},
+        TreeCell::ArrowPlace(table.visualRect(place), place, Qt::LeftToRight).center());
   };
   Select({302});
   click(301);

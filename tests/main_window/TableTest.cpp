@@ -1,7 +1,6 @@
 // Rows: what they show from turn to turn, and how little the view hears of it.
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -9,6 +8,7 @@
 
 #include "main_window/MainWindowTest.h"
 #include "main_window/ToolbarGauge.h"
+#include "resources/UserLocale.h"
 
 namespace lurkwell {
 namespace {
@@ -112,12 +112,16 @@ TEST_F(TableTest, NumbersStandOnBarsInTheStatusLineAndInGroups) {
   EXPECT_EQ(bar(0, "internal_MemGraph", Qt::AccessibleTextRole).toString(), QLatin1String("3.0 M"));
   EXPECT_EQ(show(2), "302 301 300: 1.5 M");
   EXPECT_EQ(show(0).substr(0, 11), "301 300 302");
-  const QLocale before;
-  QLocale::setDefault(QLocale(QLocale::German));
+  // In the user's signs, while the texts stay English.
+  qputenv("LC_ALL", "de_DE.UTF-8");
+  UseUserLocale();
+  EXPECT_EQ(bar(2, "internal_MemGraph", kBarTextRole).toString(), QLatin1String("16,0 M"));
+  EXPECT_TRUE(Cell(0, ColumnOf("meta_active_time")).contains(QLatin1Char(',')));
   EXPECT_EQ(Cell(0, ColumnOf("pid_faults")), QLatin1String("1.234.567"));
   SetPrefInt("GENERAL_PREFERRED_MEMORY_DISPLAY_FORMAT", 1);
   EXPECT_EQ(bar(1, "internal_MemGraph", kBarTextRole).toString(), QLatin1String("50.331.648"));
-  QLocale::setDefault(before);
+  qputenv("LC_ALL", "C.UTF-8");
+  UseUserLocale();
 }
 
 TEST_F(TableTest, ATurnReachesTheViewInOnePiece) {

@@ -7,7 +7,8 @@
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  qputenv("LC_ALL", "de_DE.UTF-8");
+  qputenv("LC_ALL", "ru_RU.UTF-8");
+  qunsetenv("LANGUAGE");
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   lurkwell::InstallResources(application);

@@ -7,6 +7,9 @@
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Whatever its user has.
+  qputenv("LC_ALL", "C.UTF-8");
+  qunsetenv("LANGUAGE");
   const QApplication application(argc, argv);
   lurkwell::InstallResources(*qApp);
   testing::InitGoogleTest(&argc, argv);

@@ -81,7 +81,7 @@ TEST(OrderTest, TheKeyboardGoesToTheFrontmostWindowOfAKnownTitle) {
   const MachineInstallation installation(machine.services);
   QWidget other, process, preferences;
   other.setWindowTitle("Other Process");
-  process.setWindowTitle("Process list");
+  process.setWindowTitle("Processes of a test");
   preferences.setWindowTitle("Lurkwell Preferences");
   for (auto* widget : {&other, &process, &preferences}) WatchWindowOrder(*widget);
   EXPECT_FALSE(EnsureThatCocoaWindowIsFrontmostIfPossible()) << "none of them is visible";

@@ -5,6 +5,8 @@
 #include <QVariantMap>
 #include <utility>
 
+#include "platform/UserText.h"
+
 namespace lurkwell {
 namespace {
 
@@ -46,8 +48,11 @@ void DesktopNotifications::Listen() {
 
 void DesktopNotifications::Show(const std::string& key, const Notification& notification,
                                 std::function<void()> chosen) {
-  if (!mBus.isConnected()) return Fail(QStringLiteral("there is no session bus"));
-  if (mWaiting.size() >= kMostWaiting) return Fail(QStringLiteral("too many at a time"));
+  if (!mBus.isConnected())
+    return Fail(
+        QString::fromStdString(UserText("notifications_no_bus", "there is no session bus")));
+  if (mWaiting.size() >= kMostWaiting)
+    return Fail(QString::fromStdString(UserText("notifications_too_many", "too many at a time")));
   Listen();
   mWaiting.push_back({key, notification, std::move(chosen)});
   if (!mIsShowing) ShowNext();

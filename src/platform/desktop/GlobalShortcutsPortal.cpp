@@ -8,6 +8,7 @@
 #include <QDBusPendingReply>
 #include <QTimer>
 
+#include "platform/UserText.h"
 #include "platform/desktop/SessionBus.h"
 
 namespace lurkwell {
@@ -105,9 +106,11 @@ void GlobalShortcutsPortal::Bind() {
   ExpectAnswer(token, SLOT(HandleBound(uint, QVariantMap)));
   ShortcutList list;
   for (const auto& shortcut : mShortcuts)
-    list.append({shortcut.id,
-                 {{QStringLiteral("description"), QStringLiteral("Animated view over the screen")},
-                  {QStringLiteral("preferred_trigger"), shortcut.trigger}}});
+    list.append(
+        {shortcut.id,
+         {{QStringLiteral("description"),
+           QString::fromStdString(UserText("shortcut_overlay", "Animated view over the screen"))},
+          {QStringLiteral("preferred_trigger"), shortcut.trigger}}});
   Call(QStringLiteral("BindShortcuts"),
        {QVariant::fromValue(QDBusObjectPath(mSession)), QVariant::fromValue(list), QString(),
         QVariantMap{{QStringLiteral("handle_token"), token}}});
