@@ -3,7 +3,6 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
-#include <QXmlStreamReader>
 #include <chrono>
 #include <filesystem>
 #include <string>
@@ -11,6 +10,7 @@
 #include "consolidator/Feeders.h"
 #include "platform/linux/LinuxTools.h"
 #include "resources/Resources.h"
+#include "resources/StringTable.h"
 #include "support/ConsolidatorTest.h"
 #include "support/MachineOf.h"
 
@@ -20,17 +20,6 @@ namespace {
 QString ContentsOf(const std::filesystem::path& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/// Every id of the string table, in its order.
-QStringList AllIds() {
-  QXmlStreamReader reader(ContentsOf(SOURCE_FOLDER "/resources/strings/lurkwell_en.ts"));
-  QStringList ids;
-  while (!reader.atEnd()) {
-    if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == u"message")
-      ids += reader.attributes().value("id").toString();
-  }
-  return reader.hasError() ? QStringList() : ids;
 }
 
 /// The ids of texts that a piece of source names, and that there are not.
@@ -45,6 +34,20 @@ QStringList UnknownIds(const QString& source) {
     if (!HasLocalizedString(id.toUtf8().constData())) unknown += id;
   }
   return unknown;
+}
+
+/// Texts that the source has in English, by their ids, with what the table does not say alike.
+QStringList UnlikeTexts(const QString& source, int& count) {
+  static const QRegularExpression call(
+      QStringLiteral("UserText\\(\\s*\"(\\w+)\",\\s*((?:\"[^\"]*\"\\s*)+)\\)"));
+  static const QRegularExpression seam(QStringLiteral("\"\\s*\"|^\"|\"\\s*$"));
+  QStringList unlike;
+  for (auto matches = call.globalMatch(source); matches.hasNext(); ++count) {
+    const auto match = matches.next();
+    const auto english = match.captured(2).remove(seam);
+    if (LocalizedString(match.captured(1).toUtf8()) != english) unlike += match.captured(1);
+  }
+  return unlike;
 }
 
 class RealColumnsTest : public ConsolidatorTest {
@@ -90,7 +93,8 @@ TEST(StringsTest, UnknownIdsAreSeenAndShownAsTheyAre) {
 }
 
 TEST(StringsTest, IdsAreGivenOnceAndHaveTexts) {
-  const QStringList ids = AllIds();
+  const auto table = StringTable::Of("en");
+  const auto& ids = table.ids;
   ASSERT_GT(ids.size(), 400);
   EXPECT_EQ(QSet<QString>(ids.begin(), ids.end()).size(), ids.size());
   for (const QString& id : ids) {
@@ -100,32 +104,23 @@ TEST(StringsTest, IdsAreGivenOnceAndHaveTexts) {
 }
 
 TEST(StringsTest, EachMenuItemHasALetterOfItsOwnInItsMenu) {
-  QHash<QString, QSet<QChar>> lettersOfMenu;
-  for (const QString& id : AllIds()) {
-    if (!id.startsWith("menu_")) continue;
-    const QString menu = id.count('_') == 1 ? "the menu bar" : id.section('_', 1, 1);
-    const QString text = LocalizedString(id.toUtf8());
-    const auto at = text.indexOf('&');
-    ASSERT_TRUE(at >= 0 && at + 1 < text.size() && text.count('&') == 1) << qPrintable(text);
-    const QChar letter = text[at + 1].toLower();
-    EXPECT_TRUE(letter.isLetter()) << qPrintable(text);
-    EXPECT_FALSE(lettersOfMenu[menu].contains(letter)) << qPrintable(menu + ": " + text);
-    lettersOfMenu[menu].insert(letter);
-  }
-  EXPECT_EQ(lettersOfMenu.size(), 11);
+  ExpectLettersOfMenus(StringTable::Of("en").ids);
 }
 
 TEST(StringsTest, EveryIdThatTheSourceNamesHasAText) {
   EXPECT_EQ(UnknownIds(R"(f("menu_file_copyy"); LocalizedString("Nothing"); g("menu_edit_copy");)"),
             (QStringList{"menu_file_copyy", "Nothing"}));
   int files = 0;
+  int userTexts = 0;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(SOURCE_FOLDER "/src")) {
     if (entry.path().extension() != ".cpp" && entry.path().extension() != ".h") continue;
     ++files;
-    const QStringList unknown = UnknownIds(ContentsOf(entry.path()));
+    const auto source = ContentsOf(entry.path());
+    const QStringList unknown = UnknownIds(source) + UnlikeTexts(source, userTexts);
     EXPECT_TRUE(unknown.isEmpty()) << entry.path() << ": " << qPrintable(unknown.join(", "));
   }
   EXPECT_GT(files, 100);
+  EXPECT_GT(userTexts, 5);
 }
 
 }  // namespace
