@@ -271,7 +271,7 @@ class Trial:
             source.write_text(text, encoding="utf-8")
 
 
-def try_all(name, chosen, trial, order_for, minutes):
+def try_all(name, chosen, trial, programs_for, minutes, again):
     """Judges the faults that are not judged yet; ends early when the time is over."""
     kept = PLACE / f"{name}.jsonl"
     judged = {}
@@ -280,6 +280,8 @@ def try_all(name, chosen, trial, order_for, minutes):
         for line in kept.read_text(encoding="utf-8").splitlines():
             one = json.loads(line)
             judged[one["mutant"], one["of"]] = one["end"]
+    if again:
+        judged = {key: verdict for key, verdict in judged.items() if verdict != "survived"}
 
     def of(path):
         if path not in sources:
@@ -294,7 +296,7 @@ def try_all(name, chosen, trial, order_for, minutes):
         if key not in judged:
             if time.monotonic() > end:
                 continue
-            judged[key] = trial.judge(mutant, order_for(mutant.path))
+            judged[key] = trial.judge(mutant, programs_for(mutant.path))
             with open(kept, "a", encoding="utf-8") as file:
                 file.write(json.dumps({"mutant": key[0], "of": key[1], "end": judged[key]}) + "\n")
             say(f"{mutant.path}:{mutant.line} {mutant.shown()}: {judged[key]}")

@@ -1,7 +1,8 @@
 """Mutants.
 
 Small faults put into the sources one at a time, where a seed says: other comparisons, other arithmetic, constants one
-higher or lower, conditions reversed, calls and assignments left out, arguments exchanged. The tests should notice each.
+higher or lower, conditions reversed, calls and assignments left out, arguments exchanged. The test programs that concern
+the source should notice each.
 What does not compile, or comes out as the same program, counts for nothing. What nobody noticed and yet is no fault,
 because no run of the program can differ, is listed with the reason and counts for nothing either.
 """
@@ -15,7 +16,7 @@ IS_PART = True
 EQUIVALENTS = ROOT / "docs/proof/equivalent-mutants"
 WANTED = {"helper": 95, "engine": 85}
 
-# The programs of tests, the quickest first; and for a source those that concern it most.
+# The programs of tests, and for a source or a folder those that concern it, the quickest first.
 PROGRAMS = {
     "helper": ["helper_session_test", "helper_oracle_test", "helper_takeover_test",
                "helper_canary_test", "helper_launch_test", "helper_serve_test",
@@ -62,19 +63,18 @@ def sources(group):
     return sorted(str(path.relative_to(ROOT)) for path in found if path.is_file())
 
 
-def order_for(group):
-    def order(path):
-        folder = str(pathlib.Path(path).parent)
-        first = FIRST.get(path) or FIRST.get(folder) or FIRST.get(str(pathlib.Path(folder).parent)) \
-            or LOGIC
-        return [*first, *(name for name in PROGRAMS[group] if name not in first)]
-    return order
+def programs_for(path):
+    """The test programs that concern a source, the quickest first."""
+    folder = str(pathlib.Path(path).parent)
+    return FIRST.get(path) or FIRST.get(folder) or FIRST.get(str(pathlib.Path(folder).parent)) or LOGIC
 
 
 def add_options(parser):
     parser.add_argument("--of", choices=sorted(PROGRAMS), action="append", help="one of the two alone")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--count", type=int, default=200, help="faults in each (default 200)")
+    parser.add_argument("--again", action="store_true",
+                        help="tries what survived before once more, as after new tests")
     parser.add_argument("--minutes", type=int, default=240, help="of each; the rest is left out")
 
 
@@ -82,7 +82,8 @@ def measure(group, options):
     chosen, of_all = mutation.choose(sources(group), options.count, options.seed)
     trial = mutation.Trial(PROGRAMS[group], MORE, BUILT_WITH)
     trial.begin()
-    verdicts = mutation.try_all(group, chosen, trial, order_for(group), options.minutes)
+    verdicts = mutation.try_all(group, chosen, trial, programs_for, options.minutes,
+                                options.again)
     rows = mutation.survivors(verdicts, mutation.equivalents(EQUIVALENTS))
     ends = list(verdicts.values())
     void = sum(end in ("compiler", "same") for end in ends)
