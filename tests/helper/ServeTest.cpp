@@ -326,8 +326,10 @@ TEST(ServeTest, GivesUpWhenNobodyOpensTheOtherEnds) {
   const TemporaryFolder closed(0700, kUser), halfOpen(0700, kUser);
   const auto neither = MakePipes(closed), first = MakePipes(halfOpen);
   const int held = open(first[0].c_str(), O_RDWR | O_CLOEXEC);
+  HelperProcess inUse(kUser);
   const pid_t helpers[] = {StartWith(neither[0], neither[1]), StartWith(first[0], first[1])};
   for (const pid_t helper : helpers) EXPECT_EQ(WaitFor(helper, 20), -SIGALRM);
+  EXPECT_EQ(inUse.Ask("geteuid"), std::to_string(kUser)) << "for which no alarm is set any more";
   close(held);
 }
 

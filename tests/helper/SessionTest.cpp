@@ -98,6 +98,8 @@ TEST_F(SessionTest, EveryActionIsOneLineOfTheLogWhateverTheName) {
   Act("renice 70 -5");
   ASSERT_EQ(mMachine.log.size(), 256u);
   EXPECT_NE(mMachine.log[255].find(" verb=renice pid=70 nice=-5 start="), std::string::npos);
+  Act("renice 70 0");
+  EXPECT_NE(mMachine.log[256].find(" nice=0 start="), std::string::npos);
   for (const std::string& line : mMachine.log) {
     for (const char character : line) EXPECT_TRUE(character >= ' ' && character < 0x7f) << line;
     EXPECT_EQ(std::count(line.begin(), line.end(), '"'), 2) << line;
