@@ -29,12 +29,13 @@ def ledger():
 
 
 def run(options):
+    of_commit = report.commit().replace(" ", "-")
     run_command("scripts/fuzz", "--minutes", options.minutes, stdout=subprocess.DEVNULL)
     done = [line.split() for line in (ROOT / "build/fuzz/runs").read_text().splitlines()]
     if not done or any(len(line) != 3 for line in done):
         raise Failure("scripts/fuzz has not said how many runs there were")
     today = datetime.datetime.now(datetime.timezone.utc).date().isoformat()
-    lines = ledger() + [[today, report.commit().replace(" ", "-"), *line] for line in sorted(done)]
+    lines = ledger() + [[today, of_commit, *line] for line in sorted(done)]
     LEDGER.parent.mkdir(exist_ok=True)
     LEDGER.write_text(HEAD + "".join(" ".join(line) + "\n" for line in lines), encoding="utf-8")
 
