@@ -6,6 +6,8 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
+#include <QRegularExpression>
+#include <QStringList>
 #include <QTranslator>
 #include <algorithm>
 #include <cmath>
@@ -152,6 +154,14 @@ bool HasLocalizedString(const char* id) {
   return std::ranges::any_of(gTranslators, [id](const QPointer<QTranslator>& translator) {
     return translator != nullptr && !translator->translate("", id).isNull();
   });
+}
+
+QString WithoutLetter(QString text) {
+  static const QRegularExpression letter(QStringLiteral("\\s?\\(&[^&)]\\)|&(?=[^&])"));
+  constexpr QLatin1String kAmpersand("&&");
+  auto parts = text.split(kAmpersand);
+  for (auto& part : parts) part.remove(letter);
+  return parts.join(kAmpersand);
 }
 
 QIcon NamedImage(const char* name) {

@@ -38,6 +38,10 @@ QString LocalizedString(const char* id, qint64 count);
 QString LocalizedString(const char* id, double count, const QString& figure);
 bool HasLocalizedString(const char* id);
 
+/// An item's text without its letter of access: "Kill" for "&Kill", and for "Kill (&K)", as
+/// languages without Latin letters have it. "&&", a plain ampersand, stays.
+QString WithoutLetter(QString text);
+
 /// A picture of the application, sharp at any size and on light as on dark ground; a null icon when
 /// there is none of that name. Needs a QGuiApplication.
 QIcon NamedImage(const char* name);

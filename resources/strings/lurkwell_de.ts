@@ -3066,7 +3066,7 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
     </message>
     <message id="main_window_helper_unprivileged">
         <source></source>
-        <translation>Nur Ihre eigenen Prozesse lassen sich steuern. &lt;a href="rights"&gt;Mehr Rechte…&lt;/a&gt;</translation>
+        <translation>Wirkt nur auf Ihre Prozesse. &lt;a href="rights"&gt;Mehr Rechte…&lt;/a&gt;</translation>
     </message>
     <message id="main_window_helper_absent">
         <source></source>

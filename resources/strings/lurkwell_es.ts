@@ -3060,13 +3060,13 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
     <message id="main_window_status_counts" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n proceso, %1 mostrados, %2 seleccionados</numerusform>
-            <numerusform>%n procesos, %1 mostrados, %2 seleccionados</numerusform>
+            <numerusform>%n proceso, %1 visibles, %2 marcados</numerusform>
+            <numerusform>%n procesos, %1 visibles, %2 marcados</numerusform>
         </translation>
     </message>
     <message id="main_window_helper_unprivileged">
         <source></source>
-        <translation>Actúa solo sobre sus propios procesos. &lt;a href="rights"&gt;Más permisos…&lt;/a&gt;</translation>
+        <translation>Limitado a sus procesos. &lt;a href="rights"&gt;Más permisos…&lt;/a&gt;</translation>
     </message>
     <message id="main_window_helper_absent">
         <source></source>

@@ -3066,7 +3066,7 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
     </message>
     <message id="main_window_helper_unprivileged">
         <source></source>
-        <translation>N’agit que sur vos propres processus. &lt;a href="rights"&gt;Plus de droits…&lt;/a&gt;</translation>
+        <translation>Limité à vos processus. &lt;a href="rights"&gt;Plus de droits…&lt;/a&gt;</translation>
     </message>
     <message id="main_window_helper_absent">
         <source></source>

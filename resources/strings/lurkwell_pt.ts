@@ -3060,13 +3060,13 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
     <message id="main_window_status_counts" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%n processo, %1 mostrados, %2 selecionados</numerusform>
-            <numerusform>%n processos, %1 mostrados, %2 selecionados</numerusform>
+            <numerusform>%n processo, %1 visíveis, %2 marcados</numerusform>
+            <numerusform>%n processos, %1 visíveis, %2 marcados</numerusform>
         </translation>
     </message>
     <message id="main_window_helper_unprivileged">
         <source></source>
-        <translation>Só age sobre os seus próprios processos. &lt;a href="rights"&gt;Mais direitos…&lt;/a&gt;</translation>
+        <translation>Limitado aos seus processos. &lt;a href="rights"&gt;Mais direitos…&lt;/a&gt;</translation>
     </message>
     <message id="main_window_helper_absent">
         <source></source>

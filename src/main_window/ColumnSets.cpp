@@ -234,8 +234,7 @@ bool ColumnSets::IsOwn(int place) const {
 }
 
 QString ColumnSets::TitleOf(int place) const {
-  if (const auto* set = BuiltInAt(place))
-    return LocalizedString(set->title).remove(QLatin1Char('&'));
+  if (const auto* set = BuiltInAt(place)) return WithoutLetter(LocalizedString(set->title));
   return mOwn[place - kBuiltInCount];
 }
 

@@ -42,8 +42,7 @@ QString MarkedKeys(const QKeySequence& keys) {
 QString PurposeOf(const Command& command) {
   const auto id = QByteArray("help_") + command.text;
   if (HasLocalizedString(id)) return LocalizedString(id);
-  auto title = LocalizedString(command.text);
-  return title.remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+  return WithoutLetter(LocalizedString(command.text)).remove(QStringLiteral("…"));
 }
 
 QString KeysOfCommands() {

@@ -13,13 +13,8 @@ namespace {
 
 /// The text of the item that is ticked; an ampersand is none of a mnemonic there.
 QString ChosenIn(const QMenu& menu) {
-  for (const auto* item : menu.actions()) {
-    if (!item->isChecked()) continue;
-    constexpr QLatin1String kAmpersands("&&");
-    auto parts = item->text().split(kAmpersands);
-    for (auto& part : parts) part.remove(QLatin1Char('&'));
-    return parts.join(kAmpersands);
-  }
+  for (const auto* item : menu.actions())
+    if (item->isChecked()) return WithoutLetter(item->text());
   return {};
 }
 

@@ -44,7 +44,7 @@ constexpr int kDragMilliseconds = 100;
 void NameSliders(const QWidget& contents) {
   for (const auto* label : contents.findChildren<QLabel*>())
     if (auto* buddy = label->buddy())
-      buddy->setAccessibleName(label->text().remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+      buddy->setAccessibleName(WithoutLetter(label->text()).remove(QLatin1Char(':')).remove(u'：'));
 }
 
 }  // namespace

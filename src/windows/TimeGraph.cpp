@@ -63,6 +63,13 @@ QString CursorText(std::int64_t when, std::int64_t span) {
   return LocalDateTimeText(QDateTime::fromMSecsSinceEpoch(when));
 }
 
+/// Behind a name: a figure keeps its order where the name is written from the right.
+QString Isolated(const QString& figure, const QString& name) {
+  constexpr char16_t kLeftToRightIsolate = 0x2066, kEndOfIsolate = 0x2069;
+  if (!name.isRightToLeft()) return QLatin1Char(' ') + figure;
+  return QLatin1Char(' ') + QChar(kLeftToRightIsolate) + figure + QChar(kEndOfIsolate);
+}
+
 /// A colour between two of the palette.
 QColor Mixed(const QColor& one, const QColor& other, double share) {
   const auto mix = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
@@ -251,6 +258,7 @@ void TimeGraph::paintEvent(QPaintEvent*) {
   if (IsEmpty()) {
     painter.fillRect(mPlot.area, palette().color(QPalette::Base));
     painter.setPen(palette().color(QPalette::Text));
+    if (mEmptyText.isRightToLeft()) painter.setLayoutDirection(Qt::RightToLeft);
     painter.drawText(mPlot.area, Qt::AlignCenter | Qt::TextWordWrap, mEmptyText);
     return DrawFocus(painter);
   }
@@ -296,7 +304,7 @@ void TimeGraph::DrawHeader(QPainter& painter) const {
     const auto text = place.adjusted(kSwatchWidth + kGap, 0, 0, 0);
     const auto figure = GraphFigureText(mUnit, FigureOf(series));
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
-                     series.name.isEmpty() ? figure : series.name + QLatin1Char(' ') + figure);
+                     series.name.isEmpty() ? figure : series.name + Isolated(figure, series.name));
   }
 }
 

@@ -149,6 +149,14 @@ TEST(LanguageTest, NumbersChooseTheForm) {
   EXPECT_EQ(LocalizedString("no_such_text", 2), "no_such_text");
 }
 
+TEST(LanguageTest, ItemsHaveNamesWithoutTheirLetters) {
+  for (const auto& [text, name] :
+       {std::pair("&Kill…", "Kill…"), std::pair("標準(&S)", "標準"),
+        std::pair("終了(&Q)…", "終了…"), std::pair("a && b (&C)", "a && b"),
+        std::pair("Size (KiB)", "Size (KiB)")})
+    EXPECT_EQ(WithoutLetter(QString::fromUtf8(text)), QString::fromUtf8(name));
+}
+
 /// With a locale for figures and one for dates, whatever the others are.
 class UserLocaleTest : public testing::Test {
  protected:
