@@ -15,6 +15,8 @@ const QString kConnection = RunningInstance::ConnectionName();
 const QString kService = QStringLiteral("com.velquarin.lurkwell");
 const QString kPath = QStringLiteral("/com/velquarin/lurkwell/Instance");
 const QString kInterface = QStringLiteral("com.velquarin.lurkwell.Instance");
+constexpr char kTokenVariable[] = "XDG_ACTIVATION_TOKEN";
+const QString kTokenName = QStringLiteral("activation-token");
 constexpr int kInstanceAnswers = 3000;
 constexpr int kBusTimeout = 1000;
 // The bus's own numbers.
@@ -30,6 +32,23 @@ QDBusMessage AskBus(const QDBusConnection& bus, const QString& method,
                                                 QStringLiteral("org.freedesktop.DBus"), method);
   message.setArguments(arguments);
   return bus.call(message, QDBus::Block, kBusTimeout);
+}
+
+/// What this program was told at its start about who wants its window.
+QVariantMap StartOfThisProgram() {
+  const auto token = qEnvironmentVariable(kTokenVariable);
+  if (token.isEmpty()) return {};
+  return {{kTokenName, token}};
+}
+
+/// Does what brings a window to the front as if this program had been started with the token: the
+/// toolkit looks for it there, and only the compositor can tell whether it is good. What is left of
+/// it is of no use to later windows.
+void WithToken(const QVariantMap& start, const std::function<void()>& action) {
+  const auto token = start.value(kTokenName).toString();
+  if (!token.isEmpty()) qputenv(kTokenVariable, token.toUtf8());
+  action();
+  if (!token.isEmpty()) qunsetenv(kTokenVariable);
 }
 
 /// What the bus answers, "" or 0 for an error.
@@ -70,7 +89,7 @@ RunningInstance::Answer RunningInstance::Ask(const QString& method, const QVaria
 }
 
 RunningInstance::Answer RunningInstance::BringToFront() {
-  return Ask(QStringLiteral("Present"));
+  return Ask(QStringLiteral("Present"), {StartOfThisProgram()});
 }
 
 RunningInstance::Answer RunningInstance::ToggleOverlay() {
@@ -78,7 +97,7 @@ RunningInstance::Answer RunningInstance::ToggleOverlay() {
 }
 
 RunningInstance::Answer RunningInstance::ShowAddress(const std::string& address) {
-  return Ask(QStringLiteral("Show"), {QString::fromStdString(address)});
+  return Ask(QStringLiteral("Show"), {QString::fromStdString(address), StartOfThisProgram()});
 }
 
 bool RunningInstance::Become(std::function<void()> bringToFront,
@@ -119,16 +138,17 @@ void RunningInstance::Serve(const std::function<void()>& action) {
     mBus.send(call.createErrorReply(QDBusError::LimitsExceeded, QStringLiteral("too many calls")));
 }
 
-void RunningInstance::Present() {
-  if (calledFromDBus()) Serve(mBringToFront);
+void RunningInstance::Present(const QVariantMap& start) {
+  if (calledFromDBus()) Serve([this, start] { WithToken(start, mBringToFront); });
 }
 
 void RunningInstance::Toggle() {
   if (calledFromDBus()) Serve(mToggleOverlay);
 }
 
-void RunningInstance::Show(const QString& address) {
-  if (calledFromDBus()) Serve([this, address] { mShowAddress(address); });
+void RunningInstance::Show(const QString& address, const QVariantMap& start) {
+  if (!calledFromDBus()) return;
+  Serve([this, address, start] { WithToken(start, [&] { mShowAddress(address); }); });
 }
 
 }  // namespace lurkwell

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <QVariantList>
+#include <QVariantMap>
 #include <functional>
 #include <string>
 
@@ -34,7 +35,8 @@ class RunningInstance : public QObject, protected QDBusContext {
   };
 
   /// Asks an instance that is running to come to the front, or to change between the animated
-  /// view's window and overlay.
+  /// view's window and overlay. What whoever started this program said about that start, by which
+  /// a desktop knows that it is the user who wants the window, is handed on.
   Answer BringToFront();
   Answer ToggleOverlay();
   /// Asks it to show an address; it says itself what is wrong with one.
@@ -51,9 +53,10 @@ class RunningInstance : public QObject, protected QDBusContext {
 
  public Q_SLOTS:
   // What other instances call.
-  void Present();
+  /// `start` has, as desktops call it, the "activation-token" of the start that asks for this.
+  void Present(const QVariantMap& start);
   void Toggle();
-  void Show(const QString& address);
+  void Show(const QString& address, const QVariantMap& start);
 
  private:
   Answer Ask(const QString& method, const QVariantList& arguments = {});
