@@ -5548,6 +5548,26 @@ Frei: %5</translation>
         <source></source>
         <translation>Das verwaltet das Programm selbst; es wird hier nicht geändert.</translation>
     </message>
+    <message id="hot_key_given">
+        <source></source>
+        <translation>Auf dieser Arbeitsfläche ist die Taste: %1.</translation>
+    </message>
+    <message id="hot_key_awaited">
+        <source></source>
+        <translation>Die Arbeitsumgebung hat noch nicht geantwortet.</translation>
+    </message>
+    <message id="hot_key_taken">
+        <source></source>
+        <translation>Sie wirkt nicht: Ein anderes Programm hat die Taste, oder die Tastatur hat keine solche.</translation>
+    </message>
+    <message id="hot_key_refused">
+        <source></source>
+        <translation>Sie wirkt nicht: Die Arbeitsumgebung hat die Taste nicht vergeben. In ihren eigenen Tasteneinstellungen lässt sich das ändern.</translation>
+    </message>
+    <message id="hot_key_no_way">
+        <source></source>
+        <translation>Sie wirkt nicht: Diese Arbeitsumgebung vergibt keine Tasten an Programme. In ihren eigenen Einstellungen lässt sich dem Befehl „lurkwell --toggle-overlay“ eine Taste geben.</translation>
+    </message>
     <message id="settings_note_no_number">
         <source></source>
         <translation>Was gespeichert ist, ist keine Zahl und wird als 0 gelesen. Geben Sie eine Zahl ein oder setzen Sie die Einstellung zurück.</translation>

@@ -5548,6 +5548,26 @@ Free: %5</translation>
         <source></source>
         <translation>The program keeps this itself; it is not changed here.</translation>
     </message>
+    <message id="hot_key_given">
+        <source></source>
+        <translation>On this desktop the key is: %1.</translation>
+    </message>
+    <message id="hot_key_awaited">
+        <source></source>
+        <translation>The desktop has not answered yet.</translation>
+    </message>
+    <message id="hot_key_taken">
+        <source></source>
+        <translation>It does not work: another program has the key, or the keyboard has no such key.</translation>
+    </message>
+    <message id="hot_key_refused">
+        <source></source>
+        <translation>It does not work: the desktop did not give the key. Its own settings for keys may.</translation>
+    </message>
+    <message id="hot_key_no_way">
+        <source></source>
+        <translation>It does not work: this desktop gives programs no keys. In its own settings a key can be given to the command “lurkwell --toggle-overlay”.</translation>
+    </message>
     <message id="settings_note_no_number">
         <source></source>
         <translation>What is stored is no number and is read as 0. Enter a number, or reset the setting.</translation>

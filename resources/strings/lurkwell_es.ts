@@ -5548,6 +5548,26 @@ Libre: %5</translation>
         <source></source>
         <translation>El programa lo mantiene por sí mismo; aquí no se cambia.</translation>
     </message>
+    <message id="hot_key_given">
+        <source></source>
+        <translation>En este escritorio la tecla es: %1.</translation>
+    </message>
+    <message id="hot_key_awaited">
+        <source></source>
+        <translation>El escritorio aún no ha respondido.</translation>
+    </message>
+    <message id="hot_key_taken">
+        <source></source>
+        <translation>No funciona: otro programa tiene la tecla, o el teclado no la tiene.</translation>
+    </message>
+    <message id="hot_key_refused">
+        <source></source>
+        <translation>No funciona: el escritorio no ha concedido la tecla. Puede cambiarse en sus propios ajustes de teclas.</translation>
+    </message>
+    <message id="hot_key_no_way">
+        <source></source>
+        <translation>No funciona: este escritorio no concede teclas a los programas. En sus propios ajustes puede darse una tecla a la orden «lurkwell --toggle-overlay».</translation>
+    </message>
     <message id="settings_note_no_number">
         <source></source>
         <translation>Lo que está guardado no es un número y se lee como 0. Escriba un número o restablezca el ajuste.</translation>

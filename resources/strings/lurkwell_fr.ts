@@ -5548,6 +5548,26 @@ Libre : %5</translation>
         <source></source>
         <translation>Le programme tient ceci lui-même ; ce n’est pas modifié ici.</translation>
     </message>
+    <message id="hot_key_given">
+        <source></source>
+        <translation>Sur ce bureau, la touche est : %1.</translation>
+    </message>
+    <message id="hot_key_awaited">
+        <source></source>
+        <translation>Le bureau n’a pas encore répondu.</translation>
+    </message>
+    <message id="hot_key_taken">
+        <source></source>
+        <translation>Elle est sans effet : un autre programme a la touche, ou le clavier n’en a pas de telle.</translation>
+    </message>
+    <message id="hot_key_refused">
+        <source></source>
+        <translation>Elle est sans effet : le bureau n’a pas accordé la touche. Ses propres réglages de touches le peuvent.</translation>
+    </message>
+    <message id="hot_key_no_way">
+        <source></source>
+        <translation>Elle est sans effet : ce bureau n’accorde pas de touches aux programmes. Dans ses propres réglages, on peut donner une touche à la commande « lurkwell --toggle-overlay ».</translation>
+    </message>
     <message id="settings_note_no_number">
         <source></source>
         <translation>Ce qui est enregistré n’est pas un nombre et est lu comme 0. Entrez un nombre ou rétablissez la valeur par défaut.</translation>

@@ -5506,6 +5506,26 @@ MIT ライセンスのフリーソフトウェア</translation>
         <source></source>
         <translation>これはプログラム自身が管理するもので、ここでは変更できません。</translation>
     </message>
+    <message id="hot_key_given">
+        <source></source>
+        <translation>このデスクトップでのキー: %1</translation>
+    </message>
+    <message id="hot_key_awaited">
+        <source></source>
+        <translation>デスクトップからの応答がまだありません。</translation>
+    </message>
+    <message id="hot_key_taken">
+        <source></source>
+        <translation>機能しません。ほかのプログラムがこのキーを使っているか、キーボードにこのキーがありません。</translation>
+    </message>
+    <message id="hot_key_refused">
+        <source></source>
+        <translation>機能しません。デスクトップがこのキーを割り当てませんでした。デスクトップ自身のキー設定で変更できます。</translation>
+    </message>
+    <message id="hot_key_no_way">
+        <source></source>
+        <translation>機能しません。このデスクトップはプログラムにキーを割り当てません。デスクトップ自身の設定で、コマンド「lurkwell --toggle-overlay」にキーを割り当てられます。</translation>
+    </message>
     <message id="settings_note_no_number">
         <source></source>
         <translation>保存されている値は数値でないため、0 として扱われます。数値を入力するか、設定項目をデフォルトに戻してください。</translation>

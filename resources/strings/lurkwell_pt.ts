@@ -5548,6 +5548,26 @@ Livre: %5</translation>
         <source></source>
         <translation>O programa mantém isto por si próprio; não se altera aqui.</translation>
     </message>
+    <message id="hot_key_given">
+        <source></source>
+        <translation>Neste ambiente de trabalho a tecla é: %1.</translation>
+    </message>
+    <message id="hot_key_awaited">
+        <source></source>
+        <translation>O ambiente de trabalho ainda não respondeu.</translation>
+    </message>
+    <message id="hot_key_taken">
+        <source></source>
+        <translation>Não funciona: outro programa tem a tecla, ou o teclado não a tem.</translation>
+    </message>
+    <message id="hot_key_refused">
+        <source></source>
+        <translation>Não funciona: o ambiente de trabalho não concedeu a tecla. Pode mudar-se nas definições de teclas dele.</translation>
+    </message>
+    <message id="hot_key_no_way">
+        <source></source>
+        <translation>Não funciona: este ambiente de trabalho não concede teclas a programas. Nas definições dele pode dar-se uma tecla ao comando «lurkwell --toggle-overlay».</translation>
+    </message>
     <message id="settings_note_no_number">
         <source></source>
         <translation>O que está guardado não é um número e é lido como 0. Introduza um número ou reponha a definição.</translation>

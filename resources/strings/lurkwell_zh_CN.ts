@@ -5506,6 +5506,26 @@
         <source></source>
         <translation>此项由程序自己维护，不在这里更改。</translation>
     </message>
+    <message id="hot_key_given">
+        <source></source>
+        <translation>在此桌面上，按键为：%1。</translation>
+    </message>
+    <message id="hot_key_awaited">
+        <source></source>
+        <translation>桌面尚未答复。</translation>
+    </message>
+    <message id="hot_key_taken">
+        <source></source>
+        <translation>它不起作用：另一个程序占用了该按键，或键盘上没有该按键。</translation>
+    </message>
+    <message id="hot_key_refused">
+        <source></source>
+        <translation>它不起作用：桌面没有给予该按键。可在桌面自己的按键设置中更改。</translation>
+    </message>
+    <message id="hot_key_no_way">
+        <source></source>
+        <translation>它不起作用：此桌面不给程序分配按键。可在桌面自己的设置中为命令“lurkwell --toggle-overlay”指定一个按键。</translation>
+    </message>
     <message id="settings_note_no_number">
         <source></source>
         <translation>存储的内容不是数值，按 0 读取。请输入数值，或将设置恢复默认值。</translation>

@@ -2,7 +2,9 @@
 
 #include <QFont>
 #include <QPalette>
+#include <string_view>
 
+#include "platform/HotKeys.h"
 #include "platform/Machine.h"
 #include "platform/PreferenceDomain.h"
 #include "preferences_window/PreferenceChanges.h"
@@ -11,6 +13,8 @@
 
 namespace lurkwell {
 namespace {
+
+constexpr std::string_view kHotKeySetting = "FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE";
 
 /// The text of that kind; empty without one.
 QString TextOf(const Setting& entry, const char* kind, const char* ofComponent) {
@@ -91,6 +95,28 @@ QString EffectText(const Setting& entry) {
   constexpr const char* kIds[] = {"settings_effect_at_once", "settings_effect_new_windows",
                                   "settings_effect_next_start"};
   return LocalizedString(kIds[static_cast<int>(entry.effect)]);
+}
+
+/// How it stands with the key that was registered at the start; empty when it simply works.
+QString HotKeyNote() {
+  const auto [standing, trigger] = TheMachine().hotKeys.State();
+  switch (standing) {
+    case HotKeyStanding::kNone:
+      return {};
+    case HotKeyStanding::kGiven:
+      return trigger.empty()
+                 ? QString()
+                 : LocalizedString("hot_key_given").arg(QString::fromStdString(trigger));
+    case HotKeyStanding::kAwaited:
+      return LocalizedString("hot_key_awaited");
+    case HotKeyStanding::kTaken:
+      return LocalizedString("hot_key_taken");
+    case HotKeyStanding::kRefused:
+      return LocalizedString("hot_key_refused");
+    case HotKeyStanding::kNoWay:
+      return LocalizedString("hot_key_no_way");
+  }
+  return {};
 }
 
 bool IsNumberText(const QString& text) {
@@ -246,8 +272,10 @@ QString SettingsModel::NoteOf(int row) const {
     return LocalizedString("settings_note_no_number");
   constexpr const char* kIds[] = {"settings_note_at_once", "settings_note_new_windows",
                                   "settings_note_next_start"};
-  const QString effect = LocalizedString(kIds[static_cast<int>(entry.effect)]);
-  return stored.isNull() ? LocalizedString("settings_note_not_stored").arg(effect) : effect;
+  QString effect = LocalizedString(kIds[static_cast<int>(entry.effect)]);
+  if (std::string_view(entry.key) == kHotKeySetting) effect += QLatin1Char(' ') + HotKeyNote();
+  return (stored.isNull() ? LocalizedString("settings_note_not_stored").arg(effect) : effect)
+      .trimmed();
 }
 
 }  // namespace lurkwell

@@ -136,6 +136,8 @@ TEST_F(HotKeysTest, SayWhenAKeyIsTakenOrUnknown) {
   DesktopHotKeys others(Settings(), DesktopHotKeys::Source::kXServer);
   ASSERT_TRUE(others.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
   EXPECT_FALSE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+  EXPECT_EQ(keys.State().standing, HotKeyStanding::kTaken);
+  EXPECT_EQ(others.State().standing, HotKeyStanding::kGiven);
   EXPECT_FALSE(keys.RegisterEventHotKey(4242, HotKeys::kNoModifiers, [] {}));
   EXPECT_FALSE(keys.RegisterEventHotKey(kF7Code, 512, [] {}));
   display.EndServer();
@@ -157,14 +159,20 @@ class FakePortal final : public QDBusVirtualObject {
 
   QString introspect(const QString&) const override { return {}; }
   bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override {
+    if (message.member() == "Register") {
+      name = message.arguments().value(0).toString();
+      mBus.send(message.createReply());
+      return true;
+    }
     const bool creates = message.member() == "CreateSession";
     if (!creates) bound = message.signature();
     const auto request = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
                              .arg(message.service().mid(1).replace('.', '_'),
                                   creates ? "lurkwell_create" : "lurkwell_bind");
     mBus.send(message.createReply(QVariant::fromValue(QDBusObjectPath(request))));
-    Signal(request, "org.freedesktop.portal.Request", "Response",
-           {0U, QVariantMap{{"session_handle", "/session/1"}}});
+    Signal(
+        request, "org.freedesktop.portal.Request", "Response",
+        {creates ? 0U : answer, creates ? QVariantMap{{"session_handle", "/session/1"}} : given});
     return true;
   }
   void Press(const QString& id) {
@@ -175,7 +183,12 @@ class FakePortal final : public QDBusVirtualObject {
     Signal("/session/1", "org.freedesktop.portal.Session", "Closed", {QVariantMap()});
   }
 
+  /// What the program calls itself.
+  QString name;
   QString bound;
+  /// What it says of the keys.
+  uint answer = 0;
+  QVariantMap given;
 
  private:
   void Signal(const QString& path, const QString& interface, const QString& member,
@@ -198,6 +211,9 @@ TEST(HotKeysOfThePortal, AreBoundAndPressed) {
   EXPECT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [&] { ++presses; }));
   EXPECT_TRUE(SoonTrue([&] { return !portal->bound.isEmpty(); }));
   EXPECT_EQ(portal->bound.toStdString(), "oa(sa{sv})sa{sv}");
+  EXPECT_EQ(portal->name, "com.velquarin.lurkwell");
+  EXPECT_TRUE(SoonTrue([&] { return keys.State().standing == HotKeyStanding::kGiven; }));
+  EXPECT_EQ(keys.State().trigger, "");
   EXPECT_TRUE(SoonTrue([&] {
     portal->Press("overlay-f7");
     return presses > 0;
@@ -205,7 +221,11 @@ TEST(HotKeysOfThePortal, AreBoundAndPressed) {
   // One that is started anew knows nothing of the session.
   portal.reset();
   portal = std::make_unique<FakePortal>(bus.Address());
-  EXPECT_TRUE(SoonTrue([&] { return !portal->bound.isEmpty(); }));
+  // Its user wants another key.
+  using Given = QList<std::pair<QString, QVariantMap>>;
+  portal->given["shortcuts"] = QVariant::fromValue(
+      Given{{"overlay-f7", {{"trigger_description", "Ctrl+Alt+V"}}}, {"overlay-logo-f7", {}}});
+  EXPECT_TRUE(SoonTrue([&] { return keys.State().trigger == "Ctrl+Alt+V"; }));
   testing::internal::CaptureStderr();
   portal->Close();
   const int before = presses;
@@ -213,9 +233,36 @@ TEST(HotKeysOfThePortal, AreBoundAndPressed) {
   EXPECT_FALSE(SoonTrue([&] { return presses > before; }, 0.5));
   const std::string said = testing::internal::GetCapturedStderr();
   EXPECT_NE(said.find("has ended the session"), std::string::npos) << said;
+  EXPECT_EQ(keys.State().standing, HotKeyStanding::kRefused);
   settings.sessionBusAddress.clear();
   DesktopHotKeys nowhere(settings, DesktopHotKeys::Source::kPortal);
   EXPECT_FALSE(nowhere.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+  EXPECT_EQ(nowhere.State().standing, HotKeyStanding::kNoWay);
+}
+
+TEST(HotKeysOfThePortal, AreRefusedOrMissing) {
+  TestBus bus;
+  DesktopSettings settings;
+  settings.sessionBusAddress = bus.Address();
+  testing::internal::CaptureStderr();
+  {
+    DesktopHotKeys keys(settings, DesktopHotKeys::Source::kPortal);
+    EXPECT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+    EXPECT_EQ(keys.State().standing, HotKeyStanding::kAwaited);
+    EXPECT_TRUE(SoonTrue([&] { return keys.State().standing == HotKeyStanding::kNoWay; }));
+  }
+  FakePortal portal(bus.Address());
+  // The user has closed the desktop's question; or has taken none of the keys, which is no error.
+  for (const bool isError : {true, false}) {
+    portal.answer = isError ? 1 : 0;
+    portal.given["shortcuts"] = QVariant::fromValue(QList<std::pair<QString, QVariantMap>>());
+    DesktopHotKeys keys(settings, DesktopHotKeys::Source::kPortal);
+    EXPECT_TRUE(keys.RegisterEventHotKey(kF7Code, HotKeys::kNoModifiers, [] {}));
+    EXPECT_TRUE(SoonTrue([&] { return keys.State().standing == HotKeyStanding::kRefused; }));
+  }
+  const std::string said = testing::internal::GetCapturedStderr();
+  EXPECT_NE(said.find("org.freedesktop.portal"), std::string::npos) << said;
+  EXPECT_NE(said.find("refused them"), std::string::npos) << said;
 }
 
 }  // namespace

@@ -123,6 +123,21 @@ TEST_F(AllSettingsTest, ManyAreResetInOneWriteAndEachClientIsToldOnce) {
             "VQTarvMainWindowInfoSynch preferences\n");
 }
 
+TEST_F(AllSettingsTest, TheHotKeysRowSaysHowItStandsWithTheDesktop) {
+  constexpr char kKey[] = "FULLSCREEN_QUIVA_HOTKEY_VIRTUAL_KEY_CODE";
+  OpenTable();
+  const auto note = [&](HotKeyState state) {
+    machine.hotKeys.state = std::move(state);
+    Table().table().clearSelection();
+    Table().table().selectRow(Cell(kKey).row());
+    return Note();
+  };
+  EXPECT_EQ(note({HotKeyStanding::kGiven, ""}).find("key"), std::string::npos) << Note();
+  EXPECT_NE(note({HotKeyStanding::kGiven, "Ctrl+Alt+V"}).find("Ctrl+Alt+V"), std::string::npos);
+  EXPECT_NE(note({HotKeyStanding::kNoWay, ""}).find("lurkwell --toggle-overlay"),
+            std::string::npos);
+}
+
 TEST_F(AllSettingsTest, KeepsTheOrderOfTheAnimatedViewsIntervals) {
   SetPrefInt("HEARTQUIVA_MAINPIC_INTERVAL", 200);
   SetPrefInt("HEARTQUIVA_HELPERPIC_INTERVAL", 1000);

@@ -47,11 +47,13 @@ std::string ServerNameOf(std::uint32_t symbol, bool withSuper) {
   return (withSuper ? "Super+" : "") + NameOf(symbol);
 }
 
-void Complain(const std::string& key, const std::string& reason) {
-  Diagnose("no hot key %s: %s", key.c_str(), reason.c_str());
-}
-
 }  // namespace
+
+void DesktopHotKeys::Complain(const std::string& key, const std::string& reason,
+                              HotKeyStanding standing, bool isPlain) {
+  Diagnose("no hot key %s: %s", key.c_str(), reason.c_str());
+  if (isPlain) mState = {standing, {}};
+}
 
 DesktopHotKeys::DesktopHotKeys(DesktopSettings settings)
     : DesktopHotKeys(std::move(settings), KeysOfPlatform()) {}
@@ -66,7 +68,8 @@ bool DesktopHotKeys::RegisterEventHotKey(std::uint32_t virtualKeyCode, std::uint
   const auto symbol = KeySymbolOf(virtualKeyCode);
   const bool isKnown = modifiers == kNoModifiers || modifiers == kCommandModifier;
   if (!symbol || !isKnown) {
-    Complain("number " + std::to_string(virtualKeyCode), "no such key is known");
+    Complain("number " + std::to_string(virtualKeyCode), "no such key is known",
+             HotKeyStanding::kTaken);
     return false;
   }
   const bool withSuper = modifiers == kCommandModifier;
@@ -78,7 +81,8 @@ bool DesktopHotKeys::RegisterEventHotKey(std::uint32_t virtualKeyCode, std::uint
     case Source::kNone:
       break;
   }
-  Complain(ServerNameOf(*symbol, withSuper), "the windows are on no desktop that gives keys");
+  Complain(ServerNameOf(*symbol, withSuper), "the windows are on no desktop that gives keys",
+           HotKeyStanding::kNoWay);
   return false;
 }
 
@@ -94,18 +98,23 @@ bool DesktopHotKeys::TakeFromServer(std::uint32_t symbol, bool withSuper,
                                     std::function<void()> pressed) {
   const std::string name = ServerNameOf(symbol, withSuper);
   if (mSettings.display.empty()) {
-    Complain(name, "there is no X server");
+    Complain(name, "there is no X server", HotKeyStanding::kNoWay);
     return false;
   }
   if (mGrabs == nullptr)
-    mGrabs = std::make_unique<XKeyGrabs>(
-        mSettings.display, mSettings.retryInterval, [](std::uint32_t refused, bool refusedSuper) {
-          Complain(ServerNameOf(refused, refusedSuper), kRefusedReason);
-        });
+    mGrabs =
+        std::make_unique<XKeyGrabs>(mSettings.display, mSettings.retryInterval,
+                                    [this](std::uint32_t refused, bool refusedSuper) {
+                                      Complain(ServerNameOf(refused, refusedSuper), kRefusedReason,
+                                               HotKeyStanding::kTaken, !refusedSuper);
+                                    });
   const auto outcome = mGrabs->Add(symbol, withSuper, std::move(pressed));
-  if (outcome == XKeyGrabs::Outcome::kRefused) Complain(name, kRefusedReason);
+  if (outcome == XKeyGrabs::Outcome::kTaken && !withSuper) mState = {HotKeyStanding::kGiven, {}};
+  if (outcome == XKeyGrabs::Outcome::kRefused)
+    Complain(name, kRefusedReason, HotKeyStanding::kTaken, !withSuper);
   if (outcome == XKeyGrabs::Outcome::kNoServer)
-    Complain(name, "the X server does not answer; it is asked again later");
+    Complain(name, "the X server does not answer; it is asked again later",
+             HotKeyStanding::kAwaited, !withSuper);
   return outcome == XKeyGrabs::Outcome::kTaken;
 }
 
@@ -114,14 +123,23 @@ bool DesktopHotKeys::AskPortal(std::uint32_t symbol, bool withSuper,
   const std::string name = (withSuper ? "LOGO+" : "") + NameOf(symbol);
   if (mPortal == nullptr)
     mPortal = std::make_unique<GlobalShortcutsPortal>(
-        mSettings.sessionBusAddress, [](const QString& reason) {
-          Complain("through the desktop's portal", reason.toStdString());
+        mSettings.sessionBusAddress, [this](HotKeyStanding standing, const QString& reason,
+                                            const QMap<QString, QString>& triggers) {
+          if (standing != HotKeyStanding::kGiven)
+            return Complain("through the desktop's portal", reason.toStdString(), standing);
+          mState = {standing, triggers.value(mPortalId).toStdString()};
         });
   const QString trigger = QString::fromStdString(name);
   const QString id = QStringLiteral("overlay-") + trigger.toLower().replace('+', '-');
-  if (mPortal->Add(id, trigger, std::move(pressed))) return true;
-  Complain(name, "there is no session bus");
-  return false;
+  if (!mPortal->Add(id, trigger, std::move(pressed))) {
+    Complain(name, "there is no session bus", HotKeyStanding::kNoWay);
+    return false;
+  }
+  if (!withSuper) {
+    mPortalId = id;
+    mState = {HotKeyStanding::kAwaited, {}};
+  }
+  return true;
 }
 
 }  // namespace lurkwell

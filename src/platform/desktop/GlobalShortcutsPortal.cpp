@@ -18,6 +18,8 @@ const QString kPortalConnection = QStringLiteral("lurkwell-shortcuts");
 const QString kPortalService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kPortalInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
+const QString kRegistryInterface = QStringLiteral("org.freedesktop.host.portal.Registry");
+const QString kApplicationId = QStringLiteral("com.velquarin.lurkwell");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 const QString kSessionInterface = QStringLiteral("org.freedesktop.portal.Session");
 const QString kSessionToken = QStringLiteral("lurkwell_session");
@@ -27,12 +29,11 @@ using ShortcutList = QList<std::pair<QString, QVariantMap>>;
 
 }  // namespace
 
-GlobalShortcutsPortal::GlobalShortcutsPortal(const std::string& busAddress,
-                                             std::function<void(const QString&)> complain)
+GlobalShortcutsPortal::GlobalShortcutsPortal(const std::string& busAddress, Told told)
     : mBus(DoesBusAnswer(busAddress) ? QDBusConnection::connectToBus(
                                            QString::fromStdString(busAddress), kPortalConnection)
                                      : QDBusConnection(QStringLiteral("lurkwell-no-bus"))),
-      mComplain(std::move(complain)) {
+      mTold(std::move(told)) {
   qDBusRegisterMetaType<std::pair<QString, QVariantMap>>();
   qDBusRegisterMetaType<ShortcutList>();
   mPortal = std::make_unique<ServiceOwner>(mBus, kPortalService, [this] { FollowPortal(); });
@@ -47,7 +48,7 @@ bool GlobalShortcutsPortal::Add(const QString& id, const QString& trigger,
                                 std::function<void()> pressed) {
   if (!mBus.isConnected()) return false;
   mShortcuts.push_back({id, trigger, std::move(pressed)});
-  if (!std::exchange(mAsked, true)) QTimer::singleShot(0, this, [this] { CreateSession(); });
+  if (!std::exchange(mAsked, true)) QTimer::singleShot(0, this, [this] { Introduce(); });
   return true;
 }
 
@@ -64,7 +65,7 @@ void GlobalShortcutsPortal::Call(const QString& method, const QVariantList& argu
   message.setArguments(arguments);
   auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(message, kPortalAnswers), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-    if (watcher->isError()) mComplain(watcher->error().message());
+    if (watcher->isError()) Complain(HotKeyStanding::kNoWay, watcher->error().message());
     watcher->deleteLater();
   });
 }
@@ -74,12 +75,25 @@ void GlobalShortcutsPortal::FollowPortal() {
   const QString& name = mPortal->Name();
   if (name.isEmpty()) {
     if (!mSession.isEmpty())
-      mComplain(QStringLiteral("it has ended; it is asked anew if it returns"));
+      Complain(HotKeyStanding::kNoWay,
+               QStringLiteral("it has ended; it is asked anew if it returns"));
     mSession.clear();
     return;
   }
   const QString before = std::exchange(mPortalName, name);
-  if (mAsked && !before.isEmpty() && before != name) CreateSession();
+  if (mAsked && !before.isEmpty() && before != name) Introduce();
+}
+
+void GlobalShortcutsPortal::Introduce() {
+  auto message = QDBusMessage::createMethodCall(kPortalService, kPortalPath, kRegistryInterface,
+                                                QStringLiteral("Register"));
+  message.setArguments({kApplicationId, QVariantMap()});
+  // Portals without it look the name up themselves, and those that know it already refuse.
+  auto* watcher = new QDBusPendingCallWatcher(mBus.asyncCall(message, kPortalAnswers), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+    watcher->deleteLater();
+    CreateSession();
+  });
 }
 
 void GlobalShortcutsPortal::CreateSession() {
@@ -93,9 +107,11 @@ void GlobalShortcutsPortal::CreateSession() {
 }
 
 void GlobalShortcutsPortal::HandleSession(uint response, const QVariantMap& results) {
-  if (response != 0) return mComplain(QStringLiteral("the desktop gives none"));
+  if (response != 0)
+    return Complain(HotKeyStanding::kRefused, QStringLiteral("the desktop gives none"));
   mSession = results.value(QStringLiteral("session_handle")).toString();
-  if (mSession.isEmpty()) return mComplain(QStringLiteral("the desktop names no session"));
+  if (mSession.isEmpty())
+    return Complain(HotKeyStanding::kRefused, QStringLiteral("the desktop names no session"));
   mBus.connect(kPortalService, mSession, kSessionInterface, QStringLiteral("Closed"), this,
                SLOT(HandleClosed()));
   Bind();
@@ -116,14 +132,25 @@ void GlobalShortcutsPortal::Bind() {
         QVariantMap{{QStringLiteral("handle_token"), token}}});
 }
 
-void GlobalShortcutsPortal::HandleBound(uint response, const QVariantMap&) {
-  if (response != 0) mComplain(QStringLiteral("the user or the desktop refused them"));
+void GlobalShortcutsPortal::HandleBound(uint response, const QVariantMap& results) {
+  const auto bound =
+      qdbus_cast<ShortcutList>(results.value(QStringLiteral("shortcuts")).value<QDBusArgument>());
+  // Some answer that all is well when the user has taken none.
+  const bool isRefused =
+      response != 0 || (bound.isEmpty() && results.contains(QStringLiteral("shortcuts")));
+  if (isRefused)
+    return Complain(HotKeyStanding::kRefused,
+                    QStringLiteral("the user or the desktop refused them"));
+  QMap<QString, QString> triggers;
+  for (const auto& [id, about] : bound)
+    triggers[id] = about.value(QStringLiteral("trigger_description")).toString();
+  mTold(HotKeyStanding::kGiven, {}, triggers);
 }
 
 /// Not asked anew: it may be the user who has taken the keys away.
 void GlobalShortcutsPortal::HandleClosed() {
   if (std::exchange(mSession, {}).isEmpty()) return;
-  mComplain(QStringLiteral("the desktop has ended the session"));
+  Complain(HotKeyStanding::kRefused, QStringLiteral("the desktop has ended the session"));
 }
 
 void GlobalShortcutsPortal::HandleActivated(const QDBusObjectPath& session, const QString& id,

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusObjectPath>
+#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QVariantMap>
@@ -11,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/HotKeys.h"
 #include "platform/desktop/SessionBus.h"
 
 namespace lurkwell {
@@ -22,9 +24,12 @@ class GlobalShortcutsPortal : public QObject {
   Q_OBJECT
 
  public:
-  /// `complain` is called with a reason when the portal is missing, refuses or ends the session.
-  GlobalShortcutsPortal(const std::string& busAddress,
-                        std::function<void(const QString&)> complain);
+  /// Called when it becomes known how it stands: with kGiven and, by the shortcut's id, what the
+  /// desktop has bound to it in its own words, as far as it says; else with the reason.
+  using Told =
+      std::function<void(HotKeyStanding, const QString& reason, const QMap<QString, QString>&)>;
+
+  GlobalShortcutsPortal(const std::string& busAddress, Told told);
   ~GlobalShortcutsPortal() override;
 
   /// False when there is no bus. Keys that are added before control returns to the run loop are
@@ -47,14 +52,18 @@ class GlobalShortcutsPortal : public QObject {
   };
 
   void FollowPortal();
+  /// Portals know a program that no sandbox vouches for by the name that it gives itself, and by
+  /// that name they remember its keys.
+  void Introduce();
   void CreateSession();
   void Bind();
   void Call(const QString& method, const QVariantList& arguments);
+  void Complain(HotKeyStanding standing, const QString& reason) { mTold(standing, reason, {}); }
   /// Listens where the portal will answer a request of that token.
   void ExpectAnswer(const QString& token, const char* slot);
 
   QDBusConnection mBus;
-  std::function<void(const QString&)> mComplain;
+  Told mTold;
   std::vector<Shortcut> mShortcuts;
   QString mSession;
   bool mAsked = false;

@@ -56,6 +56,7 @@ class NoHotKeys final : public HotKeys {
     return false;
   }
   std::string KeyName(std::uint32_t) const override { return {}; }
+  HotKeyState State() const override { return {}; }
 };
 
 /// Nobody would see a notification.

@@ -115,6 +115,10 @@ class SimulatedHotKeys final : public HotKeys {
     return "F" + std::to_string(virtualKeyCode == 98 ? 7 : 12);
   }
 
+  HotKeyState State() const override { return state; }
+
+  HotKeyState state{HotKeyStanding::kGiven, ""};
+
   /// Calls all that have registered that key; how many they were.
   int Press(std::uint32_t virtualKeyCode, std::uint32_t modifiers) {
     int count = 0;
