@@ -2451,6 +2451,14 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
         <source></source>
         <translation>Auf dieser Arbeitsfläche werden Fenster nicht überblendet (es läuft kein Compositor). Die Ansicht füllt stattdessen den ganzen Bildschirm; mit Esc oder %1 verlassen Sie sie.</translation>
     </message>
+    <message id="overlay_needs_layer">
+        <source></source>
+        <translation>Die animierte Ansicht kann hier nicht über anderen Fenstern liegen.</translation>
+    </message>
+    <message id="overlay_needs_layer_text">
+        <source></source>
+        <translation>Diese Arbeitsumgebung lässt kein Programm ein Fenster über denen anderer halten. Die Ansicht füllt stattdessen den ganzen Bildschirm; mit Esc oder %1 verlassen Sie sie.</translation>
+    </message>
     <message id="menu_help_help">
         <source></source>
         <translation>Lurkwell-&amp;Hilfe</translation>
@@ -3707,6 +3715,10 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
         <source></source>
         <translation>diese Arbeitsumgebung bietet dafür keinen Weg</translation>
     </message>
+    <message id="action_reason_out_of_reach">
+        <source></source>
+        <translation>diese Arbeitsumgebung lässt das kein Programm mit den Fenstern eines anderen tun</translation>
+    </message>
     <message id="action_done_quit" numerus="yes">
         <source></source>
         <translation>
@@ -4667,6 +4679,10 @@ Frei: %5</translation>
     <message id="history_tip">
         <source></source>
         <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;PID %2, Eigentümer %3&lt;br&gt;%4</translation>
+    </message>
+    <message id="history_not_above">
+        <source></source>
+        <translation>Diese Arbeitsumgebung hält es nicht über anderen Fenstern; eine eigene Fensterregel kann das.</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

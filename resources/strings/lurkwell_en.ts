@@ -2451,6 +2451,14 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Nothing blends the windows of this desktop (no compositor is running). The view will fill the whole screen instead; press Escape or %1 to leave it.</translation>
     </message>
+    <message id="overlay_needs_layer">
+        <source></source>
+        <translation>The animated view cannot lie over other windows here.</translation>
+    </message>
+    <message id="overlay_needs_layer_text">
+        <source></source>
+        <translation>This desktop lets no program keep a window above those of others. The view will fill the whole screen instead; press Escape or %1 to leave it.</translation>
+    </message>
     <message id="menu_help_help">
         <source></source>
         <translation>Lurkwell &amp;Help</translation>
@@ -3707,6 +3715,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>this desktop has no way to do it</translation>
     </message>
+    <message id="action_reason_out_of_reach">
+        <source></source>
+        <translation>this desktop lets no program do that to another one’s windows</translation>
+    </message>
     <message id="action_done_quit" numerus="yes">
         <source></source>
         <translation>
@@ -4667,6 +4679,10 @@ Free: %5</translation>
     <message id="history_tip">
         <source></source>
         <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2, owner %3&lt;br&gt;%4</translation>
+    </message>
+    <message id="history_not_above">
+        <source></source>
+        <translation>This desktop does not keep it above other windows; a rule of its own for windows may.</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

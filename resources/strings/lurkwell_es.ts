@@ -2451,6 +2451,14 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
         <source></source>
         <translation>Nada mezcla las ventanas de este escritorio (no hay ningún compositor en marcha). La vista ocupará toda la pantalla; pulse Escape o %1 para salir de ella.</translation>
     </message>
+    <message id="overlay_needs_layer">
+        <source></source>
+        <translation>La vista animada no puede estar aquí por encima de otras ventanas.</translation>
+    </message>
+    <message id="overlay_needs_layer_text">
+        <source></source>
+        <translation>Este escritorio no permite que ningún programa mantenga una ventana por encima de las de otros. La vista ocupará toda la pantalla; pulse Escape o %1 para salir de ella.</translation>
+    </message>
     <message id="menu_help_help">
         <source></source>
         <translation>A&amp;yuda de Lurkwell</translation>
@@ -3707,6 +3715,10 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
         <source></source>
         <translation>este escritorio no tiene forma de hacerlo</translation>
     </message>
+    <message id="action_reason_out_of_reach">
+        <source></source>
+        <translation>este escritorio no permite que ningún programa haga eso con las ventanas de otro</translation>
+    </message>
     <message id="action_done_quit" numerus="yes">
         <source></source>
         <translation>
@@ -4667,6 +4679,10 @@ Libre: %5</translation>
     <message id="history_tip">
         <source></source>
         <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2, propietario %3&lt;br&gt;%4</translation>
+    </message>
+    <message id="history_not_above">
+        <source></source>
+        <translation>Este escritorio no la mantiene por encima de otras ventanas; una regla de ventanas del escritorio sí puede.</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

@@ -2451,6 +2451,14 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
         <source></source>
         <translation>Rien ne mélange les fenêtres de ce bureau (aucun compositeur n’est en marche). La vue remplira plutôt tout l’écran ; appuyez sur Échap ou %1 pour la quitter.</translation>
     </message>
+    <message id="overlay_needs_layer">
+        <source></source>
+        <translation>La vue animée ne peut pas être ici par-dessus d’autres fenêtres.</translation>
+    </message>
+    <message id="overlay_needs_layer_text">
+        <source></source>
+        <translation>Ce bureau ne laisse aucun programme garder une fenêtre au-dessus de celles des autres. La vue remplira plutôt tout l’écran ; appuyez sur Échap ou %1 pour la quitter.</translation>
+    </message>
     <message id="menu_help_help">
         <source></source>
         <translation>Ai&amp;de de Lurkwell</translation>
@@ -3707,6 +3715,10 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
         <source></source>
         <translation>ce bureau n’a aucun moyen de le faire</translation>
     </message>
+    <message id="action_reason_out_of_reach">
+        <source></source>
+        <translation>ce bureau ne laisse aucun programme faire cela aux fenêtres d’un autre</translation>
+    </message>
     <message id="action_done_quit" numerus="yes">
         <source></source>
         <translation>
@@ -4667,6 +4679,10 @@ Libre : %5</translation>
     <message id="history_tip">
         <source></source>
         <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;PID %2, propriétaire %3&lt;br&gt;%4</translation>
+    </message>
+    <message id="history_not_above">
+        <source></source>
+        <translation>Ce bureau ne la garde pas au-dessus des autres fenêtres ; une de ses règles de fenêtres le peut.</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

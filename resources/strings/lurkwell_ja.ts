@@ -2449,6 +2449,14 @@
         <source></source>
         <translation>このデスクトップではウィンドウを合成するものがありません (コンポジターが動作していません)。代わりに画面全体を覆って表示します。Escape または %1 で戻ります。</translation>
     </message>
+    <message id="overlay_needs_layer">
+        <source></source>
+        <translation>ここではアニメーション表示をほかのウィンドウの上に重ねられません。</translation>
+    </message>
+    <message id="overlay_needs_layer_text">
+        <source></source>
+        <translation>このデスクトップでは、プログラムがウィンドウをほかのプログラムのウィンドウより上に保つことはできません。代わりに画面全体を覆って表示します。Escape または %1 で戻ります。</translation>
+    </message>
     <message id="menu_help_help">
         <source></source>
         <translation>Lurkwell ヘルプ(&amp;H)</translation>
@@ -3688,6 +3696,10 @@
         <source></source>
         <translation>このデスクトップには方法がありません</translation>
     </message>
+    <message id="action_reason_out_of_reach">
+        <source></source>
+        <translation>このデスクトップでは、ほかのプログラムのウィンドウにそれを行うことはできません</translation>
+    </message>
     <message id="action_done_quit" numerus="yes">
         <source></source>
         <translation>
@@ -4629,6 +4641,10 @@ MIT ライセンスのフリーソフトウェア</translation>
     <message id="history_tip">
         <source></source>
         <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2、所有者 %3&lt;br&gt;%4</translation>
+    </message>
+    <message id="history_not_above">
+        <source></source>
+        <translation>このデスクトップでは、このウィンドウはほかのウィンドウの上に保たれません。デスクトップのウィンドウ規則で設定できる場合があります。</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

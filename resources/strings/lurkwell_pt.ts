@@ -2451,6 +2451,14 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
         <source></source>
         <translation>Nada mistura as janelas deste ambiente de trabalho (não há nenhum compositor em execução). A vista vai ocupar todo o ecrã; prima Escape ou %1 para sair dela.</translation>
     </message>
+    <message id="overlay_needs_layer">
+        <source></source>
+        <translation>A vista animada não pode ficar aqui por cima de outras janelas.</translation>
+    </message>
+    <message id="overlay_needs_layer_text">
+        <source></source>
+        <translation>Este ambiente de trabalho não deixa nenhum programa manter uma janela por cima das dos outros. A vista vai ocupar todo o ecrã; prima Escape ou %1 para sair dela.</translation>
+    </message>
     <message id="menu_help_help">
         <source></source>
         <translation>&amp;Ajuda do Lurkwell</translation>
@@ -3707,6 +3715,10 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
         <source></source>
         <translation>este ambiente de trabalho não tem forma de o fazer</translation>
     </message>
+    <message id="action_reason_out_of_reach">
+        <source></source>
+        <translation>este ambiente de trabalho não deixa nenhum programa fazer isso às janelas de outro</translation>
+    </message>
     <message id="action_done_quit" numerus="yes">
         <source></source>
         <translation>
@@ -4667,6 +4679,10 @@ Livre: %5</translation>
     <message id="history_tip">
         <source></source>
         <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2, proprietário %3&lt;br&gt;%4</translation>
+    </message>
+    <message id="history_not_above">
+        <source></source>
+        <translation>Este ambiente de trabalho não a mantém por cima das outras janelas; uma regra de janelas dele pode fazê-lo.</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

@@ -2449,6 +2449,14 @@
         <source></source>
         <translation>此桌面无法混合窗口（没有运行合成器）。视图将改为填满整个屏幕；按 Escape 或 %1 退出。</translation>
     </message>
+    <message id="overlay_needs_layer">
+        <source></source>
+        <translation>动画视图在这里无法覆盖在其他窗口之上。</translation>
+    </message>
+    <message id="overlay_needs_layer_text">
+        <source></source>
+        <translation>此桌面不允许任何程序让窗口保持在其他程序的窗口之上。视图将改为填满整个屏幕；按 Escape 或 %1 退出。</translation>
+    </message>
     <message id="menu_help_help">
         <source></source>
         <translation>Lurkwell 帮助(&amp;H)</translation>
@@ -3688,6 +3696,10 @@
         <source></source>
         <translation>此桌面没有办法做到</translation>
     </message>
+    <message id="action_reason_out_of_reach">
+        <source></source>
+        <translation>此桌面不允许程序对其他程序的窗口这样做</translation>
+    </message>
     <message id="action_done_quit" numerus="yes">
         <source></source>
         <translation>
@@ -4629,6 +4641,10 @@
     <message id="history_tip">
         <source></source>
         <translation>&lt;b&gt;%1&lt;/b&gt;&lt;br&gt;pid %2，所有者 %3&lt;br&gt;%4</translation>
+    </message>
+    <message id="history_not_above">
+        <source></source>
+        <translation>此桌面不会让它保持在其他窗口之上；桌面自己的窗口规则也许可以。</translation>
     </message>
     <message id="history_menu_relative">
         <source></source>

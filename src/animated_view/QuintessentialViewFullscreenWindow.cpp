@@ -34,17 +34,16 @@ Qt::WindowFlags OverlayFlags() {
 }
 
 /// Not at once: a question inside a timer's callback would hold up all other timers.
-void TellOnce(QObject& context) {
+void TellOnce(QObject& context, const char* title, const char* text) {
   if (StoredInt(kToldKey).value_or(0) != 0) return;
   // A question takes the keyboard; there will be another time.
   if (TheMachine().screen.IsKeyboardElsewhere()) return;
   StoreInt(kToldKey, 1);
-  const auto tell = [] {
-    TheMachine().alerts.RunAlertPanel(LocalizedString("overlay_needs_compositor").toStdString(),
-                                      LocalizedString("overlay_needs_compositor_text")
-                                          .arg(OverlayKey().toString(QKeySequence::NativeText))
-                                          .toStdString(),
-                                      LocalizedString("alert_ok").toStdString(), "", "");
+  const auto tell = [title, text] {
+    TheMachine().alerts.RunAlertPanel(
+        LocalizedString(title).toStdString(),
+        LocalizedString(text).arg(OverlayKey().toString(QKeySequence::NativeText)).toStdString(),
+        LocalizedString("alert_ok").toStdString(), "", "");
   };
   QMetaObject::invokeMethod(&context, tell, Qt::QueuedConnection);
 }
@@ -52,8 +51,14 @@ void TellOnce(QObject& context) {
 }  // namespace
 
 void QuintessentialViewFullscreenWindow::setUpOverlayStuff() {
-  const bool blends = TheMachine().screen.BlendsWindows();
-  if (!blends) TellOnce(*this);
+  auto& screen = TheMachine().screen;
+  // What lies behind other windows need not be translucent.
+  const bool floats = screen.Abilities().floats;
+  const bool blends = floats && screen.BlendsWindows();
+  if (!floats)
+    TellOnce(*this, "overlay_needs_layer", "overlay_needs_layer_text");
+  else if (!blends)
+    TellOnce(*this, "overlay_needs_compositor", "overlay_needs_compositor_text");
   {
     const CriticalRegion::Guard inside(gQuintessentialMutex);
     // Window managers look at these when a window comes up, and no later.
@@ -62,6 +67,9 @@ void QuintessentialViewFullscreenWindow::setUpOverlayStuff() {
     setFlags(blends ? OverlayFlags() : Qt::Window | Qt::FramelessWindowHint);
     view().SetMode(blends ? ViewMode::kOverlay : ViewMode::kOpaqueFullscreen);
     setGeometry(QGuiApplication::primaryScreen()->geometry());
+    // Only a layer has to know of the native window before it is shown.
+    if (blends && !isVisible() && screen.Floating() == FloatingWay::kByLayer)
+      screen.MakeOverlay(winId());
   }
   mIsRevealed = !blends;
   setAlphaValue(blends ? 0.0 : 1.0);

@@ -81,7 +81,7 @@ void QuintessentialViewWindow::makeKeyAndOrderFront(Showing showing) {
   if ((windowStates() & Qt::WindowMinimized) != 0)
     setWindowStates(windowStates() & ~Qt::WindowMinimized);
   // Shown again where its contents were, it would move down by its title bar each time.
-  if (!isFullscreen() && !isVisible() && mNormalFrame.isValid())
+  if (!isFullscreen() && !isVisible() && mIsPlaced)
     setFramePosition(FitOnScreens(mNormalFrame).topLeft());
   // Not show(), which would make a maximised one small.
   setVisible(true);
@@ -117,12 +117,19 @@ void QuintessentialViewWindow::setAlphaValue(double alpha) {
 }
 
 void QuintessentialViewWindow::RestoreFrame() {
-  const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
+  const auto [frame, isMaximised, isPlaced] = ReadWindowFrame(kFrameKey);
   if (!frame.isValid()) return resize(FitOnScreens(kFirstSize));
   mNormalFrame = FitOnScreens(frame);
   resize(mNormalFrame.size());
-  setFramePosition(mNormalFrame.topLeft());
+  mIsPlaced = isPlaced;
+  if (isPlaced) setFramePosition(mNormalFrame.topLeft());
   if (isMaximised) setWindowStates(Qt::WindowMaximized);
+}
+
+void QuintessentialViewWindow::NoteFrame(const QSize& size) {
+  if (isFullscreen() || (windowStates() & ~Qt::WindowActive) != 0 || !isVisible()) return;
+  mNormalFrame = QRect(framePosition(), size);
+  mIsPlaced = TheMachine().screen.Abilities().places;
 }
 
 void QuintessentialViewWindow::SaveFrame() {
@@ -161,14 +168,12 @@ void QuintessentialViewWindow::resizeEvent(QResizeEvent* event) {
   const QSize bounded = mDelegate.windowWillResize(pixels);
   mDelegate.windowDidResize([this] { TakeSize(); });
   if (bounded != pixels) setMaximumSize(bounded / devicePixelRatio());
-  if (!isFullscreen() && (windowStates() & ~Qt::WindowActive) == 0 && isVisible())
-    mNormalFrame = QRect(framePosition(), event->size());
+  NoteFrame(event->size());
   PaintMessage();
 }
 
 void QuintessentialViewWindow::moveEvent(QMoveEvent*) {
-  if (!isFullscreen() && (windowStates() & ~Qt::WindowActive) == 0 && isVisible())
-    mNormalFrame = QRect(framePosition(), size());
+  NoteFrame(size());
 }
 
 void QuintessentialViewWindow::closeEvent(QCloseEvent* event) {

@@ -69,6 +69,8 @@ class QuintessentialViewWindow : public QWindow {
   bool IsCurrent() const;
   void closeByUser();
   void RestoreFrame();
+  /// Where it is now is where it comes back, unless it fills the screen.
+  void NoteFrame(const QSize& size);
   void PaintMessage();
   void ShowMenu(const QPoint& place);
 
@@ -80,6 +82,7 @@ class QuintessentialViewWindow : public QWindow {
   QMenu mMenu;
   QKeySequence mToggleKey;
   QRect mNormalFrame;
+  bool mIsPlaced = false;
 };
 
 /// The overlay over the whole screen: translucent, above everything, on every desktop, and neither

@@ -347,7 +347,9 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv,
   QApplication::setApplicationName(QStringLiteral("lurkwell"));
   QApplication::setDesktopFileName(QStringLiteral("com.velquarin.lurkwell"));
   auto withoutDisplay = std::make_unique<WithoutDisplayInstead>(arguments.data());
+  auto placesAreKept = std::make_unique<PlacesAreKept>();
   QApplication application(argc, argv);
+  placesAreKept.reset();
   withoutDisplay.reset();
   // Qt takes the user's language for texts; numbers are read and written with a point.
   std::setlocale(LC_NUMERIC, "C");

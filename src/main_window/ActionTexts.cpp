@@ -147,6 +147,8 @@ const char* ReasonWord(ActionResult result) {
       return "no_time";
     case ActionResult::kImpossible:
       return "impossible";
+    case ActionResult::kOutOfReach:
+      return "out_of_reach";
     default:
       return "nobody";
   }

@@ -376,13 +376,13 @@ QString MainWindow::WhyNothingIsShown() const {
 // ---- Life ---------------------------------------------------------------------------------------
 
 void MainWindow::RestoreFrame() {
-  const auto [frame, isMaximised] = ReadWindowFrame(kFrameKey);
+  const auto [frame, isMaximised, isPlaced] = ReadWindowFrame(kFrameKey);
   mWantedSize = frame.isValid() ? frame.size() : kFirstSize;
   if (!frame.isValid()) return resize(FitOnScreens(kFirstSize));
   mNormalFrame = FitOnScreens(frame);
   resize(mNormalFrame.size());
   if (isMaximised) setWindowState(Qt::WindowMaximized);
-  move(mNormalFrame.topLeft());
+  if (isPlaced) move(mNormalFrame.topLeft());
 }
 
 void MainWindow::SaveFrame() {

@@ -23,6 +23,7 @@
 #include "platform/Machine.h"
 #include "platform/ProcessManager.h"
 #include "platform/ProcessTable.h"
+#include "platform/Screen.h"
 #include "preferences/PreferenceBatch.h"
 #include "preferences/Settings.h"
 #include "process_control/ProcessActions.h"
@@ -44,6 +45,31 @@ ProcessSerialNumber SerialNumberOf(std::int32_t pid) {
   ProcessSerialNumber psn;
   PID2PSN(pid, &psn);
   return psn;
+}
+
+bool BringPSNToFront(ProcessSerialNumber psn) {
+  return TheMachine().processManager.SetFrontProcess(psn);
+}
+
+struct PSNOutcomes {
+  bool anyIsDone = false;
+  std::vector<ActionReport> failed;
+};
+
+/// Does something to those of the processes that are applications.
+PSNOutcomes ForPSNs(const std::vector<std::int32_t>& pids, bool (*action)(ProcessSerialNumber)) {
+  const auto why = TheMachine().screen.Abilities().reachesOthers ? ActionResult::kNobody
+                                                                 : ActionResult::kOutOfReach;
+  PSNOutcomes outcomes;
+  for (const auto pid : pids) {
+    const auto psn = SerialNumberOf(pid);
+    if (psn.IsNone()) continue;
+    if (action(psn))
+      outcomes.anyIsDone = true;
+    else
+      outcomes.failed.push_back({pid, WholeNameOf(pid), {why}});
+  }
+  return outcomes;
 }
 
 /// Who has started whom among all processes.
@@ -161,14 +187,8 @@ void ProcessCommands::ChangeScheduling() {
   mSelection.report(reports.join(QLatin1Char(' ')));
 }
 
-template <typename Action>
-void ProcessCommands::ForSelectedPSNs(Action action) {
-  std::vector<ActionReport> failed;
-  for (const auto pid : mSelection.selectedPids()) {
-    const auto psn = SerialNumberOf(pid);
-    if (!psn.IsNone() && !action(psn))
-      failed.push_back({pid, WholeNameOf(pid), {ActionResult::kNobody}});
-  }
+void ProcessCommands::ForSelectedPSNs(bool (*action)(ProcessSerialNumber)) {
+  const auto [anyIsDone, failed] = ForPSNs(mSelection.selectedPids(), action);
   if (!failed.empty()) mSelection.report(ReportText({ProcessCommand::kContinue}, failed));
 }
 
@@ -177,8 +197,7 @@ void ProcessCommands::processHideMenuItem() {
 }
 
 void ProcessCommands::processBringToFrontMenuItem() {
-  ForSelectedPSNs(
-      [](ProcessSerialNumber psn) { return TheMachine().processManager.SetFrontProcess(psn); });
+  ForSelectedPSNs(&BringPSNToFront);
 }
 
 void ProcessCommands::processRevealInFinderMenuItem() {
@@ -237,8 +256,10 @@ void ProcessCommands::newLoggingWindow() {
 }
 
 void ProcessCommands::doubleClickAction() {
-  if (anyPSNsInSelection(mSelection.selectedPids())) return processBringToFrontMenuItem();
-  ShowDetails();
+  const auto [anyIsInFront, failed] = ForPSNs(mSelection.selectedPids(), &BringPSNToFront);
+  // What cannot be brought to the front can be looked into.
+  if (!anyIsInFront) return ShowDetails();
+  if (!failed.empty()) mSelection.report(ReportText({ProcessCommand::kContinue}, failed));
 }
 
 std::int32_t ProcessCommands::FirstSelected() const {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "platform/ProcessIdentity.h"
 #include "process_control/ActionPlan.h"
 #include "windows/MonitorWindows.h"
 #include "windows/ProcessWindows.h"
@@ -110,8 +111,7 @@ class ProcessCommands {
   QString Do(const ActionPlan& plan);
   /// Whether the user agrees to a question, during which rows keep their places.
   bool Confirm(ActionQuestion& question);
-  template <typename Action>
-  void ForSelectedPSNs(Action action);
+  void ForSelectedPSNs(bool (*action)(ProcessSerialNumber));
   /// Has a window opened for each selected process, as far as the user and the room agree.
   void Follow(void (MonitorWindows::*open)(std::int32_t, std::int32_t), std::int32_t interval);
   bool ConfirmFollowing(std::size_t windows);

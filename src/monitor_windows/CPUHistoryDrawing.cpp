@@ -5,6 +5,8 @@
 #include "consolidator/PropertyValues.h"
 #include "monitor_windows/CPUHistoryWindow.h"
 #include "platform/Assertion.h"
+#include "platform/Machine.h"
+#include "platform/Screen.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/PropertyText.h"
@@ -66,9 +68,12 @@ void CPUHistoryWindowInformationClient::DrawIdentity(const QString& name) {
   Window()->setAccessibleName(
       LocalizedString("history_accessible").arg(name, pid, mProcess.ownerText));
   constexpr int kMostCommand = 400;
-  Window()->setToolTip(LocalizedString("history_tip")
-                           .arg(name.toHtmlEscaped(), pid, mProcess.ownerText.toHtmlEscaped(),
-                                mProcess.commandText.left(kMostCommand).toHtmlEscaped()));
+  auto tip = LocalizedString("history_tip")
+                 .arg(name.toHtmlEscaped(), pid, mProcess.ownerText.toHtmlEscaped(),
+                      mProcess.commandText.left(kMostCommand).toHtmlEscaped());
+  if (!TheMachine().screen.Abilities().floats)
+    tip += QLatin1String("<br><i>") + LocalizedString("history_not_above") + QLatin1String("</i>");
+  Window()->setToolTip(tip);
 }
 
 void CPUHistoryWindowInformationClient::FillMenu(QMenu& menu) const {

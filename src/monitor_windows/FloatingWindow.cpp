@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <QWindowStateChangeEvent>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "platform/Machine.h"
@@ -23,6 +24,9 @@ constexpr int kCloseBoxSize = 9;
 constexpr int kCloseBoxInset = 2;
 constexpr int kEdge = 4;
 constexpr int kFlashMilliseconds = 1200;
+/// On a layer the compositor needs a moment to move a window, and places that are told meanwhile
+/// are those of before.
+constexpr std::chrono::milliseconds kMoveSettles{24};
 
 int TitlebarWidth(std::uint32_t attributes) {
   return (attributes & kWindowSideTitlebarAttribute) != 0 ? FloatingWindow::kSideTitlebarWidth : 0;
@@ -59,9 +63,9 @@ FloatingWindow::FloatingWindow(const QRect& contentBounds, std::uint32_t attribu
                            Qt::WindowDoesNotAcceptFocus),
       mContent(new Content(this)),
       mAttributes(attributes),
-      mIsManaged(TheMachine().screen.KeepsWindowsAbove()) {
+      mWay(TheMachine().screen.Floating()) {
   // Some managers would tile it, and give it the keyboard at a click.
-  setWindowFlag(Qt::BypassWindowManagerHint, !mIsManaged);
+  setWindowFlag(Qt::BypassWindowManagerHint, mWay == FloatingWay::kByThemselves);
   // Not WA_ShowWithoutActivating: mutter takes a window that says so for one that asks for
   // attention, and tells the user of it. A window that does not accept the keyboard gets none
   // anyway.
@@ -104,7 +108,7 @@ bool FloatingWindow::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::Show:
       MakeFloating();
-      if (!mIsManaged) KeepAboveManaged(*windowHandle());
+      if (mWay == FloatingWay::kByThemselves) KeepAboveManaged(*windowHandle());
       Tell(kEventWindowShowing);
       Tell(kEventWindowDrawContent);
       Tell(kEventWindowShown);
@@ -120,6 +124,8 @@ bool FloatingWindow::event(QEvent* event) {
       Tell(kEventWindowDeactivated);
       break;
     case QEvent::Move:
+      // A layer takes the new place with the next picture.
+      if (mWay == FloatingWay::kByLayer) QWidget::update();
       Tell(kEventWindowBoundsChanged);
       break;
     case QEvent::Resize: {
@@ -179,7 +185,7 @@ void FloatingWindow::HandleMouse(QEvent& event) {
   if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::LeftButton) {
     EndDrag();
     const auto edges = EdgesAt(place);
-    if (edges && mIsManaged && windowHandle() != nullptr &&
+    if (edges && IsManaged() && windowHandle() != nullptr &&
         windowHandle()->startSystemResize(edges))
       return;
     mHeldEdges = edges;
@@ -192,7 +198,7 @@ void FloatingWindow::HandleMouse(QEvent& event) {
     mDragging = true;
     Tell(kEventWindowDragStarted);
     // The window manager knows edges and other desktops; where it does not help, move by hand.
-    if (mIsManaged && windowHandle() != nullptr && windowHandle()->startSystemMove()) {
+    if (IsManaged() && windowHandle() != nullptr && windowHandle()->startSystemMove()) {
       mMayDrag = false;
       return;
     }
@@ -203,8 +209,14 @@ void FloatingWindow::HandleMouse(QEvent& event) {
     return;
   }
   if (event.type() != QEvent::MouseMove) return;
+  const bool moves = mHeldEdges || (mDragging && mMayDrag);
+  if (moves && mWay == FloatingWay::kByLayer) {
+    const auto now = std::chrono::steady_clock::now();
+    if (now - mMovedAt < kMoveSettles) return;
+    mMovedAt = now;
+  }
   if (mHeldEdges) return DragEdges(mouse.globalPosition().toPoint());
-  if (mDragging && mMayDrag) move(mouse.globalPosition().toPoint() - mGrip);
+  if (moves) move(mouse.globalPosition().toPoint() - mGrip);
   // After a move by the window manager the release never comes.
   if (mouse.buttons() == Qt::NoButton) EndDrag();
 }

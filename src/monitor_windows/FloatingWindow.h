@@ -7,8 +7,11 @@
 #include <QPointer>
 #include <QString>
 #include <QWidget>
+#include <chrono>
 #include <cstdint>
 #include <functional>
+
+#include "platform/SessionAbilities.h"
 
 namespace lurkwell {
 
@@ -86,6 +89,10 @@ class FloatingWindow final : public QWidget {
   QRect CloseBox() const;
   /// Asks the desktop to treat it as what it is; before it is shown.
   void MakeFloating();
+  /// Whether the desktop moves and resizes it.
+  bool IsManaged() const {
+    return mWay == FloatingWay::kByManager || mWay == FloatingWay::kNotAtAll;
+  }
   void Tell(WindowEventKind kind);
   void HandleMouse(QEvent& event);
   void ShowMenu(const QPoint& place);
@@ -111,7 +118,8 @@ class FloatingWindow final : public QWidget {
   QPoint mGrip;
   /// By hand, where no window manager looks after the window.
   Qt::Edges mHeldEdges;
-  bool mIsManaged;
+  FloatingWay mWay;
+  std::chrono::steady_clock::time_point mMovedAt;
 };
 
 /// A label that is laid over a floating window, with an opacity of its own. Unseen until its

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "platform/SessionAbilities.h"
+
 namespace lurkwell {
 
 /// What windows of an unusual kind ask of the desktop. Main thread only; no answer takes longer
@@ -16,15 +18,22 @@ class Screen {
   /// Whether windows can be translucent and let the ones behind shine through.
   virtual bool BlendsWindows() = 0;
 
+  /// What can be promised of windows here. The same from start to end; asks nobody.
+  virtual SessionAbilities Abilities() = 0;
+
+  /// How floating windows that are opened now stay above others: most tiling window managers do
+  /// nothing for them.
+  virtual FloatingWay Floating() = 0;
+
   /// Makes one of this application's windows, before it is shown for the first time, one that
   /// floats: no window manager hides it while another program is in use, none gives it the
   /// keyboard, and it is in no task bar. Does nothing where the desktop does not know of such
   /// windows.
   virtual void MakeFloating(std::uint64_t window) = 0;
 
-  /// Whether the desktop itself keeps floating windows above others. Where it does not, as under
-  /// most tiling window managers, they are better off without a manager.
-  virtual bool KeepsWindowsAbove() = 0;
+  /// The same for a window that is to lie over a whole screen, above the floating ones; before each
+  /// time that it is shown.
+  virtual void MakeOverlay(std::uint64_t window) = 0;
 
   /// Puts one of this application's windows that no window manager looks after above all that one
   /// does, and no further: menus and a locked screen stay above it. Windows that open later come

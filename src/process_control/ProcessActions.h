@@ -25,6 +25,7 @@ enum class ActionResult : std::uint8_t {
   kNoHelper,      ///< there is no helper, or it did not answer
   kNoTime,        ///< not tried: the command's time was over before its turn came
   kNobody,        ///< this desktop has nobody that could be asked
+  kOutOfReach,    ///< this desktop lets no program do it to another one's windows
   kImpossible,    ///< the machine has no such processor, policy or precedence
 };
 

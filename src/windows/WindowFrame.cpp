@@ -11,25 +11,47 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/Machine.h"
+#include "platform/Screen.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
 
-WindowFrame ReadWindowFrame(TextSetting setting) {
+namespace {
+
+/// The same, whatever the session does; `isPlaced` is whether a place is remembered.
+WindowFrame ReadStoredFrame(TextSetting setting) {
   char text[64] = "";
   int x = 0, y = 0, width = 0, height = 0;
-  if (!ReadText(setting, text, sizeof text) ||
-      std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) != 4)
-    return {};
+  if (!ReadText(setting, text, sizeof text)) return {};
+  const bool isPlaced = std::sscanf(text, "%d %d %d %d", &x, &y, &width, &height) == 4;
+  if (!isPlaced && std::sscanf(text, "- - %d %d", &width, &height) != 2) return {};
   if (width < 100 || height < 100 || width > 20000 || height > 20000) return {};
   if (x < -20000 || y < -20000 || x > 100000 || y > 100000) return {};
-  return {{x, y, width, height}, std::string_view(text).ends_with(" maximised")};
+  return {{x, y, width, height}, std::string_view(text).ends_with(" maximised"), isPlaced};
+}
+
+}  // namespace
+
+WindowFrame ReadWindowFrame(TextSetting setting) {
+  auto stored = ReadStoredFrame(setting);
+  stored.isPlaced = stored.isPlaced && TheMachine().screen.Abilities().places;
+  return stored;
 }
 
 void WriteWindowFrame(TextSetting setting, const QRect& frame, bool isMaximised) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%d %d %d %d%s", frame.x(), frame.y(), frame.width(),
-                frame.height(), isMaximised ? " maximised" : "");
+  QPoint place = frame.topLeft();
+  bool isPlaced = true;
+  if (!TheMachine().screen.Abilities().places) {
+    const auto stored = ReadStoredFrame(setting);
+    place = stored.frame.topLeft();
+    isPlaced = stored.isPlaced;
+  }
+  char text[80];
+  char corner[32] = "- -";
+  if (isPlaced) std::snprintf(corner, sizeof corner, "%d %d", place.x(), place.y());
+  std::snprintf(text, sizeof text, "%s %d %d%s", corner, frame.width(), frame.height(),
+                isMaximised ? " maximised" : "");
   char before[64] = "";
   ReadText(setting, before, sizeof before);
   if (std::string_view(text) != before) StoreText(setting, text);
@@ -82,11 +104,11 @@ ControlledWindow::ControlledWindow(QWidget* parent) : QWidget(parent, Qt::Window
 }
 
 void ControlledWindow::RestoreFrame(TextSetting setting, QSize usual) {
-  const auto [frame, isMaximised] = ReadWindowFrame(setting);
+  const auto [frame, isMaximised, isPlaced] = ReadWindowFrame(setting);
   if (!frame.isValid()) return resize(FitOnScreens(usual));
   const auto place = FitOnScreens(frame);
   resize(place.size());
-  move(place.topLeft());
+  if (isPlaced) move(place.topLeft());
   if (isMaximised) setWindowState(Qt::WindowMaximized);
 }
 

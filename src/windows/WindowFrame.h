@@ -9,14 +9,18 @@
 
 namespace lurkwell {
 
-/// Where a window was, as the preferences remember it: "X Y WIDTH HEIGHT[ maximised]". Main thread.
+/// Where a window was, as the preferences remember it: "X Y WIDTH HEIGHT[ maximised]", with "-" for
+/// X and Y where a window has never been seen in a session that tells places. Main thread.
 struct WindowFrame {
   QRect frame;  ///< invalid when nothing, or nothing sensible, is remembered
   bool isMaximised = false;
+  /// Whether a window can be put where `frame` says: the place is known, and the session does so.
+  bool isPlaced = false;
 };
 
 WindowFrame ReadWindowFrame(TextSetting setting);
-/// `frame` is the place without maximising. Writes what has changed only.
+/// `frame` is the place without maximising; in a session that tells no places its size counts, and
+/// the place that was remembered stays. Writes what has changed only.
 void WriteWindowFrame(TextSetting setting, const QRect& frame, bool isMaximised);
 
 /// What window managers put around a window, in points, with some to spare.

@@ -252,10 +252,16 @@ TEST_F(ViewWindows, AToggleComesAndGoesWithoutTheKeyboardOfAnotherProgram) {
 }
 
 TEST_F(ViewWindows, AFullScreenViewThatIsClosedStaysClosed) {
-  machine.screen.blends = false;
+  // Translucent, but behind others it would be in nobody's sight.
+  machine.screen.blends = true;
+  machine.screen.abilities.floats = false;
   HotKeyFunc();
   auto& overlay = windows->quintessentialFullscreenWindow();
   EXPECT_TRUE(ComesAbout([&] { return overlay.isExposed() && Records() > 20; }));
+  EXPECT_EQ(overlay.view().Mode(), ViewMode::kOpaqueFullscreen);
+  const auto log = machine.log.Take();
+  EXPECT_NE(log.find("lie over other windows"), std::string::npos) << log;
+  EXPECT_EQ(log.find("MakeOverlay"), std::string::npos) << log;
   QTest::keyClick(&overlay, Qt::Key_W, Qt::ControlModifier);
   EXPECT_FALSE(windows->IsAnyVisible());
   EXPECT_EQ(GetPrefInt("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", nullptr, false, -1), 0);

@@ -229,7 +229,17 @@ TEST_F(CommandsTest, DetailsAreShownWhereThereIsNothingToBringToTheFront) {
   EXPECT_EQ(windows.asked, "");
   EXPECT_EQ(Done(), "ProcessManager.SetFrontProcess 5 300\n");
   QTest::keyClick(window.get(), Qt::Key_I, Qt::ControlModifier);
-  EXPECT_EQ(windows.asked, "300 ");
+  EXPECT_EQ(std::exchange(windows.asked, {}), "300 ");
+  // A desktop that lets nobody bring others' windows to the front.
+  machine.processManager.reachesWindows = machine.screen.abilities.reachesOthers = false;
+  QTest::keyClick(&window->table(), Qt::Key_Return);
+  EXPECT_EQ(std::exchange(windows.asked, {}), "300 ");
+  Choose("menu_process_bring_to_front");
+  EXPECT_EQ(
+      Said(),
+      "Nothing was done to Editor (300): this desktop lets no program do that to another one’s "
+      "windows.");
+  EXPECT_EQ(windows.asked, "");
 }
 
 TEST_F(CommandsTest, AWindowOfAProcessHasItsCommandsAsLongAsItLives) {

@@ -47,6 +47,34 @@ TEST_F(WindowTest, ComesBackWhereItWasIfThatCanBeSeen) {
   }
 }
 
+TEST_F(WindowTest, WhereNobodyTellsPlacesOnlyItsSizeIsRemembered) {
+  const auto frame = [] {
+    char text[64] = "";
+    ReadText("MAIN_WINDOW_FRAME", text, sizeof text);
+    return std::string(text);
+  };
+  machine.screen.abilities.places = false;
+  Open();
+  const auto place = window->pos();
+  window->resize(500, 400);
+  window->SaveFrame();
+  EXPECT_EQ(frame(), "- - 500 400");
+  // The place of another session is kept for the next one of its kind.
+  StoreText("MAIN_WINDOW_FRAME", "100 80 520 420 maximised");
+  window.reset();
+  Open();
+  EXPECT_EQ(window->normalGeometry().size(), QSize(520, 420));
+  window->showNormal();
+  EXPECT_EQ(window->pos(), place) << "where the desktop puts it";
+  window->resize(540, 440);
+  window->SaveFrame();
+  EXPECT_EQ(frame(), "100 80 540 440");
+  machine.screen.abilities.places = true;
+  window.reset();
+  Open();
+  EXPECT_EQ(window->pos(), QPoint(100, 80));
+}
+
 TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   machine.processTable.Birth(300, "p");
   Open();

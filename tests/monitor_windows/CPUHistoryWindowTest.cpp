@@ -242,6 +242,7 @@ TEST_F(CPUHistoryWindowTest, AWindowSaysWhoseProcessItFollowsAndCanBeResized) {
   EXPECT_EQ(client->Window()->accessibleDescription(),
             QLatin1String("10 % now; the upper edge is 10 %"));
   EXPECT_TRUE(client->Window()->toolTip().contains(QLatin1String("goes-on --fast &lt;b&gt;")));
+  EXPECT_FALSE(client->Window()->toolTip().contains(QLatin1String("above other windows")));
   EXPECT_NEAR(client->NameWindow()->Alpha() * client->Window()->windowOpacity(), 0.6, 0.01)
       << "its own opacity, not a part of the window's";
   const auto values = client->Graph().Values();

@@ -219,7 +219,7 @@ TEST_F(FloatingWindowTest, ItIsDraggedAnywhereAndClosedByItsBox) {
 }
 
 TEST_F(FloatingWindowTest, WhereNothingElseKeepsItAboveItDoesWithoutAManager) {
-  machine.screen.keepsWindowsAbove = false;
+  machine.screen.floating = FloatingWay::kByThemselves;
   Recorder recorder;
   Open(recorder);
   auto* window = recorder.Window();
@@ -243,6 +243,29 @@ TEST_F(FloatingWindowTest, WhereNothingElseKeepsItAboveItDoesWithoutAManager) {
   drag({window->width() / 2, 0}, {window->width() / 2, -1000});
   EXPECT_EQ(window->height(), 200) << "no larger than it may be";
   EXPECT_EQ(window->geometry().bottom(), before.bottom() + 20) << "the other edge stays";
+}
+
+TEST_F(FloatingWindowTest, OnALayerItMovesItselfAndWaitsForTheCompositorInBetween) {
+  machine.screen.floating = FloatingWay::kByLayer;
+  Recorder recorder;
+  Open(recorder);
+  auto* window = recorder.Window();
+  EXPECT_FALSE(window->windowFlags().testFlag(Qt::BypassWindowManagerHint));
+  const QPoint grip(60, 30);
+  const auto move = [&](QPoint to) {
+    QMouseEvent moved(QEvent::MouseMove, QPointF(to), window->mapToGlobal(QPointF(to)),
+                      Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(window, &moved);
+    return window->pos();
+  };
+  const auto before = window->pos();
+  QTest::mousePress(window, Qt::LeftButton, {}, grip);
+  EXPECT_EQ(move(grip + QPoint(20, 10)), before + QPoint(20, 10));
+  // Still where it was for the compositor, which tells places within that.
+  EXPECT_EQ(move(grip + QPoint(22, 11)), before + QPoint(20, 10));
+  QTest::qWait(40);
+  EXPECT_EQ(move(grip + QPoint(3, 4)), before + QPoint(23, 14));
+  QTest::mouseRelease(window, Qt::LeftButton, {}, grip);
 }
 
 }  // namespace

@@ -13,6 +13,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/desktop/LayerSurfaces.h"
+
 namespace lurkwell {
 namespace {
 
@@ -34,6 +36,15 @@ DesktopScreen::Source ScreenOfPlatform() {
   if (platform.startsWith(QLatin1String("wayland"))) return DesktopScreen::Source::kWayland;
   return platform == QLatin1String("xcb") ? DesktopScreen::Source::kXServer
                                           : DesktopScreen::Source::kUnknown;
+}
+
+/// One of this application's windows; null when there is none of that number.
+QWindow* WindowNumbered(std::uint64_t number) {
+  const auto windows = QGuiApplication::topLevelWindows();
+  const auto found = std::ranges::find_if(windows, [&](QWindow* window) {
+    return window->handle() != nullptr && window->winId() == number;
+  });
+  return found != windows.end() ? *found : nullptr;
 }
 
 std::string RendererName() {
@@ -102,7 +113,19 @@ bool DesktopScreen::BlendsWindows() {
   return mBlends;
 }
 
+LayerSurfaces* DesktopScreen::Layers() {
+  if (mSource != Source::kWayland) return nullptr;
+  if (!mLooksForLayers) return mLayers;
+  mLooksForLayers = false;
+  auto* layers = LayersOfThisProgram();
+  if (layers != nullptr && layers->AreThere()) mLayers = layers;
+  return mLayers;
+}
+
 void DesktopScreen::MakeFloating(std::uint64_t number) {
+  auto* layers = Layers();
+  if (auto* window = WindowNumbered(number); window != nullptr && layers != nullptr)
+    return layers->Float(*window);
   auto* server = Server();
   if (server == nullptr) return;
   // The server may not know the window yet: on the toolkit's own connection this comes behind what
@@ -138,11 +161,28 @@ void DesktopScreen::MakeFloating(std::uint64_t number) {
   xcb_flush(link);
 }
 
-bool DesktopScreen::KeepsWindowsAbove() {
+void DesktopScreen::MakeOverlay(std::uint64_t number) {
+  auto* layers = Layers();
+  if (auto* window = WindowNumbered(number); window != nullptr && layers != nullptr)
+    layers->Cover(*window);
+}
+
+SessionAbilities DesktopScreen::Abilities() {
+  if (mSource != Source::kWayland) return {};
+  return {.floats = Layers() != nullptr, .places = false, .reachesOthers = false};
+}
+
+FloatingWay DesktopScreen::Floating() {
+  if (mSource == Source::kWayland)
+    return Layers() != nullptr ? FloatingWay::kByLayer : FloatingWay::kNotAtAll;
   auto* server = Server();
-  if (server == nullptr) return true;
-  const auto reply = server->Wait<xcb_get_property_reply_t>(
-      server->AskProperty(server->Root(), AtomNamed("_NET_SUPPORTED"), kMostWords),
+  if (server == nullptr || DoesManagerKeepAbove(*server)) return FloatingWay::kByManager;
+  return FloatingWay::kByThemselves;
+}
+
+bool DesktopScreen::DoesManagerKeepAbove(XConnection& server) {
+  const auto reply = server.Wait<xcb_get_property_reply_t>(
+      server.AskProperty(server.Root(), AtomNamed("_NET_SUPPORTED"), kMostWords),
       XConnection::BatchDeadline());
   if (!reply) return true;
   const auto supported = PropertyWords(reply.get());

@@ -10,6 +10,8 @@
 
 namespace lurkwell {
 
+class LayerSurfaces;
+
 /// The screen as the X server, the window manager and the compositor know it. Connects when it is
 /// first asked, and again, later, to a server that did not answer in time. Without one windows are
 /// taken to be uncovered, and translucent on Wayland or as they last were. An X server that other
@@ -26,8 +28,10 @@ class DesktopScreen final : public Screen {
   /// Needs a QGuiApplication; looks once.
   bool UsesOpenGLAcceleration() override;
   bool BlendsWindows() override;
+  SessionAbilities Abilities() override;
+  FloatingWay Floating() override;
   void MakeFloating(std::uint64_t window) override;
-  bool KeepsWindowsAbove() override;
+  void MakeOverlay(std::uint64_t window) override;
   void PutAboveManaged(std::uint64_t window) override;
   bool IsCovered(std::uint64_t window) override;
   bool IsKeyboardElsewhere() override;
@@ -37,8 +41,11 @@ class DesktopScreen final : public Screen {
     int x = 0, y = 0, width = 0, height = 0;
   };
 
+  /// Those of the compositor, which is asked once; null when it has none.
+  LayerSurfaces* Layers();
   /// Null while there is none.
   XConnection* Server();
+  bool DoesManagerKeepAbove(XConnection& server);
   /// Asked for once a connection; needs one.
   xcb_atom_t AtomNamed(const std::string& name);
   bool AreaOf(xcb_get_geometry_cookie_t geometry, xcb_translate_coordinates_cookie_t place,
@@ -52,6 +59,8 @@ class DesktopScreen final : public Screen {
   XLink mLink;
   std::map<std::string, xcb_atom_t> mAtoms;
   bool mBlends;
+  bool mLooksForLayers = true;
+  LayerSurfaces* mLayers = nullptr;
   int mAccelerated = -1;
 };
 

@@ -5,19 +5,28 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
 #include <QMessageLogContext>
 #include <QString>
+#include <QStringList>
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/Diagnostics.h"
+
 namespace lurkwell {
 namespace {
 
 /// What the toolkit chooses a display by.
 constexpr const char* kDisplayVariables[] = {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"};
+
+constexpr char kKeepsPlaces[] = "QT_WAYLAND_DISABLE_FIXED_POSITIONS";
 
 char** gArguments = nullptr;
 QtMessageHandler gOtherHandler = nullptr;
@@ -59,6 +68,17 @@ bool IsXServerReachable() {
   return reachable;
 }
 
+/// The toolkit's part for Wayland is a package of its own, which other programs may not have
+/// wanted.
+bool CanSpeakWayland() {
+  const auto folders =
+      QCoreApplication::libraryPaths() + QStringList(QLibraryInfo::path(QLibraryInfo::PluginsPath));
+  return std::ranges::any_of(folders, [](const QString& folder) {
+    const QDir plugins(folder + QStringLiteral("/platforms"));
+    return !plugins.entryList({QStringLiteral("libqwayland*")}).isEmpty();
+  });
+}
+
 void SayHeldBack(const QMessageLogContext& context) {
   for (const auto& [type, text] : std::exchange(gHeldBack, {}))
     if (gOtherHandler != nullptr) gOtherHandler(type, context, text);
@@ -69,6 +89,10 @@ void StartAgainOnFailure(QtMsgType type, const QMessageLogContext& context, cons
     gHeldBack.emplace_back(type, text);
     return;
   }
+  if (IsCompositorReachable() && !CanSpeakWayland())
+    Diagnose(
+        "this desktop speaks Wayland, and what Qt needs for that is not installed: it is in "
+        "the package qt6-wayland");
   // Pictures are drawn by this one where there is no display; there is nothing below it.
   bool hadAny = false;
   const bool isLast = EnvironmentText("QT_QPA_PLATFORM") == "offscreen";
@@ -85,6 +109,15 @@ void StartAgainOnFailure(QtMsgType type, const QMessageLogContext& context, cons
 
 bool IsDisplayReachable() {
   return IsCompositorReachable() || IsXServerReachable();
+}
+
+PlacesAreKept::PlacesAreKept() : mIsOurs(EnvironmentText(kKeepsPlaces).empty()) {
+  if (mIsOurs) ::setenv(kKeepsPlaces, "1", 1);
+}
+
+PlacesAreKept::~PlacesAreKept() {
+  // Not for programs that this one starts.
+  if (mIsOurs) ::unsetenv(kKeepsPlaces);
 }
 
 WithoutDisplayInstead::WithoutDisplayInstead(char** argv) {

@@ -19,4 +19,18 @@ class WithoutDisplayInstead {
   WithoutDisplayInstead& operator=(const WithoutDisplayInstead&) = delete;
 };
 
+/// While this lives, around the making of the QApplication, the toolkit learns to leave windows on
+/// Wayland where the program puts them, as far as the program knows. Otherwise it takes each for
+/// one in the screen's corner, and that is what would be remembered.
+class PlacesAreKept {
+ public:
+  PlacesAreKept();
+  ~PlacesAreKept();
+  PlacesAreKept(const PlacesAreKept&) = delete;
+  PlacesAreKept& operator=(const PlacesAreKept&) = delete;
+
+ private:
+  bool mIsOurs;
+};
+
 }  // namespace lurkwell

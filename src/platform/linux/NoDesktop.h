@@ -78,8 +78,10 @@ class NoScreen final : public Screen {
  public:
   bool UsesOpenGLAcceleration() override { return false; }
   bool BlendsWindows() override { return false; }
+  SessionAbilities Abilities() override { return {}; }
+  FloatingWay Floating() override { return FloatingWay::kByManager; }
   void MakeFloating(std::uint64_t) override {}
-  bool KeepsWindowsAbove() override { return true; }
+  void MakeOverlay(std::uint64_t) override {}
   void PutAboveManaged(std::uint64_t) override {}
   bool IsCovered(std::uint64_t) override { return false; }
   bool IsKeyboardElsewhere() override { return true; }

@@ -49,9 +49,11 @@ class SimulatedProcessManager final : public ProcessManager {
     return application != nullptr && !application->cannotBeAskedToQuit;
   }
   bool ShowHideProcess(ProcessSerialNumber psn, bool show) override {
-    return Act(show ? "Show" : "Hide", psn);
+    return Act(show ? "Show" : "Hide", psn) && reachesWindows;
   }
-  bool SetFrontProcess(ProcessSerialNumber psn) override { return Act("SetFrontProcess", psn); }
+  bool SetFrontProcess(ProcessSerialNumber psn) override {
+    return Act("SetFrontProcess", psn) && reachesWindows;
+  }
   bool Reveal(ProcessSerialNumber psn) override { return Act("Reveal", psn); }
   void WhenRevealFails(std::function<void(const std::string&)> tell) override {
     revealFails = std::move(tell);
@@ -68,6 +70,8 @@ class SimulatedProcessManager final : public ProcessManager {
 
   std::function<void(const std::string&)> revealFails;
   bool hasFileManager = true;
+  /// Whether it can show and hide what belongs to others.
+  bool reachesWindows = true;
 
  private:
   bool Act(const std::string& action, ProcessSerialNumber psn);
@@ -151,15 +155,18 @@ class SimulatedScreen final : public Screen {
     return isAccelerated;
   }
   bool BlendsWindows() override { return blends; }
+  SessionAbilities Abilities() override { return abilities; }
+  FloatingWay Floating() override { return floating; }
   void MakeFloating(std::uint64_t) override { mLog.Add("Screen.MakeFloating"); }
-  bool KeepsWindowsAbove() override { return keepsWindowsAbove; }
+  void MakeOverlay(std::uint64_t) override { mLog.Add("Screen.MakeOverlay"); }
   void PutAboveManaged(std::uint64_t) override { mLog.Add("Screen.PutAboveManaged"); }
   bool IsCovered(std::uint64_t) override { return isCovered; }
   bool IsKeyboardElsewhere() override { return isKeyboardElsewhere; }
 
   bool isAccelerated = true;
   bool blends = true;
-  bool keepsWindowsAbove = true;
+  SessionAbilities abilities;
+  FloatingWay floating = FloatingWay::kByManager;
   bool isCovered = false;
   bool isKeyboardElsewhere = false;
 
