@@ -40,7 +40,7 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # ps and kill, while renice is essential; what reads SVG pictures, which early packages of the library had.
 set(CPACK_DEBIAN_LURKWELL_PACKAGE_DEPENDS "procps, qt6-svg-plugins | libqt6svg6 (<< 6.6)")
-set(CPACK_DEBIAN_LURKWELL_PACKAGE_RECOMMENDS "pkexec, qt6-translations-l10n")
+set(CPACK_DEBIAN_LURKWELL_PACKAGE_RECOMMENDS "pkexec, qt6-translations-l10n, qt6-wayland")
 lurkwell_maintainer_scripts(${CMAKE_INSTALL_PREFIX} ${CMAKE_CURRENT_BINARY_DIR}/package)
 set(CPACK_DEBIAN_LURKWELL_PACKAGE_SUGGESTS "lurkwell-export")
 set(CPACK_DEBIAN_LURKWELL_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/package/preinst
