@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The same visit on every desktop, and a table of what held: desktops.py BINARY FOLDER [NAME...]"""
 import pathlib
+import shutil
 import sys
 import unittest
 
@@ -37,7 +38,9 @@ def table(results, behaviours):
 
 
 def main():
-    folder, names = pathlib.Path(sys.argv[1]), sys.argv[2:] or [*MANAGERS, *COMPOSITORS]
+    folder, names = pathlib.Path(sys.argv[1]), sys.argv[2:]
+    if not names:
+        names = [*MANAGERS, *(name for name in COMPOSITORS if shutil.which(COMPOSITORS[name][0]))]
     unknown = [name for name in names if name not in MANAGERS and name not in COMPOSITORS]
     if unknown:
         sys.exit(f"there is no {unknown[0]}; there are {', '.join([*MANAGERS, *COMPOSITORS])}")
