@@ -29,7 +29,7 @@ FIRST = {
     "src/helper/RealSystem.cpp": ["helper_serve_test", "helper_canary_test"],
     "src/helper/Channel.cpp": ["helper_serve_test"],
     "src/helper/Confinement.cpp": ["helper_serve_test", "helper_takeover_test",
-                                   "helper_canary_test", "helper_install_test"],
+                                   "helper_canary_test", "helper_launch_test"],
     "src/helper/Launch.cpp": ["helper_launch_test", "helper_serve_test", "helper_install_test"],
     "src/helper/OwnFile.cpp": ["helper_install_test", "helper_serve_test"],
     "src/helper/main.cpp": ["helper_serve_test", "helper_install_test", "helper_launch_test"],

@@ -3,6 +3,8 @@
 #include <grp.h>
 #include <gtest/gtest.h>
 #include <linux/capability.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <sched.h>
 #include <signal.h>
 #include <sys/inotify.h>
@@ -18,7 +20,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <future>
 #include <map>
@@ -398,6 +403,25 @@ TEST(ServeTest, AStartThatCannotBeConfinedIsRefused) {
     }
     close(requests);
     close(answers);
+  }
+}
+
+/// From here on the kernel has no Landlock, or something is wrong with it.
+void LoseLandlock(int error) {
+  const sock_filter code[] = {
+      {BPF_LD | BPF_W | BPF_ABS, 0, 0, offsetof(seccomp_data, nr)},
+      {BPF_JMP | BPF_JEQ | BPF_K, 0, 1, SYS_landlock_create_ruleset},
+      {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ERRNO | static_cast<std::uint32_t>(error)},
+      {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ALLOW}};
+  const sock_fprog program{std::size(code), const_cast<sock_filter*>(code)};
+  if (syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, 0, &program) != 0) _exit(98);
+}
+
+TEST(ServeTest, OnlyAKernelWithoutLandlockIsServedWithoutIt) {
+  for (const int error : {ENOSYS, EOPNOTSUPP, ENOMEM}) {
+    HelperProcess helper(0, HelperPath(), [error] { LoseLandlock(error); });
+    EXPECT_EQ(helper.Ask("geteuid"), error == ENOMEM ? "" : "0") << error;
+    EXPECT_EQ(helper.Close(), error == ENOMEM ? kExitSystem : 0) << error;
   }
 }
 

@@ -137,7 +137,11 @@ long Take(int step, pid_t foreign) {
 int main(int argc, char** argv) {
   if (argc != 3) return static_cast<int>(Take(-1, getpid()));
   const pid_t foreign = atoi(argv[2]);
-  if (!lurkwell::helper::Become({61001, 61001, true}) || !lurkwell::helper::Confine()) return 70;
+  if (!lurkwell::helper::Become({61001, 61001, true})) return 70;
+  // No user id gives rights any more, no capability outlives a change of it or is handed on, and
+  // none of that can be taken back.
+  if (prctl(PR_GET_SECUREBITS, 0, 0, 0, 0) != 0xef) return 71;
+  if (!lurkwell::helper::Confine()) return 70;
   if (argv[1][0] != 'r') return Take(atoi(argv[1]), foreign) < 0 ? 0 : 42;
   // What serving needs is still there.
   const int file = open("/proc/self/stat", O_RDONLY | O_CLOEXEC);
