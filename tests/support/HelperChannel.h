@@ -6,18 +6,24 @@
 
 #include "channel/DaemonCommunication.h"
 #include "platform/simulated/SimulatedMachine.h"
+#include "support/HelperFault.h"
 #include "support/OpenChannel.h"
 
 namespace lurkwell {
 
 /// An open channel to a simulated machine's helper, on the installed machine; closed again with it.
+/// Of another kind where the environment wants a fault.
 class HelperChannel {
  public:
   using Answer = std::function<std::string(std::string_view request)>;
 
   explicit HelperChannel(SimulatedMachine& machine) : mMachine(machine) {
     SetAnswer([&machine](std::string_view request) { return machine.helper.Answer(request); });
-    OpenChannel("/helper");
+    const auto fault = HelperFault::Wanted();
+    if (fault == HelperFault::Kind::kRefused)
+      machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kDoesNotOpen);
+    if (fault != HelperFault::Kind::kAbsent) OpenChannel("/helper");
+    HelperFault::Apply(machine);
     machine.log.Clear();
   }
   ~HelperChannel() { QuitHelperDaemon(); }
