@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTextDocumentFragment>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -249,7 +250,18 @@ void MainWindow::LookAtHelper() {
   const char* text = status.rights == DaemonRights::kNone  ? "main_window_helper_absent"
                      : status.rights == DaemonRights::kOwn ? "main_window_helper_unprivileged"
                                                            : "";
-  mHelper->setText(*text != 0 ? LocalizedString(text) : QString());
+  mHelperRemark = *text != 0 ? LocalizedString(text) : QString();
+  mHelper->setText(mHelperRemark);
+  mHelper->setToolTip(QTextDocumentFragment::fromHtml(mHelperRemark).toPlainText());
+}
+
+void MainWindow::FitHelperRemark() {
+  const int needed = fontMetrics().horizontalAdvance(mCounts->text() + mHelper->toolTip()) +
+                     2 * TextCell::kWidthBesideText;
+  const auto link = mHelperRemark.indexOf(QLatin1String("<a "));
+  // The two share what the others leave, however it is divided.
+  const bool fits = link < 0 || needed <= mCounts->width() + mHelper->width();
+  mHelper->setText(fits ? mHelperRemark : mHelperRemark.mid(link));
 }
 
 void MainWindow::LookAtRecording() {
@@ -355,6 +367,7 @@ void MainWindow::UpdateStatus() {
   }
   // What does not fit can be read all the same.
   mCounts->setToolTip(mCounts->text());
+  FitHelperRemark();
   const auto notAllowed = mController->filterGaps().notAllowed;
   mFilterBar->setRemark(notAllowed > 0 ? LocalizedString("filter_not_allowed").arg(notAllowed)
                                        : QString());

@@ -111,6 +111,8 @@ class MainWindow : public QMainWindow, private WindowCommands {
   /// Shows a text in the status line for a while.
   void Report(const QString& text);
   void LookAtHelper();
+  /// The counts come first: beside them the remark about the helper may be its link alone.
+  void FitHelperRemark();
   void LookAtRecording();
   void LookWhetherSeen();
   void AskAboutHelper();
@@ -135,6 +137,8 @@ class MainWindow : public QMainWindow, private WindowCommands {
   std::int32_t mAwaitedPid = kInvalidPID;
   QLabel* mCounts = nullptr;
   QLabel* mHelper = nullptr;
+  /// What it says where there is room.
+  QString mHelperRemark;
   QLabel* mRecording = nullptr;
   DaemonRights mShownRights = DaemonRights::kStarting;
   /// Why there are no more rights, while that is shown.

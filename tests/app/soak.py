@@ -2,9 +2,12 @@
 """Whether the program grows or slows down: everything open, updates twenty times as often as
 usual, processes coming and going, for as long as one likes.
 
-soak.py BINARY [MINUTES]: prints a Markdown row each half minute; status 1 when the second half of
-the run needed more memory, descriptors or time a beat than the first.
+soak.py BINARY [MINUTES [--usual] [--json FILE]]: prints a Markdown row twenty times or each half
+minute; status 1 when the last quarter of the run needed more memory, descriptors or time a beat than
+the second. With --usual updates are as often as they usually are, and FILE gets all figures.
 """
+import argparse
+import json
 import os
 import pathlib
 import random
@@ -16,8 +19,13 @@ import time
 from desktop_support import BINARY, helpers
 from life_test import Life
 
-MINUTES = float(sys.argv.pop(1)) if len(sys.argv) > 1 else 15.0
-SAMPLE_SECONDS = min(30.0, MINUTES * 60 / 20)
+parser = argparse.ArgumentParser()
+parser.add_argument("minutes", type=float, nargs="?", default=15.0)
+parser.add_argument("--usual", action="store_true")
+parser.add_argument("--json")
+OPTIONS = parser.parse_args()
+MINUTES = OPTIONS.minutes
+SAMPLE_SECONDS = min(120.0 if OPTIONS.usual else 30.0, MINUTES * 60 / 20)
 # Pages that come and go with what is on the screen, in KiB; and by how much a beat's time varies.
 MEMORY_LEEWAY = 1024
 TIME_LEEWAY = 1.25
@@ -29,12 +37,20 @@ BRISK = {key: 100 for key in (
 
 
 def figures(pid):
-    """Resident and private memory in KiB, open descriptors, seconds on processors."""
-    fields = dict(line.split(":", 1) for line in
-                  pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()[1:])
-    private = sum(int(fields[key].split()[0]) for key in ("Private_Clean", "Private_Dirty"))
-    return (int(fields["Rss"].split()[0]), private, len(os.listdir(f"/proc/{pid}/fd")),
-            time.clock_gettime((~pid << 3) | 2))
+    """In KiB, but for open descriptors and seconds on processors. What was written to is the
+    program's own; pages of files, such as of libraries and pictures, can be read again."""
+    def sums(name):
+        lines = pathlib.Path(f"/proc/{pid}/{name}").read_text().splitlines()[1:]
+        return {key: int(rest.split()[0]) for key, rest in (line.split(":", 1) for line in lines)}
+    rollup = sums("smaps_rollup")
+    status = dict(line.split(":", 1) for line in
+                  pathlib.Path(f"/proc/{pid}/status").read_text().splitlines())
+    kib = lambda key: int(status[key].split()[0])
+    return {"resident": rollup["Rss"],
+            "private": rollup["Private_Clean"] + rollup["Private_Dirty"],
+            "anonymous": kib("RssAnon"), "of files": kib("RssFile"), "shared": kib("RssShmem"),
+            "descriptors": len(os.listdir(f"/proc/{pid}/fd")),
+            "seconds": time.clock_gettime((~pid << 3) | 2)}
 
 
 class Churn:
@@ -61,7 +77,8 @@ class Churn:
 class Soak(Life):
     def run_all(self):
         self.open_display()
-        self.write_preferences(BRISK)
+        if not OPTIONS.usual:
+            self.write_preferences(BRISK)
         churn = Churn()
         self.addCleanup(churn.end)
         victim = self.start_victim()
@@ -73,8 +90,10 @@ class Soak(Life):
         self.wait_for(helpers)
         self.open_everything(victim.pid)
         helper = helpers().pop()
-        print("| minute | resident KiB | private KiB | descriptors | ms CPU a second |"
-              " helper KiB | helper descriptors |\n|---:|---:|---:|---:|---:|---:|---:|", flush=True)
+        columns = ("resident", "private", "anonymous", "of files", "shared", "descriptors", "load",
+                   "helper", "helper descriptors")
+        print("KiB; load is ms CPU a second\n\n| minute |", " | ".join(columns), "|")
+        print("|---:" * (len(columns) + 1) + "|", flush=True)
         samples = []
         start = time.monotonic()
         last = figures(program.pid)
@@ -85,13 +104,15 @@ class Soak(Life):
                 if random.random() < 0.02:
                     self.end_victim(victim)
                     victim = self.start_victim()
-                time.sleep(0.5)
+                time.sleep(5 if OPTIONS.usual else 0.5)
             now, other = figures(program.pid), figures(helper)
-            load = 1000 * (now[3] - last[3]) / (time.monotonic() - begun)
+            now["minute"] = round((time.monotonic() - start) / 60, 1)
+            now["load"] = round(1000 * (now["seconds"] - last["seconds"])
+                                / (time.monotonic() - begun))
+            now["helper"], now["helper descriptors"] = other["private"], other["descriptors"]
             last = now
-            samples.append((now[1], now[2], load, other[1], other[2]))
-            print(f"| {(time.monotonic() - start) / 60:.1f} | {now[0]} | {now[1]} | {now[2]} |"
-                  f" {load:.0f} | {other[1]} | {other[2]} |", flush=True)
+            samples.append(now)
+            print("|", " | ".join(str(now[name]) for name in ("minute", *columns)), "|", flush=True)
         program.send_signal(signal.SIGTERM)
         self.assertEqual(program.wait(20), 0)
         return samples
@@ -102,13 +123,13 @@ def verdict(samples):
     quarter = len(samples) // 4
     early, late = samples[quarter:2 * quarter], samples[-quarter:]
     mean = lambda rows, column: sum(row[column] for row in rows) / len(rows)
-    limits = {"memory": (0, MEMORY_LEEWAY, 1.0), "descriptors": (1, 10, 1.0),
-              "time": (2, 0, TIME_LEEWAY)}
-    grown = [f"{name}: {mean(early, column):.0f} before, {mean(late, column):.0f} after"
-             for name, (column, more, factor) in limits.items()
-             if mean(late, column) > mean(early, column) * factor + more]
+    limits = {"private": (MEMORY_LEEWAY, 1.0), "descriptors": (10, 1.0),
+              "load": (0, TIME_LEEWAY)}
+    grown = [f"{name}: {mean(early, name):.0f} before, {mean(late, name):.0f} after"
+             for name, (more, factor) in limits.items()
+             if mean(late, name) > mean(early, name) * factor + more]
     # Its tables have a fixed size, but their pages come with the pids that it hears of.
-    most = max(row[3] for row in samples)
+    most = max(row["helper"] for row in samples)
     return grown + ([f"the helper: {most} KiB"] if most > HELPER_MEMORY else [])
 
 
@@ -116,9 +137,12 @@ def main():
     soak = Soak("run_all")
     soak.setUp()
     try:
-        grown = verdict(soak.run_all())
+        samples = soak.run_all()
     finally:
         soak.doCleanups()
+    grown = verdict(samples)
+    if OPTIONS.json:
+        pathlib.Path(OPTIONS.json).write_text(json.dumps({"samples": samples, "grown": grown}))
     for line in grown:
         print("grew:", line)
     return 1 if grown else 0

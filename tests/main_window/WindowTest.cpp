@@ -93,9 +93,17 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   helper.reset();
   // This machine has no place for a helper with rights.
   LaunchHelperDaemon();
+  window->resize(1600, 600);
   auto* label = aboutHelper();
   ASSERT_NE(label, nullptr);
   EXPECT_TRUE(label->text().startsWith(QLatin1String("Acts on your own processes only")));
+  const auto whole = label->text();
+  window->resize(window->minimumSizeHint().expandedTo({640, 480}));
+  EXPECT_TRUE(aboutHelper()->text().startsWith(QLatin1String("<a "))) << "the counts come first";
+  EXPECT_TRUE(label->toolTip().startsWith(QLatin1String("Acts on your own processes only")));
+  window->resize(1600, 600);
+  Turn(2000);
+  EXPECT_EQ(aboutHelper()->text(), whole);
   machine.log.Clear();
   Q_EMIT label->linkActivated(QStringLiteral("rights"));
   EXPECT_NE(machine.log.Take().find("The helper cannot be given rights: "), std::string::npos);
