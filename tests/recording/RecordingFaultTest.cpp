@@ -8,46 +8,14 @@
 #include <random>
 #include <thread>
 
+#include "BeatSource.h"
 #include "RecordedMachine.h"
-#include "recording/RecordingWriter.h"
 #include "support/Child.h"
 
 namespace lurkwell {
 namespace {
 
 using testing::HasSubstr;
-
-/// Writes beats of some processes, of which many become different each time.
-class BeatSource {
- public:
-  explicit BeatSource(const std::string& path) {
-    auto opened = RecordingFile::Open(path, {"test", "host", "boot", 2000});
-    if (auto* file = std::get_if<std::unique_ptr<RecordingFile>>(&opened))
-      writer.emplace(std::move(*file), RecordingLimits());
-  }
-
-  void Beat() {
-    lurkwell::Beat beat;
-    mElapsed += 2'000'000;
-    beat.header.elapsed = mElapsed;
-    beat.header.wall = 1'000'000'000'000'000 + mElapsed;
-    for (std::int32_t pid = 1; pid <= 100; ++pid) {
-      auto& process = beat.changed.emplace_back();
-      process.process = {pid, 1};
-      process.texts = mTexts;
-      for (std::size_t i = 0; i < kNumberCount; ++i)
-        process.Set(i, static_cast<std::int64_t>(mRandom()));
-    }
-    writer->Append(std::move(beat));
-  }
-
-  std::optional<RecordingWriter> writer;
-
- private:
-  std::int64_t mElapsed = 0;
-  std::mt19937_64 mRandom{1};
-  std::shared_ptr<const RecordedTexts> mTexts = std::make_shared<RecordedTexts>();
-};
 
 /// Reads every beat; their number, or 0 after a complaint.
 std::uint64_t ReadAll(const std::string& path) {
