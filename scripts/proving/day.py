@@ -1,0 +1,37 @@
+"""A day.
+
+The whole program on a simulated machine whose clock is driven through 24 hours: the table, the machine's
+window, details, alerts, four histories and four logs, over 250 processes of which two end and two begin
+with every beat. A beat's time is that of the quickest tenth of an hour's beats, so that other programs on the
+machine do not count; growth is that of the memory in use since the second hour, when the tables and
+histories that keep an hour are full.
+"""
+import json
+import subprocess
+
+from .tools import Failure, build, goal, table
+
+IS_PART = True
+GROWTH = 1024
+SLOWER = 1.05
+
+
+def add_options(parser):
+    parser.add_argument("--hours", type=int, default=24)
+
+
+def run(options):
+    folder = build("release", "simulated_day")
+    done = subprocess.run([folder / "bin/simulated_day", str(options.hours)], check=False, text=True,
+                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    try:
+        day = json.loads(done.stdout)
+    except ValueError as error:
+        raise Failure(f"simulated_day ended early, with {done.returncode}") from error
+    rows = [[number, f"{hour['ms']:.2f}", f"{hour['mean_ms']:.2f}", f"{hour['heap_kib']:,}",
+             f"{hour['resident_kib']:,}"] for number, hour in enumerate(day["hours"], 1)]
+    growth, slower = day["heap_growth_kib"], day["last_to_first"]
+    return {"goals": [goal("growth, KiB", f"at most {GROWTH}", str(growth), growth <= GROWTH),
+                      goal("the last hour's beats to the first's", f"at most {SLOWER}", str(slower),
+                           slower <= SLOWER)],
+            "tables": [table("", ["hour", "ms of a beat", "mean", "KiB in use", "KiB resident"], rows)]}
