@@ -13,7 +13,6 @@
 #include <ctime>
 #include <fstream>
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -21,7 +20,6 @@
 #include "alerts/AlertSettings.h"
 #include "app/appDelegate.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "preferences/PreferencesRetrieval.h"
 
 namespace lurkwell {
 namespace {
@@ -50,7 +48,7 @@ std::int64_t ResidentKiB() {
 }
 
 struct Hour {
-  /// The quickest tenth of its beats: what other programs take from this one is not in it.
+  /// The median: what the start and other programs take now and then is not in it.
   double millisecondsOfBeat = 0;
   double meanMilliseconds = 0;
   std::int64_t heapKiB = 0;
@@ -70,7 +68,6 @@ class Day {
     for (std::int32_t i = 0; i < processes; ++i)
       machine.processTable.Birth(kFirstPid + i, "process" + std::to_string(i % 50),
                                  i < 20 ? 1 : kFirstPid + i % 20);
-    SetPrefInt("MACHINE_WINDOW_MINUTES", 60);
     StoreAlertSetting(0, {"any cpu>90% for 10m", "", true, false});
     StoreAlertSetting(1, {"total mem>8G name:process1", "", true, false});
     mDelegate = std::make_unique<vqAppDelegate>();
@@ -94,10 +91,8 @@ class Day {
     }
     Hour hour;
     for (const double beat : beats) hour.meanMilliseconds += beat / kBeatsOfHour;
-    std::ranges::sort(beats);
-    constexpr std::size_t kTenth = kBeatsOfHour / 10;
-    for (const double beat : std::span(beats).first(kTenth))
-      hour.millisecondsOfBeat += beat / kTenth;
+    std::ranges::nth_element(beats, beats.begin() + kBeatsOfHour / 2);
+    hour.millisecondsOfBeat = beats[kBeatsOfHour / 2];
     ::malloc_trim(0);
     const auto heap = ::mallinfo2();
     hour.heapKiB = static_cast<std::int64_t>((heap.uordblks + heap.hblkhd) / 1024);

@@ -2,9 +2,8 @@
 
 The whole program on a simulated machine whose clock is driven through 24 hours: the table, the machine's
 window, details, alerts, four histories and four logs, over 250 processes of which two end and two begin
-with every beat. A beat's time is that of the quickest tenth of an hour's beats, so that other programs on the
-machine do not count; growth is that of the memory in use since the second hour, when the tables and
-histories that keep an hour are full.
+with every beat. A beat's time on processors is the median of an hour; growth is that of the memory in use since
+the second hour, when the tables and histories that keep an hour are full.
 """
 import json
 import subprocess

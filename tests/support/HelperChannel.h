@@ -20,9 +20,14 @@ class HelperChannel {
   explicit HelperChannel(SimulatedMachine& machine) : mMachine(machine) {
     SetAnswer([&machine](std::string_view request) { return machine.helper.Answer(request); });
     const auto fault = HelperFault::Wanted();
-    if (fault == HelperFault::Kind::kRefused)
+    const auto patience = gDaemonLimits.opening;
+    if (fault == HelperFault::Kind::kRefused) {
       machine.namedPipes.SetBehaviour(SimulatedNamedPipes::Behaviour::kDoesNotOpen);
+      // What waits for it is this test, not the program.
+      gDaemonLimits.opening = {};
+    }
     if (fault != HelperFault::Kind::kAbsent) OpenChannel("/helper");
+    gDaemonLimits.opening = patience;
     HelperFault::Apply(machine);
     machine.log.Clear();
   }
