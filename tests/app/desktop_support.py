@@ -63,11 +63,11 @@ class Desktop(unittest.TestCase):
         self.environment = {
             key: value for key, value in os.environ.items()
             if key not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR",
-                           "DBUS_SESSION_BUS_ADDRESS")}
+                           "DBUS_SESSION_BUS_ADDRESS", "LANGUAGE")}
         self.environment.update(
             HOME=self.home, XDG_CONFIG_HOME=self.home + "/config",
             XDG_DATA_HOME=self.home + "/data", XDG_RUNTIME_DIR=str(self.run_folder),
-            TMPDIR=str(self.run_folder), LSAN_OPTIONS=LEAKS_OF_LIBRARIES)
+            TMPDIR=str(self.run_folder), LC_ALL="C.UTF-8", LSAN_OPTIONS=LEAKS_OF_LIBRARIES)
 
     def open_display(self, manager=("openbox",)):
         reader, writer = os.pipe()

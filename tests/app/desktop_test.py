@@ -77,6 +77,20 @@ class Shell(Desktop):
                 _, errors = program.communicate(timeout=20)
                 self.assertEqual(program.returncode, 0, errors)
 
+    def test_windows_speak_the_users_language_and_the_terminal_english(self):
+        self.open_display()
+        for variables, title in (
+                ({"LC_ALL": "de_DE.UTF-8"}, "Prozesse"),
+                ({"LC_ALL": "", "LANG": "de_DE.UTF-8", "LANGUAGE": "fr:de"}, "Processus"),
+                ({"LC_ALL": "nl_NL.UTF-8", "LANGUAGE": ""}, "Processes")):
+            self.environment.update(variables)
+            program = self.start([BINARY, "--unprivileged"])
+            self.wait_for(lambda: f'"{title}"' in self.windows(), tell=self.windows)
+            program.terminate()
+            program.communicate(timeout=20)
+        done = self.run_program("--print", "--count", "1")
+        self.assertRegex(done.stdout, r"CPU-TIME.*\n.* \d+\.\d{6} ")
+
     def test_keys_act_on_what_was_selected_after_asking(self):
         self.open_display()
         victim = subprocess.Popen(["env", "--ignore-signal=TERM", "sleep", "1000"])
