@@ -23,7 +23,6 @@ TREE = PLACE / "tree"
 BUILD = PLACE / "build"
 # The longest that a test program may take, in times of what it takes without a fault.
 PATIENCE = 4
-NICE = ["nice", "-n", "19"]
 
 TOKEN = re.compile(
     r"(?P<comment>//[^\n]*|/\*.*?\*/)"
@@ -181,7 +180,7 @@ def prepare():
 
 def compile_programs(*targets, **variables):
     """Whether they could be built."""
-    return subprocess.run([*NICE, "ninja", "-C", str(BUILD), *targets], stdout=subprocess.DEVNULL,
+    return subprocess.run(["ninja", "-C", str(BUILD), *targets], stdout=subprocess.DEVNULL,
                           stderr=subprocess.DEVNULL, check=False,
                           env={**os.environ, **variables}).returncode == 0
 
@@ -319,6 +318,8 @@ def equivalents(path):
 
 
 def changed_line(mutant):
+    if mutant.new == ";":
+        return f"without {mutant.old}"
     return mutant.apply((ROOT / mutant.path).read_text(encoding="utf-8")).split("\n")[
         mutant.line - 1].strip()
 

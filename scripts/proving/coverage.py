@@ -10,6 +10,7 @@ import pathlib
 import shutil
 import stat
 
+from . import report
 from .tools import (ROOT, Failure, build, ctest, failed, goal, install, output, run as run_command,
                     say, share, table)
 
@@ -27,6 +28,7 @@ PROGRAMS = {
 SEEDS = ["fuzz-answer", "fuzz-ps-output", "fuzz-plist", "fuzz-procstat", "fuzz-ps-listing",
          "fuzz-request", "fuzz-figures", "fuzz-record", "fuzz-query", "fuzz-graphics", "fuzz-sockets",
          "fuzz-details"]
+SEEDS_OF_HELPER = ["fuzz-request", "fuzz-figures"]
 STARTED = ["Lurkwell_helper", "Lurkwell_permissions", "helper_packaged", "permissions_packaged",
            "helper_takeover_probe"]
 FOLDERS = {"helper": ["src/helper", "src/permission_step"],
@@ -81,8 +83,9 @@ def read_all(folder, programs):
 
 def measure(groups, again):
     install("build_packages", "test_packages", "fuzz_packages")
-    tests = [name for group in groups for name in PROGRAMS[group]] + SEEDS
-    targets = tests + STARTED + ["control_stand_in"]
+    tests = [name for group in groups for name in PROGRAMS[group]]
+    tests += SEEDS if "engine" in groups else SEEDS_OF_HELPER
+    targets = tests + STARTED + (["control_stand_in"] if "engine" in groups else [])
     folder = build("coverage", *targets)
     programs = [path for path in folder.rglob("*") if path.name in (*tests, *STARTED)
                 and path.is_file() and os.access(path, os.X_OK) and "profiles" not in path.parts]
@@ -140,54 +143,66 @@ def unreached(path, file, known):
 
 
 def add_options(parser):
+    parser.add_argument("--of", choices=sorted(PROGRAMS), action="append", help="one of the two alone")
     parser.add_argument("--again", action="store_true",
-                        help="counts of the run before; nothing is kept then")
-    parser.add_argument("--of", choices=sorted(PROGRAMS), action="append",
-                        help="one of the two alone; nothing is kept then")
+                        help="prints the counts of the run before, and keeps nothing")
+
+
+def of_group(group, files, cases):
+    """Goals, tables and notes of the helper or the engine."""
+    known = reasons()
+    rows, lines, notes = [], [], []
+    total = [0, 0, 0, 0]
+    for path in sorted(files):
+        if str(pathlib.Path(path).parent) not in FOLDERS[group]:
+            continue
+        counts = files[path].counts()
+        total = [one + other for one, other in zip(total, counts)]
+        rows.append([path, f"{share(counts[0], counts[1])} % of {counts[1]}",
+                     f"{share(counts[2], counts[3])} % of {counts[3]}" if counts[3] else ""])
+        if group == "helper":
+            lines += [[f"{path}:{number}", f"`{line}`", why or "not known"]
+                      for number, line, why in unreached(path, files[path], known)]
+    if not rows:
+        raise Failure(f"no source of the {group} was measured")
+    of_lines, of_branches = share(total[0], total[1]), share(total[2], total[3])
+    wanted_lines, wanted_branches = WANTED[group]
+    goals = [goal(f"lines of the {group} that tests reach", f"{wanted_lines} %",
+                  f"{of_lines} % of {total[1]}", of_lines >= wanted_lines)]
+    if group == "helper":
+        unknown = sum(row[2] == "not known" for row in lines)
+        goals.append(goal("lines of the helper that nothing reaches without a known reason", "none",
+                          f"{unknown} of {total[1]}", unknown == 0))
+    if wanted_branches:
+        goals.append(goal(f"branches of the {group}", f"{wanted_branches} %",
+                          f"{of_branches} % of {total[3]}", of_branches >= wanted_branches))
+    else:
+        notes.append(f"Branches of the {group}: {of_branches} % of {total[3]}.")
+    bad = failed(cases)
+    notes.append(f"For the {group} {len(cases)} tests ran, {len(bad)} failed in programs built for this"
+                 + (f": {', '.join(bad)}." if bad else "."))
+    return {"commit": report.commit(), "goals": goals, "notes": notes,
+            "tables": [table(f"The {group}", ["file", "lines", "branches"], rows),
+                       table(f"Lines of the {group} that no test reaches", ["line", "text", "why"],
+                             lines)]}
 
 
 def run(options):
     groups = options.of or sorted(PROGRAMS, reverse=True)
     files, cases = measure(groups, options.again)
-    known = reasons()
-    goals, tables, notes = [], [], []
+    kept = {} if options.again else report.kept("coverage").get("groups", {})
     for group in groups:
-        rows, lines = [], []
-        total = [0, 0, 0, 0]
-        for path in sorted(files):
-            if str(pathlib.Path(path).parent) not in FOLDERS[group]:
-                continue
-            counts = files[path].counts()
-            total = [one + other for one, other in zip(total, counts)]
-            rows.append([path, f"{share(counts[0], counts[1])} % of {counts[1]}",
-                         f"{share(counts[2], counts[3])} % of {counts[3]}" if counts[3] else ""])
-            if group == "helper":
-                lines += [[f"{path}:{number}", f"`{line}`", why or "not known"]
-                          for number, line, why in unreached(path, files[path], known)]
-        of_lines, of_branches = share(total[0], total[1]), share(total[2], total[3])
-        wanted_lines, wanted_branches = WANTED[group]
-        goals.append(goal(f"lines of the {group} that tests reach", f"{wanted_lines} %",
-                          f"{of_lines} % of {total[1]}", of_lines >= wanted_lines))
-        if group == "helper":
-            unknown = sum(row[2] == "not known" for row in lines)
-            goals.append(goal("lines of the helper that nothing reaches without a known reason", "none",
-                              f"{unknown} of {total[1]}", unknown == 0))
-        if wanted_branches:
-            goals.append(goal(f"branches of the {group}", f"{wanted_branches} %",
-                              f"{of_branches} % of {total[3]}", of_branches >= wanted_branches))
-        else:
-            notes.append(f"Branches of the {group}: {of_branches} % of {total[3]}.")
-        tables.append(table(f"The {group}", ["file", "lines", "branches"], rows))
-        tables.append(table(f"Lines of the {group} that no test reaches", ["line", "text", "why"],
-                            lines))
-    bad = failed(cases)
-    notes.append(f"{len(cases)} tests ran, {len(bad)} failed in programs built for this"
-                 + (f": {', '.join(bad)}." if bad else "."))
-    if options.of or options.again:
-        for one in tables:
-            say("\n".join("  ".join(str(cell) for cell in row) for row in one["rows"]))
-        say("\n".join(notes))
-        for one in goals:
-            say(f"{one['what']}: {one['found']}")
-        raise Failure("only a part was measured, so nothing is kept")
-    return {"goals": goals, "tables": tables, "notes": notes}
+        kept[group] = of_group(group, files, cases)
+    if options.again:
+        for group in groups:
+            for one in kept[group]["tables"]:
+                say("\n".join("  ".join(str(cell) for cell in row) for row in one["rows"]))
+            for one in kept[group]["goals"]:
+                say(f"{one['what']}: {one['found']}")
+        raise Failure("nothing was measured, so nothing is kept")
+    figures = {"goals": [], "tables": [], "notes": [], "groups": kept}
+    for group in sorted(kept, reverse=True):
+        for key in ("goals", "tables", "notes"):
+            figures[key] += kept[group][key]
+        figures["notes"].append(f"The {group} was measured at {kept[group]['commit']}.")
+    return figures
