@@ -10,7 +10,7 @@
 #include <QWindow>
 #include <QWindowStateChangeEvent>
 #include <algorithm>
-#include <chrono>
+#include <memory>
 #include <utility>
 
 #include "platform/Machine.h"
@@ -24,9 +24,7 @@ constexpr int kCloseBoxSize = 9;
 constexpr int kCloseBoxInset = 2;
 constexpr int kEdge = 4;
 constexpr int kFlashMilliseconds = 1200;
-/// On a layer the compositor needs a moment to move a window, and places that are told meanwhile
-/// are those of before.
-constexpr std::chrono::milliseconds kMoveSettles{24};
+constexpr double kDraggedOpacity = 0.6;
 
 int TitlebarWidth(std::uint32_t attributes) {
   return (attributes & kWindowSideTitlebarAttribute) != 0 ? FloatingWindow::kSideTitlebarWidth : 0;
@@ -54,6 +52,38 @@ class FloatingWindow::Content : public QWidget {
 
  private:
   std::function<void(QPainter&)> mPainter;
+};
+
+/// What is seen of a window while it is dragged on a layer. The window itself stays until it is let
+/// go: some compositors tell the pointer's place from where it was at the press, others from where
+/// it is, and nothing tells which do what.
+class FloatingWindow::DraggedPicture : public QWidget {
+ public:
+  explicit DraggedPicture(QPixmap picture)
+      : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowTransparentForInput |
+                             Qt::WindowDoesNotAcceptFocus),
+        mPicture(std::move(picture)) {
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_QuitOnClose, false);
+  }
+  void ShowAt(const QRect& place) {
+    setGeometry(place);
+    if (isVisible()) return;
+    TheMachine().screen.MakeFloating(winId());
+    show();
+  }
+
+ protected:
+  // A layer takes the new place with the next picture.
+  void moveEvent(QMoveEvent*) override { QWidget::update(); }
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setOpacity(kDraggedOpacity);
+    painter.drawPixmap(rect(), mPicture);
+  }
+
+ private:
+  QPixmap mPicture;
 };
 
 FloatingWindow::FloatingWindow(const QRect& contentBounds, std::uint32_t attributes)
@@ -204,19 +234,14 @@ void FloatingWindow::HandleMouse(QEvent& event) {
     }
   } else if (event.type() == QEvent::MouseButtonRelease) {
     const bool closes = std::exchange(mPressedCloseBox, false) && CloseBox().contains(place);
+    if (std::exchange(mPicture, nullptr) != nullptr)
+      setGeometry(DraggedTo(mouse.globalPosition().toPoint()));
     EndDrag();
     if (closes) close();
     return;
   }
   if (event.type() != QEvent::MouseMove) return;
-  const bool moves = mHeldEdges || (mDragging && mMayDrag);
-  if (moves && mWay == FloatingWay::kByLayer) {
-    const auto now = std::chrono::steady_clock::now();
-    if (now - mMovedAt < kMoveSettles) return;
-    mMovedAt = now;
-  }
-  if (mHeldEdges) return DragEdges(mouse.globalPosition().toPoint());
-  if (moves) move(mouse.globalPosition().toPoint() - mGrip);
+  if (mHeldEdges || (mDragging && mMayDrag)) DragTo(mouse.globalPosition().toPoint());
   // After a move by the window manager the release never comes.
   if (mouse.buttons() == Qt::NoButton) EndDrag();
 }
@@ -232,6 +257,8 @@ Qt::Edges FloatingWindow::EdgesAt(const QPoint& place) const {
 }
 
 void FloatingWindow::ShowEdge(const QPoint& place) {
+  // Outside, where the pointer may be then, is no edge.
+  if (mDragging || mHeldEdges) return;
   const auto edges = EdgesAt(place);
   const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
   const bool along = edges & (Qt::TopEdge | Qt::BottomEdge);
@@ -268,9 +295,10 @@ void FloatingWindow::Flash() {
   });
 }
 
-void FloatingWindow::DragEdges(const QPoint& to) {
+QRect FloatingWindow::DraggedTo(const QPoint& to) const {
   const auto before = geometry();
   QSize size = before.size();
+  if (!mHeldEdges) return {to - mGrip, size};
   if (mHeldEdges & Qt::LeftEdge) size.setWidth(before.right() - to.x() + 1);
   if (mHeldEdges & Qt::RightEdge) size.setWidth(to.x() - before.left() + 1);
   if (mHeldEdges & Qt::TopEdge) size.setHeight(before.bottom() - to.y() + 1);
@@ -279,12 +307,19 @@ void FloatingWindow::DragEdges(const QPoint& to) {
   QRect after(before.topLeft(), size);
   if (mHeldEdges & Qt::LeftEdge) after.moveRight(before.right());
   if (mHeldEdges & Qt::TopEdge) after.moveBottom(before.bottom());
-  setGeometry(after);
+  return after;
+}
+
+void FloatingWindow::DragTo(const QPoint& to) {
+  if (mWay != FloatingWay::kByLayer) return setGeometry(DraggedTo(to));
+  if (mPicture == nullptr) mPicture = std::make_unique<DraggedPicture>(grab());
+  mPicture->ShowAt(DraggedTo(to));
 }
 
 void FloatingWindow::EndDrag() {
   mHeldEdges = {};
   mMayDrag = false;
+  mPicture.reset();
   if (std::exchange(mDragging, false)) Tell(kEventWindowDragCompleted);
 }
 

@@ -7,9 +7,9 @@
 #include <QPointer>
 #include <QString>
 #include <QWidget>
-#include <chrono>
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 #include "platform/SessionAbilities.h"
 
@@ -60,6 +60,7 @@ class FloatingWindow final : public QWidget {
  public:
   /// The part of the window that its owner draws.
   class Content;
+  class DraggedPicture;
 
   static constexpr int kSideTitlebarWidth = 13;
 
@@ -101,8 +102,9 @@ class FloatingWindow final : public QWidget {
   void ShowEdge(const QPoint& place);
   void HandleStateChange(Qt::WindowStates before);
   void EndDrag();
-  /// Moves the edges that are held to where the pointer is on the desktop.
-  void DragEdges(const QPoint& to);
+  /// The window, or its edges that are held, where the pointer is on the desktop.
+  QRect DraggedTo(const QPoint& to) const;
+  void DragTo(const QPoint& to);
 
   std::function<void(WindowEventKind)> mHandler;
   std::function<void(QMenu&)> mFillMenu;
@@ -119,7 +121,7 @@ class FloatingWindow final : public QWidget {
   /// By hand, where no window manager looks after the window.
   Qt::Edges mHeldEdges;
   FloatingWay mWay;
-  std::chrono::steady_clock::time_point mMovedAt;
+  std::unique_ptr<DraggedPicture> mPicture;
 };
 
 /// A label that is laid over a floating window, with an opacity of its own. Unseen until its

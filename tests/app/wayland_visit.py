@@ -13,12 +13,14 @@ import tempfile
 import time
 
 from desktop_support import BINARY, FollowedProgram
+from wayland_pointer import LEFT, MANAGER, RIGHT, Pointer
 
 WAYLAND_BEHAVIOURS = {
     "starts": "it starts without an X server and shows its main window",
     "windows": "so do histories, logs, the machine's window, the animated view and the about panel",
     "above": "histories lie above the windows of other programs",
-    "places": "and where they were; of all others the size comes back, and no place is made up",
+    "drag": "they are dragged to another place, and have their menu",
+    "places": "and come back there; of all others the size comes back, and no place is made up",
     "toggle": "`--toggle-overlay` changes between the view's window and its overlay",
     "overlay": "the overlay lies above everything and lets clicks through, or fills the screen",
     "front": "a second start comes to the front with the desktop's consent",
@@ -73,6 +75,7 @@ class WaylandVisit(FollowedProgram):
     def setUp(self):
         super().setUp()
         self.held, self.reasons = {}, {}
+        self.place = PLACE
 
     def look(self, behaviour, question):
         try:
@@ -84,6 +87,7 @@ class WaylandVisit(FollowedProgram):
             self.held[behaviour], self.reasons[behaviour] = "no", str(why)[:2000]
 
     def visit(self, name):
+        self.name = name
         self.environment.update(
             LC_ALL="C.UTF-8", LIBGL_ALWAYS_SOFTWARE="1", XDG_SESSION_TYPE="wayland",
             WLR_BACKENDS="headless", WLR_RENDERER="pixman", WLR_LIBINPUT_NO_DEVICES="1",
@@ -105,6 +109,7 @@ class WaylandVisit(FollowedProgram):
             for title in ("Machine", "Animated View", "About Lurkwell", "Logging lkwvictim")] + [
             self.wait_for(lambda: self.history_is_shown(said, victim.pid), 10)])
         self.look("above", lambda: self.check_above(said))
+        self.look("drag", lambda: self.check_drag(said))
         self.keep_picture(name, "windows")
         self.look("toggle", lambda: self.check_toggle(said))
         time.sleep(2)
@@ -220,6 +225,45 @@ class WaylandVisit(FollowedProgram):
         for wanted in (r"set_keyboard_interactivity\(0\)", r"set_anchor\(5\)"):
             self.assertRegex(text, r"zwlr_layer_surface_v1[@#]" + layer + r"\." + wanted)
 
+    def check_drag(self, said):
+        text = said()
+        if not self.layers(text, 2):
+            raise DoesNotApply("moved by the compositor")
+        if f'"{MANAGER}"' not in text:
+            raise DoesNotApply("it lets no test play a pointer")
+        # The about panel would lie over it.
+        self.wait_for(lambda: "destroy" in said()[said().rindex("About Lurkwell"):], 20)
+        pointer = Pointer(self.environment["WAYLAND_DISPLAY"], (1280, 720))
+        self.addCleanup(pointer.end)
+        grip = PLACE[0] + 60, PLACE[1] + 50
+        pointer.move(*grip)
+        time.sleep(0.5)
+        pointer.press(LEFT, True)
+        for step in range(1, 21):
+            pointer.move(grip[0] + 10 * step, grip[1] + 8 * step)
+        # Where it comes to rest counts.
+        time.sleep(0.1)
+        pointer.move(grip[0] + 200, grip[1] + 160)
+        time.sleep(0.1)
+        self.keep_picture(self.name, "drag")
+        pointer.press(LEFT, False)
+        self.place = PLACE[0] + 200, PLACE[1] + 160
+        self.wait_for(lambda: f".set_margin({self.place[1]}, 0, 0, {self.place[0] - TITLE_BAR})"
+                      in said(), 5, lambda: str(re.findall(r"set_margin.*", said())[-3:]))
+        before = len(re.findall(r"zwlr_layer_surface_v1[@#]\d+\.get_popup", said()))
+        # Not before the window has come under it.
+        time.sleep(1)
+        pointer.move(self.place[0] + 70, self.place[1] + 50)
+        time.sleep(0.5)
+        pointer.press(RIGHT, True)
+        pointer.press(RIGHT, False)
+        self.wait_for(lambda: len(re.findall(r"zwlr_layer_surface_v1[@#]\d+\.get_popup", said())) >
+                      before, 5)
+        # A click beside the menu closes it.
+        pointer.move(1270, 710)
+        pointer.press(LEFT, True)
+        pointer.press(LEFT, False)
+
     def check_places(self, said):
         text, kept = said(), self.preferences()
         x, y, width, height = kept["MAIN_WINDOW_FRAME"].split()[:4]
@@ -227,8 +271,9 @@ class WaylandVisit(FollowedProgram):
         # Sway makes it as large as it likes.
         self.assertGreater(int(width) * int(height), 100)
         history, = kept["CPU_HISTORY_WINDOW"]
-        self.assertEqual((history["WINDOW_RECT_LEFT"], history["WINDOW_RECT_TOP"]), PLACE)
-        for layer, _ in self.layers(text, 2):
+        self.assertEqual((history["WINDOW_RECT_LEFT"], history["WINDOW_RECT_TOP"]),
+                         self.place)
+        for layer, _ in self.layers(text, 2)[:1]:
             left, top = PLACE[0] - TITLE_BAR, PLACE[1]
             self.assertRegex(text, r"zwlr_layer_surface_v1[@#]" + layer +
                              rf"\.set_margin\({top}, 0, 0, {left}\)")

@@ -245,27 +245,34 @@ TEST_F(FloatingWindowTest, WhereNothingElseKeepsItAboveItDoesWithoutAManager) {
   EXPECT_EQ(window->geometry().bottom(), before.bottom() + 20) << "the other edge stays";
 }
 
-TEST_F(FloatingWindowTest, OnALayerItMovesItselfAndWaitsForTheCompositorInBetween) {
+TEST_F(FloatingWindowTest, OnALayerAPictureIsDraggedAndTheWindowFollowsWhenItIsLetGo) {
   machine.screen.floating = FloatingWay::kByLayer;
   Recorder recorder;
   Open(recorder);
   auto* window = recorder.Window();
   EXPECT_FALSE(window->windowFlags().testFlag(Qt::BypassWindowManagerHint));
+  const auto before = window->geometry();
+  const auto pictures = [&] {
+    QList<QRect> places;
+    for (const auto* other : QApplication::topLevelWidgets())
+      if (other != window && other->isVisible()) places.append(other->geometry());
+    return places;
+  };
   const QPoint grip(60, 30);
-  const auto move = [&](QPoint to) {
+  QTest::mousePress(window, Qt::LeftButton, {}, grip);
+  machine.log.Clear();
+  for (const QPoint by : {QPoint(20, 10), QPoint(43, 24)}) {
+    const QPoint to = grip + by;
     QMouseEvent moved(QEvent::MouseMove, QPointF(to), window->mapToGlobal(QPointF(to)),
                       Qt::NoButton, Qt::LeftButton, {});
     QApplication::sendEvent(window, &moved);
-    return window->pos();
-  };
-  const auto before = window->pos();
-  QTest::mousePress(window, Qt::LeftButton, {}, grip);
-  EXPECT_EQ(move(grip + QPoint(20, 10)), before + QPoint(20, 10));
-  // Still where it was for the compositor, which tells places within that.
-  EXPECT_EQ(move(grip + QPoint(22, 11)), before + QPoint(20, 10));
-  QTest::qWait(40);
-  EXPECT_EQ(move(grip + QPoint(3, 4)), before + QPoint(23, 14));
-  QTest::mouseRelease(window, Qt::LeftButton, {}, grip);
+    EXPECT_EQ(window->geometry(), before) << "as long as the pointer's places count from it";
+    EXPECT_EQ(pictures(), QList<QRect>{before.translated(by)});
+  }
+  EXPECT_EQ(machine.log.Take(), "Screen.MakeFloating\n");
+  QTest::mouseRelease(window, Qt::LeftButton, {}, grip + QPoint(43, 24));
+  EXPECT_EQ(window->geometry(), before.translated(43, 24));
+  EXPECT_TRUE(pictures().isEmpty());
 }
 
 }  // namespace
