@@ -165,9 +165,10 @@ TEST_F(ShapeTest, ArrowsAndKeysFoldAndAreSpoken) {
   auto& table = window->table();
   const auto click = [&](int pid) {
     const auto place = NameAt(RowOf(pid));
-    QTest::mouseClick(
-        table.viewport(), Qt::LeftButton, {},
-        TreeCell::ArrowPlace(table.visualRect(place), place, Qt::LeftToRight).center());
+    const auto cell = table.visualRect(place);
+    const auto arrow = TreeCell::ArrowPlace(cell, place, table.layoutDirection());
+    EXPECT_EQ(arrow.center().x() > cell.center().x(), table.isRightToLeft());
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, arrow.center());
   };
   Select({302});
   click(301);
@@ -183,6 +184,16 @@ TEST_F(ShapeTest, ArrowsAndKeysFoldAndAreSpoken) {
   EXPECT_EQ(Tree(), "kernel_task\n-launchd*\n -shell\n  -make\n   cc\n");
   QTest::keyClick(&table, Qt::Key_Right);
   EXPECT_EQ(Selected(), "300");
+  // Where texts are written from the right, branches begin there.
+  table.setLayoutDirection(Qt::RightToLeft);
+  QApplication::processEvents();
+  QTest::keyClick(&table, Qt::Key_Right);
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd\n +shell (2)*\n");
+  QTest::keyClick(&table, Qt::Key_Left);
+  click(301);
+  EXPECT_EQ(Tree(), "kernel_task\n-launchd\n -shell*\n  +make (1)\n");
+  click(301);
+  table.unsetLayoutDirection();
   QTest::keyClick(&table, Qt::Key_2, Qt::AltModifier);
   QTest::keyClick(&table, Qt::Key_1, Qt::AltModifier);
   EXPECT_EQ(controller().shape(), TableShape::kList);
