@@ -88,7 +88,7 @@ def measure(group, options):
     ends = list(verdicts.values())
     void = sum(end in ("compiler", "same") for end in ends)
     equivalent = sum(bool(row[2]) for row in rows)
-    return {"tried": len(ends), "possible": of_all, "seed": options.seed, "void": void,
+    return {"chosen": len(chosen), "tried": len(ends), "possible": of_all, "seed": options.seed, "void": void,
             "equivalent": equivalent, "counted": len(ends) - void - equivalent,
             "killed": len(ends) - void - len(rows), "by_time": sum("by its time" in end for end in ends),
             "survivors": rows}
@@ -105,13 +105,15 @@ def run(options):
         one = kept[group]
         found = share(one["killed"], one["counted"])
         goals.append(goal(f"mutants of the {group} that a test notices", f"{WANTED[group]} %",
-                          f"{found} % of {one['counted']}", found >= WANTED[group]))
-        rows.append([group, one["commit"], one["seed"], one["possible"], one["tried"], one["void"],
+                          f"{found} % of {one['counted']}; {one['tried']} of {one['chosen']} were"
+                          " tried", found >= WANTED[group] and one["tried"] == one["chosen"]))
+        rows.append([group, one["commit"], one["seed"], one["possible"], one["chosen"], one["tried"], one["void"],
                      one["equivalent"], one["killed"], one["by_time"],
                      one["counted"] - one["killed"]])
         tables.append(table(f"What no test of the {group} noticed", ["line", "became",
                                                                      "why it is no fault"],
                             one["survivors"]))
-    tables.insert(0, table("Faults", ["of", "commit", "seed", "possible", "tried", "no other program",
+    tables.insert(0, table("Faults", ["of", "commit", "seed", "possible", "chosen", "tried",
+                                      "no other program",
                                       "no fault", "noticed", "of them by time", "not noticed"], rows))
     return {"goals": goals, "tables": tables, "groups": kept}
