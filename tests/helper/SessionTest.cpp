@@ -145,6 +145,8 @@ TEST_F(SessionTest, FiguresComeFromTheFilesOfTheAskedGroups) {
             "pid_faults 0 0\npid_pageins 0 0\npid_cow_faults 0 0\npid_messages_sent 0 0\n"
             "pid_messages_received 0 0\npid_syscalls_mach 0 0\npid_syscalls_unix 0 0\n"
             "pid_csw 0 0\n");
+  EXPECT_NE(Figures("pid_internal_basic_info 2\n").find("pid_suspend_count 2 0\n"),
+            std::string::npos);
   // Each group has the figures whose rows name it.
   for (const auto& [group, word] : kFigureGroupWords) {
     std::istringstream answer(Figures("pid_internal" + std::string(word) + " 70\n"));
