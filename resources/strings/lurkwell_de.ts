@@ -2427,6 +2427,10 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
         <source></source>
         <translation>Animierte Ansicht</translation>
     </message>
+    <message id="quintessential_spoken">
+        <source></source>
+        <translation>Prozesse als Symbole, beschäftigtere größer: %1. Ihre Werte nennt die Prozesstabelle.</translation>
+    </message>
     <message id="quintessential_menu_toggle">
         <source></source>
         <translation>Über dem ganzen &amp;Bildschirm</translation>
@@ -2483,9 +2487,9 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
         <source></source>
         <translation>Kein Prozess entspricht dem Filter. Esc zeigt wieder alle.</translation>
     </message>
-    <message id="filter_clear">
+    <message id="field_clear">
         <source></source>
-        <translation>Filter löschen</translation>
+        <translation>Feld leeren</translation>
     </message>
     <message id="filter_last">
         <source></source>
@@ -3049,6 +3053,22 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
     <message id="row_ended">
         <source></source>
         <translation>, beendet</translation>
+    </message>
+    <message id="row_zombie">
+        <source></source>
+        <translation>, Zombie</translation>
+    </message>
+    <message id="cell_spoken">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="sorted_ascending">
+        <source></source>
+        <translation>sortiert, kleinste zuerst</translation>
+    </message>
+    <message id="sorted_descending">
+        <source></source>
+        <translation>sortiert, größte zuerst</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -4674,7 +4694,7 @@ Frei: %5</translation>
     </message>
     <message id="history_now">
         <source></source>
-        <translation>jetzt %1 %; der obere Rand ist %2 %</translation>
+        <translation>jetzt %1 %, im Fenster zwischen %3 % und %4 %; der obere Rand ist %2 %</translation>
     </message>
     <message id="history_tip">
         <source></source>
@@ -6463,6 +6483,14 @@ Frei: %5</translation>
         <source></source>
         <translation>nicht bekannt</translation>
     </message>
+    <message id="graph_spoken_range">
+        <source></source>
+        <translation>zwischen %1 und %2</translation>
+    </message>
+    <message id="graph_spoken_span">
+        <source></source>
+        <translation>in %1</translation>
+    </message>
     <message id="graph_now">
         <source></source>
         <translation>jetzt</translation>
@@ -7347,6 +7375,14 @@ Frei: %5</translation>
         <source></source>
         <translation>Symbol im Systemabschnitt</translation>
     </message>
+    <message id="setting_title_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>Screenreader: Änderungen nicht ungefragt melden</translation>
+    </message>
+    <message id="setting_title_REDUCE_MOTION">
+        <source></source>
+        <translation>Weniger Bewegung</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>Verlauf des Rechners von Anfang an</translation>
@@ -7354,6 +7390,14 @@ Frei: %5</translation>
     <message id="setting_TRAY_ICON">
         <source></source>
         <translation>Ein Symbol mit einem kleinen Diagramm der Prozessoren im Systemabschnitt der Kontrollleiste anzeigen; Kurzinfo und Menü nennen die drei aktivsten Prozesse. Solange es da ist, läuft das Programm weiter, wenn sein letztes Fenster geschlossen wird.</translation>
+    </message>
+    <message id="setting_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>Ein Screenreader erfährt, wohin Sie gehen und wonach Sie fragen, aber nichts von dem, was Aktualisierungen ändern. Sonst wird die Zeile mit dem Fokus alle paar Sekunden neu vorgelesen, solange sich ihre Werte ändern.</translation>
+    </message>
+    <message id="setting_REDUCE_MOTION">
+        <source></source>
+        <translation>Nichts bewegt sich, gleitet oder blinkt von selbst: Die animierte Ansicht steht still, sobald ihre Prozesse ihre Plätze haben, und Größen ändern sich sofort. Dasselbe gilt, solange auf dem Desktop weniger Bewegung oder keine Animationen eingestellt sind.</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

@@ -2427,6 +2427,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Animated View</translation>
     </message>
+    <message id="quintessential_spoken">
+        <source></source>
+        <translation>Processes as icons, busier ones larger: %1. The process table tells their figures.</translation>
+    </message>
     <message id="quintessential_menu_toggle">
         <source></source>
         <translation>&amp;Over the Whole Screen</translation>
@@ -2483,9 +2487,9 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>No process is as the filter wants it. Esc shows all again.</translation>
     </message>
-    <message id="filter_clear">
+    <message id="field_clear">
         <source></source>
-        <translation>Clear the filter</translation>
+        <translation>Empty the field</translation>
     </message>
     <message id="filter_last">
         <source></source>
@@ -3049,6 +3053,22 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
     <message id="row_ended">
         <source></source>
         <translation>, ended</translation>
+    </message>
+    <message id="row_zombie">
+        <source></source>
+        <translation>, zombie</translation>
+    </message>
+    <message id="cell_spoken">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="sorted_ascending">
+        <source></source>
+        <translation>sorted, smallest first</translation>
+    </message>
+    <message id="sorted_descending">
+        <source></source>
+        <translation>sorted, largest first</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -4674,7 +4694,7 @@ Free: %5</translation>
     </message>
     <message id="history_now">
         <source></source>
-        <translation>%1 % now; the upper edge is %2 %</translation>
+        <translation>%1 % now, between %3 % and %4 % in the window; the upper edge is %2 %</translation>
     </message>
     <message id="history_tip">
         <source></source>
@@ -6463,6 +6483,14 @@ Free: %5</translation>
         <source></source>
         <translation>not known</translation>
     </message>
+    <message id="graph_spoken_range">
+        <source></source>
+        <translation>between %1 and %2</translation>
+    </message>
+    <message id="graph_spoken_span">
+        <source></source>
+        <translation>in %1</translation>
+    </message>
     <message id="graph_now">
         <source></source>
         <translation>now</translation>
@@ -7347,6 +7375,14 @@ Free: %5</translation>
         <source></source>
         <translation>Icon in the tray</translation>
     </message>
+    <message id="setting_title_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>Screen reader: tell no changes unasked</translation>
+    </message>
+    <message id="setting_title_REDUCE_MOTION">
+        <source></source>
+        <translation>Less motion</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>Machine's history from the start</translation>
@@ -7354,6 +7390,14 @@ Free: %5</translation>
     <message id="setting_TRAY_ICON">
         <source></source>
         <translation>Show an icon with a small graph of the processors in the desktop's tray; its tip and its menu have the busiest three processes. While it is there the program goes on when its last window is closed.</translation>
+    </message>
+    <message id="setting_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>A screen reader hears what you move to and ask for, and nothing of what updates change. Without this the row that has the focus is told again every few seconds while its figures change.</translation>
+    </message>
+    <message id="setting_REDUCE_MOTION">
+        <source></source>
+        <translation>Nothing moves, slides or blinks by itself: the animated view stands still once its processes have their places, and changes of size come at once. The same counts while the desktop is set to less motion or no animations.</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

@@ -2427,6 +2427,10 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
         <source></source>
         <translation>Vista animada</translation>
     </message>
+    <message id="quintessential_spoken">
+        <source></source>
+        <translation>Procesos como iconos, los más activos más grandes: %1. La tabla de procesos da sus valores.</translation>
+    </message>
     <message id="quintessential_menu_toggle">
         <source></source>
         <translation>&amp;Sobre toda la pantalla</translation>
@@ -2483,9 +2487,9 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
         <source></source>
         <translation>Ningún proceso cumple el filtro. Esc vuelve a mostrarlos todos.</translation>
     </message>
-    <message id="filter_clear">
+    <message id="field_clear">
         <source></source>
-        <translation>Limpiar el filtro</translation>
+        <translation>Vaciar el campo</translation>
     </message>
     <message id="filter_last">
         <source></source>
@@ -3049,6 +3053,22 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
     <message id="row_ended">
         <source></source>
         <translation>, terminado</translation>
+    </message>
+    <message id="row_zombie">
+        <source></source>
+        <translation>, zombi</translation>
+    </message>
+    <message id="cell_spoken">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="sorted_ascending">
+        <source></source>
+        <translation>ordenado de menor a mayor</translation>
+    </message>
+    <message id="sorted_descending">
+        <source></source>
+        <translation>ordenado de mayor a menor</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -4674,7 +4694,7 @@ Libre: %5</translation>
     </message>
     <message id="history_now">
         <source></source>
-        <translation>%1 % ahora; el borde superior es %2 %</translation>
+        <translation>%1 % ahora, entre %3 % y %4 % en la ventana; el borde superior es %2 %</translation>
     </message>
     <message id="history_tip">
         <source></source>
@@ -6463,6 +6483,14 @@ Libre: %5</translation>
         <source></source>
         <translation>no se conoce</translation>
     </message>
+    <message id="graph_spoken_range">
+        <source></source>
+        <translation>entre %1 y %2</translation>
+    </message>
+    <message id="graph_spoken_span">
+        <source></source>
+        <translation>en %1</translation>
+    </message>
     <message id="graph_now">
         <source></source>
         <translation>ahora</translation>
@@ -7347,6 +7375,14 @@ Libre: %5</translation>
         <source></source>
         <translation>Icono en la bandeja</translation>
     </message>
+    <message id="setting_title_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>Lector de pantalla: no anunciar cambios</translation>
+    </message>
+    <message id="setting_title_REDUCE_MOTION">
+        <source></source>
+        <translation>Menos movimiento</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>Historial del equipo desde el inicio</translation>
@@ -7354,6 +7390,14 @@ Libre: %5</translation>
     <message id="setting_TRAY_ICON">
         <source></source>
         <translation>Mostrar un icono con un pequeño gráfico de los procesadores en la bandeja del sistema; su información y su menú tienen los tres procesos más ocupados. Mientras está ahí, el programa sigue cuando se cierra su última ventana.</translation>
+    </message>
+    <message id="setting_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>El lector de pantalla lee a dónde va y lo que usted pide, y nada de lo que cambian las actualizaciones. Sin esto, la fila que tiene el foco se vuelve a leer cada pocos segundos mientras cambian sus valores.</translation>
+    </message>
+    <message id="setting_REDUCE_MOTION">
+        <source></source>
+        <translation>Nada se mueve, se desliza ni parpadea por sí solo: la vista animada queda quieta en cuanto sus procesos tienen su sitio, y los tamaños cambian de golpe. Lo mismo vale mientras el escritorio esté configurado con menos movimiento o sin animaciones.</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

@@ -2427,6 +2427,10 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
         <source></source>
         <translation>Vue animée</translation>
     </message>
+    <message id="quintessential_spoken">
+        <source></source>
+        <translation>Processus sous forme d’icônes, les plus actifs en plus grand : %1. Le tableau des processus donne leurs valeurs.</translation>
+    </message>
     <message id="quintessential_menu_toggle">
         <source></source>
         <translation>Par-dessus tout l’&amp;écran</translation>
@@ -2483,9 +2487,9 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
         <source></source>
         <translation>Aucun processus ne correspond au filtre. Échap les affiche tous de nouveau.</translation>
     </message>
-    <message id="filter_clear">
+    <message id="field_clear">
         <source></source>
-        <translation>Effacer le filtre</translation>
+        <translation>Vider le champ</translation>
     </message>
     <message id="filter_last">
         <source></source>
@@ -3049,6 +3053,22 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
     <message id="row_ended">
         <source></source>
         <translation>, terminé</translation>
+    </message>
+    <message id="row_zombie">
+        <source></source>
+        <translation>, zombie</translation>
+    </message>
+    <message id="cell_spoken">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="sorted_ascending">
+        <source></source>
+        <translation>trié, du plus petit au plus grand</translation>
+    </message>
+    <message id="sorted_descending">
+        <source></source>
+        <translation>trié, du plus grand au plus petit</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -4674,7 +4694,7 @@ Libre : %5</translation>
     </message>
     <message id="history_now">
         <source></source>
-        <translation>%1 % maintenant ; le bord supérieur est à %2 %</translation>
+        <translation>%1 % maintenant, entre %3 % et %4 % dans la fenêtre ; le bord supérieur est %2 %</translation>
     </message>
     <message id="history_tip">
         <source></source>
@@ -6463,6 +6483,14 @@ Libre : %5</translation>
         <source></source>
         <translation>inconnu</translation>
     </message>
+    <message id="graph_spoken_range">
+        <source></source>
+        <translation>entre %1 et %2</translation>
+    </message>
+    <message id="graph_spoken_span">
+        <source></source>
+        <translation>en %1</translation>
+    </message>
     <message id="graph_now">
         <source></source>
         <translation>maintenant</translation>
@@ -7347,6 +7375,14 @@ Libre : %5</translation>
         <source></source>
         <translation>Icône dans la zone de notification</translation>
     </message>
+    <message id="setting_title_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>Lecteur d’écran : ne rien annoncer sans demande</translation>
+    </message>
+    <message id="setting_title_REDUCE_MOTION">
+        <source></source>
+        <translation>Moins de mouvement</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>Historique de la machine dès le démarrage</translation>
@@ -7354,6 +7390,14 @@ Libre : %5</translation>
     <message id="setting_TRAY_ICON">
         <source></source>
         <translation>Afficher une icône avec un petit graphique des processeurs dans la zone de notification du bureau ; son infobulle et son menu indiquent les trois processus les plus actifs. Tant qu’elle est là, le programme continue quand sa dernière fenêtre est fermée.</translation>
+    </message>
+    <message id="setting_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>Un lecteur d’écran apprend où vous allez et ce que vous demandez, mais rien de ce que changent les mises à jour. Sinon, la ligne qui a le focus est relue toutes les quelques secondes tant que ses valeurs changent.</translation>
+    </message>
+    <message id="setting_REDUCE_MOTION">
+        <source></source>
+        <translation>Rien ne bouge, ne glisse ni ne clignote de soi-même : la vue animée reste immobile dès que ses processus ont leur place, et les tailles changent d’un coup. Il en va de même tant que le bureau est réglé sur moins de mouvement ou sans animations.</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

@@ -2425,6 +2425,10 @@
         <source></source>
         <translation>アニメーション表示</translation>
     </message>
+    <message id="quintessential_spoken">
+        <source></source>
+        <translation>プロセスをアイコンで表示（忙しいものほど大きい）：%1。数値はプロセスの表にあります。</translation>
+    </message>
     <message id="quintessential_menu_toggle">
         <source></source>
         <translation>画面全体に重ねる(&amp;O)</translation>
@@ -2481,9 +2485,9 @@
         <source></source>
         <translation>フィルターに一致するプロセスはありません。Esc ですべて表示します。</translation>
     </message>
-    <message id="filter_clear">
+    <message id="field_clear">
         <source></source>
-        <translation>フィルターをクリア</translation>
+        <translation>入力欄を空にする</translation>
     </message>
     <message id="filter_last">
         <source></source>
@@ -3041,6 +3045,22 @@
     <message id="row_ended">
         <source></source>
         <translation>、終了</translation>
+    </message>
+    <message id="row_zombie">
+        <source></source>
+        <translation>、ゾンビ</translation>
+    </message>
+    <message id="cell_spoken">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="sorted_ascending">
+        <source></source>
+        <translation>昇順に並べ替え済み</translation>
+    </message>
+    <message id="sorted_descending">
+        <source></source>
+        <translation>降順に並べ替え済み</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -4636,7 +4656,7 @@ MIT ライセンスのフリーソフトウェア</translation>
     </message>
     <message id="history_now">
         <source></source>
-        <translation>現在 %1 %、上端は %2 %</translation>
+        <translation>現在 %1 %、ウィンドウ内では %3 %～%4 %。上端は %2 %</translation>
     </message>
     <message id="history_tip">
         <source></source>
@@ -6420,6 +6440,14 @@ MIT ライセンスのフリーソフトウェア</translation>
         <source></source>
         <translation>不明</translation>
     </message>
+    <message id="graph_spoken_range">
+        <source></source>
+        <translation>%1～%2</translation>
+    </message>
+    <message id="graph_spoken_span">
+        <source></source>
+        <translation>%1間</translation>
+    </message>
     <message id="graph_now">
         <source></source>
         <translation>現在</translation>
@@ -7296,6 +7324,14 @@ MIT ライセンスのフリーソフトウェア</translation>
         <source></source>
         <translation>トレイのアイコン</translation>
     </message>
+    <message id="setting_title_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>スクリーンリーダー：変化を自動で読み上げない</translation>
+    </message>
+    <message id="setting_title_REDUCE_MOTION">
+        <source></source>
+        <translation>動きを減らす</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>起動時からマシンの履歴を保持</translation>
@@ -7303,6 +7339,14 @@ MIT ライセンスのフリーソフトウェア</translation>
     <message id="setting_TRAY_ICON">
         <source></source>
         <translation>デスクトップのトレイに、プロセッサーの小さなグラフ付きのアイコンを表示します。ツールチップとメニューには、最も忙しい 3 つのプロセスが示されます。アイコンがある間は、最後のウィンドウを閉じてもプログラムは動作し続けます。</translation>
+    </message>
+    <message id="setting_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>スクリーンリーダーには移動先と尋ねたことだけが伝わり、更新による変化は伝わりません。オフの場合、フォーカスのある行は数値が変わる間、数秒ごとに読み上げ直されます。</translation>
+    </message>
+    <message id="setting_REDUCE_MOTION">
+        <source></source>
+        <translation>自動で動いたり、滑ったり、点滅したりするものがなくなります。アニメーション表示はプロセスの位置が決まると静止し、大きさはすぐに変わります。デスクトップで動きを減らす設定やアニメーションなしの設定になっている間も同じです。</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

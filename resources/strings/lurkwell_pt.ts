@@ -2427,6 +2427,10 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
         <source></source>
         <translation>Vista animada</translation>
     </message>
+    <message id="quintessential_spoken">
+        <source></source>
+        <translation>Processos como ícones, os mais ativos maiores: %1. A tabela de processos traz os valores.</translation>
+    </message>
     <message id="quintessential_menu_toggle">
         <source></source>
         <translation>&amp;Sobre todo o ecrã</translation>
@@ -2483,9 +2487,9 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
         <source></source>
         <translation>Nenhum processo satisfaz o filtro. Esc volta a mostrá-los todos.</translation>
     </message>
-    <message id="filter_clear">
+    <message id="field_clear">
         <source></source>
-        <translation>Limpar o filtro</translation>
+        <translation>Limpar o campo</translation>
     </message>
     <message id="filter_last">
         <source></source>
@@ -3049,6 +3053,22 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
     <message id="row_ended">
         <source></source>
         <translation>, terminado</translation>
+    </message>
+    <message id="row_zombie">
+        <source></source>
+        <translation>, zumbi</translation>
+    </message>
+    <message id="cell_spoken">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="sorted_ascending">
+        <source></source>
+        <translation>ordenado do menor para o maior</translation>
+    </message>
+    <message id="sorted_descending">
+        <source></source>
+        <translation>ordenado do maior para o menor</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -4674,7 +4694,7 @@ Livre: %5</translation>
     </message>
     <message id="history_now">
         <source></source>
-        <translation>%1 % agora; a margem superior é %2 %</translation>
+        <translation>%1 % agora, entre %3 % e %4 % na janela; a borda superior é %2 %</translation>
     </message>
     <message id="history_tip">
         <source></source>
@@ -6463,6 +6483,14 @@ Livre: %5</translation>
         <source></source>
         <translation>não se sabe</translation>
     </message>
+    <message id="graph_spoken_range">
+        <source></source>
+        <translation>entre %1 e %2</translation>
+    </message>
+    <message id="graph_spoken_span">
+        <source></source>
+        <translation>em %1</translation>
+    </message>
     <message id="graph_now">
         <source></source>
         <translation>agora</translation>
@@ -7347,6 +7375,14 @@ Livre: %5</translation>
         <source></source>
         <translation>Ícone na bandeja</translation>
     </message>
+    <message id="setting_title_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>Leitor de tela: não anunciar mudanças</translation>
+    </message>
+    <message id="setting_title_REDUCE_MOTION">
+        <source></source>
+        <translation>Menos movimento</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>Histórico da máquina desde o arranque</translation>
@@ -7354,6 +7390,14 @@ Livre: %5</translation>
     <message id="setting_TRAY_ICON">
         <source></source>
         <translation>Mostrar um ícone com um pequeno gráfico dos processadores na bandeja do sistema; a sua dica e o seu menu têm os três processos mais ocupados. Enquanto lá estiver, o programa continua quando a sua última janela é fechada.</translation>
+    </message>
+    <message id="setting_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>O leitor de tela lê aonde você vai e o que pede, e nada do que as atualizações mudam. Sem isto, a linha com o foco é lida de novo a cada poucos segundos enquanto seus valores mudam.</translation>
+    </message>
+    <message id="setting_REDUCE_MOTION">
+        <source></source>
+        <translation>Nada se move, desliza ou pisca por si só: a visão animada fica parada assim que seus processos têm seus lugares, e os tamanhos mudam de uma vez. O mesmo vale enquanto a área de trabalho estiver configurada para menos movimento ou sem animações.</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

@@ -2425,6 +2425,10 @@
         <source></source>
         <translation>动画视图</translation>
     </message>
+    <message id="quintessential_spoken">
+        <source></source>
+        <translation>以图标显示的进程（越忙越大）：%1。具体数值见进程表。</translation>
+    </message>
     <message id="quintessential_menu_toggle">
         <source></source>
         <translation>覆盖整个屏幕(&amp;O)</translation>
@@ -2481,9 +2485,9 @@
         <source></source>
         <translation>没有符合过滤条件的进程。按 Esc 重新显示全部。</translation>
     </message>
-    <message id="filter_clear">
+    <message id="field_clear">
         <source></source>
-        <translation>清除过滤器</translation>
+        <translation>清空输入框</translation>
     </message>
     <message id="filter_last">
         <source></source>
@@ -3041,6 +3045,22 @@
     <message id="row_ended">
         <source></source>
         <translation>，已结束</translation>
+    </message>
+    <message id="row_zombie">
+        <source></source>
+        <translation>，僵尸进程</translation>
+    </message>
+    <message id="cell_spoken">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="sorted_ascending">
+        <source></source>
+        <translation>已排序，从小到大</translation>
+    </message>
+    <message id="sorted_descending">
+        <source></source>
+        <translation>已排序，从大到小</translation>
     </message>
     <message id="row_unfolded">
         <source></source>
@@ -4636,7 +4656,7 @@
     </message>
     <message id="history_now">
         <source></source>
-        <translation>当前 %1 %；上边缘为 %2 %</translation>
+        <translation>当前 %1 %，窗口内介于 %3 % 与 %4 % 之间；上边缘为 %2 %</translation>
     </message>
     <message id="history_tip">
         <source></source>
@@ -6420,6 +6440,14 @@
         <source></source>
         <translation>未知</translation>
     </message>
+    <message id="graph_spoken_range">
+        <source></source>
+        <translation>介于 %1 与 %2 之间</translation>
+    </message>
+    <message id="graph_spoken_span">
+        <source></source>
+        <translation>%1内</translation>
+    </message>
     <message id="graph_now">
         <source></source>
         <translation>现在</translation>
@@ -7296,6 +7324,14 @@
         <source></source>
         <translation>托盘图标</translation>
     </message>
+    <message id="setting_title_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>屏幕阅读器：不主动朗读变化</translation>
+    </message>
+    <message id="setting_title_REDUCE_MOTION">
+        <source></source>
+        <translation>减少动态效果</translation>
+    </message>
     <message id="setting_title_MACHINE_HISTORY_ALWAYS">
         <source></source>
         <translation>从启动时起保留本机历史</translation>
@@ -7303,6 +7339,14 @@
     <message id="setting_TRAY_ICON">
         <source></source>
         <translation>在桌面的托盘中显示带有处理器小图形的图标；其提示和菜单中有最忙的三个进程。有此图标时，关闭最后一个窗口后程序继续运行。</translation>
+    </message>
+    <message id="setting_ACCESSIBLE_QUIET">
+        <source></source>
+        <translation>屏幕阅读器只朗读您移动到和查询的内容，不朗读更新带来的变化。关闭时，只要数值在变化，获得焦点的行每隔几秒会重新朗读一次。</translation>
+    </message>
+    <message id="setting_REDUCE_MOTION">
+        <source></source>
+        <translation>不再有自行移动、滑动或闪烁的内容：进程就位后，动画视图保持静止，大小变化立即生效。当桌面设置为减少动态效果或关闭动画时也是如此。</translation>
     </message>
     <message id="setting_MACHINE_HISTORY_ALWAYS">
         <source></source>

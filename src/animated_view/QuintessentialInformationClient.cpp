@@ -234,8 +234,9 @@ void QuintessentialInformationClient::EndDrawingThread() {
 }
 
 void QuintessentialInformationClient::InternalDraw() {
-  for (auto& info : mQipiList) info.weight += (info.targetWeight - info.weight) * kEasing;
-  DisIsRevoltin(mQipiList, false);
+  const double easing = mIsStill ? 1.0 : kEasing;
+  for (auto& info : mQipiList) info.weight += (info.targetWeight - info.weight) * easing;
+  if (!mIsStill) DisIsRevoltin(mQipiList, false);
   UpdateProcessInformationCocoa();
 }
 

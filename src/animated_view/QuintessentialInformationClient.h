@@ -115,7 +115,7 @@ class QuintessentialInformationClient final : public ProcessInformationClient,
 
   // ---- One frame. Inside the mutex.
 
-  /// Moves the records and has the current view drawn.
+  /// Moves the records, unless the user wants less motion, and has the current view drawn.
   void InternalDraw() override LURKWELL_REQUIRES(gQuintessentialMutex);
 
   /// Makes the labels anew, as for another scale; the caller has seen to their textures.
@@ -172,6 +172,8 @@ class QuintessentialInformationClient final : public ProcessInformationClient,
   QuintessentialDrawingSettings mDrawing LURKWELL_GUARDED_BY(gQuintessentialMutex);
   AnimationIntervals mIntervals LURKWELL_GUARDED_BY(gQuintessentialMutex);
   std::shared_ptr<const Picture> mDefaultIcon;
+  /// The user wants less motion: records stay where they have been placed.
+  bool mIsStill LURKWELL_GUARDED_BY(gQuintessentialMutex) = false;
   bool mHasStabilized = false;
   bool mHooked = false;
   bool mWatcherIsServed = false;

@@ -13,6 +13,7 @@
 #include "consolidator/PropertyValues.h"
 #include "consolidator/WholeNames.h"
 #include "platform/PrintableText.h"
+#include "preferences/LessMotion.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -102,6 +103,7 @@ void QuintessentialInformationClient::NotifyProcessesHaveBeenUpdated() {
       record = mQipiList.Take(ready, record);
     for (auto& info : mQipiList)
       if (NameIfNameless(info) && info.labelTexture != 0) ReleaseTextures(info);
+    mIsStill = WantsLessMotion();
     StabilizeOnce();
   }
   // The machine is waited for outside the mutex, so that the drawing goes on.

@@ -5,6 +5,7 @@
 #include "animated_view/QuintessentialGlobals.h"
 #include "animated_view/QuintessentialHost.h"
 #include "platform/Assertion.h"
+#include "preferences/LessMotion.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -58,7 +59,7 @@ void FSMSetUpOpacityEtCeteraOfQuintWindow::OnStateEntry() {
 void FSMSetUpOpacityEtCeteraOfQuintWindow::OnStateTimer() {
   Require(gQuintessentialViewIsFullScreenOverlay, "flowcontrolfsm",
           "gQuintessentialViewIsFullScreenOverlay");
-  if (mCurrentAlpha >= mTargetAlpha) {
+  if (mCurrentAlpha >= mTargetAlpha || WantsLessMotion()) {
     MarkStateDone();
     mCurrentAlpha = mTargetAlpha;
   }

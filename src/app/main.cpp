@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QDBusConnection>
 #include <QTimer>
 #include <cerrno>
 #include <clocale>
@@ -235,7 +236,10 @@ int PrintRecording(CommandLine commandLine) {
 /// A recording with the desktop's windows. What is set counts until the end.
 class RecordedDesktopMachine : public RecordedMachine {
  public:
-  using RecordedMachine::RecordedMachine;
+  explicit RecordedDesktopMachine(std::unique_ptr<Recording> recording)
+      : RecordedMachine(std::move(recording)) {
+    screen.FollowMotionWish(QDBusConnection(QStringLiteral("lurkwell-no-bus")));
+  }
 
  private:
   LinuxClock clock;
@@ -367,6 +371,7 @@ int RunOnDesktop(const CommandLine& commandLine, int& argc, char** argv,
   using Use = DesktopMachine::Use;
   DesktopMachine machine(commandLine.screenshot ? Use::kForPicture : Use::kBySomebody,
                          commandLine.screenshot ? "" : BusAddress());
+  machine.screen.FollowMotionWish(machine.eventBus.Connection());
   const MachineInstallation installation(machine.services);
   signals.Watch([&machine] { machine.runLoop.Stop(); });
   return RunWindowMode(commandLine);

@@ -8,6 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/HostStatistics.h"
 #include "platform/Machine.h"
+#include "preferences/LessMotion.h"
 #include "preferences/Settings.h"
 
 namespace lurkwell {
@@ -87,7 +88,8 @@ void VQTarvMainWindowInfoSynch::UpdateSystemInfoToolbarItemPageouts() {
     severity = 0;
   } else if (level >= mRedThreshold) {
     severity = 2;
-    if (mPageoutState < kFlashing) mFlashTimer->SetNextFireDate(FromNow(mFlashInterval));
+    if (mPageoutState < kFlashing && !WantsLessMotion())
+      mFlashTimer->SetNextFireDate(FromNow(mFlashInterval));
     mPageoutState = kFlashing;
   }
   UpdateSystemInfoToolbarItemPageoutsWithSeverity(severity);
@@ -110,6 +112,7 @@ void VQTarvMainWindowInfoSynch::PageoutTimerFunc() {
   if (zm_MainWindow == nullptr) return;
   auto& state = zm_MainWindow->mPageoutState;
   if (state != kFlashing && state != kFlashingOther) return;
+  if (WantsLessMotion()) return zm_MainWindow->StopFlashing();
   state = state == kFlashing ? kFlashingOther : kFlashing;
   zm_MainWindow->UpdateSystemInfoToolbarItemPageoutsWithSeverity(state);
 }

@@ -46,6 +46,10 @@ class Screen {
   /// Whether a window of another program has the keyboard. A key that is held for the whole desktop
   /// takes it from none.
   virtual bool IsKeyboardElsewhere() = 0;
+
+  /// Whether the user has asked the desktop for less motion. May change at any time; nothing is
+  /// waited for.
+  virtual bool WantsLessMotion() const = 0;
 };
 
 }  // namespace lurkwell

@@ -241,6 +241,9 @@ inline constexpr Setting kRows[] = {
     Record("DEFAULT_SHOW_PROCESS_QUIVA_WINDOW", 0),
     Record("DEFAULT_SHOW_FULLSCREEN_PROCESS_QUIVA_WINDOW", 0),
 
+    Switch("ACCESSIBLE_QUIET", false, kAtOnce),
+    Switch("REDUCE_MOTION", false, kAtOnce),
+
     Switch("MACHINE_HISTORY_ALWAYS", false, kNextStart),
     Switch("TRAY_ICON", false, kNextStart),
     Record("MACHINE_WINDOW_FRAME", kAbsent),

@@ -167,6 +167,29 @@ TEST_F(AnimatedClient, CPUUseBecomesWeight) {
   EXPECT_EQ(host.frames, 1);
 }
 
+TEST_F(AnimatedClient, WhoWantsLessMotionSeesRecordsStayWhereTheyAre) {
+  machine.screen.wantsLessMotion = true;
+  for (int pid = 100; pid < 110; ++pid) machine.processTable.Birth(pid, "p");
+  Make();
+  Show();
+  machine.runLoop.RunFor(1100);
+  const auto draw = [this] {
+    const CriticalRegion::Guard guard(gQuintessentialMutex);
+    const auto before = std::pair(Of(105).x, Of(105).y);
+    for (int frame = 0; frame < 5; ++frame) client->InternalDraw();
+    return std::pair(Of(105).x, Of(105).y) != before;
+  };
+  EXPECT_FALSE(draw());
+  machine.processTable.Find(105)->UseCPU(900);
+  machine.runLoop.RunFor(1000);
+  EXPECT_FALSE(draw());
+  EXPECT_GT(Of(105).weight, 1);
+  EXPECT_DOUBLE_EQ(Of(105).weight, Of(105).targetWeight) << "at once";
+  machine.screen.wantsLessMotion = false;
+  machine.runLoop.RunFor(1000);
+  EXPECT_TRUE(draw());
+}
+
 TEST_F(AnimatedClient, AFactorThatCannotBeDrawnIsNone) {
   machine.processTable.Birth(103, "Lurkwell");
   machine.preferenceDomain.SetValue("QUINT_TARVIK_FACTOR", 1e300);

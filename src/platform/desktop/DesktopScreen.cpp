@@ -6,6 +6,7 @@
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
+#include <QStandardPaths>
 #include <QWindow>
 #include <algorithm>
 #include <array>
@@ -14,6 +15,7 @@
 #include <utility>
 
 #include "platform/desktop/LayerSurfaces.h"
+#include "platform/desktop/MotionWish.h"
 
 namespace lurkwell {
 namespace {
@@ -72,6 +74,15 @@ DesktopScreen::DesktopScreen(DesktopSettings settings, Source source)
       mBlends(source == Source::kWayland) {}
 
 DesktopScreen::~DesktopScreen() = default;
+
+void DesktopScreen::FollowMotionWish(const QDBusConnection& bus) {
+  const auto folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  mMotion = std::make_unique<MotionWish>(folder, bus);
+}
+
+bool DesktopScreen::WantsLessMotion() const {
+  return mMotion != nullptr && mMotion->IsLess();
+}
 
 bool DesktopScreen::UsesOpenGLAcceleration() {
   if (mAccelerated < 0) mAccelerated = IsSoftware(RendererName()) ? 0 : 1;

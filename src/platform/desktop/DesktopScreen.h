@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -8,9 +9,12 @@
 #include "platform/desktop/DesktopSettings.h"
 #include "platform/desktop/XConnection.h"
 
+class QDBusConnection;
+
 namespace lurkwell {
 
 class LayerSurfaces;
+class MotionWish;
 
 /// The screen as the X server, the window manager and the compositor know it. Connects when it is
 /// first asked, and again, later, to a server that did not answer in time. Without one windows are
@@ -35,6 +39,10 @@ class DesktopScreen final : public Screen {
   void PutAboveManaged(std::uint64_t window) override;
   bool IsCovered(std::uint64_t window) override;
   bool IsKeyboardElsewhere() override;
+  bool WantsLessMotion() const override;
+
+  /// From then on the wish for less motion is known, by a session bus that need not be connected.
+  void FollowMotionWish(const QDBusConnection& bus);
 
  private:
   struct Area {
@@ -62,6 +70,7 @@ class DesktopScreen final : public Screen {
   bool mLooksForLayers = true;
   LayerSurfaces* mLayers = nullptr;
   int mAccelerated = -1;
+  std::unique_ptr<MotionWish> mMotion;
 };
 
 }  // namespace lurkwell

@@ -85,6 +85,7 @@ class NoScreen final : public Screen {
   void PutAboveManaged(std::uint64_t) override {}
   bool IsCovered(std::uint64_t) override { return false; }
   bool IsKeyboardElsewhere() override { return true; }
+  bool WantsLessMotion() const override { return false; }
 };
 
 }  // namespace lurkwell

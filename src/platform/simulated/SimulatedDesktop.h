@@ -162,6 +162,7 @@ class SimulatedScreen final : public Screen {
   void PutAboveManaged(std::uint64_t) override { mLog.Add("Screen.PutAboveManaged"); }
   bool IsCovered(std::uint64_t) override { return isCovered; }
   bool IsKeyboardElsewhere() override { return isKeyboardElsewhere; }
+  bool WantsLessMotion() const override { return wantsLessMotion; }
 
   bool isAccelerated = true;
   bool blends = true;
@@ -169,6 +170,7 @@ class SimulatedScreen final : public Screen {
   FloatingWay floating = FloatingWay::kByManager;
   bool isCovered = false;
   bool isKeyboardElsewhere = false;
+  bool wantsLessMotion = false;
 
  private:
   AccessLog& mLog;
