@@ -13,6 +13,7 @@
 #include "alerts/AlertCommands.h"
 #include "alerts_window/AlertTexts.h"
 #include "resources/Resources.h"
+#include "windows/ClearButton.h"
 #include "windows/HelpKey.h"
 
 namespace lurkwell {
@@ -62,7 +63,7 @@ void AlertEditor::Build(const AlertSetting& first) {
   mRule = new QLineEdit(QString::fromStdString(first.rule));
   mRule->setMinimumWidth(fontMetrics().averageCharWidth() * kEditorWidthInCharacters);
   mRule->setPlaceholderText(LocalizedString("alerts_rule_placeholder"));
-  mRule->setClearButtonEnabled(true);
+  AddClearButton(*mRule);
   form->addRow(LocalizedString("alerts_rule_label"), mRule);
   mError = WrappedLabel();
   // Room from the start, so that nothing jumps when there is something to say.

@@ -1,5 +1,6 @@
 #include "animated_view/QuintessentialViewWindow.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QPainter>
@@ -44,6 +45,7 @@ QuintessentialViewWindow::QuintessentialViewWindow(QuintessentialWindowDelegate&
       mCommands(commands),
       mView(*this, drawing, commands),
       mToggleKey(OverlayKey()) {
+  ServeAssistivePrograms();
   gQuintessentialWindow = this;
   setSurfaceType(QSurface::OpenGLSurface);
   setFormat(drawing.context.Format());
@@ -55,6 +57,18 @@ QuintessentialViewWindow::QuintessentialViewWindow(QuintessentialWindowDelegate&
 
 QuintessentialViewWindow::~QuintessentialViewWindow() {
   if (gQuintessentialWindow == this) gQuintessentialWindow = nullptr;
+}
+
+QAccessibleInterface* QuintessentialViewWindow::accessibleRoot() const {
+  return QAccessible::queryAccessibleInterface(const_cast<QuintessentialViewWindow*>(this));
+}
+
+QString QuintessentialViewWindow::SpokenFigures() const {
+  if (!mMessage.isEmpty()) return mMessage;
+  const CriticalRegion::Guard inside(gQuintessentialMutex);
+  auto* client = gQuintessentialInformationClient;
+  const auto count = client != nullptr && IsCurrent() ? client->qipiList().size() : 0;
+  return LocalizedString("quintessential_spoken").arg(count);
 }
 
 // ---- Showing and closing ------------------------------------------------------------------------

@@ -7,6 +7,7 @@
 
 #include "animated_view/QuintessentialView.h"
 #include "platform/RunLoop.h"
+#include "windows/Accessibility.h"
 
 namespace lurkwell {
 
@@ -14,7 +15,7 @@ class QuintessentialWindowDelegate;
 
 /// The ordinary window of the animated view, the view and nothing else: a native window that is
 /// drawn into with OpenGL. It is hidden when it is closed, and kept. Main thread.
-class QuintessentialViewWindow : public QWindow {
+class QuintessentialViewWindow : public QWindow, public FigureSpeaker {
   Q_OBJECT
 
  public:
@@ -22,6 +23,10 @@ class QuintessentialViewWindow : public QWindow {
   QuintessentialViewWindow(QuintessentialWindowDelegate& delegate, ViewDrawing& drawing,
                            const ViewCommands& commands);
   ~QuintessentialViewWindow() override;
+
+  QAccessibleInterface* accessibleRoot() const override;
+  /// How many processes there are; the table has the rest of them. Not inside the mutex.
+  QString SpokenFigures() const override;
 
   virtual bool isFullscreen() const { return false; }
   QuintessentialView& view() { return mView; }

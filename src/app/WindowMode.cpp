@@ -41,7 +41,7 @@ constexpr QSize kAnimatedSize(900, 640);
 QPalette DarkPalette() {
   QPalette palette(QColor(46, 49, 56), QColor(36, 39, 45));
   palette.setColor(QPalette::Base, QColor(27, 29, 34));
-  palette.setColor(QPalette::Highlight, QColor(42, 98, 175));
+  palette.setColor(QPalette::Highlight, QColor(52, 112, 196));
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::Link, QColor(110, 170, 255));
   palette.setColor(QPalette::PlaceholderText, QColor(150, 154, 162));
@@ -53,7 +53,7 @@ QPalette LightPalette() {
   palette.setColor(QPalette::Base, Qt::white);
   palette.setColor(QPalette::Highlight, QColor(48, 110, 200));
   palette.setColor(QPalette::HighlightedText, Qt::white);
-  palette.setColor(QPalette::PlaceholderText, QColor(120, 120, 124));
+  palette.setColor(QPalette::PlaceholderText, QColor(112, 112, 116));
   return palette;
 }
 

@@ -14,6 +14,7 @@
 #include "fleet_window/FleetWindow.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/ClearButton.h"
 
 namespace lurkwell {
 namespace {
@@ -66,7 +67,7 @@ QWidget* FleetWindow::BuildTop() {
   mFilter->setPlaceholderText(LocalizedString("fleet_filter"));
   mFilter->setAccessibleName(LocalizedString("fleet_filter"));
   mFilter->setToolTip(LocalizedString("fleet_filter_tip"));
-  mFilter->setClearButtonEnabled(true);
+  AddClearButton(*mFilter);
   mFilter->setMinimumWidth(fontMetrics().averageCharWidth() * kFilterCharacters);
   connect(mFilter, &QLineEdit::textChanged, this, [this] { mPatience.start(); });
   connect(mFilter, &QLineEdit::returnPressed, this, [this] {

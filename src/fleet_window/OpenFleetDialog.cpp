@@ -23,6 +23,7 @@ OpenFleetDialog::OpenFleetDialog(QWidget* parent)
   mAddress->setEditable(true);
   mAddress->addItems(RecentFleets());
   mAddress->setAccessibleName(LocalizedString("fleet_address"));
+  mAddress->lineEdit()->setAccessibleName(LocalizedString("fleet_address"));
   mAddress->lineEdit()->setPlaceholderText(QStringLiteral("http://monitor:9090"));
   mAddress->lineEdit()->selectAll();
   mAddress->setMinimumWidth(fontMetrics().averageCharWidth() * 60);

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStringList>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -30,6 +31,7 @@ ProcessorGrid::ProcessorGrid(const QString& title, QWidget* parent)
     : QWidget(parent), mTitle(title) {
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName(title);
+  ServeAssistivePrograms();
 }
 
 void ProcessorGrid::setHistory(const FigureHistory* history, std::vector<Processor> processors) {
@@ -43,7 +45,6 @@ void ProcessorGrid::historyHasGrown() {
   if (mHistory != nullptr && !mHistory->IsEmpty()) mEnd = mHistory->TimeOf(mHistory->Size() - 1);
   if (!isVisible()) return;
   update();
-  if (hasFocus()) setAccessibleDescription(figures());
 }
 
 void ProcessorGrid::setSpan(std::int64_t milliseconds) {
@@ -131,6 +132,13 @@ QString ProcessorGrid::figures() const {
   return place ? FigureOf(*place) : LocalizedString("machine_no_processors");
 }
 
+QString ProcessorGrid::SpokenFigures() const {
+  if (mChosen || mProcessors.empty()) return figures();
+  QStringList all;
+  for (std::size_t i = 0; i < mProcessors.size(); ++i) all.append(FigureOf(i));
+  return all.join(QStringLiteral(", "));
+}
+
 void ProcessorGrid::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setLayoutDirection(Qt::LeftToRight);
@@ -210,7 +218,7 @@ void ProcessorGrid::mousePressEvent(QMouseEvent* event) {
 
 void ProcessorGrid::MoveTo(std::size_t place) {
   mChosen = place;
-  setAccessibleDescription(figures());
+  TellFiguresAreOthers(*this);
   update();
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "windows/Accessibility.h"
 #include "windows/FigureHistory.h"
 
 namespace lurkwell {
@@ -14,7 +15,7 @@ namespace lurkwell {
 /// hundreds. Where there is room each tells its number and its share, at the newest moment or at
 /// the cursor; where there is none, the pointer tells it, and so do the arrow keys. Main thread
 /// only.
-class ProcessorGrid final : public QWidget {
+class ProcessorGrid final : public QWidget, public FigureSpeaker {
   Q_OBJECT
 
  public:
@@ -36,6 +37,8 @@ class ProcessorGrid final : public QWidget {
 
   /// "Processor 3: 12.5 %" for the processor that is pointed at, else the busiest one's.
   QString figures() const;
+  /// That of the processor that is pointed at, else of all.
+  QString SpokenFigures() const override;
   /// How many stand side by side in a widget of that size. Pure.
   static int columnsFor(int processors, const QSizeF& size);
 

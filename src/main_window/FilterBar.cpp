@@ -10,6 +10,7 @@
 
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
+#include "windows/ClearButton.h"
 #include "windows/NameList.h"
 #include "windows/QueryErrorWords.h"
 
@@ -44,16 +45,12 @@ FilterBar::FilterBar(std::function<void(Query)> onQuery, QWidget* parent)
   mField->setPlaceholderText(LocalizedString("main_window_filter_placeholder"));
   mField->setToolTip(LocalizedString("main_window_filter_tip"));
   mField->setAccessibleName(LocalizedString("main_window_filter_placeholder"));
-  mField->setClearButtonEnabled(true);
+  AddClearButton(*mField);
   auto* last = mField->addAction(NamedImage("filter"), QLineEdit::LeadingPosition);
   last->setToolTip(LocalizedString("filter_last"));
-  // The field's own have pictures alone.
-  for (auto* button : mField->findChildren<QToolButton*>()) {
-    const auto text =
-        LocalizedString(button->defaultAction() == last ? "filter_last" : "filter_clear");
-    button->setAccessibleName(text);
-    button->setToolTip(text);
-  }
+  // A field's own buttons have pictures alone.
+  for (auto* button : mField->findChildren<QToolButton*>())
+    if (button->defaultAction() == last) button->setAccessibleName(LocalizedString("filter_last"));
   connect(last, &QAction::triggered, this, &FilterBar::showLast);
   auto* down = new QShortcut(Qt::Key_Down, mField);
   down->setContext(Qt::WidgetShortcut);

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "resources/Resources.h"
+#include "windows/ClearButton.h"
 
 namespace lurkwell {
 namespace {
@@ -39,7 +40,7 @@ FilterMenu::FilterMenu(QWidget* parent)
   layout->addWidget(mField);
   mField->setPlaceholderText(LocalizedString("column_filter"));
   mField->setAccessibleName(LocalizedString("column_filter"));
-  mField->setClearButtonEnabled(true);
+  AddClearButton(*mField);
   mFieldAction->setDefaultWidget(frame);
   frame->setFocusProxy(mField);
   addAction(mFieldAction);

@@ -14,6 +14,7 @@
 
 #include "main_window/ToolbarGauge.h"
 #include "main_window/ToolbarItems.h"
+#include "main_window/ToolbarKeys.h"
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 
@@ -74,6 +75,7 @@ QAction* MakeSpace(bool isFlexible) {
 
 MainToolbar::MainToolbar(QWidget* parent) : QToolBar(LocalizedString("toolbar_title"), parent) {
   setObjectName(QStringLiteral("vqMainTableToolbarIdentifierTarvikTemp14"));
+  mKeys = new ToolbarKeys(*this);
   setMovable(false);
   setFloatable(false);
   setIconSize(kIconSize);
@@ -124,6 +126,7 @@ void MainToolbar::Rebuild(const QStringList& identifiers) {
     mItems.append(action);
   }
   WatchItems(mCustomising);
+  mKeys->ItemsChanged();
   Q_EMIT itemsChanged();
 }
 

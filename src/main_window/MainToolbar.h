@@ -9,6 +9,7 @@
 namespace lurkwell {
 
 class ToolbarGauge;
+class ToolbarKeys;
 
 /// The main window's toolbar: items by identifier, in an order that the user may change. What the
 /// user makes of it is kept in the preferences: the identifiers between blanks, how they are shown,
@@ -78,6 +79,7 @@ class MainToolbar final : public QToolBar {
   template <typename Show>
   void ForGauges(const char* identifier, Show show);
 
+  ToolbarKeys* mKeys;
   QStringList mIdentifiers;
   QList<QAction*> mItems;
   DisplayMode mDisplayMode = kDefault;

@@ -14,6 +14,7 @@ ToolbarGauge::ToolbarGauge(QSize size, int iconHeight, const QString& label, con
   setText(label);
   setToolTip(tip);
   setAccessibleName(label);
+  ServeAssistivePrograms();
   setAutoRaise(true);
   setFocusPolicy(Qt::NoFocus);
 }
@@ -54,8 +55,8 @@ void ToolbarGauge::Show(const QPixmap& picture) {
 }
 
 void ToolbarGauge::SetFigures(const QString& figures) {
-  if (figures == accessibleDescription()) return;
-  setAccessibleDescription(figures);
+  if (figures == mFigures) return;
+  mFigures = figures;
   setToolTip(figures + QLatin1String("\n\n") + mTip);
 }
 

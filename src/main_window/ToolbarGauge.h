@@ -3,13 +3,14 @@
 #include <QToolButton>
 
 #include "main_window/SystemInfoImage.h"
+#include "windows/Accessibility.h"
 
 namespace lurkwell {
 
 /// An item of the toolbar that shows a figure instead of doing something: looks as a button does,
 /// with the picture at its own size, and does not answer to clicks. Its figure is in the tooltip
 /// and in what is spoken of it. Main thread only.
-class ToolbarGauge final : public QToolButton {
+class ToolbarGauge final : public QToolButton, public FigureSpeaker {
   Q_OBJECT
 
  public:
@@ -22,6 +23,7 @@ class ToolbarGauge final : public QToolButton {
 
   /// In words.
   void SetFigures(const QString& figures);
+  QString SpokenFigures() const override { return mFigures; }
 
  protected:
   void initStyleOption(QStyleOptionToolButton* option) const override;
@@ -34,6 +36,7 @@ class ToolbarGauge final : public QToolButton {
 
   QSize mSize;
   QString mTip;
+  QString mFigures;
   QIcon mIcon;
   /// What is shown, and for which scale it was made.
   QByteArray mShown;

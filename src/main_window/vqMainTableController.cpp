@@ -317,6 +317,16 @@ QString vqMainTableController::spokenText(const RowDictionary& row, const Column
   return missing.isEmpty() ? textOf(row, column) : missing;
 }
 
+/// What the look of a row says beside its figures.
+QString vqMainTableController::spokenMarks(const RowDictionary& row) const {
+  QString text;
+  if (fShape != TableShape::kList) text += spokenStanding(row);
+  if (row.isDeparted) return text + LocalizedString("row_ended");
+  if (row.IsZombie()) text += LocalizedString("row_zombie");
+  const char* indicator = isTracked(KeyText(kInternalIndicator)) ? nullptr : indicatorNameOf(row);
+  return indicator != nullptr ? text + QLatin1String(", ") + LocalizedString(indicator) : text;
+}
+
 std::vector<std::int32_t> vqMainTableController::pidsInSight() const {
   std::vector<std::int32_t> pids;
   if (table() == nullptr || !table()->isVisible()) return pids;
@@ -386,9 +396,7 @@ QVariant vqMainTableController::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
       return QVariant(Qt::AlignVCenter | (column.rightAligned ? kAlignFigures : kAlignTexts));
     case Qt::AccessibleTextRole:
-      return spokenText(row, column) + (isTreeColumn(column) ? spokenStanding(row) : QString()) +
-             (row.isDeparted && column.key == treeColumn() ? LocalizedString("row_ended")
-                                                           : QString());
+      return spokenText(row, column) + (column.key == treeColumn() ? spokenMarks(row) : QString());
     case Qt::ToolTipRole:
       return tooltipOf(row, column);
     case kIsFaintRole:

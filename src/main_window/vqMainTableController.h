@@ -354,6 +354,7 @@ class vqMainTableController final : public vqTableController,
   /// What stands on a bar.
   static QString barTextOf(const RowDictionary& row, const Column& column);
   QString spokenText(const RowDictionary& row, const Column& column) const;
+  QString spokenMarks(const RowDictionary& row) const;
   /// The process's arguments on one line, as they are now; empty when they are not known.
   static QString commandLineOf(std::int32_t pid);
   QString tooltipOf(const RowDictionary& row, const Column& column) const;

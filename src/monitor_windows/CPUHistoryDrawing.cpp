@@ -1,5 +1,7 @@
 // What a CPU history window shows: its graph and its labels.
 #include <QPainter>
+#include <algorithm>
+#include <vector>
 
 #include "consolidator/Applications.h"
 #include "consolidator/PropertyValues.h"
@@ -7,6 +9,7 @@
 #include "platform/Assertion.h"
 #include "platform/Machine.h"
 #include "platform/Screen.h"
+#include "preferences/LessMotion.h"
 #include "resources/Resources.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/PropertyText.h"
@@ -40,7 +43,8 @@ void CPUHistoryWindowInformationClient::DrawLabels() {
       case CPUHistoryGraph::ScaleLabelColour::kAbsolute:
         return mPreferences.highWaterMark;
       case CPUHistoryGraph::ScaleLabelColour::kFlash:
-        return mPreferences.highWaterMarkFlash;
+        return WantsLessMotion() ? mPreferences.highWaterMarkRelative
+                                 : mPreferences.highWaterMarkFlash;
       default:
         return mPreferences.highWaterMarkRelative;
     }
@@ -118,8 +122,17 @@ void CPUHistoryWindowInformationClient::DrawPercentage(double value) {
   const int travel = mBounds.bottom - mBounds.top - label.height();
   label.move(label.x(), mGraph.PercentageOffset(value, travel));
   label.SetAlpha(AlphaWithin(mPreferences.percentageAlpha));
-  Window()->setAccessibleDescription(
-      LocalizedString("history_now").arg(qRound(value * 100)).arg(mGraph.ScalePercent()));
+}
+
+QString CPUHistoryWindowInformationClient::SpokenGraph() const {
+  auto values = mGraph.Values();
+  std::erase_if(values, [](double value) { return value < 0; });
+  if (values.empty()) return LocalizedString("graph_missing");
+  const auto [least, most] = std::ranges::minmax(values);
+  const auto percent = [](double value) { return QString::number(qRound(value * 100)); };
+  return LocalizedString("history_now")
+      .arg(percent(values.back()), QString::number(mGraph.ScalePercent()), percent(least),
+           percent(most));
 }
 
 void CPUHistoryWindowInformationClient::PaintGraph(QPainter& painter) const {

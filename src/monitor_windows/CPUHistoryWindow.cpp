@@ -197,6 +197,7 @@ void CPUHistoryWindowInformationClient::CreateMacWindow() {
   mRememberedPlace = ContentBounds();
   Window()->SetPainter([this](QPainter& painter) { PaintGraph(painter); });
   Window()->SetMenu([this](QMenu& menu) { FillMenu(menu); });
+  Window()->SetSpeaker([this] { return SpokenGraph(); });
   if (!EnsureThatCocoaWindowIsFrontmostIfPossible(OrderChange::kByItself)) Window()->raise();
   MarkKind();
 }

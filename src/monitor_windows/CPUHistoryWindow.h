@@ -83,6 +83,7 @@ class CPUHistoryWindowInformationClient final : public ProcessInformationClient,
   void FillMenu(QMenu& menu) const;
   void DrawIcon();
   void DrawPercentage(double value);
+  QString SpokenGraph() const;
   void PaintGraph(QPainter& painter) const;
 
   std::int32_t mPid;

@@ -94,6 +94,7 @@ FloatingWindow::FloatingWindow(const QRect& contentBounds, std::uint32_t attribu
       mContent(new Content(this)),
       mAttributes(attributes),
       mWay(TheMachine().screen.Floating()) {
+  ServeAssistivePrograms();
   // Some managers would tile it, and give it the keyboard at a click.
   setWindowFlag(Qt::BypassWindowManagerHint, mWay == FloatingWay::kByThemselves);
   // Not WA_ShowWithoutActivating: mutter takes a window that says so for one that asks for
@@ -114,6 +115,10 @@ FloatingWindow::~FloatingWindow() = default;
 
 void FloatingWindow::SetEventHandler(std::function<void(WindowEventKind)> handler) {
   mHandler = std::move(handler);
+}
+
+void FloatingWindow::SetSpeaker(std::function<QString()> speaker) {
+  mSpeaker = std::move(speaker);
 }
 
 void FloatingWindow::SetPainter(std::function<void(QPainter&)> painter) {

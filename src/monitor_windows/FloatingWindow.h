@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "platform/SessionAbilities.h"
+#include "windows/Accessibility.h"
 
 namespace lurkwell {
 
@@ -54,7 +55,7 @@ enum WindowAttributes : std::uint32_t {
 /// Its size is fixed as long as its owner sets no other bounds for it; then it is resized at its
 /// edges, and the content follows.
 /// Everything that the toolkit tells it leaves here as event kinds. Main thread only.
-class FloatingWindow final : public QWidget {
+class FloatingWindow final : public QWidget, public FigureSpeaker {
   Q_OBJECT
 
  public:
@@ -79,6 +80,9 @@ class FloatingWindow final : public QWidget {
   void SetMenu(std::function<void(QMenu&)> fill);
   /// Shows where the window is, for a moment.
   void Flash();
+  /// What assistive programs are told when they ask what it shows.
+  void SetSpeaker(std::function<QString()> speaker);
+  QString SpokenFigures() const override { return mSpeaker ? mSpeaker() : QString(); }
   /// Draws the content; without one it stays empty.
   void SetPainter(std::function<void(QPainter&)> painter);
 
@@ -108,6 +112,7 @@ class FloatingWindow final : public QWidget {
 
   std::function<void(WindowEventKind)> mHandler;
   std::function<void(QMenu&)> mFillMenu;
+  std::function<QString()> mSpeaker;
   QPointer<QMenu> mMenu;
   bool mFlashes = false;
   Content* mContent = nullptr;

@@ -160,6 +160,7 @@ double ProcessInformationWindow::AlphaWithin(double alpha) const {
 
 void ProcessInformationWindow::DisposeWindow() {
   mWindow->SetMenu({});
+  mWindow->SetSpeaker({});
   mWindow->SetEventHandler({});
   mWindow->SetPainter({});
   mWindow->hide();

@@ -17,6 +17,7 @@
 #include "platform/Alerts.h"
 #include "platform/Diagnostics.h"
 #include "platform/Machine.h"
+#include "preferences/LessMotion.h"
 #include "preferences/Settings.h"
 #include "preferences_window/AllSettings.h"
 #include "preferences_window/PreferenceChanges.h"
@@ -103,6 +104,9 @@ bool vqPreferencesUI::loadInterface(const QString& form) {
   auto* contents = file.open(QIODevice::ReadOnly) ? QUiLoader().load(&file, fWindow) : nullptr;
   if (contents == nullptr || contents->layout() == nullptr) return false;
   fTabView = contents->findChild<QTabWidget*>(QStringLiteral("tabView"));
+  // The keyboard goes to the tabs and to what is on the page; this tells the tabs so, too.
+  fTabView->setFocusPolicy(Qt::NoFocus);
+  fTabView->tabBar()->setFocusPolicy(Qt::TabFocus);
   fNotice = contents->findChild<QLabel*>(QStringLiteral("changeNotice"));
   fPages = contents->findChild<QComboBox*>(QStringLiteral("pageChoice"));
   if (fTabView == nullptr || fTabView->count() != kTabs || fNotice == nullptr || fPages == nullptr)
@@ -116,6 +120,8 @@ bool vqPreferencesUI::loadInterface(const QString& form) {
   layout->setSizeConstraint(QLayout::SetNoConstraint);
   // For fonts that a page needs more room with than the screen has.
   auto* area = new QScrollArea(fWindow);
+  // What is in it comes into sight with the keyboard.
+  area->setFocusPolicy(Qt::NoFocus);
   area->setFrameShape(QFrame::NoFrame);
   area->setWidgetResizable(true);
   area->setWidget(contents);
@@ -305,8 +311,9 @@ void vqPreferencesUI::setHeight(int height, bool animated) {
   int least = layout->minimumSize().width();
   if (fPages->isHidden()) least = std::max(least, widthOfTabs());
   fWindow->setMinimumWidth(std::min(least, most));
-  const int duration =
-      animated ? fWindow->style()->styleHint(QStyle::SH_Widget_Animation_Duration) : 0;
+  const int duration = animated && !WantsLessMotion()
+                           ? fWindow->style()->styleHint(QStyle::SH_Widget_Animation_Duration)
+                           : 0;
   if (duration <= 0) {
     fWindow->setFixedHeight(height);
     const int width = std::max(fWindow->width(), layout->sizeHint().width());

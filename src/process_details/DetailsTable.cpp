@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "resources/Resources.h"
+#include "windows/ClearButton.h"
 
 namespace lurkwell {
 namespace {
@@ -45,7 +46,7 @@ DetailsTable::DetailsTable(const QString& title, std::span<const DetailsColumn> 
       mFooter(new QLabel(this)) {
   mFilter->setPlaceholderText(LocalizedString("details_filter"));
   mFilter->setAccessibleName(LocalizedString("details_filter"));
-  mFilter->setClearButtonEnabled(true);
+  AddClearButton(*mFilter);
   mFilter->hide();
   connect(mFilter, &QLineEdit::textChanged, mSorting, &DetailsSorting::SetFilter);
   connect(mFilter, &QLineEdit::returnPressed, this, &DetailsTable::TakeFocus);

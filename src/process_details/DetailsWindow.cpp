@@ -105,6 +105,9 @@ void DetailsWindow::BuildTop(QWidget& top) {
 
 void DetailsWindow::BuildPages() {
   mPages->setDocumentMode(true);
+  // The keyboard goes to the tabs and to what is on the page; this tells the tabs so, too.
+  mPages->setFocusPolicy(Qt::NoFocus);
+  mPages->tabBar()->setFocusPolicy(Qt::TabFocus);
   mPages->tabBar()->setAccessibleName(LocalizedString("details_pages"));
   mOverview = new OverviewPage(mProcess, mPages);
   mPageList.push_back(mOverview);

@@ -33,6 +33,17 @@ QPalette::ColorGroup GroupOf(const QStyleOptionViewItem& option) {
   return (option.state & QStyle::State_Active) != 0 ? QPalette::Active : QPalette::Inactive;
 }
 
+QColor TextColour(const QStyleOptionViewItem& option, bool isFaint) {
+  const auto group = GroupOf(option);
+  const bool isSelected = IsSelected(option);
+  const auto text =
+      option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+  if (!isFaint) return text;
+  // Of the two stripes the even one is nearer to the text.
+  return FaintOn(text, isSelected ? option.palette.color(group, QPalette::Highlight)
+                                  : EvenStripe(option.palette));
+}
+
 void DrawBackground(QPainter& painter, const QStyleOptionViewItem& option) {
   if (IsSelected(option))
     painter.fillRect(option.rect, option.palette.brush(GroupOf(option), QPalette::Highlight));
@@ -66,10 +77,6 @@ void DrawArrow(QPainter& painter, const QRect& place, bool isFolded, bool isTurn
 
 }  // namespace
 
-bool IsDark(const QPalette& palette) {
-  return palette.color(QPalette::Text).lightness() > palette.color(QPalette::Base).lightness();
-}
-
 void TextCell::DrawText(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place,
                         const QModelIndex& index) {
   const auto text = index.data(Qt::DisplayRole).toString();
@@ -79,10 +86,7 @@ void TextCell::DrawText(QPainter& painter, const QStyleOptionViewItem& option, c
   auto font = option.font;
   font.setStrikeOut(index.data(kHasEndedRole).toBool());
   painter.setFont(font);
-  const bool isFaint = index.data(kIsFaintRole).toBool();
-  painter.setPen(
-      option.palette.color(isFaint ? QPalette::Disabled : GroupOf(option),
-                           IsSelected(option) ? QPalette::HighlightedText : QPalette::Text));
+  painter.setPen(TextColour(option, index.data(kIsFaintRole).toBool()));
   const auto& metrics = option.fontMetrics;
   const bool fits = metrics.horizontalAdvance(text) <= rect.width();
   const auto placed = QStyle::visualAlignment(option.direction, alignment) | Qt::AlignAbsolute;
@@ -153,10 +157,6 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
 }
 
 namespace {
-
-QColor ReadableOn(const QColor& ground) {
-  return qGray(ground.rgb()) < 128 ? QColor(Qt::white) : QColor(Qt::black);
-}
 
 /// That part of the text that lies between two columns of points, at the right of its place.
 void DrawTextBetween(QPainter& painter, std::pair<int, int> columns, const QRect& place,
@@ -253,6 +253,11 @@ void MemGraphCell::drawInteriorWithFrame(QPainter& painter, const QRect& frame,
                                          const QPalette& palette, bool isFaint) const {
   const auto bars = BarsIn(frame, palette, isFaint);
   painter.fillRect(bars.outer, bars.outerColour);
+  // Light on light it would not be seen by everybody; the edge is.
+  if (ContrastBetween(bars.outerColour, EvenStripe(palette)) < kMarkContrast) {
+    painter.setPen(FaintOn(palette.color(QPalette::Text), EvenStripe(palette)));
+    painter.drawRect(bars.outer.adjusted(0, 0, -1, -1));
+  }
   painter.fillRect(bars.inner, bars.innerColour);
 }
 

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "windows/Contrast.h"
 #include "windows/Keys.h"
 
 namespace lurkwell {
@@ -137,8 +138,5 @@ class MemGraphCell final : public QStyledItemDelegate {
   mutable std::int64_t mRSZ = 0;
   mutable std::int64_t mVSZ = 0;
 };
-
-/// Whether texts of the palette are lighter than what they stand on.
-bool IsDark(const QPalette& palette);
 
 }  // namespace lurkwell

@@ -9,6 +9,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+#include "preferences/Settings.h"
+#include "windows/Contrast.h"
 #include "windows/CustomCells.h"
 #include "windows/RowDictionary.h"
 
@@ -19,15 +23,8 @@ namespace {
 /// A column that is fitted to its texts may become so wide in a narrow window, too.
 constexpr int kMostFittedCharacters = 40;
 
-QColor EvenStripe(const QPalette& palette) {
-  if (!IsDark(palette)) return QColor::fromRgbF(0.929F, 0.953F, 0.996F);
-  const auto base = palette.color(QPalette::Base);
-  return base.lightness() < 24 ? QColor(28, 32, 40) : base.lighter(125);
-}
-
-QColor OddStripe(const QPalette& palette) {
-  return IsDark(palette) ? palette.color(QPalette::Base) : QColor(Qt::white);
-}
+/// Seconds between two times that a row is told unasked.
+constexpr double kBetweenTellings = 5;
 
 QColor GridColour(const QPalette& palette) {
   return IsDark(palette) ? QColor(82, 86, 94) : QColor(Qt::lightGray);
@@ -36,6 +33,7 @@ QColor GridColour(const QPalette& palette) {
 }  // namespace
 
 StripedTableView::StripedTableView(QWidget* parent) : QTableView(parent) {
+  ServeAssistivePrograms();
   setShowGrid(false);
   setWordWrap(false);
   setCornerButtonEnabled(false);
@@ -291,13 +289,55 @@ int StripedTableView::sizeHintForColumn(int column) const {
   return std::min(longest + TextCell::kWidthBesideText, most);
 }
 
+// ---- What assistive programs are told -----------------------------------------------------------
+
+void StripedTableView::Tell(QAccessible::Event event) {
+  if (!QAccessible::isActive() || !hasFocus() || !currentIndex().isValid()) return;
+  QAccessibleEvent told(this, event);
+  told.setChild(AccessibleChildOf(*this, currentIndex().row(), currentIndex().column()));
+  QAccessible::updateAccessibility(&told);
+}
+
+// The base class does nothing but tell, and counts children in a way of its own.
+void StripedTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);
+  if (!QAccessible::isActive()) return;
+  Tell(QAccessible::Focus);
+  mTold = SpokenRow(*this, *this, current.row());
+  mToldAt = TheMachine().clock.AbsoluteTime();
+}
+
+void StripedTableView::selectionChanged(const QItemSelection& selected,
+                                        const QItemSelection& deselected) {
+  QAbstractItemView::selectionChanged(selected, deselected);
+  const bool isSelected = currentIndex().isValid() && selectionModel()->isSelected(currentIndex());
+  Tell(isSelected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+}
+
+void StripedTableView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  // After the table itself, which is told when this has returned.
+  if (QAccessible::isActive())
+    QMetaObject::invokeMethod(
+        this, [this] { Tell(QAccessible::Focus); }, Qt::QueuedConnection);
+}
+
+void StripedTableView::TellRowAgain() {
+  if (!QAccessible::isActive() || !hasFocus() || !currentIndex().isValid()) return;
+  const double now = TheMachine().clock.AbsoluteTime();
+  if (now - mToldAt < kBetweenTellings || ReadSwitch("ACCESSIBLE_QUIET")) return;
+  mToldAt = now;
+  auto row = SpokenRow(*this, *this, currentIndex().row());
+  if (row == mTold) return;
+  mTold = std::move(row);
+  Tell(QAccessible::DescriptionChanged);
+}
+
 // ---- Drawing ------------------------------------------------------------------------------------
 
 void StripedTableView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
-                                   const QList<int>& roles) {
+                                   const QList<int>&) {
   if (!isVisible() || model() == nullptr) return;
-  // Assistive programs want to hear of every cell; the rest of what the base does is costlier.
-  if (QAccessible::isActive()) return QTableView::dataChanged(topLeft, bottomRight, roles);
   const int first = std::max(rowAt(0), topLeft.row());
   const int lastVisible = rowAt(viewport()->height() - 1);
   const int last = std::min(lastVisible < 0 ? bottomRight.row() : lastVisible, bottomRight.row());
@@ -306,6 +346,7 @@ void StripedTableView::dataChanged(const QModelIndex& topLeft, const QModelIndex
       if (model()->index(row, column).data(kCellHasChangedRole).toBool())
         viewport()->update(columnViewportPosition(column), rowViewportPosition(row),
                            columnWidth(column), rowHeight(row));
+  TellRowAgain();
 }
 
 void StripedTableView::highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTableView>
 
+#include "windows/Accessibility.h"
+#include "windows/AccessibleTable.h"
 #include "windows/TableHeader.h"
 
 namespace lurkwell {
@@ -14,7 +17,7 @@ namespace lurkwell {
 /// vertical grid lines, and a context menu for rows on a right click, the menu key or Shift+F10.
 /// Home and End go to the first and the last row, the space bar selects a row besides others, or
 /// not any more. Main thread only.
-class StripedTableView : public QTableView {
+class StripedTableView : public QTableView, public InterfaceMaker, public SpokenTable {
   Q_OBJECT
 
  public:
@@ -38,9 +41,13 @@ class StripedTableView : public QTableView {
 
   /// Typing finds rows by the text in this column; -1 for none.
   void setSearchColumn(int column) { mSearchColumn = column; }
+  int searchColumn() const override { return mSearchColumn; }
 
   /// The column that shows which rows stand below others; -1 for none.
   void setTreeColumn(int column) { mTreeColumn = column; }
+  int treeColumn() const override { return mTreeColumn; }
+  void activateRows() override { Q_EMIT doubleAction(); }
+  QAccessibleInterface* MakeInterface() override { return MakeAccessibleTable(*this, *this); }
 
   /// Opens the context menu at a point of the viewport, when a right click there hits a row; with
   /// `needToSelect` that row becomes the selection, unless it is a part of it. A click in another
@@ -48,7 +55,9 @@ class StripedTableView : public QTableView {
   void showTheSpecialContextMenu(const QPoint& position, bool isRightClick, bool needToSelect,
                                  bool needToHit = true);
 
-  /// Repaints the cells between that show something else, as far as they can be seen.
+  /// Repaints the cells between that show something else, as far as they can be seen. While an
+  /// assistive program listens, the row with the focus is told again, once in a few seconds, where
+  /// it reads differently and the user has not asked for quiet.
   void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                    const QList<int>& roles = {}) override;
 
@@ -81,6 +90,9 @@ class StripedTableView : public QTableView {
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void focusInEvent(QFocusEvent* event) override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -95,6 +107,9 @@ class StripedTableView : public QTableView {
   void ShowMenuForKey();
   bool RowMatches(int row, const QString& text) const;
   bool IsSearching() const;
+  /// Of the current cell.
+  void Tell(QAccessible::Event event);
+  void TellRowAgain();
   QModelIndex InTree(int row) const { return model()->index(row, mTreeColumn); }
   /// Whether there was an arrow, which has been served.
   bool ClickArrow(const QPoint& position);
@@ -114,6 +129,9 @@ class StripedTableView : public QTableView {
   QString mSearched;
   QElapsedTimer mSinceLastKey;
   QString mEmptyText;
+  /// What an assistive program was told of the row with the focus, and when.
+  QString mTold;
+  double mToldAt = 0;
 };
 
 }  // namespace lurkwell

@@ -1,6 +1,5 @@
 #include "windows/TimeGraph.h"
 
-#include <QAccessible>
 #include <QDateTime>
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -88,6 +87,7 @@ TimeGraph::TimeGraph(const QString& title, GraphUnit unit, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setAccessibleName(title);
+  ServeAssistivePrograms();
 }
 
 void TimeGraph::setHistory(const FigureHistory* history, std::vector<Series> series) {
@@ -104,7 +104,6 @@ void TimeGraph::historyHasGrown() {
   // The pointer rests, and time goes on below it.
   if (mPointer) mCursor = mPlot.TimeAt(*mPointer);
   update();
-  TellFigures();
 }
 
 void TimeGraph::setTop(double top) {
@@ -168,8 +167,28 @@ QString TimeGraph::figures() const {
          QStringLiteral(": ") + text;
 }
 
-void TimeGraph::TellFigures() {
-  if (hasFocus() && QAccessible::isActive()) setAccessibleDescription(figures());
+QString TimeGraph::SpokenFigures() const {
+  if (mHistory == nullptr || mHistory->IsEmpty() || IsEmpty()) return figures();
+  auto text = figures();
+  const auto first = mHistory->FirstSince(mPlot.end - mPlot.span);
+  for (const auto& series : mSeries) {
+    double least = FigureHistory::kMissing;
+    double most = FigureHistory::kMissing;
+    for (auto moment = first; moment < mHistory->Size(); ++moment) {
+      const double value = mHistory->ValueOf(series.number, moment);
+      // Comparisons with what is missing are false.
+      if (!(least <= value)) least = std::isnan(value) ? least : value;
+      if (!(most >= value)) most = std::isnan(value) ? most : value;
+    }
+    if (std::isnan(least)) continue;
+    const auto range = LocalizedString("graph_spoken_range")
+                           .arg(GraphFigureText(mUnit, least), GraphFigureText(mUnit, most));
+    text += QStringLiteral("; ") +
+            (series.name.isEmpty() ? range : series.name + QLatin1Char(' ') + range);
+  }
+  // How long it was, not how long ago.
+  const auto span = AgoText(mPlot.span, mPlot.span).remove(QChar(0x2212));
+  return text + QStringLiteral("; ") + LocalizedString("graph_spoken_span").arg(span);
 }
 
 bool TimeGraph::IsEmpty() const {
@@ -392,7 +411,7 @@ void TimeGraph::DrawCursor(QPainter& painter) const {
 void TimeGraph::MoveCursorTo(std::optional<std::int64_t> when) {
   if (std::exchange(mCursor, when) == when) return;
   update();
-  TellFigures();
+  if (hasFocus()) TellFiguresAreOthers(*this);
   Q_EMIT cursorMoved();
 }
 
@@ -465,11 +484,6 @@ bool TimeGraph::event(QEvent* event) {
       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
     event->accept();
   return QWidget::event(event);
-}
-
-void TimeGraph::focusInEvent(QFocusEvent* event) {
-  QWidget::focusInEvent(event);
-  TellFigures();
 }
 
 void TimeGraph::changeEvent(QEvent* event) {

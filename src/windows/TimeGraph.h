@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "windows/Accessibility.h"
 #include "windows/FigureHistory.h"
 #include "windows/GraphPlot.h"
 #include "windows/GraphScale.h"
@@ -18,7 +19,7 @@ namespace lurkwell {
 /// border is the newest moment. What was not known is a gap. Nothing is drawn, and nothing done,
 /// while the graph cannot be seen. Times are those of its history, milliseconds of Clock::Now, and
 /// shown as calendar time. Main thread only.
-class TimeGraph final : public QWidget {
+class TimeGraph final : public QWidget, public FigureSpeaker {
   Q_OBJECT
 
  public:
@@ -59,8 +60,10 @@ class TimeGraph final : public QWidget {
   /// Another line that stays with a time, for what is shown elsewhere of it.
   void setMarked(std::optional<std::int64_t> when);
 
-  /// The figures at the cursor, or the newest, in words: for screen readers.
+  /// The figures at the cursor, or the newest, in words.
   QString figures() const;
+  /// The same, and between which values each series was in the time that is shown.
+  QString SpokenFigures() const override;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -78,7 +81,6 @@ class TimeGraph final : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
@@ -107,7 +109,6 @@ class TimeGraph final : public QWidget {
   void MoveCursorTo(std::optional<std::int64_t> when);
   void MoveCursorUnder(double x);
   void StepCursor(int key, bool isFar);
-  void TellFigures();
 
   QString mTitle;
   GraphUnit mUnit;

@@ -89,7 +89,7 @@ class GaugesTest : public MainWindowTest {
     return dynamic_cast<ToolbarGauge&>(*toolbar.widgetForAction(toolbar.items()[place]));
   }
   std::string Said(const char* identifier) {
-    return Gauge(identifier).accessibleDescription().toStdString();
+    return Gauge(identifier).SpokenFigures().toStdString();
   }
 
   int PixelsOf(const char* identifier, QRgb colour) {
@@ -273,7 +273,7 @@ TEST_F(GaugesTest, AHiddenToolbarIsNotDrawnButGoesOnCounting) {
   PageOut(100);
   machine.processTable.Find(0)->UseCPU(1500);
   Turn();
-  EXPECT_EQ(gauge.accessibleDescription(), "CPU: 100 % of 1 processor") << "as it was";
+  EXPECT_EQ(gauge.SpokenFigures(), "CPU: 100 % of 1 processor") << "as it was";
   Choose("menu_view_show_toolbar");
   EXPECT_EQ(Said(kToolbarCPU), "CPU: 25 % of 1 processor") << "of the last update alone";
   EXPECT_TRUE(Light() == "red" || Light() == "Red");

@@ -299,7 +299,7 @@ TEST_F(TableTest, AClosedWindowHasNoRowsAndStartsAfreshWhenShownAgain) {
   EXPECT_EQ(controller().synchronizer()->Interval(), 500);
   QString said;
   for (const auto* gauge : window->findChildren<ToolbarGauge*>())
-    said += gauge->accessibleDescription() + "\n";
+    said += gauge->SpokenFigures() + "\n";
   EXPECT_TRUE(said.contains("\n0 pages swapped out")) << said.toStdString() << "none of one update";
   // The last window is the program's end, and comes back with it.
   closingQuits = true;

@@ -239,8 +239,8 @@ TEST_F(CPUHistoryWindowTest, AWindowSaysWhoseProcessItFollowsAndCanBeResized) {
               name.Text().endsWith(QLatin1String("on")))
       << name.Text().toStdString();
   EXPECT_LE(name.geometry().right(), client->HighWaterMarkWindow()->x());
-  EXPECT_EQ(client->Window()->accessibleDescription(),
-            QLatin1String("10 % now; the upper edge is 10 %"));
+  EXPECT_EQ(client->Window()->SpokenFigures(),
+            QLatin1String("10 % now, between 0 % and 10 % in the window; the upper edge is 10 %"));
   EXPECT_TRUE(client->Window()->toolTip().contains(QLatin1String("goes-on --fast &lt;b&gt;")));
   EXPECT_FALSE(client->Window()->toolTip().contains(QLatin1String("above other windows")));
   EXPECT_NEAR(client->NameWindow()->Alpha() * client->Window()->windowOpacity(), 0.6, 0.01)

@@ -61,10 +61,10 @@ TEST(CellsTest, MemoryBarsAreMeasuredByTheBiggest) {
       cell.drawInteriorWithFrame(painter, frame, QPalette());
     });
   };
-  EXPECT_EQ(Runs(draw(100, 500), 10), "2#ffffff 10#004d00 41#33e633 53#ffffff ");
+  EXPECT_EQ(Runs(draw(100, 500), 10), "2#ffffff 10#004d00 40#33e633 1#6b6d72 53#ffffff ");
   EXPECT_EQ(Runs(draw(100, 500), 3), "2#ffffff 10#004d00 94#ffffff ") << "the resident is taller";
-  EXPECT_EQ(Runs(draw(0, 0), 10), "2#ffffff 2#004d00 2#33e633 100#ffffff ") << "at least";
-  EXPECT_EQ(Runs(draw(500, 2000), 10), "2#ffffff 25#596600 76#80b300 3#ffffff ")
+  EXPECT_EQ(Runs(draw(0, 0), 10), "2#ffffff 2#004d00 1#33e633 1#6b6d72 100#ffffff ") << "at least";
+  EXPECT_EQ(Runs(draw(500, 2000), 10), "2#ffffff 25#596600 75#80b300 1#6b6d72 3#ffffff ")
       << "larger than any: full width, other colours";
 }
 

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+namespace lurkwell {
+
+/// What texts need to be read by people who see little, and what larger marks need to be seen; of
+/// ContrastBetween.
+inline constexpr double kTextContrast = 4.5;
+inline constexpr double kMarkContrast = 3.0;
+
+/// How much two opaque colours differ in lightness, as the web's accessibility guidelines count it:
+/// from 1, not at all, to 21, black from white. Pure.
+double ContrastBetween(const QColor& one, const QColor& other);
+
+/// Black or white, whichever can be read better on that ground; always kTextContrast at least.
+/// Pure.
+QColor ReadableOn(const QColor& ground);
+
+/// The colour for texts of less weight: between the text's own and the ground, and as far from both
+/// as can still be read. Pure.
+QColor FaintOn(const QColor& text, const QColor& ground);
+
+/// Whether texts of the palette are lighter than what they stand on.
+bool IsDark(const QPalette& palette);
+
+/// The two grounds of a table's rows.
+QColor EvenStripe(const QPalette& palette);
+QColor OddStripe(const QPalette& palette);
+
+}  // namespace lurkwell
