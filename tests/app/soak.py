@@ -7,10 +7,12 @@ minute; status 1 when the last quarter of the run needed more memory, descriptor
 the second. With --usual updates are as often as they usually are, and FILE gets all figures.
 """
 import argparse
+import contextlib
 import json
 import os
 import pathlib
 import random
+import re
 import signal
 import subprocess
 import sys
@@ -46,10 +48,15 @@ def figures(pid):
     status = dict(line.split(":", 1) for line in
                   pathlib.Path(f"/proc/{pid}/status").read_text().splitlines())
     kib = lambda key: int(status[key].split()[0])
+    descriptors = 0
+    for link in pathlib.Path(f"/proc/{pid}/fd").iterdir():
+        # One for each process that there is, which is no growth of the program's.
+        with contextlib.suppress(FileNotFoundError):
+            descriptors += not re.fullmatch(r"/proc/\d+/stat", os.readlink(link))
     return {"resident": rollup["Rss"],
             "private": rollup["Private_Clean"] + rollup["Private_Dirty"],
             "anonymous": kib("RssAnon"), "of files": kib("RssFile"), "shared": kib("RssShmem"),
-            "descriptors": len(os.listdir(f"/proc/{pid}/fd")),
+            "descriptors": descriptors,
             "seconds": time.clock_gettime((~pid << 3) | 2)}
 
 
