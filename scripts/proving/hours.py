@@ -17,11 +17,12 @@ COLUMNS = ("minute", "resident", "private", "anonymous", "of files", "descriptor
 
 def add_options(parser):
     parser.add_argument("--minutes", type=float, default=120)
-    parser.add_argument("--of", help="the figures of a run that is over, as soak.py --json wrote them")
+    parser.add_argument("--of", nargs=2, metavar=("FILE", "COMMIT"),
+                        help="figures of a run that is over, as soak.py --json wrote them")
 
 
 def run(options):
-    report = options.of or ROOT / "build/run/hours.json"
+    report = options.of[0] if options.of else ROOT / "build/run/hours.json"
     if options.of is None:
         folder = build("run", "lurkwell", "Lurkwell_helper", "ClassicProcessInfoNub")
         report.unlink(missing_ok=True)
@@ -38,7 +39,9 @@ def run(options):
     rows = [[f"{sample[name]:,}" for name in COLUMNS]
             for sample in [samples[0], *samples[step::step]]]
     minutes = samples[-1]["minute"]
-    return {"goals": [goal("minutes", "at least 115", str(minutes), minutes >= 115),
+    origin = {"commit": options.of[1], "seconds": round(60 * minutes)} if options.of else {}
+    return {**origin,
+            "goals": [goal("minutes", "at least 115", str(minutes), minutes >= 115),
                       goal("what grew", "nothing", "; ".join(hours["grown"]) or "nothing",
                            not hours["grown"])],
             "tables": [table("KiB; load is ms on processors a second", list(COLUMNS), rows)]}
