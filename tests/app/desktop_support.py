@@ -71,8 +71,9 @@ class Desktop(unittest.TestCase):
 
     def open_display(self, manager=("openbox",)):
         reader, writer = os.pipe()
+        # A server that begins anew when the last program goes would send a starting manager away.
         server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1000x800x24"],
+            ["Xvfb", "-noreset", "-displayfd", str(writer), "-screen", "0", "1000x800x24"],
             pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         self.addCleanup(server.wait)
