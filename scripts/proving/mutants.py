@@ -28,6 +28,7 @@ LOGIC = ["helper_session_test", "helper_oracle_test", "helper_serve_test", "help
 FIRST = {
     "src/helper/RealSystem.cpp": ["helper_serve_test", "helper_canary_test"],
     "src/helper/Channel.cpp": ["helper_serve_test"],
+    "src/helper/CallFilter.h": ["helper_session_test", "helper_takeover_test"],
     "src/helper/Confinement.cpp": ["helper_serve_test", "helper_takeover_test",
                                    "helper_canary_test", "helper_launch_test"],
     "src/helper/Launch.cpp": ["helper_launch_test", "helper_serve_test", "helper_install_test"],
