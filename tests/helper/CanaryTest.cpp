@@ -14,6 +14,7 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <thread>
 #include <utility>
 
@@ -93,10 +94,14 @@ TEST(CanaryTest, AThreadsNumberThatHasPassedOnIsNoticedByARenice) {
     while (std::filesystem::exists(threads + '/' + std::to_string(thread)))
       std::this_thread::sleep_for(std::chrono::milliseconds(1));
     // Its number is free a moment later.
-    std::this_thread::sleep_for(std::chrono::milliseconds(25));
-    WriteFile("/proc/sys/kernel/ns_last_pid", std::to_string(thread - 1));
-    const Canary stranger(kStranger);
-    if (stranger.Pid() != thread) return "at 8";
+    std::optional<Canary> stranger;
+    for (int tries = 0; tries < 500 && (!stranger || stranger->Pid() != thread); ++tries) {
+      stranger.reset();
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+      WriteFile("/proc/sys/kernel/ns_last_pid", std::to_string(thread - 1));
+      stranger.emplace(kStranger);
+    }
+    if (stranger->Pid() != thread) return "at 8";
     ptrace(PTRACE_DETACH, helper.Pid(), nullptr, nullptr);
     if (helper.Receive() != "!Error another process has this pid\n") return "at 9";
     if (helper.Act("renice " + std::to_string(owner.Pid()) + " 8") != "ok") return "at 10";

@@ -71,12 +71,21 @@ Trace Start(const Words& arguments, const Words& environment, bool traced = true
   return trace;
 }
 
+/// Where the preset has lines counted, the counters' file is opened in front of the program's own
+/// calls, and a variable says where it is.
+#ifdef LURKWELL_COUNTS_LINES
+constexpr bool kCountsLines = true;
+#else
+constexpr bool kCountsLines = false;
+#endif
+
 TEST(LaunchTest, ArgumentsOfNoKnownFormEndItBeforeItTouchesAnything) {
   const Trace plain = Start({"helper"}, {});
   EXPECT_EQ(plain.status, 64);
   const std::set<std::uint64_t> made(plain.calls.begin(), plain.calls.end());
   for (const long call : {SYS_openat, SYS_write, SYS_prctl, SYS_setresuid, SYS_rt_sigaction})
-    EXPECT_FALSE(made.contains(static_cast<std::uint64_t>(call))) << call;
+    EXPECT_EQ(made.contains(static_cast<std::uint64_t>(call)), call == SYS_openat && kCountsLines)
+        << call;
   const std::string longest = '/' + std::string(1022, 'x'), tooLong = longest + 'x';
   for (const Words& arguments : std::vector<Words>{{},
                                                    {"h", "--set_permissions_appropriately", "/a"},
@@ -121,13 +130,14 @@ TEST(LaunchTest, TheEnvironmentChangesNothing) {
   const Trace plain = Start(arguments, {});
   ASSERT_EQ(plain.status, 76);
   ASSERT_GT(OwnCalls(plain).size(), 100u);
-  const Words names = Pieces(
+  Words names = Pieces(
       "LD_PRELOAD LD_LIBRARY_PATH LD_AUDIT LD_DEBUG LD_DEBUG_OUTPUT LD_PROFILE LD_BIND_NOW "
       "LD_SHOW_AUXV LD_WARN LD_TRACE_LOADED_OBJECTS GLIBC_TUNABLES MALLOC_CHECK_ MALLOC_TRACE "
       "MALLOC_ARENA_MAX GCONV_PATH GETCONF_DIR HOSTALIASES LOCPATH NLSPATH RES_OPTIONS TMPDIR "
       "TZDIR TZ LANG LC_ALL LANGUAGE PATH HOME SHELL IFS ENV PWD TERM XDG_RUNTIME_DIR DISPLAY "
       "NOTIFY_SOCKET LISTEN_FDS LISTEN_PID SUDO_UID PKEXEC_UID ASAN_OPTIONS LLVM_PROFILE_FILE",
       ' ');
+  if (kCountsLines) names.pop_back();
   const Words values = {"", "0", "/tmp/x:.:", std::string(5000, '%') + "n$(touch /tmp/x)"};
   Words all;
   for (const std::string& name : names)
