@@ -13,7 +13,6 @@
 #include <cmath>
 #include <limits>
 #include <memory>
-#include <ranges>
 #include <string>
 #include <vector>
 
@@ -69,9 +68,9 @@ QStringList CandidatesFor(const QString& wanted) {
 
 /// Null when no language has it.
 QString TextInForm(const char* id, int number) {
-  for (const auto& translator : gTranslators | std::views::reverse) {
-    if (translator == nullptr) continue;
-    auto text = translator->translate("", id, nullptr, number);
+  for (auto translator = gTranslators.rbegin(); translator != gTranslators.rend(); ++translator) {
+    if (*translator == nullptr) continue;
+    auto text = (*translator)->translate("", id, nullptr, number);
     if (!text.isNull()) return text;
   }
   return {};
