@@ -198,6 +198,66 @@ TEST(HostStatistics, OfAMadeUpMachineHaveWhatThisOneLacks) {
   EXPECT_EQ(old.processors, 0.5);
 }
 
+TEST(HostStatistics, AreLeftOutWhereTheyAreGarbledAndTakenFromTheNextBestPlace) {
+  const TemporaryFolder tree;
+  const auto proc = [&](const char* path, const char* text) {
+    tree.Write(std::string("proc/") + path, text);
+  };
+  const auto sys = [&](const char* path, const char* text) {
+    tree.Write(std::string("sys/") + path, text);
+  };
+  proc("meminfo", "MemAvailable: 300 kB\n");
+  proc("stat",
+       "cpu  1 2 3\ncpu0 1 2 -3 4 5 6 7 8\ncpux 1 2 3 4 5 6 7 8\nprocesses many\n"
+       "cpu7 0 1 2 3 4 5 6 7\n");
+  proc("loadavg", "0.50 -1.00 2.00 1/2 3\n");
+  proc("pressure/cpu", "half avg10=9 total=9\nsome avg10=x avg60=-3 total=-1\n");
+  proc("pressure/memory", "half avg10=9 total=9\n");
+  proc("pressure/io", "full avg300=4.5\n");
+  proc("diskstats", "8 0 sda 1 2 3\n8 16 sdb 1 2 3 4 5 6 7\n");
+  sys("block/sda/size", "1");
+  proc("net/dev", "no colon\n eth0: 5 6 7\n");
+  sys("class/hwmon/hwmon0/name", "broken\n");
+  sys("class/hwmon/hwmon0/temp1_input", "hot\n");
+  sys("class/thermal/thermal_zone0/type", "acpitz\n");
+  sys("class/thermal/thermal_zone0/temp", "-2500\n");
+  sys("class/thermal/thermal_zone1/type", "asleep\n");
+  sys("class/drm/card0/device/gpu_busy_percent", "busy\n");
+  sys("class/drm/card1/device/gpu_busy_percent", "250\n");
+  sys("devices/system/cpu/cpufreq/scaling_cur_freq", "1\n");
+  sys("devices/system/cpu/cpu3/topology", "1\n");
+  proc("self/cgroup", "0\n0:\n0::/a/b\n");
+  sys("fs/cgroup/cgroup.controllers", "cpu memory\n");
+  sys("fs/cgroup/a/memory.max", "1000\n");
+  sys("fs/cgroup/a/memory.current", "10\n");
+  sys("fs/cgroup/a/cpu.max", "100000 0\n");
+  sys("fs/cgroup/a/b/memory.max", "2000\n");
+  sys("fs/cgroup/a/b/memory.current", "20\n");
+  sys("fs/cgroup/a/b/cpu.max", "50000 100000\n");
+  sys("fs/cgroup/cpu.max", "300000 100000\n");
+  const LinuxHostStatistics host(tree / "proc", tree / "sys");
+  const auto figures = host.Read(kAllMachineSources);
+  EXPECT_FALSE(figures.memory || figures.modes || figures.begunTasks || figures.load);
+  ASSERT_EQ(figures.processors.size(), 1u);
+  EXPECT_EQ(figures.processors[0].number, 7);
+  EXPECT_EQ(figures.processorPressure.value().some, (std::array{0.0, 0.0, 0.0}));
+  EXPECT_FALSE(figures.processorPressure->someTime || figures.memoryPressure);
+  EXPECT_EQ(figures.diskPressure.value().full[2], 4.5);
+  EXPECT_FALSE(figures.diskPressure->fullTime);
+  EXPECT_TRUE(figures.disks.empty() && figures.interfaces.empty() && figures.frequencies.empty());
+  ASSERT_EQ(figures.temperatures.size(), 1u) << "zones count where no sensor tells anything";
+  EXPECT_EQ(figures.temperatures[0].name, "acpitz");
+  EXPECT_EQ(figures.temperatures[0].celsius, -2.5);
+  ASSERT_EQ(figures.graphics.size(), 1u);
+  EXPECT_EQ(figures.graphics[0].busy, 1.0) << "no more than all of it";
+  EXPECT_EQ(figures.limits.memory, 1000) << "the tightest of all groups above";
+  EXPECT_EQ(figures.limits.memoryUsed, 10);
+  EXPECT_EQ(figures.limits.processors, 0.5);
+  // Where the path is that of a machine outside, what is mounted here is our group.
+  proc("self/cgroup", "0::/../b\n");
+  EXPECT_EQ(host.Read(kLimits).limits.processors, 3);
+}
+
 TEST(HostStatistics, BecomeRatesByTheTimeThatHasPassed) {
   MachineFigures before, after;
   before.processors = {{0, 100, 900}, {1, 500, 500}, {3, 5, 5}};

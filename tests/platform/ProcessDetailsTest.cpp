@@ -19,7 +19,6 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/ControlGroupLimits.h"
 #include "platform/linux/DetailsReader.h"
 #include "platform/linux/DetailsText.h"
 #include "platform/linux/LinuxProcessDetails.h"
@@ -239,13 +238,18 @@ TEST(ProcessDetails, AreBoundedAndCounted) {
   }
 }
 
+/// Of a made-up process, which has started at 7.
+void WriteStat(const TemporaryFolder& proc, int pid) {
+  const auto name = std::to_string(pid);
+  proc.Write(name + "/stat", name + " (x) S 1 1 1 0 -1 0 0 0 0 0 0 0 0 0 20 0 1 0 7" +
+                                 " 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 17 0 0 0 0 0 0\n");
+}
+
 TEST(ProcessDetails, OfOneThatHangsKeepNobodyWaitingAndCostFewThreads) {
   const TemporaryFolder proc;
   const auto make = [&](int pid) {
-    const auto name = std::to_string(pid);
-    proc.Write(name + "/stat", name + " (x) S 1 1 1 0 -1 0 0 0 0 0 0 0 0 0 20 0 1 0 7" +
-                                   " 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 17 0 0 0 0 0 0\n");
-    return proc / (name + "/environ");
+    WriteStat(proc, pid);
+    return proc / (std::to_string(pid) + "/environ");
   };
   WriteFile(make(99), "A=1");
   constexpr int kStuck = 30;
@@ -288,12 +292,26 @@ TEST(ProcessDetails, OfAControlGroupComeWithTheLimitsAboveIt) {
   units.Write("user.slice/memory.current", "8192\n");
   units.Write("user.slice/memory.max", "1048576\n");
   units.Write("user.slice/pids.max", "max\n");
-  const auto hierarchy = ::open(units.Path().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+  const TemporaryFolder proc;
+  WriteStat(proc, 99);
+  LinuxProcessDetails details(proc.Path(), units.Path());
+  const auto ask = [&] { return Ask(details, {99, 7}, DetailsKind::kControlGroup); };
+  // No such file, another machine's group, and no such hierarchy.
+  EXPECT_EQ(ask().state, DetailsState::kNone);
+  for (const char* none : {"1:name=systemd:/user.slice\n", "0::/../user.slice\n"}) {
+    proc.Write("99/cgroup", none);
+    EXPECT_EQ(ask().state, DetailsState::kNone) << none;
+  }
+  proc.Write("99/cgroup", "1:name=systemd:/\n0::/user.slice/app.scope\n");
+  LinuxProcessDetails elsewhere(proc.Path(), units / "nowhere");
+  EXPECT_EQ(Ask(elsewhere, {99, 7}, DetailsKind::kControlGroup).state, DetailsState::kNone);
+  const auto answer = ask();
+  ASSERT_EQ(answer.state, DetailsState::kKnown);
+  EXPECT_EQ(answer.count, 5);
   std::string text;
-  for (const auto& row : ReadControlGroupLimits(hierarchy, "/user.slice/app.scope"))
+  for (const auto& row : std::get<std::vector<ControlGroupDetails>>(answer.list))
     text += row.group + " " + row.figure + " " + std::to_string(row.inUse.value_or(-1)) + " " +
             std::to_string(row.limit.value_or(-1)) + "\n";
-  ::close(hierarchy);
   EXPECT_EQ(text,
             "/user.slice/app.scope memory 4096 -1\n"
             "/user.slice/app.scope cpu.max -1 500\n"
