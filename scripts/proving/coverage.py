@@ -11,8 +11,8 @@ import shutil
 import stat
 
 from . import report
-from .tools import (ROOT, Failure, build, ctest, failed, goal, install, output, run as run_command,
-                    say, share, table)
+from .tools import (ROOT, Failure, build, ctest, failed, goal, install, listed, output,
+                    run as run_command, say, share, table)
 
 IS_PART = True
 
@@ -115,21 +115,16 @@ def measure(groups, again):
 def reasons():
     """Why lines cannot be reached: by file and line number."""
     known = {}
-    path = ""
-    for line in REASONS.read_text(encoding="utf-8").splitlines() if REASONS.is_file() else []:
-        if line.startswith("src/"):
-            path = line.strip()
-        elif line.strip() and not line.startswith("#"):
-            where, _, reason = line.partition(" ## ")
-            first, _, last = where.partition(" ... ")
-            text = [one.strip() for one in (ROOT / path).read_text(encoding="utf-8").splitlines()]
-            if first.strip() not in text or (last and last.strip() not in text):
-                raise Failure(f"{REASONS.name}: {path} has no line {where!r}")
-            begin = text.index(first.strip())
-            # The last line of that text: it may stand there more than once.
-            end = len(text) - text[::-1].index(last.strip()) if last else begin + 1
-            for number in range(begin + 1, end + 1):
-                known[path, number] = reason.strip()
+    for path, where, reason in listed(REASONS):
+        first, _, last = where.partition(" ... ")
+        text = [one.strip() for one in (ROOT / path).read_text(encoding="utf-8").splitlines()]
+        if first.strip() not in text or (last and last.strip() not in text):
+            raise Failure(f"{REASONS.name}: {path} has no line {where!r}")
+        begin = text.index(first.strip())
+        # The last line of that text: it may stand there more than once.
+        end = len(text) - text[::-1].index(last.strip()) if last else begin + 1
+        for number in range(begin + 1, end + 1):
+            known[path, number] = reason
     return known
 
 

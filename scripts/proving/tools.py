@@ -67,6 +67,18 @@ def failed(cases):
     return [case.get("name") for case in cases if case.get("status") != "run"]
 
 
+def listed(path):
+    """What a list of docs/proof holds: headings are paths of sources, and what stands below one is a line
+    with " ## " and a reason behind it. Triples of source, line and reason."""
+    source = ""
+    for line in path.read_text(encoding="utf-8").splitlines() if path.is_file() else []:
+        if line.startswith("src/"):
+            source = line.strip()
+        elif line.strip() and not line.startswith("#"):
+            text, _, reason = line.partition(" ## ")
+            yield source, text.strip(), reason.strip()
+
+
 def grouped(number):
     return f"{number:,}"
 
