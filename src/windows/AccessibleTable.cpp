@@ -308,7 +308,7 @@ class AccessibleTable final : public QAccessibleWidget, public QAccessibleTableI
 
   QAccessibleInterface* Cell(const QModelIndex& index) const {
     if (std::exchange(*mHaveMoved, false)) FindAgain();
-    const QPair place(index.row(), index.column());
+    const QPair<int, int> place(index.row(), index.column());
     const auto known = mCells.constFind(place);
     if (known != mCells.constEnd()) return QAccessible::accessibleInterface(*known);
     auto* cell = new AccessibleCell(View(), mTable, index);
