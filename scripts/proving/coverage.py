@@ -24,7 +24,9 @@ PROGRAMS = {
                "platform_live_processes", "platform_costly_figures", "platform_process_details",
                "platform_run_loop", "platform_tools", "platform_host_statistics", "platform_text",
                "control_simulated", "control_real", "query", "preference-store-test",
-               "preference-file-test", "preference-crash-test", "preference-sharing-test"]}
+               "preference-file-test", "preference-crash-test", "preference-sharing-test",
+               "recording", "alerts", "power_cut", "desktop_entries", "classic", "following_windows",
+               "process_details", "preferences_window", "main_window"]}
 SEEDS = ["fuzz-answer", "fuzz-ps-output", "fuzz-plist", "fuzz-procstat", "fuzz-ps-listing",
          "fuzz-request", "fuzz-figures", "fuzz-record", "fuzz-query", "fuzz-graphics", "fuzz-sockets",
          "fuzz-details"]
