@@ -1,6 +1,7 @@
 #include <sys/xattr.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <random>
 #include <set>
@@ -324,6 +325,55 @@ TEST_F(RealChannelTest, PipesArePrivateAndNeverNarrow) {
   EXPECT_EQ(pipes.Close(writer), 0);
   EXPECT_EQ(pipes.Close(-1), -1);
   pipes.Unlink(path);
+}
+
+TEST_F(RealChannelTest, PipesLieWhereNobodyElseCanExchangeThem) {
+  const auto placeWith = [this](const std::string& runtime) {
+    ::setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
+    LinuxNamedPipes pipes;
+    const std::string path = pipes.TemporaryName("Lkw_a2d_");
+    pipes.Unlink(path);
+    ::unsetenv("XDG_RUNTIME_DIR");
+    return std::filesystem::path(path).parent_path().parent_path().string();
+  };
+  WriteFile(folder / "file", "");
+  const std::string foreign = folder.Make("foreign", 0755, kStranger);
+  const std::string shared = folder.Make("shared", 0777);
+  for (const std::string& unsafe : {std::string(), std::string("."), folder / "file",
+                                    folder / "none", '/' + std::string(960, '/'), foreign, shared})
+    EXPECT_EQ(placeWith(unsafe), folder / "pipes") << unsafe.substr(0, 80);
+  const std::string own = folder.Make("own", 0700), sticky = folder.Make("sticky", 01777);
+  for (const std::string& safe : {own, sticky}) EXPECT_EQ(placeWith(safe), safe);
+  ::setenv("TMPDIR", shared.c_str(), 1);
+  EXPECT_EQ(placeWith(foreign), "/tmp");
+  ::setenv("TMPDIR", (folder / "pipes").c_str(), 1);
+
+  auto& pipes = machine.namedPipes;
+  const std::string path = pipes.TemporaryName("Lkw_a2d_");
+  // Somebody tidies up below the folder for temporary files.
+  std::filesystem::remove_all(std::filesystem::path(path).parent_path());
+  const std::string next = pipes.TemporaryName("Lkw_a2d_");
+  ASSERT_TRUE(pipes.MakeFifo(next, 010600));
+  // Only a pipe is taken for one, and nobody's other end is waited for beyond the limit.
+  std::filesystem::create_symlink(next, folder / "link");
+  for (const auto& [name, error] :
+       {std::pair(folder / "file", EINVAL), {folder / "link", ELOOP}, {folder / "none", ENOENT}}) {
+    EXPECT_EQ(pipes.OpenForReading(name, milliseconds(20)), -1);
+    EXPECT_EQ(errno, error) << name;
+    EXPECT_EQ(pipes.OpenForWriting(name, milliseconds(20)), -1);
+    EXPECT_EQ(errno, error) << name;
+  }
+  EXPECT_EQ(pipes.OpenForWriting(next, milliseconds(20)), -1);
+  EXPECT_EQ(errno, ENXIO);
+  const int reader = pipes.OpenForReading(next, milliseconds(20));
+  ASSERT_GE(reader, 0);
+  std::array<char, 8> text{};
+  EXPECT_EQ(pipes.Read(1000, text, milliseconds(20)), -1);
+  EXPECT_EQ(errno, EBADF);
+  EXPECT_EQ(pipes.Read(reader, text, milliseconds(20)), -1);
+  EXPECT_EQ(errno, ETIMEDOUT);
+  EXPECT_EQ(pipes.Close(reader), 0);
+  pipes.Unlink(next);
 }
 
 }  // namespace

@@ -123,13 +123,18 @@ TEST_F(RealLaunchTest, ConsentIsNoticedWhereNobodyLearnsHowChildrenEnd) {
 }
 
 TEST_F(RealLaunchTest, WithoutConsentTheHelperHasTheUsersRights) {
-  AdministratorSays("126");
-  EXPECT_EQ(Launched(), Refused("the question was dismissed"));
-  AdministratorSays("127");
-  EXPECT_EQ(Launched(),
-            Refused("the authorisation was refused, or there is no agent to ask for it"));
-  AdministratorSays("77");
-  EXPECT_EQ(Launched(), Refused("the permission step ended with status 77"));
+  for (const auto& [mode, reason] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"126", "the question was dismissed"},
+           {"127", "the authorisation was refused, or there is no agent to ask for it"},
+           {"72", "the installed helper is missing, or others than root can change it"},
+           {"73", "the helper in $/data/Lurkwell cannot be replaced"},
+           {"77", "the permission step ended with status 77"},
+           {"killed", "the permission step was killed"}}) {
+    AdministratorSays(mode);
+    EXPECT_EQ(Launched(), Refused(reason));
+  }
+  WriteFile(Pkexec(), "no program");
+  EXPECT_EQ(Launched(), Refused("cannot start $/bin/pkexec: Exec format error"));
   std::filesystem::remove(Pkexec());
   EXPECT_EQ(Launched(), Refused("there is no $/bin/pkexec to ask an administrator with"));
   EXPECT_EQ(ModeOf(Installed()), 0755u);

@@ -2,9 +2,10 @@
 // says. In the place of the helper: "absent", "half" (opens one end only), "mute" (opens both),
 // "brief" (greets and goes), "noise", "slow" (25 ms an answer), "twice" (answers each request two
 // times). In the place of
-// pkexec: the status it ends with, or "yes", upon which root runs what was asked for.
+// pkexec: the status it ends with, "killed", or "yes", upon which root runs what was asked for.
 #include <fcntl.h>
 #include <poll.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -63,6 +64,7 @@ int Ask(const std::string& folder, const std::string& mode, int argc, char** arg
   asked << std::filesystem::current_path().string();
   for (int i = 1; i < argc; ++i) asked << '|' << argv[i];
   asked << std::endl;
+  if (mode == "killed") ::raise(SIGKILL);
   if (mode != "yes") return std::stoi(mode);
   std::string user = "PKEXEC_UID=" + std::to_string(::getuid());
   char* environment[] = {user.data(), nullptr};
