@@ -26,10 +26,6 @@ namespace {
 
 constexpr std::int64_t kBeat = 2000;
 constexpr int kBeatsOfHour = 1800;
-/// The histories and tables that keep an hour are full after it, and their first turn-over is done.
-constexpr std::size_t kWarmHours = 2;
-constexpr std::int64_t kGrowthKiB = 1024;
-constexpr double kSlower = 1.05;
 constexpr std::int32_t kFirstPid = 20'000;
 constexpr std::int32_t kFollowed = 4;
 
@@ -150,27 +146,18 @@ class Day {
   std::unique_ptr<vqAppDelegate> mDelegate;
 };
 
-int Run(int hours, std::int32_t processes) {
-  std::vector<Hour> passed;
+void Run(int hours, std::int32_t processes) {
   Day day(processes);
   std::printf("{\"processes\": %d, \"hours\": [", processes);
   for (int hour = 0; hour < hours; ++hour) {
-    passed.push_back(day.Pass());
-    const auto& row = passed.back();
+    const auto row = day.Pass();
     std::printf(
         "%s\n  {\"ms\": %.3f, \"mean_ms\": %.3f, \"heap_kib\": %lld, \"resident_kib\": %lld}",
         hour == 0 ? "" : ",", row.millisecondsOfBeat, row.meanMilliseconds,
         static_cast<long long>(row.heapKiB), static_cast<long long>(row.residentKiB));
     std::fflush(stdout);
   }
-  const auto& warm = passed[std::min(kWarmHours, passed.size()) - 1];
-  const auto& last = passed.back();
-  const auto growth = last.heapKiB - warm.heapKiB;
-  const double slower = last.millisecondsOfBeat / passed.front().millisecondsOfBeat;
-  const bool holds = growth <= kGrowthKiB && slower <= kSlower;
-  std::printf("],\n \"heap_growth_kib\": %lld, \"last_to_first\": %.3f, \"holds\": %s}\n",
-              static_cast<long long>(growth), slower, holds ? "true" : "false");
-  return holds ? EXIT_SUCCESS : EXIT_FAILURE;
+  std::printf("]}\n");
 }
 
 }  // namespace
@@ -183,5 +170,6 @@ int main(int count, char* arguments[]) {
     std::fprintf(stderr, "usage: simulated_day [HOURS [PROCESSES, 100 to 9000]]\n");
     return 2;
   }
-  return lurkwell::Run(hours, processes);
+  lurkwell::Run(hours, processes);
+  return EXIT_SUCCESS;
 }

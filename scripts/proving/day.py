@@ -11,6 +11,8 @@ import subprocess
 from .tools import Failure, build, goal, table
 
 IS_PART = True
+# The histories and tables that keep an hour are full after it, and their first turn-over is done.
+WARM_HOURS = 2
 GROWTH = 1024
 SLOWER = 1.05
 
@@ -24,12 +26,13 @@ def run(options):
     done = subprocess.run([folder / "bin/simulated_day", str(options.hours)], check=False, text=True,
                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
     try:
-        day = json.loads(done.stdout)
+        hours = json.loads(done.stdout)["hours"]
     except ValueError as error:
         raise Failure(f"simulated_day ended early, with {done.returncode}") from error
     rows = [[number, f"{hour['ms']:.2f}", f"{hour['mean_ms']:.2f}", f"{hour['heap_kib']:,}",
-             f"{hour['resident_kib']:,}"] for number, hour in enumerate(day["hours"], 1)]
-    growth, slower = day["heap_growth_kib"], day["last_to_first"]
+             f"{hour['resident_kib']:,}"] for number, hour in enumerate(hours, 1)]
+    growth = hours[-1]["heap_kib"] - hours[min(WARM_HOURS, len(hours)) - 1]["heap_kib"]
+    slower = round(hours[-1]["ms"] / hours[0]["ms"], 3)
     return {"goals": [goal("growth, KiB", f"at most {GROWTH}", str(growth), growth <= GROWTH),
                       goal("the last hour's beats to the first's", f"at most {SLOWER}", str(slower),
                            slower <= SLOWER)],

@@ -49,7 +49,7 @@ def build(preset, *targets):
     return ROOT / "build" / preset
 
 
-def ctest(folder, *arguments):
+def ctest(folder, *arguments, **environment):
     """Runs tests, as root in scripts/test-place where it is root; the test cases of its report."""
     report = folder / "proof-report.xml"
     report.unlink(missing_ok=True)
@@ -57,7 +57,7 @@ def ctest(folder, *arguments):
     command = [*place, "ctest", "--test-dir", folder, "--quiet", "--output-junit", report, *arguments]
     with open(folder / "proof-report.log", "w", encoding="utf-8") as log:
         subprocess.run([str(word) for word in command], stdin=subprocess.DEVNULL, stdout=log,
-                       stderr=log, cwd=ROOT, check=False)
+                       stderr=log, cwd=ROOT, check=False, env={**os.environ, **environment})
     if not report.is_file():
         raise Failure(f"no test ran, see {folder.relative_to(ROOT)}/proof-report.log")
     return xml.etree.ElementTree.parse(report).findall("testcase")

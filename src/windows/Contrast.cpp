@@ -25,6 +25,17 @@ QColor Between(const QColor& one, const QColor& other, double share) {
           mixed(one.blue(), other.blue())};
 }
 
+QColor FindFaint(const QColor& text, const QColor& ground) {
+  constexpr double kFaintest = 0.5;
+  constexpr double kStep = 0.05;
+  // Whole numbers may take a little from it.
+  constexpr double kEnough = kTextContrast + 0.1;
+  for (double share = kFaintest; share > 0; share -= kStep)
+    if (const auto faint = Between(text, ground, share); ContrastBetween(faint, ground) > kEnough)
+      return faint;
+  return text;
+}
+
 }  // namespace
 
 double ContrastBetween(const QColor& one, const QColor& other) {
@@ -39,14 +50,15 @@ QColor ReadableOn(const QColor& ground) {
 }
 
 QColor FaintOn(const QColor& text, const QColor& ground) {
-  constexpr double kFaintest = 0.5;
-  constexpr double kStep = 0.05;
-  // Whole numbers may take a little from it.
-  constexpr double kEnough = kTextContrast + 0.1;
-  for (double share = kFaintest; share > 0; share -= kStep)
-    if (const auto faint = Between(text, ground, share); ContrastBetween(faint, ground) > kEnough)
-      return faint;
-  return text;
+  static QColor lastText;
+  static QColor lastGround;
+  static QColor last;
+  if (text != lastText || ground != lastGround) {
+    last = FindFaint(text, ground);
+    lastText = text;
+    lastGround = ground;
+  }
+  return last;
 }
 
 bool IsDark(const QPalette& palette) {

@@ -19,7 +19,8 @@ double ContrastBetween(const QColor& one, const QColor& other);
 QColor ReadableOn(const QColor& ground);
 
 /// The colour for texts of less weight: between the text's own and the ground, and as far from both
-/// as can still be read. Pure.
+/// as can still be read. Remembers the last answer, as a table asks for each of its cells. Main
+/// thread.
 QColor FaintOn(const QColor& text, const QColor& ground);
 
 /// Whether texts of the palette are lighter than what they stand on.

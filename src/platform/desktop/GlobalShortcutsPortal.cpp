@@ -15,8 +15,6 @@ namespace lurkwell {
 namespace {
 
 const QString kPortalConnection = QStringLiteral("lurkwell-shortcuts");
-const QString kPortalService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kPortalInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 const QString kRegistryInterface = QStringLiteral("org.freedesktop.host.portal.Registry");
 const QString kApplicationId = QStringLiteral("com.velquarin.lurkwell");
@@ -54,8 +52,7 @@ bool GlobalShortcutsPortal::Add(const QString& id, const QString& trigger,
 
 void GlobalShortcutsPortal::ExpectAnswer(const QString& token, const char* slot) {
   const QString sender = mBus.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
-  mBus.connect(kPortalService,
-               QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token),
+  mBus.connect(kPortalService, kPortalPath + QStringLiteral("/request/%1/%2").arg(sender, token),
                kRequest, QStringLiteral("Response"), this, slot);
 }
 

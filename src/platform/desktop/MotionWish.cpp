@@ -7,11 +7,11 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "platform/desktop/SessionBus.h"
+
 namespace lurkwell {
 namespace {
 
-const QString kSettingsService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kSettingsPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kSettingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 constexpr int kSettingsAnswer = 20'000;
 
@@ -45,7 +45,7 @@ QVariant InFile(const QString& file, const char* key) {
 }  // namespace
 
 MotionWish::MotionWish(const QString& configFolder, const QDBusConnection& bus)
-    : mBus(bus), mPortal(kSettingsService, bus, QDBusServiceWatcher::WatchForRegistration) {
+    : mBus(bus), mPortal(kPortalService, bus, QDBusServiceWatcher::WatchForRegistration) {
   const auto factor =
       InFile(configFolder + QLatin1String("/kdeglobals"), "KDE/AnimationDurationFactor");
   if (factor.isValid())
@@ -57,8 +57,8 @@ MotionWish::MotionWish(const QString& configFolder, const QDBusConnection& bus)
     if (animates.isValid()) mWishes[QLatin1String(folder)] = IsFalse(animates);
   }
   if (!mBus.isConnected()) return;
-  mBus.connect(kSettingsService, kSettingsPath, kSettingsInterface,
-               QStringLiteral("SettingChanged"), this, SLOT(TakeChange(QDBusMessage)));
+  mBus.connect(kPortalService, kPortalPath, kSettingsInterface, QStringLiteral("SettingChanged"),
+               this, SLOT(TakeChange(QDBusMessage)));
   connect(&mPortal, &QDBusServiceWatcher::serviceRegistered, this, &MotionWish::Ask);
   Ask();
 }
@@ -68,8 +68,8 @@ bool MotionWish::IsLess() const {
 }
 
 void MotionWish::Ask() {
-  auto question = QDBusMessage::createMethodCall(kSettingsService, kSettingsPath,
-                                                 kSettingsInterface, QStringLiteral("ReadAll"));
+  auto question = QDBusMessage::createMethodCall(kPortalService, kPortalPath, kSettingsInterface,
+                                                 QStringLiteral("ReadAll"));
   QStringList groups;
   for (const auto& setting : kMotionSettings) groups.append(QLatin1String(setting.group));
   question << groups;

@@ -10,6 +10,10 @@
 
 namespace lurkwell {
 
+/// Where the desktop's portal answers, on the session bus.
+inline const QString kPortalService = QStringLiteral("org.freedesktop.portal.Desktop");
+inline const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+
 /// A connection of that name; not connected when `address` is "" or when no bus answers there
 /// within two seconds. Main thread.
 QDBusConnection ConnectToBus(const std::string& address, const QString& name);
