@@ -16,6 +16,7 @@
 #include "platform/Machine.h"
 #include "platform/Screen.h"
 #include "resources/Resources.h"
+#include "resources/UserLocale.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/HelpKey.h"
 #include "windows/OverlayKey.h"
@@ -68,7 +69,7 @@ QString QuintessentialViewWindow::SpokenFigures() const {
   const CriticalRegion::Guard inside(gQuintessentialMutex);
   auto* client = gQuintessentialInformationClient;
   const auto count = client != nullptr && IsCurrent() ? client->qipiList().size() : 0;
-  return LocalizedString("quintessential_spoken").arg(count);
+  return LocalizedString("quintessential_spoken").arg(LocalNumber(static_cast<qint64>(count)));
 }
 
 // ---- Showing and closing ------------------------------------------------------------------------

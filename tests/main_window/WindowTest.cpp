@@ -1,6 +1,7 @@
 // The window as a whole, and the order of windows.
 #include <QFile>
 #include <QLabel>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -93,6 +94,8 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   helper.reset();
   // This machine has no place for a helper with rights.
   LaunchHelperDaemon();
+  // Before the machine goes.
+  const auto end = qScopeGuard([] { QuitHelperDaemon(); });
   window->resize(1600, 600);
   auto* label = aboutHelper();
   ASSERT_NE(label, nullptr);
@@ -113,7 +116,6 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   label = aboutHelper();
   ASSERT_NE(label, nullptr);
   EXPECT_TRUE(label->text().contains(QLatin1String("not running")));
-  QuitHelperDaemon();
 }
 
 TEST_F(WindowTest, HelpNeedsNoBrowser) {

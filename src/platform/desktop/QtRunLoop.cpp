@@ -10,7 +10,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
-#include <limits>
+#include <cstdint>
+#include <map>
 #include <set>
 #include <utility>
 
@@ -45,6 +46,9 @@ struct QtRunLoop::State {
   bool isServing = false;
   /// Due, but not to be served for the moment.
   std::set<Timer*> held;
+  /// All that have a date, by that and their adding.
+  std::map<std::pair<double, std::uint64_t>, Timer*> waiting;
+  std::uint64_t added = 0;
 };
 
 /// One single shot after the other, since each firing may set a date of its own.
@@ -52,6 +56,7 @@ class QtRunLoop::Timer final : public RunLoopTimer {
  public:
   Timer(std::shared_ptr<State> state, double date, double interval, std::function<void()> callback)
       : mState(std::move(state)),
+        mNumber(mState->added++),
         mInterval(interval),
         mCallback(std::make_shared<const std::function<void()>>(std::move(callback))) {
     mTimer.setSingleShot(true);
@@ -59,12 +64,11 @@ class QtRunLoop::Timer final : public RunLoopTimer {
     mTimer.callOnTimeout([this] { FireIfDue(); });
     SetNextFireDate(date);
   }
-  ~Timer() override { mState->held.erase(this); }
+  ~Timer() override { SetDate(kNever); }
 
   void SetNextFireDate(double absoluteSeconds) override {
-    mDate = Orderable(absoluteSeconds);
+    SetDate(Orderable(absoluteSeconds));
     mDateWasSet = true;
-    mState->held.erase(this);
     Wait();
   }
 
@@ -75,13 +79,26 @@ class QtRunLoop::Timer final : public RunLoopTimer {
   }
 
  private:
+  void SetDate(double date) {
+    mState->held.erase(this);
+    mState->waiting.erase({mDate, mNumber});
+    mDate = date;
+    mDateSetAt = mState->clock.AbsoluteTime();
+    if (mDate < kNever) mState->waiting.insert({{mDate, mNumber}, this});
+  }
+
   void FireIfDue() {
     if (mDate > mState->clock.AbsoluteTime()) return Wait();
     if (mState->IsHolding()) {
       mState->held.insert(this);
-    } else {
-      Fire();
+      return;
     }
+    // Qt's timers count whole milliseconds, so that one may overtake another. What was set only
+    // after this was due has its turn after it.
+    auto* const first = mState->waiting.begin()->second;
+    if (first == this || first->mDateSetAt > mDate) return Fire();
+    Wait();
+    first->Fire();
   }
 
   /// The callback may destroy this timer, and with it all that it has.
@@ -89,18 +106,22 @@ class QtRunLoop::Timer final : public RunLoopTimer {
     const auto state = mState;
     const auto callback = mCallback;
     const std::weak_ptr<int> alive = mAlive;
+    const double date = mDate;
+    SetDate(kNever);
     mDateWasSet = false;
     state->isServing = true;
     (*callback)();
     state->isServing = false;
     if (!state->IsHolding()) state->Release();
     if (alive.expired() || mDateWasSet) return;
-    mDate = NextDate(mDate, mInterval, mState->clock.AbsoluteTime());
+    SetDate(NextDate(date, mInterval, mState->clock.AbsoluteTime()));
     Wait();
   }
 
   std::shared_ptr<State> mState;
-  double mDate = 0.0;
+  std::uint64_t mNumber;
+  double mDate = kNever;
+  double mDateSetAt = 0.0;
   double mInterval;
   bool mDateWasSet = false;
   std::shared_ptr<const std::function<void()>> mCallback;
