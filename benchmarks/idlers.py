@@ -1,4 +1,4 @@
-"""Idle processes to measure beside, and what a process has cost."""
+"""Idle processes to measure beside, births and ends among them, and what a process has cost."""
 import contextlib
 import pathlib
 import subprocess
@@ -8,6 +8,7 @@ import time
 IDLER = r"""
 #include <dirent.h>
 #include <fcntl.h>
+#include <signal.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -32,10 +33,33 @@ static double floor_of_a_pass(void) {
   clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
   return ((double)used.tv_sec * 1e3 + (double)used.tv_nsec / 1e6) / kPasses;
 }
+/* So many processes a second come and stay for one; as many are there at any time. */
+static void give_birth(int births) {
+  const struct timespec second = {1, 0};
+  struct timespec next;
+  clock_gettime(CLOCK_MONOTONIC, &next);
+  for (;;) {
+    next.tv_nsec += 1000000000 / births;
+    if (next.tv_nsec >= 1000000000) {
+      next.tv_nsec -= 1000000000;
+      ++next.tv_sec;
+    }
+    clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &next, NULL);
+    if (fork() == 0) {
+      prctl(PR_SET_NAME, "short-lived");
+      prctl(PR_SET_PDEATHSIG, 9);
+      nanosleep(&second, NULL);
+      _exit(0);
+    }
+  }
+}
 int main(int argc, char** argv) {
   if (argc > 1 && strcmp(argv[1], "floor") == 0) return printf("%.3f\n", floor_of_a_pass()) < 0;
   const int count = argc > 1 ? atoi(argv[1]) : 0;
   const int names = argc > 2 ? atoi(argv[2]) : count;
+  const int births = argc > 3 ? atoi(argv[3]) : 0;
+  /* Nobody waits for those that end. */
+  signal(SIGCHLD, SIG_IGN);
   for (int i = 0; i < count; ++i) {
     const pid_t pid = fork();
     if (pid < 0) return 1;
@@ -49,6 +73,7 @@ int main(int argc, char** argv) {
   }
   puts("ready");
   fflush(stdout);
+  if (births > 0) give_birth(births);
   for (;;) pause();
 }
 """
@@ -77,9 +102,10 @@ class Idlers:
         self.folder.cleanup()
 
     @contextlib.contextmanager
-    def running(self, count, names=None):
-        """So many processes, of as many names or fewer; False where so many are not allowed."""
-        command = [self.program, str(count), str(names or count)]
+    def running(self, count, names=None, births=0):
+        """So many processes, of as many names or fewer, and so many births a second of others that
+        live for one; False where so many are not allowed."""
+        command = [self.program, str(count), str(names or count), str(births)]
         with subprocess.Popen(command, stdout=subprocess.PIPE) as idlers:
             yield idlers.stdout.readline() == b"ready\n"
             idlers.kill()

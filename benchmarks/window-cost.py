@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """What one update of a process monitor's window costs, in CPU time, beside idle processes.
 
-window-cost.py [-n 250,1000,5000] [-s SECONDS] [--interval SECONDS] [--state shown,minimised,keys]
-               NAME=COMMAND [NAME=COMMAND ...]
+window-cost.py [-n 250,1000,5000] [--births 0,50] [-s SECONDS] [--interval SECONDS]
+               [--state shown,minimised,keys] NAME=COMMAND [NAME=COMMAND ...]
 
 Each command runs alone on a private X server (Xvfb, openbox, 1280x900), N idle processes of
 different names beside it. After a warm-up the CPU time of its processes (known by a mark in
@@ -11,7 +11,8 @@ divided by the number of intervals. One Markdown row each; root sees all. Start-
 until the window's pixels have stopped changing, where there is xwd to tell. Beside it stand what a
 bare pass over every stat file takes, and the longest time for which the window did not answer a ping.
 A state is "shown", "minimised", or keys for xdotool to open what else is to be seen, joined by
-"+then+".
+"+then+"; "alt+2" and "alt+3" are the tree and the applications of lurkwell's table. With births so
+many processes a second come, live for one second and end; what making them costs is not counted.
 """
 import argparse
 import os
@@ -128,7 +129,7 @@ def longest_silence(screen, seconds):
     return max(ping.stop())
 
 
-def measure(name, command, count, state, floor, options):
+def measure(name, command, count, births, state, floor, options):
     with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as home, Screen() as screen:
         environment = dict(os.environ, DISPLAY=screen.display, HOME=home,
                            XDG_CONFIG_HOME=home + "/config", XDG_DATA_HOME=home + "/data",
@@ -159,14 +160,28 @@ def measure(name, command, count, state, floor, options):
                 os.killpg(monitor.pid, signal.SIGKILL)
                 monitor.wait()
     milliseconds = [1000.0 * value / updates for value in (app + helper, app, helper, x_server)]
-    print(f"| {count} | {name} | {state} | " + " | ".join(f"{value:.1f}" for value in milliseconds) +
-          f" | {floor:.1f} | {milliseconds[0] / floor:.2f} | {longest:.0f} | {start_up:.2f} |",
+    print(f"| {count} | {births} | {name} | {state} | " +
+          " | ".join(f"{value:.1f}" for value in milliseconds) + f" | {floor:.1f} | {milliseconds[0] / floor:.2f} | {longest:.0f} | {start_up:.2f} |",
           flush=True)
+
+
+def beside(idlers, count, births, options):
+    """The rows for so many idle processes and births a second."""
+    with idlers.running(count, births=births) as are_there:
+        if not are_there:
+            print(f"| {count} | {births} | not that many processes are allowed here |" + " |" * 9)
+            return
+        floor = idlers.bare_pass()
+        for monitor in options.monitors:
+            name, command = monitor.split("=", 1)
+            for state in options.state.split(","):
+                measure(name, command, count, births, state, floor, options)
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("-n", default="250,1000,5000")
+    parser.add_argument("--births", default="0", help="a second")
     parser.add_argument("-s", "--seconds", type=float, default=20.0)
     parser.add_argument("--warm-up", type=float, default=6.0)
     parser.add_argument("--interval", type=float, default=2.0)
@@ -176,20 +191,14 @@ def main():
     for tool in ("Xvfb", "openbox", "xprop", "xdotool", "cc"):
         if shutil.which(tool) is None:
             sys.exit(f"{tool} is not installed")
-    columns = ("idle processes", "program", "state", "CPU ms per update", "application", "helper",
-               "X server", "bare stat pass ms", "× that", "longest silence ms", "start-up s")
-    print("| " + " | ".join(columns) + " |\n| ---: | --- | --- |" + " ---: |" * 8, flush=True)
+    columns = ("idle processes", "births a second", "program", "state", "CPU ms per update",
+               "application", "helper", "X server", "bare stat pass ms", "× that",
+               "longest silence ms", "start-up s")
+    print("| " + " | ".join(columns) + " |\n| ---: | ---: | --- | --- |" + " ---: |" * 8, flush=True)
     with Idlers() as idlers:
         for count in options.n.split(","):
-            with idlers.running(count) as are_there:
-                if not are_there:
-                    print(f"| {count} | not that many processes are allowed here |" + " |" * 9)
-                    continue
-                floor = idlers.bare_pass()
-                for monitor in options.monitors:
-                    name, command = monitor.split("=", 1)
-                    for state in options.state.split(","):
-                        measure(name, command, count, state, floor, options)
+            for births in options.births.split(","):
+                beside(idlers, count, int(births), options)
 
 
 if __name__ == "__main__":
