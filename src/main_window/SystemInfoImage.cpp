@@ -21,11 +21,24 @@ constexpr int kBarTop = 4;
 constexpr int kBarBottom = 16;
 
 using Colour = std::array<std::uint8_t, 4>;
-constexpr Colour kEmptyBar{170, 170, 170, 255};
-constexpr Colour kCPUUsed{0, 0, 255, 255};
-constexpr Colour kMemoryRed{255, 0, 0, 255};
-constexpr Colour kMemoryYellowStripe{255, 255, 0, 255};
-constexpr Colour kMemoryPinkStripe{255, 170, 170, 255};
+struct GaugeColours {
+  Colour empty, cpu, memory, wiredStripe, inactiveStripe;
+};
+constexpr GaugeColours kOnLight{{170, 170, 170, 255},
+                                {0, 0, 255, 255},
+                                {255, 0, 0, 255},
+                                {255, 255, 0, 255},
+                                {255, 170, 170, 255}};
+// As the bars of the table have them there.
+constexpr GaugeColours kOnDark{{72, 76, 84, 255},
+                               {94, 158, 255, 255},
+                               {255, 110, 100, 255},
+                               {255, 255, 0, 255},
+                               {255, 214, 210, 255}};
+
+const GaugeColours& ColoursOn(bool isDark) {
+  return isDark ? kOnDark : kOnLight;
+}
 
 /// Which part of which bar a pixel belongs to, as its message says.
 enum Segment { kCPUUsedSegment = 1, kCPUEmptySegment, kMemoryUsedSegment, kMemoryEmptySegment };
@@ -54,22 +67,25 @@ void Clear(std::uint8_t* rawPixels) {
 
 /// The bar, column by column: `colourAt` for those before `end`, empty from there.
 template <typename ColourAt>
-void DrawBar(std::uint8_t* rawPixels, int end, Segment used, Segment empty, ColourAt colourAt) {
+void DrawBar(std::uint8_t* rawPixels, int end, Segment used, Segment empty, const Colour& emptyBar,
+             ColourAt colourAt) {
   Clear(rawPixels);
   for (int y = kBarTop; y < kBarBottom; ++y) {
     for (int x = kBarLeft; x < end; ++x) SetPixel(rawPixels, x, y, used, colourAt(x, y));
-    for (int x = end; x < kBarLeft + kBarWidth; ++x) SetPixel(rawPixels, x, y, empty, kEmptyBar);
+    for (int x = end; x < kBarLeft + kBarWidth; ++x) SetPixel(rawPixels, x, y, empty, emptyBar);
   }
 }
 
 }  // namespace
 
-void DrawCPUGauge(std::uint8_t* rawPixels, double usage) {
-  DrawBar(rawPixels, ColumnBehind(usage), kCPUUsedSegment, kCPUEmptySegment,
-          [](int, int) { return kCPUUsed; });
+void DrawCPUGauge(std::uint8_t* rawPixels, double usage, bool isDark) {
+  const auto& colours = ColoursOn(isDark);
+  DrawBar(rawPixels, ColumnBehind(usage), kCPUUsedSegment, kCPUEmptySegment, colours.empty,
+          [&](int, int) { return colours.cpu; });
 }
 
-void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures) {
+void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool isDark) {
+  const auto& colours = ColoursOn(isDark);
   const auto physical = figures.physicalBytes != 0 ? figures.physicalBytes : 1;
   const auto used = std::clamp<std::int64_t>(figures.usedBytes, 0, std::max(physical, {}));
   const auto shareOf = [&](std::int64_t bytes) {
@@ -79,10 +95,10 @@ void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures) {
   const int activeEnd = std::max(kBarLeft, ColumnBehind(shareOf(used - figures.inactiveBytes)));
   const int wiredEnd = std::max(kBarLeft, ColumnBehind(shareOf(figures.wiredBytes)));
   DrawBar(rawPixels, ColumnBehind(shareOf(used)), kMemoryUsedSegment, kMemoryEmptySegment,
-          [=](int x, int y) {
-            if (x < wiredEnd) return (100 + x - y) % 5 >= 3 ? kMemoryYellowStripe : kMemoryRed;
-            if (x > activeEnd) return (x + y) % 5 <= 2 ? kMemoryPinkStripe : kMemoryRed;
-            return kMemoryRed;
+          colours.empty, [&](int x, int y) {
+            if (x < wiredEnd) return (100 + x - y) % 5 >= 3 ? colours.wiredStripe : colours.memory;
+            if (x > activeEnd) return (x + y) % 5 <= 2 ? colours.inactiveStripe : colours.memory;
+            return colours.memory;
           });
 }
 

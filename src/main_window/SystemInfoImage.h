@@ -19,13 +19,14 @@ using SystemInfoImage =
 /// Draw a bar of 58 x 12 pixels into 5120 bytes, over whatever they hold. A null buffer fails
 /// "rawPixels != NULL" of the unit VQTarvMainWindowInfoSynch. Any thread.
 
-/// Blue from the left for what is used, from 0 to 1, grey for the rest.
-void DrawCPUGauge(std::uint8_t* rawPixels, double usage);
+/// Blue from the left for what is used, from 0 to 1, grey for the rest. On a dark window both have
+/// colours that are seen there.
+void DrawCPUGauge(std::uint8_t* rawPixels, double usage, bool isDark);
 
 /// Red from the left for what is used, with stripes over the wired memory at its left and the
 /// inactive at its right, grey for what is free. Figures that contradict each other are made to
 /// fit.
-void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures);
+void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool isDark);
 
 struct SystemFigures;
 

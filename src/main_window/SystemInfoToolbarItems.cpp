@@ -10,6 +10,7 @@
 #include "platform/Machine.h"
 #include "preferences/LessMotion.h"
 #include "preferences/Settings.h"
+#include "windows/Contrast.h"
 
 namespace lurkwell {
 namespace {
@@ -52,7 +53,7 @@ void VQTarvMainWindowInfoSynch::ShowCPU() {
   auto* toolbar = mOwner.visibleToolbar();
   if (toolbar == nullptr) return;
   SystemInfoImage image;
-  DrawCPUGauge(image.data(), mUsage);
+  DrawCPUGauge(image.data(), mUsage, IsDark(toolbar->palette()));
   toolbar->ShowGauge(kToolbarCPU, image,
                      CPUGaugeText(mUsage, TheMachine().hostStatistics.Processors()));
 }
@@ -65,7 +66,7 @@ void VQTarvMainWindowInfoSynch::ShowMemory() {
   auto* toolbar = mOwner.visibleToolbar();
   if (toolbar == nullptr) return;
   SystemInfoImage image;
-  DrawMemoryGauge(image.data(), mFigures);
+  DrawMemoryGauge(image.data(), mFigures, IsDark(toolbar->palette()));
   toolbar->ShowGauge(kToolbarMemory, image, MemoryGaugeText(mFigures));
 }
 

@@ -143,6 +143,11 @@ TEST_F(CellsTest, StripesAndGridCoverTheWholeView) {
 }
 
 TEST_F(CellsTest, OnADarkGroundStripesBarsAndTextsStayReadable) {
+  // Other tests of the program have their own ground.
+  struct Restored {
+    ~Restored() { QApplication::setPalette(before); }
+    QPalette before = QApplication::palette();
+  } const restored;
   machine.processTable.Birth(300, "p");
   QPalette dark(QColor(46, 49, 56), QColor(36, 39, 45));
   dark.setColor(QPalette::Base, QColor(27, 29, 34));

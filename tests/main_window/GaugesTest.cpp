@@ -4,6 +4,7 @@
 #include "main_window/SystemInfoImage.h"
 #include "main_window/ToolbarGauge.h"
 #include "support/OpenChannel.h"
+#include "windows/Contrast.h"
 #include "windows/SystemFigures.h"
 
 namespace lurkwell {
@@ -29,7 +30,7 @@ std::vector<std::string> RowsOf(const SystemInfoImage& image) {
 SystemInfoImage CPU(double usage) {
   SystemInfoImage image;
   image.fill(77);
-  DrawCPUGauge(image.data(), usage);
+  DrawCPUGauge(image.data(), usage, false);
   return image;
 }
 
@@ -37,7 +38,7 @@ SystemInfoImage Memory(std::int64_t physical, std::int64_t used, std::int64_t wi
                        std::int64_t inactive) {
   SystemInfoImage image;
   image.fill(77);
-  DrawMemoryGauge(image.data(), {physical, used, wired, inactive, 0});
+  DrawMemoryGauge(image.data(), {physical, used, wired, inactive, 0}, false);
   return image;
 }
 
@@ -81,6 +82,22 @@ TEST(GaugeImageTest, FiguresThatContradictEachOtherStayInTheBar) {
   EXPECT_EQ(RowsOf(Memory(0, 32, 0, 1 << 30))[5].substr(0, 13), "...RRPPPRRPPP");
 }
 
+TEST(GaugeImageTest, OnADarkWindowWhatIsUsedStandsOut) {
+  const QColor ground(38, 40, 46);
+  const auto colourAt = [](const SystemInfoImage& image, std::size_t x) {
+    const auto* pixel = &image[(8 * 64 + x) * 4];
+    return QColor(pixel[0], pixel[1], pixel[2]);
+  };
+  SystemInfoImage cpu;
+  DrawCPUGauge(cpu.data(), 0.5, true);
+  SystemInfoImage memory;
+  DrawMemoryGauge(memory.data(), {64, 32, 0, 0, 0}, true);
+  for (const auto& image : {cpu, memory}) {
+    EXPECT_GE(ContrastBetween(colourAt(image, 10), ground), kMarkContrast);
+    EXPECT_GE(ContrastBetween(colourAt(image, 10), colourAt(image, 50)), kMarkContrast);
+  }
+}
+
 class GaugesTest : public MainWindowTest {
  protected:
   ToolbarGauge& Gauge(const char* identifier) {
@@ -102,11 +119,13 @@ class GaugesTest : public MainWindowTest {
 
   /// What the light shows: green, yellow, red, or the other red as Red.
   std::string Light() {
+    // A triangle has less of its colour than a disc has.
+    constexpr int kMarked = 30;
     std::string shown;
     for (const auto& [colour, name] :
          {std::pair{0xff2fae66U, "green"}, std::pair{0xffe6b01eU, "yellow"},
           std::pair{0xfff0483aU, "red"}, std::pair{0xff7d1f1aU, "Red"}})
-      if (PixelsOf(kToolbarPageouts, colour) > 50) shown += name;
+      if (PixelsOf(kToolbarPageouts, colour) > kMarked) shown += name;
     return shown;
   }
 

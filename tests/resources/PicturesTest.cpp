@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QPainter>
 #include <QUiLoader>
+#include <cstddef>
 #include <memory>
+#include <vector>
 
 #include "resources/Resources.h"
 
@@ -73,6 +75,25 @@ TEST(PicturesTest, WhatTheWindowsShowByNameIsThere) {
     return qGray(Drawn(NamedImage(name), 20, 1, kLight).pixel(10, 12));
   };
   EXPECT_GT(middle("vm_red1") - middle("vm_red2"), 50);
+}
+
+TEST(PicturesTest, TheLightsHaveShapesOfTheirOwnBesideTheirColours) {
+  const auto outline = [](const char* name) {
+    const auto image = Drawn(NamedImage(name), 40, 1, kLight);
+    std::vector<bool> inside;
+    for (int at = 0; at < 40 * 40; ++at) inside.push_back(image.pixel(at % 40, at / 40) != kLight);
+    return inside;
+  };
+  const auto count = [&](const char* one, const char* other) {
+    const auto first = outline(one);
+    const auto second = outline(other);
+    int different = 0;
+    for (std::size_t at = 0; at < first.size(); ++at) different += first[at] != second[at];
+    return different;
+  };
+  EXPECT_GT(count("vm_green", "vm_yellow"), 80);
+  EXPECT_GT(count("vm_yellow", "vm_red1"), 80);
+  EXPECT_GT(count("vm_green", "vm_red1"), 40);
 }
 
 TEST(FormsTest, TheAboutPanelLoadsWithItsLabels) {
