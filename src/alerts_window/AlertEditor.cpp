@@ -29,6 +29,10 @@ QLabel* WrappedLabel(const QString& text = {}) {
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  // A form gives its whole width to nothing less.
+  auto policy = label->sizePolicy();
+  policy.setHorizontalPolicy(QSizePolicy::Expanding);
+  label->setSizePolicy(policy);
   return label;
 }
 

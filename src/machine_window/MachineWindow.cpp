@@ -28,7 +28,8 @@ constexpr char kMinutesKey[] = "MACHINE_WINDOW_MINUTES";
 constexpr char kIsOpenKey[] = "DEFAULT_SHOW_MACHINE_WINDOW";
 constexpr int kSpansInMinutes[] = {1, 5, 15, 30, 60};
 constexpr int kUsualMinutes = 5;
-constexpr QSize kFirstSize(1060, 740);
+/// Legends of two rates have room in one line.
+constexpr QSize kFirstSize(1200, 760);
 constexpr QSize kLeastSize(560, 380);
 constexpr double kLeastRate = 1024;
 /// Pressure below that is nothing that anybody feels.

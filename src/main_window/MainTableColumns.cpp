@@ -27,6 +27,8 @@ constexpr int kSmallestBarWidth = 110;
 constexpr int kWidestFirstName = 440;
 /// Where there are many columns, figures are worth more than the ends of names.
 constexpr int kNarrowestFirstName = 150;
+/// Points beside the columns that nobody has left on purpose.
+constexpr int kNearlyFull = 12;
 const KeyId kCommandLine = InternKey("pid_command_line");
 /// "Nov 22 09:00:00 2026", in characters as wide as they are counted when a date is fitted.
 constexpr int kDateLength = 20;
@@ -210,17 +212,45 @@ int vqMainTableController::widthForColumn(KeyId key, const QString& title) const
   return isBar ? std::max(width, kSmallestBarWidth) : width;
 }
 
+int vqMainTableController::elasticColumn() const {
+  const int line = columnIndexOf(kCommandLine);
+  return line >= 0 ? line : columnIndexOf(kMetaName);
+}
+
+int vqMainTableController::restOfWidth(int width) const {
+  return width - fTable->horizontalHeader()->length() - fTable->frameWidth() -
+         fTable->verticalScrollBar()->sizeHint().width();
+}
+
 void vqMainTableController::fillWidth(int width) {
   auto& header = *fTable->horizontalHeader();
-  const int besideColumns = fTable->verticalScrollBar()->sizeHint().width() + fTable->frameWidth();
-  const int rest = width - header.length() - besideColumns;
-  const int line = columnIndexOf(kCommandLine);
-  const int longest = line >= 0 ? line : columnIndexOf(kMetaName);
-  if (!fLayout.IsOriginal() || longest < 0) return;
-  const int wanted = header.sectionSize(longest) + rest;
+  const int rest = restOfWidth(width);
+  const int column = elasticColumn();
+  if (column < 0) return;
+  const int wanted = header.sectionSize(column) + rest;
+  if (!fLayout.IsOriginal()) {
+    // It filled a larger window.
+    if (rest < 0 && header.sectionSize(column) > kWidestFirstName)
+      header.resizeSection(column, std::max(wanted, kWidestFirstName));
+    return;
+  }
+  const bool isLine = fColumns[static_cast<std::size_t>(column)].key == kCommandLine;
   header.resizeSection(
-      longest, std::clamp(wanted, std::min(kNarrowestFirstName, header.sectionSize(longest)),
-                          line >= 0 ? std::max(wanted, kNarrowestFirstName) : kWidestFirstName));
+      column, std::clamp(wanted, std::min(kNarrowestFirstName, header.sectionSize(column)),
+                         isLine ? std::max(wanted, kNarrowestFirstName) : kWidestFirstName));
+}
+
+void vqMainTableController::followWidth(int before, int width) {
+  const int column = elasticColumn();
+  if (column < 0) return;
+  auto& header = *fTable->horizontalHeader();
+  const int size = header.sectionSize(column);
+  const int former = restOfWidth(before);
+  const bool filled = former >= 0 && former <= kNearlyFull;
+  // It gave all that it had to a narrower window.
+  const bool gaveAll = former < 0 && size == kNarrowestFirstName;
+  if (filled || gaveAll)
+    header.resizeSection(column, std::max(size + restOfWidth(width), kNarrowestFirstName));
 }
 
 // ---- Sets of columns ----------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
@@ -429,6 +430,13 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
 void MainWindow::LookWhetherSeen() {
   mController->windowIsSeen(!isMinimized() && windowHandle() != nullptr &&
                             windowHandle()->isExposed());
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  // The first one only tells of a window that was not shown yet.
+  if (event->oldSize().isValid())
+    mController->followWidth(event->oldSize().width(), event->size().width());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -63,6 +63,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:

@@ -53,8 +53,10 @@ class vqMainTableController final : public vqTableController,
   /// Takes its view and window, builds columns and toolbar, and sorts as last time. Once.
   void awakeFromNib(QMainWindow& window, StripedTableView& table);
   /// While nothing is remembered of the columns, the longest texts get the room that a window of
-  /// that width has left.
+  /// that width has left. What filled a larger window is made narrower.
   void fillWidth(int width);
+  /// The window was `before` points wide: columns that filled it fill it again.
+  void followWidth(int before, int width);
 
   // ---- The window's life ------------------------------------------------------------------------
 
@@ -289,6 +291,11 @@ class vqMainTableController final : public vqTableController,
   void turnHasEnded() override { Q_EMIT updated(); }
   void synchronizerIsGone() override { fInfoSynchronizer = nullptr; }
 
+  /// The one with the longest texts, which has what room there is; -1 without.
+  int elasticColumn() const;
+  /// What a window of that width has beside the columns and the scroll bar; negative where it has
+  /// not enough.
+  int restOfWidth(int width) const;
   void noteAgeOfColumns(bool mayAge);
   void arrangeRows();
   bool isOrderHeld() const;

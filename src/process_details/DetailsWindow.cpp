@@ -61,7 +61,7 @@ DetailsWindow::DetailsWindow(ProcessIdentity process, FillProcessMenu fillMenu)
   ShowNames();
   const auto metrics = fontMetrics();
   RestoreFrame(kDetailsFrameKey,
-               QSize(metrics.averageCharWidth() * 130, metrics.lineSpacing() * 46));
+               QSize(metrics.averageCharWidth() * 150, metrics.lineSpacing() * 46));
   AddProcessInformationClient(mClient);
   const int last = ReadInt(kDetailsPageKey);
   mPages->setCurrentIndex(std::clamp(last, 0, mPages->count() - 1));

@@ -380,13 +380,21 @@ void StripedTableView::paintEvent(QPaintEvent* event) {
   }
   QTableView::paintEvent(event);
   QPainter painter(viewport());
+  const bool hasRows = model() != nullptr && model()->rowCount() > 0;
+  if (!hasRows && !mEmptyText.isEmpty()) return DrawEmptyText(painter);
   for (const auto& rect : event->region()) drawGridInClipRect(painter, rect);
-  if (mEmptyText.isEmpty() || (model() != nullptr && model()->rowCount() > 0)) return;
-  // The stripes go on behind it.
+}
+
+/// The stripes go on behind it; lines between columns would run through the words.
+void StripedTableView::DrawEmptyText(QPainter& painter) const {
   const int margin = 2 * fontMetrics().height();
-  const auto place = viewport()->rect().adjusted(margin, margin, -margin, -margin);
+  const auto room = viewport()->rect().adjusted(margin, margin, -margin, -margin);
+  constexpr int kHow = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+  auto place = painter.boundingRect(room, kHow, mEmptyText);
+  // Where it is looked for: a little above the middle.
+  place.moveTop(room.top() + std::max(room.height() - place.height(), 0) / 3);
   painter.setPen(palette().color(QPalette::Text));
-  painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, mEmptyText);
+  painter.drawText(place, kHow, mEmptyText);
 }
 
 void StripedTableView::setEmptyText(const QString& text) {

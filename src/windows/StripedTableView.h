@@ -104,6 +104,7 @@ class StripedTableView : public QTableView, public InterfaceMaker, public Spoken
  private:
   void highlightSelectionInClipRect(QPainter& painter, const QRect& clip) const;
   void drawGridInClipRect(QPainter& painter, const QRect& clip) const;
+  void DrawEmptyText(QPainter& painter) const;
   void ShowMenuForKey();
   bool RowMatches(int row, const QString& text) const;
   bool IsSearching() const;

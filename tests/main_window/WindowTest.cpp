@@ -26,6 +26,15 @@ TEST_F(WindowTest, ComesBackWhereItWasIfThatCanBeSeen) {
   auto& header = *window->table().horizontalHeader();
   EXPECT_LE(header.length(), window->table().viewport()->width());
   EXPECT_GT(header.length() + 40, window->table().viewport()->width()) << "the first start's";
+  const auto fills = [&] {
+    QApplication::processEvents();
+    const int rest = window->table().viewport()->width() - header.length();
+    return rest >= 0 && rest < 40;
+  };
+  for (const int width : {1400, 1000, 500, 1200}) {
+    window->resize(width, 500);
+    EXPECT_EQ(fills(), width != 500) << width << ": a name needs some room";
+  }
   header.resizeSection(ColumnOf("meta_name"), 120);
   window->setGeometry(100, 80, 500, 400);
   QApplication::processEvents();
