@@ -36,4 +36,4 @@ def run(options):
     return {"goals": [goal("growth, KiB", f"at most {GROWTH}", str(growth), growth <= GROWTH),
                       goal("the last hour's beats to the first's", f"at most {SLOWER}", str(slower),
                            slower <= SLOWER)],
-            "tables": [table("", ["hour", "ms of a beat", "mean", "KiB in use", "KiB resident"], rows)]}
+            "tables": [table("Hours", ["hour", "ms of a beat", "mean", "KiB in use", "KiB resident"], rows)]}

@@ -37,4 +37,4 @@ def run(options):
     return {"goals": [goal("different states of the disk", f"at least {grouped(LEAST)}",
                            grouped(states), states >= LEAST),
                       goal("states with something else than was written", "0", str(lost), lost == 0)],
-            "tables": [table("", ["what holds", "states", "failures"], rows)]}
+            "tables": [table("Cuts", ["what holds", "states", "failures"], rows)]}
