@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 #include "platform/Assertion.h"
 #include "platform/Diagnostics.h"
@@ -15,10 +16,10 @@ namespace {
 
 constexpr char kGaugeUnit[] = "VQTarvMainWindowInfoSynch";
 
-constexpr int kBarLeft = 3;
-constexpr int kBarWidth = 58;
-constexpr int kBarTop = 4;
-constexpr int kBarBottom = 16;
+constexpr int kBarLeft = kSystemInfoBar.left();
+constexpr int kBarWidth = kSystemInfoBar.width();
+constexpr int kBarTop = kSystemInfoBar.top();
+constexpr int kBarBottom = kSystemInfoBar.bottom() + 1;
 
 using Colour = std::array<std::uint8_t, 4>;
 struct GaugeColours {
@@ -100,6 +101,19 @@ void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool
             if (x > activeEnd) return (x + y) % 5 <= 2 ? colours.inactiveStripe : colours.memory;
             return colours.memory;
           });
+}
+
+int UsedColumnsEnd(const SystemInfoImage& image) {
+  const auto* row = image.data() + std::ptrdiff_t{4} * kBarTop * kSystemInfoImageWidth;
+  const auto isEmpty = [row](int column) {
+    const auto* pixel = row + std::ptrdiff_t{4} * column;
+    return std::ranges::any_of(std::array{kOnLight.empty, kOnDark.empty}, [&](const Colour& empty) {
+      return std::equal(empty.begin(), empty.end(), pixel);
+    });
+  };
+  int end = kBarLeft;
+  while (end < kBarLeft + kBarWidth && !isEmpty(end)) ++end;
+  return end;
 }
 
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 #include <array>
 #include <cstdint>
@@ -10,6 +11,9 @@ struct SystemFigures;
 
 inline constexpr int kSystemInfoImageWidth = 64;
 inline constexpr int kSystemInfoImageHeight = 20;
+
+/// Where the bar is in it.
+inline constexpr QRect kSystemInfoBar(3, 4, 58, 12);
 
 /// A picture of 64 x 20 pixels: red, green, blue, alpha of a byte each, rows from top to bottom.
 /// What a gauge does not draw stays transparent.
@@ -29,6 +33,9 @@ void DrawCPUGauge(std::uint8_t* rawPixels, double usage, bool isDark);
 void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool isDark);
 
 struct SystemFigures;
+
+/// The column behind what is used, of a picture that was drawn so.
+int UsedColumnsEnd(const SystemInfoImage& image);
 
 /// What the gauges show, in words, for those who want to know exactly or cannot see them. Main
 /// thread.

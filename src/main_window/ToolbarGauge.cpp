@@ -1,10 +1,12 @@
 #include "main_window/ToolbarGauge.h"
 
+#include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionToolButton>
 
 #include "resources/Resources.h"
+#include "windows/Contrast.h"
 
 namespace lurkwell {
 
@@ -17,6 +19,12 @@ ToolbarGauge::ToolbarGauge(QSize size, int iconHeight, const QString& label, con
   ServeAssistivePrograms();
   setAutoRaise(true);
   setFocusPolicy(Qt::NoFocus);
+}
+
+void ToolbarGauge::changeEvent(QEvent* event) {
+  // The next update draws in the new colours.
+  if (event->type() == QEvent::PaletteChange) mShown.clear();
+  QToolButton::changeEvent(event);
 }
 
 bool ToolbarGauge::IsShown(const QByteArray& picture) {
@@ -32,7 +40,29 @@ void ToolbarGauge::ShowImage(const SystemInfoImage& image) {
   const QImage pixels(image.data(), kSystemInfoImageWidth, kSystemInfoImageHeight,
                       qsizetype{4} * kSystemInfoImageWidth, QImage::Format_RGBA8888);
   // Without smoothing: each pixel of the picture becomes a square, or is left alone.
-  Show(QPixmap::fromImage(pixels.scaled((QSizeF(mSize) * mScale).toSize())));
+  auto picture = QPixmap::fromImage(pixels.scaled((QSizeF(mSize) * mScale).toSize()));
+  DrawMarks(picture, UsedColumnsEnd(image));
+  Show(picture);
+}
+
+void ToolbarGauge::DrawMarks(QPixmap& picture, int end) const {
+  // The colours of the bar tell its edges and parts from each other for those alone who see
+  // colours.
+  const auto colour =
+      FaintOn(palette().color(QPalette::WindowText), palette().color(QPalette::Window));
+  QPainter painter(&picture);
+  painter.scale(static_cast<double>(picture.width()) / kSystemInfoImageWidth,
+                static_cast<double>(picture.height()) / kSystemInfoImageHeight);
+  const auto frame = kSystemInfoBar.adjusted(-1, -1, 1, 1);
+  const int above = frame.top();
+  const int below = frame.bottom();
+  painter.fillRect(QRect(frame.left(), above, frame.width(), 1), colour);
+  painter.fillRect(QRect(frame.left(), below, frame.width(), 1), colour);
+  painter.fillRect(QRect(frame.left(), above, 1, frame.height()), colour);
+  painter.fillRect(QRect(frame.right(), above, 1, frame.height()), colour);
+  // Where what is used ends.
+  painter.fillRect(QRect(end - 1, 0, 2, above), colour);
+  painter.fillRect(QRect(end - 1, below + 1, 2, kSystemInfoImageHeight - below - 1), colour);
 }
 
 void ToolbarGauge::ShowNamedImage(const char* name) {

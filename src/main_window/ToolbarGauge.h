@@ -26,12 +26,15 @@ class ToolbarGauge final : public QToolButton, public FigureSpeaker {
   QString SpokenFigures() const override { return mFigures; }
 
  protected:
+  void changeEvent(QEvent* event) override;
   void initStyleOption(QStyleOptionToolButton* option) const override;
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
   /// A picture of so many points, in the middle of the room for it.
   void Show(const QPixmap& picture);
+  /// Round a bar, and where what is used ends.
+  void DrawMarks(QPixmap& picture, int end) const;
   bool IsShown(const QByteArray& picture);
 
   QSize mSize;

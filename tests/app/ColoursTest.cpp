@@ -2,14 +2,25 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
+#include <functional>
+#include <map>
 #include <tuple>
+#include <utility>
+#include <vector>
 
+#include "animated_view/LabelPicture.h"
 #include "app/WindowMode.h"
+#include "main_window/SystemInfoImage.h"
+#include "main_window/ToolbarGauge.h"
+#include "resources/Resources.h"
 #include "windows/Contrast.h"
 #include "windows/CustomCells.h"
 #include "windows/GraphPlot.h"
+#include "windows/SystemFigures.h"
 
 namespace lurkwell {
 namespace {
@@ -92,6 +103,85 @@ TEST_P(ColoursTest, LinesOfGraphsCanBeSeen) {
   for (std::size_t series = 0; series < 6; ++series)
     Expect("line", LookOfSeries(series, IsDark(Palette())).colour, Palette().color(QPalette::Base),
            kMarkContrast);
+}
+
+QImage PictureOf(const QIcon& icon, const QColor& ground) {
+  constexpr int kSize = 96;
+  QImage image(kSize, kSize, QImage::Format_RGB32);
+  image.fill(ground);
+  QPainter(&image).drawPixmap(image.rect(), icon.pixmap(kSize));
+  return image;
+}
+
+/// The share of pixels that everybody sees upon that colour.
+double Seen(const QImage& image, const QColor& ground) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      count += ContrastBetween(image.pixelColor(x, y), ground) >= kMarkContrast;
+  return static_cast<double>(count) / (image.width() * image.height());
+}
+
+TEST_P(ColoursTest, PicturesAndBadgesCanBeSeen) {
+  const auto ground = Palette().color(QPalette::Window);
+  auto names = QDir(QStringLiteral(":/images")).entryList({QStringLiteral("*.svg")});
+  // Grounds of other pictures, and an empty place.
+  for (const char* name : {"qvbackground.svg", "qvdefault.svg", "toolbar_space.svg"})
+    EXPECT_TRUE(names.removeOne(QLatin1String(name))) << name;
+  for (const auto& name : names)
+    EXPECT_GE(Seen(PictureOf(NamedImage(name.chopped(4).toUtf8()), ground), ground), 0.04)
+        << qPrintable(name);
+  for (const char* name : {"process_halted", "process_niced_high", "process_niced_low"}) {
+    for (const auto& stripe :
+         {EvenStripe(Palette()), OddStripe(Palette()), Palette().color(QPalette::Highlight)})
+      EXPECT_GE(Seen(PictureOf(NamedImage(name), stripe), stripe), 0.15)
+          << name << " on " << stripe.name().toStdString();
+    // The sign upon its ground, beside which the picture ends.
+    const auto image = PictureOf(NamedImage(name), ground);
+    const auto disc = image.pixelColor(image.width() / 6, image.height() / 2);
+    EXPECT_GE(Seen(image.copy(image.rect().adjusted(26, 26, -26, -26)), disc), 0.2) << name;
+  }
+}
+
+TEST_P(ColoursTest, GaugesTellTheirFiguresWithoutColours) {
+  const bool isDark = IsDark(Palette());
+  const auto picture = [isDark](bool isMemory, double share) {
+    ToolbarGauge gauge({kSystemInfoImageWidth, kSystemInfoImageHeight}, 24, "Name", "Tip");
+    SystemInfoImage image;
+    if (isMemory)
+      DrawMemoryGauge(image.data(), {1000, static_cast<std::int64_t>(1000 * share), 0, 0, 0},
+                      isDark);
+    else
+      DrawCPUGauge(image.data(), share, isDark);
+    gauge.ShowImage(image);
+    gauge.resize(gauge.sizeHint());
+    return gauge.grab().toImage();
+  };
+  for (const bool isMemory : {false, true}) {
+    const auto empty = picture(isMemory, 0);
+    EXPECT_GE(Seen(empty, Palette().color(QPalette::Window)) * empty.width() * empty.height(), 140)
+        << "the frame of the bar";
+    const auto low = picture(isMemory, 0.25);
+    const auto high = picture(isMemory, 0.75);
+    int changed = 0;
+    for (int y = 0; y < low.height(); ++y)
+      for (int x = 0; x < low.width(); ++x)
+        changed += ContrastBetween(low.pixelColor(x, y), high.pixelColor(x, y)) >= kMarkContrast;
+    EXPECT_GE(changed, 20) << isMemory;
+  }
+}
+
+TEST(ContrastTest, NamesInTheAnimatedViewCanBeRead) {
+  const auto label = ConvertCStringToNSImage("name", true, 2);
+  ASSERT_NE(label, nullptr);
+  std::map<QRgb, int> counts;
+  for (const auto pixel : label->pixels)
+    if (qAlpha(pixel) == 255) ++counts[pixel];
+  std::vector<std::pair<int, QRgb>> ordered;
+  for (const auto& [colour, count] : counts) ordered.emplace_back(count, colour);
+  std::ranges::sort(ordered, std::greater());
+  ASSERT_GE(ordered.size(), 2U);
+  EXPECT_GE(ContrastBetween(QColor(ordered[0].second), QColor(ordered[1].second)), kTextContrast);
 }
 
 TEST(ContrastTest, CountsAsTheGuidelinesDo) {
