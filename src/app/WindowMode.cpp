@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QSessionManager>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QThread>
 #include <QTimer>
@@ -25,6 +26,7 @@
 #include "preferences_window/AllSettings.h"
 #include "preferences_window/PreferencesUI.h"
 #include "resources/Resources.h"
+#include "windows/FocusStyle.h"
 
 namespace lurkwell {
 namespace {
@@ -167,8 +169,11 @@ class Photographer : public QObject {
 }  // namespace
 
 void ApplyTheme(CommandLine::Theme theme) {
-  if (theme == CommandLine::Theme::kSystem) return;
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  const bool isSystems = theme == CommandLine::Theme::kSystem;
+  const auto fusion = QStringLiteral("Fusion");
+  if (!isSystems || QApplication::style()->name().compare(fusion, Qt::CaseInsensitive) == 0)
+    QApplication::setStyle(new FocusStyle(QStyleFactory::create(fusion)));
+  if (isSystems) return;
   QApplication::setPalette(theme == CommandLine::Theme::kDark ? DarkPalette() : LightPalette());
   if (theme != CommandLine::Theme::kDark) return;
   // The style draws an empty box by its ground alone.

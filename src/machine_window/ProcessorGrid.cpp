@@ -13,6 +13,7 @@
 
 #include "resources/Resources.h"
 #include "windows/CustomCells.h"
+#include "windows/FocusStyle.h"
 #include "windows/GraphPlot.h"
 #include "windows/GraphScale.h"
 
@@ -152,6 +153,8 @@ void ProcessorGrid::paintEvent(QPaintEvent*) {
   painter.setFont(font());
   painter.drawText(header.adjusted(left, 0, 0, 0), Qt::AlignLeft | Qt::AlignTop, figures());
   for (std::size_t i = 0; i < mProcessors.size(); ++i) DrawCell(painter, i);
+  if (!mChosen && ShowsFocus(*this))
+    DrawFocusFrame(painter, Area(), palette(), palette().color(QPalette::Base));
 }
 
 void ProcessorGrid::DrawCell(QPainter& painter, std::size_t place) const {
@@ -191,10 +194,7 @@ void ProcessorGrid::DrawCell(QPainter& painter, std::size_t place) const {
     painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, shown);
   }
   if (mChosen != place || !hasFocus()) return;
-  const PixelGrid grid(painter);
-  painter.setPen(grid.Pen(palette().color(QPalette::Highlight), grid.WholeWidth(2)));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(cell.adjusted(1, 1, -1, -1));
+  DrawFocusFrame(painter, cell, palette(), palette().color(QPalette::Base));
 }
 
 bool ProcessorGrid::event(QEvent* event) {

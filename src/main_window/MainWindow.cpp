@@ -4,12 +4,10 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QPainter>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
-#include <QStyle>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -31,7 +29,9 @@
 #include "resources/UserLocale.h"
 #include "windows/FrontmostWindow.h"
 #include "windows/HelpKey.h"
+#include "windows/LinkLabel.h"
 #include "windows/PropertyText.h"
+#include "windows/UpdatedLabel.h"
 #include "windows/WindowFrame.h"
 
 namespace lurkwell {
@@ -40,27 +40,6 @@ namespace {
 constexpr char kFrameKey[] = "MAIN_WINDOW_FRAME";
 constexpr QSize kFirstSize(860, 560);
 constexpr int kMessageMilliseconds = 15'000;
-
-/// What does not fit has dots at its end, and stands in the tooltip.
-class CountsLabel final : public QLabel {
- public:
-  using QLabel::QLabel;
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    const auto place = contentsRect();
-    style()->drawItemText(&painter, place, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideRight, place.width()),
-                          foregroundRole());
-  }
-};
-
-QLabel* AddLabel(QStatusBar& bar, QLabel* label, int stretch) {
-  label->setTextFormat(Qt::PlainText);
-  bar.addWidget(label, stretch);
-  return label;
-}
 
 }  // namespace
 
@@ -128,20 +107,16 @@ void MainWindow::BuildContents() {
   layout->addWidget(mFilterBar);
   layout->addWidget(mTable);
   setCentralWidget(contents);
-  mCounts = AddLabel(*statusBar(), new CountsLabel(statusBar()), 1);
+  mCounts = new UpdatedLabel(statusBar());
+  statusBar()->addWidget(mCounts, 1);
   // Where the texts of the table's first column begin. A long text is no reason for a wider window.
   mCounts->setContentsMargins(TextCell::kWidthBesideText / 2, 0, 0, 0);
   mCounts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  mHelper = AddLabel(*statusBar(), new QLabel(statusBar()), 0);
   // A message takes the place of the counts alone.
-  statusBar()->removeWidget(mHelper);
+  mHelper = new LinkLabel(statusBar());
   statusBar()->addPermanentWidget(mHelper);
-  mHelper->show();
-  mRecording = new QLabel(statusBar());
-  mRecording->setTextFormat(Qt::PlainText);
+  mRecording = new UpdatedLabel(statusBar());
   statusBar()->addPermanentWidget(mRecording);
-  mHelper->setTextFormat(Qt::RichText);
-  mHelper->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   connect(mHelper, &QLabel::linkActivated, this, &MainWindow::AskAboutHelper);
   for (auto* widget :
        {static_cast<QWidget*>(&mFilterBar->field()), static_cast<QWidget*>(mTable)}) {
@@ -252,7 +227,7 @@ void MainWindow::LookAtHelper() {
                      : status.rights == DaemonRights::kOwn ? "main_window_helper_unprivileged"
                                                            : "";
   mHelperRemark = *text != 0 ? LocalizedString(text) : QString();
-  mHelper->setText(mHelperRemark);
+  mHelper->Show(mHelperRemark);
   mHelper->setToolTip(QTextDocumentFragment::fromHtml(mHelperRemark).toPlainText());
 }
 
@@ -262,12 +237,12 @@ void MainWindow::FitHelperRemark() {
   const auto link = mHelperRemark.indexOf(QLatin1String("<a "));
   // The two share what the others leave, however it is divided.
   const bool fits = link < 0 || needed <= mCounts->width() + mHelper->width();
-  mHelper->setText(fits ? mHelperRemark : mHelperRemark.mid(link));
+  mHelper->Show(fits ? mHelperRemark : mHelperRemark.mid(link));
 }
 
 void MainWindow::LookAtRecording() {
   const auto text = mCommands.recordingStatus();
-  mRecording->setText(text);
+  mRecording->Show(text);
   mRecording->setVisible(!text.isEmpty());
 }
 
@@ -353,21 +328,20 @@ void MainWindow::UpdateStatus() {
   const auto processes = static_cast<qint64>(mController->pidEntries().size());
   const auto matches = static_cast<qint64>(mController->countOfMatches());
   const auto what = WhatIsShown();
+  auto text = HowItIsHeld();
   if (what.isEmpty())
-    mCounts->setText(HowItIsHeld() + LocalizedString("main_window_status_counts", processes)
-                                         .arg(LocalNumber(matches), LocalNumber(selected)));
+    text += LocalizedString("main_window_status_counts", processes)
+                .arg(LocalNumber(matches), LocalNumber(selected));
   else
-    mCounts->setText(HowItIsHeld() + LocalizedString("main_window_status_some", processes)
-                                         .arg(LocalNumber(matches), what, LocalNumber(selected)));
+    text += LocalizedString("main_window_status_some", processes)
+                .arg(LocalNumber(matches), what, LocalNumber(selected));
   if (selected > 0) {
     const auto totals = mController->selectionTotals();
-    mCounts->setText(mCounts->text() +
-                     LocalizedString("main_window_status_totals")
-                         .arg(LocalNumber(NumberOf(totals.share) * 100.0, 'f', 1),
-                              DisplayText(kPropertyTypeMemory, totals.memory, 0, 0)));
+    text += LocalizedString("main_window_status_totals")
+                .arg(LocalNumber(NumberOf(totals.share) * 100.0, 'f', 1),
+                     DisplayText(kPropertyTypeMemory, totals.memory, 0, 0));
   }
-  // What does not fit can be read all the same.
-  mCounts->setToolTip(mCounts->text());
+  mCounts->Show(text);
   FitHelperRemark();
   const auto notAllowed = mController->filterGaps().notAllowed;
   mFilterBar->setRemark(notAllowed > 0 ? LocalizedString("filter_not_allowed").arg(notAllowed)

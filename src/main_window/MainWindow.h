@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
 #include <functional>
@@ -20,6 +19,9 @@
 class QToolButton;
 
 namespace lurkwell {
+
+class LinkLabel;
+class UpdatedLabel;
 
 /// The window with the process table: menus, the filter's field, the table, and a line that counts
 /// rows and tells how the helper is. Remembers its size and place. Main thread only.
@@ -136,11 +138,11 @@ class MainWindow : public QMainWindow, private WindowCommands {
   std::vector<Switcher> mSwitchers;
   /// Asked for before the processes were known; kInvalidPID for none.
   std::int32_t mAwaitedPid = kInvalidPID;
-  QLabel* mCounts = nullptr;
-  QLabel* mHelper = nullptr;
+  UpdatedLabel* mCounts = nullptr;
+  LinkLabel* mHelper = nullptr;
   /// What it says where there is room.
   QString mHelperRemark;
-  QLabel* mRecording = nullptr;
+  UpdatedLabel* mRecording = nullptr;
   DaemonRights mShownRights = DaemonRights::kStarting;
   /// Why there are no more rights, while that is shown.
   std::unique_ptr<Alert> mAboutHelper;

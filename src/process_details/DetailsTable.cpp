@@ -4,33 +4,48 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QHeaderView>
-#include <QProxyStyle>
+#include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "resources/Resources.h"
 #include "windows/ClearButton.h"
+#include "windows/FocusStyle.h"
 
 namespace lurkwell {
 namespace {
 
 /// Room around the cells, as in the table of processes: figures and the names beside them are not
 /// to run into each other.
-class RoomyStyle final : public QProxyStyle {
+class RoomyStyle final : public FocusStyle {
  public:
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
-    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    const int usual = FocusStyle::pixelMetric(metric, option, widget);
     return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? usual + kRoom : usual;
   }
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override {
-    const auto usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto usual = FocusStyle::sizeFromContents(type, option, size, widget);
     return type == CT_ItemViewItem ? usual + QSize(0, kRoom) : usual;
   }
 
  private:
   static constexpr int kRoom = 4;
+};
+
+/// Why there is no table; read by keys, too.
+class ReasonLabel final : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    if (ShowsFocus(*this))
+      DrawFocusFrame(painter, rect(), palette(), palette().color(backgroundRole()));
+  }
 };
 
 }  // namespace
@@ -42,7 +57,7 @@ DetailsTable::DetailsTable(const QString& title, std::span<const DetailsColumn> 
       mSorting(new DetailsSorting(*mModel, this)),
       mFilter(new QLineEdit(this)),
       mView(new QTreeView(this)),
-      mNotice(new QLabel(this)),
+      mNotice(new ReasonLabel(this)),
       mFooter(new QLabel(this)) {
   mFilter->setPlaceholderText(LocalizedString("details_filter"));
   mFilter->setAccessibleName(LocalizedString("details_filter"));

@@ -7,6 +7,10 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "platform/Clock.h"
+#include "platform/Machine.h"
+#include "preferences/Settings.h"
+
 namespace lurkwell {
 namespace {
 
@@ -90,6 +94,17 @@ void TellFiguresAreOthers(QWidget& widget) {
   if (!QAccessible::isActive()) return;
   QAccessibleEvent event(&widget, QAccessible::DescriptionChanged);
   QAccessible::updateAccessibility(&event);
+}
+
+bool UnaskedTellings::IsTime() const {
+  constexpr double kSecondsBetween = 5;
+  return QAccessible::isActive() &&
+         TheMachine().clock.AbsoluteTime() - mToldAt >= kSecondsBetween &&
+         !ReadSwitch("ACCESSIBLE_QUIET");
+}
+
+void UnaskedTellings::HasTold() {
+  mToldAt = TheMachine().clock.AbsoluteTime();
 }
 
 }  // namespace lurkwell

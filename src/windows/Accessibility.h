@@ -34,4 +34,18 @@ void ServeAssistivePrograms();
 /// they would be spoken over what the user listens to. Nothing where no assistive program listens.
 void TellFiguresAreOthers(QWidget& widget);
 
+/// When changes of one text that time brings are told, so that they are not spoken over what the
+/// user listens to. Main thread only.
+class UnaskedTellings {
+ public:
+  /// An assistive program listens, the user has not asked for quiet, and it is some seconds since
+  /// the last one.
+  bool IsTime() const;
+  /// From now on the time counts.
+  void HasTold();
+
+ private:
+  double mToldAt = 0;
+};
+
 }  // namespace lurkwell

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace lurkwell {
 namespace {
@@ -59,6 +60,38 @@ QColor FaintOn(const QColor& text, const QColor& ground) {
     lastGround = ground;
   }
   return last;
+}
+
+namespace {
+
+QColor FocusColourOn(const QPalette& palette, std::initializer_list<QColor> grounds) {
+  // Styles draw controls with shades of these grounds.
+  constexpr double kEnough = kMarkContrast + 0.4;
+  constexpr double kStep = 0.1;
+  const auto nearest = palette.color(QPalette::Highlight);
+  const auto farthest = ReadableOn(*grounds.begin());
+  for (double share = 0; share < 1; share += kStep) {
+    const auto colour = Between(nearest, farthest, share);
+    if (std::ranges::all_of(grounds, [&](const QColor& ground) {
+          return ContrastBetween(colour, ground) > kEnough;
+        }))
+      return colour;
+  }
+  return farthest;
+}
+
+}  // namespace
+
+QColor FocusColour(const QPalette& palette, const QColor& ground) {
+  return FocusColourOn(palette, {ground});
+}
+
+QColor FocusColour(const QPalette& palette) {
+  const auto button = palette.color(QPalette::Button);
+  // Dark buttons are drawn lighter than their colour.
+  constexpr int kLighter = 150;
+  return FocusColourOn(palette, {palette.color(QPalette::Window), palette.color(QPalette::Base),
+                                 IsDark(palette) ? button.lighter(kLighter) : button});
 }
 
 bool IsDark(const QPalette& palette) {

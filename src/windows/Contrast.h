@@ -23,6 +23,11 @@ QColor ReadableOn(const QColor& ground);
 /// thread.
 QColor FaintOn(const QColor& text, const QColor& ground);
 
+/// The colour for what shows that something has the keyboard: as near to the selection's as can be
+/// seen, on that ground or on all that the palette's controls have. Pure.
+QColor FocusColour(const QPalette& palette, const QColor& ground);
+QColor FocusColour(const QPalette& palette);
+
 /// Whether texts of the palette are lighter than what they stand on.
 bool IsDark(const QPalette& palette);
 

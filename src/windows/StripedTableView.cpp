@@ -9,11 +9,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/Clock.h"
-#include "platform/Machine.h"
-#include "preferences/Settings.h"
 #include "windows/Contrast.h"
 #include "windows/CustomCells.h"
+#include "windows/FocusStyle.h"
 #include "windows/RowDictionary.h"
 
 namespace lurkwell {
@@ -22,9 +20,6 @@ namespace {
 
 /// A column that is fitted to its texts may become so wide in a narrow window, too.
 constexpr int kMostFittedCharacters = 40;
-
-/// Seconds between two times that a row is told unasked.
-constexpr double kBetweenTellings = 5;
 
 QColor GridColour(const QPalette& palette) {
   return IsDark(palette) ? QColor(82, 86, 94) : QColor(Qt::lightGray);
@@ -301,10 +296,12 @@ void StripedTableView::Tell(QAccessible::Event event) {
 // The base class does nothing but tell, and counts children in a way of its own.
 void StripedTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QAbstractItemView::currentChanged(current, previous);
+  for (const auto& changed : {current, previous})
+    if (changed.isValid() && ShowsFocus(*this)) viewport()->update(RowRect(changed.row()));
   if (!QAccessible::isActive()) return;
   Tell(QAccessible::Focus);
   mTold = SpokenRow(*this, *this, current.row());
-  mToldAt = TheMachine().clock.AbsoluteTime();
+  mTellings.HasTold();
 }
 
 void StripedTableView::selectionChanged(const QItemSelection& selected,
@@ -323,10 +320,8 @@ void StripedTableView::focusInEvent(QFocusEvent* event) {
 }
 
 void StripedTableView::TellRowAgain() {
-  if (!QAccessible::isActive() || !hasFocus() || !currentIndex().isValid()) return;
-  const double now = TheMachine().clock.AbsoluteTime();
-  if (now - mToldAt < kBetweenTellings || ReadSwitch("ACCESSIBLE_QUIET")) return;
-  mToldAt = now;
+  if (!hasFocus() || !currentIndex().isValid() || !mTellings.IsTime()) return;
+  mTellings.HasTold();
   auto row = SpokenRow(*this, *this, currentIndex().row());
   if (row == mTold) return;
   mTold = std::move(row);
@@ -381,8 +376,11 @@ void StripedTableView::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   QPainter painter(viewport());
   const bool hasRows = model() != nullptr && model()->rowCount() > 0;
-  if (!hasRows && !mEmptyText.isEmpty()) return DrawEmptyText(painter);
-  for (const auto& rect : event->region()) drawGridInClipRect(painter, rect);
+  if (!hasRows && !mEmptyText.isEmpty())
+    DrawEmptyText(painter);
+  else
+    for (const auto& rect : event->region()) drawGridInClipRect(painter, rect);
+  DrawFocus(painter);
 }
 
 /// The stripes go on behind it; lines between columns would run through the words.
@@ -395,6 +393,19 @@ void StripedTableView::DrawEmptyText(QPainter& painter) const {
   place.moveTop(room.top() + std::max(room.height() - place.height(), 0) / 3);
   painter.setPen(palette().color(QPalette::Text));
   painter.drawText(place, kHow, mEmptyText);
+}
+
+QRect StripedTableView::RowRect(int row) const {
+  return {0, rowViewportPosition(row), viewport()->width(), rowHeight(row)};
+}
+
+void StripedTableView::DrawFocus(QPainter& painter) const {
+  if (!ShowsFocus(*this)) return;
+  const auto current = currentIndex();
+  const bool isSelected = current.isValid() && selectionModel()->isSelected(current);
+  const auto place = current.isValid() ? RowRect(current.row()) : viewport()->rect();
+  DrawFocusFrame(painter, place, palette(),
+                 isSelected ? palette().color(QPalette::Highlight) : EvenStripe(palette()));
 }
 
 void StripedTableView::setEmptyText(const QString& text) {

@@ -110,6 +110,9 @@ class StripedTableView : public QTableView, public InterfaceMaker, public Spoken
   bool IsSearching() const;
   /// Of the current cell.
   void Tell(QAccessible::Event event);
+  /// In the viewport.
+  QRect RowRect(int row) const;
+  void DrawFocus(QPainter& painter) const;
   void TellRowAgain();
   QModelIndex InTree(int row) const { return model()->index(row, mTreeColumn); }
   /// Whether there was an arrow, which has been served.
@@ -130,9 +133,9 @@ class StripedTableView : public QTableView, public InterfaceMaker, public Spoken
   QString mSearched;
   QElapsedTimer mSinceLastKey;
   QString mEmptyText;
-  /// What an assistive program was told of the row with the focus, and when.
+  /// What an assistive program was told of the row with the focus.
   QString mTold;
-  double mToldAt = 0;
+  UnaskedTellings mTellings;
 };
 
 }  // namespace lurkwell

@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QStringList>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -15,6 +14,7 @@
 #include "resources/Resources.h"
 #include "resources/UserLocale.h"
 #include "windows/CustomCells.h"
+#include "windows/FocusStyle.h"
 
 namespace lurkwell {
 namespace {
@@ -296,11 +296,8 @@ void TimeGraph::paintEvent(QPaintEvent*) {
 }
 
 void TimeGraph::DrawFocus(QPainter& painter) const {
-  if (!hasFocus()) return;
-  QStyleOptionFocusRect option;
-  option.initFrom(this);
-  option.rect = mPlot.area.toAlignedRect();
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+  if (ShowsFocus(*this))
+    DrawFocusFrame(painter, mPlot.area.toAlignedRect(), palette(), palette().color(QPalette::Base));
 }
 
 void TimeGraph::DrawHeader(QPainter& painter) const {

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QStyleFactory>
 #include <QTest>
 #include <QToolButton>
 #include <algorithm>
@@ -26,6 +27,8 @@
 #include "fleet_window/SignInDialog.h"
 #include "support/ConsolidatorTest.h"
 #include "support/EventLoop.h"
+#include "support/TabRound.h"
+#include "windows/FocusStyle.h"
 
 namespace lurkwell {
 namespace {
@@ -128,6 +131,8 @@ TEST_F(FleetWindowTest, ShowsTheFirstOf2000MachinesAndWhatRunsOnThem) {
   FakePrometheus server(std::ref(fleet));
   auto& window = OpenOn(server);
   ASSERT_EQ(window.Model().rowCount(), 500);
+  QApplication::setStyle(new FocusStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
+  TabRound::LookAt(window);
   EXPECT_EQ(NameAt(window, 0), "machine-0:9256");
   EXPECT_EQ(Cell(window, 0, FleetFigure::kSeen), "10 s");
   // Those that are down are last, whatever they are sorted by.

@@ -116,6 +116,16 @@ TEST_F(WindowTest, SaysHowManyThereAreAndThatTheHelperIsGone) {
   window->resize(1600, 600);
   Turn(2000);
   EXPECT_EQ(aboutHelper()->text(), whole);
+  // One stop of the Tab key, at the link, whatever text is shown meanwhile.
+  label->setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(label->hasSelectedText());
+  window->resize(window->minimumSizeHint().expandedTo({640, 480}));
+  EXPECT_TRUE(aboutHelper()->text().startsWith(QLatin1String("<a ")));
+  EXPECT_TRUE(label->hasFocus() && label->hasSelectedText());
+  QTest::keyClick(label, Qt::Key_Tab);
+  EXPECT_FALSE(label->hasFocus());
+  window->resize(1600, 600);
+  Turn(2000);
   machine.log.Clear();
   Q_EMIT label->linkActivated(QStringLiteral("rights"));
   EXPECT_NE(machine.log.Take().find("The helper cannot be given rights: "), std::string::npos);
