@@ -1,5 +1,6 @@
 // The engine on this machine's processes and its ps; only time is simulated.
 #include <fcntl.h>
+#include <sched.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -188,6 +189,9 @@ constexpr const char* kTestedElsewhere[] = {"pid_unit",      "pid_slice",     "p
 
 TEST_F(RealMachineTest, EveryFigureIsWhatItsFileSays) {
   SetPrefInt("KEEP_COMMAND_LINES", 1);
+  // Whatever the tests were started with.
+  const sched_param usual{};
+  ::sched_setscheduler(0, SCHED_OTHER, &usual);
   // Figures of different sizes, at rest.
   const ChildProgram worker(
       {"sh", "-c",
