@@ -2140,6 +2140,10 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
         <source></source>
         <translation>Sortierte Spalte sch&amp;maler</translation>
     </message>
+    <message id="menu_view_column_fit">
+        <source></source>
+        <translation>Sortierte Spalte s&amp;o breit wie ihr Inhalt</translation>
+    </message>
     <message id="menu_view_shape_list">
         <source></source>
         <translation>L&amp;iste</translation>
@@ -3263,6 +3267,10 @@ Aus /proc/PID/fd und /proc/PID/cwd; bei Prozessen anderer Benutzer nicht erlaubt
     <message id="help_menu_view_column_narrower">
         <source></source>
         <translation>schmaler machen</translation>
+    </message>
+    <message id="help_menu_view_column_fit">
+        <source></source>
+        <translation>so breit wie ihren Inhalt machen</translation>
     </message>
     <message id="help_menu_process_halt">
         <source></source>

@@ -2140,6 +2140,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
         <source></source>
         <translation>Sorted Column &amp;Narrower</translation>
     </message>
+    <message id="menu_view_column_fit">
+        <source></source>
+        <translation>Sorted Colu&amp;mn as Wide as Its Texts</translation>
+    </message>
     <message id="menu_view_shape_list">
         <source></source>
         <translation>L&amp;ist</translation>
@@ -3263,6 +3267,10 @@ From /proc/PID/fd and /proc/PID/cwd; of other users’ processes that is not all
     <message id="help_menu_view_column_narrower">
         <source></source>
         <translation>make it narrower</translation>
+    </message>
+    <message id="help_menu_view_column_fit">
+        <source></source>
+        <translation>make it as wide as its texts</translation>
     </message>
     <message id="help_menu_process_halt">
         <source></source>

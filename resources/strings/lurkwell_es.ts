@@ -2140,6 +2140,10 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
         <source></source>
         <translation>Columna ordenada más &amp;estrecha</translation>
     </message>
+    <message id="menu_view_column_fit">
+        <source></source>
+        <translation>A&amp;justar la columna ordenada al contenido</translation>
+    </message>
     <message id="menu_view_shape_list">
         <source></source>
         <translation>&amp;Lista</translation>
@@ -3263,6 +3267,10 @@ De /proc/PID/fd y /proc/PID/cwd; no está permitido para los procesos de otros u
     <message id="help_menu_view_column_narrower">
         <source></source>
         <translation>hacerla más estrecha</translation>
+    </message>
+    <message id="help_menu_view_column_fit">
+        <source></source>
+        <translation>ajustarla a su contenido</translation>
     </message>
     <message id="help_menu_process_halt">
         <source></source>

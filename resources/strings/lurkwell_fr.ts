@@ -2140,6 +2140,10 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
         <source></source>
         <translation>&amp;Rétrécir la colonne de tri</translation>
     </message>
+    <message id="menu_view_column_fit">
+        <source></source>
+        <translation>A&amp;juster la colonne de tri au contenu</translation>
+    </message>
     <message id="menu_view_shape_list">
         <source></source>
         <translation>L&amp;iste</translation>
@@ -3263,6 +3267,10 @@ D’après /proc/PID/fd et /proc/PID/cwd ; non autorisé pour les processus des
     <message id="help_menu_view_column_narrower">
         <source></source>
         <translation>la rétrécir</translation>
+    </message>
+    <message id="help_menu_view_column_fit">
+        <source></source>
+        <translation>l’ajuster à son contenu</translation>
     </message>
     <message id="help_menu_process_halt">
         <source></source>

@@ -2139,6 +2139,10 @@
         <source></source>
         <translation>並べ替え列を狭くする(&amp;N)</translation>
     </message>
+    <message id="menu_view_column_fit">
+        <source></source>
+        <translation>並べ替え列を内容に合わせる(&amp;M)</translation>
+    </message>
     <message id="menu_view_shape_list">
         <source></source>
         <translation>リスト(&amp;I)</translation>
@@ -3253,6 +3257,10 @@
     <message id="help_menu_view_column_narrower">
         <source></source>
         <translation>狭くする</translation>
+    </message>
+    <message id="help_menu_view_column_fit">
+        <source></source>
+        <translation>内容の幅に合わせる</translation>
     </message>
     <message id="help_menu_process_halt">
         <source></source>

@@ -2140,6 +2140,10 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
         <source></source>
         <translation>Coluna ordenada mais es&amp;treita</translation>
     </message>
+    <message id="menu_view_column_fit">
+        <source></source>
+        <translation>A&amp;justar a coluna ordenada ao conteúdo</translation>
+    </message>
     <message id="menu_view_shape_list">
         <source></source>
         <translation>L&amp;ista</translation>
@@ -3263,6 +3267,10 @@ De /proc/PID/fd e /proc/PID/cwd; não é permitido para processos de outros util
     <message id="help_menu_view_column_narrower">
         <source></source>
         <translation>torná-la mais estreita</translation>
+    </message>
+    <message id="help_menu_view_column_fit">
+        <source></source>
+        <translation>ajustá-la ao conteúdo</translation>
     </message>
     <message id="help_menu_process_halt">
         <source></source>

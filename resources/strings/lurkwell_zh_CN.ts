@@ -2139,6 +2139,10 @@
         <source></source>
         <translation>缩窄排序列(&amp;N)</translation>
     </message>
+    <message id="menu_view_column_fit">
+        <source></source>
+        <translation>使排序列适应内容(&amp;M)</translation>
+    </message>
     <message id="menu_view_shape_list">
         <source></source>
         <translation>列表(&amp;I)</translation>
@@ -3253,6 +3257,10 @@
     <message id="help_menu_view_column_narrower">
         <source></source>
         <translation>将其缩窄</translation>
+    </message>
+    <message id="help_menu_view_column_fit">
+        <source></source>
+        <translation>使其适应内容</translation>
     </message>
     <message id="help_menu_process_halt">
         <source></source>

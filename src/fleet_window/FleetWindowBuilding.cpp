@@ -15,6 +15,7 @@
 #include "preferences/Settings.h"
 #include "resources/Resources.h"
 #include "windows/ClearButton.h"
+#include "windows/SortMenu.h"
 
 namespace lurkwell {
 namespace {
@@ -140,6 +141,8 @@ void FleetWindow::BuildMenu() {
   };
   mOpenAction = add("fleet_open_machine", {}, [this] { OpenRow(mTable->currentIndex().row()); });
   mShellAction = add("fleet_ssh", Qt::CTRL | Qt::Key_T, [this] { OpenShell(); });
+  mMenu.addSeparator();
+  AddSortMenu(mMenu, mTable->header(), [this](int column) { SortBy(column); });
   mMenu.addSeparator();
   add("fleet_copy", QKeySequence::Copy, [this] { CopySelection(); });
   add("fleet_sign_in", {}, [this] { SignIn(); });

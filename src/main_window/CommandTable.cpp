@@ -256,6 +256,10 @@ constexpr Command kCommands[] = {
      .menu = Menu::kView,
      .keys = Keys(Qt::ALT | Qt::SHIFT | Qt::Key_Down),
      .run = SortColumn<0, -20>},
+    {.text = "menu_view_column_fit",
+     .menu = Menu::kView,
+     .keys = Keys(Qt::ALT | Qt::SHIFT | Qt::Key_Return),
+     .run = Window<&WindowCommands::fitSortColumn>},
 
     ColumnSetCommand<0>("menu_set_standard"),
     ColumnSetCommand<1>("menu_set_cpu"),

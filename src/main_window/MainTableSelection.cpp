@@ -45,6 +45,11 @@ void vqMainTableController::changeSortColumn(int places, int points) {
                        std::max(header.sectionSize(column) + points, header.minimumSectionSize()));
 }
 
+void vqMainTableController::fitSortColumn() {
+  const int column = fSortColumn == kNoKey ? -1 : columnIndexOf(fSortColumn);
+  if (column >= 0) fTable->resizeColumnToContents(column);
+}
+
 bool vqMainTableController::shouldSelectTableColumn(int column) {
   if (column < 0 || column >= columnCount()) return false;
   const KeyId key = fColumns[static_cast<std::size_t>(column)].key;

@@ -80,6 +80,7 @@ class MainWindow : public QMainWindow, private WindowCommands {
   void toggleToolbar() override;
   void customiseToolbar() override;
   void changeSortColumn(int places, int points) override;
+  void fitSortColumn() override { mController->fitSortColumn(); }
   void setShape(TableShape shape) override { mController->setShape(shape); }
   TableShape shape() const override { return mController->shape(); }
   void setScope(TableScope scope) override { mController->setScope(scope); }

@@ -20,6 +20,8 @@ class WindowCommands {
   virtual void customiseToolbar() = 0;
   /// Moves the sort column by so many places to the right and makes it so many points wider.
   virtual void changeSortColumn(int places, int points) = 0;
+  /// As a double click on the edge of its title does.
+  virtual void fitSortColumn() = 0;
   virtual void setShape(TableShape shape) = 0;
   virtual TableShape shape() const = 0;
   virtual void setScope(TableScope scope) = 0;

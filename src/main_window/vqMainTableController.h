@@ -173,6 +173,8 @@ class vqMainTableController final : public vqTableController,
   bool isSortColumn(int column) const;
   /// Moves the sort column by so many places to the right and makes it so many points wider.
   void changeSortColumn(int places, int points);
+  /// Makes the sort column as wide as its longest text, up to half of the table.
+  void fitSortColumn();
   void rememberSelection();
   void restoreSelection();
   /// In the order of the rows, without those whose processes have ended.

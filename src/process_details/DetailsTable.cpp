@@ -4,13 +4,17 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeySequence>
+#include <QMenu>
 #include <QPainter>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "resources/Resources.h"
 #include "windows/ClearButton.h"
 #include "windows/FocusStyle.h"
+#include "windows/SortMenu.h"
 
 namespace lurkwell {
 namespace {
@@ -78,6 +82,12 @@ DetailsTable::DetailsTable(const QString& title, std::span<const DetailsColumn> 
     mView->setSortingEnabled(true);
     mView->sortByColumn(sortColumn, order);
   }
+  mView->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(mView, &QWidget::customContextMenuRequested, this, &DetailsTable::ShowMenu);
+  auto* menuKey = new QShortcut(Qt::SHIFT | Qt::Key_F10, mView);
+  menuKey->setContext(Qt::WidgetShortcut);
+  connect(menuKey, &QShortcut::activated, this,
+          [this] { ShowMenu(mView->visualRect(mView->currentIndex()).bottomLeft()); });
   auto* style = new RoomyStyle;
   style->setParent(this);
   mView->setStyle(style);
@@ -159,6 +169,31 @@ bool DetailsTable::EndFilter() {
   mFilter->hide();
   TakeFocus();
   return true;
+}
+
+void DetailsTable::ShowMenu(const QPoint& place) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  auto* copy =
+      menu->addAction(LocalizedString("menu_edit_copy"), this, [this] { CopySelection(); });
+  // The window has the keys.
+  copy->setText(copy->text() + QLatin1Char('\t') +
+                QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText));
+  copy->setEnabled(mView->selectionModel()->hasSelection());
+  auto* filter =
+      menu->addAction(LocalizedString("menu_edit_filter"), this, [this] { BeginFilter(); });
+  filter->setText(filter->text() + QLatin1Char('\t') +
+                  QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
+  if (mView->isSortingEnabled())
+    AddSortMenu(*menu, *mView->header(), [this](int column) { SortBy(column); });
+  menu->popup(mView->viewport()->mapToGlobal(place));
+}
+
+void DetailsTable::SortBy(int column) {
+  const auto& header = *mView->header();
+  const bool turns =
+      header.sortIndicatorSection() == column && header.sortIndicatorOrder() == Qt::AscendingOrder;
+  mView->sortByColumn(column, turns ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void DetailsTable::CopySelection() const {

@@ -46,6 +46,10 @@ class DetailsTable final : public QWidget {
 
  private:
   void SetWidths();
+  /// At a point of the rows' part: copying, filtering, sorting.
+  void ShowMenu(const QPoint& place);
+  /// As a click on its title does.
+  void SortBy(int column);
 
   DetailsTableModel* mModel;
   DetailsSorting* mSorting;

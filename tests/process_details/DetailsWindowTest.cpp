@@ -4,6 +4,7 @@
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
 #include <QTest>
 #include <memory>
 #include <string>
@@ -113,6 +114,30 @@ TEST_F(DetailsWindowTest, EachProcessHasOneThatFollowsItToItsEnd) {
   EXPECT_NE(&other, &window);
   EXPECT_EQ(other.Heading(), "another (process 300)");
   EXPECT_NE(other.pos(), window.pos());
+}
+
+TEST_F(DetailsWindowTest, AListIsSortedByKeysAlone) {
+  auto& window = Show();
+  TellThreads(1'000'000, 1'000'000);
+  Press(window, Qt::Key_Tab, Qt::ControlModifier);
+  Turn();
+  const auto choose = [&](const QString& title) {
+    Press(window, Qt::Key_F10, Qt::ShiftModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    auto* sorting = menu->actions().constLast()->menu();
+    ASSERT_NE(sorting, nullptr);
+    sorting->popup(QPoint());
+    for (auto* item : sorting->actions())
+      if (item->text() == title) item->trigger();
+    sorting->close();
+    menu->close();
+    QApplication::processEvents();
+  };
+  choose("Name");
+  EXPECT_THAT(Rows(window).front(), HasSubstr("301|a"));
+  choose("Name");
+  EXPECT_THAT(Rows(window).front(), HasSubstr("300|main"));
 }
 
 TEST_F(DetailsWindowTest, APageIsReadWhileItIsSeenAndKeepsWhatItHadAtTheEnd) {
