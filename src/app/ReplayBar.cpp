@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <QSignalBlocker>
 #include <QStatusBar>
-#include <QStyle>
 #include <algorithm>
 #include <variant>
 
@@ -38,9 +37,9 @@ ReplayBar::ReplayBar(RecordingPlayer& player, ReplayRunLoop& runLoop, MainWindow
   ShowMoment();
 }
 
-QAction* ReplayBar::AddButton(const char* text, QStyle::StandardPixmap picture,
-                              const QKeySequence& keys) {
-  auto* action = addAction(style()->standardIcon(picture), LocalizedString(text));
+// The style's own pictures are not seen on a dark window.
+QAction* ReplayBar::AddButton(const char* text, const QKeySequence& keys) {
+  auto* action = addAction(NamedImage(text), LocalizedString(text));
   action->setShortcut(keys);
   action->setToolTip(LocalizedString(text) + QLatin1String(" (") +
                      keys.toString(QKeySequence::NativeText) + QLatin1Char(')'));
@@ -48,14 +47,14 @@ QAction* ReplayBar::AddButton(const char* text, QStyle::StandardPixmap picture,
 }
 
 void ReplayBar::AddControls() {
-  auto* back = AddButton("replay_back", QStyle::SP_MediaSeekBackward, Qt::Key_F6);
+  auto* back = AddButton("replay_back", Qt::Key_F6);
   connect(back, &QAction::triggered, this, [this] { Step(-1); });
-  mPlay = AddButton("replay_play", QStyle::SP_MediaPlay, Qt::Key_F7);
+  mPlay = AddButton("replay_play", Qt::Key_F7);
   mPlay->setCheckable(true);
   connect(mPlay, &QAction::toggled, this, &ReplayBar::Play);
-  auto* forth = AddButton("replay_forth", QStyle::SP_MediaSeekForward, Qt::Key_F8);
+  auto* forth = AddButton("replay_forth", Qt::Key_F8);
   connect(forth, &QAction::triggered, this, [this] { Step(1); });
-  auto* peak = AddButton("replay_peak", QStyle::SP_MediaSkipForward, Qt::Key_F9);
+  auto* peak = AddButton("replay_peak", Qt::Key_F9);
   connect(peak, &QAction::triggered, this, &ReplayBar::NextPeak);
   mSpeed = new QComboBox(this);
   mSpeed->setAccessibleName(LocalizedString("replay_speed"));
@@ -144,7 +143,7 @@ void ReplayBar::NextPeak() {
 
 void ReplayBar::Play(bool plays) {
   mPlay->setChecked(plays);
-  mPlay->setIcon(style()->standardIcon(plays ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+  mPlay->setIcon(NamedImage(plays ? "replay_pause" : "replay_play"));
   if (!plays) return mNext.stop();
   if (mPlayer.Header().sequence >= Last()) GoTo(First());
   Advance();

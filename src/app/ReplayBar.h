@@ -38,7 +38,7 @@ class ReplayBar : public QToolBar {
   void AddControls();
   void AddMoment();
   void Say(const std::string& words);
-  QAction* AddButton(const char* text, QStyle::StandardPixmap picture, const QKeySequence& keys);
+  QAction* AddButton(const char* text, const QKeySequence& keys);
   void Advance();
   /// The table shows where the player is, now.
   void Update();

@@ -23,6 +23,15 @@
 namespace lurkwell {
 namespace {
 
+const KeyId kCpuWait = InternKey("pid_cpu_wait");
+
+/// Nanoseconds are counted of this time alone; digits below those of all others would stand below
+/// nothing.
+TimeValue ToHundredths(TimeValue time) {
+  constexpr std::int32_t kHundredth = 10'000;
+  return {time.seconds, time.microseconds / kHundredth * kHundredth};
+}
+
 /// A character's worth of a column, in points, unless the font has wider digits.
 constexpr double kPointsPerCharacter = 6.0;
 
@@ -268,6 +277,9 @@ QString vqMainTableController::textOf(const RowDictionary& row, const Column& co
   if (const auto* count = std::get_if<std::int64_t>(&row.Shown(column.key));
       count != nullptr && column.isCount)
     return LocalNumber(qint64{*count});
+  if (const auto* time = std::get_if<TimeValue>(&row.Shown(column.key));
+      time != nullptr && column.key == kCpuWait)
+    return TimeText(ToHundredths(*time));
   if (column.type != kPropertyTypeDate || fTable == nullptr) {
     const auto text = DisplayText(column.type, row.Shown(column.key), 15, row.Pid());
     const bool counts = row.Group() != nullptr || row.Standing().fold == RowStanding::Fold::kFolded;

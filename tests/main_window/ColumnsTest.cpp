@@ -329,9 +329,22 @@ TEST_F(ColumnsTest, HeadersObeyTheKeyboard) {
   Choose("menu_view_column_wider");
   EXPECT_EQ(Width("meta_name"), width + 20);
   EXPECT_EQ(window->table().horizontalHeader()->visualIndex(ColumnOf("meta_name")), 2);
+  Choose("menu_view_column_fit");
+  EXPECT_LT(Width("meta_name"), width) << "short names";
+  EXPECT_GE(Width("meta_name"), window->table().sizeHintForColumn(ColumnOf("meta_name")));
   window.reset();
   Open();
   EXPECT_TRUE(Keys().starts_with("meta_pid internal_Icon meta_name internal_Indicator")) << Keys();
+}
+
+TEST_F(ColumnsTest, PointsOfOneColumnStandBelowEachOther) {
+  OpenWith({300});
+  Toggle(Menus().BuiltInMenu(), "pid_cpu_wait");
+  Filter("pid:300");
+  auto& row = *controller().rows().Find(300);
+  row.Set(InternKey("pid_cpu_wait"), TimeValue{1, 35'728});
+  controller().commitChanges();
+  EXPECT_EQ(Cell(0, ColumnOf("pid_cpu_wait")), "1.03");
 }
 
 TEST_F(ColumnsTest, SelectionAndRowsSurviveANewColumn) {

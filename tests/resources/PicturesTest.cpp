@@ -66,7 +66,8 @@ TEST(PicturesTest, WhatTheWindowsShowByNameIsThere) {
       "lurkwell process_halted process_niced_high process_niced_low headercpu "
       "headermemory vm_green vm_yellow vm_red1 vm_red2 cpu_hist logging bring_to_front kill "
       "hide_process reveal_in_finder high_priority medium_priority low_priority processhalt "
-      "processcont show_preferences customise";
+      "processcont show_preferences customise replay_back replay_play replay_pause replay_forth "
+      "replay_peak";
   for (const QString& name : names.split(' '))
     EXPECT_FALSE(NamedImage(name.toUtf8()).isNull()) << qPrintable(name);
   EXPECT_TRUE(NamedImage("no_such_picture").isNull());
