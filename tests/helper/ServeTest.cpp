@@ -5,6 +5,7 @@
 #include <linux/capability.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
+#include <poll.h>
 #include <sched.h>
 #include <signal.h>
 #include <sys/inotify.h>
@@ -274,6 +275,22 @@ TEST(ServeTest, OpensNothingButAPrivateWidePipeOfTheUser) {
       close(end);
       close(held);
     }
+}
+
+TEST(ServeTest, APipeThatJustHoldsAnAnswerIsWideEnough) {
+  const TemporaryFolder folder(0700, kUser);
+  const auto pipes = MakePipes(folder);
+  std::array<int, 2> ends{};
+  for (std::size_t i = 0; i < ends.size(); ++i) {
+    ends[i] = open(pipes[i].c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(fcntl(ends[i], F_SETPIPE_SZ, 8192), 8192);
+  }
+  ASSERT_EQ(write(ends[0], "hello\n", 6), 6);
+  const pid_t helper = StartWith(pipes[0], pipes[1]);
+  pollfd answer{ends[1], POLLIN, 0};
+  EXPECT_EQ(poll(&answer, 1, 5000), 1);
+  for (const int end : ends) close(end);
+  EXPECT_EQ(WaitFor(helper), 0);
 }
 
 /// In a process of the user: puts one thing after another at `path`, as fast as it can.
