@@ -230,6 +230,9 @@ void FleetWindow::SetSeconds(int seconds) {
 void FleetWindow::ShowColumns() {
   auto& header = mTable->header();
   const int character = std::max(fontMetrics().averageCharWidth(), 1);
+  // Digits are wider than the average.
+  const int widestFigure = mTable->fontMetrics().horizontalAdvance(QStringLiteral("1023.9 M/s")) +
+                           TextCell::kWidthBesideText;
   for (int column = 0; column < mModel.columnCount(); ++column) {
     const auto figure = mModel.FigureOf(column);
     const bool isBar = figure == FleetFigure::kCpu && mView.level == FleetLevel::kMachines;
@@ -239,8 +242,8 @@ void FleetWindow::ShowColumns() {
                            : isBar                        ? kBarCharacters
                            : figure == FleetFigure::kSeen ? kSeenCharacters
                                                           : kFigureCharacters;
-    header.resizeSection(
-        column, std::max(characters * character, header.widthForTitle(mModel.TitleOf(column)) + 6));
+    header.resizeSection(column, std::max({characters * character, widestFigure,
+                                           header.widthForTitle(mModel.TitleOf(column)) + 6}));
   }
   // Names have what is left.
   int others = 0;

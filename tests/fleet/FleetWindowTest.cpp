@@ -147,6 +147,8 @@ TEST_F(FleetWindowTest, ShowsTheFirstOf2000MachinesAndWhatRunsOnThem) {
   // A click on a title has the server choose by it.
   const int asked = server.questions;
   auto& header = window.Table().header();
+  EXPECT_GT(header.sectionSize(window.Model().ColumnOf(FleetFigure::kDisk)),
+            window.fontMetrics().horizontalAdvance(QStringLiteral("1023.9 M/s")));
   const int column = window.Model().ColumnOf(FleetFigure::kLoad);
   QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
                     QPoint(header.sectionViewportPosition(column) + 20, header.height() / 2));
