@@ -29,6 +29,7 @@
 #include <future>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <thread>
@@ -423,20 +424,46 @@ TEST(ServeTest, AStartThatCannotBeConfinedIsRefused) {
   }
 }
 
-/// From here on the kernel has no Landlock, or something is wrong with it.
-void LoseLandlock(int error) {
+/// From here on the kernel refuses a call, or only that with such a first argument.
+void Lose(long call, std::optional<std::uint32_t> first, int error) {
+  const auto compare = static_cast<std::uint16_t>(BPF_JMP | BPF_K | (first ? BPF_JEQ : BPF_JGE));
   const sock_filter code[] = {
       {BPF_LD | BPF_W | BPF_ABS, 0, 0, offsetof(seccomp_data, nr)},
-      {BPF_JMP | BPF_JEQ | BPF_K, 0, 1, SYS_landlock_create_ruleset},
+      {BPF_JMP | BPF_JEQ | BPF_K, 0, 3, static_cast<std::uint32_t>(call)},
+      {BPF_LD | BPF_W | BPF_ABS, 0, 0, offsetof(seccomp_data, args)},
+      {compare, 0, 1, first.value_or(0)},
       {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ERRNO | static_cast<std::uint32_t>(error)},
       {BPF_RET | BPF_K, 0, 0, SECCOMP_RET_ALLOW}};
   const sock_fprog program{std::size(code), const_cast<sock_filter*>(code)};
   if (syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, 0, &program) != 0) _exit(98);
 }
 
+TEST(ServeTest, NoStepIntoTheConfinementIsPassedOver) {
+  const std::pair<long, std::optional<std::uint32_t>> steps[] = {{SYS_prctl, PR_CAPBSET_DROP},
+                                                                 {SYS_prctl, PR_SET_SECUREBITS},
+                                                                 {SYS_setgroups, {}},
+                                                                 {SYS_setresgid, {}},
+                                                                 {SYS_setresuid, {}},
+                                                                 {SYS_prctl, PR_CAP_AMBIENT},
+                                                                 {SYS_capset, {}},
+                                                                 {SYS_prctl, PR_SET_DUMPABLE},
+                                                                 {SYS_chdir, {}},
+                                                                 {SYS_prctl, PR_SET_NO_NEW_PRIVS},
+                                                                 {SYS_landlock_add_rule, {}},
+                                                                 {SYS_landlock_restrict_self, {}},
+                                                                 {SYS_seccomp, {}}};
+  for (const auto& [call, first] : steps) {
+    HelperProcess helper(0, HelperPath(),
+                         [call = call, first = first] { Lose(call, first, EPERM); });
+    EXPECT_EQ(helper.Ask("geteuid"), "");
+    EXPECT_EQ(helper.Close(), kExitSystem) << call << ' ' << first.value_or(0);
+  }
+}
+
 TEST(ServeTest, OnlyAKernelWithoutLandlockIsServedWithoutIt) {
   for (const int error : {ENOSYS, EOPNOTSUPP, ENOMEM}) {
-    HelperProcess helper(0, HelperPath(), [error] { LoseLandlock(error); });
+    HelperProcess helper(0, HelperPath(),
+                         [error] { Lose(SYS_landlock_create_ruleset, {}, error); });
     EXPECT_EQ(helper.Ask("geteuid"), error == ENOMEM ? "" : "0") << error;
     EXPECT_EQ(helper.Close(), error == ENOMEM ? kExitSystem : 0) << error;
   }
