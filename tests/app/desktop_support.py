@@ -89,13 +89,17 @@ class Desktop(unittest.TestCase):
         return server
 
     def open_bus(self):
-        """A session bus that starts nothing: what it starts would outlive it."""
-        settings = pathlib.Path(self.home, "bus.conf")
-        settings.write_text(f"""<busconfig><type>session</type><listen>unix:dir={self.run_folder}</listen>
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus_in(self.home, self.run_folder)
+
+    def bus_in(self, folder, socket_folder, rights=()):
+        """The address of a session bus that starts nothing: what it starts would outlive it."""
+        settings = pathlib.Path(folder, "bus.conf")
+        settings.write_text(f"""<busconfig><type>session</type><listen>unix:dir={socket_folder}</listen>
 <policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/></policy>
 </busconfig>""")
-        bus = self.start(["dbus-daemon", f"--config-file={settings}", "--nofork", "--print-address"])
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        bus = self.start([*rights, "dbus-daemon", f"--config-file={settings}", "--nofork",
+                          "--print-address"])
+        return bus.stdout.readline().strip()
 
     def start(self, command):
         process = subprocess.Popen(command, env=self.environment, stdout=subprocess.PIPE,

@@ -53,7 +53,13 @@ COMPOSITORS = {
     "kwin_wayland": ["kwin_wayland", "--virtual", "--no-lockscreen", "--no-global-shortcuts",
                      "--socket", "SOCKET", "--width", "1000", "--height", "800", "--scale",
                      "SCALE"],
+    # The scale is the monitor's, which takes it from a file of its own.
+    "mutter_wayland": ["mutter", "--headless", "--wayland", "--no-x11", "--virtual-monitor",
+                       "1000x800", "--wayland-display", "SOCKET"],
 }
+
+# Without a session bus it ends at once, and this one's is another user's.
+NEED_A_BUS = {"mutter_wayland"}
 
 # By the protocol that grim speaks.
 TAKES_PICTURES = {"sway", "labwc"}
@@ -151,14 +157,17 @@ class WaylandVisit(FollowedProgram):
         environment["XDG_RUNTIME_DIR"] = environment["HOME"] = str(folder)
         # One that has rights of its own may not be started in a container; a copy has none.
         words[0] = shutil.copy(shutil.which(words[0]), folder)
+        rights = []
         if os.geteuid() == 0:
             # Some refuse to run as root. An absolute path leads the program to others' sockets.
             for path in (folder, *folder.iterdir()):
                 os.chown(path, NOBODY, NOBODY)
-            words = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups", *words]
+            rights = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
+        if name in NEED_A_BUS:
+            environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus_in(folder, folder, rights)
         log = open(f"{self.home}/compositor-{scale}", "wb")
         self.addCleanup(log.close)
-        process = subprocess.Popen(words, env=environment, stdout=log, stderr=log)
+        process = subprocess.Popen([*rights, *words], env=environment, stdout=log, stderr=log)
         self.addCleanup(process.wait)
         self.addCleanup(process.terminate)
 
