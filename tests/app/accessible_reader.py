@@ -77,7 +77,13 @@ def tree(window):
     found = []
 
     def visit(node, parent, depth):
-        found.append(described(node, parent))
+        try:
+            found.append(described(node, parent))
+        except (LookupError, GLib.Error, NotImplementedError):
+            # A row may end meanwhile, and a window may not.
+            if parent is None:
+                raise
+            return
         number = len(found) - 1
         if depth < MOST_DEPTH:
             for child in children(node):
@@ -99,7 +105,9 @@ def find(node, fits, depth=0):
 def press(window, path):
     node = window_named(window)
     for name in path:
-        node = find(node, lambda child, name=name: child.name == name)
+        # A page has the name of its tab.
+        node = find(node, lambda child, name=name: child.name == name and (
+            name != path[-1] or "Action" in pyatspi.listInterfaces(child)))
         if node is None:
             raise LookupError(name)
     actions = node.queryAction()
