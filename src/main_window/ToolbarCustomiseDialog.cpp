@@ -58,6 +58,8 @@ class PaleSelection final : public QStyledItemDelegate {
 QLabel* MakeHeading(const char* id, QWidget* buddy) {
   auto* label = new QLabel(LocalizedString(id));
   label->setBuddy(buddy);
+  // A list does not tell that a label is its own.
+  buddy->setAccessibleName(label->text().remove(QLatin1Char('&')));
   return label;
 }
 
@@ -195,6 +197,7 @@ QWidget* ToolbarCustomiseDialog::MakeDefaultSet() {
   frame->setFrameShape(QFrame::StyledPanel);
   frame->setCursor(Qt::OpenHandCursor);
   frame->setToolTip(LocalizedString("toolbar_customise_default_set_tip"));
+  frame->setAccessibleName(LocalizedString("toolbar_customise_default_set"));
   frame->installEventFilter(this);
   mDefaultSet = frame;
   auto* pictures = new QHBoxLayout(frame);

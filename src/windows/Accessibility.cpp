@@ -74,8 +74,9 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   auto* widget = qobject_cast<QWidget*>(object);
   if (widget == nullptr) return nullptr;
   if (auto* maker = dynamic_cast<InterfaceMaker*>(widget)) return maker->MakeInterface();
+  const auto type = widget->windowType();
   const bool isFrame = className == QLatin1String("QWidget") && widget->isWindow() &&
-                       (widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog);
+                       (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
   if (picture == nullptr && isFrame) return new AccessibleFrame(widget);
   return picture != nullptr ? new AccessibleFigures(widget, *picture) : nullptr;
 }
