@@ -205,10 +205,10 @@ void MainToolbar::ForGauges(const char* identifier, Show show) {
   }
 }
 
-void MainToolbar::ShowGauge(const char* identifier, const SystemInfoImage& image,
+void MainToolbar::ShowGauge(const char* identifier, const SystemInfoImage& image, int usedEnd,
                             const QString& figures) {
   ForGauges(identifier, [&](ToolbarGauge& gauge) {
-    gauge.ShowImage(image);
+    gauge.ShowImage(image, usedEnd);
     gauge.SetFigures(figures);
   });
 }

@@ -54,7 +54,8 @@ class MainToolbar final : public QToolBar {
   void SetCustomising(bool customising);
 
   /// Show a picture, and figures in words, in the items of an identifier.
-  void ShowGauge(const char* identifier, const SystemInfoImage& image, const QString& figures);
+  void ShowGauge(const char* identifier, const SystemInfoImage& image, int usedEnd,
+                 const QString& figures);
   void ShowLight(const char* identifier, const char* image, const QString& figures);
 
  Q_SIGNALS:

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstddef>
 
 #include "platform/Assertion.h"
 #include "platform/Diagnostics.h"
@@ -79,13 +78,15 @@ void DrawBar(std::uint8_t* rawPixels, int end, Segment used, Segment empty, cons
 
 }  // namespace
 
-void DrawCPUGauge(std::uint8_t* rawPixels, double usage, bool isDark) {
+int DrawCPUGauge(std::uint8_t* rawPixels, double usage, bool isDark) {
   const auto& colours = ColoursOn(isDark);
-  DrawBar(rawPixels, ColumnBehind(usage), kCPUUsedSegment, kCPUEmptySegment, colours.empty,
+  const int end = ColumnBehind(usage);
+  DrawBar(rawPixels, end, kCPUUsedSegment, kCPUEmptySegment, colours.empty,
           [&](int, int) { return colours.cpu; });
+  return end;
 }
 
-void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool isDark) {
+int DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool isDark) {
   const auto& colours = ColoursOn(isDark);
   const auto physical = figures.physicalBytes != 0 ? figures.physicalBytes : 1;
   const auto used = std::clamp<std::int64_t>(figures.usedBytes, 0, std::max(physical, {}));
@@ -95,24 +96,13 @@ void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool
   };
   const int activeEnd = std::max(kBarLeft, ColumnBehind(shareOf(used - figures.inactiveBytes)));
   const int wiredEnd = std::max(kBarLeft, ColumnBehind(shareOf(figures.wiredBytes)));
-  DrawBar(rawPixels, ColumnBehind(shareOf(used)), kMemoryUsedSegment, kMemoryEmptySegment,
-          colours.empty, [&](int x, int y) {
+  const int end = ColumnBehind(shareOf(used));
+  DrawBar(rawPixels, end, kMemoryUsedSegment, kMemoryEmptySegment, colours.empty,
+          [&](int x, int y) {
             if (x < wiredEnd) return (100 + x - y) % 5 >= 3 ? colours.wiredStripe : colours.memory;
             if (x > activeEnd) return (x + y) % 5 <= 2 ? colours.inactiveStripe : colours.memory;
             return colours.memory;
           });
-}
-
-int UsedColumnsEnd(const SystemInfoImage& image) {
-  const auto* row = image.data() + std::ptrdiff_t{4} * kBarTop * kSystemInfoImageWidth;
-  const auto isEmpty = [row](int column) {
-    const auto* pixel = row + std::ptrdiff_t{4} * column;
-    return std::ranges::any_of(std::array{kOnLight.empty, kOnDark.empty}, [&](const Colour& empty) {
-      return std::equal(empty.begin(), empty.end(), pixel);
-    });
-  };
-  int end = kBarLeft;
-  while (end < kBarLeft + kBarWidth && !isEmpty(end)) ++end;
   return end;
 }
 

@@ -20,22 +20,18 @@ inline constexpr QRect kSystemInfoBar(3, 4, 58, 12);
 using SystemInfoImage =
     std::array<std::uint8_t, std::size_t{kSystemInfoImageWidth} * kSystemInfoImageHeight * 4>;
 
-/// Draw a bar of 58 x 12 pixels into 5120 bytes, over whatever they hold. A null buffer fails
-/// "rawPixels != NULL" of the unit VQTarvMainWindowInfoSynch. Any thread.
+/// Draw a bar of 58 x 12 pixels into 5120 bytes, over whatever they hold, and give the column
+/// behind what is used. A null buffer fails "rawPixels != NULL" of the unit
+/// VQTarvMainWindowInfoSynch. Any thread.
 
 /// Blue from the left for what is used, from 0 to 1, grey for the rest. On a dark window both have
 /// colours that are seen there.
-void DrawCPUGauge(std::uint8_t* rawPixels, double usage, bool isDark);
+int DrawCPUGauge(std::uint8_t* rawPixels, double usage, bool isDark);
 
 /// Red from the left for what is used, with stripes over the wired memory at its left and the
 /// inactive at its right, grey for what is free. Figures that contradict each other are made to
 /// fit.
-void DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool isDark);
-
-struct SystemFigures;
-
-/// The column behind what is used, of a picture that was drawn so.
-int UsedColumnsEnd(const SystemInfoImage& image);
+int DrawMemoryGauge(std::uint8_t* rawPixels, const SystemFigures& figures, bool isDark);
 
 /// What the gauges show, in words, for those who want to know exactly or cannot see them. Main
 /// thread.

@@ -53,8 +53,8 @@ void VQTarvMainWindowInfoSynch::ShowCPU() {
   auto* toolbar = mOwner.visibleToolbar();
   if (toolbar == nullptr) return;
   SystemInfoImage image;
-  DrawCPUGauge(image.data(), mUsage, IsDark(toolbar->palette()));
-  toolbar->ShowGauge(kToolbarCPU, image,
+  const int end = DrawCPUGauge(image.data(), mUsage, IsDark(toolbar->palette()));
+  toolbar->ShowGauge(kToolbarCPU, image, end,
                      CPUGaugeText(mUsage, TheMachine().hostStatistics.Processors()));
 }
 
@@ -66,8 +66,8 @@ void VQTarvMainWindowInfoSynch::ShowMemory() {
   auto* toolbar = mOwner.visibleToolbar();
   if (toolbar == nullptr) return;
   SystemInfoImage image;
-  DrawMemoryGauge(image.data(), mFigures, IsDark(toolbar->palette()));
-  toolbar->ShowGauge(kToolbarMemory, image, MemoryGaugeText(mFigures));
+  const int end = DrawMemoryGauge(image.data(), mFigures, IsDark(toolbar->palette()));
+  toolbar->ShowGauge(kToolbarMemory, image, end, MemoryGaugeText(mFigures));
 }
 
 void VQTarvMainWindowInfoSynch::UpdateSystemInfoToolbarItemPageouts() {

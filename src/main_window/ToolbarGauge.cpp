@@ -35,13 +35,13 @@ bool ToolbarGauge::IsShown(const QByteArray& picture) {
   return false;
 }
 
-void ToolbarGauge::ShowImage(const SystemInfoImage& image) {
+void ToolbarGauge::ShowImage(const SystemInfoImage& image, int usedEnd) {
   if (IsShown({reinterpret_cast<const char*>(image.data()), qsizetype(image.size())})) return;
   const QImage pixels(image.data(), kSystemInfoImageWidth, kSystemInfoImageHeight,
                       qsizetype{4} * kSystemInfoImageWidth, QImage::Format_RGBA8888);
   // Without smoothing: each pixel of the picture becomes a square, or is left alone.
   auto picture = QPixmap::fromImage(pixels.scaled((QSizeF(mSize) * mScale).toSize()));
-  DrawMarks(picture, UsedColumnsEnd(image));
+  DrawMarks(picture, usedEnd);
   Show(picture);
 }
 

@@ -17,8 +17,9 @@ class ToolbarGauge final : public QToolButton, public FigureSpeaker {
   /// `size` is the picture's, in points; `iconHeight` that of the buttons beside it.
   ToolbarGauge(QSize size, int iconHeight, const QString& label, const QString& tip);
 
-  /// Show a picture at whole pixels; nothing is drawn when it is the one that is shown already.
-  void ShowImage(const SystemInfoImage& image);
+  /// Show a picture at whole pixels; nothing is drawn when it is the one that is shown already. A
+  /// bar's has a mark at the column behind what is used.
+  void ShowImage(const SystemInfoImage& image, int usedEnd);
   void ShowNamedImage(const char* name);
 
   /// In words.

@@ -148,12 +148,10 @@ TEST_P(ColoursTest, GaugesTellTheirFiguresWithoutColours) {
   const auto picture = [isDark](bool isMemory, double share) {
     ToolbarGauge gauge({kSystemInfoImageWidth, kSystemInfoImageHeight}, 24, "Name", "Tip");
     SystemInfoImage image;
-    if (isMemory)
-      DrawMemoryGauge(image.data(), {1000, static_cast<std::int64_t>(1000 * share), 0, 0, 0},
-                      isDark);
-    else
-      DrawCPUGauge(image.data(), share, isDark);
-    gauge.ShowImage(image);
+    const auto used = static_cast<std::int64_t>(1000 * share);
+    const int end = isMemory ? DrawMemoryGauge(image.data(), {1000, used, 0, 0, 0}, isDark)
+                             : DrawCPUGauge(image.data(), share, isDark);
+    gauge.ShowImage(image, end);
     gauge.resize(gauge.sizeHint());
     return gauge.grab().toImage();
   };
