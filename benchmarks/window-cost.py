@@ -161,7 +161,8 @@ def measure(name, command, count, births, state, floor, options):
                 monitor.wait()
     milliseconds = [1000.0 * value / updates for value in (app + helper, app, helper, x_server)]
     print(f"| {count} | {births} | {name} | {state} | " +
-          " | ".join(f"{value:.1f}" for value in milliseconds) + f" | {floor:.1f} | {milliseconds[0] / floor:.2f} | {longest:.0f} | {start_up:.2f} |",
+          " | ".join(f"{value:.1f}" for value in milliseconds) +
+          f" | {floor:.1f} | {milliseconds[0] / floor:.2f} | {longest:.0f} | {start_up:.2f} |",
           flush=True)
 
 
